@@ -1,0 +1,60 @@
+# What the product needs of the Debian archive, and how a script gets it. Sourced, not run.
+# shellcheck shell=bash disable=SC2034
+
+# Compiler, build tools and the headers of the three libraries; sqlite3 makes the fresh database from the schema.
+build_packages=(
+  g++ cmake ninja-build ccache
+  qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev
+  libcurl4-openssl-dev libsqlite3-dev sqlite3
+)
+
+# The certificates that https addresses are verified with, a font for the window, and the desktop's opener for pages and
+# reports. Qt's own plug-ins come with its libraries.
+run_packages=(ca-certificates fonts-dejavu-core xdg-utils)
+
+# The test libraries, the mail server and the certificates of the tests, and a display to start the program on.
+test_packages=(
+  libgtest-dev libgmock-dev openssl python3 python3-aiosmtpd
+  xvfb openbox xdotool wmctrl fonts-dejavu-core
+)
+
+# The style checks.
+style_packages=(clang-format python3)
+
+is_installed() {
+  [[ "$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null)" == installed ]]
+}
+
+# need_packages PACKAGE...: installs those of the packages that are missing. It says so in one line, asks nothing, and
+# does nothing when everything is there.
+need_packages() {
+  if ! command -v dpkg-query >/dev/null; then
+    return # not a Debian system: the packages are the user's own affair, and the build names what it misses
+  fi
+  local package missing=()
+  for package in "$@"; do
+    is_installed "$package" || missing+=("$package")
+  done
+  if ((${#missing[@]} == 0)); then
+    return
+  fi
+
+  local as_root=()
+  if ((EUID != 0)); then
+    if ! command -v sudo >/dev/null; then
+      echo "Missing packages; install them as root: apt-get install ${missing[*]}" >&2
+      exit 1
+    fi
+    as_root=(sudo)
+  fi
+  echo "Installing ${missing[*]} ..."
+  local said
+  said=$(
+    "${as_root[@]}" apt-get update -qq 2>&1 &&
+      "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" 2>&1
+  ) || {
+    printf '%s\n' "$said" "The packages could not be installed; the reason is above." >&2
+    exit 1
+  }
+}

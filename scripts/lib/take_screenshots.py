@@ -1,0 +1,115 @@
+#!/usr/bin/env python3
+"""Runs the program on a demonstration database and a small web server, and takes the pictures of the docs.
+
+    take_screenshots.py PROGRAM_FOLDER SCHEMA PICTURES_FOLDER
+"""
+
+from __future__ import annotations
+
+import http.server
+import shutil
+import sqlite3
+import subprocess
+import sys
+import tempfile
+import threading
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent.parent
+sys.path.insert(0, str(ROOT / "tests" / "support"))
+from desktop_session import DesktopSession, missing_tools, wait_until  # noqa: E402
+
+PORT = 8080  # shows in the pictures; any free one is taken when another program has it
+
+# Path, interval, active, checks found well and not well so far, whether the page has changed since.
+SITES = (
+    ("/", 10, 1, 1274, 3, False),
+    ("/news/", 5, 1, 2519, 0, False),
+    ("/shop/prices.txt", 15, 1, 840, 12, True),
+    ("/api/health", 1, 1, 12602, 7, False),
+    ("/intranet/login", 30, 1, 421, 1, False),
+    ("/archive/2019/", 120, 0, 88, 0, False),
+)
+
+
+class Pages(http.server.BaseHTTPRequestHandler):
+    def do_GET(self):  # noqa: N802 - the name is the library's
+        page = page_of(self.path)
+        self.send_response(200)
+        self.send_header("Content-Length", str(len(page)))
+        self.end_headers()
+        self.wfile.write(page)
+
+    def log_message(self, *_):
+        pass
+
+
+def page_of(path: str) -> bytes:
+    return f"<html><body>The page {path}</body></html>".encode()
+
+
+def start_server() -> http.server.ThreadingHTTPServer:
+    try:
+        server = http.server.ThreadingHTTPServer(("127.0.0.1", PORT), Pages)
+    except OSError:
+        server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Pages)
+    threading.Thread(target=server.serve_forever, daemon=True).start()
+    return server
+
+
+def make_database(file: Path, schema: Path, address: str) -> None:
+    connection = sqlite3.connect(file)
+    with connection:
+        connection.executescript(schema.read_text(encoding="utf-8"))
+    with connection:
+        for number, (path, interval, active, success, failure, changed) in enumerate(SITES, 1):
+            baseline = b"<html><body>What the page was</body></html>" if changed else page_of(path)
+            connection.execute(
+                "insert into sites (idSite, url, method, active, tInterval, lastChecked, status, success, failure,"
+                " content_compare) values (?, ?, 'GET', ?, ?, '2026-03-31 09:12:44', 1, ?, ?, cast(? as text))",
+                (number, address + path, active, interval, success, failure, baseline))
+    connection.close()
+
+
+def checked(file: Path) -> bool:
+    """True when the pass over all active sites has been recorded."""
+    connection = sqlite3.connect(file, timeout=5)
+    try:
+        due = connection.execute(
+            "select count(*) from sites where active <> 0 and lastChecked = '2026-03-31 09:12:44'").fetchone()
+        return due == (0,)
+    finally:
+        connection.close()
+
+
+def take(session: DesktopSession, window: str, file: Path) -> None:
+    subprocess.run(["import", "-frame", "-window", window, str(file)], env=session.env, check=True)
+    subprocess.run(["mogrify", "-strip", str(file)], check=True)
+
+
+def main() -> int:
+    built, schema, pictures = (Path(argument).resolve() for argument in sys.argv[1:4])
+    if missing_tools():
+        sys.exit(f"not installed: {', '.join(missing_tools())}")
+    server = start_server()
+    with tempfile.TemporaryDirectory(prefix="tarnwick-pictures-") as name:
+        work = Path(name)
+        folder = work / "tarnwick"
+        shutil.copytree(built, folder, ignore=shutil.ignore_patterns("*.mdb*", "report.html"))
+        database = folder / "tarnwick.mdb"
+        make_database(database, schema, f"http://127.0.0.1:{server.server_port}")
+        with DesktopSession(work) as session:
+            process = session.start(folder / "tarnwick", work / "errors.txt")
+            window = session.window("Tarnwick", process)
+            session.press(window, "F5")
+            wait_until(lambda: checked(database), "the sites to be checked")
+            threading.Event().wait(4)  # the countdown and the run clock get going
+            take(session, window, pictures / "main-window.png")
+            session.close(window)
+            process.wait(timeout=15)
+    server.shutdown()
+    print(f"The pictures in {pictures} are made.")
+    return 0
+
+
+sys.exit(main())

@@ -1,0 +1,42 @@
+#!/bin/bash
+# Builds everything and runs every test.
+#
+#   scripts/test.sh                 the release build
+#   scripts/test.sh --sanitize      the same tests with AddressSanitizer and UndefinedBehaviorSanitizer
+#   scripts/test.sh -L store        what follows goes to ctest: here only the tests of one room
+set -euo pipefail
+cd "$(dirname "$0")/.."
+source scripts/lib/packages.sh
+source scripts/lib/build.sh
+
+preset=release
+case "${1:-}" in
+  --sanitize)
+    preset=sanitize
+    shift
+    ;;
+  -h | --help)
+    sed -n '2,7s/^# \{0,1\}//p' "$0"
+    exit 0
+    ;;
+esac
+
+need_packages "${build_packages[@]}" "${test_packages[@]}"
+configure "$preset" -DBUILD_TESTING=ON
+build "$preset"
+
+if [[ $preset == sanitize ]]; then
+  # Leaks of the program count; the few that its libraries leave at exit are named in the list.
+  export ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1:check_initialization_order=1
+  export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+  export LSAN_OPTIONS=suppressions=$PWD/tests/support/lsan.supp:print_suppressions=0
+fi
+
+status=0
+ctest --preset "$preset" -j"$jobs" --no-tests=error "$@" || status=$?
+if ((status == 0)); then
+  echo "Tests of the $preset build: passed."
+else
+  echo "Tests of the $preset build: FAILED (ctest ended with status $status)." >&2
+fi
+exit "$status"

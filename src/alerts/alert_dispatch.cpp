@@ -1,0 +1,125 @@
+#include "alerts/alert_dispatch.h"
+
+#include <chrono>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+#include <thread>
+#include <vector>
+
+#include "alerts/smtp.h"
+#include "platform/command_line.h"
+#include "platform/errors.h"
+#include "product.h"
+#include "store/sql_quote.h"
+
+namespace tarnwick {
+namespace {
+
+/// The spelling is part of it: people's mail filters look for this text.
+constexpr const char* kSubject = "A WEB SITE ERROR HAS OCCURED - message from tarnwick";
+constexpr const char* kTemplateFile = "email.txt";
+/// The site id of a test alert.
+constexpr const char* kSampleSite = "27";
+
+std::string trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) {
+    return {};
+  }
+  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+bool isFile(const std::string& path) {
+  std::error_code ignored;
+  return path.find('\0') == std::string::npos &&
+         std::filesystem::is_regular_file(std::u8string(path.begin(), path.end()), ignored);
+}
+
+/// A mail without its text is still an alert.
+std::string textOrNothing(TextFiles& files, const std::string& path) {
+  try {
+    return files.getFile(path);
+  } catch (const FileError&) {
+    return {};
+  }
+}
+
+}  // namespace
+
+struct AlertDispatch::Site {
+  std::string url;
+  bool alertEmail = false;
+  std::string email;
+};
+
+AlertDispatch::AlertDispatch(Database& database, SettingsAndLog& settings, TextFiles& files, MailSocket& mail,
+                             const Services& services, std::int16_t smtpPort)
+    : db_(database), settings_(settings), files_(files), mail_(mail), services_(services), smtpPort_(smtpPort) {}
+
+void AlertDispatch::sendAlerts(std::int16_t idSite) {
+  // All of them before the first alert, so that an unreadable settings row does not leave an alert half raised.
+  const bool byMail = settings_.getControl("cEmail").toBool();
+  const bool bySound = settings_.getControl("cAudio").toBool();
+  const bool byProgram = settings_.getControl("cProgram").toBool();
+  settings_.getControl("audio");
+  const std::string server = settings_.getControl("smtp").toText();
+  const std::string from = settings_.getControl("email").toText();
+  const Site site = readSite(idSite);
+  const AlertFacts facts = factsOf(site.url, std::to_string(idSite), site.email);
+
+  if (byMail && site.alertEmail) {
+    sendMail(facts, server, from);
+  }
+  // The mail may have taken long: what follows is read as it stands now.
+  if (bySound) {
+    playWave(settings_.getControl("audio").toText());
+  }
+  if (byProgram) {
+    shellProgram(fillCommand(settings_.getControl("program").toText(), facts, services_.clock));
+  }
+}
+
+void AlertDispatch::testShellExecuteAlert(const std::string& command) {
+  const AlertFacts facts = factsOf(kProductHomePage, kSampleSite, settings_.getControl("email").toText());
+  shellProgram(fillCommand(trimmed(command), facts, services_.clock));
+}
+
+long AlertDispatch::playWave(const std::string& fileName) { return services_.sound.play(fileName); }
+
+void AlertDispatch::wait(long ms) { std::this_thread::sleep_for(std::chrono::milliseconds(ms)); }
+
+AlertDispatch::Site AlertDispatch::readSite(std::int16_t idSite) {
+  const auto rows = db_.query("select url,alertEmail,email from sites where idSite = " + sqlQuote(idSite));
+  Site site;
+  if (!rows->eof()) {
+    site = {rows->field("url").toText(), rows->field("alertEmail").toBool(), rows->field("email").toText()};
+  }
+  // Closed before the mail is sent, which handles events: they write to the database.
+  rows->close();
+  return site;
+}
+
+AlertFacts AlertDispatch::factsOf(const std::string& url, const std::string& idSite, const std::string& email) {
+  const TcpSocket& socket = mail_.winsock1();
+  return {url, idSite, email, socket.localHostName(), socket.localIP()};
+}
+
+void AlertDispatch::sendMail(const AlertFacts& facts, const std::string& server, const std::string& from) {
+  const std::string path = db_.programFolder() + "/" + kTemplateFile;
+  const std::string body = fillTemplate(textOrNothing(files_, path), facts, services_.clock);
+  std::int16_t port = smtpPort_;
+  smtp(mail_, services_.pump).sendEmail(server, facts.email, from, kSubject, body, port);
+}
+
+void AlertDispatch::shellProgram(const std::string& command) {
+  const std::string line = trimmed(command);
+  std::vector<std::string> arguments = splitCommandLine(line);
+  // A path chosen in the settings dialog stands there as it is, and folders with blanks in their names are common.
+  if (arguments.size() > 1 && isFile(line)) {
+    arguments = {line};
+  }
+  services_.programs.start(arguments);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "alerts/alert_facts.h"
+#include "alerts/mail_socket.h"
+#include "platform/services.h"
+#include "store/database.h"
+#include "store/settings_and_log.h"
+#include "store/text_files.h"
+
+namespace tarnwick {
+
+/// The alerts of a failed site: a mail, a sound, a started program, in this order, as far as the settings switch them
+/// on. Settings, site and template are read afresh for each. What goes wrong with one alert is not reported and does
+/// not keep the next from following; only a failed statement raises DataAccessError.
+class AlertDispatch {
+ public:
+  /// `smtpPort` is where the mail server of the settings listens.
+  AlertDispatch(Database& database, SettingsAndLog& settings, TextFiles& files, MailSocket& mail,
+                const Services& services, std::int16_t smtpPort = 25);
+
+  /// Raises the alerts for a site that has just failed its check and returns when its mail has been handed over;
+  /// events are handled meanwhile. For a site that no longer exists there is no mail, and the program gets empty texts.
+  ///
+  /// The mail goes to the address of the site, when the site wants mails, and its text is the file `email.txt` of the
+  /// program folder (nothing when that cannot be read) with its placeholders filled in.
+  void sendAlerts(std::int16_t idSite);
+
+  /// Fills sample facts into `command` and starts it as the program alert would.
+  void testShellExecuteAlert(const std::string& command);
+
+  /// Starts to play a .wav file and returns at once: 1 when it plays, 0 when it cannot.
+  long playWave(const std::string& fileName);
+
+  /// Suspends the whole program for `ms` milliseconds; no events are handled meanwhile. Nothing for 0 or less.
+  static void wait(long ms);
+
+ private:
+  struct Site;
+
+  Site readSite(std::int16_t idSite);
+  AlertFacts factsOf(const std::string& url, const std::string& idSite, const std::string& email);
+  void sendMail(const AlertFacts& facts, const std::string& server, const std::string& from);
+  void shellProgram(const std::string& command);
+
+  Database& db_;
+  SettingsAndLog& settings_;
+  TextFiles& files_;
+  MailSocket& mail_;
+  Services services_;
+  std::int16_t smtpPort_;
+};
+
+}  // namespace tarnwick

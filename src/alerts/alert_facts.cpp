@@ -1,0 +1,50 @@
+#include "alerts/alert_facts.h"
+
+#include <array>
+#include <string_view>
+
+#include "platform/command_line.h"
+
+namespace tarnwick {
+namespace {
+
+/// The placeholders of one style in the order of their values.
+using Placeholders = std::array<std::string_view, 6>;
+
+constexpr Placeholders kNamed = {"~date~", "~url~", "~idsite~", "~email~", "~localhostname~", "~localip~"};
+constexpr Placeholders kNumbered = {"~1~", "~2~", "~3~", "~4~", "~5~", "~6~"};
+
+std::string replaceAll(const std::string& text, std::string_view token, std::string_view value) {
+  std::string result;
+  std::size_t copied = 0;
+  for (std::size_t at = text.find(token); at != std::string::npos; at = text.find(token, copied)) {
+    result.append(text, copied, at - copied).append(value);
+    copied = at + token.size();
+  }
+  return result.append(text, copied);
+}
+
+std::string fill(std::string text, const Placeholders& placeholders, const AlertFacts& facts, const Clock& clock) {
+  const std::array<std::string, std::tuple_size_v<Placeholders>> values = {
+      dateTimeText(clock.localNow()), facts.url, facts.idSite, facts.email, facts.localHostName, facts.localIP};
+  for (std::size_t i = 0; i < placeholders.size(); ++i) {
+    text = replaceAll(text, placeholders[i], values[i]);
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string fillTemplate(std::string text, const AlertFacts& facts, const Clock& clock) {
+  return fill(std::move(text), kNamed, facts, clock);
+}
+
+std::string fillCommand(std::string text, const AlertFacts& facts, const Clock& clock) {
+  const AlertFacts literal = {literalArgumentText(facts.url), literalArgumentText(facts.idSite),
+                              literalArgumentText(facts.email), literalArgumentText(facts.localHostName),
+                              literalArgumentText(facts.localIP)};
+  text = fill(std::move(text), kNamed, literal, clock);
+  return fill(std::move(text), kNumbered, literal, clock);
+}
+
+}  // namespace tarnwick

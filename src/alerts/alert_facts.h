@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/clock.h"
+
+namespace tarnwick {
+
+/// What an alert tells of a failed site. The date is none of the members: it is read from the clock where it is put in.
+struct AlertFacts {
+  std::string url;
+  /// The site's id in decimal.
+  std::string idSite;
+  /// The address that receives the site's alerts.
+  std::string email;
+  std::string localHostName;
+  std::string localIP;
+};
+
+/// Replaces the placeholders "~date~", "~url~", "~idsite~", "~email~", "~localhostname~" and "~localip~", in this order
+/// and this letter case, each wherever it occurs. A placeholder that an earlier value brings in is replaced as well.
+std::string fillTemplate(std::string text, const AlertFacts& facts, const Clock& clock);
+
+/// The same for a command line, followed by the short forms "~1~" to "~6~" of the six in the same order; the clock is
+/// read again for "~1~". Double quotes of the values neither open nor close a quoted argument when the result is split
+/// by `splitCommandLine`.
+std::string fillCommand(std::string text, const AlertFacts& facts, const Clock& clock);
+
+}  // namespace tarnwick

@@ -1,0 +1,68 @@
+#include "engine/due_sites.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "store/site_table.h"
+#include "store/sql_quote.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kIsDue = " datediff('n',[lastChecked],now()) >= tInterval ";
+constexpr const char* kIsActive = " active = true";
+constexpr const char* kById = " ORDER BY idSite";
+
+}  // namespace
+
+TextTable DueSites::getArraySitesActiveTrue(std::int16_t mode) {
+  switch (mode) {
+    case site_choice::due:
+      return readSiteTable(
+          db_, joinSql("SELECT ", kSiteFields, " from sites where ", kIsDue, " AND ", kIsActive, " ", kById));
+    case site_choice::active:
+      return readSiteTable(db_, joinSql("SELECT ", kSiteFields, " from sites where ", kIsActive, " ", kById));
+    case site_choice::all:
+      return readSiteTable(db_, joinSql("SELECT ", kSiteFields, " from sites ", " ", kById));
+    default:
+      throw std::invalid_argument("There is no choice of sites with the number " + std::to_string(mode) + ".");
+  }
+}
+
+MinWaitTime DueSites::getMinWaitTime() {
+  const auto rows =
+      db_.query(joinSql("SELECT TOP 1 idsite,url,tInterval*60 AS tlc, "
+                        "(tinterval*60)-datediff('s',[lastChecked],now()) AS mlc ",
+                        " From sites ", " Where ", " Active = True ", " ",
+                        " ORDER BY (tinterval*60)-datediff('s',[lastChecked],now()) "));
+  MinWaitTime soonest;
+  if (!rows->eof()) {
+    const std::string id = rows->field("idsite").toText();
+    soonest.idsite = siteIdFromText(id);
+    soonest.url = rows->field("url").toText();
+    soonest.tlc = rows->field("tlc").toInt32("the check interval of site " + id + " in seconds");
+    soonest.mlc = rows->field("mlc").toInt32("the number of seconds until site " + id + " is due");
+  }
+  rows->close();
+  return soonest;
+}
+
+std::vector<std::int16_t> DueSites::getSitesToTest() {
+  return readIds(joinSql("SELECT idsite from sites ", " where ", kIsDue, " AND ", kIsActive, " ", kById));
+}
+
+std::vector<std::int16_t> DueSites::xgetSitesToTest() {
+  return readIds(joinSql("SELECT idsite from sites where ", kIsDue, " AND ", kIsActive, " ", kById));
+}
+
+std::vector<std::int16_t> DueSites::readIds(std::string sql) {
+  const auto rows = db_.query(std::move(sql));
+  std::vector<std::int16_t> ids;
+  for (; !rows->eof(); rows->moveNext()) {
+    ids.push_back(siteIdFromText(rows->field("idsite").toText()));
+  }
+  rows->close();
+  return ids;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "store/database.h"
+#include "store/text_table.h"
+
+namespace tarnwick {
+
+/// Which sites a test pass takes.
+namespace site_choice {
+inline constexpr std::int16_t due = 0;     ///< the active sites that are due
+inline constexpr std::int16_t active = 1;  ///< all active sites
+inline constexpr std::int16_t all = 2;
+}  // namespace site_choice
+
+/// The active site that falls due soonest.
+struct MinWaitTime {
+  std::int16_t idsite = 0;  ///< 0 when there is no active site
+  std::string url;
+  std::int32_t tlc = 0;  ///< its check interval in seconds
+  std::int32_t mlc = 0;  ///< seconds until it is due; negative when overdue, 0 when never checked
+};
+
+/// Chooses what is tested and when. The database alone decides by its clock which sites are due: those whose last check
+/// lies at least `tInterval` changes of the clock's minute back. A failed statement raises DataAccessError.
+class DueSites {
+ public:
+  explicit DueSites(Database& database) : db_(database) {}
+
+  /// The sites of one pass, columns as in `site_column`, by rising id. `mode` is one of `site_choice`; any other raises
+  /// std::invalid_argument. An active site that was never checked is not due, but is among the active ones.
+  TextTable getArraySitesActiveTrue(std::int16_t mode);
+
+  /// The soonest-due active site. Raises OverflowError when its id does not fit 16 bits, or its times 32.
+  MinWaitTime getMinWaitTime();
+
+  /// The ids of the active sites that are due, rising. Raise OverflowError for an id that does not fit 16 bits.
+  std::vector<std::int16_t> getSitesToTest();
+  std::vector<std::int16_t> xgetSitesToTest();
+
+ private:
+  std::vector<std::int16_t> readIds(std::string sql);
+
+  Database& db_;
+};
+
+}  // namespace tarnwick

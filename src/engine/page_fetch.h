@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/event_pump.h"
+
+namespace tarnwick {
+
+class Database;
+class SettingsAndLog;
+class SingleControl;
+
+/// The header of every POST request.
+inline constexpr const char* kPostHeader = "Content-Type: application/x-www-form-urlencoded";
+
+/// How a site is asked for its page: its method, and for "POST" the header and the body of its POST variables.
+struct PageRequest {
+  std::string method;   ///< in upper case, as it is sent
+  std::string headers;  ///< empty but for "POST"
+  std::string body;     ///< empty but for "POST"
+};
+
+/// What every fetch of a monitored page shares, and the single fetch that waits for its page.
+class PageFetch {
+ public:
+  PageFetch(Database& database, SettingsAndLog& settings, SingleControl& single, EventPump& pump);
+
+  /// The form-encoded body of the site's POST variables: encoded name "=" encoded value, joined by "&"; empty when the
+  /// site has none.
+  std::string getPostVarsAsString(std::int16_t idSite);
+
+  /// The request of a site whose `method` column is `method`, in any letter case.
+  PageRequest requestFor(std::int16_t idSite, std::string_view method);
+
+  /// Fetches the site's page now and returns it, pumping events meanwhile. For a failed request the failure's number,
+  /// " : " and its cause; the empty text when the control is busy with another fetch, when the request ended without
+  /// data, or when the program is being closed.
+  std::string getHtmlFromSite(std::int16_t idSite);
+
+  /// Percent-encodes `text` (UTF-8) for a form: letters a-z, A-Z and digits stand for themselves, every other
+  /// character becomes "%" and its two-digit upper-case hexadecimal code in Windows-1252; one outside that set is
+  /// sent as "?". Bytes that are not valid UTF-8 are taken as Windows-1252 already.
+  static std::string urlEncode(std::string_view text);
+
+ private:
+  Database& database_;
+  SettingsAndLog& settings_;
+  SingleControl& single_;
+  EventPump& pump_;
+};
+
+}  // namespace tarnwick

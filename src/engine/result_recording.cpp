@@ -1,0 +1,109 @@
+#include "engine/result_recording.h"
+
+#include <limits>
+
+#include "platform/errors.h"
+#include "store/first_field.h"
+#include "store/sql_quote.h"
+
+namespace tarnwick {
+namespace {
+
+struct Judged {
+  std::string url;
+  std::string baseline;
+};
+
+Judged readJudged(Database& database, std::int16_t idSite) {
+  const auto rows = database.query("select url,method,content_compare from sites where idSite = " + sqlQuote(idSite));
+  Judged site;
+  if (!rows->eof()) {
+    site = {rows->field("url").toText(), rows->field("content_compare").toText()};
+  }
+  rows->close();
+  return site;
+}
+
+}  // namespace
+
+bool ResultRecording::testSite(std::int16_t idSite, const std::string& content, std::int32_t errCode,
+                               const std::string& errDescription) {
+  Transaction whole(db_);
+  const Judged site = readJudged(db_, idSite);
+  const std::string quotedContent = sqlQuote(content);
+  const std::string id = sqlQuote(idSite);
+
+  const bool adopted = site.baseline.empty();
+  if (adopted) {
+    db_.execute(joinSql("update sites set content_compare = '", quotedContent, "'", " WHERE idsite = ", id));
+  }
+  db_.execute(joinSql("update sites set content_runtime = '", quotedContent, "'", " WHERE idsite = ", id));
+  const bool result = adopted || content == site.baseline;
+  log_.addLog(idSite, site.url, result, errCode, errDescription, result ? std::string() : content);
+  xupdateLastChecked(idSite);
+
+  whole.commit();
+  return result;
+}
+
+void ResultRecording::clearContentCompare(std::int16_t idSite) {
+  db_.execute("update sites set content_compare = '' where idsite = " + sqlQuote(idSite));
+}
+
+void ResultRecording::updateContentCompare(std::int16_t idSite, const std::string& text) {
+  db_.execute(joinSql("update sites set content_compare = '", sqlQuote(text), "' where idsite = ", sqlQuote(idSite)));
+}
+
+std::string ResultRecording::getContentCompare(std::int16_t idSite) {
+  return firstText(db_, "select content_compare from sites where idsite = " + sqlQuote(idSite));
+}
+
+void ResultRecording::xupdateLastChecked(std::int16_t idSite) {
+  db_.execute(joinSql("update sites set lastChecked = '", sqlQuote(dateTimeText(clock_.localNow())), "'",
+                      " where idsite = ", sqlQuote(idSite)));
+}
+
+std::optional<LocalTime> ResultRecording::getLastChecked(std::int16_t idSite) {
+  return parseDateTime(firstText(db_, "select lastChecked from sites where idsite = " + sqlQuote(idSite)));
+}
+
+bool ResultRecording::getStatus(std::int16_t idSite) {
+  return firstFlag(db_, "select status from sites where idSite = " + sqlQuote(idSite));
+}
+
+void ResultRecording::setStatus(std::int16_t idSite, bool status) {
+  db_.execute(joinSql("update sites set status = ", sqlQuote(status), " where idSite = ", sqlQuote(idSite)));
+}
+
+void ResultRecording::clearStatus() { db_.execute("update sites set status = true"); }
+
+bool ResultRecording::getActive(std::int16_t idSite) {
+  return firstFlag(db_, "select Active from sites where idSite = " + sqlQuote(idSite));
+}
+
+void ResultRecording::setActive(std::int16_t idSite, bool active) {
+  db_.execute(joinSql("update sites set Active = ", sqlQuote(active), " where idSite = ", sqlQuote(idSite)));
+}
+
+std::string ResultRecording::getUrl(std::int16_t idSite) {
+  return firstText(db_, "select url from sites where idSite = " + sqlQuote(idSite));
+}
+
+void ResultRecording::updateStatusCounter(std::int16_t idSite, bool result) {
+  const std::string column = sqlQuote(result ? "success" : "failure");
+  const std::string id = sqlQuote(idSite);
+  const auto stored = firstField(db_, joinSql("select ", column, " from sites where idsite = ", id));
+  if (!stored) {
+    return;
+  }
+  const std::int64_t count = stored->toInt64();
+  if (count < std::numeric_limits<std::int16_t>::min() || count >= std::numeric_limits<std::int16_t>::max()) {
+    throw OverflowError("Overflow: the " + column + " counter of site " + id + " (" + getUrl(idSite) + ") stands at " +
+                        std::to_string(count) +
+                        " and cannot count further. Clear the counters in the site's "
+                        "Counters dialog.");
+  }
+  db_.execute(joinSql("update sites set ", column, " = ", sqlQuote(count + 1), " where idsite = ", id));
+}
+
+}  // namespace tarnwick

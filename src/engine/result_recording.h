@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "platform/clock.h"
+#include "store/database.h"
+#include "store/settings_and_log.h"
+
+namespace tarnwick {
+
+/// Judges a fetched page and keeps the outcome in the site's row and in the log. A site is up when the page equals its
+/// stored baseline byte for byte; the first page of a site without a baseline becomes its baseline. Every failed
+/// statement raises DataAccessError. A change to a site that does not exist does nothing.
+class ResultRecording {
+ public:
+  ResultRecording(Database& database, SettingsAndLog& log, const Clock& clock)
+      : db_(database), log_(log), clock_(clock) {}
+
+  /// Makes what is recorded during the returned object's life one whole, kept when it is committed. REQUIRES: no wait
+  /// for the network meanwhile, since the database is locked for writing.
+  Transaction oneRecord() { return Transaction(db_); }
+
+  /// Judges `content`, the page or the text of a failed fetch, stores it as the site's latest page with the time of the
+  /// check, and logs the check: the page only when the site is down. True when the site is up. `errCode` and
+  /// `errDescription` are logged and take no part in the verdict. All is written, or nothing.
+  bool testSite(std::int16_t idSite, const std::string& content, std::int32_t errCode,
+                const std::string& errDescription);
+
+  /// Empties the baseline: the next page fetched becomes it.
+  void clearContentCompare(std::int16_t idSite);
+  void updateContentCompare(std::int16_t idSite, const std::string& text);
+  /// The baseline; empty when there is none or no such site.
+  std::string getContentCompare(std::int16_t idSite);
+
+  /// Stamps the site with the present time as that of its last check.
+  void xupdateLastChecked(std::int16_t idSite);
+  /// The local time of the last check; nothing when there was none, there is no such site, or the stored text is no
+  /// date.
+  std::optional<LocalTime> getLastChecked(std::int16_t idSite);
+
+  /// Whether the last check found the site up; false when never judged or when there is no such site.
+  bool getStatus(std::int16_t idSite);
+  void setStatus(std::int16_t idSite, bool status);
+  /// Marks every site as up.
+  void clearStatus();
+
+  /// Whether the site is to be checked; false when there is no such site.
+  bool getActive(std::int16_t idSite);
+  void setActive(std::int16_t idSite, bool active);
+
+  /// The site's address; empty when there is no such site.
+  std::string getUrl(std::int16_t idSite);
+
+  /// Adds 1 to the counter `success` (true) or `failure` (false); Null counts as 0. Raises OverflowError, with nothing
+  /// written, when the counter would pass 32767.
+  void updateStatusCounter(std::int16_t idSite, bool result);
+
+ private:
+  Database& db_;
+  SettingsAndLog& log_;
+  const Clock& clock_;
+};
+
+}  // namespace tarnwick

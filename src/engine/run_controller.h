@@ -1,0 +1,99 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "alerts/inet_pool.h"
+#include "engine/run_view.h"
+#include "platform/clock.h"
+#include "platform/event_pump.h"
+#include "platform/timer.h"
+#include "store/text_table.h"
+
+namespace tarnwick {
+
+class AlertDispatch;
+class DueSites;
+class PageFetch;
+class ResultRecording;
+
+/// The program's main loop: the run's state, the countdown to the next due site, and the test pass that fetches every
+/// selected site through the pool, judges each result, records it and raises the alerts of a failure.
+///
+/// All on one thread. A pass pumps events while it waits, so timers, transfers and clicks run inside it: `busy` keeps a
+/// second pass out, and `running` is read again after every pump. Nothing here traps an error: what a procedure raises
+/// reaches the caller of the handler, with the pass ended in order.
+class RunController {
+ public:
+  /// What the controller needs of the rest of the program.
+  struct Needs {
+    DueSites& dueSites;
+    PageFetch& pages;
+    ResultRecording& results;
+    AlertDispatch& alerts;
+    InetPool& pool;
+    RunView& view;
+    const Clock& clock;
+    EventPump& pump;
+  };
+
+  /// Wraps a timer's handler, for instance to show its failure in a box: called with the handler's name and itself.
+  using Guard = std::function<void(const std::string& handler, const std::function<void()>& action)>;
+
+  /// The timers are made disabled; `prepare` sets them up. `guard` is where the errors of their handlers end.
+  RunController(const Needs& needs, TimerMaker& timers, Guard guard);
+
+  /// Starts a run: tests every active site at once and returns when that pass ends. Nothing when a run is on.
+  void startChecking();
+  /// Stops the run; a pass in progress ends at its next look at `running`, and its transfers are cut.
+  void stopChecking();
+  /// One test pass over the sites of `mode` (see `DueSites::getArraySitesActiveTrue`); nothing when one is in progress.
+  void runTestPass(std::int16_t mode);
+  /// Stores one judged result, raises the alerts of a failure and repaints the site's row.
+  void recordResult(std::int16_t idSite, bool result);
+
+  /// Shows caption and site list afresh and has the countdown asked again. A pass in progress is left alone.
+  void init();
+  /// Sets the run clock's start to now and shows it.
+  void resetClock();
+  /// Shows the time of a site's last check in the grid.
+  void UpdateLastChecked(std::int16_t idSite);
+
+  /// The ticks of the countdown (1000 ms, during a run) and of the lamps (500 ms, always).
+  void tmrCheckSites_Timer();
+  void Timer2_Timer();
+
+  /// Sets intervals, clock and lamps as at program start: `tmrCheckSites` 1000 ms and off, `Timer2` 500 ms and on.
+  void prepare();
+  Timer& tmrCheckSites() { return *tmrCheckSites_; }
+  Timer& Timer2() { return *timer2_; }
+
+  bool running() const { return running_; }
+  bool busy() const { return busy_; }
+  bool inTimerPass() const { return inTimerPass_; }
+  std::int32_t secondsToNext() const { return secondsToNext_; }
+
+  /// Hours, minutes and seconds of two digits each, joined with ":"; the hours keep their last two digits only.
+  static std::string formatSeconds(std::int32_t seconds);
+  /// "Run Time: " and the hours of three digits, minutes and seconds of two.
+  static std::string clockText(std::chrono::seconds elapsed);
+
+ private:
+  void updateClock();
+
+  Needs needs_;
+  Guard guard_;
+  std::unique_ptr<Timer> tmrCheckSites_;
+  std::unique_ptr<Timer> timer2_;
+  bool running_ = false;
+  bool busy_ = false;
+  bool inTimerPass_ = false;
+  std::int32_t secondsToNext_ = 0;
+  std::chrono::milliseconds runStart_{0};
+};
+
+}  // namespace tarnwick

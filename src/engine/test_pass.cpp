@@ -1,0 +1,181 @@
+#include "engine/test_pass.h"
+
+#include <algorithm>
+
+#include "engine/due_sites.h"
+#include "engine/page_fetch.h"
+#include "engine/result_recording.h"
+#include "platform/errors.h"
+#include "platform/sql_value.h"
+
+namespace tarnwick {
+namespace {
+
+// Columns of the site table.
+constexpr std::size_t kIdSite = 1;
+constexpr std::size_t kUrl = 2;
+constexpr std::size_t kMethod = 3;
+constexpr std::size_t kUserName = 9;
+constexpr std::size_t kPassword = 10;
+
+// How much lighter the row of a site is while its request is under way.
+constexpr int kTestingBrightness = 36;
+
+constexpr const char* kNoAddress = "The address of the site is empty.";
+
+}  // namespace
+
+TestPass::TestPass(RunController& run, const RunController::Needs& needs, bool& busy)
+    : run_(run), needs_(needs), busy_(busy) {
+  needs_.view.indicators(RunState::start);
+  busy_ = true;
+}
+
+TestPass::~TestPass() {
+  needs_.pool.killAllSockets();
+  needs_.pool.tmrInet().setEnabled(false);
+  busy_ = false;
+  for (const std::int16_t id : brightened_) {
+    needs_.view.unbrighten(id);
+  }
+  needs_.view.indicators(run_.running() ? RunState::pause : RunState::stop);
+}
+
+void TestPass::test(std::int16_t mode) {
+  selectSites(mode);
+  if (count() == 0) {
+    return;
+  }
+  progressStep_ = needs_.view.fullProgressWidth() / static_cast<std::int64_t>(count());
+  showProgress();
+  dispatchAll();
+  awaitAllSlots();
+  drain();
+}
+
+void TestPass::selectSites(std::int16_t mode) {
+  sites_ = needs_.dueSites.getArraySitesActiveTrue(mode);
+  urls_.reserve(sites_.lastRow());
+  for (std::size_t row = 1; row <= sites_.lastRow(); ++row) {
+    urls_.push_back(cell(kUrl, row));
+  }
+  needs_.pool.initSockets(urls_);
+  needs_.pool.tmrInet().setEnabled(true);
+}
+
+void TestPass::dispatchAll() {
+  while (next_ <= count() && !stopped()) {
+    needs_.pump.pump();
+    judgeRowsWithoutAddress();
+    const std::vector<std::int16_t> freeSlots = needs_.pool.getAryFreeSockets();
+    if (freeSlots.empty() && next_ <= count() && !stopped()) {
+      needs_.pump.waitForEvent();
+    }
+    offerSlots(freeSlots);
+  }
+}
+
+void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
+  for (const std::int16_t slot : freeSlots) {
+    needs_.pump.pump();
+    if (stopped()) {
+      return;
+    }
+    judge(slot);
+    judgeRowsWithoutAddress();
+    if (stopped() || next_ > count()) {
+      return;
+    }
+    sendRequest(slot);
+    nextRow();
+  }
+}
+
+// A row without an address needs no slot: it fails on the spot, as a failed request of its own site.
+void TestPass::judgeRowsWithoutAddress() {
+  while (!stopped() && next_ <= count() && url(next_).empty()) {
+    needs_.view.showStatus("Testing: ");
+    record(next_, std::string("11:") + kNoAddress, static_cast<std::int32_t>(TransferFault::badUrl), kNoAddress);
+    nextRow();
+    needs_.pump.pump();
+  }
+}
+
+void TestPass::sendRequest(std::int16_t slot) {
+  const std::size_t row = next_;
+  const std::int16_t id = idSite(row);
+  needs_.pool.assignRow(slot, row);
+  const PageRequest request = needs_.pages.requestFor(id, cell(kMethod, row));
+  needs_.view.showStatus("Testing: " + url(row));
+  TransferControl& inet = needs_.pool.inet(slot);
+  inet.setUrl(url(row));
+  inet.setUserName(cell(kUserName, row));
+  inet.setPassword(cell(kPassword, row));
+  inet.execute(request.method, request.body, request.headers);
+  needs_.view.brighten(id, kTestingBrightness);
+  brightened_.push_back(id);
+}
+
+void TestPass::awaitAllSlots() {
+  while (!stopped() && needs_.pool.getAryFreeSockets().size() < static_cast<std::size_t>(needs_.pool.poolSize())) {
+    needs_.pump.waitForEvent();
+  }
+}
+
+void TestPass::drain() {
+  for (std::int16_t slot = 1; slot <= needs_.pool.poolSize() && !stopped(); ++slot) {
+    judge(slot);
+  }
+}
+
+void TestPass::judge(std::int16_t slot) {
+  InetPool& pool = needs_.pool;
+  if (!pool.socketDone(slot)) {
+    return;
+  }
+  pool.saveSocketData(slot);
+  const std::size_t row = pool.socketRow(slot);
+  record(row, pool.siteContent(row), pool.siteErrCode(row), pool.siteErrDescription(row));
+  pool.releaseSiteContent(row);
+  pool.setSocketDone(slot, false);
+}
+
+void TestPass::record(std::size_t row, const std::string& content, std::int32_t errCode,
+                      const std::string& errDescription) {
+  const std::int16_t id = idSite(row);
+  Transaction whole = needs_.results.oneRecord();
+  if (needs_.results.testSite(id, content, errCode, errDescription)) {
+    try {
+      run_.recordResult(id, true);
+    } catch (const OverflowError&) {
+      // A full counter is no reason to forget the check itself: the site would be due again at once.
+      whole.commit();
+      throw;
+    }
+    whole.commit();
+  } else {
+    // The alerts of a failure wait for the network, so they cannot be part of the transaction.
+    whole.commit();
+    run_.recordResult(id, false);
+  }
+  std::erase(brightened_, id);
+}
+
+void TestPass::nextRow() {
+  ++next_;
+  if (next_ <= count() && !stopped()) {
+    showProgress();
+  }
+}
+
+void TestPass::showProgress() {
+  const std::int64_t width = static_cast<std::int64_t>(next_) * progressStep_;
+  if (width != progressWidth_) {
+    progressWidth_ = width;
+    needs_.view.setProgressWidth(width);
+  }
+}
+
+std::int16_t TestPass::idSite(std::size_t row) const { return siteIdFromText(cell(kIdSite, row)); }
+
+}  // namespace tarnwick

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "engine/run_controller.h"
+#include "store/text_table.h"
+
+namespace tarnwick {
+
+/// One test pass: fetches every selected site through the pool and has each result judged and recorded. Its life is the
+/// time in which the run is `busy`: however it ends, by its last row, by Stop or by an error, the pool is closed and
+/// the lamps are put right.
+class TestPass {
+ public:
+  /// `busy` is true from here until this object ends.
+  TestPass(RunController& run, const RunController::Needs& needs, bool& busy);
+  ~TestPass();
+  TestPass(const TestPass&) = delete;
+  TestPass& operator=(const TestPass&) = delete;
+
+  /// Tests the sites of `mode`; returns early when the run is stopped.
+  void test(std::int16_t mode);
+
+ private:
+  std::size_t count() const { return urls_.size(); }
+  bool stopped() const { return !run_.running(); }
+
+  void selectSites(std::int16_t mode);
+  void dispatchAll();
+  void offerSlots(const std::vector<std::int16_t>& freeSlots);
+  void judgeRowsWithoutAddress();
+  void sendRequest(std::int16_t slot);
+  void awaitAllSlots();
+  void drain();
+  void judge(std::int16_t slot);
+  void record(std::size_t row, const std::string& content, std::int32_t errCode, const std::string& errDescription);
+  void nextRow();
+  void showProgress();
+
+  const std::string& cell(std::size_t column, std::size_t row) const { return sites_.at(column, row); }
+  const std::string& url(std::size_t row) const { return urls_[row - 1]; }
+  std::int16_t idSite(std::size_t row) const;
+
+  RunController& run_;
+  const RunController::Needs& needs_;
+  bool& busy_;
+  TextTable sites_;
+  std::vector<std::string> urls_;
+  std::vector<std::int16_t> brightened_;
+  std::size_t next_ = 1;
+  std::int64_t progressStep_ = 0;
+  std::int64_t progressWidth_ = -1;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,69 @@
+#include "fault_box.h"
+
+#include <exception>
+
+#include "platform/errors.h"
+
+namespace tarnwick {
+namespace {
+
+/// What happened, for the user and for telling one fault from another.
+struct Description {
+  std::string message;
+  std::string fault;
+};
+
+// REQUIRES: called from a handler of an exception.
+Description describeCurrentException() {
+  try {
+    throw;
+  } catch (const DataAccessError& error) {
+    return {error.what(), error.cause()};
+  } catch (const std::bad_alloc&) {
+    const std::string message = "There is not enough memory for this.";
+    return {message, message};
+  } catch (const std::exception& error) {
+    return {error.what(), error.what()};
+  }
+}
+
+}  // namespace
+
+bool FaultBox::run(const std::function<void()>& action, const std::string& source) {
+  try {
+    action();
+    return true;
+  } catch (...) {
+    const Description description = describeCurrentException();
+    standing_.insert({source, description.fault});
+    show(description.message);
+    return false;
+  }
+}
+
+bool FaultBox::runRepeated(const std::string& source, const std::function<void()>& action) {
+  try {
+    action();
+    std::erase_if(standing_, [&](const Fault& fault) { return fault.source == source; });
+    return true;
+  } catch (...) {
+    const Description description = describeCurrentException();
+    const bool news = standing_.insert({source, description.fault}).second;
+    if (news && open_ == 0) {
+      show(description.message);
+    }
+    return false;
+  }
+}
+
+void FaultBox::show(const std::string& message) {
+  // A box pumps events; while it is open, timers must not pile further boxes upon it.
+  const struct Open {
+    explicit Open(int& count) : count_(count) { ++count_; }
+    ~Open() { --count_; }
+    int& count_;
+  } open(open_);
+  prompts_.inform(message, kProductName, PromptIcon::error);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,88 @@
+#include "platform/address.h"
+
+#include <curl/curl.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <string_view>
+
+namespace tarnwick {
+namespace {
+
+struct UrlCleanup {
+  void operator()(CURLU* url) const { curl_url_cleanup(url); }
+};
+
+// The part as text; empty when the address has none.
+std::string part(CURLU* url, CURLUPart which, unsigned flags = 0) {
+  char* text = nullptr;
+  if (curl_url_get(url, which, &text, flags) != CURLUE_OK) {
+    return {};
+  }
+  const std::unique_ptr<char, decltype(&curl_free)> owner(text, &curl_free);
+  return text;
+}
+
+std::string_view trimmed(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t\r\n";
+  const auto first = text.find_first_not_of(kBlanks);
+  return first == std::string_view::npos ? std::string_view()
+                                         : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+bool hasScheme(std::string_view text) {
+  constexpr std::string_view kSchemeCharacters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+-.";
+  const auto end = text.find("://");
+  return end != std::string_view::npos && end > 0 && text.find_first_not_of(kSchemeCharacters) == end;
+}
+
+std::string completed(std::string_view text) {
+  std::string result;
+  if (text.starts_with("//")) {
+    result = "http:";
+  } else if (!hasScheme(text)) {
+    result = "http://";
+  }
+  for (const char c : text) {
+    if (c == ' ') {
+      result += "%20";
+    } else {
+      result += c;
+    }
+  }
+  return result;
+}
+
+bool isControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
+
+}  // namespace
+
+std::optional<Address> parseAddress(const std::string& text) {
+  const std::string_view meant = trimmed(text);
+  // A line end or a NUL would end the request line early, and what follows would be taken for something else.
+  if (meant.empty() || std::ranges::any_of(meant, isControl)) {
+    return std::nullopt;
+  }
+  const std::unique_ptr<CURLU, UrlCleanup> url(curl_url());
+  if (!url || curl_url_set(url.get(), CURLUPART_URL, completed(meant).c_str(),
+                           CURLU_NON_SUPPORT_SCHEME | CURLU_URLENCODE) != CURLUE_OK) {
+    return std::nullopt;
+  }
+  Address address{.url = part(url.get(), CURLUPART_URL),
+                  .scheme = part(url.get(), CURLUPART_SCHEME),
+                  .host = part(url.get(), CURLUPART_HOST),
+                  .port = part(url.get(), CURLUPART_PORT, CURLU_DEFAULT_PORT)};
+  // A percent sign is at home in a path and before the zone of an IPv6 address; no host name holds one.
+  if (address.host.find('%') != std::string::npos && !address.host.starts_with('[')) {
+    return std::nullopt;
+  }
+  return address;
+}
+
+bool isFetchedScheme(const std::string& scheme) {
+  constexpr std::array<std::string_view, 4> kSchemes{"http", "https", "ftp", "ftps"};
+  return std::ranges::find(kSchemes, scheme) != kSchemes.end();
+}
+
+}  // namespace tarnwick

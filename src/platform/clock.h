@@ -1,0 +1,41 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tarnwick {
+
+/// A moment on the wall clock of this machine's time zone, in whole seconds.
+using LocalTime = std::chrono::local_seconds;
+
+/// The machine's two clocks: the one on the wall, which people may set, and the one that only goes forward.
+class Clock {
+ public:
+  virtual ~Clock() = default;
+
+  /// The local date and time now.
+  virtual LocalTime localNow() const = 0;
+
+  /// Time since an arbitrary moment; never goes back. For measuring durations.
+  virtual std::chrono::milliseconds steadyNow() const = 0;
+};
+
+/// The one date-and-time form of the program: "YYYY-MM-DD HH:MM:SS".
+std::string dateTimeText(LocalTime time);
+
+/// The date part of that form: "YYYY-MM-DD".
+std::string dateText(LocalTime time);
+
+/// Reads "YYYY-MM-DD HH:MM:SS" or "YYYY-MM-DD" (midnight); nothing when the text is no such date.
+std::optional<LocalTime> parseDateTime(std::string_view text);
+
+/// The clocks of the operating system.
+class SystemClock final : public Clock {
+ public:
+  LocalTime localNow() const override;
+  std::chrono::milliseconds steadyNow() const override;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,178 @@
+#include "platform/curl_event_loop.h"
+
+#include <algorithm>
+#include <csignal>
+#include <stdexcept>
+#include <QMetaObject>
+
+namespace tarnwick {
+namespace {
+
+void initializeCurl() {
+  static const CURLcode result = curl_global_init(CURL_GLOBAL_DEFAULT);
+  if (result != CURLE_OK) {
+    throw std::runtime_error(std::string("The transfer library cannot be used: ") + curl_easy_strerror(result) + ".");
+  }
+#ifdef SIGPIPE
+  // libcurl is told to leave signals alone, so a server that hangs up on us must not end the program.
+  static const auto previous = std::signal(SIGPIPE, SIG_IGN);
+  static_cast<void>(previous);
+#endif
+}
+
+}  // namespace
+
+CurlEventLoop::CurlEventLoop() {
+  initializeCurl();
+  multi_ = curl_multi_init();
+  if (multi_ == nullptr) {
+    throw std::bad_alloc();
+  }
+  curl_multi_setopt(multi_, CURLMOPT_SOCKETFUNCTION, &CurlEventLoop::socketChanged);
+  curl_multi_setopt(multi_, CURLMOPT_SOCKETDATA, this);
+  curl_multi_setopt(multi_, CURLMOPT_TIMERFUNCTION, &CurlEventLoop::timerChanged);
+  curl_multi_setopt(multi_, CURLMOPT_TIMERDATA, this);
+  timer_.setSingleShot(true);
+  timer_.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&timer_, &QTimer::timeout, &context_, [this] { act(CURL_SOCKET_TIMEOUT, 0); });
+}
+
+CurlEventLoop::~CurlEventLoop() {
+  for (const auto& [easy, done] : transfers_) {
+    curl_multi_remove_handle(multi_, easy);
+  }
+  curl_multi_cleanup(multi_);
+}
+
+bool CurlEventLoop::start(CURL* easy, std::function<void(CURLcode)> done) {
+  enteredAt_ = std::chrono::steady_clock::now();
+  if (curl_multi_add_handle(multi_, easy) != CURLM_OK) {
+    return false;
+  }
+  transfers_[easy] = std::move(done);
+  return true;
+}
+
+void CurlEventLoop::stop(CURL* easy) {
+  if (transfers_.erase(easy) > 0) {
+    enteredAt_ = std::chrono::steady_clock::now();
+    curl_multi_remove_handle(multi_, easy);
+  }
+}
+
+void CurlEventLoop::post(std::function<void()> event) {
+  events_.push_back(std::move(event));
+  wake();
+}
+
+std::chrono::milliseconds CurlEventLoop::timeInside() const {
+  return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - enteredAt_);
+}
+
+int CurlEventLoop::socketChanged(CURL*, curl_socket_t socket, int what, void* self, void*) {
+  static_cast<CurlEventLoop*>(self)->watch(socket, what);
+  return 0;
+}
+
+int CurlEventLoop::timerChanged(CURLM*, long milliseconds, void* self) {
+  QTimer& timer = static_cast<CurlEventLoop*>(self)->timer_;
+  if (milliseconds < 0) {
+    timer.stop();
+  } else {
+    timer.start(std::chrono::milliseconds(milliseconds));
+  }
+  return 0;
+}
+
+void CurlEventLoop::watch(curl_socket_t socket, int what) {
+  if (what == CURL_POLL_REMOVE) {
+    unwatch(socket);
+    return;
+  }
+  Watch& watch = watches_[socket];
+  setWatching(watch.reading, (what & CURL_POLL_IN) != 0, socket, QSocketNotifier::Read);
+  setWatching(watch.writing, (what & CURL_POLL_OUT) != 0, socket, QSocketNotifier::Write);
+}
+
+void CurlEventLoop::setWatching(std::unique_ptr<QSocketNotifier>& notifier, bool wanted, curl_socket_t socket,
+                                QSocketNotifier::Type type) {
+  if (!notifier) {
+    if (!wanted) {
+      return;
+    }
+    notifier = std::make_unique<QSocketNotifier>(static_cast<qintptr>(socket), type);
+    const int events = type == QSocketNotifier::Read ? CURL_CSELECT_IN : CURL_CSELECT_OUT;
+    QObject::connect(notifier.get(), &QSocketNotifier::activated, &context_,
+                     [this, socket, events] { act(socket, events); });
+  }
+  notifier->setEnabled(wanted);
+}
+
+void CurlEventLoop::unwatch(curl_socket_t socket) {
+  const auto found = watches_.find(socket);
+  if (found == watches_.end()) {
+    return;
+  }
+  for (auto* notifier : {&found->second.reading, &found->second.writing}) {
+    if (*notifier) {
+      (*notifier)->setEnabled(false);
+      retired_.push_back(std::move(*notifier));
+    }
+  }
+  watches_.erase(found);
+  wake();
+}
+
+void CurlEventLoop::act(curl_socket_t socket, int events) {
+  enteredAt_ = std::chrono::steady_clock::now();
+  int running = 0;
+  curl_multi_socket_action(multi_, socket, events, &running);
+  // libcurl tells a time-out only when it changes. One that fired a moment too early must be set again by us.
+  long next = -1;
+  if (!timer_.isActive() && curl_multi_timeout(multi_, &next) == CURLM_OK && next >= 0) {
+    timer_.start(std::chrono::milliseconds(std::max(next, 1L)));
+  }
+  collectEnded();
+}
+
+void CurlEventLoop::collectEnded() {
+  int left = 0;
+  while (const CURLMsg* message = curl_multi_info_read(multi_, &left)) {
+    if (message->msg != CURLMSG_DONE) {
+      continue;
+    }
+    // The message is gone once its handle is taken out.
+    CURL* const easy = message->easy_handle;
+    const CURLcode result = message->data.result;
+    curl_multi_remove_handle(multi_, easy);
+    auto transfer = transfers_.extract(easy);
+    if (!transfer.empty()) {
+      transfer.mapped()(result);
+    }
+  }
+}
+
+void CurlEventLoop::wake() {
+  if (!awake_) {
+    awake_ = true;
+    QMetaObject::invokeMethod(
+        &context_, [this] { dispatchOne(); }, Qt::QueuedConnection);
+  }
+}
+
+void CurlEventLoop::dispatchOne() {
+  awake_ = false;
+  retired_.clear();
+  if (events_.empty()) {
+    return;
+  }
+  const auto event = std::move(events_.front());
+  events_.pop_front();
+  if (!events_.empty()) {
+    // Before the event, which may wait for the ones behind it, and may destroy us.
+    wake();
+  }
+  event();
+}
+
+}  // namespace tarnwick

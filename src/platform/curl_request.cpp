@@ -1,0 +1,190 @@
+#include "platform/curl_request.h"
+
+#include <algorithm>
+#include <cctype>
+#include <string_view>
+
+#ifndef _WIN32
+#include <fcntl.h>
+#endif
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kLargestHeader = std::size_t{256} * 1024;
+/// libcurl waits inside itself for the last replies of an FTP server; longer than this the window would seem frozen.
+constexpr std::chrono::milliseconds kLongestWaitInside{900};
+
+}  // namespace
+
+CurlRequest::CurlRequest(RequestOrder order, const CurlTransfers::Options& options, CurlEventLoop& loop,
+                         std::function<void(int)> onState)
+    : order_(std::move(order)),
+      options_(options),
+      loop_(loop),
+      onState_(std::move(onState)),
+      easy_(curl_easy_init(), &curl_easy_cleanup),
+      headerLines_(nullptr, &curl_slist_free_all) {
+  if (easy_) {
+    setCallbacks();
+    setBounds();
+    setTarget();
+    setMethod();
+    setHeaders();
+    setCredentials();
+  }
+}
+
+CurlRequest::~CurlRequest() {
+  if (easy_) {
+    loop_.stop(easy_.get());
+  }
+}
+
+bool CurlRequest::start(std::function<void(CURLcode)> done) {
+  return easy_ && loop_.start(easy_.get(), std::move(done));
+}
+
+int CurlRequest::onResolve(void*, void*, void* self) {
+  static_cast<CurlRequest*>(self)->reach(transfer_state::resolvingHost);
+  return 0;
+}
+
+int CurlRequest::onSocket(void* self, curl_socket_t socket, curlsocktype) {
+#ifndef _WIN32
+  // A program started as an alert must not inherit the connection and keep it open.
+  fcntl(socket, F_SETFD, FD_CLOEXEC);
+#else
+  static_cast<void>(socket);
+#endif
+  static_cast<CurlRequest*>(self)->reach(transfer_state::connecting);
+  return CURL_SOCKOPT_OK;
+}
+
+CURLcode CurlRequest::onHandshake(CURL*, void*, void* self) {
+  static_cast<CurlRequest*>(self)->reach(transfer_state::connected);
+  return CURLE_OK;
+}
+
+int CurlRequest::onReady(void* self, char*, char*, int, int) {
+  static_cast<CurlRequest*>(self)->reach(transfer_state::requesting);
+  return CURL_PREREQFUNC_OK;
+}
+
+int CurlRequest::onProgress(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t up) {
+  auto* const request = static_cast<CurlRequest*>(self);
+  request->noteSent(up);
+  return request->waitsInside() ? 1 : 0;
+}
+
+std::size_t CurlRequest::onHeader(char* data, std::size_t size, std::size_t count, void* self) {
+  const std::size_t length = size * count;
+  return static_cast<CurlRequest*>(self)->addHeader({data, length}) ? length : 0;
+}
+
+std::size_t CurlRequest::onPage(char* data, std::size_t size, std::size_t count, void* self) {
+  const std::size_t length = size * count;
+  // Any other number than the length ends the transfer; for an empty piece that must not be 0.
+  return static_cast<CurlRequest*>(self)->addPage({data, length}) ? length : length + 1;
+}
+
+void CurlRequest::reach(int state) {
+  while (state_ < state) {
+    onState_(++state_);
+  }
+}
+
+void CurlRequest::noteSent(curl_off_t bodyBytes) {
+  if (state_ != transfer_state::requesting) {
+    return;
+  }
+  long requestBytes = 0;
+  curl_easy_getinfo(easy_.get(), CURLINFO_REQUEST_SIZE, &requestBytes);
+  const auto wanted = order_.method == "POST" ? static_cast<curl_off_t>(order_.body.size()) : curl_off_t{0};
+  if (requestBytes > 0 && bodyBytes >= wanted) {
+    reach(transfer_state::requestSent);
+  }
+}
+
+bool CurlRequest::addHeader(std::string_view line) {
+  headerBytes_ += line.size();
+  if (headerBytes_ > kLargestHeader) {
+    bound_ = BrokenBound::header;
+    return false;
+  }
+  // The lines of an FTP server come here too, its greeting before anything was asked.
+  if (line.starts_with("HTTP/")) {
+    reach(transfer_state::receivingResponse);
+    if (line.substr(std::min(line.find(' '), line.size())).starts_with(" 303")) {
+      // What follows is fetched by GET whatever this was (RFC 9110, section 15.4.4); libcurl keeps a method of ours.
+      curl_easy_setopt(easy_.get(), CURLOPT_CUSTOMREQUEST, nullptr);
+    }
+  }
+  return true;
+}
+
+bool CurlRequest::addPage(std::string_view piece) {
+  reach(transfer_state::receivingResponse);
+  if (piece.size() > options_.largestPage - page_.size() || (page_.empty() && announcedTooLarge())) {
+    bound_ = BrokenBound::page;
+    return false;
+  }
+  try {
+    page_.append(piece);
+  } catch (const std::exception&) {
+    // No exception may cross libcurl.
+    bound_ = BrokenBound::memory;
+    return false;
+  }
+  return true;
+}
+
+bool CurlRequest::announcedTooLarge() const {
+  curl_off_t length = -1;
+  curl_easy_getinfo(easy_.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &length);
+  return length > 0 && static_cast<std::size_t>(length) > options_.largestPage;
+}
+
+bool CurlRequest::waitsInside() const {
+  if (loop_.timeInside() < kLongestWaitInside) {
+    return false;
+  }
+  const char* scheme = nullptr;
+  curl_easy_getinfo(easy_.get(), CURLINFO_SCHEME, &scheme);
+  return scheme != nullptr && std::tolower(static_cast<unsigned char>(scheme[0])) == 'f';
+}
+
+void CurlRequest::completeStates(CURLcode result) {
+  if (result == CURLE_OK) {
+    reach(transfer_state::disconnected);
+    return;
+  }
+  curl_off_t connectTime = 0;
+  curl_easy_getinfo(easy_.get(), CURLINFO_CONNECT_TIME_T, &connectTime);
+  if (state_ == transfer_state::connecting && connectTime > 0) {
+    reach(transfer_state::connected);
+  }
+  curl_off_t sent = 0;
+  curl_easy_getinfo(easy_.get(), CURLINFO_SIZE_UPLOAD_T, &sent);
+  noteSent(sent);
+}
+
+TransferFailure CurlRequest::failure(CURLcode result) const {
+  const char* url = nullptr;
+  curl_easy_getinfo(easy_.get(), CURLINFO_EFFECTIVE_URL, &url);
+  long systemError = 0;
+  curl_easy_getinfo(easy_.get(), CURLINFO_OS_ERRNO, &systemError);
+  // A header line longer than libcurl's own bound is reported as a lack of memory.
+  const bool headerRefused = result == CURLE_OUT_OF_MEMORY && state_ >= transfer_state::requesting && page_.empty();
+  return failureOf({.result = result,
+                    .detail = detail_.data(),
+                    .url = url == nullptr ? order_.url : url,
+                    .systemError = static_cast<int>(systemError),
+                    .bound = headerRefused ? BrokenBound::header : bound_,
+                    .timeout = order_.timeout,
+                    .largestPage = options_.largestPage,
+                    .mostRedirects = kMostRedirects,
+                    .caFile = options_.caFile});
+}
+
+}  // namespace tarnwick

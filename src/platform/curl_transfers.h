@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+#include "platform/transfer_control.h"
+
+namespace tarnwick {
+
+class CurlEventLoop;
+
+/// The transfer controls of libcurl, driven by the Qt event loop: a silent server costs no processor time.
+/// Needs a QCoreApplication. Its controls may outlive it.
+class CurlTransfers final : public TransferMaker {
+ public:
+  struct Options {
+    /// PEM file of the certificate authorities to trust; empty means those of the system.
+    std::string caFile{};
+    /// The largest page that is taken, in bytes after decoding.
+    std::size_t largestPage = kLargestPage;
+  };
+
+  CurlTransfers();
+  explicit CurlTransfers(Options options);
+  ~CurlTransfers() override;
+  CurlTransfers(const CurlTransfers&) = delete;
+  CurlTransfers& operator=(const CurlTransfers&) = delete;
+
+  std::unique_ptr<TransferControl> makeTransferControl() override;
+
+ private:
+  Options options_;
+  std::shared_ptr<CurlEventLoop> loop_;
+};
+
+}  // namespace tarnwick

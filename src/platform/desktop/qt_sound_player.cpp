@@ -1,0 +1,91 @@
+#include "platform/desktop/qt_sound_player.h"
+
+#include <chrono>
+#include <optional>
+#include <QAudioDevice>
+#include <QAudioFormat>
+#include <QAudioSink>
+#include <QBuffer>
+#include <QByteArray>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QMediaDevices>
+#include <QTimer>
+
+#include "platform/wave_file.h"
+
+namespace tarnwick {
+namespace {
+
+/// A longer file is no signal; it is not loaded.
+constexpr qint64 kLargestFile = qint64{256} * 1024 * 1024;
+
+/// More than a sound device keeps back, a wireless one included.
+constexpr std::chrono::milliseconds kDeviceBuffer{1000};
+
+std::optional<WaveSound> load(const std::string& fileName) {
+  QFile file(QString::fromStdString(fileName));
+  if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestFile) {
+    return std::nullopt;
+  }
+  const QByteArray bytes = file.readAll();
+  return readWave({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+QAudioFormat formatOf(const WaveSound& sound) {
+  QAudioFormat format;
+  format.setSampleFormat(QAudioFormat::Int16);
+  format.setSampleRate(static_cast<int>(sound.sampleRate));
+  format.setChannelCount(sound.channels);
+  return format;
+}
+
+}  // namespace
+
+/// A sound on its way to the device.
+struct QtSoundPlayer::Playing {
+  Playing(const WaveSound& sound, const QAudioDevice& device)
+      : samples(reinterpret_cast<const char*>(sound.samples.data()),
+                static_cast<qsizetype>(sound.samples.size() * sizeof(std::int16_t))),
+        sink(device, formatOf(sound)) {
+    source.setBuffer(&samples);
+    source.open(QIODevice::ReadOnly);
+    // The device is given back once it has played what it was handed: it is behind the source by its own buffer, which
+    // stopping throws away.
+    ending.setSingleShot(true);
+    ending.setInterval(kDeviceBuffer);
+    QObject::connect(&ending, &QTimer::timeout, &sink, &QAudioSink::stop);
+    QObject::connect(&sink, &QAudioSink::stateChanged, &source, [this](QAudio::State state) {
+      if (state == QAudio::IdleState && source.atEnd()) {
+        ending.start();
+      }
+    });
+    sink.start(&source);
+  }
+
+  QByteArray samples;
+  QBuffer source;
+  QAudioSink sink;
+  QTimer ending;
+};
+
+QtSoundPlayer::QtSoundPlayer() {
+  // A machine without sound is no fault worth telling; the caller learns it from what `play` returns.
+  QLoggingCategory::setFilterRules(QStringLiteral("qt.multimedia.*=false"));
+}
+
+QtSoundPlayer::~QtSoundPlayer() = default;
+
+long QtSoundPlayer::play(const std::string& fileName) {
+  const std::optional<WaveSound> sound = load(fileName);
+  const QAudioDevice device = sound ? QMediaDevices::defaultAudioOutput() : QAudioDevice();
+  // A file that cannot be played leaves the sound before it alone.
+  if (!sound || device.isNull()) {
+    return 0;
+  }
+  playing_.reset();
+  playing_ = std::make_unique<Playing>(*sound, device);
+  return playing_->sink.error() == QAudio::NoError ? 1 : 0;
+}
+
+}  // namespace tarnwick

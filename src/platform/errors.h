@@ -1,0 +1,44 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace tarnwick {
+
+/// A failed database operation: opening the file, running a statement, reading a field.
+/// `what()` is fit to be shown to the user: it names the cause and, where there is one, the remedy.
+class DataAccessError : public std::runtime_error {
+ public:
+  /// `cause` is the readable reason; `statement` the SQL text that failed (may be empty; long ones are shortened).
+  DataAccessError(const std::string& cause, const std::string& statement);
+
+  /// The reason alone, without the statement: the same text for the same fault whatever ran into it.
+  const std::string& cause() const noexcept { return cause_; }
+
+  /// The failed statement, shortened to a length that fits a message box; empty when none was running.
+  const std::string& statement() const noexcept { return statement_; }
+
+ private:
+  std::string cause_;
+  std::string statement_;
+};
+
+/// A failed file operation; `what()` names the path and the cause.
+class FileError : public std::runtime_error {
+ public:
+  FileError(const std::string& path, const std::string& cause);
+
+  /// The path of the file that could not be read or written.
+  const std::string& path() const noexcept { return path_; }
+
+ private:
+  std::string path_;
+};
+
+/// A number that does not fit the 16 or 32 bits that its place allows. Nothing has been written.
+class OverflowError : public std::overflow_error {
+ public:
+  using std::overflow_error::overflow_error;
+};
+
+}  // namespace tarnwick

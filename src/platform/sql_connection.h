@@ -1,0 +1,84 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/file_system.h"
+#include "platform/sql_value.h"
+
+namespace tarnwick {
+
+/// The rows that a statement returned, read one after the other. Holds the database's read lock until it is closed
+/// or destroyed, so it lives no longer than the procedure that reads it.
+class Recordset {
+ public:
+  virtual ~Recordset() = default;
+
+  /// True when there is no current row: past the last one, no row at all, or closed.
+  virtual bool eof() const = 0;
+  /// Goes back to the first row.
+  virtual void moveFirst() = 0;
+  virtual void moveNext() = 0;
+  virtual std::size_t fieldCount() const = 0;
+  /// The name of field `index` (from 0): its alias, or the column's name as the table spells it.
+  virtual std::string fieldName(std::size_t index) const = 0;
+  /// The current row's field; a column declared yes/no gives a yes/no. Raises DataAccessError at end of file.
+  virtual SqlValue field(std::size_t index) const = 0;
+  /// The current row's field of that name, in any letter case; raises DataAccessError when there is none.
+  virtual SqlValue field(std::string_view name) const = 0;
+  virtual void close() noexcept = 0;
+};
+
+/// A connection to one database file. Statements are plain SQL text in the program's own dialect: quoted texts may
+/// hold any bytes. Every failure raises DataAccessError.
+class SqlConnection {
+ public:
+  virtual ~SqlConnection() = default;
+
+  /// Opens the file that `connString` names after "Data Source=". The file must exist; none is created.
+  virtual void open(const std::string& connString) = 0;
+  virtual void close() noexcept = 0;
+  virtual bool isOpen() const = 0;
+
+  /// Runs one statement; one without rows gives a recordset at end of file.
+  virtual std::unique_ptr<Recordset> execute(std::string_view sql) = 0;
+
+  /// Begin and end a transaction that takes the write lock at once. They do not nest.
+  virtual void begin() = 0;
+  virtual void commit() = 0;
+  /// Takes back everything since `begin`; harmless when the database has already done so itself.
+  virtual void rollback() noexcept = 0;
+  virtual bool inTransaction() const = 0;
+};
+
+/// A database file that no connection has open and that is kept so, by every program, for this object's life: it can
+/// be copied and replaced as a whole. Nothing that belongs to it lies in a file beside it.
+class HeldDatabase {
+ public:
+  virtual ~HeldDatabase() = default;
+
+  /// Hands all bytes of the file to `sink`, piece by piece from its start. Raises DataAccessError, and whatever the
+  /// sink raises. The file must be read here and nowhere else: on some systems opening and closing it a second time
+  /// would end the hold.
+  virtual void read(const ByteSink& sink) = 0;
+
+  /// Writes the database without its unused space to the file that `destination`, a connection string, names, and
+  /// checks what was written. The file must not exist; it gets this database's permissions. Raises DataAccessError, and
+  /// may leave a partial file then.
+  virtual void compactInto(const std::string& destination) = 0;
+};
+
+/// Makes connections.
+class SqlConnectionMaker {
+ public:
+  virtual ~SqlConnectionMaker() = default;
+  virtual std::unique_ptr<SqlConnection> makeSqlConnection() = 0;
+
+  /// Holds the file that `connString` names. Raises DataAccessError when it is missing or damaged, and when a
+  /// connection of this program or another one has it open; it is as it was then.
+  virtual std::unique_ptr<HeldDatabase> holdDatabase(const std::string& connString) = 0;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <variant>
+
+namespace tarnwick {
+
+/// One field of a recordset: Null, a yes/no, a whole number, a number, or a byte string (text and dates).
+class SqlValue {
+ public:
+  SqlValue() = default;
+  explicit SqlValue(bool value) : value_(value) {}
+  explicit SqlValue(std::int64_t value) : value_(value) {}
+  explicit SqlValue(double value) : value_(value) {}
+  explicit SqlValue(std::string value) : value_(std::move(value)) {}
+
+  bool isNull() const { return std::holds_alternative<std::monostate>(value_); }
+  bool isBool() const { return std::holds_alternative<bool>(value_); }
+
+  /// The value as the program writes it: "True" or "False", a decimal number, the bytes of a text; empty for Null.
+  std::string toText() const;
+  /// The same, but the four letters "NULL" for Null: the form of the row tables.
+  std::string toTableText() const;
+
+  /// True for a true yes/no, any number but 0, and the texts "True" (any letter case) and non-zero numbers.
+  /// Null and everything else is false.
+  bool toBool() const;
+
+  /// The value as a whole number of 16 (32) bits; Null, and a text that is no number, is 0.
+  /// `what` names the value in the message of the OverflowError that is raised when it does not fit.
+  std::int16_t toInt16(const std::string& what) const;
+  std::int32_t toInt32(const std::string& what) const;
+  /// The value as a whole number, fractions cut; Null, and a text that is no number, is 0.
+  std::int64_t toInt64() const;
+
+  bool operator==(const SqlValue&) const = default;
+
+ private:
+  std::variant<std::monostate, bool, std::int64_t, double, std::string> value_;
+};
+
+/// Narrows `value` to 16 bits; raises OverflowError naming `what` and the value when it does not fit.
+std::int16_t checkedInt16(std::int64_t value, const std::string& what);
+
+/// Reads a site id from a row table's text; raises OverflowError naming the id when it does not fit 16 bits.
+std::int16_t siteIdFromText(const std::string& text);
+
+}  // namespace tarnwick

@@ -1,0 +1,138 @@
+#include "platform/sqlite_connection.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "platform/errors.h"
+#include "platform/sql_table_definition.h"
+#include "platform/sqlite_database.h"
+#include "platform/sqlite_errors.h"
+#include "platform/sqlite_hold.h"
+#include "platform/sqlite_recordset.h"
+#include "platform/sqlite_tables.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kNotFound = std::string_view::npos;
+
+/// Where `wanted` stands first in `text`, letter case aside.
+std::size_t findIgnoringCase(std::string_view text, std::string_view wanted) {
+  for (std::size_t i = 0; i + wanted.size() <= text.size(); ++i) {
+    if (sameName(text.substr(i, wanted.size()), wanted)) {
+      return i;
+    }
+  }
+  return kNotFound;
+}
+
+std::size_t findLastIgnoringCase(std::string_view text, std::string_view wanted) {
+  for (std::size_t i = text.size(); i-- > 0;) {
+    if (sameName(text.substr(i, wanted.size()), wanted)) {
+      return i;
+    }
+  }
+  return kNotFound;
+}
+
+}  // namespace
+
+// A path may hold semicolons itself, so the settings behind it are sought from the end.
+std::string dataSource(std::string_view connString) {
+  static constexpr std::string_view kKey = "Data Source=";
+  const std::size_t key = findIgnoringCase(connString, kKey);
+  if (key == kNotFound) {
+    throw DataAccessError("The connection string names no database: \"Data Source=\" is missing.", "");
+  }
+  const std::string_view rest = connString.substr(key + kKey.size());
+  std::size_t end = findLastIgnoringCase(rest, ";Jet OLEDB:");
+  if (end == kNotFound) {
+    end = rest.rfind(';');
+  }
+  return std::string(rest.substr(0, end));
+}
+
+namespace {
+
+class SqliteConnection final : public SqlConnection {
+ public:
+  explicit SqliteConnection(const Clock& clock) : clock_(clock) {}
+
+  void open(const std::string& connString) override {
+    if (database_) {
+      throw DataAccessError("The connection to the database is open already.", "");
+    }
+    database_ = std::make_unique<SqliteDatabase>(dataSource(connString), clock_);
+  }
+
+  void close() noexcept override { database_.reset(); }
+
+  bool isOpen() const override { return database_ != nullptr; }
+
+  std::unique_ptr<Recordset> execute(std::string_view sql) override {
+    SqliteDatabase& database = opened(sql);
+    const SqlCommand command = translateSql(sql);
+    if (const auto* statement = std::get_if<PlainStatement>(&command)) {
+      return runPlain(database, *statement, sql);
+    }
+    if (const auto* into = std::get_if<SelectInto>(&command)) {
+      selectInto(database, *into, sql);
+    } else if (const auto* counter = std::get_if<AddCounter>(&command)) {
+      addCounter(database, *counter, sql);
+    } else {
+      addPrimaryKey(database, std::get<AddPrimaryKey>(command), sql);
+    }
+    return std::make_unique<NoRows>();
+  }
+
+  void begin() override { runFixed("BEGIN IMMEDIATE"); }
+  void commit() override { runFixed("COMMIT"); }
+
+  void rollback() noexcept override {
+    if (inTransaction()) {
+      sqlite3_exec(database_->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+  }
+
+  bool inTransaction() const override { return database_ && sqlite3_get_autocommit(database_->handle()) == 0; }
+
+ private:
+  SqliteDatabase& opened(std::string_view sql) const {
+    if (!database_) {
+      throw DataAccessError("The connection to the database is not open.", shownStatement(sql));
+    }
+    return *database_;
+  }
+
+  static std::unique_ptr<Recordset> runPlain(SqliteDatabase& database, const PlainStatement& statement,
+                                             std::string_view sql) {
+    std::vector<std::string> room;
+    StatementLoan loan = database.prepare(statement, sql);
+    database.bind(loan.get(), statement, room, sql);
+    const bool onRow = database.step(loan.get(), sql);
+    if (sqlite3_column_count(loan.get()) == 0) {
+      return std::make_unique<NoRows>();
+    }
+    return std::make_unique<SqliteRecordset>(database, std::move(loan), onRow, shownStatement(sql));
+  }
+
+  void runFixed(const char* text) { opened(text).run({text, {}, true}, text); }
+
+  const Clock& clock_;
+  std::unique_ptr<SqliteDatabase> database_;
+};
+
+}  // namespace
+
+std::unique_ptr<SqlConnection> SqliteConnections::makeSqlConnection() {
+  return std::make_unique<SqliteConnection>(clock_);
+}
+
+std::unique_ptr<HeldDatabase> SqliteConnections::holdDatabase(const std::string& connString) {
+  return std::make_unique<SqliteHold>(dataSource(connString));
+}
+
+}  // namespace tarnwick

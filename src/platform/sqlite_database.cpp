@@ -1,0 +1,232 @@
+#include "platform/sqlite_database.h"
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <type_traits>
+#include <utility>
+
+#include "platform/sqlite_errors.h"
+#include "platform/sqlite_functions.h"
+#include "platform/sqlite_recordset.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kBusyPatienceMs = 2000;
+constexpr std::size_t kStatementsKept = 64;
+
+std::filesystem::path fileAt(const std::string& path) {
+  return std::filesystem::path(std::u8string(path.begin(), path.end()));
+}
+
+std::uintmax_t sizeOf(const std::string& path) {
+  std::error_code fault;
+  const std::uintmax_t size = std::filesystem::file_size(fileAt(path), fault);
+  return fault ? 0 : size;
+}
+
+/// A file without which nothing works, told apart from what SQLite would only call "unable to open".
+void requireFile(const std::string& path) {
+  std::error_code fault;
+  const auto status = std::filesystem::status(fileAt(path), fault);
+  if (status.type() == std::filesystem::file_type::not_found || path.empty()) {
+    throw DataAccessError(
+        "The database " + path + " is missing. Put the file back, for instance by copying backup.mdb to its name.", "");
+  }
+  if (std::filesystem::is_directory(status)) {
+    throw DataAccessError("The database " + path + " is a folder. Put the database file in its place.", "");
+  }
+}
+
+}  // namespace
+
+void StatementLoan::giveBack() noexcept {
+  if (!statement_) {
+    return;
+  }
+  sqlite3_reset(statement_.get());
+  sqlite3_clear_bindings(statement_.get());
+  if (reusable_) {
+    database_->keep(std::move(statement_));
+  }
+  statement_.reset();
+}
+
+SqliteDatabase::SqliteDatabase(std::string path, const Clock& clock) : path_(std::move(path)), clock_(clock) {
+  requireFile(path_);
+  openFile();
+  refuseDamage();
+  chooseJournal();
+}
+
+SqliteDatabase::~SqliteDatabase() {
+  const std::vector<SqliteRecordset*> open = std::exchange(open_, {});
+  for (SqliteRecordset* recordset : open) {
+    recordset->close();
+  }
+  keptByText_.clear();
+  kept_.clear();
+}
+
+void SqliteDatabase::openFile() {
+  sqlite3* raw = nullptr;
+  // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
+  const int result = sqlite3_open_v2(path_.c_str(), &raw, SQLITE_OPEN_READWRITE, nullptr);
+  handle_.reset(raw);
+  if (result != SQLITE_OK) {
+    throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path_, "");
+  }
+  sqlite3_extended_result_codes(raw, 1);
+  sqlite3_busy_timeout(raw, kBusyPatienceMs);
+  if (registerDateFunctions(raw, clock_) != SQLITE_OK) {
+    fail("");
+  }
+}
+
+void SqliteDatabase::refuseDamage() {
+  const std::uintmax_t size = sizeOf(path_);
+  if (size == 0) {
+    throw damagedDatabase(path_, "the file is empty", "");
+  }
+  const bool changesPending = sizeOf(path_ + "-wal") > 0;
+  // Reads the file's header and all definitions, which SQLite itself puts off until the first statement.
+  run("select count(*) from sqlite_master");
+  const auto expected = rows("select page_count * page_size from pragma_page_count, pragma_page_size");
+  // SQLite rounds a torn last page up. The file may be short only while changes wait in the log beside it.
+  if (!changesPending && size < std::stoull(expected.at(0).at(0))) {
+    throw damagedDatabase(path_, "the end of the file is missing", "");
+  }
+}
+
+void SqliteDatabase::chooseJournal() noexcept {
+  // A database on a read-only disk can still be read; writing will say what is wrong.
+  sqlite3* const database = handle();
+  sqlite3_exec(database, "pragma journal_mode = wal", nullptr, nullptr, nullptr);
+  // With the write-ahead log a killed process loses nothing, and the file is whole even after a power cut.
+  sqlite3_exec(database, "pragma synchronous = normal", nullptr, nullptr, nullptr);
+  // One large page must not leave a log of its size on the disk for the rest of the run.
+  sqlite3_exec(database, "pragma journal_size_limit = 8388608", nullptr, nullptr, nullptr);
+  // Room for the rows of some thousand sites (32 MiB), which the due query reads again and again.
+  sqlite3_exec(database, "pragma cache_size = -32768", nullptr, nullptr, nullptr);
+}
+
+StatementLoan SqliteDatabase::prepare(const PlainStatement& statement, std::string_view sql) {
+  if (const auto found = keptByText_.find(statement.text); found != keptByText_.end()) {
+    const Kept::iterator place = found->second;
+    SqliteStatement prepared = std::move(*place);
+    keptByText_.erase(found);
+    kept_.erase(place);
+    return {*this, std::move(prepared), true};
+  }
+  sqlite3_stmt* raw = nullptr;
+  const char* rest = nullptr;
+  const unsigned flags = statement.reusable ? SQLITE_PREPARE_PERSISTENT : 0;
+  const int result =
+      sqlite3_prepare_v3(handle(), statement.text.data(), static_cast<int>(statement.text.size()), flags, &raw, &rest);
+  SqliteStatement prepared(raw);
+  if (result != SQLITE_OK) {
+    fail(sql);
+  }
+  if (!prepared) {
+    throw DataAccessError("The statement is empty.", shownStatement(sql));
+  }
+  const std::string_view behind(rest, static_cast<std::size_t>(statement.text.data() + statement.text.size() - rest));
+  if (behind.find_first_not_of("; \t\r\n") != std::string_view::npos) {
+    throw DataAccessError("Only one statement can be run at a time.", shownStatement(sql));
+  }
+  return {*this, std::move(prepared), statement.reusable};
+}
+
+void SqliteDatabase::bind(sqlite3_stmt* prepared, const PlainStatement& statement, std::vector<std::string>& room,
+                          std::string_view sql) const {
+  // A statement without rows has run to its end before the caller's text goes away; rows are read later.
+  const auto lifetime = sqlite3_column_count(prepared) == 0 ? SQLITE_STATIC : SQLITE_TRANSIENT;
+  const auto bindText = [&](int number, std::string_view text) {
+    return sqlite3_bind_text64(prepared, number, text.data(), text.size(), lifetime, SQLITE_UTF8);
+  };
+  room.reserve(statement.parameters.size());
+  int number = 0;
+  for (const SqlParameter& parameter : statement.parameters) {
+    ++number;
+    int result = SQLITE_OK;
+    if (const auto* token = std::get_if<SqlToken>(&parameter)) {
+      result = bindText(number, holdsQuotes(*token) ? room.emplace_back(textIn(*token)) : quotedPart(*token));
+    } else if (const auto* whole = std::get_if<std::int64_t>(&parameter)) {
+      result = sqlite3_bind_int64(prepared, number, *whole);
+    } else {
+      result = bindText(number, room.emplace_back(dateTimeText(clock_.localNow())));
+    }
+    if (result != SQLITE_OK) {
+      fail(sql);
+    }
+  }
+}
+
+bool SqliteDatabase::step(sqlite3_stmt* prepared, std::string_view sql) const {
+  const int result = sqlite3_step(prepared);
+  if (result != SQLITE_ROW && result != SQLITE_DONE) {
+    fail(sql);
+  }
+  return result == SQLITE_ROW;
+}
+
+void SqliteDatabase::run(const PlainStatement& statement, std::string_view sql) {
+  std::vector<std::string> room;
+  const StatementLoan loan = prepare(statement, sql);
+  bind(loan.get(), statement, room, sql);
+  while (step(loan.get(), sql)) {
+  }
+}
+
+std::vector<std::vector<std::string>> SqliteDatabase::rows(const std::string& text, const std::string& argument) {
+  const StatementLoan loan = prepare({text, {}, false}, text);
+  if (sqlite3_bind_parameter_count(loan.get()) > 0) {
+    sqlite3_bind_text64(loan.get(), 1, argument.data(), argument.size(), SQLITE_STATIC, SQLITE_UTF8);
+  }
+  std::vector<std::vector<std::string>> all;
+  while (step(loan.get(), text)) {
+    auto& row = all.emplace_back();
+    for (int column = 0; column < sqlite3_column_count(loan.get()); ++column) {
+      const auto* field = reinterpret_cast<const char*>(sqlite3_column_text(loan.get(), column));
+      row.emplace_back(field == nullptr ? "" : field);
+    }
+  }
+  return all;
+}
+
+void SqliteDatabase::fail(std::string_view sql) const {
+  const DataAccessError error = sqliteError(sqlite3_extended_errcode(handle()), sqlite3_errmsg(handle()), path_, sql);
+  // With no room or a broken disk nothing that follows in the transaction can be relied on, so all of it is taken back;
+  // SQLite leaves that to its caller when the statement could be undone alone.
+  switch (sqlite3_errcode(handle()) & 0xff) {
+    case SQLITE_FULL:
+    case SQLITE_IOERR:
+    case SQLITE_NOMEM:
+    case SQLITE_CORRUPT:
+      sqlite3_exec(handle(), "rollback", nullptr, nullptr, nullptr);
+      break;
+    default:
+      break;
+  }
+  throw error;
+}
+
+void SqliteDatabase::keep(SqliteStatement statement) noexcept {
+  try {
+    const std::string_view text = sqlite3_sql(statement.get());
+    if (keptByText_.contains(text)) {
+      return;
+    }
+    kept_.push_front(std::move(statement));
+    keptByText_.emplace(text, kept_.begin());
+    if (kept_.size() > kStatementsKept) {
+      keptByText_.erase(sqlite3_sql(kept_.back().get()));
+      kept_.pop_back();
+    }
+  } catch (const std::bad_alloc&) {
+    // Only kept for speed. A statement in the list that cannot be found by its text is dropped with the oldest.
+  }
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,98 @@
+#include "platform/sqlite_errors.h"
+
+#include <sqlite3.h>
+
+#include <optional>
+
+#include "platform/sql_dialect.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kShownLength = 400;
+constexpr std::size_t kShownValueLength = 40;
+constexpr int kPrimaryCodeMask = 0xff;
+
+/// A failed check names its rule, which the schema words as a sentence about a column: "timeout takes a whole number".
+std::string brokenRule(const std::string& message, std::string_view sql) {
+  static constexpr std::string_view kPrefix = "CHECK constraint failed: ";
+  if (!message.starts_with(kPrefix)) {
+    return message + ". Nothing was stored.";
+  }
+  const std::string rule = message.substr(kPrefix.size());
+  const std::optional<std::string_view> value = assignedText(sql, rule.substr(0, rule.find(' ')));
+  if (!value) {
+    return rule + ". Nothing was stored.";
+  }
+  const bool isShort = value->size() <= kShownValueLength;
+  return rule + "; " + (isShort ? std::string(*value) : std::string(value->substr(0, kShownValueLength)) + "...'") +
+         " was not stored.";
+}
+
+std::string constraintCause(int code, const std::string& message, std::string_view sql) {
+  switch (code) {
+    case SQLITE_CONSTRAINT_CHECK:
+      return brokenRule(message, sql);
+    case SQLITE_CONSTRAINT_PRIMARYKEY:
+    case SQLITE_CONSTRAINT_ROWID:
+    case SQLITE_CONSTRAINT_UNIQUE:
+      return "A record with this key is there already; nothing was stored. (" + message + ")";
+    default:
+      return "The database does not allow this value; nothing was stored. (" + message + ")";
+  }
+}
+
+std::string cause(int code, const std::string& message, const std::string& path, std::string_view sql) {
+  const std::string detail = " (" + message + ")";
+  switch (code & kPrimaryCodeMask) {
+    case SQLITE_BUSY:
+      return "The database " + path +
+             " is in use by another program, which has locked it. Close that program, or wait " +
+             "until it is done, and try again." + detail;
+    case SQLITE_LOCKED:
+      return "A table of the database is still being read; the change cannot be made now. Try again." + detail;
+    case SQLITE_READONLY:
+      return "The database " + path +
+             " cannot be changed: the file or its folder is read-only. Allow writing to both." + detail;
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+    case SQLITE_CANTOPEN:
+      return "The database " + path + " cannot be opened. Allow reading and writing the file and its folder." + detail;
+    case SQLITE_FULL:
+      return "The disk is full: the database " + path + " could not store this. Free some space and try again." +
+             detail;
+    case SQLITE_IOERR:
+      return "Reading or writing the database " + path + " failed. Check the disk it lies on, and its free space." +
+             detail;
+    case SQLITE_TOOBIG:
+      return "The text is too large for the database; nothing was stored." + detail;
+    case SQLITE_NOMEM:
+      return "There is not enough memory for this; nothing was stored." + detail;
+    case SQLITE_MISMATCH:
+      return "The record's number must be a whole number; nothing was stored." + detail;
+    case SQLITE_CONSTRAINT:
+      return constraintCause(code, message, sql);
+    default:
+      return "The database refused the statement: " + message;
+  }
+}
+
+}  // namespace
+
+std::string shownStatement(std::string_view sql) { return std::string(sql.substr(0, kShownLength)); }
+
+DataAccessError damagedDatabase(const std::string& path, const std::string& message, std::string_view sql) {
+  return {"The file " + path + " is damaged or is no database. Put back a good copy, for instance backup.mdb. (" +
+              message + ")",
+          shownStatement(sql)};
+}
+
+DataAccessError sqliteError(int code, const std::string& message, const std::string& path, std::string_view sql) {
+  const int primary = code & kPrimaryCodeMask;
+  if (primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB) {
+    return damagedDatabase(path, message, sql);
+  }
+  return {cause(code, message, path, sql), shownStatement(sql)};
+}
+
+}  // namespace tarnwick

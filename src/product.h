@@ -1,0 +1,8 @@
+#pragma once
+
+namespace tarnwick {
+
+/// The product's home page: in the mails it sends, as the sample address of a test alert, and where its logo leads.
+inline constexpr const char* kProductHomePage = "https://www.tarnwick.example/";
+
+}  // namespace tarnwick

@@ -1,0 +1,69 @@
+#include "program.h"
+
+#include <utility>
+
+namespace tarnwick {
+
+// What needs the open database. The controller refers to the pool and the data, so it is the first to go.
+struct Program::Parts {
+  Parts(const std::string& folder, const Services& services, RunView& view, FaultBox& faults)
+      : data(folder, services),
+        pool(data, services.transfers, services.timers),
+        run({data, data, data, data, pool, view, services.clock, services.pump}, services.timers,
+            [&faults](const std::string& handler, const std::function<void()>& action) {
+              faults.runRepeated(handler, action);
+            }) {}
+
+  m data;
+  InetPool pool;
+  RunController run;
+};
+
+Program::Program(std::string programFolder, const Services& services, RunView& view)
+    : programFolder_(std::move(programFolder)), services_(services), view_(view), faults_(services.prompts) {}
+
+Program::~Program() = default;
+
+Program::Parts& Program::parts() {
+  if (!parts_) {
+    parts_ = std::make_unique<Parts>(programFolder_, services_, view_, faults_);
+  }
+  return *parts_;
+}
+
+m& Program::data() { return parts().data; }
+RunController& Program::run() { return parts().run; }
+InetPool& Program::pool() { return parts().pool; }
+
+void Program::start() {
+  run().init();
+  data().reIdpostVars();
+  run().prepare();
+  view_.showStatus("Ready ...");
+}
+
+bool Program::startRun() {
+  // The passes that follow go on with the first one's work: what stopped that one is not told again by them.
+  return faults_.run([this] { run().startChecking(); }, "run");
+}
+
+void Program::stopRun() {
+  faults_.run([this] { run().stopChecking(); });
+}
+
+void Program::close() {
+  services_.pump.close();
+  if (!parts_) {
+    return;
+  }
+  if (parts_->run.running()) {
+    parts_->run.stopChecking();
+  }
+  if (!parts_->run.busy()) {
+    parts_->pool.killAllSockets();
+  }
+  parts_->data.single().sInet().cancel();
+  parts_->data.mail().winsock1().close();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "platform/clock.h"
+#include "store/database.h"
+
+namespace tarnwick {
+
+/// The page that sums up today's rows of table `log`: a line for each address and outcome with a bar, failures before
+/// successes, and three counts. Only the newest page is kept.
+class DailyReport {
+ public:
+  /// `clock` says which day today is.
+  DailyReport(Database& database, const Clock& clock) : db_(database), clock_(clock) {}
+
+  /// Writes the page to "reports/report.html" in the program folder, in place of an earlier one, and returns its full
+  /// path. A missing reports folder is made. The page shows "green.jpg" and "red.jpg" of that folder, which are not
+  /// made here.
+  ///
+  /// Raises DataAccessError when the log cannot be read; OverflowError when one address has 32763 rows or more of one
+  /// outcome today; FileError when the page cannot be written, and when the reports folder is there without any
+  /// visible file in it. An earlier page is left as it was in the first two cases.
+  std::string createReport();
+
+ private:
+  std::string reportSummary();
+  std::string reportSiteTable(LocalTime day);
+  static std::string reportTable(Recordset& rows);
+  std::string countTable(const std::string& sql);
+
+  Database& db_;
+  const Clock& clock_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,41 @@
+#include "report/report_timer.h"
+
+#include <chrono>
+#include <utility>
+
+namespace tarnwick {
+namespace {
+
+constexpr std::chrono::milliseconds kReportInterval{60000};
+
+}  // namespace
+
+ReportTimer::ReportTimer(Needs needs, TimerMaker& timers, Guard guard)
+    : needs_(std::move(needs)),
+      guard_(std::move(guard)),
+      tmrReport_(timers.makeTimer([this] { guard_("report", [this] { tmrReport_Timer(); }); })) {}
+
+void ReportTimer::prepare() {
+  reportTick_ = 60;
+  reportEvery_ = 60;
+  tmrReport_->setInterval(kReportInterval);
+  tmrReport_->setEnabled(true);
+}
+
+void ReportTimer::tmrReport_Timer() {
+  if (!needs_.running()) {
+    return;
+  }
+  ++reportTick_;
+  if (reportTick_ < reportEvery_) {
+    return;
+  }
+  reportTick_ = 1;
+  if (needs_.settings.getControl("cReports").toBool()) {
+    needs_.showStatus("Creating Report ...");
+    needs_.report.createReport();
+    needs_.showStatus("Report Done ...");
+  }
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,127 @@
+#include "store/compaction.h"
+
+#include <exception>
+#include <string_view>
+#include <utility>
+
+#include "platform/errors.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::string_view kLiveName = "tarnwick.mdb";
+constexpr std::string_view kTempName = "temp.mdb";
+constexpr const char* kBackupName = "backup.mdb";
+
+/// A copy bears this behind its name until it is whole.
+constexpr const char* kUnfinished = ".new";
+
+/// What may lie beside a database and belongs to it alone: beside another one of its name it would damage that one.
+constexpr const char* kSideFiles[] = {"-wal", "-shm", "-journal"};
+
+/// Runs `action`; false when it raised something.
+template <typename Action>
+bool succeeds(Action action) {
+  try {
+    action();
+    return true;
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+std::string Compaction::destinationOf(std::string connString) {
+  for (std::size_t at = 0; (at = connString.find(kLiveName, at)) != std::string::npos; at += kTempName.size()) {
+    connString.replace(at, kLiveName.size(), kTempName);
+  }
+  return connString;
+}
+
+bool Compaction::compact() {
+  db_.close();
+  const Outcome outcome = compactClosed();
+  // The box lets events in, and what they start finds the database open again.
+  std::exception_ptr notReopened;
+  try {
+    db_.reopen();
+  } catch (...) {
+    notReopened = std::current_exception();
+  }
+  if (!outcome.noBackup.empty()) {
+    prompts_.inform("Aborting compact:\r\n" + outcome.noBackup);
+  }
+  if (notReopened) {
+    std::rethrow_exception(notReopened);
+  }
+  return outcome.compacted;
+}
+
+Compaction::Outcome Compaction::compactClosed() {
+  std::unique_ptr<HeldDatabase> held;
+  try {
+    held = databases_.holdDatabase(db_.connString());
+    backUp(*held);
+  } catch (const DataAccessError& error) {
+    return {false, error.cause()};
+  } catch (const std::exception& error) {
+    return {false, error.what()};
+  }
+  const bool compacted = compactToTemp(*held);
+  if (compacted) {
+    // A failure leaves the database as it was, which is no loss.
+    succeeds([&] { putInPlace(std::move(held)); });
+  }
+  return {compacted, {}};
+}
+
+void Compaction::backUp(HeldDatabase& held) {
+  const std::string backup = inFolder(kBackupName);
+  const std::string unfinished = backup + kUnfinished;
+  files_.write(unfinished, db_.dbPath(), [&](const ByteSink& sink) { held.read(sink); });
+  try {
+    removeSideFiles(backup);
+    files_.rename(unfinished, backup);
+  } catch (...) {
+    succeeds([&] { files_.remove(unfinished); });
+    throw;
+  }
+}
+
+bool Compaction::compactToTemp(HeldDatabase& held) {
+  const std::string temp = inFolder(std::string(kTempName));
+  succeeds([&] { files_.remove(temp); });
+  const bool done = succeeds([&] {
+    removeSideFiles(temp);
+    held.compactInto(destinationOf(db_.connString()));
+  });
+  if (!done) {
+    // Where the disk is full, a partial file would stand in the way of everything else.
+    succeeds([&] { files_.remove(temp); });
+  }
+  return done;
+}
+
+void Compaction::putInPlace(std::unique_ptr<HeldDatabase> held) {
+  const std::string unfinished = db_.dbPath() + kUnfinished;
+  files_.copy(inFolder(std::string(kTempName)), unfinished);
+  if (!files_.replacesOpenFiles()) {
+    held.reset();
+  }
+  try {
+    removeSideFiles(db_.dbPath());
+    files_.rename(unfinished, db_.dbPath());
+  } catch (...) {
+    succeeds([&] { files_.remove(unfinished); });
+    throw;
+  }
+}
+
+void Compaction::removeSideFiles(const std::string& path) {
+  for (const char* const ending : kSideFiles) {
+    files_.remove(path + ending);
+  }
+}
+
+}  // namespace tarnwick

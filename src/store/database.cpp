@@ -1,0 +1,56 @@
+#include "store/database.h"
+
+#include <filesystem>
+#include <utility>
+
+namespace tarnwick {
+
+Database::Database(const std::string& programFolder, SqlConnectionMaker& databases)
+    : conn_(databases.makeSqlConnection()),
+      dbPath_((std::filesystem::path(programFolder) / "tarnwick.mdb").string()),
+      programFolder_(programFolder) {
+  connString_ =
+      "Provider=Microsoft.Jet.OLEDB.4.0;"
+      "Data Source=" +
+      dbPath_ +
+      ";"
+      "Jet OLEDB:Engine Type=4;";
+  conn_->open(connString_);
+}
+
+Database::~Database() { conn_->close(); }
+
+SqlConnection& Database::conn() {
+  if (!conn_->isOpen()) {
+    conn_->open(connString_);
+  }
+  return *conn_;
+}
+
+std::unique_ptr<Recordset> Database::query(std::string sql) {
+  sqlText_ = std::move(sql);
+  return conn().execute(sqlText_);
+}
+
+void Database::execute(std::string sql) { query(std::move(sql))->close(); }
+
+Transaction::Transaction(Database& database) : conn_(database.conn()), owner_(!conn_.inTransaction()) {
+  if (owner_) {
+    conn_.begin();
+  }
+}
+
+Transaction::~Transaction() {
+  if (owner_) {
+    conn_.rollback();
+  }
+}
+
+void Transaction::commit() {
+  if (owner_) {
+    conn_.commit();
+    owner_ = false;
+  }
+}
+
+}  // namespace tarnwick

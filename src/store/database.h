@@ -1,0 +1,65 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/sql_connection.h"
+
+namespace tarnwick {
+
+/// The one connection to the program's database, `tarnwick.mdb` in the program folder. It is open for this object's
+/// whole life but for a compaction; every statement of the program runs on it.
+class Database {
+ public:
+  /// Opens the database of `programFolder` (no trailing separator). The file must exist: a missing or damaged one
+  /// raises DataAccessError and nothing is created in its place.
+  Database(const std::string& programFolder, SqlConnectionMaker& databases);
+  ~Database();
+  Database(const Database&) = delete;
+  Database& operator=(const Database&) = delete;
+
+  /// Runs a statement that returns rows.
+  std::unique_ptr<Recordset> query(std::string sql);
+  /// Runs a statement whose rows, if any, do not matter.
+  void execute(std::string sql);
+
+  /// The statement most recently built.
+  const std::string& sqlText() const { return sqlText_; }
+  const std::string& connString() const { return connString_; }
+  /// Full path of the database file.
+  const std::string& dbPath() const { return dbPath_; }
+  const std::string& programFolder() const { return programFolder_; }
+  /// The connection, opened again if it is closed.
+  SqlConnection& conn();
+
+  /// Closes the connection; only what works on the file itself does so.
+  void close() noexcept { conn_->close(); }
+  /// Opens the connection again with the same connection string; raises DataAccessError as at the beginning. The
+  /// next statement tries once more then, so that a file put back later is found.
+  void reopen() { conn(); }
+
+ private:
+  std::string sqlText_;
+  std::string connString_;
+  std::unique_ptr<SqlConnection> conn_;
+  std::string dbPath_;
+  std::string programFolder_;
+};
+
+/// Makes the statements run during its life one whole: all of them are kept when `commit` is called, none otherwise.
+/// Inside another transaction it changes nothing: the outer one decides.
+class Transaction {
+ public:
+  explicit Transaction(Database& database);
+  ~Transaction();
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+
+  void commit();
+
+ private:
+  SqlConnection& conn_;
+  bool owner_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,70 @@
+#include "store/settings_and_log.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "platform/transfer_control.h"
+#include "store/first_field.h"
+
+namespace tarnwick {
+namespace {
+
+std::string lowerCase(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return text;
+}
+
+/// Yes/no settings go into the statement bare, all others quoted; the database makes a number of a quoted number.
+std::string_view delimiterOf(const std::string& key) {
+  static constexpr std::array<std::string_view, 5> kFlags = {"clogs", "creports", "cemail", "caudio", "cprogram"};
+  return std::find(kFlags.begin(), kFlags.end(), lowerCase(key)) == kFlags.end() ? "'" : "";
+}
+
+}  // namespace
+
+SqlValue SettingsAndLog::getControl(const std::string& key) {
+  return firstField(db_, joinSql("select ", sqlQuote(key), " from control ", "where id = 1"))
+      .value_or(SqlValue(std::string()));
+}
+
+void SettingsAndLog::writeControl(const std::string& key, const std::string& quotedValue) {
+  const std::string_view delimiter = delimiterOf(key);
+  db_.execute(joinSql("update control set ", sqlQuote(key), " = ", delimiter, quotedValue, delimiter, " where id = 1"));
+}
+
+std::chrono::seconds SettingsAndLog::requestTimeout() {
+  const std::chrono::seconds timeout(getControl("timeout").toInt32("the setting timeout"));
+  return timeout > std::chrono::seconds::zero() ? timeout : kDefaultRequestTimeout;
+}
+
+void SettingsAndLog::addLog(std::int16_t idSite, const std::string& url, bool status, std::int32_t errCode,
+                            const std::string& errDescription, const std::string& content) {
+  if (!getControl("clogs").toBool()) {
+    return;
+  }
+  db_.execute(joinSql("insert into log (idSite,url,status,errCode,errDescription,content) values ", "(",
+                      sqlQuote(idSite), ",", "'", sqlQuote(url), "'", ",", sqlQuote(status), ",", sqlQuote(errCode),
+                      ",", "'", sqlQuote(errDescription), "',", "'", sqlQuote(content), "'", ")"));
+}
+
+void SettingsAndLog::clearLog() { db_.execute("delete from log"); }
+
+void SettingsAndLog::Test() {
+  db_.execute("delete from test");
+  for (int i = 1; i <= 10; ++i) {
+    const std::string number = sqlQuote(i);
+    db_.execute(joinSql("insert into test ", "(tname,tvalue)", " values ", "(", "'", "tname", number, "'", ",", "'",
+                        "tvalue-", number, number, "'", ")"));
+  }
+  const auto rows = db_.query("select id,tname,tvalue from test");
+  for (; !rows->eof(); rows->moveNext()) {
+    for (const std::string_view column : {"id", "tname", "tvalue"}) {
+      static_cast<void>(rows->field(column));  // a column that cannot be read raises the error that is looked for
+    }
+  }
+  rows->close();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <chrono>
+#include <concepts>
+#include <cstdint>
+#include <string>
+
+#include "store/database.h"
+#include "store/sql_quote.h"
+
+namespace tarnwick {
+
+/// The program's settings, which are the columns of the one row of table `control`, and the log of check results.
+/// Nothing is cached: a changed setting takes effect at its next use. Every failed statement raises DataAccessError.
+class SettingsAndLog {
+ public:
+  explicit SettingsAndLog(Database& database) : db_(database) {}
+
+  /// The setting `key`, a column's name in any letter case; an empty text when the settings row is missing. Raises
+  /// DataAccessError when there is no such column.
+  SqlValue getControl(const std::string& key);
+
+  /// Writes the setting `key`: a text, a yes/no or a whole number. Raises DataAccessError when there is no such
+  /// column or it cannot hold the value; the stored value stays then.
+  template <typename Value>
+  requires std::integral<Value> || std::convertible_to<const Value&, std::string_view>
+  void setControl(const std::string& key, const Value& value) { writeControl(key, sqlQuote(value)); }
+
+  /// The setting `timeout`; 60 seconds when it is Null, empty, 0 or less. Raises OverflowError past 32 bits.
+  std::chrono::seconds requestTimeout();
+
+  /// Adds a check's result to the log when the setting `clogs` is true; its time is filled in by the database.
+  void addLog(std::int16_t idSite, const std::string& url, bool status, std::int32_t errCode,
+              const std::string& errDescription, const std::string& content);
+
+  /// Empties the log.
+  void clearLog();
+
+  /// Writes ten rows to the scratch table `test` and reads them back.
+  void Test();
+
+ private:
+  void writeControl(const std::string& key, const std::string& quotedValue);
+
+  Database& db_;
+};
+
+}  // namespace tarnwick

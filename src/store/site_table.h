@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "store/database.h"
+#include "store/text_table.h"
+
+namespace tarnwick {
+
+/// The fields of a site table, in the order of its columns.
+inline constexpr const char* kSiteFields =
+    "idSite,url,method,active,tInterval,lastChecked,alertEmail,email,sUserName,sPassWord,status,success,failure";
+
+/// The numbers of a site table's columns.
+namespace site_column {
+inline constexpr std::size_t idSite = 1;
+inline constexpr std::size_t url = 2;
+inline constexpr std::size_t method = 3;
+inline constexpr std::size_t active = 4;
+inline constexpr std::size_t tInterval = 5;
+inline constexpr std::size_t lastChecked = 6;
+inline constexpr std::size_t alertEmail = 7;
+inline constexpr std::size_t email = 8;
+inline constexpr std::size_t sUserName = 9;
+inline constexpr std::size_t sPassWord = 10;
+inline constexpr std::size_t status = 11;
+inline constexpr std::size_t success = 12;
+inline constexpr std::size_t failure = 13;
+inline constexpr std::size_t last = failure;
+}  // namespace site_column
+
+/// Runs `sql`, whose select list is `kSiteFields`, and returns its rows in the order they come. Raises DataAccessError.
+TextTable readSiteTable(Database& database, std::string sql);
+
+}  // namespace tarnwick

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+#include "platform/desktop.h"
+
+namespace tarnwick {
+
+/// Whole files read and written, and files handed to the desktop. Paths are UTF-8; bytes are kept as they are. A file
+/// that cannot be opened, read or written raises FileError, which names it and the cause.
+class TextFiles {
+ public:
+  explicit TextFiles(DesktopOpener& opener) : opener_(opener) {}
+
+  /// Writes `data` over the start of the file, which is made when it is missing. What an existing file holds beyond
+  /// the data stays.
+  static void saveFileB(const std::string& path, const std::string& data);
+
+  /// Replaces the file by `text` and one CR LF.
+  static void saveFile(const std::string& path, const std::string& text);
+
+  /// The whole file.
+  static std::string getFile(const std::string& path);
+
+  /// Asks the desktop to open the file; whether it did is not reported.
+  void openFileFromSystem(const std::string& path);
+
+ private:
+  DesktopOpener& opener_;
+};
+
+}  // namespace tarnwick

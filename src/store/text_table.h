@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace tarnwick {
+
+/// A list read from the database as texts, indexed (column, row). Both count from 1; column 0 and row 0 exist and
+/// stay empty. A database Null is the text "NULL".
+class TextTable {
+ public:
+  /// A table with columns 0 to `lastColumn` and row 0 only.
+  explicit TextTable(std::size_t lastColumn = 0) : columns_(lastColumn + 1), cells_(columns_) {}
+
+  /// The number of the last column.
+  std::size_t lastColumn() const { return columns_ - 1; }
+  /// The number of the last row: how many rows are filled.
+  std::size_t lastRow() const { return cells_.size() / columns_ - 1; }
+
+  /// Adds an empty row and returns its number.
+  std::size_t addRow() {
+    cells_.resize(cells_.size() + columns_);
+    return lastRow();
+  }
+
+  /// The text at (`column`, `row`); raises std::out_of_range beyond the last ones.
+  const std::string& at(std::size_t column, std::size_t row) const { return cells_.at(indexOf(column, row)); }
+  std::string& at(std::size_t column, std::size_t row) { return cells_.at(indexOf(column, row)); }
+
+ private:
+  std::size_t indexOf(std::size_t column, std::size_t row) const {
+    return column < columns_ ? row * columns_ + column : cells_.size();
+  }
+
+  std::size_t columns_;
+  std::vector<std::string> cells_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string_view>
+#include <QString>
+
+namespace tarnwick {
+
+/// Bytes as they are shown: read as UTF-8 when they are valid UTF-8, otherwise as Windows-1252.
+QString displayText(std::string_view bytes);
+
+/// A tooltip that shows `text` as it stands: a tooltip would take a text that looks like HTML for a page.
+QString plainToolTip(const QString& text);
+
+}  // namespace tarnwick

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <QDialog>
+
+#include "program.h"
+#include "ui/byte_line_edit.h"
+#include "ui/post_var_model.h"
+
+namespace tarnwick {
+
+/// The form `newPostVar`: changes or deletes one POST variable of the site that the site editor shows.
+class NewPostVar final : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// Edits the variable `idPostVars`, which is `var` now. `program` outlives the form; `siteEditor` is below it.
+  NewPostVar(Program& program, std::int16_t idPostVars, PostVar var, QWidget* siteEditor);
+
+  /// Shows the variable's name and value.
+  void populateMe();
+
+ private:
+  void layOut();
+  void Form_Load();
+  void Command4_Click();
+  void Command1_Click();
+  void Command2_Click();
+
+  Program& program_;
+  std::int16_t idPostVars_;
+  PostVar var_;
+  ByteLineEdit* pvName_ = nullptr;
+  ByteLineEdit* pvValue_ = nullptr;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,86 @@
+#include "ui/site_draft.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "m.h"
+#include "platform/sql_value.h"
+#include "store/site_table.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kNull = "NULL";
+constexpr std::int16_t kIntervalOfNewSite = 10;
+
+std::runtime_error siteIsGone(std::int16_t idSite) {
+  return std::runtime_error("The site " + std::to_string(idSite) +
+                            " is not in the list any more. Close its editor; to watch it again, add it with New.");
+}
+
+std::string textOf(const std::string& cell) { return cell == kNull ? std::string() : cell; }
+bool flagOf(const std::string& cell) { return SqlValue(cell).toBool(); }
+
+std::size_t rowOf(const TextTable& sites, std::int16_t idSite) {
+  const std::string id = std::to_string(idSite);
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    if (sites.at(site_column::idSite, row) == id) {
+      return row;
+    }
+  }
+  throw siteIsGone(idSite);
+}
+
+// A variable is looked up by its stored texts, and a Null equals none.
+bool isStoredAs(m& data, std::int16_t idSite, const PostVar& var) {
+  return data.getIdPostVars(idSite, var.name, var.value) != 0;
+}
+
+}  // namespace
+
+SiteDraft readSite(m& data, std::int16_t idSite) {
+  const TextTable sites = data.getArraySites(idSite);
+  const std::size_t row = rowOf(sites, idSite);
+  const auto cell = [&](std::size_t column) { return sites.at(column, row); };
+  return {textOf(cell(site_column::url)),        textOf(cell(site_column::method)),
+          flagOf(cell(site_column::active)),     textOf(cell(site_column::tInterval)),
+          flagOf(cell(site_column::alertEmail)), textOf(cell(site_column::email)),
+          textOf(cell(site_column::sUserName)),  textOf(cell(site_column::sPassWord))};
+}
+
+std::vector<PostVar> readPostVars(m& data, std::int16_t idSite) {
+  const TextTable table = data.getPostVars(idSite);
+  std::vector<PostVar> vars;
+  for (std::size_t row = 1; row <= table.lastRow(); ++row) {
+    PostVar var{table.at(1, row), table.at(2, row)};
+    if ((var.name == kNull || var.value == kNull) && !isStoredAs(data, idSite, var)) {
+      var = {textOf(var.name), textOf(var.value)};
+    }
+    vars.push_back(std::move(var));
+  }
+  return vars;
+}
+
+void requireSite(m& data, std::int16_t idSite) {
+  if (!data.idExists(idSite)) {
+    throw siteIsGone(idSite);
+  }
+}
+
+void storeSite(m& data, std::int16_t idSite, const SiteDraft& site, const std::vector<PostVar>& vars) {
+  Transaction whole(data.database());
+  // Variables of a site that is gone would be sent by the next one of its id.
+  requireSite(data, idSite);
+  const std::int16_t interval =
+      site.tInterval.empty() ? kIntervalOfNewSite
+                             : SqlValue(site.tInterval).toInt16("The interval of site " + std::to_string(idSite));
+  data.updateSites(idSite, site.url, site.method, site.active, interval, site.alertEmail, site.email, site.sUserName,
+                   site.sPassWord);
+  data.clearPostVars(idSite);
+  for (const PostVar& var : vars) {
+    data.addPostVars(idSite, var.name, var.value);
+  }
+  whole.commit();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+#include <QAbstractTableModel>
+#include <QColor>
+
+#include "store/text_table.h"
+
+namespace tarnwick {
+
+/// The site list as the grid shows it: one row a site, in the order of the database. Rows are found by their site's id
+/// without a search, so that a result costs the same in a list of ten sites and of thirty thousand.
+class SiteGridModel final : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  enum Column { idColumn, urlColumn, upColumn, downColumn, timeColumn, columnsOfGrid };
+
+  explicit SiteGridModel(QObject* parent = nullptr) : QAbstractTableModel(parent) {}
+
+  /// Shows the sites of a whole site list in place of what was shown. Marks of sites that are still there stay.
+  void setSites(const TextTable& sites);
+  /// Writes the record of one site, the first of `sites`, into the rows of its id. Nothing when `sites` is empty.
+  void updateSite(const TextTable& sites);
+  /// Paints the site's rows for a result; a site that is not active stays grey. Ends its mark.
+  void setResult(std::int16_t idSite, bool passed);
+  void setLastChecked(std::int16_t idSite, const std::string& dateTime);
+
+  /// Marks the site: adds `amount` to each part of the colour that its "URL" cell has now, and paints its "ID" and
+  /// "URL" cells so.
+  void brighten(std::int16_t idSite, int amount);
+  /// Paints the site's rows in the colour of its status again.
+  void unbrighten(std::int16_t idSite);
+
+  /// The site of a row; nothing beyond the rows, or when the "ID" cell holds no number of 16 bits.
+  std::optional<std::int16_t> siteOfRow(int row) const;
+  /// The first row of a site, -1 when it has none.
+  int rowOfSite(std::int16_t idSite) const;
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+ private:
+  enum class Shade { unjudged, up, down, inactive };
+
+  struct Row {
+    std::string id;
+    std::string url;
+    std::string up;
+    std::string down;
+    std::string time;
+    Shade shade = Shade::unjudged;
+  };
+
+  static Row readRow(const TextTable& sites, std::size_t row);
+  static QColor colourOf(Shade shade);
+  static QString stateText(Shade shade);
+  const std::string& cellText(const Row& row, int column) const;
+  QColor background(const QModelIndex& index) const;
+  void repaintRow(int row);
+  /// Calls `change` with each row of the site and has it painted again.
+  template <typename Change>
+  void changeRows(std::int16_t idSite, Change change);
+
+  std::vector<Row> rows_;
+  // Ids are unique unless another tool made the file; then every row of an id follows its site.
+  std::unordered_multimap<std::int16_t, int> rowsOfSite_;
+  std::unordered_map<std::int16_t, QColor> marks_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <QDialog>
+
+namespace tarnwick {
+
+/// The form `vars`: a button and a picture under the product's name.
+class VarsForm final : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// The picture is the product's logo, from the folder "images" of `programFolder`.
+  explicit VarsForm(const std::string& programFolder, QWidget* parent = nullptr);
+
+ private:
+  void Form_Load();
+};
+
+}  // namespace tarnwick

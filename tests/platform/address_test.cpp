@@ -1,0 +1,53 @@
+#include "platform/address.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnwick {
+namespace {
+
+std::string urlOf(const std::string& text) {
+  const auto address = parseAddress(text);
+  return address ? address->url : "invalid";
+}
+
+TEST(Address, IsTakenApart) {
+  const auto address = parseAddress("HTTPS://Example.test/a?b#c");
+  ASSERT_TRUE(address);
+  EXPECT_EQ(address->scheme, "https");
+  EXPECT_EQ(address->port, "443");
+  EXPECT_EQ(address->host, "Example.test");
+  EXPECT_EQ(parseAddress("http://a.test:8080/")->port, "8080");
+}
+
+TEST(Address, WithoutSchemeIsHttp) {
+  EXPECT_EQ(urlOf("example.test"), "http://example.test/");
+  EXPECT_EQ(urlOf("example.test:8080/a"), "http://example.test:8080/a");
+  EXPECT_EQ(urlOf("//example.test/a"), "http://example.test/a");
+  EXPECT_EQ(urlOf("ftp.example.test/a"), "http://ftp.example.test/a");
+  EXPECT_EQ(urlOf("example.test/?next=https://other.test/"), "http://example.test/?next=https://other.test/");
+}
+
+TEST(Address, BlanksAroundItDoNotCountAndInnerOnesAreEncoded) {
+  EXPECT_EQ(urlOf("\t http://a.test/b c \n"), "http://a.test/b%20c");
+  EXPECT_EQ(urlOf("http://a.test/%20"), "http://a.test/%20");
+  EXPECT_EQ(urlOf("http://a.test/\xc3\xa4"), "http://a.test/%c3%a4");
+}
+
+TEST(Address, OfAnotherSchemeIsValidButNotFetched) {
+  const auto address = parseAddress("gopher://a.test/");
+  ASSERT_TRUE(address);
+  EXPECT_FALSE(isFetchedScheme(address->scheme));
+  for (const std::string scheme : {"http", "https", "ftp", "ftps"}) {
+    EXPECT_TRUE(isFetchedScheme(scheme));
+  }
+}
+
+TEST(Address, WithAControlCharacterIsInvalid) {
+  using namespace std::string_literals;
+  for (const std::string& text : {"http://a.test/\r\nb"s, "http://a.test/\0b"s, "http://a\x7f.test/"s, ""s, "  "s}) {
+    EXPECT_FALSE(parseAddress(text));
+  }
+}
+
+}  // namespace
+}  // namespace tarnwick

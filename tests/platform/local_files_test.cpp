@@ -1,0 +1,140 @@
+#include "platform/local_files.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+
+#include "platform/errors.h"
+#include "support/program_folder.h"
+
+namespace tarnwick::testing {
+namespace {
+
+namespace fs = std::filesystem;
+class LocalFilesTest : public ::testing::Test {
+ protected:
+  std::string at(const std::string& name) const { return folder_.file(name); }
+  std::string read(const std::string& name) const {
+    std::ifstream file(at(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  void make(const std::string& name, const std::string& bytes) const {
+    std::ofstream(at(name), std::ios::binary) << bytes;
+  }
+
+  LocalFiles files;
+
+ private:
+  ProgramFolder folder_;
+};
+
+TEST_F(LocalFilesTest, CopyOfManyPiecesIsTheSame) {
+  std::string bytes(3 * 1024 * 1024 + 17, '\0');
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    bytes[i] = static_cast<char>(i * 31 % 251);
+  }
+  make("a", bytes);
+  make("b", "earlier");
+  files.copy(at("a"), at("b"));
+  EXPECT_TRUE(read("b") == bytes);
+}
+
+TEST_F(LocalFilesTest, CopyOfAnEmptyFileIsEmpty) {
+  make("a", "");
+  make("b", "earlier");
+  files.copy(at("a"), at("b"));
+  EXPECT_EQ(read("b"), "");
+}
+
+TEST_F(LocalFilesTest, CopyOfAMissingFileIsAnErrorAndMakesNothing) {
+  EXPECT_THROW(files.copy(at("none"), at("b")), FileError);
+  EXPECT_FALSE(fs::exists(at("b")));
+}
+
+TEST_F(LocalFilesTest, FileThatCannotBeCompletedIsRemoved) {
+  make("like", "");
+  EXPECT_THROW(files.write(at("a"), at("like"),
+                           [](const ByteSink& sink) {
+                             sink("half");
+                             throw std::runtime_error("the source ended");
+                           }),
+               std::runtime_error);
+  EXPECT_FALSE(fs::exists(at("a")));
+}
+
+TEST_F(LocalFilesTest, NewFileHasThePermissionsOfItsModelFromTheStart) {
+  const fs::perms ownerOnly = fs::perms::owner_read | fs::perms::owner_write;
+  make("like", "");
+  fs::permissions(at("like"), ownerOnly);
+  files.write(at("a"), at("like"), [&](const ByteSink&) { EXPECT_EQ(fs::status(at("a")).permissions(), ownerOnly); });
+  EXPECT_EQ(fs::status(at("a")).permissions(), ownerOnly);
+}
+
+TEST_F(LocalFilesTest, RenamedFileTakesTheOtherOnesPlace) {
+  make("a", "new");
+  make("b", "old");
+  files.rename(at("a"), at("b"));
+  EXPECT_EQ(read("b"), "new");
+  EXPECT_FALSE(fs::exists(at("a")));
+}
+
+TEST_F(LocalFilesTest, RenamingOntoAFolderIsAnErrorThatNamesIt) {
+  make("a", "new");
+  fs::create_directory(at("b"));
+  try {
+    files.rename(at("a"), at("b"));
+    FAIL() << "No error was raised.";
+  } catch (const FileError& error) {
+    EXPECT_EQ(error.path(), at("b"));
+  }
+  EXPECT_EQ(read("a"), "new");
+}
+
+TEST_F(LocalFilesTest, RemovingAMissingFileChangesNothing) { EXPECT_NO_THROW(files.remove(at("none"))); }
+
+TEST_F(LocalFilesTest, FolderIsNotRemovedAsAFile) {
+  fs::create_directory(at("b"));
+  EXPECT_THROW(files.remove(at("b")), FileError);
+  EXPECT_TRUE(fs::exists(at("b")));
+}
+
+/// Makes files of this process end at `size` bytes, for this object's life.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{size, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+ private:
+  void (*handler_)(int);
+  rlimit before_{};
+};
+
+TEST_F(LocalFilesTest, FileThatFindsNoRoomIsAnErrorThatNamesItAndLeavesNothing) {
+  make("from", std::string(1 << 20, 'x'));
+  const FileSizeLimit limit(100000);
+  try {
+    files.copy(at("from"), at("to"));
+    FAIL() << "No error was raised.";
+  } catch (const FileError& error) {
+    EXPECT_EQ(error.path(), at("to"));
+  }
+  EXPECT_FALSE(fs::exists(at("to")));
+}
+
+}  // namespace
+}  // namespace tarnwick::testing

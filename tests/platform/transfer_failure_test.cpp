@@ -1,0 +1,267 @@
+// Each way in which a transfer fails: its number, its words, and the states that had been reached.
+#include "platform/transfer_failure.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+#include "platform/curl_transfers.h"
+#include "support/http_message.h"
+#include "support/http_server.h"
+#include "transfer_probe.h"
+
+namespace tarnwick::testing {
+namespace {
+
+using States = std::vector<int>;
+
+class TransferFailures : public ::testing::Test {
+ protected:
+  std::string place() const { return "127.0.0.1 port " + std::to_string(server_.port()); }
+
+  void expectFailure(const std::string& path, TransferFault fault, const std::string& cause) {
+    EXPECT_EQ(probe_.fetch(server_.url(path)), "");
+    EXPECT_TRUE(probe_.failed());
+    EXPECT_EQ(probe_.fault(), fault);
+    EXPECT_EQ(probe_.cause(), cause);
+    EXPECT_EQ(probe_.idles, 1);
+  }
+
+  HttpServer server_;
+  CurlTransfers transfers_;
+  TransferProbe probe_{transfers_};
+};
+
+TEST_F(TransferFailures, UnknownHost) {
+  probe_.fetch("http://nosuch.invalid/");
+  EXPECT_EQ(probe_.fault(), TransferFault::nameLookup);
+  EXPECT_EQ(probe_.cause(), "The name of the host nosuch.invalid could not be found.");
+  EXPECT_EQ(probe_.states, (States{1, 11}));
+}
+
+TEST_F(TransferFailures, NobodyListens) {
+  std::string url;
+  {
+    const HttpServer gone;
+    url = gone.url();
+  }
+  probe_.fetch(url);
+  EXPECT_EQ(probe_.fault(), TransferFault::refused);
+  EXPECT_EQ(probe_.cause(),
+            "The connection to " + url.substr(7, 9) + " port " + url.substr(17, url.size() - 18) + " was refused.");
+  EXPECT_EQ(probe_.states, (States{1, 2, 3, 11}));
+}
+
+TEST_F(TransferFailures, InvalidAddresses) {
+  const std::vector<std::string> addresses{"http://", "http://a b/", "http://[::1", "http://x:99999/", "http://%zz/"};
+  for (const std::string& address : addresses) {
+    probe_.fetch(address);
+    EXPECT_EQ(probe_.states, States{11}) << address;
+    EXPECT_EQ(probe_.fault(), TransferFault::badUrl) << address;
+    EXPECT_EQ(probe_.cause(), "The address " + address + " is not valid.");
+  }
+}
+
+TEST_F(TransferFailures, EmptyAddress) {
+  probe_.fetch("");
+  EXPECT_EQ(probe_.states, States{11});
+  EXPECT_EQ(probe_.fault(), TransferFault::badUrl);
+  EXPECT_EQ(probe_.cause(), "The address is empty.");
+}
+
+TEST_F(TransferFailures, SchemesThatAreNotFetched) {
+  for (const std::string scheme : {"file", "gopher", "javascript", "smb", "nosuch"}) {
+    probe_.fetch(scheme + "://127.0.0.1/etc/hostname");
+    EXPECT_EQ(probe_.states, States{11}) << scheme;
+    EXPECT_EQ(probe_.fault(), TransferFault::badUrl) << scheme;
+    EXPECT_EQ(probe_.cause(), "Addresses of the kind " + scheme + " are not fetched, only http, https, ftp and ftps.");
+  }
+}
+
+TEST_F(TransferFailures, RedirectToASchemeThatIsNotFetched) {
+  server_.respond("/a", HttpResponse::redirect("file:///etc/hostname"));
+  expectFailure("/a", TransferFault::badUrl,
+                "Addresses of the kind file are not fetched, only http, https, ftp and ftps.");
+  EXPECT_EQ(probe_.states, (States{1, 2, 3, 4, 5, 6, 7, 11}));
+}
+
+TEST_F(TransferFailures, RedirectInACircle) {
+  server_.respond("/a", HttpResponse::redirect("/a"));
+  expectFailure("/a", TransferFault::tooManyRedirects, "The server redirected more than 20 times.");
+  EXPECT_EQ(server_.requests().size(), 21U);
+}
+
+TEST_F(TransferFailures, TwentyRedirectsAreFollowed) {
+  server_.handleOthers([](const HttpRequest& request) {
+    const int step = std::stoi(request.target.substr(1));
+    return step == 20 ? HttpResponse{.body = "end"} : HttpResponse::redirect("/" + std::to_string(step + 1));
+  });
+  EXPECT_EQ(probe_.fetch(server_.url("/0")), "end");
+}
+
+TEST_F(TransferFailures, SilentServerEndsAtTheTimeOut) {
+  server_.respond("/silent", {.hold = true});
+  probe_.control->setRequestTimeout(std::chrono::seconds{1});
+  const auto start = std::chrono::steady_clock::now();
+  expectFailure("/silent", TransferFault::timeOut, "The request took longer than 1 second.");
+  const auto taken = std::chrono::steady_clock::now() - start;
+  EXPECT_GE(taken, std::chrono::milliseconds{900});
+  EXPECT_LT(taken, std::chrono::seconds{5});
+  EXPECT_EQ(probe_.states, (States{1, 2, 3, 4, 5, 6, 11}));
+}
+
+TEST_F(TransferFailures, TimeOutBoundsTheWholeRequestNotItsSilence) {
+  server_.respond("/drip", {.body = std::string(1000, 'x'), .dripBytes = 1});
+  probe_.control->setRequestTimeout(std::chrono::seconds{2});
+  const auto start = std::chrono::steady_clock::now();
+  expectFailure("/drip", TransferFault::timeOut, "The request took longer than 2 seconds.");
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds{6});
+  EXPECT_EQ(probe_.states, (States{1, 2, 3, 4, 5, 6, 7, 11}));
+}
+
+TEST_F(TransferFailures, TimeOutBoundsAllRedirectsTogether) {
+  server_.handleOthers([](const HttpRequest&) {
+    HttpResponse next = HttpResponse::redirect("/again");
+    next.delay = std::chrono::milliseconds{400};
+    return next;
+  });
+  probe_.control->setRequestTimeout(std::chrono::seconds{1});
+  expectFailure("/a", TransferFault::timeOut, "The request took longer than 1 second.");
+}
+
+TEST_F(TransferFailures, TimeOutOfNothingIsTheDefault) {
+  for (const int seconds : {0, -5}) {
+    probe_.control->setRequestTimeout(std::chrono::seconds{seconds});
+    EXPECT_EQ(probe_.control->requestTimeout(), kDefaultRequestTimeout);
+  }
+  server_.respond("/a", {.body = "hello"});
+  EXPECT_EQ(probe_.fetch(server_.url("/a")), "hello");
+}
+
+TEST_F(TransferFailures, VeryLongTimeOutIsNoError) {
+  probe_.control->setRequestTimeout(std::chrono::seconds{4'000'000'000});
+  server_.respond("/a", {.body = "hello"});
+  EXPECT_EQ(probe_.fetch(server_.url("/a")), "hello");
+}
+
+TEST_F(TransferFailures, ConnectionClosedWithoutAnAnswer) {
+  server_.respond("/a", {.drop = true});
+  expectFailure("/a", TransferFault::dropped, "The server " + place() + " closed the connection without an answer.");
+}
+
+TEST_F(TransferFailures, PageShorterThanAnnounced) {
+  server_.respond("/a", {.body = "hello world", .missingBytes = 3});
+  expectFailure("/a", TransferFault::dropped, "The server " + place() + " broke the connection off during its answer.");
+}
+
+TEST_F(TransferFailures, ChunkedPageCutShort) {
+  server_.respond("/a", {.body = std::string(5000, 'x'), .chunked = true, .missingBytes = 700});
+  expectFailure("/a", TransferFault::dropped, "The server " + place() + " broke the connection off during its answer.");
+}
+
+TEST_F(TransferFailures, BadChunk) {
+  server_.respond("/a", {.raw = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nzz\r\nhello\r\n0\r\n\r\n"});
+  expectFailure("/a", TransferFault::dropped, "The answer of the server " + place() + " is damaged: bad chunk.");
+}
+
+TEST_F(TransferFailures, GarbageInsteadOfHttp) {
+  server_.respond("/a", {.raw = "220 mail.example ESMTP\r\n"});
+  expectFailure("/a", TransferFault::other, "The server " + place() + " did not answer in the language of HTTP.");
+}
+
+TEST_F(TransferFailures, CompressedPageThatIsNone) {
+  server_.respond("/a", {.headers = {{"Content-Encoding", "gzip"}}, .body = "this is not gzip at all"});
+  expectFailure("/a", TransferFault::badContentCoding,
+                "The compressed answer of the server " + place() + " could not be decoded.");
+}
+
+TEST_F(TransferFailures, CompressedPageWithAWrongChecksumOrATail) {
+  const std::string packed = compressed(std::string(5000, 'x'), HttpCoding::gzip);
+  std::string flipped = packed;
+  flipped[flipped.size() - 6] = static_cast<char>(~flipped[flipped.size() - 6]);
+  for (const std::string& body : {flipped, packed + "and a tail that is long enough"}) {
+    server_.respond("/a", {.headers = {{"Content-Encoding", "gzip"}}, .body = body});
+    expectFailure("/a", TransferFault::badContentCoding,
+                  "The compressed answer of the server " + place() + " could not be decoded.");
+  }
+}
+
+TEST_F(TransferFailures, UnknownContentCoding) {
+  server_.respond("/a", {.headers = {{"Content-Encoding", "x-own"}}, .body = "coded"});
+  expectFailure("/a", TransferFault::badContentCoding,
+                "The compressed answer of the server " + place() + " could not be decoded.");
+}
+
+TEST_F(TransferFailures, PlainServerAskedForHttps) {
+  server_.respond("/a", {.body = "plain"});
+  probe_.fetch("https" + server_.url("/a").substr(4));
+  EXPECT_EQ(probe_.fault(), TransferFault::secureConnection);
+  EXPECT_EQ(probe_.cause(), "No secure connection to " + place() + " could be made: wrong version number.");
+  EXPECT_EQ(probe_.states, (States{1, 2, 3, 4, 11}));
+}
+
+TEST_F(TransferFailures, NextRequestForgetsTheFailure) {
+  server_.respond("/a", {.body = "hello"});
+  probe_.fetch("http://nosuch.invalid/");
+  EXPECT_EQ(probe_.fetch(server_.url("/a")), "hello");
+  EXPECT_EQ(probe_.fault(), TransferFault::none);
+  EXPECT_EQ(probe_.cause(), "");
+}
+
+TEST_F(TransferFailures, SameFailureHasTheSameWordsEachTime) {
+  server_.respond("/a", {.body = "hello world", .missingBytes = 3});
+  probe_.fetch(server_.url("/a"));
+  const std::string first = probe_.cause();
+  server_.respond("/a", {.body = "hello world", .missingBytes = 8});
+  probe_.fetch(server_.url("/a"));
+  EXPECT_EQ(probe_.cause(), first);
+}
+
+// Faults that no server on this machine can provoke.
+
+TransferFailure failureWith(CURLcode result, int systemError = 0, const std::string& detail = {}) {
+  return failureOf({.result = result,
+                    .detail = detail,
+                    .url = "https://example.test/a",
+                    .systemError = systemError,
+                    .timeout = std::chrono::seconds{30}});
+}
+
+TEST(TransferFailureWords, UnreachableHost) {
+  const auto failure = failureWith(CURLE_COULDNT_CONNECT, EHOSTUNREACH);
+  EXPECT_EQ(failure.fault, TransferFault::refused);
+  EXPECT_EQ(failure.cause, "The host example.test cannot be reached from this machine.");
+  EXPECT_EQ(failureWith(CURLE_COULDNT_CONNECT, ENETUNREACH).cause, failure.cause);
+  EXPECT_EQ(failureWith(CURLE_COULDNT_CONNECT).cause, "No connection to example.test port 443 could be made.");
+}
+
+TEST(TransferFailureWords, SendFailure) {
+  const auto failure = failureWith(CURLE_SEND_ERROR);
+  EXPECT_EQ(failure.fault, TransferFault::dropped);
+  EXPECT_EQ(failure.cause, "The request could not be sent to example.test port 443.");
+}
+
+TEST(TransferFailureWords, EveryResultHasWordsThatNameTheServer) {
+  for (int code = 1; code < CURL_LAST; ++code) {
+    const auto failure = failureWith(static_cast<CURLcode>(code));
+    EXPECT_NE(failure.fault, TransferFault::none) << code;
+    EXPECT_TRUE(failure.cause.ends_with(".")) << failure.cause;
+  }
+}
+
+TEST(TransferFailureWords, LongAndOddAddressesAreShownReadably) {
+  EXPECT_EQ(badAddress("a\r\nb").cause, "The address a??b is not valid.");
+  EXPECT_LT(badAddress(std::string(100'000, 'x')).cause.size(), 300U);
+}
+
+TEST(TransferFailureWords, SizesAreNamedInWholeUnits) {
+  const auto words = [](std::size_t largest) {
+    return failureOf({.result = CURLE_WRITE_ERROR, .bound = BrokenBound::page, .largestPage = largest}).cause;
+  };
+  EXPECT_EQ(words(kLargestPage), "The page is larger than 64 MiB.");
+  EXPECT_EQ(words(3 * 1024), "The page is larger than 3 KiB.");
+  EXPECT_EQ(words(100), "The page is larger than 100 bytes.");
+}
+
+}  // namespace
+}  // namespace tarnwick::testing

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/transfer_control.h"
+#include "support/wait_until.h"
+
+namespace tarnwick::testing {
+
+/// The states of a request that succeeded.
+inline const std::vector<int> kAllStates{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12};
+
+/// A transfer control and everything it reported of its last request.
+class TransferProbe {
+ public:
+  explicit TransferProbe(TransferMaker& maker) : control(maker.makeTransferControl()) {
+    control->onStateChanged([this](int state) { states.push_back(state); });
+    control->onIdle([this] { ++idles; });
+  }
+
+  void start(const std::string& url, const std::string& method = "GET", const std::string& body = {},
+             const std::string& headers = {}) {
+    states.clear();
+    idles = 0;
+    control->setUrl(url);
+    control->execute(method, body, headers);
+  }
+
+  bool ended() const { return !control->stillExecuting(); }
+  bool reached(int state) const { return !states.empty() && states.back() >= state; }
+
+  /// Runs a request to its end and gives the page; empty when it failed.
+  std::string fetch(const std::string& url, const std::string& method = "GET", const std::string& body = {},
+                    const std::string& headers = {}) {
+    start(url, method, body, headers);
+    waitUntil([this] { return ended(); }, std::chrono::seconds{30});
+    return page();
+  }
+
+  /// All of the page that has not been taken yet.
+  std::string page() const {
+    std::string whole;
+    for (std::string piece = control->getChunk(1024); !piece.empty(); piece = control->getChunk(1024)) {
+      whole += piece;
+    }
+    return whole;
+  }
+
+  bool succeeded() const { return !states.empty() && states.back() == transfer_state::responseCompleted; }
+  bool failed() const { return !states.empty() && states.back() == transfer_state::error; }
+  TransferFault fault() const { return static_cast<TransferFault>(control->responseCode()); }
+  const std::string& cause() const { return control->responseInfo(); }
+
+  std::unique_ptr<TransferControl> control;
+  std::vector<int> states;
+  int idles = 0;
+};
+
+}  // namespace tarnwick::testing

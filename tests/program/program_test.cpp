@@ -1,0 +1,126 @@
+#include "program.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "platform/errors.h"
+#include "platform/headless_platform.h"
+#include "support/program_fixture.h"
+
+namespace tarnwick::testing {
+namespace {
+
+using std::chrono::seconds;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+std::vector<std::string> filesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    names.push_back(entry.path().filename().string());
+  }
+  return names;
+}
+
+TEST(ProgramOnABadFolderTest, AMissingDatabaseIsAnErrorAndNothingIsCreated) {
+  ProgramFolder folder;
+  std::filesystem::remove(folder.databasePath());
+  TestServices machine;
+  SilentView view;
+  Program program(folder.path(), machine.services(), view);
+  EXPECT_THROW(program.start(), DataAccessError);
+  EXPECT_THAT(filesIn(folder.path()), IsEmpty());
+}
+
+TEST(ProgramOnABadFolderTest, ADamagedDatabaseIsAnErrorThatNamesTheFile) {
+  ProgramFolder folder;
+  std::ofstream(folder.databasePath(), std::ios::trunc) << std::string(8192, 'x');
+  TestServices machine;
+  SilentView view;
+  Program program(folder.path(), machine.services(), view);
+  try {
+    program.start();
+    FAIL() << "a damaged database was accepted";
+  } catch (const DataAccessError& error) {
+    EXPECT_THAT(error.what(), HasSubstr("tarnwick.mdb"));
+  }
+}
+
+TEST(ProgramOnABadFolderTest, ClosingAProgramThatNeverOpenedIsHarmless) {
+  ProgramFolder folder;
+  TestServices machine;
+  SilentView view;
+  Program program(folder.path(), machine.services(), view);
+  program.close();
+  EXPECT_TRUE(machine.pump.closing());
+}
+
+TEST(HeadlessProgramTest, RunsOnTheRealMachine) {
+  ProgramFolder folder;
+  HttpServer server;
+  server.respond("/a", {.body = "hello"});
+  HeadlessPlatform machine;
+  SilentView view;
+  Program program(folder.path(), machine.services(), view);
+  program.start();
+  const std::int16_t id = program.data().addSite();
+  program.data().updateSites(id, server.url("/a"), "get", true, 10, false, "", "", "");
+  program.run().startChecking();
+  EXPECT_EQ(program.data().getContentCompare(id), "hello");
+}
+
+class ProgramTest : public ::testing::Test, public ProgramFixture {
+ protected:
+  ProgramTest() : ProgramFixture(TestServices::Time::byHand) { program.start(); }
+};
+
+TEST_F(ProgramTest, TheStartRenumbersThePostVariables) {
+  folder.execute("insert into postVars (idPostVars,idSite,pname,pvalue) values (9,1,'a','b'),(12,1,'c','d')");
+  program.start();
+  EXPECT_EQ(folder.queryRows("select idPostVars,pname from postVars order by 1"), "1|a\n2|c\n");
+}
+
+TEST_F(ProgramTest, ADatabaseLockedDuringARunIsToldOnceAndTheRunGoesOnAfterwards) {
+  const std::int16_t id = addPage("/a", "hello");
+  ASSERT_TRUE(program.startRun());
+  {
+    TestServices other;
+    Database locker(folder.path(), other.databases);
+    Transaction lock(locker);
+    machine.handTimers.advance(seconds(601));
+    machine.handTimers.advance(seconds(1));
+    EXPECT_THAT(machine.prompts.texts(), SizeIs(1));
+    EXPECT_FALSE(program.run().busy());
+    EXPECT_TRUE(program.run().running());
+    EXPECT_EQ(view.lamps.back(), RunState::pause);
+  }
+  machine.handTimers.advance(seconds(2));
+  EXPECT_THAT(machine.prompts.texts(), SizeIs(1));
+  EXPECT_EQ(column(id, "success"), "2");
+  EXPECT_EQ(folder.queryText("select count(*) from log where status = 0"), "0");
+}
+
+TEST(ClosedProgramTest, LeavesTheDatabaseAloneInItsFolder) {
+  ProgramFolder folder;
+  HttpServer server;
+  server.respond("/a", {.body = "hello"});
+  {
+    TestServices machine;
+    SilentView view;
+    Program program(folder.path(), machine.services(), view);
+    program.start();
+    const std::int16_t id = program.data().addSite();
+    program.data().updateSites(id, server.url("/a"), "get", true, 10, false, "", "", "");
+    ASSERT_TRUE(program.startRun());
+    program.close();
+    EXPECT_FALSE(program.run().running());
+  }
+  EXPECT_THAT(filesIn(folder.path()), ::testing::ElementsAre("tarnwick.mdb"));
+}
+
+}  // namespace
+}  // namespace tarnwick::testing

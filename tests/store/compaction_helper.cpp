@@ -1,0 +1,59 @@
+#include <iostream>
+#include <string>
+
+#include "platform/clock.h"
+#include "platform/local_files.h"
+#include "platform/prompts.h"
+#include "platform/sqlite_connection.h"
+#include "store/compaction.h"
+
+// A program of its own for the tests: compaction_helper compact|hold <program folder>
+//
+// "compact" stores a row and compacts the database, again and again until it is killed. After each row that is stored
+// for good it writes a line. "hold" opens the database, writes a line, and waits for the end of its input.
+
+namespace tarnwick {
+namespace {
+
+class NoPrompts final : public Prompts {
+ public:
+  void inform(const std::string& text, const std::string&, PromptIcon) override { std::cerr << text << std::endl; }
+  bool confirm(const std::string&, const std::string&, PromptIcon) override { return false; }
+  std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
+};
+
+int compactForEver(Database& database, SqlConnectionMaker& databases) {
+  LocalFiles files;
+  NoPrompts prompts;
+  Compaction compaction(database, databases, files, prompts);
+  for (;;) {
+    database.execute("insert into methods (idSite, method) values (1, 'GET')");
+    std::cout << "stored" << std::endl;
+    if (!compaction.compact()) {
+      return 1;
+    }
+  }
+}
+
+int hold(Database& database) {
+  database.execute("select count(*) from sites");
+  std::cout << "held" << std::endl;
+  std::string line;
+  while (std::getline(std::cin, line)) {
+  }
+  return 0;
+}
+
+}  // namespace
+}  // namespace tarnwick
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::cerr << "usage: compaction_helper compact|hold <program folder>\n";
+    return 2;
+  }
+  tarnwick::SystemClock clock;
+  tarnwick::SqliteConnections databases(clock);
+  tarnwick::Database database(argv[2], databases);
+  return std::string(argv[1]) == "hold" ? tarnwick::hold(database) : tarnwick::compactForEver(database, databases);
+}

@@ -1,0 +1,81 @@
+#include "support/test_certificates.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace tarnwick::testing {
+namespace {
+
+constexpr int kPatienceMs = 30000;
+constexpr const char* kOwnNames = "IP:127.0.0.1,DNS:localhost";
+// The first is what `openssl ca` wants for a start and an end that lie in the past.
+constexpr const char* kPast = "-startdate 20200101000000Z -enddate 20200201000000Z";
+constexpr const char* kPresent = "-days 2";
+
+constexpr const char* kSigningConfiguration =
+    "[ca]\ndefault_ca=own\n[own]\ndatabase=index.txt\nserial=serial.txt\nnew_certs_dir=.\ndefault_md=sha256\n"
+    "policy=any\nunique_subject=no\ncopy_extensions=none\n[any]\ncommonName=supplied\n";
+
+void writeFile(const QString& path, const QByteArray& text) {
+  QFile file(path);
+  if (file.open(QIODevice::WriteOnly)) {
+    file.write(text);
+  }
+}
+
+}  // namespace
+
+struct TestCertificates::Folder {
+  QTemporaryDir dir;
+};
+
+TestCertificates::TestCertificates() : folder_(std::make_unique<Folder>()) {
+  const QTemporaryDir& dir = folder_->dir;
+  writeFile(dir.filePath(QStringLiteral("ca.cnf")), kSigningConfiguration);
+  writeFile(dir.filePath(QStringLiteral("index.txt")), {});
+  writeFile(dir.filePath(QStringLiteral("serial.txt")), "01\n");
+  const std::string request = "req -x509 -newkey rsa:2048 -nodes -sha256 -days 2 ";
+  static_cast<void>(
+      run(request + "-subj /CN=Test-Authority -keyout authority.key -out authority.crt") &&
+      run(request + "-subj /CN=localhost -addext subjectAltName=" + kOwnNames + " -keyout self.key -out self.crt") &&
+      sign("good", kOwnNames, kPresent) && sign("other", "DNS:other.example", kPresent) &&
+      sign("expired", kOwnNames, kPast));
+}
+
+TestCertificates::~TestCertificates() = default;
+
+bool TestCertificates::run(const std::string& arguments) {
+  QProcess process;
+  process.setWorkingDirectory(folder_->dir.path());
+  process.setProcessChannelMode(QProcess::MergedChannels);
+  process.start(QStringLiteral("openssl"), QString::fromStdString(arguments).split(QLatin1Char(' ')));
+  if (!process.waitForStarted()) {
+    problem_ = "the openssl command is not installed";
+  } else if (!process.waitForFinished(kPatienceMs) || process.exitCode() != 0) {
+    problem_ = "openssl " + arguments + ": " + process.readAll().toStdString();
+  }
+  return problem_.empty();
+}
+
+bool TestCertificates::sign(const std::string& name, const std::string& subjectNames, const std::string& period) {
+  writeFile(folder_->dir.filePath(QString::fromStdString(name + ".ext")),
+            QByteArray::fromStdString("subjectAltName=" + subjectNames + "\n"));
+  return run("req -newkey rsa:2048 -nodes -sha256 -subj /CN=" + name + " -keyout " + name + ".key -out " + name +
+             ".csr") &&
+         run("ca -batch -notext -config ca.cnf -cert authority.crt -keyfile authority.key -extfile " + name +
+             ".ext -in " + name + ".csr -out " + name + ".crt " + period);
+}
+
+TlsIdentity TestCertificates::identity(const std::string& name) const {
+  const std::string start = folder_->dir.path().toStdString() + "/" + name;
+  return {.certificateFile = start + ".crt", .keyFile = start + ".key"};
+}
+
+std::string TestCertificates::authorityFile() const { return identity("authority").certificateFile; }
+TlsIdentity TestCertificates::good() const { return identity("good"); }
+TlsIdentity TestCertificates::wrongHost() const { return identity("other"); }
+TlsIdentity TestCertificates::expired() const { return identity("expired"); }
+TlsIdentity TestCertificates::selfSigned() const { return identity("self"); }
+
+}  // namespace tarnwick::testing

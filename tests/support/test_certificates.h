@@ -1,0 +1,41 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "support/http_server.h"
+
+namespace tarnwick::testing {
+
+/// Certificates made for one test by the `openssl` command, in a folder that goes with this object.
+class TestCertificates {
+ public:
+  TestCertificates();
+  ~TestCertificates();
+  TestCertificates(const TestCertificates&) = delete;
+  TestCertificates& operator=(const TestCertificates&) = delete;
+
+  /// Why there are none: the command is missing or failed; empty when all went well.
+  const std::string& problem() const { return problem_; }
+
+  /// The authority that signed all but the self-signed one.
+  std::string authorityFile() const;
+  /// Good for 127.0.0.1 and localhost.
+  TlsIdentity good() const;
+  /// Issued for another host.
+  TlsIdentity wrongHost() const;
+  TlsIdentity expired() const;
+  TlsIdentity selfSigned() const;
+
+ private:
+  struct Folder;
+
+  bool run(const std::string& arguments);
+  bool sign(const std::string& name, const std::string& subjectNames, const std::string& period);
+  TlsIdentity identity(const std::string& name) const;
+
+  std::unique_ptr<Folder> folder_;
+  std::string problem_;
+};
+
+}  // namespace tarnwick::testing

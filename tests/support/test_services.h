@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/curl_transfers.h"
+#include "platform/qt_event_loop.h"
+#include "platform/qt_tcp_socket.h"
+#include "platform/services.h"
+#include "platform/sqlite_connection.h"
+#include "support/hand_clock.h"
+#include "support/hand_timers.h"
+#include "support/recording_desktop.h"
+
+namespace tarnwick::testing {
+
+/// The machine as a test wants it: a real event loop, real SQLite files, real transfers and real sockets, under a
+/// desktop that only records. Time is real or moved by hand.
+struct TestServices {
+  enum class Time {
+    real,         ///< the machine's clock, timers of the event loop
+    clockByHand,  ///< `handClock`, timers of the event loop
+    byHand,       ///< `handClock` and `handTimers`, which move together
+  };
+
+  explicit TestServices(Time chosen = Time::real, const CurlTransfers::Options& web = {})
+      : time(chosen), transfers(web) {}
+  TestServices(const TestServices&) = delete;
+  TestServices& operator=(const TestServices&) = delete;
+
+  const Clock& clock() const {
+    return time == Time::real ? static_cast<const Clock&>(systemClock) : static_cast<const Clock&>(handClock);
+  }
+  TimerMaker& timers() {
+    return time == Time::byHand ? static_cast<TimerMaker&>(handTimers) : static_cast<TimerMaker&>(qtTimers);
+  }
+
+  Services services() {
+    return {clock(), pump, timers(), databases, transfers, sockets, prompts, sound, programs, opener};
+  }
+
+  const Time time;
+  SystemClock systemClock;
+  HandClock handClock;
+  HandTimers handTimers{handClock};
+  QtEventPump pump;
+  QtTimers qtTimers;
+  SqliteConnections databases{clock()};
+  CurlTransfers transfers;
+  QtTcpSockets sockets;
+  RecordingPrompts prompts;
+  RecordingSound sound;
+  RecordingPrograms programs;
+  RecordingOpener opener;
+};
+
+}  // namespace tarnwick::testing
