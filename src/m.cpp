@@ -11,6 +11,8 @@ m::m(const std::string& programFolder, const Services& services)
       DueSites(ownedDatabase_),
       PageFetch(ownedDatabase_, *this, ownedControl_, services.pump),
       ResultRecording(ownedDatabase_, *this, services.clock),
-      AlertDispatch(ownedDatabase_, *this, *this, ownedMail_, services) {}
+      AlertDispatch(ownedDatabase_, *this, *this, ownedMail_, services),
+      DailyReport(ownedDatabase_, services.clock),
+      Compaction(ownedDatabase_, services.databases, ownedFiles_, services.prompts) {}
 
 }  // namespace tarnwick

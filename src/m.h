@@ -8,7 +8,10 @@
 #include "engine/due_sites.h"
 #include "engine/page_fetch.h"
 #include "engine/result_recording.h"
+#include "platform/local_files.h"
 #include "platform/services.h"
+#include "report/daily_report.h"
+#include "store/compaction.h"
 #include "store/database.h"
 #include "store/post_vars.h"
 #include "store/settings_and_log.h"
@@ -29,6 +32,7 @@ class MembersOfM {
   Database ownedDatabase_;
   SingleControl ownedControl_;
   MailSocket ownedMail_;
+  LocalFiles ownedFiles_;
 };
 
 /// Everything the program can do with its data, in one object: the sum of the groups of procedures below, each of
@@ -47,7 +51,9 @@ class m : private MembersOfM,
           public DueSites,
           public PageFetch,
           public ResultRecording,
-          public AlertDispatch {
+          public AlertDispatch,
+          public DailyReport,
+          public Compaction {
  public:
   /// Opens the database of `programFolder` (no trailing separator); raises DataAccessError when it is missing or
   /// damaged. What `services` refers to outlives this object.

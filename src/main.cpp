@@ -2,7 +2,9 @@
 #include <QApplication>
 
 #include "platform/desktop/desktop_platform.h"
+#include "ui/control_dialog.h"
 #include "ui/master.h"
+#include "ui/site_editor.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
@@ -13,6 +15,8 @@ int main(int argc, char** argv) {
   if (!window.load()) {
     return EXIT_FAILURE;
   }
+  window.setEditors({.site = tarnwick::siteEditorOf(window.program(), window),
+                     .settings = tarnwick::settingsDialogOf(window.program(), window)});
   window.show();
   return QApplication::exec();
 }

@@ -6,17 +6,22 @@ namespace tarnwick {
 
 // What needs the open database. The controller refers to the pool and the data, so it is the first to go.
 struct Program::Parts {
+  using Handler = std::function<void()>;
+
   Parts(const std::string& folder, const Services& services, RunView& view, FaultBox& faults)
       : data(folder, services),
         pool(data, services.transfers, services.timers),
         run({data, data, data, data, pool, view, services.clock, services.pump}, services.timers,
-            [&faults](const std::string& handler, const std::function<void()>& action) {
-              faults.runRepeated(handler, action);
-            }) {}
+            [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }),
+        report(
+            {data, data, [this] { return run.running(); }, [&view](const std::string& text) { view.showStatus(text); }},
+            services.timers,
+            [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }) {}
 
   m data;
   InetPool pool;
   RunController run;
+  ReportTimer report;
 };
 
 Program::Program(std::string programFolder, const Services& services, RunView& view)
@@ -34,11 +39,13 @@ Program::Parts& Program::parts() {
 m& Program::data() { return parts().data; }
 RunController& Program::run() { return parts().run; }
 InetPool& Program::pool() { return parts().pool; }
+ReportTimer& Program::report() { return parts().report; }
 
 void Program::start() {
   run().init();
   data().reIdpostVars();
   run().prepare();
+  report().prepare();
   view_.showStatus("Ready ...");
 }
 

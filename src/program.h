@@ -9,6 +9,7 @@
 #include "fault_box.h"
 #include "m.h"
 #include "platform/services.h"
+#include "report/report_timer.h"
 
 namespace tarnwick {
 
@@ -35,6 +36,8 @@ class Program {
   /// The run and the pool it fetches through.
   RunController& run();
   InetPool& pool();
+  /// What writes the day's report while a run is on.
+  ReportTimer& report();
 
   /// Shows a handler's failure in one box instead of letting it travel into the event loop.
   FaultBox& faults() { return faults_; }

@@ -55,7 +55,7 @@ struct AlertDispatch::Site {
 
 AlertDispatch::AlertDispatch(Database& database, SettingsAndLog& settings, TextFiles& files, MailSocket& mail,
                              const Services& services, std::int16_t smtpPort)
-    : db_(database), settings_(settings), files_(files), mail_(mail), services_(services), smtpPort_(smtpPort) {}
+    : db_(database), settings_(settings), files_(files), mailSocket_(mail), services_(services), smtpPort_(smtpPort) {}
 
 void AlertDispatch::sendAlerts(std::int16_t idSite) {
   // All of them before the first alert, so that an unreadable settings row does not leave an alert half raised.
@@ -101,7 +101,7 @@ AlertDispatch::Site AlertDispatch::readSite(std::int16_t idSite) {
 }
 
 AlertFacts AlertDispatch::factsOf(const std::string& url, const std::string& idSite, const std::string& email) {
-  const TcpSocket& socket = mail_.winsock1();
+  const TcpSocket& socket = mailSocket_.winsock1();
   return {url, idSite, email, socket.localHostName(), socket.localIP()};
 }
 
@@ -109,7 +109,7 @@ void AlertDispatch::sendMail(const AlertFacts& facts, const std::string& server,
   const std::string path = db_.programFolder() + "/" + kTemplateFile;
   const std::string body = fillTemplate(textOrNothing(files_, path), facts, services_.clock);
   std::int16_t port = smtpPort_;
-  smtp(mail_, services_.pump).sendEmail(server, facts.email, from, kSubject, body, port);
+  smtp(mailSocket_, services_.pump).sendEmail(server, facts.email, from, kSubject, body, port);
 }
 
 void AlertDispatch::shellProgram(const std::string& command) {

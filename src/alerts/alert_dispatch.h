@@ -48,7 +48,7 @@ class AlertDispatch {
   Database& db_;
   SettingsAndLog& settings_;
   TextFiles& files_;
-  MailSocket& mail_;
+  MailSocket& mailSocket_;
   Services services_;
   std::int16_t smtpPort_;
 };

@@ -67,7 +67,7 @@ class QtTcpSocket final : public TcpSocket {
     }
   }
 
-  std::string getData() override { return socket_.readAll().toStdString(); }
+  std::string getData() override { return socket_.isOpen() ? socket_.readAll().toStdString() : std::string(); }
 
   void close() override {
     failed_ = false;

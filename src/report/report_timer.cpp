@@ -11,9 +11,10 @@ constexpr std::chrono::milliseconds kReportInterval{60000};
 }  // namespace
 
 ReportTimer::ReportTimer(Needs needs, TimerMaker& timers, Guard guard)
-    : needs_(std::move(needs)),
-      guard_(std::move(guard)),
-      tmrReport_(timers.makeTimer([this] { guard_("report", [this] { tmrReport_Timer(); }); })) {}
+    : needs_(std::move(needs)), guard_(std::move(guard)), tmrReport_(timers.makeTimer([this] {
+        // A tick that only counts says nothing about whether reports can be written, so it goes by another name.
+        guard_(reportDue() ? "report" : "report minutes", [this] { tmrReport_Timer(); });
+      })) {}
 
 void ReportTimer::prepare() {
   reportTick_ = 60;
@@ -21,6 +22,8 @@ void ReportTimer::prepare() {
   tmrReport_->setInterval(kReportInterval);
   tmrReport_->setEnabled(true);
 }
+
+bool ReportTimer::reportDue() const { return needs_.running() && reportTick_ + 1 >= reportEvery_; }
 
 void ReportTimer::tmrReport_Timer() {
   if (!needs_.running()) {

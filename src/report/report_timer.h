@@ -39,6 +39,9 @@ class ReportTimer {
   Timer& tmrReport() { return *tmrReport_; }
 
  private:
+  /// Whether the next tick writes a report.
+  bool reportDue() const;
+
   Needs needs_;
   Guard guard_;
   std::unique_ptr<Timer> tmrReport_;

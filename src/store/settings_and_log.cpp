@@ -34,6 +34,24 @@ void SettingsAndLog::writeControl(const std::string& key, const std::string& quo
   db_.execute(joinSql("update control set ", sqlQuote(key), " = ", delimiter, quotedValue, delimiter, " where id = 1"));
 }
 
+void SettingsAndLog::storeSettings(const std::vector<Setting>& settings) {
+  Transaction whole(db_);
+  if (getControl("id") == SqlValue(std::string())) {
+    throw DataAccessError("The database " + db_.dbPath() +
+                              " has no settings row, so nothing could be stored. Put back a good copy, for instance "
+                              "backup.mdb.",
+                          "");
+  }
+  for (const Setting& setting : settings) {
+    try {
+      std::visit([&](const auto& value) { setControl(setting.key, value); }, setting.value);
+    } catch (const DataAccessError& error) {
+      throw SettingRefused(setting.key, error);
+    }
+  }
+  whole.commit();
+}
+
 std::chrono::seconds SettingsAndLog::requestTimeout() {
   const std::chrono::seconds timeout(getControl("timeout").toInt32("the setting timeout"));
   return timeout > std::chrono::seconds::zero() ? timeout : kDefaultRequestTimeout;

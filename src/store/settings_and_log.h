@@ -4,11 +4,33 @@
 #include <concepts>
 #include <cstdint>
 #include <string>
+#include <utility>
+#include <variant>
+#include <vector>
 
+#include "platform/errors.h"
 #include "store/database.h"
 #include "store/sql_quote.h"
 
 namespace tarnwick {
+
+/// A setting to be stored: a column's name, and a text or a yes/no.
+struct Setting {
+  std::string key;
+  std::variant<std::string, bool> value;
+};
+
+/// A setting that could not be stored.
+class SettingRefused : public DataAccessError {
+ public:
+  SettingRefused(std::string key, const DataAccessError& error) : DataAccessError(error), key_(std::move(key)) {}
+
+  /// Which one.
+  const std::string& key() const noexcept { return key_; }
+
+ private:
+  std::string key_;
+};
 
 /// The program's settings, which are the columns of the one row of table `control`, and the log of check results.
 /// Nothing is cached: a changed setting takes effect at its next use. Every failed statement raises DataAccessError.
@@ -25,6 +47,10 @@ class SettingsAndLog {
   template <typename Value>
   requires std::integral<Value> || std::convertible_to<const Value&, std::string_view>
   void setControl(const std::string& key, const Value& value) { writeControl(key, sqlQuote(value)); }
+
+  /// Writes several settings in the order given: all of them or, when one cannot be stored, none. Raises
+  /// SettingRefused then, and DataAccessError when the database cannot be changed or has no settings row.
+  void storeSettings(const std::vector<Setting>& settings);
 
   /// The setting `timeout`; 60 seconds when it is Null, empty, 0 or less. Raises OverflowError past 32 bits.
   std::chrono::seconds requestTimeout();

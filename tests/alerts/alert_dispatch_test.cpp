@@ -19,6 +19,7 @@
 namespace tarnwick {
 namespace {
 
+using namespace std::string_literals;
 using ::testing::ElementsAre;
 using testing::HandClock;
 using ::testing::IsEmpty;
@@ -100,7 +101,7 @@ TEST_F(Alerts, SendTheFilledTemplateToTheSitesAddress) {
 
 TEST_F(Alerts, SendATemplateWithoutPlaceholdersUnchanged) {
   switchOn(true, false, false);
-  const std::string text("plain ~URL~ text\n\r\n\0\xff end", 25);
+  const std::string text = "plain ~URL~ text\n\r\n\0\xff end"s;
   writeTemplate(text);
   alerts.sendAlerts(addSite("http://example.com/"));
   EXPECT_EQ(mailBody(), text);

@@ -8,6 +8,7 @@
 namespace tarnwick {
 namespace {
 
+using namespace std::string_literals;
 /// A socket whose data is put in by the test.
 class FedSocket final : public TcpSocket {
  public:
@@ -79,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(Unclear, ReplyCode,
                                            Reply{"250x ok", 0}, Reply{"550\tno", 0}, Reply{"550\r\n250 ok\r\n", 0},
                                            Reply{"0x226 no", 0}, Reply{"inf", 0}, Reply{"nan", 0}, Reply{"+-5 no", 0},
                                            Reply{"1e no", 0}, Reply{"e5 no", 0}, Reply{". no", 0}, Reply{"5,5 no", 0},
-                                           Reply{std::string("550\0 no", 7), 0}, Reply{"1e-999 no", 0}));
+                                           Reply{"550\0 no"s, 0}, Reply{"1e-999 no", 0}));
 
 class TooLargeACode : public ::testing::TestWithParam<std::string> {};
 

@@ -16,6 +16,7 @@
 namespace tarnwick {
 namespace {
 
+using namespace std::string_literals;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 using testing::RealMailServer;
@@ -99,7 +100,7 @@ TEST_F(SmtpExchange, CanBeRepeatedOnTheSameSocket) {
 }
 
 TEST_F(SmtpExchange, SendsABodyOfAnyBytesAndAnySizeUnchanged) {
-  std::string body("NUL \0, bare \n and \r, \xff\xfe", 26);
+  std::string body = "NUL \0, bare \n and \r, \xff\xfe"s;
   body.append(4 * 1024 * 1024, 'x');
   EXPECT_TRUE(send(body));
   const std::string message = server.received(SmtpStage::message);
@@ -120,8 +121,8 @@ TEST_F(SmtpExchange, ALineOfASingleDotEndsTheMessageEarly) {
 }
 
 TEST_F(SmtpExchange, ALineEndInASettingDoesNotBecomeACommandOrAHeader) {
-  EXPECT_TRUE(send("body", "to@example.com>\r\nDATA\r\n", std::string("from@example.com\r\nRSET\0", 24),
-                   "subject\nBcc: other@example.com"));
+  EXPECT_TRUE(
+      send("body", "to@example.com>\r\nDATA\r\n", "from@example.com\r\nRSET\0"s, "subject\nBcc: other@example.com"));
   EXPECT_EQ(server.received(SmtpStage::mailFrom), "MAIL FROM:<from@example.comRSET>\r\n");
   EXPECT_EQ(server.received(SmtpStage::rcptTo), "RCPT TO:<to@example.com>DATA>\r\n");
   EXPECT_TRUE(server.received(SmtpStage::message).starts_with("Subject:subjectBcc: other@example.com\r\nTO:<to@"));

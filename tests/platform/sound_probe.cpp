@@ -1,8 +1,8 @@
 // Plays sounds one after the other, for the sound test: sound_probe FILE MILLISECONDS [FILE MILLISECONDS]...
 // Prints what starting each has returned and handles events for that long after it.
+#include <iostream>
 #include <QCoreApplication>
 #include <QTimer>
-#include <iostream>
 
 #include "platform/desktop/qt_sound_player.h"
 

@@ -133,6 +133,16 @@ class Sound(unittest.TestCase):
         self.assertLess(self.loud_seconds(samples), 1.5)
         self.assertGreater(self.loud_seconds(samples), 0.5)
 
+    def test_sounds_may_cut_each_other_short_often(self):
+        sound = self.file("sound.wav", wave(1, 16, 1, 5))
+        for pause in (0, 1, 5, 20, 60):
+            self.assertEqual(set(self.play(*[sound, pause] * 30)), {"1"})
+
+    def test_a_program_may_end_while_a_sound_plays(self):
+        sound = self.file("sound.wav", wave(1, 16, 1, 5))
+        for pause in range(0, 200, 20):
+            self.assertEqual(self.play(sound, pause), ["1"])
+
     def test_a_sound_can_be_repeated(self):
         sound = self.file("sound.wav", wave(1, 16, 1, 0.3))
         samples = self.heard(sound, 1000, sound, 1000)
@@ -147,7 +157,8 @@ class Sound(unittest.TestCase):
     def test_a_machine_without_a_sound_device_is_silent(self):
         environment = {**self.server.environment, "PULSE_SERVER": f"unix:{self.folder}/no-server"}
         sound = self.file("sound.wav", wave(1, 16, 1, 0.1))
-        self.assertEqual(self.play(sound, 50, sound, 50, environment=environment), ["0", "0"])
+        # Long enough for the sound server to be looked for again.
+        self.assertEqual(self.play(sound, 4000, sound, 50, environment=environment), ["0", "0"])
 
 
 def main() -> int:

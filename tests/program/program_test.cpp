@@ -104,6 +104,42 @@ TEST_F(ProgramTest, ADatabaseLockedDuringARunIsToldOnceAndTheRunGoesOnAfterwards
   EXPECT_EQ(folder.queryText("select count(*) from log where status = 0"), "0");
 }
 
+TEST_F(ProgramTest, ARunWritesTheReportAtItsFirstMinuteAndAtEvery59thAfter) {
+  program.data().setControl("creports", true);
+  std::filesystem::create_directories(folder.file("reports"));
+  std::ofstream(folder.file("reports/green.jpg")) << "bar";
+  machine.handTimers.advance(seconds(600));
+  EXPECT_FALSE(std::filesystem::exists(folder.file("reports/report.html"))) << "no run is on";
+  program.startRun();
+  machine.handTimers.advance(seconds(60));
+  EXPECT_TRUE(std::filesystem::exists(folder.file("reports/report.html")));
+  EXPECT_TRUE(view.showed("Creating Report ..."));
+  EXPECT_TRUE(view.showed("Report Done ..."));
+  std::filesystem::remove(folder.file("reports/report.html"));
+  machine.handTimers.advance(seconds(58 * 60));
+  EXPECT_FALSE(std::filesystem::exists(folder.file("reports/report.html")));
+  machine.handTimers.advance(seconds(60));
+  EXPECT_TRUE(std::filesystem::exists(folder.file("reports/report.html")));
+}
+
+TEST_F(ProgramTest, AReportThatCannotBeWrittenIsToldOnceAndTheRunGoesOn) {
+  program.data().setControl("creports", true);
+  std::ofstream(folder.file("reports")) << "a file where the folder should be";
+  program.startRun();
+  machine.handTimers.advance(std::chrono::hours(3));
+  EXPECT_THAT(machine.prompts.texts(), SizeIs(1));
+  EXPECT_TRUE(program.run().running());
+}
+
+TEST_F(ProgramTest, TheDatabaseCanBeCompactedBetweenTwoPassesOfARun) {
+  const std::int16_t id = addPage("/a", "hello");
+  program.startRun();
+  EXPECT_TRUE(program.data().compact());
+  EXPECT_TRUE(std::filesystem::exists(folder.file("backup.mdb")));
+  machine.handTimers.advance(seconds(602));
+  EXPECT_EQ(column(id, "success"), "2");
+}
+
 TEST(ClosedProgramTest, LeavesTheDatabaseAloneInItsFolder) {
   ProgramFolder folder;
   HttpServer server;

@@ -89,8 +89,8 @@ TEST_F(CompactionKillTest, KilledAtAnyMomentItLeavesAWholeDatabaseWithEveryRow) 
     Helper helper("compact", folder.path());
     ASSERT_TRUE(helper.waitForLine());
     ++stored;
-    // The moment of the kill is the point of this test, and any will do.
-    std::this_thread::sleep_for(std::chrono::microseconds(microseconds(random)));
+    const std::chrono::microseconds moment(microseconds(random));
+    std::this_thread::sleep_for(moment);  // sleeps because the moment of the kill is the point, and any will do
     helper.kill();
     while (helper.waitForLine()) {
       ++stored;
@@ -113,7 +113,7 @@ TEST_F(CompactionKillTest, AfterAKillTheNextCompactionLeavesNothingUnfinished) {
   for (int round = 0; round < 10; ++round) {
     Helper helper("compact", folder.path());
     ASSERT_TRUE(helper.waitForLine());
-    std::this_thread::sleep_for(std::chrono::milliseconds(3 * round));  // a different moment each time
+    std::this_thread::sleep_for(std::chrono::milliseconds(3 * round));  // sleeps because the moment of the kill differs
     helper.kill();
     EXPECT_TRUE(Compaction(database, connections, files, prompts).compact());
     EXPECT_EQ(others(), "backup.mdb temp.mdb");

@@ -90,6 +90,34 @@ TEST_F(SettingsTest, TimeoutThatIsNoNumberIsRefusedAndTheStoredOneKept) {
   }
 }
 
+TEST_F(SettingsTest, SeveralSettingsAreWrittenInTheirOrderAsOneWhole) {
+  settings.storeSettings({{"email", "it's"}, {"timeout", "45"}, {"cLogs", false}, {"cEmail", true}});
+  EXPECT_EQ(folder.queryRows("select email, timeout, clogs, cemail from control"), "it's|45|0|1\n");
+  EXPECT_THAT(
+      takeStatements(),
+      ElementsAre("begin", "select id from control where id = 1", "update control set email = 'it''s' where id = 1",
+                  "update control set timeout = '45' where id = 1", "update control set cLogs = False where id = 1",
+                  "update control set cEmail = True where id = 1", "commit"));
+}
+
+TEST_F(SettingsTest, ARefusedSettingIsNamedAndKeepsAllOthersFromBeingStored) {
+  arrange("email = 'old', timeout = 45, cemail = 0");
+  const auto store = [&] { settings.storeSettings({{"email", "new"}, {"timeout", ""}, {"cEmail", true}}); };
+  EXPECT_THAT(errorOf<DataAccessError>(store), HasSubstr("timeout takes a whole number; '' was not stored"));
+  try {
+    store();
+  } catch (const SettingRefused& refused) {
+    EXPECT_EQ(refused.key(), "timeout");
+  }
+  EXPECT_EQ(folder.queryRows("select email, timeout, cemail from control"), "old|45|0\n");
+  EXPECT_NO_THROW(settings.storeSettings({{"email", "new"}})) << "nothing of the failure is left behind";
+}
+
+TEST_F(SettingsTest, SettingsWithoutARowToStoreThemInAreAnErrorWithARemedy) {
+  folder.execute("delete from control");
+  EXPECT_THAT(errorOf<DataAccessError>([&] { settings.storeSettings({{"email", "a"}}); }), HasSubstr("backup.mdb"));
+}
+
 TEST_F(SettingsTest, SettingsAreNotCached) {
   settings.setControl("timeout", 5);
   EXPECT_EQ(settings.requestTimeout(), 5s);

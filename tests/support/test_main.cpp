@@ -1,8 +1,8 @@
 // The entry point of every test executable: one application object for all cases, on the offscreen platform.
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <clocale>
+#include <QApplication>
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {

@@ -44,6 +44,10 @@ QStringList nameFilters(const std::string& filter) {
     QString patterns = pieces[piece + 1];
     filters << QStringLiteral("%1 (%2)").arg(name, patterns.replace(QLatin1Char(';'), QLatin1Char(' ')));
   }
+#ifndef Q_OS_WIN
+  // Elsewhere a file's ending does not tell what it is: a program seldom has one.
+  filters << QObject::tr("All Files (*)");
+#endif
   return filters;
 }
 

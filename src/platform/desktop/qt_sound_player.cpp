@@ -23,9 +23,19 @@ constexpr qint64 kLargestFile = qint64{256} * 1024 * 1024;
 /// More than a sound device keeps back, a wireless one included.
 constexpr std::chrono::milliseconds kDeviceBuffer{1000};
 
+// A machine without sound is no fault worth telling; the caller learns it from what `play` returns. Qt tells it on
+// standard error none the less, in part outside of its logging categories.
+QtMessageHandler earlierHandler = nullptr;
+
+void dropSoundServerMessages(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (!message.startsWith(QLatin1String("PulseAudioService:"))) {
+    earlierHandler(type, context, message);
+  }
+}
+
 std::optional<WaveSound> load(const std::string& fileName) {
   QFile file(QString::fromStdString(fileName));
-  if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestFile) {
+  if (fileName.empty() || !file.open(QIODevice::ReadOnly) || file.size() > kLargestFile) {
     return std::nullopt;
   }
   const QByteArray bytes = file.readAll();
@@ -62,6 +72,11 @@ struct QtSoundPlayer::Playing {
     });
     sink.start(&source);
   }
+  // A sink that is still active while it is taken apart may ask its stream for more after that is gone, and aborts the
+  // process.
+  ~Playing() { sink.stop(); }
+  Playing(const Playing&) = delete;
+  Playing& operator=(const Playing&) = delete;
 
   QByteArray samples;
   QBuffer source;
@@ -70,8 +85,13 @@ struct QtSoundPlayer::Playing {
 };
 
 QtSoundPlayer::QtSoundPlayer() {
-  // A machine without sound is no fault worth telling; the caller learns it from what `play` returns.
-  QLoggingCategory::setFilterRules(QStringLiteral("qt.multimedia.*=false"));
+  // Once for the process, and for good: the sound server is watched in the background until its end.
+  static const bool quiet = [] {
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.multimedia.*=false"));
+    earlierHandler = qInstallMessageHandler(dropSoundServerMessages);
+    return true;
+  }();
+  static_cast<void>(quiet);
 }
 
 QtSoundPlayer::~QtSoundPlayer() = default;

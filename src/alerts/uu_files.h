@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/file_system.h"
+
+namespace tarnwick {
+
+/// Paths are UTF-8 everywhere. A path that holds a NUL character raises FileError.
+
+/// Whether there is a file, hidden ones included; a folder is none.
+bool isFile(const std::string& path);
+/// Whether both paths lead to one file.
+bool isSameFile(const std::string& one, const std::string& other);
+/// The name without its folders.
+std::string fileName(const std::string& path);
+/// The name without its folders and without its last dot and what follows that.
+std::string fileStem(const std::string& path);
+/// A file's path in a folder, whether or not the folder's ends with a separator; empty is the current folder.
+std::string inFolder(const std::string& folder, const std::string& name);
+
+/// A file that is read from its start. Raises FileError when it cannot be opened or read.
+class InputFile {
+ public:
+  explicit InputFile(const std::string& path);
+
+  /// Replaces `bytes` by the next `size` bytes, fewer at the end of the file.
+  void read(std::string& bytes, std::size_t size);
+
+  const std::string& path() const { return path_; }
+  /// In bytes.
+  std::uint64_t size() const;
+
+ private:
+  struct Closer {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+  };
+
+  std::string path_;
+  std::unique_ptr<std::FILE, Closer> file_;
+};
+
+/// Files that come into being all together, or not at all: each is written beside its place under a name of no meaning,
+/// and gets its own name in the end.
+class OutputFiles {
+ public:
+  explicit OutputFiles(FileSystem& files) : files_(files) {}
+  /// Removes what has not been given its name.
+  ~OutputFiles();
+  OutputFiles(const OutputFiles&) = delete;
+  OutputFiles& operator=(const OutputFiles&) = delete;
+
+  /// Writes what shall become the file `path`, with the permissions of the file `like`. Raises FileError, and whatever
+  /// `fill` raises.
+  void write(const std::string& path, const std::string& like, const std::function<void(const ByteSink& sink)>& fill);
+
+  /// Gives every file its name, in place of a file that has it.
+  void finish();
+
+ private:
+  struct Written {
+    std::string path;
+    std::string temporary;
+  };
+
+  FileSystem& files_;
+  std::vector<Written> written_;
+};
+
+}  // namespace tarnwick
