@@ -1,14 +1,10 @@
 #include "ui/baseline_edit.h"
 
 #include <algorithm>
-#include <memory>
 #include <utility>
-#include <QAction>
-#include <QDropEvent>
+#include <QAbstractTextDocumentLayout>
 #include <QFontDatabase>
 #include <QKeyEvent>
-#include <QMenu>
-#include <QMimeData>
 #include <QTextBlock>
 
 namespace tarnwick {
@@ -27,6 +23,42 @@ std::u16string withLineFeeds(const QString& text) {
 
 QString toQString(std::u16string_view text) {
   return QString(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size()));
+}
+
+// A document takes its time and its memory by the block. A text of more lines than this becomes blocks of several
+// lines each, which look the same.
+constexpr std::ptrdiff_t kMostBlocks = 50'000;
+constexpr qsizetype kLongestSharedBlock = 1000;
+// So much text at a time changes the scroll bar.
+constexpr std::size_t kMuchText = 10'000;
+
+// The text as it is put into the document.
+QString documentText(std::u16string_view shown) {
+  QString text = toQString(shown);
+  if (std::ranges::count(shown, u'\n') <= kMostBlocks) {
+    return text;
+  }
+  qsizetype blockStart = 0;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (text.at(i) != QLatin1Char('\n')) {
+      continue;
+    }
+    if (i - blockStart < kLongestSharedBlock) {
+      text[i] = QChar::LineSeparator;
+    } else {
+      blockStart = i + 1;
+    }
+  }
+  return text;
+}
+
+// The rows that `text` takes up in a box of so many columns.
+int rowsOf(QStringView text, qsizetype columns) {
+  qsizetype rows = 0;
+  for (const QStringView line : text.split(QChar::LineSeparator)) {
+    rows += std::max<qsizetype>(1, (line.size() + columns - 1) / columns);
+  }
+  return static_cast<int>(rows);
 }
 
 class Flagged {
@@ -62,7 +94,21 @@ void BaselineEdit::showPage() {
   notice_ = false;
   setReadOnly(false);
   const Flagged showing(showing_);
-  setPlainText(toQString(text_.shown()));
+  setPlainText(documentText(text_.shown()));
+  estimateRows();
+}
+
+// A block is laid out when it is first seen, and until then counts as one row: the scroll bar would lead astray.
+void BaselineEdit::estimateRows() {
+  const int width = std::max(1, fontMetrics().horizontalAdvance(QLatin1Char('0')));
+  const qsizetype columns = std::max(1, viewport()->width() / width);
+  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+    if (block.length() > columns) {
+      block.setLineCount(rowsOf(block.text(), columns));
+    }
+  }
+  QAbstractTextDocumentLayout& layout = *document()->documentLayout();
+  Q_EMIT layout.documentSizeChanged(layout.documentSize());
 }
 
 void BaselineEdit::showNotice(const QString& notice) {
@@ -111,9 +157,12 @@ void BaselineEdit::apply(const TextChange& change) {
   QTextCursor cursor(document());
   cursor.setPosition(static_cast<int>(change.position));
   cursor.setPosition(static_cast<int>(change.position + change.removed), QTextCursor::KeepAnchor);
-  cursor.insertText(toQString(change.added));
+  cursor.insertText(documentText(change.added));
   cursor.setPosition(static_cast<int>(change.position + change.added.size()));
   setTextCursor(cursor);
+  if (change.added.size() > kMuchText) {
+    estimateRows();
+  }
   ensureCursorVisible();
 }
 
@@ -198,89 +247,6 @@ void BaselineEdit::keyPressEvent(QKeyEvent* event) {
     return;
   }
   event->accept();
-}
-
-void BaselineEdit::contextMenuEvent(QContextMenuEvent* event) {
-  QMenu menu(this);
-  const auto add = [&](const QString& name, QKeySequence::StandardKey key, auto slot, bool enabled) {
-    QAction* action = menu.addAction(name, this, slot);
-    action->setShortcut(key);
-    action->setEnabled(enabled);
-  };
-  const bool editable = !isReadOnly();
-  const bool selected = textCursor().hasSelection();
-  add(tr("&Undo"), QKeySequence::Undo, &BaselineEdit::undoEdit, editable && text_.canUndo());
-  add(tr("&Redo"), QKeySequence::Redo, &BaselineEdit::redoEdit, editable && text_.canRedo());
-  menu.addSeparator();
-  add(tr("Cu&t"), QKeySequence::Cut, &BaselineEdit::cut, editable && selected);
-  add(tr("&Copy"), QKeySequence::Copy, &BaselineEdit::copy, selected);
-  add(tr("&Paste"), QKeySequence::Paste, &BaselineEdit::paste, canPaste());
-  menu.addSeparator();
-  add(tr("Select &All"), QKeySequence::SelectAll, &BaselineEdit::selectAll, !document()->isEmpty());
-  menu.exec(event->globalPos());
-}
-
-// Bytes go over the clipboard in a form of their own, which only a page in the same character set takes.
-QString BaselineEdit::contentFormat() const {
-  return text_.charset() == PageCharset::utf8 ? QStringLiteral("application/x-tarnwick-content-utf-8")
-                                              : QStringLiteral("application/x-tarnwick-content-windows-1252");
-}
-
-QMimeData* BaselineEdit::createMimeDataFromSelection() const {
-  const Range range = selection();
-  auto mime = std::make_unique<QMimeData>();
-  if (notice_) {
-    mime->setText(textCursor().selectedText());
-    return mime.release();
-  }
-  mime->setText(toQString(text_.text(range.position, range.length)));
-  if (!text_.firstForeign(range.position, range.length)) {
-    mime->setData(contentFormat(), QByteArray::fromStdString(text_.bytes(range.position, range.length)));
-  }
-  return mime.release();
-}
-
-void BaselineEdit::insertFromMimeData(const QMimeData* source) {
-  if (isReadOnly()) {
-    return;
-  }
-  const Range range = selection();
-  const std::string bytes = source->data(contentFormat()).toStdString();
-  const bool valid = text_.charset() == PageCharset::windows1252 || charsetOf(bytes) == PageCharset::utf8;
-  if (source->hasFormat(contentFormat()) && valid) {
-    apply(text_.pasteBytes(range.position, range.length, bytes));
-  } else if (source->hasText()) {
-    apply(text_.paste(range.position, range.length, source->text().toStdU16String()));
-  }
-}
-
-void BaselineEdit::dropEvent(QDropEvent* event) {
-  // The cursor drawn for the drag goes as if the drag had left.
-  QDragLeaveEvent leave;
-  dragLeaveEvent(&leave);
-  if (isReadOnly() || !canInsertFromMimeData(event->mimeData())) {
-    event->ignore();
-    return;
-  }
-  auto position = static_cast<std::size_t>(cursorForPosition(event->position().toPoint()).position());
-  const Range moved = selection();
-  const bool move = event->source() == viewport() || event->source() == this;
-  if (move && event->dropAction() == Qt::MoveAction && moved.length > 0) {
-    const std::size_t end = moved.position + moved.length;
-    if (position >= moved.position && position <= end) {
-      event->ignore();
-      return;
-    }
-    apply(text_.pasteBytes(moved.position, moved.length, {}));
-    position -= position > moved.position ? moved.length : 0;
-    // Moved from here already: whoever started the drag is not to remove it again.
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-  } else {
-    event->acceptProposedAction();
-  }
-  select({position, 0});
-  insertFromMimeData(event->mimeData());
 }
 
 }  // namespace tarnwick

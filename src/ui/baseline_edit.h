@@ -48,6 +48,7 @@ class BaselineEdit final : public QPlainTextEdit {
   Range selection() const;
   void select(Range range);
   void showPage();
+  void estimateRows();
   void followDocument(int position, int removed, int added);
   void apply(const TextChange& change);
   void insertLineEnd();

@@ -37,6 +37,7 @@ void CountersDialog::layOut() {
     lines->addWidget(button);
   }
   auto* all = new QVBoxLayout(this);
+  all->setSizeConstraint(QLayout::SetFixedSize);
   all->addWidget(frame);
   cancel->setFocus();
 }

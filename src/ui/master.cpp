@@ -8,12 +8,13 @@
 #include <QIcon>
 #include <QShortcut>
 
+#include "product.h"
 #include "ui/display_text.h"
+#include "ui/page_opener.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr const char* kHomePage = "https://www.tarnwick.example/";
 constexpr const char* kHelpFile = "/help.html";
 constexpr QSize kDefaultSize{820, 580};
 constexpr QSize kSmallestSize{660, 380};
@@ -137,16 +138,9 @@ void Master::editSite(std::int16_t idSite) {
   }
 }
 
-void Master::Label1_Click() { openLink(program_.programFolder() + kHelpFile); }
+void Master::Label1_Click() { openPage(program_.services(), program_.programFolder() + kHelpFile); }
 
-void Master::imgLogoSmall_Click() { openLink(kHomePage); }
-
-void Master::openLink(const std::string& target) {
-  if (!program_.services().opener.open(target)) {
-    program_.services().prompts.inform("This desktop could not open the page. You find it at:\n\n" + target,
-                                       kProductName, PromptIcon::information);
-  }
-}
+void Master::imgLogoSmall_Click() { openPage(program_.services(), kProductHomePage); }
 
 void Master::closeEvent(QCloseEvent* event) {
   program_.close();

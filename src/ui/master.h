@@ -76,8 +76,6 @@ class Master final : public QMainWindow, public RunView {
 
   /// Selects a site and opens its editor.
   void editSite(std::int16_t idSite);
-  /// Has the desktop open `target`; a box tells the user where it lies when the desktop refuses.
-  void openLink(const std::string& target);
 
   SiteGridModel sites_;
   MasterControls controls_{};

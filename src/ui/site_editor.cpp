@@ -6,10 +6,10 @@
 #include <utility>
 #include <QKeyEvent>
 
+#include "platform/desktop/input_block.h"
 #include "ui/content_dialog.h"
 #include "ui/counters_dialog.h"
 #include "ui/dialog_parts.h"
-#include "ui/input_block.h"
 #include "ui/new_post_var.h"
 #include "ui/placement.h"
 
@@ -114,11 +114,13 @@ void SiteEditor::reloadPostVars() {
 }
 
 SiteDraft SiteEditor::gather() const {
-  const QListWidgetItem* interval = controls_.lbInterval->currentItem();
-  return {controls_.tUrl->bytes(),        controls_.tPost->isChecked() ? "post" : "get",
-          controls_.tActive->isChecked(), interval == nullptr ? stored_.tInterval : interval->text().toStdString(),
-          controls_.cEmail->isChecked(),  controls_.tEmail->bytes(),
-          controls_.tUsername->bytes(),   controls_.tPassword->bytes()};
+  // What is selected and not what is current: the Tab key makes an item current on its way through the list.
+  const auto selected = controls_.lbInterval->selectedItems();
+  return {
+      controls_.tUrl->bytes(),        controls_.tPost->isChecked() ? "post" : "get",
+      controls_.tActive->isChecked(), selected.isEmpty() ? stored_.tInterval : selected.front()->text().toStdString(),
+      controls_.cEmail->isChecked(),  controls_.tEmail->bytes(),
+      controls_.tUsername->bytes(),   controls_.tPassword->bytes()};
 }
 
 bool SiteEditor::validate() {
@@ -165,7 +167,7 @@ void SiteEditor::Command2_Click() {
   }
   auto* content = new ContentDialog(program_, this);
   content->populateMe(idSite_);
-  openChild(*content, {this});
+  openChild(*content, false);
 }
 
 void SiteEditor::Command3_Click() { save(); }
@@ -194,7 +196,7 @@ void SiteEditor::Command6_Click() {
 void SiteEditor::Command7_Click() {
   auto* counters = new CountersDialog(program_, this);
   counters->idSite = idSite_;
-  openChild(*counters, windowsAbove(*counters));
+  openChild(*counters, true);
 }
 
 void SiteEditor::Command8_Click() { unload(); }
@@ -213,12 +215,15 @@ void SiteEditor::grid1_Click(int row) {
       program_.faults().run([this] { reloadPostVars(); });
     }
   });
-  openChild(*editor, {this});
+  openChild(*editor, false);
 }
 
-void SiteEditor::openChild(QDialog& dialog, const std::vector<QWidget*>& blocked) {
+void SiteEditor::openChild(QDialog& dialog, bool alone) {
   child_ = &dialog;
-  new InputBlock(dialog, blocked);
+  const auto blocked = [this, alone](const QWidget& widget) {
+    return widget.window() == this || (alone && widget.window() == parentWidget()->window());
+  };
+  new InputBlock(dialog, blocked, &dialog);
   connect(&dialog, &QDialog::finished, this, [this, &dialog, focused = QPointer<QWidget>(focusWidget())] {
     if (program_.services().pump.closing()) {
       return;

@@ -59,8 +59,8 @@ class SiteEditor final : public QDialog {
   bool save();
   bool changed() const;
   bool mayLeave();
-  /// Shows a dialog of this editor; the windows `blocked` take no input meanwhile.
-  void openChild(QDialog& dialog, const std::vector<QWidget*>& blocked);
+  /// Shows a dialog of this editor, which takes no input meanwhile; `alone`, nor does the main window.
+  void openChild(QDialog& dialog, bool alone);
   void bringToFront(QDialog& dialog);
   void unload();
 

@@ -84,8 +84,9 @@ class DialogTest : public MasterTest {
     return folder.queryText("select " + name + " from sites where idSite = " + std::to_string(id));
   }
   std::string vars(int id) const {
-    return folder.queryText("select group_concat(pname || '=' || pvalue, ';') from (select * from postVars where idSite = " +
-                            std::to_string(id) + " order by idPostVars)");
+    return folder.queryText(
+        "select group_concat(pname || '=' || pvalue, ';') from (select * from postVars where idSite = " +
+        std::to_string(id) + " order by idPostVars)");
   }
   void addVar(int id, const std::string& name, const std::string& value) {
     folder.execute("insert into postVars (idSite,pname,pvalue) values (" + std::to_string(id) + ",'" + name + "','" +

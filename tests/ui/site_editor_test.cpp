@@ -62,14 +62,20 @@ TEST_F(SiteEditorTest, HasItsControlsAndCaptions) {
   addSite(1, "http://one.test/");
   auto& editor = openEditor();
   EXPECT_EQ(editor.objectName().toStdString(), "site");
-  const std::vector<std::pair<const char*, std::string>> buttons = {
-      {"tGet", "Get"},           {"tPost", "Post"},
-      {"tActive", "Active"},     {"Command9", "Visit"},
-      {"Command4", "Add POST Variable"}, {"Command5", "Clear POST Variables"},
-      {"Command1", "OK"},        {"Command3", "Apply"},
-      {"Command2", "Content"},   {"Command6", "Delete"},
-      {"Command7", "Counters"},  {"Command8", "Cancel"},
-      {"cEmail", "Email"},       {"cPager", "Pager"}};
+  const std::vector<std::pair<const char*, std::string>> buttons = {{"tGet", "Get"},
+                                                                    {"tPost", "Post"},
+                                                                    {"tActive", "Active"},
+                                                                    {"Command9", "Visit"},
+                                                                    {"Command4", "Add POST Variable"},
+                                                                    {"Command5", "Clear POST Variables"},
+                                                                    {"Command1", "OK"},
+                                                                    {"Command3", "Apply"},
+                                                                    {"Command2", "Content"},
+                                                                    {"Command6", "Delete"},
+                                                                    {"Command7", "Counters"},
+                                                                    {"Command8", "Cancel"},
+                                                                    {"cEmail", "Email"},
+                                                                    {"cPager", "Pager"}};
   for (const auto& [name, expected] : buttons) {
     EXPECT_EQ(caption<QAbstractButton>(editor, name), expected);
   }
@@ -94,9 +100,10 @@ TEST_F(SiteEditorTest, IsReachedByTheKeyboardInTheOrderOfTheEye) {
   addSite(1, "http://one.test/");
   auto& editor = openEditor();
   const Strings order = tabOrder(editor, in<QWidget>(editor, "tUrl"));
-  EXPECT_EQ(order, (Strings{"tUrl",   "Command9", "tUsername", "tPassword", "tGet",     "tPost",    "tActive",  "lbInterval",
-                            "cEmail", "tEmail",   "cPager",    "tPager",    "grid1",    "pvName",   "pvValue",  "Command4",
-                            "Command5", "Command1", "Command3", "Command2", "Command6", "Command7", "Command8"}));
+  EXPECT_EQ(order,
+            (Strings{"tUrl",     "Command9", "tUsername", "tPassword", "tGet",     "tPost",    "tActive", "lbInterval",
+                     "cEmail",   "tEmail",   "cPager",    "tPager",    "grid1",    "pvName",   "pvValue", "Command4",
+                     "Command5", "Command1", "Command3",  "Command2",  "Command6", "Command7", "Command8"}));
   std::vector<QChar> keys = mnemonics(editor);
   std::ranges::sort(keys);
   EXPECT_TRUE(std::ranges::adjacent_find(keys) == keys.end()) << "two controls share a mnemonic";
@@ -194,6 +201,21 @@ TEST_F(SiteEditorTest, AnIntervalThatIsNotInTheListIsNotSelectedAndKept) {
   EXPECT_EQ(column(1, "tInterval"), "120");
 }
 
+TEST_F(SiteEditorTest, PassingTheIntervalsWithTheTabKeySelectsNothing) {
+  addSite(1, "http://one.test/");
+  folder.execute("update sites set tInterval = 7");
+  auto& editor = openEditor();
+  intervals(editor).setFocus();
+  for (int step = 0; step < 3; ++step) {
+    QTest::keyClick(editor.focusWidget(), Qt::Key_Backtab);
+  }
+  for (int step = 0; step < 6; ++step) {
+    QTest::keyClick(editor.focusWidget(), Qt::Key_Tab);
+  }
+  press(editor, "Command3");
+  EXPECT_EQ(column(1, "tInterval"), "7");
+}
+
 TEST_F(SiteEditorTest, AnIntervalThatIsMissingBecomesThatOfANewSite) {
   addSite(1, "http://one.test/");
   folder.execute("update sites set tInterval = null");
@@ -226,7 +248,7 @@ TEST_F(SiteEditorTest, AnInvalidAddressBlocksApplyWithOneBox) {
   press(editor, "Command3");
   ASSERT_EQ(machine.prompts.texts(), Strings{"You must enter a valid email address."});
   EXPECT_EQ(machine.prompts.shown()[0].title, "Tarnwick");
-  EXPECT_TRUE(in<QLineEdit>(editor, "tEmail").hasFocus());
+  EXPECT_EQ(editor.focusWidget(), &in<QWidget>(editor, "tEmail"));
   EXPECT_EQ(column(1, "url"), "http://one.test/");
   EXPECT_EQ(text(editor, "tUrl"), "http://typed.test/");
 }

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <chrono>
+
+namespace tarnwick::testing {
+
+/// The longest time that a user is made to wait for something, as a test measures it: a build that is made to find
+/// mistakes is slower than the one that users run.
+constexpr std::chrono::milliseconds patience(std::chrono::milliseconds time) {
+#if defined(__SANITIZE_ADDRESS__) || !defined(NDEBUG)
+  return time * 12;
+#else
+  return time;
+#endif
+}
+
+}  // namespace tarnwick::testing
