@@ -31,6 +31,10 @@ SITES = (
     ("/archive/2019/", 120, 0, 88, 0, False),
 )
 
+# The site that is asked with POST, by its number, and what is posted.
+FORM_SITE = 5
+FORM = (("user", "monitor"), ("action", "sign in"), ("remember", "no"))
+
 
 class Pages(http.server.BaseHTTPRequestHandler):
     def do_GET(self):  # noqa: N802 - the name is the library's
@@ -45,7 +49,9 @@ class Pages(http.server.BaseHTTPRequestHandler):
 
 
 def page_of(path: str) -> bytes:
-    return f"<html><body>The page {path}</body></html>".encode()
+    lines = ["<!DOCTYPE html>", "<html>", "<head><title>A page</title></head>", "<body>",
+             f"<h1>The page {path}</h1>", "<p>All services are running.</p>", "</body>", "</html>", ""]
+    return "\r\n".join(lines).encode()
 
 
 def start_server() -> http.server.ThreadingHTTPServer:
@@ -68,6 +74,10 @@ def make_database(file: Path, schema: Path, address: str) -> None:
                 "insert into sites (idSite, url, method, active, tInterval, lastChecked, status, success, failure,"
                 " content_compare) values (?, ?, 'GET', ?, ?, '2026-03-31 09:12:44', 1, ?, ?, cast(? as text))",
                 (number, address + path, active, interval, success, failure, baseline))
+        connection.execute("update sites set method = 'POST', sUserName = 'monitor', sPassWord = 'not shown',"
+                           " alertEmail = 1, email = 'admin@example.org' where idSite = ?", (FORM_SITE,))
+        connection.executemany("insert into postVars (idSite, pname, pvalue) values (?, ?, ?)",
+                               [(FORM_SITE, name, value) for name, value in FORM])
     connection.close()
 
 
@@ -85,6 +95,52 @@ def checked(file: Path) -> bool:
 def take(session: DesktopSession, window: str, file: Path) -> None:
     subprocess.run(["import", "-frame", "-window", window, str(file)], env=session.env, check=True)
     subprocess.run(["mogrify", "-strip", str(file)], check=True)
+
+
+def press_all(session: DesktopSession, window: str, keys: str) -> None:
+    for key in keys.split():
+        session.press(window, key)
+
+
+def take_dialogs(session: DesktopSession, process: subprocess.Popen, window: str, pictures: Path) -> None:
+    """Opens the dialogs of a site as a person with a keyboard does, and takes their pictures."""
+    press_all(session, window, "ctrl+Home" + " Down" * (FORM_SITE - 1) + " Return")
+    editor = session.window("Site", process)
+    settle()
+    take(session, editor, pictures / "site-editor.png")
+    for keys, title, picture in (("alt+c", "Content", "content.png"), ("alt+t", "counters", "counters.png")):
+        session.press(editor, keys)
+        dialog = session.window(title, process)
+        settle()
+        take(session, dialog, pictures / picture)
+        session.press(dialog, "Escape")
+    # From the pager's mark over its text on to the list of variables.
+    press_all(session, editor, "alt+r Tab Tab ctrl+Home Return")
+    dialog = session.window("Add / Edit Post Variable", process)
+    settle()
+    take(session, dialog, pictures / "post-variable.png")
+    session.press(dialog, "Escape")
+    session.press(editor, "Escape")
+
+
+def take_settings(session: DesktopSession, process: subprocess.Popen, window: str, file: Path, database: Path) -> None:
+    """Takes the picture of the settings with mail switched on, while no check can send one."""
+    session.press(window, "shift+F5")
+    connection = sqlite3.connect(database, timeout=5)
+    with connection:
+        connection.execute("update control set email = 'watch@tarnwick.example', smtp = 'localhost',"
+                           " audio = '/home/me/sounds/alarm.wav', program = '/home/me/bin/tell.sh \"~date~\" ~3~',"
+                           " creports = 1, cemail = 1, caudio = 1")
+    connection.close()
+    session.press(window, "alt+u")
+    dialog = session.window("Settings", process)
+    settle()
+    take(session, dialog, file)
+    session.press(dialog, "Escape")
+
+
+def settle() -> None:
+    threading.Event().wait(1)  # the window manager draws the frame of a new window in its own time
 
 
 def main() -> int:
@@ -105,6 +161,8 @@ def main() -> int:
             wait_until(lambda: checked(database), "the sites to be checked")
             threading.Event().wait(4)  # the countdown and the run clock get going
             take(session, window, pictures / "main-window.png")
+            take_dialogs(session, process, window, pictures)
+            take_settings(session, process, window, pictures / "settings.png", database)
             session.close(window)
             process.wait(timeout=15)
     server.shutdown()
