@@ -44,6 +44,10 @@ class Pages(http.server.BaseHTTPRequestHandler):
         self.end_headers()
         self.wfile.write(page)
 
+    def do_POST(self):  # noqa: N802
+        self.rfile.read(int(self.headers.get("Content-Length", 0)))
+        self.do_GET()
+
     def log_message(self, *_):
         pass
 

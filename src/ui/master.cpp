@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QDialog>
 #include <QIcon>
+#include <QScreen>
 #include <QShortcut>
 
 #include "product.h"
@@ -34,7 +35,7 @@ Master::Master(std::string programFolder, const Services& services)
   setAccessibleName(QString::fromLatin1(kProductName));
   setWindowTitle(QString::fromLatin1(kProductName));
   setMinimumSize(kSmallestSize);
-  resize(kDefaultSize);
+  resize(kDefaultSize.boundedTo(screen()->availableSize()));
   connectControls();
   setEditors({});
   controls_.grid1->setFocus();
