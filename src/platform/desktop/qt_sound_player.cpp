@@ -1,6 +1,8 @@
 #include "platform/desktop/qt_sound_player.h"
 
 #include <chrono>
+#include <cstdio>
+#include <cstdlib>
 #include <optional>
 #include <QAudioDevice>
 #include <QAudioFormat>
@@ -48,6 +50,21 @@ QAudioFormat formatOf(const WaveSound& sound) {
   format.setSampleRate(static_cast<int>(sound.sampleRate));
   format.setChannelCount(sound.channels);
   return format;
+}
+
+// Qt 6.4 takes its link to the PulseAudio server down at the end of the process while the link's own thread still uses
+// it, and about every fourth process that has played a sound is aborted there, with everything else long done. Who has
+// played a sound therefore ends just before that.
+void endBeforeTheLink() {
+#ifdef __GLIBC__
+  static const bool registered = ::on_exit(
+                                     [](int status, void*) {
+                                       std::fflush(nullptr);
+                                       std::_Exit(status);
+                                     },
+                                     nullptr) == 0;
+  static_cast<void>(registered);
+#endif
 }
 
 }  // namespace
@@ -105,6 +122,7 @@ long QtSoundPlayer::play(const std::string& fileName) {
   }
   playing_.reset();
   playing_ = std::make_unique<Playing>(*sound, device);
+  endBeforeTheLink();
   return playing_->sink.error() == QAudio::NoError ? 1 : 0;
 }
 
