@@ -21,6 +21,9 @@ constexpr std::size_t kPassword = 10;
 // How much lighter the row of a site is while its request is under way.
 constexpr int kTestingBrightness = 36;
 
+// A database Null in the site table.
+constexpr const char* kNull = "NULL";
+
 constexpr const char* kNoAddress = "The address of the site is empty.";
 
 }  // namespace
@@ -143,6 +146,9 @@ void TestPass::judge(std::int16_t slot) {
 void TestPass::record(std::size_t row, const std::string& content, std::int32_t errCode,
                       const std::string& errDescription) {
   const std::int16_t id = idSite(row);
+  if (!stillAsSelected(row)) {
+    return;
+  }
   Transaction whole = needs_.results.oneRecord();
   if (needs_.results.testSite(id, content, errCode, errDescription)) {
     try {
@@ -159,6 +165,13 @@ void TestPass::record(std::size_t row, const std::string& content, std::int32_t 
     run_.recordResult(id, false);
   }
   std::erase(brightened_, id);
+}
+
+// While it was fetched a site may have been deleted, its id given to a new one, or its address been changed: the page
+// is not that site's, and must not become its baseline. What is due by then is fetched by the next pass.
+bool TestPass::stillAsSelected(std::size_t row) const {
+  const std::string stored = needs_.results.getUrl(idSite(row));
+  return stored == url(row) || (stored.empty() && url(row) == kNull);
 }
 
 void TestPass::nextRow() {

@@ -36,6 +36,7 @@ class TestPass {
   void drain();
   void judge(std::int16_t slot);
   void record(std::size_t row, const std::string& content, std::int32_t errCode, const std::string& errDescription);
+  bool stillAsSelected(std::size_t row) const;
   void nextRow();
   void showProgress();
 

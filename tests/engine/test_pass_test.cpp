@@ -288,6 +288,43 @@ TEST_F(TestPassTest, ASiteDeletedWhileItIsFetchedChangesNothing) {
   EXPECT_EQ(column(other, "success"), "1");
 }
 
+TEST_F(TestPassTest, APageIsNotRecordedForANewSiteThatGotTheIdOfADeletedOne) {
+  addPage("/other", "other");
+  std::int16_t fresh = 0;
+  server.handle("/a", [&](const HttpRequest&) {
+    program.data().deleteSite(2);
+    fresh = program.data().addSite();
+    return HttpResponse{.body = "page of the deleted site"};
+  });
+  ASSERT_EQ(addSite(server.url("/a")), 2);
+  run().startChecking();
+  ASSERT_EQ(fresh, 2);
+  EXPECT_EQ(column(fresh, "content_compare"), "NULL");
+  EXPECT_EQ(column(fresh, "success"), "NULL");
+}
+
+TEST_F(TestPassTest, APageIsNotRecordedForASiteWhoseAddressWasChangedMeanwhile) {
+  server.handle("/a", [&](const HttpRequest&) {
+    program.data().updateSites(1, server.url("/b"), "get", true, 10, false, "", "", "");
+    return HttpResponse{.body = "page of the old address"};
+  });
+  server.respond("/b", {.body = "page of the new address"});
+  const std::int16_t id = addSite(server.url("/a"));
+  run().startChecking();
+  EXPECT_EQ(column(id, "content_compare"), "NULL");
+  EXPECT_THAT(view.unbrightened, Contains(id));
+  run().runTestPass(1);
+  EXPECT_EQ(column(id, "content_compare"), "page of the new address");
+}
+
+TEST_F(TestPassTest, ASiteWithoutAnAddressInTheDatabaseIsAFailedRequest) {
+  const std::int16_t id = program.data().addSite();
+  folder.execute("update sites set url = null, content_compare = 'something'");
+  run().startChecking();
+  EXPECT_EQ(column(id, "status"), "0");
+  EXPECT_EQ(column(id, "failure"), "1");
+}
+
 TEST_F(TestPassTest, AnErrorEndsThePassWithLampsPoolAndGuardInOrder) {
   const std::int16_t id = addPage("/a", "a");
   folder.execute("update sites set success = 32767");
