@@ -12,10 +12,10 @@ build_packages=(
 # reports. Qt's own plug-ins come with its libraries.
 run_packages=(ca-certificates fonts-dejavu-core xdg-utils)
 
-# The test libraries, the mail server and the certificates of the tests, a display to start the program on, a sound
+# The test libraries, the mail server of the tests, the system's certificates and what makes the tests' own, a display to start the program on, a sound
 # server that records what is played, and other people's encoders.
 test_packages=(
-  libgtest-dev libgmock-dev openssl python3 python3-aiosmtpd
+  libgtest-dev libgmock-dev ca-certificates openssl python3 python3-aiosmtpd
   xvfb openbox xdotool wmctrl fonts-dejavu-core
   pulseaudio pulseaudio-utils sharutils
 )
