@@ -1,10 +1,14 @@
 #include "platform/qt_tcp_socket.h"
 
+#include <optional>
 #include <utility>
 #include <QHostInfo>
+#include <QMetaObject>
 #include <QNetworkInterface>
 #include <QNetworkProxy>
 #include <QTcpSocket>
+
+#include "platform/name_lookup.h"
 
 namespace tarnwick {
 namespace {
@@ -35,20 +39,41 @@ class QtTcpSocket final : public TcpSocket {
         handler_();
       }
     });
+    QObject::connect(&socket_, &QTcpSocket::connected, &socket_, [this] { untried_.clear(); });
     QObject::connect(&socket_, &QTcpSocket::errorOccurred, &socket_, [this](QAbstractSocket::SocketError error) {
-      failed_ = error != QAbstractSocket::RemoteHostClosedError;
+      if (untried_.isEmpty()) {
+        failed_ = error != QAbstractSocket::RemoteHostClosedError;
+      } else {
+        // The socket is in the middle of giving up this address.
+        QMetaObject::invokeMethod(
+            &socket_, [this] { tryNextAddress(); }, Qt::QueuedConnection);
+      }
     });
   }
 
   void connectTo(const std::string& host, std::uint16_t port) override {
+    giveUpConnecting();
     socket_.abort();
     failed_ = false;
-    socket_.connectToHost(QString::fromStdString(host).trimmed(), port);
+    const QString name = QString::fromStdString(host).trimmed();
+    if (const QHostAddress address(name); !address.isNull()) {
+      socket_.connectToHost(address, port);
+      return;
+    }
+    lookup_.emplace(name, [this, port](const QList<QHostAddress>& addresses) {
+      untried_ = addresses;
+      port_ = port;
+      failed_ = addresses.isEmpty();
+      tryNextAddress();
+    });
   }
 
   SocketState state() const override {
     if (failed_) {
       return SocketState::error;
+    }
+    if ((lookup_ && lookup_->pending()) || !untried_.isEmpty()) {
+      return SocketState::connecting;
     }
     switch (socket_.state()) {
       case QAbstractSocket::HostLookupState:
@@ -70,6 +95,7 @@ class QtTcpSocket final : public TcpSocket {
   std::string getData() override { return socket_.isOpen() ? socket_.readAll().toStdString() : std::string(); }
 
   void close() override {
+    giveUpConnecting();
     failed_ = false;
     if (socket_.state() == QAbstractSocket::ConnectedState) {
       // Data that is queued still leaves in the background.
@@ -85,8 +111,24 @@ class QtTcpSocket final : public TcpSocket {
   std::string localIP() const override { return reachableAddress().toString().toStdString(); }
 
  private:
+  void giveUpConnecting() {
+    lookup_.reset();
+    untried_.clear();
+  }
+
+  void tryNextAddress() {
+    // Meanwhile the socket may have been closed or sent elsewhere.
+    if (!untried_.isEmpty() && socket_.state() == QAbstractSocket::UnconnectedState) {
+      socket_.connectToHost(untried_.takeFirst(), port_);
+    }
+  }
+
   std::function<void()> handler_;
   bool failed_ = false;
+  /// The addresses of the host that are left when the one that is being tried does not answer.
+  QList<QHostAddress> untried_;
+  std::uint16_t port_ = 0;
+  std::optional<NameLookup> lookup_;
   // Goes before the members that its signals use.
   QTcpSocket socket_;
 };

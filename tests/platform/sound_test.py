@@ -154,6 +154,12 @@ class Sound(unittest.TestCase):
         missing = self.folder / "missing.wav"
         self.assertEqual(self.play(text, 1, empty, 1, missing, 1, self.folder, 1, "", 1), ["0"] * 5)
 
+    @unittest.skipUnless(hasattr(os, "mkfifo"), "this system has no named pipes")
+    def test_what_is_no_plain_file_is_silent_and_not_waited_for(self):
+        pipe = self.folder / "pipe.wav"
+        os.mkfifo(pipe)
+        self.assertEqual(self.play(pipe, 1, "/dev/zero", 1), ["0", "0"])
+
     def test_a_machine_without_a_sound_device_is_silent(self):
         environment = {**self.server.environment, "PULSE_SERVER": f"unix:{self.folder}/no-server"}
         sound = self.file("sound.wav", wave(1, 16, 1, 0.1))

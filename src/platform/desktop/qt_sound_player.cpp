@@ -10,6 +10,7 @@
 #include <QBuffer>
 #include <QByteArray>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QMediaDevices>
 #include <QTimer>
@@ -37,7 +38,8 @@ void dropSoundServerMessages(QtMsgType type, const QMessageLogContext& context, 
 
 std::optional<WaveSound> load(const std::string& fileName) {
   QFile file(QString::fromStdString(fileName));
-  if (fileName.empty() || !file.open(QIODevice::ReadOnly) || file.size() > kLargestFile) {
+  // A pipe or a device could keep the program waiting for ever.
+  if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > kLargestFile) {
     return std::nullopt;
   }
   const QByteArray bytes = file.readAll();
