@@ -23,7 +23,9 @@ namespace tarnwick {
 /// The file operations return false after a message box: an input file that does not exist, an output file that exists
 /// and that the user does not wish to overwrite, a part that is missing. What else goes wrong with a file raises
 /// FileError, and a damaged text DecodeError. Whenever an operation does not return true, no output file has been made
-/// and none that was there has changed. An output file gets the permissions of the input file.
+/// and none that was there has changed, with one exception: parts are written under other names, and get theirs one by
+/// one in the end, the last part first. When one of these names cannot be given, the parts that have theirs stay. An
+/// output file gets the permissions of the input file.
 ///
 /// Paths are UTF-8.
 class UUCode {

@@ -45,8 +45,8 @@ class InputFile {
   std::unique_ptr<std::FILE, Closer> file_;
 };
 
-/// Files that come into being all together, or not at all: each is written beside its place under a name of no meaning,
-/// and gets its own name in the end.
+/// Files none of which comes into being before all are written: each is written beside its place under a name of no
+/// meaning, and gets its own name in the end.
 class OutputFiles {
  public:
   explicit OutputFiles(FileSystem& files) : files_(files) {}
@@ -59,7 +59,8 @@ class OutputFiles {
   /// `fill` raises.
   void write(const std::string& path, const std::string& like, const std::function<void(const ByteSink& sink)>& fill);
 
-  /// Gives every file its name, in place of a file that has it.
+  /// Gives every file its name, in place of a file that has it, the last one first. Raises FileError when that fails;
+  /// the files that have their names then stay.
   void finish();
 
  private:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <stdexcept>
 #include <utility>
 #include <QKeyEvent>
 
@@ -207,7 +208,14 @@ void SiteEditor::Command9_Click() {
 
 void SiteEditor::grid1_Click(int row) {
   const PostVar var = postVars_.vars().at(static_cast<std::size_t>(row));
-  auto* editor = new NewPostVar(program_, program_.data().getIdPostVars(idSite_, var.name, var.value), var, this);
+  const std::int16_t idPostVars = program_.data().getIdPostVars(idSite_, var.name, var.value);
+  if (idPostVars == 0) {
+    // A Null, or a change by another program: an update would reach no variable and be lost.
+    throw std::runtime_error(
+        "This variable is not stored as it is shown. Press Apply to store the list, then click "
+        "the variable again.");
+  }
+  auto* editor = new NewPostVar(program_, idPostVars, var, this);
   editor->populateMe();
   connect(editor, &QDialog::finished, this, [this] {
     // Only the variables: what was typed elsewhere in this form is kept.

@@ -228,6 +228,20 @@ TEST_F(UuEncodeTest, AFullDiskLeavesNoPart) {
   EXPECT_THAT(names(), ElementsAre("a.bin"));
 }
 
+TEST_F(UuEncodeTest, ANameThatCannotBeGivenLeavesWholePartsOldOrNewAndNothingElse) {
+  const std::string file = make("a.bin", randomBytes(135, 11));
+  make("a1.UUE", "old one");
+  make("a2.UUE", "old two");
+  prompts.answerConfirm(true);
+  prompts.answerConfirm(true);
+  TakenName disk(path("a2.UUE"));
+  EXPECT_THROW(UUCode(prompts, disk).UUEncodeFiles(file, folder(), 45), FileError);
+  EXPECT_THAT(names(), ElementsAre("a.bin", "a1.UUE", "a2.UUE", "a3.UUE"));
+  EXPECT_EQ(read("a1.UUE"), "old one");
+  EXPECT_EQ(read("a2.UUE"), "old two");
+  EXPECT_THAT(read("a3.UUE"), ::testing::EndsWith("\r\n`\r\nend\r\n"));
+}
+
 TEST_F(UuEncodeTest, AMissingInputOfPartsIsSaid) {
   EXPECT_FALSE(code.UUEncodeFiles(path("none.bin"), folder(), 50));
   EXPECT_THAT(prompts.texts(), ElementsAre("Input file " + path("none.bin") + " does not exist!"));

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "alerts/decode_error.h"
@@ -64,6 +65,30 @@ class FullDisk final : public FileSystem {
  private:
   LocalFiles disk_;
   std::size_t room_;
+};
+
+/// A disk on which one name can be given to no file.
+class TakenName final : public FileSystem {
+ public:
+  explicit TakenName(std::string name) : name_(std::move(name)) {}
+
+  void write(const std::string& path, const std::string& like,
+             const std::function<void(const ByteSink& sink)>& fill) override {
+    disk_.write(path, like, fill);
+  }
+  void copy(const std::string& from, const std::string& to) override { disk_.copy(from, to); }
+  void rename(const std::string& from, const std::string& to) override {
+    if (to == name_) {
+      throw FileError(to, "Operation not permitted");
+    }
+    disk_.rename(from, to);
+  }
+  void remove(const std::string& path) override { disk_.remove(path); }
+  bool replacesOpenFiles() const override { return true; }
+
+ private:
+  LocalFiles disk_;
+  std::string name_;
 };
 
 /// A UUCode that works in a folder of its own, which is removed in the end.

@@ -124,6 +124,20 @@ TEST_F(NewPostVarTest, TheKeyboardOpensTheVariableToo) {
   EXPECT_EQ(text(opened<NewPostVar>(), "pvName"), "b'");
 }
 
+TEST_F(NewPostVarTest, AVariableThatIsNotStoredAsShownIsNotEditedInVain) {
+  folder.execute("update postVars set pvalue = null where pname = 'a'");
+  auto& editor = openEditor();
+  clickVar(editor, 0);
+  EXPECT_EQ(shown<NewPostVar>(), nullptr);
+  ASSERT_EQ(machine.prompts.texts().size(), 1U);
+  EXPECT_NE(machine.prompts.texts().front().find("Press Apply"), std::string::npos);
+  press(editor, "Command3");
+  clickVar(editor, 0);
+  type(opened<NewPostVar>(), "pvValue", "new");
+  press(opened<NewPostVar>(), "Command4");
+  EXPECT_EQ(vars(1), "a=new;b'= two ");
+}
+
 TEST_F(NewPostVarTest, TheSiteEditorWaitsMeanwhile) {
   auto& form = openVar(0);
   auto& editor = opened<SiteEditor>();
