@@ -150,9 +150,10 @@ bool SiteEditor::mayLeave() {
   if (!changed()) {
     return true;
   }
-  const bool keep =
-      program_.services().prompts.confirm("Do You Want To Save The Changes To Site " + std::to_string(idSite_) + "?");
-  return keep ? save() : !program_.services().pump.closing();
+  // Escape answers No, and must not lose what was typed.
+  return program_.services().prompts.confirm("Do You Want To Discard The Changes To Site " + std::to_string(idSite_) +
+                                             "?") &&
+         !program_.services().pump.closing();
 }
 
 void SiteEditor::Command1_Click() {
