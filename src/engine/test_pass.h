@@ -25,7 +25,7 @@ class TestPass {
 
  private:
   std::size_t count() const { return urls_.size(); }
-  bool stopped() const { return !run_.running(); }
+  bool stopped() const { return !run_.running() || needs_.pump.closing(); }
 
   void selectSites(std::int16_t mode);
   void dispatchAll();

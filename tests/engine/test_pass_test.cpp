@@ -361,6 +361,14 @@ TEST_F(TestPassTest, WaitingForASilentServerUsesNoProcessorTime) {
   EXPECT_LT(used, 0.2);
 }
 
+TEST_F(TestPassTest, AStartAfterClosingEndsAtOnce) {
+  addPage("/a", "a");
+  program.close();
+  run().startChecking();
+  EXPECT_FALSE(run().busy());
+  EXPECT_THAT(server.requests(), IsEmpty());
+}
+
 TEST_F(TestPassTest, ClosingInMidPassEndsIt) {
   server.respond("/silent", {.hold = true});
   const std::int16_t id = addPage("/a", "a");
