@@ -1,5 +1,7 @@
 #include "engine/due_sites.h"
 
+#include <algorithm>
+#include <limits>
 #include <stdexcept>
 #include <utility>
 
@@ -12,6 +14,13 @@ namespace {
 constexpr const char* kIsDue = " datediff('n',[lastChecked],now()) >= tInterval ";
 constexpr const char* kIsActive = " active = true";
 constexpr const char* kById = " ORDER BY idSite";
+
+// A last check of another age, as a file from elsewhere or a wrong clock leaves behind, must not end the countdown: a
+// site that is overdue beyond all counting is simply due.
+std::int32_t withinCountdown(std::int64_t seconds) {
+  constexpr std::int64_t kLongest = std::numeric_limits<std::int32_t>::max();
+  return static_cast<std::int32_t>(std::clamp(seconds, -kLongest, kLongest));
+}
 
 }  // namespace
 
@@ -41,7 +50,7 @@ MinWaitTime DueSites::getMinWaitTime() {
     soonest.idsite = siteIdFromText(id);
     soonest.url = rows->field("url").toText();
     soonest.tlc = rows->field("tlc").toInt32("the check interval of site " + id + " in seconds");
-    soonest.mlc = rows->field("mlc").toInt32("the number of seconds until site " + id + " is due");
+    soonest.mlc = withinCountdown(rows->field("mlc").toInt64());
   }
   rows->close();
   return soonest;

@@ -149,6 +149,15 @@ TEST_F(RunControllerTest, AClockSetBackMakesTheSiteWaitAndNothingElse) {
   EXPECT_THAT(machine.prompts.texts(), IsEmpty());
 }
 
+TEST_F(RunControllerTest, ADateThatNobodyMeantIsNoError) {
+  const std::int16_t id = addPage("/a", "hello");
+  run().startChecking();
+  folder.execute("update sites set lastChecked = '1900-01-01 00:00:00'");
+  machine.handTimers.advance(seconds(2));
+  EXPECT_EQ(column(id, "success"), "2");
+  EXPECT_THAT(machine.prompts.texts(), IsEmpty());
+}
+
 TEST_F(RunControllerTest, TheClockIsEmptyBeforeTheFirstStartTicksInARunAndKeepsItsLastValue) {
   machine.handTimers.advance(seconds(5));
   EXPECT_THAT(view.clocks, IsEmpty());

@@ -44,6 +44,13 @@ TEST_F(FaultBoxTest, ALastingFaultOfATimerIsToldOnce) {
   EXPECT_THAT(prompts.texts(), SizeIs(1));
 }
 
+TEST_F(FaultBoxTest, ANumberThatDiffersMakesNoOtherFault) {
+  for (int tick = 0; tick < 5; ++tick) {
+    box.runRepeated("tick", [&] { throw OverflowError("Overflow: " + std::to_string(40000 + tick)); });
+  }
+  EXPECT_THAT(prompts.texts(), SizeIs(1));
+}
+
 TEST_F(FaultBoxTest, AFaultThatComesBackAfterASuccessIsToldAgain) {
   box.runRepeated("tick", [] { fail("locked"); });
   box.runRepeated("tick", [] {});
