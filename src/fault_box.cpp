@@ -1,5 +1,6 @@
 #include "fault_box.h"
 
+#include <algorithm>
 #include <exception>
 
 #include "platform/errors.h"
@@ -41,7 +42,9 @@ bool FaultBox::run(const std::function<void()>& action, const std::string& sourc
     return true;
   } catch (...) {
     const Description description = describeCurrentException();
-    standing_.insert({source, description.fault});
+    if (!source.empty()) {
+      standing_.insert({source, description.fault});
+    }
     show(description.message);
     return false;
   }
@@ -54,12 +57,17 @@ bool FaultBox::runRepeated(const std::string& source, const std::function<void()
     return true;
   } catch (...) {
     const Description description = describeCurrentException();
-    const bool news = standing_.insert({source, description.fault}).second;
-    if (news && open_ == 0) {
+    if (open_ == 0 && !isStanding(description.fault)) {
+      standing_.insert({source, description.fault});
       show(description.message);
     }
     return false;
   }
+}
+
+bool FaultBox::isStanding(const std::string& fault) const {
+  return std::any_of(standing_.begin(), standing_.end(),
+                     [&](const Fault& standing) { return standing.fault == fault; });
 }
 
 void FaultBox::show(const std::string& message) {

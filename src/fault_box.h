@@ -17,15 +17,17 @@ class FaultBox {
   /// `source` names a repeated action (see `runRepeated`) that goes on with this one's work, and would fail alike.
   bool run(const std::function<void()>& action, const std::string& source = {});
 
-  /// Runs what a timer asked for. A failure that `source` has already met is not shown again until the source has
-  /// succeeded once, so that a lasting fault is told once, not at every tick; and none is shown while another's box is
-  /// still open. False when it failed.
+  /// Runs what a timer asked for. A failure that has been shown is not shown again until the source that met it has
+  /// succeeded once, so that a lasting fault is told once, not at every tick nor by every timer that meets it; and none
+  /// is shown while another's box is still open: if it lasts, it is shown after that. False when it failed.
   bool runRepeated(const std::string& source, const std::function<void()>& action);
 
   /// Shows `message` in a box.
   void show(const std::string& message);
 
  private:
+  bool isStanding(const std::string& fault) const;
+
   struct Fault {
     std::string source;
     std::string fault;
@@ -33,6 +35,7 @@ class FaultBox {
   };
 
   Prompts& prompts_;
+  // What has been shown of the repeated actions and not been followed by a success.
   std::set<Fault> standing_;
   int open_ = 0;
 };

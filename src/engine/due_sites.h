@@ -21,7 +21,8 @@ struct MinWaitTime {
   std::int16_t idsite = 0;  ///< 0 when there is no active site
   std::string url;
   std::int32_t tlc = 0;  ///< its check interval in seconds
-  std::int32_t mlc = 0;  ///< seconds until it is due; negative when overdue, 0 when never checked
+  /// Seconds until it is due; negative when overdue, 0 when never checked; at most 2147483647 either way.
+  std::int32_t mlc = 0;
 };
 
 /// Chooses what is tested and when. The database alone decides by its clock which sites are due: those whose last check
@@ -34,7 +35,7 @@ class DueSites {
   /// std::invalid_argument. An active site that was never checked is not due, but is among the active ones.
   TextTable getArraySitesActiveTrue(std::int16_t mode);
 
-  /// The soonest-due active site. Raises OverflowError when its id does not fit 16 bits, or its times 32.
+  /// The soonest-due active site. Raises OverflowError when its id does not fit 16 bits, or its check interval 32.
   MinWaitTime getMinWaitTime();
 
   /// The ids of the active sites that are due, rising. Raise OverflowError for an id that does not fit 16 bits.

@@ -180,6 +180,16 @@ TEST_F(DueSitesTest, IntervalPast32BitsIsAnErrorThatNamesTheSite) {
   EXPECT_THAT(errorOf<OverflowError>([&] { due.getMinWaitTime(); }), HasSubstr("site 4"));
 }
 
+TEST_F(DueSitesTest, LastCheckOfAnotherAgeIsDueOrWaitsAndLeavesRoomToCountDown) {
+  setTime("2024-05-17 12:00:00");
+  addSite(1, true, 10, "'1899-12-30 00:00:00'");
+  EXPECT_EQ(due.getMinWaitTime().mlc, -2147483647);
+  EXPECT_THAT(ids(site_choice::due), ElementsAre("1"));
+  folder.execute("update sites set lastChecked = '2199-12-31 00:00:00'");
+  EXPECT_EQ(due.getMinWaitTime().mlc, 2147483647);
+  EXPECT_THAT(ids(site_choice::due), ElementsAre());
+}
+
 TEST_F(DueSitesTest, FailedStatementTravelsToTheCaller) {
   folder.execute("alter table sites rename to gone");
   EXPECT_THROW(due.getArraySitesActiveTrue(0), DataAccessError);

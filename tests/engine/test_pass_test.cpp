@@ -5,6 +5,7 @@
 
 #include <ctime>
 
+#include "platform/errors.h"
 #include "support/program_fixture.h"
 
 namespace tarnwick::testing {
@@ -367,6 +368,29 @@ TEST_F(TestPassTest, AStartAfterClosingEndsAtOnce) {
   run().startChecking();
   EXPECT_FALSE(run().busy());
   EXPECT_THAT(server.requests(), IsEmpty());
+}
+
+// A view that reads the record of the row it repaints, which fails with the database.
+class FailingView final : public SilentView {
+ public:
+  void brighten(std::int16_t, int) override { onBrighten(); }
+  void unbrighten(std::int16_t) override { throw DataAccessError("the record cannot be read", ""); }
+  void indicators(RunState state) override { lamp = state; }
+
+  std::function<void()> onBrighten;
+  RunState lamp = RunState::start;
+};
+
+TEST_F(TestPassTest, ARowThatCannotBeRepaintedDoesNotKeepThePassFromEndingInOrder) {
+  server.respond("/silent", {.hold = true});
+  addSite(server.url("/silent"));
+  FailingView failing;
+  Program other(folder.path(), machine.services(), failing);
+  other.start();
+  failing.onBrighten = [&] { other.stopRun(); };
+  EXPECT_TRUE(other.startRun());
+  EXPECT_FALSE(other.run().busy());
+  EXPECT_EQ(failing.lamp, RunState::stop);
 }
 
 TEST_F(TestPassTest, ClosingInMidPassEndsIt) {

@@ -74,6 +74,39 @@ TEST_F(FaultBoxTest, NoTimerAddsABoxToAnOpenOne) {
   EXPECT_THAT(prompts.texts(), ElementsAre(HasSubstr("locked")));
 }
 
+TEST_F(FaultBoxTest, WhatWasHeldBackByAnOpenBoxIsToldAfterItWhenItLasts) {
+  prompts.whileOpen = [&](const RecordingPrompts::Box&) {
+    prompts.whileOpen = nullptr;
+    box.runRepeated("other", [] { fail("another fault"); });
+  };
+  box.runRepeated("tick", [] { fail("locked"); });
+  box.runRepeated("other", [] { fail("another fault"); });
+  box.runRepeated("other", [] { fail("another fault"); });
+  EXPECT_THAT(prompts.texts(), ElementsAre(HasSubstr("locked"), HasSubstr("another fault")));
+}
+
+TEST_F(FaultBoxTest, TheSameFaultMetByTwoTimersIsToldOnce) {
+  for (int tick = 0; tick < 3; ++tick) {
+    box.runRepeated("run", [] { fail("damaged", "select a"); });
+    box.runRepeated("report", [] { fail("damaged", "select b"); });
+  }
+  EXPECT_THAT(prompts.texts(), SizeIs(1));
+}
+
+TEST_F(FaultBoxTest, AFaultThatOutlastsTheOneWhoToldItIsToldAgain) {
+  box.runRepeated("run", [] { fail("locked"); });
+  box.runRepeated("report", [] { fail("locked"); });
+  box.runRepeated("run", [] {});
+  box.runRepeated("report", [] { fail("locked"); });
+  EXPECT_THAT(prompts.texts(), SizeIs(2));
+}
+
+TEST_F(FaultBoxTest, WhatAClickMetIsStillNewsFromATimer) {
+  box.run([] { fail("locked"); });
+  box.runRepeated("tick", [] { fail("locked"); });
+  EXPECT_THAT(prompts.texts(), SizeIs(2));
+}
+
 TEST_F(FaultBoxTest, WhatStoppedTheUsersActionIsNotToldAgainByTheTimerThatGoesOnWithIt) {
   box.run([] { fail("locked"); }, "tick");
   box.runRepeated("tick", [] { fail("locked"); });
