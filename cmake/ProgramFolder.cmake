@@ -3,7 +3,7 @@
 find_program(SQLITE3_PROGRAM sqlite3 REQUIRED)
 
 set(TARNWICK_FOLDER ${CMAKE_BINARY_DIR}/tarnwick)
-set_target_properties(tarnwick PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${TARNWICK_FOLDER})
+set_target_properties(tarnwick tarnwickctl PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${TARNWICK_FOLDER})
 
 add_custom_target(program_folder ALL
   COMMAND ${CMAKE_COMMAND}
@@ -11,12 +11,12 @@ add_custom_target(program_folder ALL
     -D ASSETS=${CMAKE_SOURCE_DIR}/assets
     -D SQLITE3=${SQLITE3_PROGRAM}
     -P ${CMAKE_SOURCE_DIR}/cmake/LayProgramFolder.cmake
-  DEPENDS tarnwick
+  DEPENDS tarnwick tarnwickctl
   COMMENT "Laying out the program folder ${TARNWICK_FOLDER}"
   VERBATIM)
 
 # Installing over an older version keeps the user's files as rebuilding does.
-install(TARGETS tarnwick RUNTIME DESTINATION tarnwick)
+install(TARGETS tarnwick tarnwickctl RUNTIME DESTINATION tarnwick)
 install(CODE "
   set(FOLDER \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/tarnwick\")
   set(ASSETS \"${CMAKE_SOURCE_DIR}/assets\")

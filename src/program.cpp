@@ -25,7 +25,7 @@ struct Program::Parts {
 };
 
 Program::Program(std::string programFolder, const Services& services, RunView& view)
-    : programFolder_(std::move(programFolder)), services_(services), view_(view), faults_(services.prompts) {}
+    : programFolder_(std::move(programFolder)), services_(services), view_(view), faults_(services.prompts), lock_(programFolder_) {}
 
 Program::~Program() = default;
 
@@ -51,11 +51,17 @@ void Program::start() {
 
 bool Program::startRun() {
   // The passes that follow go on with the first one's work: what stopped that one is not told again by them.
-  return faults_.run([this] { run().startChecking(); }, "run");
+  return faults_.run(
+      [this] {
+        lock_.take();
+        run().startChecking();
+      },
+      "run");
 }
 
 void Program::stopRun() {
   faults_.run([this] { run().stopChecking(); });
+  lock_.release();
 }
 
 void Program::close() {
@@ -64,7 +70,7 @@ void Program::close() {
     return;
   }
   if (parts_->run.running()) {
-    parts_->run.stopChecking();
+    stopRun();
   }
   if (!parts_->run.busy()) {
     parts_->pool.killAllSockets();

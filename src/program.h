@@ -8,6 +8,7 @@
 #include "engine/run_view.h"
 #include "fault_box.h"
 #include "m.h"
+#include "platform/run_lock.h"
 #include "platform/services.h"
 #include "report/report_timer.h"
 
@@ -49,7 +50,7 @@ class Program {
   void start();
 
   /// Start and Stop as the user asks for them: a failure ends in one box. `startRun` returns when the first pass has
-  /// ended; false when it failed.
+  /// ended; false when it failed, also because another process has a run on in this folder.
   bool startRun();
   void stopRun();
 
@@ -64,6 +65,7 @@ class Program {
   Services services_;
   RunView& view_;
   FaultBox faults_;
+  RunLock lock_;
   std::unique_ptr<Parts> parts_;
 };
 

@@ -25,7 +25,8 @@ ROOMS = {
 CORE_ROOMS = ("store", "engine", "alerts", "report")
 # Beside the rooms, and open to all of them: constants only.
 SHARED_FILES = ("src/product.h",)
-CORE_FILES = ("product.h", "m.h", "m.cpp", "program.h", "program.cpp", "fault_box.h", "fault_box.cpp")
+CORE_FILES = ("product.h", "m.h", "m.cpp", "program.h", "program.cpp", "fault_box.h", "fault_box.cpp",
+              "site_draft.h", "site_draft.cpp")
 
 MOST_LINES = 500
 MOST_LINES_OF_A_FORM = 300

@@ -5,7 +5,7 @@
 build_packages=(
   g++ cmake ninja-build ccache
   qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev
-  libcurl4-openssl-dev libsqlite3-dev sqlite3
+  libcurl4-openssl-dev libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev
 )
 
 # The certificates that https addresses are verified with, a font for the window, and the desktop's opener for pages and

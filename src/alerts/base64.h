@@ -10,4 +10,7 @@ namespace tarnwick {
 /// for any other character, and for a text whose last group is incomplete.
 std::string decodeBase64(std::string_view text);
 
+/// Bytes as base64 text (RFC 4648, section 4) with its padding, on one line.
+std::string encodeBase64(std::string_view bytes);
+
 }  // namespace tarnwick

@@ -58,6 +58,10 @@ std::string ResultRecording::getContentCompare(std::int16_t idSite) {
   return firstText(db_, "select content_compare from sites where idsite = " + sqlQuote(idSite));
 }
 
+std::string ResultRecording::getContentRuntime(std::int16_t idSite) {
+  return firstText(db_, "select content_runtime from sites where idsite = " + sqlQuote(idSite));
+}
+
 void ResultRecording::xupdateLastChecked(std::int16_t idSite) {
   db_.execute(joinSql("update sites set lastChecked = '", sqlQuote(dateTimeText(clock_.localNow())), "'",
                       " where idsite = ", sqlQuote(idSite)));

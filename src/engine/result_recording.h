@@ -33,6 +33,8 @@ class ResultRecording {
   void updateContentCompare(std::int16_t idSite, const std::string& text);
   /// The baseline; empty when there is none or no such site.
   std::string getContentCompare(std::int16_t idSite);
+  /// The page of the last check, or "11:" and the cause when its transfer failed; empty when there is none.
+  std::string getContentRuntime(std::int16_t idSite);
 
   /// Stamps the site with the present time as that of its last check.
   void xupdateLastChecked(std::int16_t idSite);

@@ -72,6 +72,18 @@ void RunController::runTestPass(std::int16_t mode) {
   pass.test(mode);
 }
 
+bool RunController::testOnce(TextTable sites) {
+  TestPass pass(*this, needs_, busy_);
+  // The pass looks at this flag; it is lowered before the pass puts the lamps right.
+  const struct Running {
+    explicit Running(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Running() { flag_ = false; }
+    bool& flag_;
+  } whileTested(running_);
+  pass.test(std::move(sites));
+  return running_;
+}
+
 void RunController::recordResult(std::int16_t idSite, bool result) {
   needs_.results.setStatus(idSite, result);
   if (!result) {

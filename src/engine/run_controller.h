@@ -53,6 +53,9 @@ class RunController {
   void stopChecking();
   /// One test pass over the sites of `mode` (see `DueSites::getArraySitesActiveTrue`); nothing when one is in progress.
   void runTestPass(std::int16_t mode);
+  /// Tests the sites of a site table once, without a run: no countdown follows. Stop ends it as it ends a run's pass;
+  /// false then. REQUIRES: no run is on and no pass in progress.
+  bool testOnce(TextTable sites);
   /// Stores one judged result, raises the alerts of a failure and repaints the site's row.
   void recordResult(std::int16_t idSite, bool result);
 

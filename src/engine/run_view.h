@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace tarnwick {
 
@@ -10,6 +11,16 @@ enum class RunState {
   start,  ///< a test pass is in progress
   pause,  ///< running, idle between passes
   stop,   ///< stopped
+};
+
+/// How the test of one site came out. The texts last for the call that hands them over.
+struct CheckResult {
+  std::int16_t idSite = 0;
+  std::string_view url;
+  bool passed = false;
+  std::int32_t errCode = 0;         ///< of a failed transfer; 0 when a page came
+  std::string_view errDescription;  ///< the cause of a failed transfer in words; empty when a page came
+  std::string_view page;            ///< the page; of a failed transfer "11:" and the cause
 };
 
 /// What a run shows while it goes on. The main window implements it; so can a terminal, or a test.
@@ -43,6 +54,8 @@ class RunView {
   virtual void unbrighten(std::int16_t idSite) = 0;
   /// Paints a site's row for the result of its test and rewrites its counters and time from the site's record.
   virtual void updateGridRow(std::int16_t idSite, bool passed) = 0;
+  /// Tells a result in full, after it has been recorded. A view that has a grid needs none of it.
+  virtual void showResult(const CheckResult&) {}
   /// Writes a site's "Time Of Last Test" cell.
   virtual void setLastChecked(std::int16_t idSite, const std::string& dateTime) = 0;
 };

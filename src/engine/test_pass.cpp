@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include "engine/due_sites.h"
 #include "engine/page_fetch.h"
@@ -50,8 +51,11 @@ TestPass::~TestPass() {
   needs_.view.indicators(run_.running() ? RunState::pause : RunState::stop);
 }
 
-void TestPass::test(std::int16_t mode) {
-  selectSites(mode);
+void TestPass::test(std::int16_t mode) { test(needs_.dueSites.getArraySitesActiveTrue(mode)); }
+
+void TestPass::test(TextTable sites) {
+  sites_ = std::move(sites);
+  setUpPool();
   if (count() == 0) {
     return;
   }
@@ -62,8 +66,7 @@ void TestPass::test(std::int16_t mode) {
   drain();
 }
 
-void TestPass::selectSites(std::int16_t mode) {
-  sites_ = needs_.dueSites.getArraySitesActiveTrue(mode);
+void TestPass::setUpPool() {
   urls_.reserve(sites_.lastRow());
   for (std::size_t row = 1; row <= sites_.lastRow(); ++row) {
     urls_.push_back(cell(kUrl, row));
@@ -156,7 +159,8 @@ void TestPass::record(std::size_t row, const std::string& content, std::int32_t 
     return;
   }
   Transaction whole = needs_.results.oneRecord();
-  if (needs_.results.testSite(id, content, errCode, errDescription)) {
+  const bool passed = needs_.results.testSite(id, content, errCode, errDescription);
+  if (passed) {
     try {
       run_.recordResult(id, true);
     } catch (const OverflowError&) {
@@ -171,6 +175,7 @@ void TestPass::record(std::size_t row, const std::string& content, std::int32_t 
     run_.recordResult(id, false);
   }
   std::erase(brightened_, id);
+  needs_.view.showResult({id, url(row), passed, errCode, errDescription, content});
 }
 
 // While it was fetched a site may have been deleted, its id given to a new one, or its address been changed: the page

@@ -20,14 +20,15 @@ class TestPass {
   TestPass(const TestPass&) = delete;
   TestPass& operator=(const TestPass&) = delete;
 
-  /// Tests the sites of `mode`; returns early when the run is stopped.
+  /// Tests the sites of `mode`, or those of a site table; returns early when the run is stopped.
   void test(std::int16_t mode);
+  void test(TextTable sites);
 
  private:
   std::size_t count() const { return urls_.size(); }
   bool stopped() const { return !run_.running() || needs_.pump.closing(); }
 
-  void selectSites(std::int16_t mode);
+  void setUpPool();
   void dispatchAll();
   void offerSlots(const std::vector<std::int16_t>& freeSlots);
   void judgeRowsWithoutAddress();

@@ -6,6 +6,7 @@
 #include "platform/qt_event_loop.h"
 #include "platform/qt_program_starter.h"
 #include "platform/qt_tcp_socket.h"
+#include "platform/sound_program.h"
 #include "platform/sqlite_connection.h"
 
 namespace tarnwick {
@@ -23,11 +24,6 @@ class StandardErrorPrompts final : public Prompts {
   std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
 };
 
-class NoSound final : public SoundPlayer {
- public:
-  long play(const std::string&) override { return 0; }
-};
-
 class NoOpener final : public DesktopOpener {
  public:
   bool open(const std::string&) override { return false; }
@@ -43,8 +39,8 @@ struct HeadlessPlatform::Machine {
   CurlTransfers transfers;
   QtTcpSockets sockets;
   StandardErrorPrompts prompts;
-  NoSound sound;
   QtProgramStarter programs;
+  SoundProgram sound{programs};
   NoOpener opener;
 };
 

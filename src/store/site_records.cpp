@@ -36,10 +36,14 @@ bool mayStandInAddress(char c) {
 std::int16_t SiteRecords::addSite() {
   const SqlValue mid = firstField(db_, "select max(idSite)+1 as mid from sites").value_or(SqlValue());
   const std::int16_t idSite = mid.isNull() ? std::int16_t{1} : newSiteId(mid);
+  addSite(idSite);
+  return idSite;
+}
+
+void SiteRecords::addSite(std::int16_t idSite) {
   std::string sql(kInsertTemplate);
   sql.replace(sql.find(kIdToken), kIdToken.size(), sqlQuote(idSite));
   db_.execute(std::move(sql));
-  return idSite;
 }
 
 void SiteRecords::updateSites(std::int16_t idSite, const std::string& url, const std::string& method, bool active,

@@ -18,6 +18,8 @@ class SiteRecords {
   /// returns its id: the highest id plus 1, or 1 when there is no site. Raises OverflowError, with nothing written,
   /// when that id would not fit 16 bits.
   std::int16_t addSite();
+  /// The same under an id that the caller chooses; raises DataAccessError when the id is in use.
+  void addSite(std::int16_t idSite);
 
   /// Rewrites every column of a site that its editor shows; `tInterval` in minutes. Nothing when there is no such site.
   void updateSites(std::int16_t idSite, const std::string& url, const std::string& method, bool active,

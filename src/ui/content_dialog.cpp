@@ -6,10 +6,10 @@
 #include <QPointer>
 #include <QVBoxLayout>
 
+#include "site_draft.h"
 #include "ui/dialog_parts.h"
 #include "ui/display_text.h"
 #include "ui/placement.h"
-#include "ui/site_draft.h"
 
 namespace tarnwick {
 namespace {

@@ -1,17 +1,11 @@
 #pragma once
 
-#include <string>
 #include <vector>
 #include <QAbstractTableModel>
 
-namespace tarnwick {
+#include "site_draft.h"
 
-/// A form variable of a site.
-struct PostVar {
-  std::string name;
-  std::string value;
-  bool operator==(const PostVar&) const = default;
-};
+namespace tarnwick {
 
 /// The rows of the POST grid: "Name" and "Value".
 class PostVarModel final : public QAbstractTableModel {

@@ -8,7 +8,6 @@
 
 #include "program.h"
 #include "ui/post_var_model.h"
-#include "ui/site_draft.h"
 #include "ui/site_editor_layout.h"
 
 namespace tarnwick {

@@ -4,13 +4,18 @@
 #include <string>
 #include <vector>
 
-#include "ui/post_var_model.h"
-
 namespace tarnwick {
 
 class m;
 
-/// A site as its editor holds it. Texts are bytes as they are stored; a Null is empty.
+/// A form variable of a site.
+struct PostVar {
+  std::string name;
+  std::string value;
+  bool operator==(const PostVar&) const = default;
+};
+
+/// A site as a front end lets it be edited. Texts are bytes as they are stored; a Null is empty.
 struct SiteDraft {
   std::string url;
   std::string method;  ///< as it is stored; the editor writes "get" or "post"
@@ -23,7 +28,7 @@ struct SiteDraft {
   bool operator==(const SiteDraft&) const = default;
 };
 
-/// Reads a site. Raises DataAccessError, and std::runtime_error when there is no such site.
+/// Reads a site. A text of the letters "NULL" is told from a Null, which is empty. Raises DataAccessError, and std::runtime_error when there is no such site.
 SiteDraft readSite(m& data, std::int16_t idSite);
 
 /// Reads a site's POST variables. A text of the letters "NULL" is told from a Null, which is empty.

@@ -1,10 +1,12 @@
-#include "ui/site_draft.h"
+#include "site_draft.h"
 
 #include <stdexcept>
 #include <utility>
 
 #include "m.h"
 #include "platform/sql_value.h"
+#include "store/first_field.h"
+#include "store/sql_quote.h"
 #include "store/site_table.h"
 
 namespace tarnwick {
@@ -19,7 +21,6 @@ std::runtime_error siteIsGone(std::int16_t idSite) {
 }
 
 std::string textOf(const std::string& cell) { return cell == kNull ? std::string() : cell; }
-bool flagOf(const std::string& cell) { return SqlValue(cell).toBool(); }
 
 std::size_t rowOf(const TextTable& sites, std::int16_t idSite) {
   const std::string id = std::to_string(idSite);
@@ -41,11 +42,22 @@ bool isStoredAs(m& data, std::int16_t idSite, const PostVar& var) {
 SiteDraft readSite(m& data, std::int16_t idSite) {
   const TextTable sites = data.getArraySites(idSite);
   const std::size_t row = rowOf(sites, idSite);
-  const auto cell = [&](std::size_t column) { return sites.at(column, row); };
-  return {textOf(cell(site_column::url)),        textOf(cell(site_column::method)),
-          flagOf(cell(site_column::active)),     textOf(cell(site_column::tInterval)),
-          flagOf(cell(site_column::alertEmail)), textOf(cell(site_column::email)),
-          textOf(cell(site_column::sUserName)),  textOf(cell(site_column::sPassWord))};
+  const auto flag = [&](std::size_t column) { return SqlValue(sites.at(column, row)).toBool(); };
+  const auto text = [&](std::size_t column, const char* name) {
+    const std::string& cell = sites.at(column, row);
+    // Those four letters may be what was typed.
+    return cell != kNull ? cell
+                         : firstText(data.database(),
+                                     joinSql("select ", name, " from sites where idSite = ", sqlQuote(idSite)));
+  };
+  return {text(site_column::url, "url"),
+          text(site_column::method, "method"),
+          flag(site_column::active),
+          text(site_column::tInterval, "tInterval"),
+          flag(site_column::alertEmail),
+          text(site_column::email, "email"),
+          text(site_column::sUserName, "sUserName"),
+          text(site_column::sPassWord, "sPassWord")};
 }
 
 std::vector<PostVar> readPostVars(m& data, std::int16_t idSite) {

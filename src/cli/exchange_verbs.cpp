@@ -1,0 +1,7 @@
+#include "cli/verbs.h"
+
+namespace tarnwick {
+
+void addExchangeVerbs(CLI::App&, Action&) {}
+
+}  // namespace tarnwick

@@ -1,0 +1,7 @@
+#include "cli/verbs.h"
+
+namespace tarnwick {
+
+void addSettingsVerb(CLI::App&, Action&) {}
+
+}  // namespace tarnwick

@@ -1,0 +1,100 @@
+#include "cli/tool.h"
+
+#include <algorithm>
+#include <ostream>
+#include <sstream>
+
+#include "cli/verbs.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kDescription =
+    "Tarnwick watches web sites for changes of their content: the terminal front end.\n"
+    "It works on the list of sites of a program folder, with or without the window open on the same folder.";
+
+constexpr const char* kFooter =
+    "Exit status: 0 when all is well, 1 when a site is down or a page differs, 2 when the work could not be done.\n"
+    "Each verb has a --help with examples.";
+
+void addVerbs(CLI::App& app, Action& chosen) {
+  addSiteVerbs(app, chosen);
+  addPostVerb(app, chosen);
+  addPageVerbs(app, chosen);
+  addCountersVerb(app, chosen);
+  addCheckVerb(app, chosen);
+  addRunVerb(app, chosen);
+  addSettingsVerb(app, chosen);
+  addLogVerb(app, chosen);
+  addUpkeepVerbs(app, chosen);
+  addExchangeVerbs(app, chosen);
+}
+
+// Arguments that cannot be understood: the library's text, and where to read on.
+void complainOfUsage(Console& console, const CLI::App& app, const CLI::ParseError& error) {
+  const auto verbs = app.get_subcommands();
+  const std::string verb = verbs.empty() ? std::string() : " " + verbs.front()->get_name();
+  console.complain(visibleText(error.what()));
+  console.complain("See: tarnwickctl" + verb + " --help");
+}
+
+}  // namespace
+
+void requireListed(Tool& tool, std::int16_t idSite) {
+  if (!tool.data().idExists(idSite)) {
+    throw std::runtime_error("There is no site " + std::to_string(idSite) +
+                             ". The ids are listed by: tarnwickctl sites");
+  }
+}
+
+CLI::Option* addSiteId(CLI::App& verb, std::int16_t& idSite) {
+  return verb.add_option("ID", idSite, "The site's id, as the verb sites lists it");
+}
+
+CLI::Option* addJsonFlag(CLI::App& verb, bool& json) { return verb.add_flag("--json", json, "Print JSON"); }
+
+std::string examples(std::initializer_list<std::pair<const char*, const char*>> lines) {
+  std::string text = "Examples:";
+  for (const auto& [arguments, purpose] : lines) {
+    text += std::string("\n  tarnwickctl ") + arguments + "\n      " + purpose;
+  }
+  return text;
+}
+
+int runTool(const std::vector<std::string>& arguments, const std::string& programFolder, const Services& services,
+            Console& console) {
+  try {
+    CLI::App app(kDescription, "tarnwickctl");
+    app.footer(kFooter);
+    app.set_version_flag("--version", std::string("tarnwickctl ") + TARNWICK_VERSION);
+    app.require_subcommand(1);
+    app.fallthrough();
+    std::string folder = programFolder;
+    app.add_option("--folder", folder, "The program folder, in which tarnwick.mdb lies (default: the tool's own)")
+        ->type_name("DIR");
+    Action chosen;
+    addVerbs(app, chosen);
+    try {
+      std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
+      app.parse(reversed);
+    } catch (const CLI::Success& wish) {
+      std::ostringstream text;
+      app.exit(wish, text, text);
+      console.out() << text.str();
+      return exit_status::ok;
+    } catch (const CLI::ParseError& error) {
+      complainOfUsage(console, app, error);
+      return exit_status::failed;
+    }
+    while (folder.size() > 1 && folder.back() == '/') {
+      folder.pop_back();
+    }
+    Tool tool(folder, services, console);
+    return chosen(tool);
+  } catch (const std::exception& error) {
+    console.complain(error.what());
+    return exit_status::failed;
+  }
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarnwick {
+
+/// The first place where two texts differ, line by line.
+struct FirstDifference {
+  std::size_t line = 0;  ///< counted from 1; 0 when the texts are equal
+  std::string_view before;
+  std::string_view after;  ///< the line of each text without its line feed; empty past the end of a text
+};
+FirstDifference firstDifference(std::string_view before, std::string_view after);
+
+/// One line of a unified diff: its mark (' ', '-', '+', '@' for a hunk's head, '\\' for the note that a last line has no
+/// line feed) and its text without the mark and the line feed.
+struct DiffLine {
+  char mark;
+  std::string_view text;
+};
+
+/// Hands the hunks that turn `before` into `after` to `sink`, with three lines of context; nothing when they are equal.
+/// The difference is minimal up to some thousand changed lines; beyond that what differs in the middle is replaced as
+/// a whole. The texts of the lines last for the call.
+void unifiedDiff(std::string_view before, std::string_view after, const std::function<void(const DiffLine&)>& sink);
+
+}  // namespace tarnwick

@@ -1,0 +1,65 @@
+#include "platform/run_lock.h"
+
+#include <stdexcept>
+#include <utility>
+#include <QLockFile>
+#include <QString>
+
+#include "platform/errors.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kLockFile = "/tarnwick.lock";
+
+std::string holderOf(const QLockFile& lock) {
+  qint64 process = 0;
+  QString host;
+  QString program;
+  if (!lock.getLockInfo(&process, &host, &program)) {
+    return "another program";
+  }
+  return (program.isEmpty() ? std::string("a program") : program.toStdString()) + " (process " +
+         std::to_string(process) + (host.isEmpty() ? "" : " on " + host.toStdString()) + ")";
+}
+
+}  // namespace
+
+struct RunLock::File {
+  explicit File(const std::string& path) : lock(QString::fromStdString(path)) {
+    // A run may last for years: only a process that is gone loses its right.
+    lock.setStaleLockTime(0);
+  }
+  QLockFile lock;
+};
+
+RunLock::RunLock(std::string programFolder) : folder_(std::move(programFolder)) {}
+RunLock::~RunLock() = default;
+
+void RunLock::take() {
+  if (file_) {
+    return;
+  }
+  const std::string path = folder_ + kLockFile;
+  auto file = std::make_unique<File>(path);
+  if (file->lock.tryLock(0)) {
+    file_ = std::move(file);
+    return;
+  }
+  switch (file->lock.error()) {
+    case QLockFile::LockFailedError:
+      throw std::runtime_error("A run is on in this folder already: " + holderOf(file->lock) + " checks the sites of " +
+                               folder_ +
+                               ", and a second run would check each of them twice. Stop that run first; when no such "
+                               "process exists on that machine any more, remove " +
+                               path + ".");
+    case QLockFile::PermissionError:
+      throw FileError(path, "The folder cannot be written, so no run can be started in it.");
+    default:
+      throw FileError(path, "The file could not be written, so no run can be started. The disk may be full.");
+  }
+}
+
+void RunLock::release() noexcept { file_.reset(); }
+
+}  // namespace tarnwick
