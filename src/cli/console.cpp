@@ -68,10 +68,11 @@ std::ostream& Console::out() {
 }
 
 void Console::say(std::string_view line) {
+  const std::string below = live_;
   out() << line << '\n';
   out_.flush();
-  if (!live_.empty()) {
-    live(live_);
+  if (!below.empty()) {
+    live(below);
   }
 }
 
@@ -82,7 +83,7 @@ void Console::complain(std::string_view line) {
 }
 
 void Console::live(const std::string& text) {
-  if (!facts_.isTerminal) {
+  if (!facts_.isTerminal || text == live_) {
     return;
   }
   // The last column stays free: a character there would move some terminals to the next line.

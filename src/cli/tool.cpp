@@ -4,6 +4,7 @@
 #include <ostream>
 #include <sstream>
 
+#include "cli/tool_prompts.h"
 #include "cli/verbs.h"
 
 namespace tarnwick {
@@ -30,9 +31,22 @@ void addVerbs(CLI::App& app, Action& chosen) {
   addExchangeVerbs(app, chosen);
 }
 
+std::string withoutLineEnd(std::string text) {
+  while (text.ends_with('\n')) {
+    text.pop_back();
+  }
+  return text;
+}
+
 // Arguments that cannot be understood: the library's text, and where to read on.
-void complainOfUsage(Console& console, const CLI::App& app, const CLI::ParseError& error) {
+void complainOfUsage(Console& console, const CLI::App& app, const CLI::ParseError& error,
+                     const std::vector<std::string>& arguments) {
   const auto verbs = app.get_subcommands();
+  if (verbs.empty() && !arguments.empty() && !arguments.front().starts_with("-")) {
+    console.complain("There is no verb \"" + visibleText(arguments.front()) + "\".");
+    console.complain("See: tarnwickctl --help");
+    return;
+  }
   const std::string verb = verbs.empty() ? std::string() : " " + verbs.front()->get_name();
   console.complain(visibleText(error.what()));
   console.complain("See: tarnwickctl" + verb + " --help");
@@ -40,10 +54,14 @@ void complainOfUsage(Console& console, const CLI::App& app, const CLI::ParseErro
 
 }  // namespace
 
+std::runtime_error noSuchSite(std::int16_t idSite) {
+  return std::runtime_error("There is no site " + std::to_string(idSite) +
+                            ". The ids are listed by: tarnwickctl sites");
+}
+
 void requireListed(Tool& tool, std::int16_t idSite) {
   if (!tool.data().idExists(idSite)) {
-    throw std::runtime_error("There is no site " + std::to_string(idSite) +
-                             ". The ids are listed by: tarnwickctl sites");
+    throw noSuchSite(idSite);
   }
 }
 
@@ -80,16 +98,19 @@ int runTool(const std::vector<std::string>& arguments, const std::string& progra
     } catch (const CLI::Success& wish) {
       std::ostringstream text;
       app.exit(wish, text, text);
-      console.out() << text.str();
+      console.say(withoutLineEnd(text.str()));
       return exit_status::ok;
     } catch (const CLI::ParseError& error) {
-      complainOfUsage(console, app, error);
+      complainOfUsage(console, app, error, arguments);
       return exit_status::failed;
     }
     while (folder.size() > 1 && folder.back() == '/') {
       folder.pop_back();
     }
-    Tool tool(folder, services, console);
+    ToolPrompts prompts(console);
+    const Services withPrompts{services.clock,   services.pump, services.timers, services.databases, services.transfers,
+                               services.sockets, prompts,       services.sound,  services.programs,  services.opener};
+    Tool tool(folder, withPrompts, console);
     return chosen(tool);
   } catch (const std::exception& error) {
     console.complain(error.what());

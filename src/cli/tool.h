@@ -50,7 +50,9 @@ class Tool {
 /// A verb that has been asked for, with its options: returns the exit status. What it raises is shown to the user.
 using Action = std::function<int(Tool&)>;
 
-/// Raises std::runtime_error when there is no such site.
+/// What is raised for an id that is not in the list.
+std::runtime_error noSuchSite(std::int16_t idSite);
+/// Raises it when there is no such site.
 void requireListed(Tool& tool, std::int16_t idSite);
 
 /// Runs the tool with its arguments (without the program's name). `programFolder` is the folder where none is named.

@@ -74,8 +74,8 @@ class Search {
     lastAfter_ = static_cast<std::ptrdiff_t>(after_.size());
     const auto unequal = std::mismatch(before_.begin(), before_.end(), after_.begin(), after_.end());
     first_ = unequal.first - before_.begin();
-    while (lastBefore_ > first_ && lastAfter_ > first_ && beforeAt(lastBefore_ - 1 - first_) ==
-                                                              afterAt(lastAfter_ - 1 - first_)) {
+    while (lastBefore_ > first_ && lastAfter_ > first_ &&
+           beforeAt(lastBefore_ - 1 - first_) == afterAt(lastAfter_ - 1 - first_)) {
       --lastBefore_;
       --lastAfter_;
     }
@@ -84,10 +84,9 @@ class Search {
   std::size_t beforeAt(std::ptrdiff_t i) const { return before_[static_cast<std::size_t>(first_ + i)]; }
   std::size_t afterAt(std::ptrdiff_t i) const { return after_[static_cast<std::size_t>(first_ + i)]; }
 
-  // Whether diagonal `k` is better reached from the one above (a line added) than from the one below (one removed).
-  static bool comesFromAbove(const std::vector<std::ptrdiff_t>& reach, std::ptrdiff_t d, std::ptrdiff_t k,
-                             std::ptrdiff_t middle) {
-    const auto at = [&](std::ptrdiff_t diagonal) { return reach[static_cast<std::size_t>(middle + diagonal)]; };
+  // Whether diagonal `k` is better reached with the `d`-th difference from the one above (a line added) than from the
+  // one below (a line removed). `at` tells how far a diagonal came with one difference less.
+  static bool comesFromAbove(std::ptrdiff_t d, std::ptrdiff_t k, const auto& at) {
     return k == -d || (k != d && at(k - 1) < at(k + 1));
   }
 
@@ -95,12 +94,12 @@ class Search {
     const std::ptrdiff_t farthest = std::min(n + m, kFarthest);
     const std::ptrdiff_t middle = farthest + 1;
     std::vector<std::ptrdiff_t> reach(static_cast<std::size_t>(2 * middle + 1), 0);
+    const auto at = [&](std::ptrdiff_t diagonal) -> std::ptrdiff_t& {
+      return reach[static_cast<std::size_t>(middle + diagonal)];
+    };
     for (std::ptrdiff_t d = 0; d <= farthest; ++d) {
       for (std::ptrdiff_t k = -d; k <= d; k += 2) {
-        const auto at = [&](std::ptrdiff_t diagonal) -> std::ptrdiff_t& {
-          return reach[static_cast<std::size_t>(middle + diagonal)];
-        };
-        std::ptrdiff_t x = comesFromAbove(reach, d, k, middle) ? at(k + 1) : at(k - 1) + 1;
+        std::ptrdiff_t x = comesFromAbove(d, k, at) ? at(k + 1) : at(k - 1) + 1;
         while (x < n && x - k < m && beforeAt(x) == afterAt(x - k)) {
           ++x;
         }
@@ -123,11 +122,8 @@ class Search {
     for (auto d = static_cast<std::ptrdiff_t>(ways_.size()) - 1; d > 0; --d) {
       const std::vector<std::ptrdiff_t>& reach = ways_[static_cast<std::size_t>(d) - 1];
       const std::ptrdiff_t k = x - y;
-      const std::ptrdiff_t reached = d - 1;  // the diagonals of the step before: -reached to reached
-      const auto at = [&](std::ptrdiff_t diagonal) { return reach[static_cast<std::size_t>(reached + diagonal)]; };
-      const bool added = k == -d || (k != d && k != d - 1 + 1 && k - 1 >= -reached && k + 1 <= reached
-                                         ? at(k - 1) < at(k + 1)
-                                         : k + 1 <= reached);
+      const auto at = [&](std::ptrdiff_t diagonal) { return reach[static_cast<std::size_t>(d - 1 + diagonal)]; };
+      const bool added = comesFromAbove(d, k, at);
       const std::ptrdiff_t from = added ? k + 1 : k - 1;
       const std::ptrdiff_t fromX = at(from);
       const std::ptrdiff_t fromY = fromX - from;
@@ -150,6 +146,127 @@ class Search {
   std::vector<std::vector<std::ptrdiff_t>> ways_;
 };
 
+/// Walks through both texts and writes what has changed, with the lines around it.
+class HunkWriter {
+ public:
+  HunkWriter(const std::vector<std::string_view>& before, const std::vector<std::string_view>& after,
+             const Marks& marks, const std::function<void(const DiffLine&)>& sink)
+      : before_(before), after_(after), marks_(marks), sink_(sink) {}
+
+  void run() {
+    std::size_t i = 0;
+    std::size_t j = 0;
+    while (skipEqual(i, j)) {
+      const std::size_t context = std::min(kContext, i);
+      i -= context;
+      j -= context;
+      const auto [endI, endJ] = endOfHunk(i + context, j + context);
+      const std::string head = "-" + rangeOf(i, endI - i) + " +" + rangeOf(j, endJ - j);
+      sink_({'@', "@@ " + head + " @@"});
+      writeLines(i, j, endI, endJ);
+      i = endI;
+      j = endJ;
+    }
+  }
+
+ private:
+  bool changed(std::size_t i, std::size_t j) const {
+    return (i < before_.size() && marks_.removed[i]) || (j < after_.size() && marks_.added[j]);
+  }
+  bool atEnd(std::size_t i, std::size_t j) const { return i >= before_.size() && j >= after_.size(); }
+
+  // Goes to the next change; false when there is none.
+  bool skipEqual(std::size_t& i, std::size_t& j) const {
+    while (!atEnd(i, j) && !changed(i, j)) {
+      ++i;
+      ++j;
+    }
+    return !atEnd(i, j);
+  }
+
+  // Behind the context of the last change that is no further from the one before it than their two contexts.
+  std::pair<std::size_t, std::size_t> endOfHunk(std::size_t i, std::size_t j) const {
+    while (true) {
+      while (changed(i, j)) {
+        (i < before_.size() && marks_.removed[i] ? i : j)++;
+      }
+      std::size_t equal = 0;
+      while (equal <= 2 * kContext && !atEnd(i + equal, j + equal) && !changed(i + equal, j + equal)) {
+        ++equal;
+      }
+      if (equal > 2 * kContext || atEnd(i + equal, j + equal)) {
+        const std::size_t context = std::min(equal, kContext);
+        return {i + context, j + context};
+      }
+      i += equal;
+      j += equal;
+    }
+  }
+
+  void writeLines(std::size_t i, std::size_t j, std::size_t endI, std::size_t endJ) const {
+    while (i < endI || j < endJ) {
+      if (i < endI && marks_.removed[i]) {
+        write('-', before_[i++]);
+      } else if (j < endJ && marks_.added[j]) {
+        write('+', after_[j++]);
+      } else {
+        write(' ', before_[i++]);
+        ++j;
+      }
+    }
+  }
+
+  void write(char mark, std::string_view line) const {
+    sink_({mark, withoutLineFeed(line)});
+    if (line.back() != '\n') {
+      sink_({'\\', " No newline at end of file"});
+    }
+  }
+
+  // POSIX, diff -u: the number of lines is left out when it is 1; an empty range stands behind the line it names.
+  static std::string rangeOf(std::size_t first, std::size_t count) {
+    if (count == 1) {
+      return std::to_string(first + 1);
+    }
+    return std::to_string(count == 0 ? first : first + 1) + "," + std::to_string(count);
+  }
+
+  const std::vector<std::string_view>& before_;
+  const std::vector<std::string_view>& after_;
+  const Marks& marks_;
+  const std::function<void(const DiffLine&)>& sink_;
+};
+
 }  // namespace
+
+FirstDifference firstDifference(std::string_view before, std::string_view after) {
+  if (before == after) {
+    return {};
+  }
+  const auto place = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+  const auto equal = static_cast<std::size_t>(place.first - before.begin());
+  const std::string_view same = before.substr(0, equal);
+  const std::size_t feed = same.rfind('\n');
+  const std::size_t begin = feed == std::string_view::npos ? 0 : feed + 1;
+  const auto lineAt = [&](std::string_view text) {
+    text.remove_prefix(std::min(begin, text.size()));
+    return text.substr(0, text.find('\n'));
+  };
+  return {static_cast<std::size_t>(std::count(same.begin(), same.end(), '\n')) + 1, lineAt(before), lineAt(after)};
+}
+
+void unifiedDiff(std::string_view before, std::string_view after, const std::function<void(const DiffLine&)>& sink) {
+  if (before == after) {
+    return;
+  }
+  const std::vector<std::string_view> linesBefore = linesOf(before);
+  const std::vector<std::string_view> linesAfter = linesOf(after);
+  LineNumbers numbers;
+  const std::vector<std::size_t> numbersBefore = numbers.of(linesBefore);
+  const std::vector<std::size_t> numbersAfter = numbers.of(linesAfter);
+  Marks marks{std::vector<bool>(linesBefore.size()), std::vector<bool>(linesAfter.size())};
+  Search(numbersBefore, numbersAfter, marks).run();
+  HunkWriter(linesBefore, linesAfter, marks, sink).run();
+}
 
 }  // namespace tarnwick

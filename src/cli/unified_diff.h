@@ -16,8 +16,8 @@ struct FirstDifference {
 };
 FirstDifference firstDifference(std::string_view before, std::string_view after);
 
-/// One line of a unified diff: its mark (' ', '-', '+', '@' for a hunk's head, '\\' for the note that a last line has no
-/// line feed) and its text without the mark and the line feed.
+/// One line of a unified diff: its mark (' ', '-', '+', '@' for a hunk's head, '\\' for the note that a last line has
+/// no line feed) and its text without the mark and the line feed.
 struct DiffLine {
   char mark;
   std::string_view text;

@@ -29,7 +29,7 @@ std::optional<std::size_t> utf8Length(std::string_view text) {
     const unsigned char from = first == 0xf0 ? 0x90 : 0x80;
     const unsigned char to = first == 0xf4 ? 0x8f : 0xbf;
     return text.size() >= 4 && within(at(1), from, to) && follows(2) && follows(3) ? std::optional<std::size_t>(4)
-                                                                                  : std::nullopt;
+                                                                                   : std::nullopt;
   }
   return std::nullopt;
 }

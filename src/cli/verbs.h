@@ -8,8 +8,8 @@
 
 namespace tarnwick {
 
-// Each of these adds verbs to the command line. What a verb is to do is left in `chosen` when the user has asked for it;
-// the options it was given live in what it captures.
+// Each of these adds verbs to the command line. What a verb is to do is left in `chosen` when the user has asked for
+// it; the options it was given live in what it captures.
 
 /// sites, site, add, set, delete
 void addSiteVerbs(CLI::App& app, Action& chosen);

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "engine/run_view.h"
+
+namespace tarnwick {
+
+/// Why a check failed, in one line: the transfer's error, or the first line in which the page differs from the
+/// baseline, cut to what is around the difference.
+std::string causeOf(const CheckResult& failed, std::string_view baseline);
+
+/// What is worth telling of a site that is up: that its baseline is the text of a fetch that fails. Empty otherwise.
+std::string noteOf(const CheckResult& passed);
+
+}  // namespace tarnwick

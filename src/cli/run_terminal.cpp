@@ -1,0 +1,133 @@
+#include "cli/run_terminal.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "cli/cause.h"
+#include "store/site_table.h"
+
+namespace tarnwick {
+namespace {
+
+// Enough for a step of one for each site that there can be.
+constexpr std::int64_t kFullWidth = 1'000'000;
+
+std::string countText(std::size_t up, std::size_t down) {
+  return std::to_string(up) + " up, " + std::to_string(down) + " down";
+}
+
+std::string sitesText(std::size_t count) { return std::to_string(count) + (count == 1 ? " site" : " sites"); }
+
+}  // namespace
+
+void RunTerminal::prepare(m& data) {
+  data_ = &data;
+  const TextTable sites = data.getArraySites(0);
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    active_ += SqlValue(sites.at(site_column::active, row)).toBool() ? 1U : 0U;
+    const std::string& status = sites.at(site_column::status, row);
+    if (status != "NULL") {
+      known_[siteIdFromText(sites.at(site_column::idSite, row))] = SqlValue(status).toBool();
+    }
+  }
+}
+
+void RunTerminal::begin() {
+  begun_ = true;
+  tell("Run started: " + sitesText(active_) + " active in " + data_->programFolder() + ".", "started",
+       {{"folder", jsonText(data_->programFolder())}, {"active", active_}});
+}
+
+void RunTerminal::end() {
+  console_.endLive();
+  if (begun_) {
+    tell("Run stopped.", "stopped", Json::object());
+  }
+  data_ = nullptr;
+}
+
+void RunTerminal::showStatus(const std::string& text) {
+  status_ = text;
+  showLive();
+}
+
+void RunTerminal::indicators(RunState state) {
+  if (state_ == RunState::start && state != RunState::start) {
+    endPass();
+  }
+  if (state == RunState::start && !begun_) {
+    begin();
+  }
+  state_ = state;
+  showLive();
+}
+
+void RunTerminal::showClock(const std::string& text) {
+  runTime_ = text;
+  showLive();
+}
+
+std::int64_t RunTerminal::fullProgressWidth() { return kFullWidth; }
+
+void RunTerminal::setProgressWidth(std::int64_t width) {
+  progress_ = width;
+  showLive();
+}
+
+void RunTerminal::showResult(const CheckResult& result) {
+  ++(result.passed ? pass_.up : pass_.down);
+  const auto before = known_.find(result.idSite);
+  const bool recovered = result.passed && before != known_.end() && !before->second;
+  known_[result.idSite] = result.passed;
+  if (result.passed && !recovered && !style_.verbose && !style_.json) {
+    return;
+  }
+  const std::string cause = result.passed ? noteOf(result) : causeOf(result, data_->getContentCompare(result.idSite));
+  const std::string state = result.passed ? console_.coloured(Console::Colour::green, "up  ")
+                                          : console_.coloured(Console::Colour::red, "down");
+  tell(state + " " + std::to_string(result.idSite) + " " + visibleText(result.url) + (recovered ? " (was down)" : "") +
+           (cause.empty() ? "" : ": " + cause),
+       "result",
+       {{"idSite", result.idSite},
+        {"url", jsonText(result.url)},
+        {"status", result.passed},
+        {"errCode", result.errCode},
+        {"errDescription", jsonText(result.errDescription)},
+        {"cause", cause.empty() ? Json() : Json(cause)}});
+}
+
+void RunTerminal::endPass() {
+  const Count pass = std::exchange(pass_, {});
+  const std::size_t count = pass.up + pass.down;
+  if (count > 0) {
+    tell("Checked " + sitesText(count) + ": " + countText(pass.up, pass.down) + ".", "pass",
+         {{"up", pass.up}, {"down", pass.down}});
+  }
+}
+
+void RunTerminal::tell(const std::string& text, const char* event, Json details) {
+  const std::string now = dateTimeText(clock_.localNow());
+  if (style_.json) {
+    Json line{{"time", now}, {"event", event}};
+    line.update(details);
+    console_.say(line.dump());
+  } else {
+    console_.say(now + " " + text);
+  }
+}
+
+void RunTerminal::showLive() {
+  if (style_.json || !console_.isTerminal() || data_ == nullptr) {
+    return;
+  }
+  const auto down = static_cast<std::size_t>(
+      std::count_if(known_.begin(), known_.end(), [](const auto& site) { return !site.second; }));
+  std::string line = runTime_.empty() ? std::string() : runTime_ + "  ";
+  line += countText(known_.size() - down, down) + "  ";
+  if (state_ == RunState::start) {
+    line += std::to_string(progress_ * 100 / kFullWidth) + " %  ";
+  }
+  console_.live(line + status_);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "cli/console.h"
+#include "cli/json_text.h"
+#include "engine/run_view.h"
+#include "m.h"
+#include "platform/clock.h"
+
+namespace tarnwick {
+
+/// A run as a terminal shows it: one live line that counts down, and above it a line for what is worth one. Where the
+/// output is no terminal there are only those lines, each with its time.
+class RunTerminal final : public SilentView {
+ public:
+  struct Style {
+    bool verbose = false;  ///< a line for every result, not only for failures and recoveries
+    bool json = false;     ///< an object a line
+  };
+
+  RunTerminal(Console& console, const Clock& clock, Style style) : console_(console), clock_(clock), style_(style) {}
+
+  /// Reads which sites are down already, so that their recovery is told; later baselines are read there too.
+  void prepare(m& data);
+  /// Says that the run has ended.
+  void end();
+
+  void showStatus(const std::string& text) override;
+  void indicators(RunState state) override;
+  void showClock(const std::string& text) override;
+  std::int64_t fullProgressWidth() override;
+  void setProgressWidth(std::int64_t width) override;
+  void showResult(const CheckResult& result) override;
+
+ private:
+  struct Count {
+    std::size_t up = 0;
+    std::size_t down = 0;
+  };
+
+  void begin();
+  void tell(const std::string& text, const char* event, Json details);
+  void endPass();
+  void showLive();
+
+  Console& console_;
+  const Clock& clock_;
+  Style style_;
+  m* data_ = nullptr;
+  /// The sites judged so far, and whether they were up.
+  std::map<std::int16_t, bool> known_;
+  std::size_t active_ = 0;
+  bool begun_ = false;
+  RunState state_ = RunState::stop;
+  Count pass_;
+  std::string status_;
+  std::string runTime_;
+  std::int64_t progress_ = 0;
+};
+
+}  // namespace tarnwick
