@@ -5,17 +5,8 @@
 #include <ctime>
 
 namespace tarnwick {
-namespace {
 
 using namespace std::chrono;
-
-LocalTime fromFields(const std::tm& fields) {
-  const year_month_day day{year{fields.tm_year + 1900}, month{static_cast<unsigned>(fields.tm_mon + 1)},
-                           std::chrono::day{static_cast<unsigned>(fields.tm_mday)}};
-  return local_days{day} + hours{fields.tm_hour} + minutes{fields.tm_min} + seconds{fields.tm_sec};
-}
-
-}  // namespace
 
 std::string dateText(LocalTime time) {
   const year_month_day day{floor<days>(time)};
@@ -49,20 +40,7 @@ std::optional<LocalTime> parseDateTime(std::string_view text) {
   if (!inRange) {
     return std::nullopt;
   }
-  fields.tm_year -= 1900;
-  fields.tm_mon -= 1;
-  return fromFields(fields);
-}
-
-LocalTime SystemClock::localNow() const {
-  const std::time_t now = system_clock::to_time_t(system_clock::now());
-  std::tm fields{};
-#ifdef _WIN32
-  localtime_s(&fields, &now);
-#else
-  localtime_r(&now, &fields);
-#endif
-  return fromFields(fields);
+  return local_days{day} + hours{fields.tm_hour} + minutes{fields.tm_min} + seconds{fields.tm_sec};
 }
 
 milliseconds SystemClock::steadyNow() const {

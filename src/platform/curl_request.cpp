@@ -4,9 +4,7 @@
 #include <cctype>
 #include <string_view>
 
-#ifndef _WIN32
-#include <fcntl.h>
-#endif
+#include "platform/socket_inheritance.h"
 
 namespace tarnwick {
 namespace {
@@ -14,6 +12,21 @@ namespace {
 constexpr std::size_t kLargestHeader = std::size_t{256} * 1024;
 /// libcurl waits inside itself for the last replies of an FTP server; longer than this the window would seem frozen.
 constexpr std::chrono::milliseconds kLongestWaitInside{900};
+constexpr int kSeeOther = 303;
+
+BrokenBound brokenBy(HeadFault fault) {
+  switch (fault) {
+    case HeadFault::unclearLength:
+      return BrokenBound::length;
+    case HeadFault::endlessPage:
+      return BrokenBound::page;
+    case HeadFault::otherProtocol:
+      return BrokenBound::protocol;
+    case HeadFault::none:
+      break;
+  }
+  return BrokenBound::none;
+}
 
 }  // namespace
 
@@ -23,11 +36,13 @@ CurlRequest::CurlRequest(RequestOrder order, const CurlTransfers::Options& optio
       options_(options),
       loop_(loop),
       onState_(std::move(onState)),
+      caches_(curl_share_init(), &curl_share_cleanup),
       easy_(curl_easy_init(), &curl_easy_cleanup),
       headerLines_(nullptr, &curl_slist_free_all) {
-  if (easy_) {
+  if (easy_ && caches_) {
     setCallbacks();
     setBounds();
+    setCaches();
     setTarget();
     setMethod();
     setHeaders();
@@ -42,7 +57,7 @@ CurlRequest::~CurlRequest() {
 }
 
 bool CurlRequest::start(std::function<void(CURLcode)> done) {
-  return easy_ && loop_.start(easy_.get(), std::move(done));
+  return easy_ && caches_ && loop_.start(easy_.get(), std::move(done));
 }
 
 int CurlRequest::onResolve(void*, void*, void* self) {
@@ -51,13 +66,10 @@ int CurlRequest::onResolve(void*, void*, void* self) {
 }
 
 int CurlRequest::onSocket(void* self, curl_socket_t socket, curlsocktype) {
-#ifndef _WIN32
-  // A program started as an alert must not inherit the connection and keep it open.
-  fcntl(socket, F_SETFD, FD_CLOEXEC);
-#else
-  static_cast<void>(socket);
-#endif
-  static_cast<CurlRequest*>(self)->reach(transfer_state::connecting);
+  keepFromPrograms(static_cast<std::uintptr_t>(socket));
+  auto* const request = static_cast<CurlRequest*>(self);
+  request->answering_ = false;
+  request->reach(transfer_state::connecting);
   return CURL_SOCKOPT_OK;
 }
 
@@ -107,15 +119,16 @@ void CurlRequest::noteSent(curl_off_t bodyBytes) {
 }
 
 bool CurlRequest::addHeader(std::string_view line) {
+  answering_ = true;
   headerBytes_ += line.size();
-  if (headerBytes_ > kLargestHeader) {
-    bound_ = BrokenBound::header;
+  bound_ = headerBytes_ > kLargestHeader ? BrokenBound::header : brokenBy(head_.add(line));
+  if (bound_ != BrokenBound::none) {
     return false;
   }
   // The lines of an FTP server come here too, its greeting before anything was asked.
   if (line.starts_with("HTTP/")) {
     reach(transfer_state::receivingResponse);
-    if (line.substr(std::min(line.find(' '), line.size())).starts_with(" 303")) {
+    if (statusOf(line) == kSeeOther) {
       // What follows is fetched by GET whatever this was (RFC 9110, section 15.4.4); libcurl keeps a method of ours.
       curl_easy_setopt(easy_.get(), CURLOPT_CUSTOMREQUEST, nullptr);
     }
@@ -154,6 +167,10 @@ bool CurlRequest::waitsInside() const {
   return scheme != nullptr && std::tolower(static_cast<unsigned char>(scheme[0])) == 'f';
 }
 
+CURLcode CurlRequest::judged(CURLcode result) const {
+  return result == CURLE_OK && head_.open() ? CURLE_PARTIAL_FILE : result;
+}
+
 void CurlRequest::completeStates(CURLcode result) {
   if (result == CURLE_OK) {
     reach(transfer_state::disconnected);
@@ -174,12 +191,16 @@ TransferFailure CurlRequest::failure(CURLcode result) const {
   curl_easy_getinfo(easy_.get(), CURLINFO_EFFECTIVE_URL, &url);
   long systemError = 0;
   curl_easy_getinfo(easy_.get(), CURLINFO_OS_ERRNO, &systemError);
+  long status = 0;
+  curl_easy_getinfo(easy_.get(), CURLINFO_RESPONSE_CODE, &status);
   // A header line longer than libcurl's own bound is reported as a lack of memory.
   const bool headerRefused = result == CURLE_OUT_OF_MEMORY && state_ >= transfer_state::requesting && page_.empty();
   return failureOf({.result = result,
                     .detail = detail_.data(),
                     .url = url == nullptr ? order_.url : url,
                     .systemError = static_cast<int>(systemError),
+                    .status = static_cast<int>(status),
+                    .answered = answering_,
                     .bound = headerRefused ? BrokenBound::header : bound_,
                     .timeout = order_.timeout,
                     .largestPage = options_.largestPage,

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/answer_head.h"
 #include "platform/curl_event_loop.h"
 #include "platform/curl_transfers.h"
 #include "platform/transfer_failure.h"
@@ -44,6 +45,9 @@ class CurlRequest {
   /// Starts it; `done` is called from the event loop with libcurl's result. False when there is no memory for it.
   bool start(std::function<void(CURLcode)> done);
 
+  /// What a transfer that ended with `result` really came to: libcurl takes an answer that breaks off inside its
+  /// header for a whole one.
+  CURLcode judged(CURLcode result) const;
   /// Reports the states that had been reached when it ended but were not seen on the way.
   void completeStates(CURLcode result);
   /// Why it ended with `result`.
@@ -54,10 +58,12 @@ class CurlRequest {
   static constexpr int kMostRedirects = 20;
 
   using EasyHandle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
+  using Caches = std::unique_ptr<CURLSH, decltype(&curl_share_cleanup)>;
   using LineList = std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)>;
 
   void setCallbacks();
   void setBounds();
+  void setCaches();
   void setTarget();
   void setMethod();
   void setHeaders();
@@ -82,11 +88,15 @@ class CurlRequest {
   CurlTransfers::Options options_;
   CurlEventLoop& loop_;
   std::function<void(int)> onState_;
+  Caches caches_;
   EasyHandle easy_;
   LineList headerLines_;
   std::array<char, CURL_ERROR_SIZE> detail_{};
   std::string page_;
   std::size_t headerBytes_ = 0;
+  AnswerHead head_;
+  // Something has come back over the connection that was made last.
+  bool answering_ = false;
   BrokenBound bound_ = BrokenBound::none;
   int state_ = transfer_state::none;
 };

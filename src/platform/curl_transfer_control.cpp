@@ -46,7 +46,8 @@ void CurlTransferControl::begin(const std::shared_ptr<Run>& run) {
   }
 }
 
-void CurlTransferControl::ended(Run& run, CURLcode result) {
+void CurlTransferControl::ended(Run& run, CURLcode reported) {
+  const CURLcode result = run.request->judged(reported);
   run.request->completeStates(result);
   if (result == CURLE_OK) {
     run.page = run.request->takePage();

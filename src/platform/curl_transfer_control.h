@@ -37,7 +37,7 @@ class CurlTransferControl final : public TransferControl {
   struct Run;
 
   void begin(const std::shared_ptr<Run>& run);
-  void ended(Run& run, CURLcode result);
+  void ended(Run& run, CURLcode reported);
   void report(int state);
   void deliver(const std::shared_ptr<Run>& run, int state);
   void endRun();

@@ -3,11 +3,11 @@
 #include <iostream>
 
 #include "platform/curl_transfers.h"
+#include "platform/detached_programs.h"
 #include "platform/qt_event_loop.h"
-#include "platform/qt_program_starter.h"
 #include "platform/qt_tcp_socket.h"
-#include "platform/sound_program.h"
 #include "platform/sqlite_connection.h"
+#include "platform/terminal_sound.h"
 
 namespace tarnwick {
 namespace {
@@ -39,8 +39,8 @@ struct HeadlessPlatform::Machine {
   CurlTransfers transfers;
   QtTcpSockets sockets;
   StandardErrorPrompts prompts;
-  QtProgramStarter programs;
-  SoundProgram sound{programs};
+  DetachedPrograms programs;
+  std::unique_ptr<SoundPlayer> sound = makeTerminalSound(programs);
   NoOpener opener;
 };
 
@@ -50,7 +50,7 @@ HeadlessPlatform::~HeadlessPlatform() = default;
 Services HeadlessPlatform::services() {
   Machine& machine = *machine_;
   return {machine.clock,   machine.pump,    machine.timers, machine.databases, machine.transfers,
-          machine.sockets, machine.prompts, machine.sound,  machine.programs,  machine.opener};
+          machine.sockets, machine.prompts, *machine.sound,  machine.programs,  machine.opener};
 }
 
 }  // namespace tarnwick

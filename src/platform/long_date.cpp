@@ -1,55 +1,16 @@
 #include "platform/long_date.h"
 
-#include <array>
-#include <cstdint>
-#include <ctime>
-#include <cwchar>
-#include <string_view>
+#include "platform/calendar_names.h"
 
 namespace tarnwick {
-namespace {
 
 using namespace std::chrono;
-
-/// UTF-8 of wide text that holds no surrogates: the names of days and months of all languages are in the first plane.
-std::string utf8(std::wstring_view wide) {
-  std::string bytes;
-  const auto put = [&bytes](std::uint32_t byte) { bytes += static_cast<char>(static_cast<unsigned char>(byte)); };
-  for (const wchar_t character : wide) {
-    const auto code = static_cast<std::uint32_t>(character);
-    if (code < 0x80) {
-      put(code);
-    } else if (code < 0x800) {
-      put(0xC0 | (code >> 6));
-      put(0x80 | (code & 0x3F));
-    } else {
-      put(0xE0 | ((code >> 12) & 0x0F));
-      put(0x80 | ((code >> 6) & 0x3F));
-      put(0x80 | (code & 0x3F));
-    }
-  }
-  return bytes;
-}
-
-/// The wide form knows the names as characters, where the narrow one gives bytes of the locale's character set.
-std::string localName(const wchar_t* format, const std::tm& fields) {
-  std::array<wchar_t, 128> name{};
-  const std::size_t length = std::wcsftime(name.data(), name.size(), format, &fields);
-  return utf8({name.data(), length});
-}
-
-}  // namespace
 
 std::string longDateText(LocalTime time) {
   const local_days day = floor<days>(time);
   const year_month_day date{day};
-  std::tm fields{};
-  fields.tm_year = static_cast<int>(date.year()) - 1900;
-  fields.tm_mon = static_cast<int>(static_cast<unsigned>(date.month())) - 1;
-  fields.tm_mday = static_cast<int>(static_cast<unsigned>(date.day()));
-  fields.tm_wday = static_cast<int>(weekday{day}.c_encoding());
-  return localName(L"%A", fields) + ", " + localName(L"%B", fields) + " " + std::to_string(fields.tm_mday) + ", " +
-         std::to_string(static_cast<int>(date.year()));
+  return weekdayName(weekday{day}) + ", " + monthName(date.month()) + " " +
+         std::to_string(static_cast<unsigned>(date.day())) + ", " + std::to_string(static_cast<int>(date.year()));
 }
 
 std::string timeOfDayText(LocalTime time) { return dateTimeText(time).substr(dateText(time).size() + 1); }

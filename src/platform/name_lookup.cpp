@@ -1,13 +1,5 @@
 #include "platform/name_lookup.h"
 
-#ifdef _WIN32
-#include <winsock2.h>
-#include <ws2tcpip.h>
-#else
-#include <netdb.h>
-#include <sys/socket.h>
-#endif
-
 #include <mutex>
 #include <system_error>
 #include <thread>
@@ -17,40 +9,9 @@
 #include <QObject>
 #include <QUrl>
 
+#include "platform/host_addresses.h"
+
 namespace tarnwick {
-namespace {
-
-struct AddressListEnd {
-  void operator()(addrinfo* list) const { freeaddrinfo(list); }
-};
-
-QList<QHostAddress> addressesOf(const QByteArray& asciiName) {
-#ifdef _WIN32
-  static const bool ready = [] {
-    WSADATA ignored;
-    return WSAStartup(MAKEWORD(2, 2), &ignored) == 0;
-  }();
-  if (!ready) {
-    return {};
-  }
-#endif
-  addrinfo wanted{};
-  wanted.ai_family = AF_UNSPEC;
-  wanted.ai_socktype = SOCK_STREAM;
-  wanted.ai_flags = AI_ADDRCONFIG;
-  addrinfo* raw = nullptr;
-  if (getaddrinfo(asciiName.constData(), nullptr, &wanted, &raw) != 0) {
-    return {};
-  }
-  const std::unique_ptr<addrinfo, AddressListEnd> list(raw);
-  QList<QHostAddress> addresses;
-  for (const addrinfo* entry = list.get(); entry != nullptr; entry = entry->ai_next) {
-    addresses << QHostAddress(entry->ai_addr);
-  }
-  return addresses;
-}
-
-}  // namespace
 
 /// Where the background thread, which may outlive everything else, leaves what it found.
 struct NameLookup::Answer {
@@ -89,7 +50,7 @@ NameLookup::NameLookup(const QString& name, Found found) : answer_(std::make_sha
     return;
   }
   try {
-    std::thread([answer = answer_, asciiName] { answer->give(addressesOf(asciiName)); }).detach();
+    std::thread([answer = answer_, asciiName] { answer->give(hostAddresses(asciiName)); }).detach();
   } catch (const std::system_error&) {
     answer_->give({});  // a machine out of threads
   }

@@ -48,9 +48,14 @@ class SqlConnection {
   /// Begin and end a transaction that takes the write lock at once. They do not nest.
   virtual void begin() = 0;
   virtual void commit() = 0;
-  /// Takes back everything since `begin`; harmless when the database has already done so itself.
+  /// Takes back everything since `begin`; harmless when the database has already done so itself. Where that is
+  /// impossible the connection is closed, which does it too.
   virtual void rollback() noexcept = 0;
   virtual bool inTransaction() const = 0;
+
+  /// Stores something for good that changes no record: raises DataAccessError when nothing can be stored just now.
+  /// REQUIRES: no transaction.
+  virtual void proveWritable() = 0;
 };
 
 /// A database file that no connection has open and that is kept so, by every program, for this object's life: it can

@@ -57,7 +57,7 @@ std::int64_t clampedInt64(double number) {
 
 }  // namespace
 
-std::string SqlValue::toText() const {
+std::string SqlValue::toText() const& {
   if (const auto* flag = std::get_if<bool>(&value_)) {
     return *flag ? "True" : "False";
   }
@@ -75,7 +75,16 @@ std::string SqlValue::toText() const {
   return {};
 }
 
-std::string SqlValue::toTableText() const { return isNull() ? "NULL" : toText(); }
+std::string SqlValue::toText() && {
+  if (auto* text = std::get_if<std::string>(&value_)) {
+    return std::move(*text);
+  }
+  return std::as_const(*this).toText();
+}
+
+std::string SqlValue::toTableText() const& { return isNull() ? "NULL" : toText(); }
+
+std::string SqlValue::toTableText() && { return isNull() ? "NULL" : std::move(*this).toText(); }
 
 bool SqlValue::toBool() const {
   if (const auto* flag = std::get_if<bool>(&value_)) {

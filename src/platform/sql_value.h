@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <variant>
 
 namespace tarnwick {
@@ -19,9 +20,12 @@ class SqlValue {
   bool isBool() const { return std::holds_alternative<bool>(value_); }
 
   /// The value as the program writes it: "True" or "False", a decimal number, the bytes of a text; empty for Null.
-  std::string toText() const;
+  std::string toText() const&;
+  /// The same of a value that is not needed any more: a page of many megabytes is not copied.
+  std::string toText() &&;
   /// The same, but the four letters "NULL" for Null: the form of the row tables.
-  std::string toTableText() const;
+  std::string toTableText() const&;
+  std::string toTableText() &&;
 
   /// True for a true yes/no, any number but 0, and the texts "True" (any letter case) and non-zero numbers.
   /// Null and everything else is false.

@@ -65,7 +65,8 @@ class SqliteConnection final : public SqlConnection {
     if (database_) {
       throw DataAccessError("The connection to the database is open already.", "");
     }
-    database_ = std::make_unique<SqliteDatabase>(dataSource(connString), clock_);
+    path_ = dataSource(connString);
+    database_ = std::make_unique<SqliteDatabase>(path_, clock_);
   }
 
   void close() noexcept override { database_.reset(); }
@@ -95,14 +96,38 @@ class SqliteConnection final : public SqlConnection {
     if (inTransaction()) {
       sqlite3_exec(database_->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
     }
+    if (inTransaction()) {
+      // Without memory not even this can be done. What followed would go into a transaction that nobody ends, and be
+      // lost with it; closing the file ends it.
+      close();
+    }
+  }
+
+  void proveWritable() override {
+    begin();
+    try {
+      // A number in the file's header that is the user's own; writing it, even as it is, goes to the disk.
+      const auto version = database_->rows("pragma user_version");
+      database_->run("pragma user_version = " + version.at(0).at(0));
+      commit();
+    } catch (...) {
+      rollback();
+      throw;
+    }
   }
 
   bool inTransaction() const override { return database_ && sqlite3_get_autocommit(database_->handle()) == 0; }
 
  private:
-  SqliteDatabase& opened(std::string_view sql) const {
+  SqliteDatabase& opened(std::string_view sql) {
     if (!database_) {
       throw DataAccessError("The connection to the database is not open.", shownStatement(sql));
+    }
+    if (database_->wantsReopening()) {
+      // The old one is closed first: its locks and side files are in the way. Should the opening fail, the connection
+      // is closed.
+      database_.reset();
+      database_ = std::make_unique<SqliteDatabase>(path_, clock_);
     }
     return *database_;
   }
@@ -122,6 +147,7 @@ class SqliteConnection final : public SqlConnection {
   void runFixed(const char* text) { opened(text).run({text, {}, true}, text); }
 
   const Clock& clock_;
+  std::string path_;
   std::unique_ptr<SqliteDatabase> database_;
 };
 

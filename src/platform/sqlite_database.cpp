@@ -2,11 +2,13 @@
 
 #include <array>
 #include <cstdint>
-#include <filesystem>
 #include <type_traits>
 #include <utility>
 
+#include "platform/errors.h"
+#include "platform/file_access.h"
 #include "platform/sqlite_errors.h"
+#include "platform/sqlite_file.h"
 #include "platform/sqlite_functions.h"
 #include "platform/sqlite_recordset.h"
 
@@ -16,25 +18,23 @@ namespace {
 constexpr int kBusyPatienceMs = 2000;
 constexpr std::size_t kStatementsKept = 64;
 
-std::filesystem::path fileAt(const std::string& path) {
-  return std::filesystem::path(std::u8string(path.begin(), path.end()));
-}
-
-std::uintmax_t sizeOf(const std::string& path) {
-  std::error_code fault;
-  const std::uintmax_t size = std::filesystem::file_size(fileAt(path), fault);
-  return fault ? 0 : size;
+/// 0 also for a file that is missing.
+std::uint64_t bytesIn(const std::string& path) {
+  try {
+    return sizeOf(path);
+  } catch (const FileError&) {
+    return 0;
+  }
 }
 
 /// A file without which nothing works, told apart from what SQLite would only call "unable to open".
 void requireFile(const std::string& path) {
-  std::error_code fault;
-  const auto status = std::filesystem::status(fileAt(path), fault);
-  if (status.type() == std::filesystem::file_type::not_found || path.empty()) {
+  const FileKind kind = kindOf(path);
+  if (kind == FileKind::none) {
     throw DataAccessError(
         "The database " + path + " is missing. Put the file back, for instance by copying backup.mdb to its name.", "");
   }
-  if (std::filesystem::is_directory(status)) {
+  if (kind == FileKind::folder) {
     throw DataAccessError("The database " + path + " is a folder. Put the database file in its place.", "");
   }
 }
@@ -56,6 +56,7 @@ void StatementLoan::giveBack() noexcept {
 SqliteDatabase::SqliteDatabase(std::string path, const Clock& clock) : path_(std::move(path)), clock_(clock) {
   requireFile(path_);
   openFile();
+  setForeignLogAside();
   refuseDamage();
   chooseJournal();
 }
@@ -72,7 +73,7 @@ SqliteDatabase::~SqliteDatabase() {
 void SqliteDatabase::openFile() {
   sqlite3* raw = nullptr;
   // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
-  const int result = sqlite3_open_v2(path_.c_str(), &raw, SQLITE_OPEN_READWRITE, nullptr);
+  const int result = openSqliteFile(path_, SQLITE_OPEN_READWRITE, &raw);
   handle_.reset(raw);
   if (result != SQLITE_OK) {
     throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path_, "");
@@ -84,12 +85,34 @@ void SqliteDatabase::openFile() {
   }
 }
 
+// A copy that was put in the place of a lost database may find that one's log beside it, left by a program that was
+// killed; SQLite would write its pages into the copy. Only a file whose header (https://www.sqlite.org/fileformat2.html)
+// says that it has no log is known not to be the one that this log belongs to.
+void SqliteDatabase::setForeignLogAside() {
+  constexpr sqlite3_int64 kVersions = 18;
+  constexpr std::array<char, 2> kWithoutLog{1, 1};
+  const std::string log = path_ + "-wal";
+  std::array<char, 2> versions{};
+  sqlite3_file* file = nullptr;
+  if (bytesIn(log) > 0 && sqlite3_file_control(handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK &&
+      file->pMethods->xRead(file, versions.data(), static_cast<int>(versions.size()), kVersions) == SQLITE_OK &&
+      versions == kWithoutLog) {
+    try {
+      replaceFile(log, log + ".old");
+    } catch (const FileError& error) {
+      throw DataAccessError("The file " + log + " belongs to another database than " + path_ +
+                                ". Remove it. (" + error.what() + ")",
+                            "");
+    }
+  }
+}
+
 void SqliteDatabase::refuseDamage() {
-  const std::uintmax_t size = sizeOf(path_);
+  const std::uint64_t size = bytesIn(path_);
   if (size == 0) {
     throw damagedDatabase(path_, "the file is empty", "");
   }
-  const bool changesPending = sizeOf(path_ + "-wal") > 0;
+  const bool changesPending = bytesIn(path_ + "-wal") > 0;
   // Reads the file's header and all definitions, which SQLite itself puts off until the first statement.
   run("select count(*) from sqlite_master");
   const auto expected = rows("select page_count * page_size from pragma_page_count, pragma_page_size");
@@ -102,13 +125,20 @@ void SqliteDatabase::refuseDamage() {
 void SqliteDatabase::chooseJournal() noexcept {
   // A database on a read-only disk can still be read; writing will say what is wrong.
   sqlite3* const database = handle();
-  sqlite3_exec(database, "pragma journal_mode = wal", nullptr, nullptr, nullptr);
-  // With the write-ahead log a killed process loses nothing, and the file is whole even after a power cut.
-  sqlite3_exec(database, "pragma synchronous = normal", nullptr, nullptr, nullptr);
+  if (liesOnNetwork(path_)) {
+    // The write-ahead log needs memory that all who use the file share.
+    sqlite3_exec(database, "pragma journal_mode = delete", nullptr, nullptr, nullptr);
+    sqlite3_exec(database, "pragma synchronous = full", nullptr, nullptr, nullptr);
+  } else {
+    sqlite3_exec(database, "pragma journal_mode = wal", nullptr, nullptr, nullptr);
+    // With the write-ahead log a killed process loses nothing, and the file is whole even after a power cut.
+    sqlite3_exec(database, "pragma synchronous = normal", nullptr, nullptr, nullptr);
+  }
   // One large page must not leave a log of its size on the disk for the rest of the run.
   sqlite3_exec(database, "pragma journal_size_limit = 8388608", nullptr, nullptr, nullptr);
-  // Room for the rows of some thousand sites (32 MiB), which the due query reads again and again.
-  sqlite3_exec(database, "pragma cache_size = -32768", nullptr, nullptr, nullptr);
+  // A check reads and writes a handful of pages that no other check needs, so a larger cache (2 MiB here) would only fill
+  // with what is never asked for again; the due query reads the rest from the system's own cache as fast.
+  sqlite3_exec(database, "pragma cache_size = -2048", nullptr, nullptr, nullptr);
 }
 
 StatementLoan SqliteDatabase::prepare(const PlainStatement& statement, std::string_view sql) {
@@ -188,8 +218,12 @@ std::vector<std::vector<std::string>> SqliteDatabase::rows(const std::string& te
   while (step(loan.get(), text)) {
     auto& row = all.emplace_back();
     for (int column = 0; column < sqlite3_column_count(loan.get()); ++column) {
+      const bool isNull = sqlite3_column_type(loan.get(), column) == SQLITE_NULL;
       const auto* field = reinterpret_cast<const char*>(sqlite3_column_text(loan.get(), column));
-      row.emplace_back(field == nullptr ? "" : field);
+      if (field == nullptr && !isNull) {
+        fail(text);  // there is no memory for it
+      }
+      row.emplace_back(isNull ? "" : field);
     }
   }
   return all;
@@ -199,7 +233,9 @@ void SqliteDatabase::fail(std::string_view sql) const {
   const DataAccessError error = sqliteError(sqlite3_extended_errcode(handle()), sqlite3_errmsg(handle()), path_, sql);
   // With no room or a broken disk nothing that follows in the transaction can be relied on, so all of it is taken back;
   // SQLite leaves that to its caller when the statement could be undone alone.
-  switch (sqlite3_errcode(handle()) & 0xff) {
+  const int code = sqlite3_errcode(handle()) & 0xff;
+  outdated_ = outdated_ || code == SQLITE_CORRUPT || code == SQLITE_NOTADB || code == SQLITE_READONLY;
+  switch (code) {
     case SQLITE_FULL:
     case SQLITE_IOERR:
     case SQLITE_NOMEM:

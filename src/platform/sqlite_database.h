@@ -80,6 +80,13 @@ class SqliteDatabase {
 
   [[noreturn]] void fail(std::string_view sql) const;
 
+  /// True when the file should be opened afresh before its next use, and nobody is at work on it: damage was met, of
+  /// which the pages in memory may be all there is once a good copy is put back, or it could not be changed, which an
+  /// open file goes on with after its permissions have been put right.
+  bool wantsReopening() const {
+    return outdated_ && open_.empty() && sqlite3_get_autocommit(handle()) != 0;
+  }
+
   void enroll(SqliteRecordset& recordset) { open_.push_back(&recordset); }
   void strikeOff(const SqliteRecordset& recordset) noexcept { std::erase(open_, &recordset); }
 
@@ -87,6 +94,7 @@ class SqliteDatabase {
   friend class StatementLoan;
   void keep(SqliteStatement statement) noexcept;
   void openFile();
+  void setForeignLogAside();
   void refuseDamage();
   void chooseJournal() noexcept;
 
@@ -99,6 +107,7 @@ class SqliteDatabase {
   Kept kept_;
   std::unordered_map<std::string_view, Kept::iterator> keptByText_;
   std::vector<SqliteRecordset*> open_;
+  mutable bool outdated_ = false;
 };
 
 }  // namespace tarnwick

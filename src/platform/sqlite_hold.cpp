@@ -1,29 +1,24 @@
 #include "platform/sqlite_hold.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <system_error>
 #include <utility>
 #include <vector>
 
 #include "platform/errors.h"
+#include "platform/file_access.h"
 #include "platform/sqlite_connection.h"
 #include "platform/sqlite_errors.h"
+#include "platform/sqlite_file.h"
 
 namespace tarnwick {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr int kBusyPatienceMs = 2000;
 constexpr int kPieceSize = 1 << 20;
 
-fs::path pathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
-
 SqliteHandle openFile(const std::string& path, int flags) {
   sqlite3* raw = nullptr;
-  const int result = sqlite3_open_v2(path.c_str(), &raw, flags, nullptr);
+  const int result = openSqliteFile(path, flags, &raw);
   SqliteHandle handle(raw);
   if (result != SQLITE_OK) {
     throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path, "");
@@ -35,15 +30,13 @@ SqliteHandle openFile(const std::string& path, int flags) {
 
 /// Makes an empty file that may be read by those who may read the file `like`.
 void makeEmpty(const std::string& path, const std::string& like) {
-  std::error_code fault;
-  if (fs::exists(fs::symlink_status(pathOf(path), fault))) {
+  if (isTaken(path)) {
     throw DataAccessError("The file " + path + " is there already and would be overwritten. Remove it.", "");
   }
-  const bool made = std::ofstream(pathOf(path), std::ios::binary).good();
-  if (made) {
-    fs::permissions(pathOf(path), fs::status(pathOf(like), fault).permissions(), fault);
-  }
-  if (!made || fault) {
+  try {
+    openFile(path, FileUse::write);
+    copyPermissions(like, path);
+  } catch (const FileError&) {
     throw DataAccessError("The file " + path + " cannot be written. Allow writing to its folder.", "");
   }
 }
@@ -121,7 +114,8 @@ void SqliteHold::vacuumInto(const std::string& path) {
     fail(handle_.get(), kVacuum);
   }
   const SqliteStatement statement(raw);
-  sqlite3_bind_text64(raw, 1, path.data(), path.size(), SQLITE_STATIC, SQLITE_UTF8);
+  const std::string file = sqliteFileName(path);
+  sqlite3_bind_text64(raw, 1, file.data(), file.size(), SQLITE_STATIC, SQLITE_UTF8);
   if (sqlite3_step(raw) != SQLITE_DONE) {
     fail(handle_.get(), kVacuum);
   }

@@ -1,5 +1,6 @@
 #include "platform/sqlite_recordset.h"
 
+#include <optional>
 #include <utility>
 
 #include "platform/errors.h"
@@ -9,10 +10,14 @@ namespace {
 
 constexpr const char* kNoRow = "There is no current record: the statement returned none, or all have been read.";
 
-SqlValue textValue(sqlite3_stmt* statement, int column) {
+/// Nothing when there is no memory for the text: an empty one in its place would pass for what is stored.
+std::optional<SqlValue> textValue(sqlite3_stmt* statement, int column) {
   const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+  if (bytes == nullptr) {
+    return std::nullopt;
+  }
   const auto length = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
-  return SqlValue(bytes == nullptr ? std::string() : std::string(bytes, length));
+  return SqlValue(std::string(bytes, length));
 }
 
 bool isYesNo(sqlite3_stmt* statement, int column) {
@@ -20,10 +25,10 @@ bool isYesNo(sqlite3_stmt* statement, int column) {
   return type != nullptr && sqlite3_stricmp(type, "yesno") == 0;
 }
 
-SqlValue plainValue(sqlite3_stmt* statement, int column) {
+std::optional<SqlValue> plainValue(sqlite3_stmt* statement, int column) {
   switch (sqlite3_column_type(statement, column)) {
     case SQLITE_NULL:
-      return {};
+      return SqlValue();
     case SQLITE_INTEGER:
       return SqlValue(std::int64_t{sqlite3_column_int64(statement, column)});
     case SQLITE_FLOAT:
@@ -79,8 +84,11 @@ SqlValue SqliteRecordset::field(std::size_t index) const {
     throw DataAccessError(kNoRow, sql_);
   }
   const int column = checkedColumn(index);
-  const SqlValue value = plainValue(loan_.get(), column);
-  return !value.isNull() && isYesNo(loan_.get(), column) ? SqlValue(value.toBool()) : value;
+  std::optional<SqlValue> value = plainValue(loan_.get(), column);
+  if (!value) {
+    database_->fail(sql_);
+  }
+  return !value->isNull() && isYesNo(loan_.get(), column) ? SqlValue(value->toBool()) : *std::move(value);
 }
 
 SqlValue SqliteRecordset::field(std::string_view name) const {

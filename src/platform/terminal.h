@@ -1,18 +1,29 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
+#include <vector>
 
 namespace tarnwick {
 
-/// What the standard output of this process is.
+/// What the standard streams of this process are.
 struct TerminalFacts {
+  /// Standard output is a terminal.
   bool isTerminal = false;
   /// Whether colours are wanted: on a terminal that is not dumb, unless the environment says NO_COLOR
   /// (https://no-color.org).
   bool colour = false;
+  /// Whether somebody can be asked: standard input and standard error are terminals.
+  bool canAsk = false;
 };
 
 TerminalFacts standardOutputFacts();
+
+/// What `main` was given behind the program's name, as UTF-8.
+std::vector<std::string> programArguments(int argc, char** argv);
+
+/// Lets UTF-8, and whatever other bytes a page holds, pass through the standard streams as they are.
+void prepareStandardStreams();
 
 /// How many characters a line of the terminal holds now; 80 when that cannot be told.
 std::size_t terminalWidth();

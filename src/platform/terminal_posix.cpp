@@ -20,7 +20,16 @@ std::string_view environment(const char* name) {
 
 TerminalFacts standardOutputFacts() {
   const bool isTerminal = ::isatty(STDOUT_FILENO) == 1 && environment("TERM") != "dumb";
-  return {isTerminal, isTerminal && environment("NO_COLOR").empty()};
+  const bool canAsk = ::isatty(STDIN_FILENO) == 1 && ::isatty(STDERR_FILENO) == 1;
+  return {isTerminal, isTerminal && environment("NO_COLOR").empty(), canAsk};
+}
+
+std::vector<std::string> programArguments(int argc, char** argv) {
+  return argc > 1 ? std::vector<std::string>(argv + 1, argv + argc) : std::vector<std::string>();
+}
+
+void prepareStandardStreams() {
+  // They do so already.
 }
 
 std::size_t terminalWidth() {

@@ -50,12 +50,32 @@ struct Server {
 
 TransferFailure largeHeader() { return {TransferFault::tooLarge, "The header of the answer is too large."}; }
 
-TransferFailure broken(BrokenBound bound, const TransferEnd& end) {
-  switch (bound) {
+TransferFailure notUnderstood(const Server& server) {
+  const bool web = server.scheme.starts_with("http");
+  return {TransferFault::other,
+          "The server " + server.place + " did not answer in the language of " + (web ? "HTTP." : "FTP.")};
+}
+
+TransferFailure damaged(const Server& server, const std::string& how) {
+  return {TransferFault::dropped, "The answer of the server " + server.place + " is damaged: " + how + "."};
+}
+
+TransferFailure unclearLength(const Server& server) { return damaged(server, "its length is not clear"); }
+
+TransferFailure withoutAnswer(const Server& server) {
+  return {TransferFault::dropped, "The server " + server.place + " closed the connection without an answer."};
+}
+
+TransferFailure broken(const TransferEnd& end, const Server& server) {
+  switch (end.bound) {
     case BrokenBound::page:
       return {TransferFault::tooLarge, "The page is larger than " + sizeText(end.largestPage) + "."};
     case BrokenBound::header:
       return largeHeader();
+    case BrokenBound::length:
+      return unclearLength(server);
+    case BrokenBound::protocol:
+      return notUnderstood(server);
     case BrokenBound::memory:
     case BrokenBound::none:
       break;
@@ -63,8 +83,15 @@ TransferFailure broken(BrokenBound bound, const TransferEnd& end) {
   return noMemory();
 }
 
-TransferFailure notConnected(const Server& server, int systemError) {
-  switch (systemError) {
+TransferFailure notConnected(const TransferEnd& end, const Server& server) {
+  if (server.scheme.starts_with("ftp") && end.status != 0) {
+    // The server itself has been talked to.
+    return {TransferFault::refused,
+            "The server " + server.place + " gives its files out at a port that cannot be reached."};
+  }
+  switch (end.systemError) {
+    case ECONNRESET:
+      return withoutAnswer(server);
     case ECONNREFUSED:
       return {TransferFault::refused, "The connection to " + server.place + " was refused."};
     case ENETUNREACH:
@@ -92,36 +119,77 @@ TransferFailure untrusted(const Server& server, const std::string& detail) {
 }
 
 TransferFailure unsecured(const Server& server, const std::string& detail) {
+  const std::string start = "No secure connection to " + server.place + " could be made";
+  // What OpenSSL and the system say of a server that hangs up instead of going on with the handshake.
+  for (const std::string_view hungUp : {"SSL_ERROR_SYSCALL", "reset by peer", "unexpected eof"}) {
+    if (detail.find(hungUp) != std::string::npos) {
+      return {TransferFault::secureConnection, start + ": the server closed the connection."};
+    }
+  }
   // "error:0A00010B:SSL routines::wrong version number": only the last piece says something to a reader.
   const auto reason = detail.rfind("::");
   return {TransferFault::secureConnection,
-          "No secure connection to " + server.place + " could be made" +
-              (reason == std::string::npos ? "." : ": " + quotable(detail.substr(reason + 2)) + ".")};
+          start + (reason == std::string::npos ? "." : ": " + quotable(detail.substr(reason + 2)) + ".")};
 }
 
-TransferFailure notUnderstood(const Server& server) {
-  const bool web = server.scheme.starts_with("http");
-  return {TransferFault::other,
-          "The server " + server.place + " did not answer in the language of " + (web ? "HTTP." : "FTP.")};
-}
-
-TransferFailure cutShort(const Server& server, const std::string& detail) {
-  if (detail.find("chunked-encoding") != std::string::npos) {
-    return {TransferFault::dropped, "The answer of the server " + server.place + " is damaged: bad chunk."};
+TransferFailure cutShort(const Server& server, const TransferEnd& end) {
+  if (end.detail.find("chunked-encoding") != std::string::npos) {
+    return damaged(server, "bad chunk");
+  }
+  if (!end.answered) {
+    return withoutAnswer(server);
   }
   return {TransferFault::dropped, "The server " + server.place + " broke the connection off during its answer."};
+}
+
+// libcurl's words for an address that it was led to: 'Protocol "javascript" not supported or disabled in libcurl'.
+std::string refusedScheme(const std::string& detail) {
+  constexpr std::string_view kStart = "Protocol \"";
+  if (!detail.starts_with(kStart)) {
+    return {};
+  }
+  return detail.substr(kStart.size(), detail.find('"', kStart.size()) - kStart.size());
+}
+
+TransferFailure redirectedAway(const Server& server) {
+  return {TransferFault::badUrl, "The server " + server.place +
+                                     " redirected to an address of a kind that is not fetched; only http, https, ftp "
+                                     "and ftps are."};
+}
+
+TransferFailure unsupported(const Server& server, const TransferEnd& end) {
+  if (!isFetchedScheme(server.scheme)) {
+    return unfetchedScheme(server.scheme);
+  }
+  if (const std::string scheme = refusedScheme(end.detail); !scheme.empty()) {
+    return unfetchedScheme(scheme);
+  }
+  constexpr int kRedirects = 3;
+  return end.status / 100 == kRedirects ? redirectedAway(server) : notUnderstood(server);
+}
+
+TransferFailure tooManyRounds(const Server& server, const TransferEnd& end) {
+  constexpr int kUnauthorized = 401;
+  if (end.status == kUnauthorized) {
+    return {TransferFault::other,
+            "The server " + server.place + " asked for the user name and the password again and again."};
+  }
+  return {TransferFault::tooManyRedirects,
+          "The server redirected more than " + std::to_string(end.mostRedirects) + " times."};
 }
 
 std::optional<TransferFailure> failureToConnect(const TransferEnd& end, const Server& server) {
   switch (end.result) {
     case CURLE_URL_MALFORMAT:
-      return badAddress(end.url);
+      // The address of the site was looked at before anything was sent.
+      return TransferFailure{TransferFault::badUrl,
+                             "The server " + server.place + " redirected to an address that is not valid."};
     case CURLE_COULDNT_RESOLVE_HOST:
       return TransferFailure{TransferFault::nameLookup, "The name of the host " + server.host + " could not be found."};
     case CURLE_COULDNT_RESOLVE_PROXY:
       return TransferFailure{TransferFault::nameLookup, "The name of the proxy server could not be found."};
     case CURLE_COULDNT_CONNECT:
-      return notConnected(server, end.systemError);
+      return notConnected(end, server);
     case CURLE_PEER_FAILED_VERIFICATION:
     case CURLE_SSL_ISSUER_ERROR:
     case CURLE_SSL_INVALIDCERTSTATUS:
@@ -144,26 +212,25 @@ std::optional<TransferFailure> failureToConnect(const TransferEnd& end, const Se
 std::optional<TransferFailure> failureToAnswer(const TransferEnd& end, const Server& server) {
   switch (end.result) {
     case CURLE_UNSUPPORTED_PROTOCOL:
-      return isFetchedScheme(server.scheme) ? notUnderstood(server) : unfetchedScheme(server.scheme);
+      return unsupported(server, end);
     case CURLE_WEIRD_SERVER_REPLY:
+      return end.detail.find("Content-Length") == std::string::npos ? notUnderstood(server) : unclearLength(server);
     case CURLE_FTP_WEIRD_PASS_REPLY:
     case CURLE_FTP_WEIRD_PASV_REPLY:
     case CURLE_FTP_WEIRD_227_FORMAT:
       return notUnderstood(server);
     case CURLE_GOT_NOTHING:
-      return TransferFailure{TransferFault::dropped,
-                             "The server " + server.place + " closed the connection without an answer."};
+      return withoutAnswer(server);
     case CURLE_SEND_ERROR:
       return TransferFailure{TransferFault::dropped, "The request could not be sent to " + server.place + "."};
     case CURLE_RECV_ERROR:
     case CURLE_PARTIAL_FILE:
-      return cutShort(server, end.detail);
+      return cutShort(server, end);
     case CURLE_ABORTED_BY_CALLBACK:
       return TransferFailure{TransferFault::dropped,
                              "The server " + server.place + " did not confirm the end of the transfer."};
     case CURLE_TOO_MANY_REDIRECTS:
-      return TransferFailure{TransferFault::tooManyRedirects,
-                             "The server redirected more than " + std::to_string(end.mostRedirects) + " times."};
+      return tooManyRounds(server, end);
     case CURLE_BAD_CONTENT_ENCODING:
     case CURLE_WRITE_ERROR:
       // Not refused by a bound of ours, so it was the decoder that would not take more.
@@ -191,10 +258,15 @@ std::optional<TransferFailure> failureOfFtp(const TransferEnd& end, const Server
 }  // namespace
 
 TransferFailure failureOf(const TransferEnd& end) {
+  const Server server(end.url);
   if (end.bound != BrokenBound::none) {
-    return broken(end.bound, end);
+    return broken(end, server);
   }
   if (end.result == CURLE_OPERATION_TIMEDOUT) {
+    constexpr int kServiceNotAvailable = 421;  // RFC 959, section 4.2.1; for libcurl a time-out of the server's
+    if (server.scheme.starts_with("ftp") && end.status == kServiceNotAvailable) {
+      return {TransferFault::dropped, "The server " + server.place + " is not available for now."};
+    }
     return {TransferFault::timeOut, "The request took longer than " + secondsText(end.timeout) + "."};
   }
   // libcurl has bounds of its own beside ours.
@@ -204,7 +276,6 @@ TransferFailure failureOf(const TransferEnd& end) {
   if (end.result == CURLE_OUT_OF_MEMORY) {
     return noMemory();
   }
-  const Server server(end.url);
   if (auto failure = failureToConnect(end, server)) {
     return *failure;
   }

@@ -18,7 +18,7 @@ struct TransferFailure {
 };
 
 /// A bound of ours that ended a transfer, where libcurl only knows that a callback refused to go on.
-enum class BrokenBound { none, page, header, memory };
+enum class BrokenBound { none, page, header, memory, length, protocol };
 
 /// What is known of a transfer that libcurl ended with an error.
 struct TransferEnd {
@@ -29,6 +29,10 @@ struct TransferEnd {
   std::string url{};
   /// The operating system's error number of the last failed connect; 0 for none.
   int systemError = 0;
+  /// The status of the last HTTP answer or FTP reply; 0 for none.
+  int status = 0;
+  /// Something had come back over the last connection.
+  bool answered = false;
   BrokenBound bound = BrokenBound::none;
   std::chrono::seconds timeout{0};
   std::size_t largestPage = 0;

@@ -1,8 +1,8 @@
 #include "platform/desktop/desktop_platform.h"
 
+#include "platform/desktop/desktop_sound.h"
 #include "platform/desktop/message_box_prompts.h"
 #include "platform/desktop/qt_desktop_opener.h"
-#include "platform/desktop/qt_sound_player.h"
 #include "platform/headless_platform.h"
 
 namespace tarnwick {
@@ -10,7 +10,7 @@ namespace tarnwick {
 struct DesktopPlatform::Machine {
   HeadlessPlatform headless;
   MessageBoxPrompts prompts{headless.services().pump};
-  QtSoundPlayer sound;
+  std::unique_ptr<SoundPlayer> sound = makeDesktopSound();
   QtDesktopOpener opener;
 };
 
@@ -20,8 +20,8 @@ DesktopPlatform::~DesktopPlatform() = default;
 Services DesktopPlatform::services() {
   Machine& machine = *machine_;
   const Services common = machine.headless.services();
-  return {common.clock,   common.pump,     common.timers, common.databases, common.transfers,
-          common.sockets, machine.prompts, machine.sound, common.programs,  machine.opener};
+  return {common.clock,   common.pump,     common.timers,  common.databases, common.transfers,
+          common.sockets, machine.prompts, *machine.sound, common.programs,  machine.opener};
 }
 
 }  // namespace tarnwick

@@ -1,10 +1,12 @@
 #include "platform/desktop/message_box_prompts.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 
 #include "platform/desktop/exclusive_dialog.h"
+#include "platform/desktop/file_filters.h"
 
 namespace tarnwick {
 namespace {
@@ -44,11 +46,7 @@ QStringList nameFilters(const std::string& filter) {
     QString patterns = pieces[piece + 1];
     filters << QStringLiteral("%1 (%2)").arg(name, patterns.replace(QLatin1Char(';'), QLatin1Char(' ')));
   }
-#ifndef Q_OS_WIN
-  // Elsewhere a file's ending does not tell what it is: a program seldom has one.
-  filters << QObject::tr("All Files (*)");
-#endif
-  return filters;
+  return filters + furtherNameFilters();
 }
 
 }  // namespace
@@ -73,7 +71,7 @@ std::optional<std::string> MessageBoxPrompts::chooseFile(const std::string& fold
   if (runExclusively(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     return std::nullopt;
   }
-  return dialog.selectedFiles().constFirst().toStdString();
+  return QDir::toNativeSeparators(dialog.selectedFiles().constFirst()).toStdString();
 }
 
 }  // namespace tarnwick

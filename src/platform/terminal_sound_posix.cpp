@@ -1,9 +1,8 @@
-#include "platform/sound_program.h"
-
 #include <array>
 #include <QFile>
 #include <QStandardPaths>
 
+#include "platform/terminal_sound.h"
 #include "platform/wave_file.h"
 
 namespace tarnwick {
@@ -20,7 +19,16 @@ bool isSound(const std::string& fileName) {
   return readWave({bytes.constData(), static_cast<std::size_t>(bytes.size())}).has_value();
 }
 
-}  // namespace
+/// Plays sounds where no multimedia library is loaded: through the first of the usual players that the machine has
+/// (pw-play, paplay, aplay), started like an alert program.
+class SoundProgram final : public SoundPlayer {
+ public:
+  explicit SoundProgram(ProgramStarter& programs) : programs_(programs) {}
+  long play(const std::string& fileName) override;
+
+ private:
+  ProgramStarter& programs_;
+};
 
 long SoundProgram::play(const std::string& fileName) {
   if (!isSound(fileName)) {
@@ -33,6 +41,12 @@ long SoundProgram::play(const std::string& fileName) {
     }
   }
   return 0;
+}
+
+}  // namespace
+
+std::unique_ptr<SoundPlayer> makeTerminalSound(ProgramStarter& programs) {
+  return std::make_unique<SoundProgram>(programs);
 }
 
 }  // namespace tarnwick

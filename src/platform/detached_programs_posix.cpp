@@ -1,12 +1,12 @@
-#include "platform/qt_program_starter.h"
-
 #include <algorithm>
 #include <QCoreApplication>
 #include <QProcess>
 
+#include "platform/detached_programs.h"
+
 namespace tarnwick {
 
-bool QtProgramStarter::start(const std::vector<std::string>& arguments) {
+bool DetachedPrograms::start(const std::vector<std::string>& arguments) {
   const bool passable = std::none_of(arguments.begin(), arguments.end(), [](const std::string& argument) {
     return argument.find('\0') != std::string::npos;
   });

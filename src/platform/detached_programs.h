@@ -6,10 +6,12 @@ namespace tarnwick {
 
 /// Starts programs as processes of their own, which outlive this one: in the folder of this executable, without input,
 /// and with their output thrown away.
-class QtProgramStarter final : public ProgramStarter {
+class DetachedPrograms final : public ProgramStarter {
  public:
   /// A program named without a folder is looked up in the search path. False when `arguments` is empty, the program is
-  /// missing or may not be run, or an argument holds a NUL byte, which no program can be given.
+  /// missing or may not be run, or an argument cannot be given to it: one with a NUL byte to none, one with a line end
+  /// to no batch file. On Windows a batch file or a script is given to its interpreter, and what is no program is
+  /// opened with the program that the user has for it.
   bool start(const std::vector<std::string>& arguments) override;
 };
 

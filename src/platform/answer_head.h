@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tarnwick {
+
+/// What is wrong with the header of an HTTP answer.
+enum class HeadFault {
+  none,
+  /// It announces no length that can be relied on: several that differ, or none in decimal digits.
+  unclearLength,
+  /// It announces a page larger than any number that this machine can count to.
+  endlessPage,
+  /// It leaves HTTP for a protocol that was not asked for.
+  otherProtocol,
+};
+
+/// Follows the header lines of one answer after the other, and finds what the transfer library lets pass.
+class AnswerHead {
+ public:
+  /// Takes the next line, its line end included. Lines outside of a header (trailers, the replies of an FTP server) do
+  /// not count. A fault of lengths is found at the header's end: chunks overrule every length (RFC 9112, section 6.3).
+  HeadFault add(std::string_view line);
+
+  /// True from an answer's first line until its empty line: a connection that ends here ends inside a header.
+  bool open() const { return open_; }
+
+ private:
+  HeadFault begin(std::string_view line);
+  HeadFault end();
+  void addLengths(std::string_view values);
+  void addLength(std::string_view value);
+
+  bool open_ = false;
+  bool chunked_ = false;
+  bool unclear_ = false;
+  bool endless_ = false;
+  std::optional<std::size_t> length_;
+};
+
+/// The status of an HTTP answer's first line, "HTTP/1.1 303 See Other"; 0 when it has none.
+int statusOf(std::string_view firstLine);
+
+}  // namespace tarnwick

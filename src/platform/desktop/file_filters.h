@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QStringList>
+
+namespace tarnwick {
+
+/// What a file dialog offers beside the kinds of files that it asks for.
+QStringList furtherNameFilters();
+
+}  // namespace tarnwick

@@ -1,0 +1,7 @@
+#include "platform/desktop/file_filters.h"
+
+namespace tarnwick {
+
+QStringList furtherNameFilters() { return {}; }
+
+}  // namespace tarnwick

@@ -1,0 +1,11 @@
+#include <windows.h>
+
+#include "platform/socket_inheritance.h"
+
+namespace tarnwick {
+
+void keepFromPrograms(std::uintptr_t socket) {
+  SetHandleInformation(reinterpret_cast<HANDLE>(socket), HANDLE_FLAG_INHERIT, 0);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <sqlite3.h>
+
+#include <string>
+
+namespace tarnwick {
+
+/// The file's name as SQLite takes it.
+std::string sqliteFileName(const std::string& path);
+
+/// Opens the file `path` as sqlite3_open_v2 does, however long its name is.
+int openSqliteFile(const std::string& path, int flags, sqlite3** database);
+
+/// Whether the file lies on another machine, where SQLite's write-ahead log cannot be shared between programs.
+/// https://www.sqlite.org/wal.html
+bool liesOnNetwork(const std::string& path);
+
+}  // namespace tarnwick

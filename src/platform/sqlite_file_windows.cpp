@@ -1,0 +1,31 @@
+#include <windows.h>
+
+#include "platform/sqlite_file.h"
+#include "platform/windows_text.h"
+
+namespace tarnwick {
+namespace {
+
+/// SQLite's own name for its access to files whose names are longer than Windows takes by default.
+constexpr const char* kLongNames = "win32-longpath";
+/// Room for what SQLite puts behind the name.
+constexpr std::size_t kLongestEnding = 16;
+
+}  // namespace
+
+std::string sqliteFileName(const std::string& path) {
+  // Tried with the ending, since the files beside the database must be reached too.
+  const std::wstring longest = systemPath(path + std::string(kLongestEnding, 'x'));
+  return utf8Of(longest.substr(0, longest.size() - kLongestEnding));
+}
+
+int openSqliteFile(const std::string& path, int flags, sqlite3** database) {
+  return sqlite3_open_v2(sqliteFileName(path).c_str(), database, flags, kLongNames);
+}
+
+bool liesOnNetwork(const std::string& path) {
+  wchar_t root[MAX_PATH + 1]{};
+  return GetVolumePathNameW(systemPath(path).c_str(), root, MAX_PATH) != FALSE && GetDriveTypeW(root) == DRIVE_REMOTE;
+}
+
+}  // namespace tarnwick
