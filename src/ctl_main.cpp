@@ -8,7 +8,8 @@
 
 int main(int argc, char** argv) {
   // The application object takes arguments of its own away, so the tool's are kept first.
-  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  const std::vector<std::string> arguments = tarnwick::programArguments(argc, argv);
+  tarnwick::prepareStandardStreams();
   QCoreApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("tarnwickctl"));
   tarnwick::HeadlessPlatform machine;

@@ -7,6 +7,7 @@ m::m(const std::string& programFolder, const Services& services)
       SiteRecords(ownedDatabase_),
       PostVars(ownedDatabase_),
       SettingsAndLog(ownedDatabase_),
+      ResultLog(ownedDatabase_),
       TextFiles(services.opener),
       DueSites(ownedDatabase_),
       PageFetch(ownedDatabase_, *this, ownedControl_, services.pump),

@@ -14,6 +14,7 @@
 #include "store/compaction.h"
 #include "store/database.h"
 #include "store/post_vars.h"
+#include "store/result_log.h"
 #include "store/settings_and_log.h"
 #include "store/site_records.h"
 #include "store/text_files.h"
@@ -47,6 +48,7 @@ class m : private MembersOfM,
           public SiteRecords,
           public PostVars,
           public SettingsAndLog,
+          public ResultLog,
           public TextFiles,
           public DueSites,
           public PageFetch,

@@ -1,17 +1,29 @@
 #include <cstdlib>
 #include <QApplication>
 
+#include "fault_box.h"
 #include "platform/desktop/desktop_platform.h"
+#include "platform/program_folder.h"
 #include "ui/control_dialog.h"
 #include "ui/master.h"
 #include "ui/site_editor.h"
+#include "ui/translations.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QString::fromLatin1(tarnwick::kProductName));
   QApplication::setApplicationVersion(QStringLiteral(TARNWICK_VERSION));
+  // The desktop finds icon and name of the window by it.
+  QApplication::setDesktopFileName(QStringLiteral("tarnwick"));
   tarnwick::DesktopPlatform machine;
-  tarnwick::Master window(QCoreApplication::applicationDirPath().toStdString(), machine.services());
+  const QString executableFolder = QCoreApplication::applicationDirPath();
+  std::string folder;
+  const auto choose = [&] { folder = tarnwick::programFolderFor(executableFolder.toStdString()); };
+  if (!tarnwick::FaultBox(machine.services().prompts).run(choose)) {
+    return EXIT_FAILURE;
+  }
+  tarnwick::loadTranslations(application, {QString::fromStdString(folder), executableFolder});
+  tarnwick::Master window(folder, machine.services());
   if (!window.load()) {
     return EXIT_FAILURE;
   }

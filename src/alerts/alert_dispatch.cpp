@@ -1,15 +1,14 @@
 #include "alerts/alert_dispatch.h"
 
 #include <chrono>
-#include <filesystem>
 #include <string_view>
-#include <system_error>
 #include <thread>
 #include <vector>
 
 #include "alerts/smtp.h"
 #include "platform/command_line.h"
 #include "platform/errors.h"
+#include "platform/file_access.h"
 #include "product.h"
 #include "store/sql_quote.h"
 
@@ -31,9 +30,7 @@ std::string trimmed(std::string_view text) {
 }
 
 bool isFile(const std::string& path) {
-  std::error_code ignored;
-  return path.find('\0') == std::string::npos &&
-         std::filesystem::is_regular_file(std::u8string(path.begin(), path.end()), ignored);
+  return path.find('\0') == std::string::npos && kindOf(path) == FileKind::file;
 }
 
 /// A mail without its text is still an alert.

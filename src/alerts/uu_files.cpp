@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <random>
 #include <system_error>
@@ -14,26 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kBufferSize = 1 << 16;
-
-fs::path pathOf(const std::string& utf8) {
-  if (utf8.find('\0') != std::string::npos) {
-    throw FileError(utf8.substr(0, utf8.find('\0')), "A file's name cannot hold a NUL character.");
-  }
-  return {std::u8string(utf8.begin(), utf8.end())};
-}
-
-std::string textOf(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
-std::FILE* openForReading(const std::string& path) {
-#ifdef _WIN32
-  return _wfopen(pathOf(path).c_str(), L"rb");
-#else
-  return std::fopen(pathOf(path).c_str(), "rb");
-#endif
-}
 
 [[noreturn]] void fail(const std::string& path, int cause) {
   throw FileError(path, std::generic_category().message(cause));
@@ -50,34 +31,24 @@ fs::path unusedNameBeside(const fs::path& path) {
       letter = kDigits[random() % kDigits.size()];
     }
     name = path.parent_path() / (std::string(letters.data(), letters.size()) + ".tmp");
-  } while (fs::exists(fs::symlink_status(name)));
+  } while (isTaken(textOf(name)));
   return name;
 }
 
 /// Raises FileError when no file can be made at this place, in words that speak of it and not of the temporary one.
 void requirePlaceForFile(const std::string& path) {
-  std::error_code ignored;
   const fs::path place = pathOf(path);
-  if (place.filename().empty() || fs::is_directory(place, ignored)) {
+  if (place.filename().empty() || kindOf(path) == FileKind::folder) {
     throw FileError(path, "This is a folder; give the name of a file.");
   }
-  if (const fs::path folder = place.parent_path(); !folder.empty() && !fs::is_directory(folder, ignored)) {
+  if (const fs::path folder = place.parent_path(); !folder.empty() && kindOf(textOf(folder)) != FileKind::folder) {
     throw FileError(path, "There is no such folder; make it first.");
   }
 }
 
 }  // namespace
 
-bool isFile(const std::string& path) {
-  std::error_code fault;
-  const fs::path place = pathOf(path);
-  return fs::exists(fs::symlink_status(place, fault)) && !fs::is_directory(place, fault);
-}
-
-bool isSameFile(const std::string& one, const std::string& other) {
-  std::error_code fault;
-  return fs::equivalent(pathOf(one), pathOf(other), fault) && !fault;
-}
+bool isFile(const std::string& path) { return isTaken(path) && kindOf(path) != FileKind::folder; }
 
 std::string fileName(const std::string& path) { return textOf(pathOf(path).filename()); }
 
@@ -87,10 +58,7 @@ std::string inFolder(const std::string& folder, const std::string& name) {
   return textOf(pathOf(folder) / pathOf(name));
 }
 
-InputFile::InputFile(const std::string& path) : path_(path), file_(openForReading(path)) {
-  if (!file_) {
-    fail(path, errno);
-  }
+InputFile::InputFile(const std::string& path) : path_(path), file_(openFile(path, FileUse::read)) {
   std::setvbuf(file_.get(), nullptr, _IOFBF, kBufferSize);
 }
 
@@ -103,14 +71,7 @@ void InputFile::read(std::string& bytes, std::size_t size) {
   bytes.resize(got);
 }
 
-std::uint64_t InputFile::size() const {
-  std::error_code fault;
-  const std::uintmax_t size = fs::file_size(pathOf(path_), fault);
-  if (fault) {
-    throw FileError(path_, fault.message());
-  }
-  return size;
-}
+std::uint64_t InputFile::size() const { return sizeOf(path_); }
 
 OutputFiles::~OutputFiles() {
   for (const Written& file : written_) {

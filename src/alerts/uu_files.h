@@ -1,12 +1,11 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
+#include "platform/file_access.h"
 #include "platform/file_system.h"
 
 namespace tarnwick {
@@ -15,8 +14,6 @@ namespace tarnwick {
 
 /// Whether there is a file, hidden ones included; a folder is none.
 bool isFile(const std::string& path);
-/// Whether both paths lead to one file.
-bool isSameFile(const std::string& one, const std::string& other);
 /// The name without its folders.
 std::string fileName(const std::string& path);
 /// The name without its folders and without its last dot and what follows that.
@@ -37,12 +34,8 @@ class InputFile {
   std::uint64_t size() const;
 
  private:
-  struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-  };
-
   std::string path_;
-  std::unique_ptr<std::FILE, Closer> file_;
+  FileHandle file_;
 };
 
 /// Files none of which comes into being before all are written: each is written beside its place under a name of no

@@ -133,6 +133,7 @@ void addCheckVerb(CLI::App& app, Action& chosen) {
   CLI::App* verb =
       app.add_subcommand("check", "Check sites once, now: all active ones, those named, or those that are due");
   CLI::Option* ids = verb->add_option("ID", options->ids, "The sites to check, active or not");
+  ids->check(decimalNumber());
   verb->add_flag("--due", options->due, "Only the active sites whose interval has elapsed")->excludes(ids);
   addJsonFlag(*verb, options->json);
   verb->footer(

@@ -2,7 +2,7 @@
 
 #include <array>
 #include <cstdio>
-#include <ostream>
+#include <iostream>
 
 #include "cli/utf8.h"
 
@@ -80,6 +80,15 @@ void Console::complain(std::string_view line) {
   endLive();
   err_ << "tarnwickctl: " << line << '\n';
   err_.flush();
+}
+
+std::string Console::ask(std::string_view question) {
+  endLive();
+  err_ << question << ' ';
+  err_.flush();
+  std::string answer;
+  std::getline(std::cin, answer);
+  return answer;
 }
 
 void Console::live(const std::string& text) {

@@ -31,7 +31,12 @@ class Console {
   /// Takes the live line away.
   void endLive();
 
+  /// Asks on the stream of the complaints, and returns the line that the user types; empty at the end of the input.
+  std::string ask(std::string_view question);
+
   bool isTerminal() const { return facts_.isTerminal; }
+  /// Whether somebody is there to be asked.
+  bool canAsk() const { return facts_.canAsk; }
   bool hasColour() const { return facts_.colour; }
   /// `text` in a colour, where colours are wanted.
   std::string coloured(Colour colour, std::string_view text) const;

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <iostream>
 #include <iterator>
 
@@ -53,8 +54,17 @@ int showBaseline(Tool& tool, const BaselineOptions& options) {
     tool.console().complain("Site " + std::to_string(options.idSite) +
                             " has no baseline yet: the next page that is fetched becomes it.");
   }
-  // Every byte as it is stored, so that it can be piped into a file and set again.
-  tool.console().out() << page;
+  if (tool.console().isTerminal()) {
+    // Nothing of a page may act on the terminal.
+    for (std::string_view rest = page; !rest.empty();) {
+      const std::string_view line = rest.substr(0, rest.find('\n'));
+      tool.console().out() << visibleText(line) << '\n';
+      rest.remove_prefix(std::min(rest.size(), line.size() + 1));
+    }
+  } else {
+    // Every byte as it is stored, so that it can be piped into a file and set again.
+    tool.console().out() << page;
+  }
   tool.console().out().flush();
   return exit_status::ok;
 }

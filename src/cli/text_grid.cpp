@@ -36,6 +36,9 @@ void TextGrid::print(Console& console) const {
   const auto printCell = [&](std::size_t i, const std::string& text, const std::string& shown) {
     const bool last = i + 1 == columns_.size();
     const bool loose = last && columns_[i].align == Align::left;
+    if (loose && text.empty()) {
+      return;  // no blanks at the end of a line
+    }
     out << (i == 0 ? "" : kGap) << (loose ? shown : padded(text, shown, widths[i], columns_[i].align));
   };
   for (std::size_t i = 0; i < columns_.size(); ++i) {

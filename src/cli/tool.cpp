@@ -6,6 +6,7 @@
 
 #include "cli/tool_prompts.h"
 #include "cli/verbs.h"
+#include "platform/program_folder.h"
 
 namespace tarnwick {
 namespace {
@@ -65,8 +66,19 @@ void requireListed(Tool& tool, std::int16_t idSite) {
   }
 }
 
+CLI::Validator decimalNumber() {
+  return CLI::Validator(
+      [](std::string& text) {
+        const std::size_t digits = text.starts_with('-') ? 1 : 0;
+        const bool good = (text.size() == digits + 1 || (text.size() > digits && text[digits] != '0')) &&
+                          text.find_first_not_of("0123456789", digits) == std::string::npos;
+        return good ? std::string() : "\"" + text + "\" is no whole number";
+      },
+      "");
+}
+
 CLI::Option* addSiteId(CLI::App& verb, std::int16_t& idSite) {
-  return verb.add_option("ID", idSite, "The site's id, as the verb sites lists it");
+  return verb.add_option("ID", idSite, "The site's id, as the verb sites lists it")->check(decimalNumber());
 }
 
 CLI::Option* addJsonFlag(CLI::App& verb, bool& json) { return verb.add_flag("--json", json, "Print JSON"); }
@@ -88,7 +100,9 @@ int runTool(const std::vector<std::string>& arguments, const std::string& progra
     app.require_subcommand(1);
     app.fallthrough();
     std::string folder = programFolder;
-    app.add_option("--folder", folder, "The program folder, in which tarnwick.mdb lies (default: the tool's own)")
+    app.add_option("--folder", folder,
+                   "The program folder, in which tarnwick.mdb lies (default: the tool's own, or yours where that one "
+                   "is shared)")
         ->type_name("DIR");
     Action chosen;
     addVerbs(app, chosen);
@@ -103,6 +117,9 @@ int runTool(const std::vector<std::string>& arguments, const std::string& progra
     } catch (const CLI::ParseError& error) {
       complainOfUsage(console, app, error, arguments);
       return exit_status::failed;
+    }
+    if (app.count("--folder") == 0) {
+      folder = programFolderFor(programFolder);
     }
     while (folder.size() > 1 && folder.back() == '/') {
       folder.pop_back();

@@ -55,7 +55,8 @@ std::runtime_error noSuchSite(std::int16_t idSite);
 /// Raises it when there is no such site.
 void requireListed(Tool& tool, std::int16_t idSite);
 
-/// Runs the tool with its arguments (without the program's name). `programFolder` is the folder where none is named.
+/// Runs the tool with its arguments (without the program's name). Where no folder is named it is the one for
+/// an executable in `programFolder` (see `programFolderFor`).
 /// Returns the exit status; nothing is raised.
 int runTool(const std::vector<std::string>& arguments, const std::string& programFolder, const Services& services,
             Console& console);

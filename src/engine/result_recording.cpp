@@ -94,6 +94,8 @@ std::string ResultRecording::getUrl(std::int16_t idSite) {
 }
 
 void ResultRecording::updateStatusCounter(std::int16_t idSite, bool result) {
+  // Another program may be counting too.
+  Transaction whole(db_);
   const std::string column = sqlQuote(result ? "success" : "failure");
   const std::string id = sqlQuote(idSite);
   const auto stored = firstField(db_, joinSql("select ", column, " from sites where idsite = ", id));
@@ -108,6 +110,7 @@ void ResultRecording::updateStatusCounter(std::int16_t idSite, bool result) {
                         "Counters dialog.");
   }
   db_.execute(joinSql("update sites set ", column, " = ", sqlQuote(count + 1), " where idsite = ", id));
+  whole.commit();
 }
 
 }  // namespace tarnwick

@@ -22,6 +22,9 @@ class ResultRecording {
   /// for the network meanwhile, since the database is locked for writing.
   Transaction oneRecord() { return Transaction(db_); }
 
+  /// Raises DataAccessError when no result could be stored just now.
+  void proveRecording() { db_.conn().proveWritable(); }
+
   /// Judges `content`, the page or the text of a failed fetch, stores it as the site's latest page with the time of the
   /// check, and logs the check: the page only when the site is down. True when the site is up. `errCode` and
   /// `errDescription` are logged and take no part in the verdict. All is written, or nothing.

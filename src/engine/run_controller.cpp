@@ -1,5 +1,6 @@
 #include "engine/run_controller.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <utility>
@@ -8,6 +9,7 @@
 #include "engine/due_sites.h"
 #include "engine/result_recording.h"
 #include "engine/test_pass.h"
+#include "platform/errors.h"
 #include "platform/prompts.h"
 
 namespace tarnwick {
@@ -28,15 +30,13 @@ constexpr std::int16_t kAllActiveSites = 1;
 RunController::RunController(const Needs& needs, TimerMaker& timers, Guard guard)
     : needs_(needs),
       guard_(std::move(guard)),
-      tmrCheckSites_(timers.makeTimer([this] {
-        // A tick inside a pass says nothing about whether passes succeed, so it counts as a source of its own.
-        guard_(busy_ ? "countdown" : "run", [this] { tmrCheckSites_Timer(); });
-      })),
+      tmrCheckSites_(timers.makeTimer([this] { guardedTick(); })),
       timer2_(timers.makeTimer([this] { guard_("lamps", [this] { Timer2_Timer(); }); })) {}
 
 void RunController::prepare() {
   tmrCheckSites_->setEnabled(false);
   tmrCheckSites_->setInterval(kCountdownInterval);
+  wallClockWasSet();
   resetClock();
   needs_.view.indicators(RunState::stop);
   timer2_->setInterval(kBlinkInterval);
@@ -53,6 +53,7 @@ void RunController::startChecking() {
   running_ = true;
   // What was left of the countdown at the last Stop says nothing about the sites that are tested now.
   secondsToNext_ = 0;
+  backOff_ = {};
   runTestPass(kAllActiveSites);
 }
 
@@ -68,8 +69,23 @@ void RunController::runTestPass(std::int16_t mode) {
   if (busy_) {
     return;
   }
-  TestPass pass(*this, needs_, busy_);
-  pass.test(mode);
+  try {
+    TestPass pass(*this, needs_, busy_);
+    pass.test(mode);
+    backOff_ = {};
+  } catch (const OverflowError&) {
+    throw;  // one site's fault; the checks themselves have been recorded
+  } catch (...) {
+    backOff_.passFailed();
+    throw;
+  }
+}
+
+void RunController::BackOff::passFailed() {
+  constexpr int kLongestWait = 60;
+  ticksToWait = failedPasses == 0 ? 0 : std::min(kLongestWait, 2 * ticksToWait + 1);
+  ticksLeft = ticksToWait;
+  ++failedPasses;
 }
 
 bool RunController::testOnce(TextTable sites) {
@@ -93,24 +109,72 @@ void RunController::recordResult(std::int16_t idSite, bool result) {
   needs_.view.updateGridRow(idSite, result);
 }
 
+void RunController::guardedTick() {
+  // A countdown that goes well says nothing about whether passes do, so it counts as a source of its own.
+  bool due = false;
+  guard_("countdown", [&] {
+    try {
+      due = countDown();
+    } catch (const OverflowError&) {
+      due = true;  // the fault of one site; the others are tested all the same
+      throw;
+    }
+  });
+  if (due) {
+    guard_("run", [this] { timerPass(); });
+  }
+}
+
 void RunController::tmrCheckSites_Timer() {
+  if (countDown()) {
+    timerPass();
+  }
+}
+
+bool RunController::countDown() {
+  inTimerPass_ = false;
   --secondsToNext_;
-  if (secondsToNext_ < 0) {
+  if (wallClockWasSet() || secondsToNext_ < 0) {
+    // Due at once, should this fail.
+    secondsToNext_ = 0;
     secondsToNext_ = needs_.dueSites.getMinWaitTime().mlc;
   }
-  inTimerPass_ = false;
   if (secondsToNext_ > 0) {
     if (!busy_) {
       needs_.view.showStatus("Time Until Next Check: " + formatSeconds(secondsToNext_));
     }
-  } else if (!busy_ && running_) {
-    const struct TimerPass {
-      explicit TimerPass(bool& flag) : flag_(flag) { flag_ = true; }
-      ~TimerPass() { flag_ = false; }
-      bool& flag_;
-    } timerPass(inTimerPass_);
-    runTestPass(kDueSites);
+    return false;
   }
+  if (busy_ || !running_) {
+    return false;
+  }
+  return backOff_.ticksLeft-- <= 0;
+}
+
+// What is due is a matter of the wall clock: set back or forward, by a person, by daylight saving or after the machine
+// has slept, it makes the seconds counted so far mean nothing.
+bool RunController::wallClockWasSet() {
+  constexpr seconds kTolerance{2};
+  const seconds offset =
+      needs_.clock.localNow().time_since_epoch() - std::chrono::floor<seconds>(needs_.clock.steadyNow());
+  const seconds before = std::exchange(clockOffset_, offset);
+  return std::chrono::abs(offset - before) > kTolerance;
+}
+
+void RunController::timerPass() {
+  if (busy_ || !running_) {
+    return;  // a box was open meanwhile
+  }
+  if (backOff_.failedPasses > 0) {
+    // The pages of a pass that cannot be recorded would be fetched for nothing, every second again.
+    needs_.results.proveRecording();
+  }
+  const struct TimerPass {
+    explicit TimerPass(bool& flag) : flag_(flag) { flag_ = true; }
+    ~TimerPass() { flag_ = false; }
+    bool& flag_;
+  } inPass(inTimerPass_);
+  runTestPass(kDueSites);
 }
 
 void RunController::Timer2_Timer() {

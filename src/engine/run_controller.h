@@ -86,6 +86,21 @@ class RunController {
   static std::string clockText(std::chrono::seconds elapsed);
 
  private:
+  /// How long a run waits after passes that failed. The first is followed by another at the next tick; the longer they
+  /// fail, the rarer they get, so that a fault here does not have every due site fetched each second.
+  struct BackOff {
+    void passFailed();
+
+    int failedPasses = 0;  ///< one after the other
+    int ticksToWait = 0;
+    int ticksLeft = 0;
+  };
+
+  void guardedTick();
+  /// Counts one second down; true when a pass is to begin.
+  bool countDown();
+  void timerPass();
+  bool wallClockWasSet();
   void updateClock();
 
   Needs needs_;
@@ -97,6 +112,9 @@ class RunController {
   bool inTimerPass_ = false;
   std::int32_t secondsToNext_ = 0;
   std::chrono::milliseconds runStart_{0};
+  // The wall clock less the one that only goes forward.
+  std::chrono::seconds clockOffset_{0};
+  BackOff backOff_;
 };
 
 }  // namespace tarnwick

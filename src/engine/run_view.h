@@ -16,11 +16,11 @@ enum class RunState {
 /// How the test of one site came out. The texts last for the call that hands them over.
 struct CheckResult {
   std::int16_t idSite = 0;
-  std::string_view url;
+  std::string_view url{};
   bool passed = false;
-  std::int32_t errCode = 0;         ///< of a failed transfer; 0 when a page came
-  std::string_view errDescription;  ///< the cause of a failed transfer in words; empty when a page came
-  std::string_view page;            ///< the page; of a failed transfer "11:" and the cause
+  std::int32_t errCode = 0;           ///< of a failed transfer; 0 when a page came
+  std::string_view errDescription{};  ///< the cause of a failed transfer in words; empty when a page came
+  std::string_view page{};            ///< the page; of a failed transfer "11:" and the cause
 };
 
 /// What a run shows while it goes on. The main window implements it; so can a terminal, or a test.

@@ -64,6 +64,9 @@ void TestPass::test(TextTable sites) {
   dispatchAll();
   awaitAllSlots();
   drain();
+  if (unusable_ && !stopped()) {
+    std::rethrow_exception(unusable_);
+  }
 }
 
 void TestPass::setUpPool() {
@@ -78,7 +81,7 @@ void TestPass::setUpPool() {
 void TestPass::dispatchAll() {
   while (next_ <= count() && !stopped()) {
     needs_.pump.pump();
-    judgeRowsWithoutAddress();
+    settleRowsWithoutRequest();
     const std::vector<std::int16_t> freeSlots = needs_.pool.getAryFreeSockets();
     if (freeSlots.empty() && next_ <= count() && !stopped()) {
       needs_.pump.waitForEvent();
@@ -94,7 +97,7 @@ void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
       return;
     }
     judge(slot);
-    judgeRowsWithoutAddress();
+    settleRowsWithoutRequest();
     if (stopped() || next_ > count()) {
       return;
     }
@@ -103,13 +106,29 @@ void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
   }
 }
 
-// A row without an address needs no slot: it fails on the spot, as a failed request of its own site.
-void TestPass::judgeRowsWithoutAddress() {
-  while (!stopped() && next_ <= count() && url(next_).empty()) {
-    needs_.view.showStatus("Testing: ");
-    record(next_, std::string("11:") + kNoAddress, static_cast<std::int32_t>(TransferFault::badUrl), kNoAddress);
+// A row without an address needs no slot: it fails on the spot, as a failed request of its own site. One whose id the
+// program cannot use is left out, and told when the others have been tested.
+void TestPass::settleRowsWithoutRequest() {
+  while (!stopped() && next_ <= count()) {
+    if (hasUsableId(next_)) {
+      if (!url(next_).empty()) {
+        return;
+      }
+      needs_.view.showStatus("Testing: ");
+      record(next_, std::string("11:") + kNoAddress, static_cast<std::int32_t>(TransferFault::badUrl), kNoAddress);
+    }
     nextRow();
     needs_.pump.pump();
+  }
+}
+
+bool TestPass::hasUsableId(std::size_t row) {
+  try {
+    idSite(row);
+    return true;
+  } catch (const OverflowError&) {
+    unusable_ = unusable_ ? unusable_ : std::current_exception();
+    return false;
   }
 }
 
@@ -170,7 +189,9 @@ void TestPass::record(std::size_t row, const std::string& content, std::int32_t 
     }
     whole.commit();
   } else {
-    // The alerts of a failure wait for the network, so they cannot be part of the transaction.
+    // The alerts of a failure wait for the network, so they cannot be part of the transaction. The site is down from
+    // here on, whatever becomes of them.
+    needs_.results.setStatus(id, false);
     whole.commit();
     run_.recordResult(id, false);
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,8 @@ class TestPass {
   TestPass(const TestPass&) = delete;
   TestPass& operator=(const TestPass&) = delete;
 
-  /// Tests the sites of `mode`, or those of a site table; returns early when the run is stopped.
+  /// Tests the sites of `mode`, or those of a site table; returns early when the run is stopped. Raises OverflowError,
+  /// after all others have been tested, when a site's id does not fit 16 bits.
   void test(std::int16_t mode);
   void test(TextTable sites);
 
@@ -31,7 +33,8 @@ class TestPass {
   void setUpPool();
   void dispatchAll();
   void offerSlots(const std::vector<std::int16_t>& freeSlots);
-  void judgeRowsWithoutAddress();
+  void settleRowsWithoutRequest();
+  bool hasUsableId(std::size_t row);
   void sendRequest(std::int16_t slot);
   void awaitAllSlots();
   void drain();
@@ -51,6 +54,8 @@ class TestPass {
   TextTable sites_;
   std::vector<std::string> urls_;
   std::vector<std::int16_t> brightened_;
+  // What is wrong with the first id that cannot be used.
+  std::exception_ptr unusable_;
   std::size_t next_ = 1;
   std::int64_t progressStep_ = 0;
   std::int64_t progressWidth_ = -1;

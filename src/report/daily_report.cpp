@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <filesystem>
-#include <system_error>
 
 #include "platform/errors.h"
+#include "platform/file_access.h"
 #include "platform/long_date.h"
 #include "report/html_tables.h"
 #include "store/sql_quote.h"
@@ -14,13 +13,9 @@
 namespace tarnwick {
 namespace {
 
-namespace fs = std::filesystem;
-
 // A bar is a little wider than its count, so that a single check can be seen, and never wider than its column.
 constexpr std::int64_t kWidthBesideCount = 5;
 constexpr std::int16_t kGreatestWidth = 100;
-
-fs::path pathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
 
 /// The cells of the table of addresses: each row's status is shown as a bar as long as the row's total.
 class BarCells {
@@ -42,36 +37,13 @@ class BarCells {
   std::int16_t width_ = 0;
 };
 
-/// A plain file that a listing shows.
-bool isVisibleFile(const fs::directory_entry& entry) {
-  std::error_code fault;
-  return entry.is_regular_file(fault) && !entry.path().filename().native().starts_with(fs::path::value_type('.'));
-}
-
-bool holdsVisibleFile(const fs::path& folder) {
-  std::error_code fault;
-  fs::directory_iterator entry(folder, fault);
-  for (; !fault && entry != fs::directory_iterator(); entry.increment(fault)) {
-    if (isVisibleFile(*entry)) {
-      return true;
-    }
-  }
-  return false;
-}
-
 /// Makes the folder unless a file shows that it is there. An empty one cannot be told from a missing one that way,
 /// and making it again fails: a reports folder without its bar images is not in order.
 void requireReportsFolder(const std::string& folder) {
-  if (holdsVisibleFile(pathOf(folder))) {
-    return;
+  if (!holdsVisibleFile(folder) && !makeFolder(folder)) {
+    throw FileError(folder,
+                    "The reports folder is there but holds no file. Put green.jpg and red.jpg into it, or remove it.");
   }
-  std::error_code fault;
-  if (fs::create_directory(pathOf(folder), fault)) {
-    return;
-  }
-  throw FileError(folder, fault ? "The reports folder cannot be made: " + fault.message()
-                                : "The reports folder is there but holds no file. Put green.jpg and red.jpg into it, "
-                                  "or remove it.");
 }
 
 }  // namespace

@@ -1,13 +1,14 @@
 #include "store/database.h"
 
-#include <filesystem>
 #include <utility>
+
+#include "platform/file_access.h"
 
 namespace tarnwick {
 
 Database::Database(const std::string& programFolder, SqlConnectionMaker& databases)
     : conn_(databases.makeSqlConnection()),
-      dbPath_((std::filesystem::path(programFolder) / "tarnwick.mdb").string()),
+      dbPath_(textOf(pathOf(programFolder) / "tarnwick.mdb")),
       programFolder_(programFolder) {
   connString_ =
       "Provider=Microsoft.Jet.OLEDB.4.0;"
@@ -52,5 +53,8 @@ void Transaction::commit() {
     owner_ = false;
   }
 }
+
+// A connection sees one state of the database for as long as one of its recordsets stands on a row.
+Snapshot::Snapshot(Database& database) : held_(database.query("select id from control")) {}
 
 }  // namespace tarnwick

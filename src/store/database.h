@@ -62,4 +62,13 @@ class Transaction {
   bool owner_;
 };
 
+/// Lets everything that is read during its life show the database as it was at the beginning, while others write.
+class Snapshot {
+ public:
+  explicit Snapshot(Database& database);
+
+ private:
+  std::unique_ptr<Recordset> held_;
+};
+
 }  // namespace tarnwick

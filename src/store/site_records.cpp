@@ -34,9 +34,12 @@ bool mayStandInAddress(char c) {
 }  // namespace
 
 std::int16_t SiteRecords::addSite() {
+  // Another program may be adding one too.
+  Transaction whole(db_);
   const SqlValue mid = firstField(db_, "select max(idSite)+1 as mid from sites").value_or(SqlValue());
   const std::int16_t idSite = mid.isNull() ? std::int16_t{1} : newSiteId(mid);
   addSite(idSite);
+  whole.commit();
   return idSite;
 }
 

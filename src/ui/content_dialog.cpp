@@ -18,8 +18,11 @@ constexpr QPoint kBesideCorner{30, 30};
 constexpr QSize kDefaultSize{760, 480};
 
 std::string foreignMessage(const QString& character) {
-  return "This page is stored in the Windows-1252 character set, which has no \"" + character.toStdString() +
-         "\". Delete the character that is selected now or type another one, then press OK again.";
+  return QObject::tr(
+             "This page is stored in the Windows-1252 character set, which has no \"%1\". Delete the "
+             "character that is selected now or type another one, then press OK again.")
+      .arg(character)
+      .toStdString();
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <QPointer>
 
 #include "ui/dialog_parts.h"
+#include "ui/display_text.h"
 #include "ui/page_opener.h"
 #include "ui/placement.h"
 
@@ -23,10 +24,6 @@ constexpr const char* kAskClearLogs = "Are You Sure You Want To Delete All Logs?
 constexpr const char* kAskCompact =
     "Compacting the database may take several minutes and disable this application during that time. Are You Sure You "
     "Want To Compact This DataBase?";
-
-constexpr const char* kSelectTimeout =
-    "No TCP Timeout is selected. Select one in the list, then press OK again; nothing was stored yet.\n\nThe database "
-    "says: ";
 
 /// Brings a window with all its controls on the screen at once; its own repaint would spare those that cover it.
 void showAnew(QWidget& window) {
@@ -154,7 +151,10 @@ void ControlDialog::store() {
   } catch (const SettingRefused& refused) {
     controlOf(refused.key())->setFocus();
     if (refused.key() == kTimeoutKey && controls_.lbInterval->selectedItems().isEmpty()) {
-      throw std::runtime_error(kSelectTimeout + refused.cause());
+      const QString remedy =
+          tr("No TCP Timeout is selected. Select one in the list, then press OK again; nothing was stored yet.\n\nThe "
+             "database says: %1");
+      throw std::runtime_error(remedy.arg(displayText(refused.cause())).toStdString());
     }
     throw;
   }

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QDir>
 #include <QIcon>
 #include <QScreen>
 #include <QShortcut>
@@ -50,7 +51,21 @@ bool Master::load() {
 void Master::Form_Load() {
   showStatus("Loading ...");
   fullInit();
-  controls_.copyright->setText(tr("Tarnwick web-site monitor. Copyright © the Tarnwick developers."));
+  tellNotice();
+}
+
+void Master::tellNotice() {
+  const QString folder = QDir::toNativeSeparators(QString::fromStdString(program_.programFolder()));
+  QString notice = tr("Tarnwick web-site monitor. Copyright © the Tarnwick developers.");
+  if (program_.programFolder() != QCoreApplication::applicationDirPath().toStdString()) {
+    notice += QLatin1Char(' ') + tr("Your data: %1").arg(folder);
+  }
+  controls_.copyright->setText(notice);
+  const QString about = tr("%1 %2 keeps your sites and settings in the folder %3")
+                            .arg(QString::fromLatin1(kProductName), QStringLiteral(TARNWICK_VERSION), folder);
+  for (QLabel* label : {controls_.copyright, controls_.lblVersion}) {
+    label->setToolTip(plainToolTip(about));
+  }
 }
 
 void Master::fullInit() {

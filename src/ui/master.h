@@ -59,6 +59,8 @@ class Master final : public QMainWindow, public RunView {
  private:
   void Form_Load();
   void fullInit();
+  /// The product's notice, which names the folder of the data where that is not the program's own.
+  void tellNotice();
   void loadPictures();
   void setupGridHeader();
   void connectControls();

@@ -1,11 +1,13 @@
 #include "ui/page_opener.h"
 
+#include <QObject>
+
 namespace tarnwick {
 
 void openPage(const Services& services, const std::string& target) {
   if (!services.opener.open(target)) {
-    services.prompts.inform("This desktop could not open the page. You find it at:\n\n" + target, kProductName,
-                            PromptIcon::information);
+    const QString text = QObject::tr("This desktop could not open the page. You find it at:");
+    services.prompts.inform(text.toStdString() + "\n\n" + target, kProductName, PromptIcon::information);
   }
 }
 

@@ -151,9 +151,8 @@ bool SiteEditor::mayLeave() {
     return true;
   }
   // Escape answers No, and must not lose what was typed.
-  return program_.services().prompts.confirm("Do You Want To Discard The Changes To Site " + std::to_string(idSite_) +
-                                             "?") &&
-         !program_.services().pump.closing();
+  const QString question = tr("Do You Want To Discard The Changes To Site %1?").arg(idSite_);
+  return program_.services().prompts.confirm(question.toStdString()) && !program_.services().pump.closing();
 }
 
 void SiteEditor::Command1_Click() {
@@ -213,8 +212,8 @@ void SiteEditor::grid1_Click(int row) {
   if (idPostVars == 0) {
     // A Null, or a change by another program: an update would reach no variable and be lost.
     throw std::runtime_error(
-        "This variable is not stored as it is shown. Press Apply to store the list, then click "
-        "the variable again.");
+        tr("This variable is not stored as it is shown. Press Apply to store the list, then click the variable again.")
+            .toStdString());
   }
   auto* editor = new NewPostVar(program_, idPostVars, var, this);
   editor->populateMe();
