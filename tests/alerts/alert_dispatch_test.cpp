@@ -8,7 +8,7 @@
 #include <fstream>
 
 #include "platform/errors.h"
-#include "platform/qt_program_starter.h"
+#include "platform/detached_programs.h"
 #include "store/site_records.h"
 #include "support/program_folder.h"
 #include "support/real_mail_server.h"
@@ -74,7 +74,7 @@ class Alerts : public ::testing::Test {
 
   ProgramFolder folder;
   TestServices machine{TestServices::Time::clockByHand};
-  QtProgramStarter programs;
+  DetachedPrograms programs;
   SmtpServer server;
   Database database{folder.path(), machine.databases};
   SettingsAndLog settings{database};

@@ -1,9 +1,7 @@
 #include "platform/local_files.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -102,38 +100,6 @@ TEST_F(LocalFilesTest, FolderIsNotRemovedAsAFile) {
   fs::create_directory(at("b"));
   EXPECT_THROW(files.remove(at("b")), FileError);
   EXPECT_TRUE(fs::exists(at("b")));
-}
-
-/// Makes files of this process end at `size` bytes, for this object's life.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{size, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
- private:
-  void (*handler_)(int);
-  rlimit before_{};
-};
-
-TEST_F(LocalFilesTest, FileThatFindsNoRoomIsAnErrorThatNamesItAndLeavesNothing) {
-  make("from", std::string(1 << 20, 'x'));
-  const FileSizeLimit limit(100000);
-  try {
-    files.copy(at("from"), at("to"));
-    FAIL() << "No error was raised.";
-  } catch (const FileError& error) {
-    EXPECT_EQ(error.path(), at("to"));
-  }
-  EXPECT_FALSE(fs::exists(at("to")));
 }
 
 }  // namespace

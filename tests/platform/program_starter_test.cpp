@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "platform/qt_program_starter.h"
+#include "platform/detached_programs.h"
 #include "support/wait_until.h"
 
 namespace tarnwick {
@@ -36,7 +36,7 @@ class ProgramStart : public ::testing::Test {
   }
 
   QTemporaryDir folder;
-  QtProgramStarter starter;
+  DetachedPrograms starter;
 };
 
 constexpr const char* kWriteArguments = R"sh(#!/bin/sh

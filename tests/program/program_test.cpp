@@ -140,6 +140,24 @@ TEST_F(ProgramTest, TheDatabaseCanBeCompactedBetweenTwoPassesOfARun) {
   EXPECT_EQ(column(id, "success"), "2");
 }
 
+TEST_F(ProgramTest, ASecondRunOnTheSameFolderIsRefusedWithOneBoxUntilTheFirstIsStopped) {
+  addPage("/a", "hello");
+  ASSERT_TRUE(program.startRun());
+  TestServices other;
+  RecordingView otherView;
+  Program second(folder.path(), other.services(), otherView);
+  second.start();
+  EXPECT_FALSE(second.startRun());
+  EXPECT_FALSE(second.run().running());
+  ASSERT_THAT(other.prompts.texts(), SizeIs(1));
+  EXPECT_THAT(other.prompts.texts().front(), ::testing::HasSubstr("A run is on in this folder already"));
+  EXPECT_EQ(column(1, "success"), "1");
+  program.stopRun();
+  EXPECT_TRUE(second.startRun());
+  EXPECT_EQ(column(1, "success"), "2");
+  second.close();
+}
+
 TEST(ClosedProgramTest, LeavesTheDatabaseAloneInItsFolder) {
   ProgramFolder folder;
   HttpServer server;

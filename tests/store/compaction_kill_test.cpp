@@ -1,79 +1,22 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <array>
 #include <chrono>
-#include <filesystem>
 #include <random>
 #include <string>
 #include <thread>
 
 #include "store/compaction_fixture.h"
+#include "support/child_process.h"
 
 namespace tarnwick::testing {
 namespace {
 
-namespace fs = std::filesystem;
 using ::testing::HasSubstr;
 
-/// The helper program, started in `mode` on a program folder; killed at the end of this object's life at the latest.
-class Helper {
- public:
-  Helper(const char* mode, const std::string& folder) {
-    std::array<int, 2> input{};
-    std::array<int, 2> output{};
-    if (pipe(input.data()) != 0 || pipe(output.data()) != 0) {
-      throw std::runtime_error("no pipe");
-    }
-    child_ = fork();
-    if (child_ == 0) {
-      dup2(input[0], STDIN_FILENO);
-      dup2(output[1], STDOUT_FILENO);
-      for (const int end : {input[0], input[1], output[0], output[1]}) {
-        close(end);
-      }
-      execl(TARNWICK_COMPACTION_HELPER, "compaction_helper", mode, folder.c_str(), static_cast<char*>(nullptr));
-      _exit(127);
-    }
-    close(input[0]);
-    close(output[1]);
-    input_ = input[1];
-    output_ = output[0];
-  }
-  ~Helper() {
-    kill();
-    close(input_);
-    close(output_);
-  }
-  Helper(const Helper&) = delete;
-  Helper& operator=(const Helper&) = delete;
-
-  /// Waits for a line; false when the helper has ended without one.
-  bool waitForLine() {
-    char byte = 0;
-    while (read(output_, &byte, 1) == 1) {
-      if (byte == '\n') {
-        return true;
-      }
-    }
-    return false;
-  }
-
-  void kill() {
-    if (child_ > 0) {
-      ::kill(child_, SIGKILL);
-      waitpid(child_, nullptr, 0);
-      child_ = 0;
-    }
-  }
-
- private:
-  pid_t child_ = 0;
-  int input_ = -1;
-  int output_ = -1;
+/// The helper program, started in `mode` on a program folder.
+struct Helper : ChildProcess {
+  Helper(const char* mode, const std::string& folder) : ChildProcess(TARNWICK_COMPACTION_HELPER, {mode, folder}) {}
 };
 
 class CompactionKillTest : public CompactionFixture {};

@@ -9,8 +9,9 @@ namespace {
 
 constexpr int kPatienceMs = 30000;
 constexpr const char* kOwnNames = "IP:127.0.0.1,DNS:localhost";
-// The first is what `openssl ca` wants for a start and an end that lie in the past.
+// What `openssl ca` wants for a start and an end that lie in the past, and in the future.
 constexpr const char* kPast = "-startdate 20200101000000Z -enddate 20200201000000Z";
+constexpr const char* kFuture = "-startdate 20900101000000Z -enddate 20910101000000Z";
 constexpr const char* kPresent = "-days 2";
 
 constexpr const char* kSigningConfiguration =
@@ -35,12 +36,10 @@ TestCertificates::TestCertificates() : folder_(std::make_unique<Folder>()) {
   writeFile(dir.filePath(QStringLiteral("ca.cnf")), kSigningConfiguration);
   writeFile(dir.filePath(QStringLiteral("index.txt")), {});
   writeFile(dir.filePath(QStringLiteral("serial.txt")), "01\n");
-  const std::string request = "req -x509 -newkey rsa:2048 -nodes -sha256 -days 2 ";
-  static_cast<void>(
-      run(request + "-subj /CN=Test-Authority -keyout authority.key -out authority.crt") &&
-      run(request + "-subj /CN=localhost -addext subjectAltName=" + kOwnNames + " -keyout self.key -out self.crt") &&
-      sign("good", kOwnNames, kPresent) && sign("other", "DNS:other.example", kPresent) &&
-      sign("expired", kOwnNames, kPast));
+  static_cast<void>(makeSelfSigned("authority", "-subj /CN=Test-Authority") &&
+                    makeSelfSigned("self", std::string("-subj /CN=localhost -addext subjectAltName=") + kOwnNames) &&
+                    sign("good", kOwnNames, kPresent) && sign("other", "DNS:other.example", kPresent) &&
+                    sign("expired", kOwnNames, kPast));
 }
 
 TestCertificates::~TestCertificates() = default;
@@ -58,13 +57,19 @@ bool TestCertificates::run(const std::string& arguments) {
   return problem_.empty();
 }
 
-bool TestCertificates::sign(const std::string& name, const std::string& subjectNames, const std::string& period) {
+bool TestCertificates::makeSelfSigned(const std::string& name, const std::string& arguments) {
+  return run("req -x509 -newkey rsa:2048 -nodes -sha256 -days 2 " + arguments + " -keyout " + name + ".key -out " +
+             name + ".crt");
+}
+
+bool TestCertificates::sign(const std::string& name, const std::string& subjectNames, const std::string& period,
+                            const std::string& authority) {
   writeFile(folder_->dir.filePath(QString::fromStdString(name + ".ext")),
             QByteArray::fromStdString("subjectAltName=" + subjectNames + "\n"));
   return run("req -newkey rsa:2048 -nodes -sha256 -subj /CN=" + name + " -keyout " + name + ".key -out " + name +
              ".csr") &&
-         run("ca -batch -notext -config ca.cnf -cert authority.crt -keyfile authority.key -extfile " + name +
-             ".ext -in " + name + ".csr -out " + name + ".crt " + period);
+         run("ca -batch -notext -config ca.cnf -cert " + authority + ".crt -keyfile " + authority + ".key -extfile " +
+             name + ".ext -in " + name + ".csr -out " + name + ".crt " + period);
 }
 
 TlsIdentity TestCertificates::identity(const std::string& name) const {
@@ -77,5 +82,19 @@ TlsIdentity TestCertificates::good() const { return identity("good"); }
 TlsIdentity TestCertificates::wrongHost() const { return identity("other"); }
 TlsIdentity TestCertificates::expired() const { return identity("expired"); }
 TlsIdentity TestCertificates::selfSigned() const { return identity("self"); }
+
+TlsIdentity TestCertificates::notYetValid() {
+  if (problem_.empty()) {
+    sign("future", kOwnNames, kFuture);
+  }
+  return identity("future");
+}
+
+TlsIdentity TestCertificates::ofAStranger() {
+  if (problem_.empty() && makeSelfSigned("stranger", "-subj /CN=Strange-Authority")) {
+    sign("strange", kOwnNames, kPresent, "stranger");
+  }
+  return identity("strange");
+}
 
 }  // namespace tarnwick::testing

@@ -26,12 +26,18 @@ class TestCertificates {
   TlsIdentity wrongHost() const;
   TlsIdentity expired() const;
   TlsIdentity selfSigned() const;
+  /// The two below are made when they are asked for.
+  TlsIdentity notYetValid();
+  /// Signed by an authority that nobody was told of.
+  TlsIdentity ofAStranger();
 
  private:
   struct Folder;
 
   bool run(const std::string& arguments);
-  bool sign(const std::string& name, const std::string& subjectNames, const std::string& period);
+  bool makeSelfSigned(const std::string& name, const std::string& arguments);
+  bool sign(const std::string& name, const std::string& subjectNames, const std::string& period,
+            const std::string& authority = "authority");
   TlsIdentity identity(const std::string& name) const;
 
   std::unique_ptr<Folder> folder_;

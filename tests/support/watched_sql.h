@@ -72,6 +72,10 @@ class WatchedConnections final : public SqlConnectionMaker {
       real_->rollback();
     }
     bool inTransaction() const override { return real_->inTransaction(); }
+    void proveWritable() override {
+      note("prove writable");
+      real_->proveWritable();
+    }
 
    private:
     static constexpr std::size_t kLongestKept = 2000;

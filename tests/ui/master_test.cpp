@@ -31,6 +31,13 @@ TEST_F(MasterTest, TheVersionIsMajorAndMinor) {
   EXPECT_TRUE(form.match(find<QLabel>("lblVersion").text()).hasMatch());
 }
 
+TEST_F(MasterTest, AFolderThatIsNotTheProgramsOwnIsNamedAtTheFoot) {
+  open();
+  EXPECT_TRUE(find<QLabel>("copyright").text().contains(QString::fromStdString(folder.path())));
+  EXPECT_TRUE(find<QLabel>("lblVersion").toolTip().contains(QString::fromStdString(folder.path())));
+  EXPECT_EQ(master->windowTitle(), QStringLiteral("Tarnwick"));
+}
+
 TEST_F(MasterTest, TheBarIsFullAtStart) {
   open();
   EXPECT_DOUBLE_EQ(find<PassBar>("pb1").part(), 1.0);

@@ -1,0 +1,239 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "faults/faults_fixture.h"
+
+namespace tarnwick::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using std::chrono::seconds;
+using ::testing::HasSubstr;
+
+/// Lets no file of this process grow beyond `bytes`.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) {
+    signalBefore_ = signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before_);
+    rlimit lower = before_;
+    lower.rlim_cur = bytes;
+    setrlimit(RLIMIT_FSIZE, &lower);
+  }
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    signal(SIGXFSZ, signalBefore_);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+ private:
+  rlimit before_{};
+  void (*signalBefore_)(int) = SIG_DFL;
+};
+
+TEST(RealFaults, FilesThatMayNotGrowAreToldOnceAndTheRunGoesOn) {
+  const UsedFolder used;
+  std::unique_ptr<FileSizeLimit> limit;
+  expectThatARunOutlives(
+      used, [&](RunningProgram&) { limit = std::make_unique<FileSizeLimit>(20000); }, 5,
+      [&](RunningProgram& running) {
+        limit.reset();
+        EXPECT_EQ(running.boxes(), 1u);
+        EXPECT_THAT(running.boxTexts(), HasSubstr("free space"));
+      });
+}
+
+/// A small disk of its own, on which the temporary folders of the tests lie meanwhile.
+class SmallDisk {
+ public:
+  SmallDisk() {
+    std::string path = (fs::temp_directory_path() / "tarnwick-small-disk-XXXXXX").string();
+    if (mkdtemp(path.data()) == nullptr) {
+      return;
+    }
+    path_ = path;
+    mounted_ = mount("tmpfs", path.c_str(), "tmpfs", 0, "size=2m") == 0;
+    if (mounted_) {
+      const char* const folder = std::getenv("TMPDIR");
+      before_ = folder == nullptr ? std::nullopt : std::optional<std::string>(folder);
+      setenv("TMPDIR", path.c_str(), 1);
+    }
+  }
+  ~SmallDisk() {
+    if (mounted_) {
+      before_ ? setenv("TMPDIR", before_->c_str(), 1) : unsetenv("TMPDIR");
+      umount2(path_.c_str(), MNT_DETACH);
+    }
+    std::error_code ignored;
+    fs::remove(path_, ignored);
+  }
+  SmallDisk(const SmallDisk&) = delete;
+  SmallDisk& operator=(const SmallDisk&) = delete;
+
+  bool mounted() const { return mounted_; }
+  void fillUp() const {
+    std::ofstream ballast(path_ + "/ballast", std::ios::binary);
+    while (ballast.put('x')) {
+    }
+  }
+  void makeRoom() const { fs::remove(path_ + "/ballast"); }
+
+ private:
+  std::string path_;
+  bool mounted_ = false;
+  std::optional<std::string> before_;
+};
+
+TEST(RealFaults, AFullDiskIsToldOnceAndTheRunGoesOn) {
+  const SmallDisk disk;
+  if (!disk.mounted()) {
+    GTEST_SKIP() << "only a user who may mount a file system can have a small disk";
+  }
+  const UsedFolder used;
+  expectThatARunOutlives(
+      used,
+      [&](RunningProgram& running) {
+        // The right to run is taken before the disk is full, so that it is the results which find no room.
+        running.program.startRun();
+        used.folder.execute(
+            "delete from log where dateStamp >= '2024-05-17';"
+            "update sites set lastChecked = '2024-05-17 11:00:00', status = 1, success = 7, failure = 0");
+        disk.fillUp();
+      },
+      5,
+      [&](RunningProgram& running) {
+        disk.makeRoom();
+        EXPECT_EQ(running.boxes(), 1u);
+        EXPECT_THAT(running.boxTexts(), HasSubstr("The disk is full"));
+      });
+}
+
+/// Gives up the rights of the superuser, whom no file mode stops.
+class WithoutSuperuser {
+ public:
+  WithoutSuperuser() : was_(geteuid()) { given_ = was_ != 0 || seteuid(kNobody) == 0; }
+  ~WithoutSuperuser() { given_ = seteuid(was_) == 0; }
+  WithoutSuperuser(const WithoutSuperuser&) = delete;
+  WithoutSuperuser& operator=(const WithoutSuperuser&) = delete;
+  bool given() const { return given_; }
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+  uid_t was_;
+  bool given_ = true;
+};
+
+class ReadOnly : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    if (!user.given()) {
+      GTEST_SKIP() << "the superuser's rights cannot be given up here, and no file mode stops him";
+    }
+    used = std::make_unique<UsedFolder>();
+  }
+  void allow(const std::string& path, bool writing) const {
+    fs::permissions(path, fs::perms::owner_write, writing ? fs::perm_options::add : fs::perm_options::remove);
+  }
+
+  WithoutSuperuser user;
+  std::unique_ptr<UsedFolder> used;
+};
+
+TEST_F(ReadOnly, AFileIsToldOnceAndTheRunGoesOnWhenItMayBeChanged) {
+  allow(used->folder.databasePath(), false);
+  expectThatARunOutlives(
+      *used, [](RunningProgram&) {}, 5,
+      [&](RunningProgram& running) {
+        allow(used->folder.databasePath(), true);
+        EXPECT_EQ(running.boxes(), 1u);
+        EXPECT_THAT(running.boxTexts(), HasSubstr("read-only"));
+      });
+}
+
+TEST_F(ReadOnly, AFolderIsToldByTheStartAndNoSiteIsFetched) {
+  allow(used->folder.path(), false);
+  {
+    RunningProgram running(*used);
+    EXPECT_FALSE(running.program.startRun());
+    EXPECT_EQ(running.boxes(), 1u) << running.boxTexts();
+    EXPECT_THAT(running.boxTexts(), HasSubstr(used->folder.path()));
+    running.letPass(seconds(5));
+    EXPECT_EQ(running.boxes(), 1u) << running.boxTexts();
+    EXPECT_TRUE(used->server.requests().empty());
+    allow(used->folder.path(), true);
+    EXPECT_TRUE(running.program.startRun()) << running.boxTexts();
+    used->expectAllRecordedOnce(running.boxTexts());
+  }
+  EXPECT_EQ(used->integrity(), "ok");
+}
+
+/// Another process that holds the database's write lock until it is killed.
+class LockingProcess {
+ public:
+  explicit LockingProcess(const UsedFolder& used) {
+    std::array<int, 2> ends{};
+    if (pipe(ends.data()) != 0) {
+      return;
+    }
+    child_ = fork();
+    if (child_ == 0) {
+      const SystemClock clock;
+      SqliteConnections databases(clock);
+      Database database(used.folder.path(), databases);
+      const Transaction lock(database);
+      if (write(ends[1], "x", 1) == 1) {
+        pause();
+      }
+      _exit(1);
+    }
+    char byte = 0;
+    locked_ = read(ends[0], &byte, 1) == 1;
+    close(ends[0]);
+    close(ends[1]);
+  }
+  ~LockingProcess() {
+    kill(child_, SIGKILL);
+    waitpid(child_, nullptr, 0);
+  }
+  LockingProcess(const LockingProcess&) = delete;
+  LockingProcess& operator=(const LockingProcess&) = delete;
+  bool locked() const { return locked_; }
+
+ private:
+  pid_t child_ = 0;
+  bool locked_ = false;
+};
+
+TEST(RealFaults, ALockOfAnotherProcessIsToldOnceAndTheRunGoesOn) {
+  const UsedFolder used;
+  std::unique_ptr<LockingProcess> other;
+  expectThatARunOutlives(
+      used,
+      [&](RunningProgram&) {
+        other = std::make_unique<LockingProcess>(used);
+        ASSERT_TRUE(other->locked());
+      },
+      2,
+      [&](RunningProgram& running) {
+        other.reset();
+        EXPECT_EQ(running.boxes(), 1u);
+        EXPECT_THAT(running.boxTexts(), HasSubstr("in use by another program"));
+      });
+}
+
+}  // namespace
+}  // namespace tarnwick::testing

@@ -1,0 +1,72 @@
+#include "platform/run_lock.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <QCoreApplication>
+
+#include <filesystem>
+#include <fstream>
+
+#include "support/program_folder.h"
+
+namespace tarnwick::testing {
+namespace {
+
+using ::testing::HasSubstr;
+
+struct RunLockTest : ::testing::Test {
+  ProgramFolder folder;
+  RunLock first{folder.path()};
+  RunLock second{folder.path()};
+
+  std::string refusalOfSecond() {
+    try {
+      second.take();
+    } catch (const std::runtime_error& refusal) {
+      return refusal.what();
+    }
+    return "taken";
+  }
+};
+
+TEST_F(RunLockTest, KeepsASecondRunOutAndNamesTheProcessAndTheFolder) {
+  first.take();
+  const std::string refusal = refusalOfSecond();
+  EXPECT_THAT(refusal, HasSubstr(std::to_string(QCoreApplication::applicationPid())));
+  EXPECT_THAT(refusal, HasSubstr(folder.path()));
+}
+
+TEST_F(RunLockTest, IsFreeAgainAfterItsRelease) {
+  first.take();
+  first.release();
+  EXPECT_EQ(refusalOfSecond(), "taken");
+}
+
+TEST_F(RunLockTest, MayBeTakenTwiceByTheSame) {
+  first.take();
+  first.take();
+  first.release();
+  EXPECT_EQ(refusalOfSecond(), "taken");
+}
+
+TEST_F(RunLockTest, LeavesNothingInTheFolder) {
+  first.take();
+  EXPECT_TRUE(std::filesystem::exists(folder.file("tarnwick.lock")));
+  first.release();
+  EXPECT_FALSE(std::filesystem::exists(folder.file("tarnwick.lock")));
+}
+
+TEST_F(RunLockTest, DoesNotCountWhatAProcessThatIsGoneLeft) {
+  // The form in which the lock keeps its holder: process, program, host.
+  std::ofstream(folder.file("tarnwick.lock")) << "99999999\ntarnwick\n"
+                                              << QSysInfo::machineHostName().toStdString() << "\n";
+  EXPECT_EQ(refusalOfSecond(), "taken");
+}
+
+TEST_F(RunLockTest, SaysThatAFolderIsMissing) {
+  RunLock nowhere(folder.file("nowhere"));
+  EXPECT_THROW(nowhere.take(), std::runtime_error);
+}
+
+}  // namespace
+}  // namespace tarnwick::testing

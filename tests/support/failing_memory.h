@@ -1,0 +1,16 @@
+#pragma once
+
+namespace tarnwick::testing {
+
+/// Memory that is refused. Only a test program that lists failing_memory.cpp among its sources has it.
+///
+/// Refuses the `n`-th allocation from now on (1 is the next) of the given kind, once; nothing with 0.
+enum class Allocator {
+  program,  ///< operator new
+  database  ///< SQLite's own
+};
+void refuseAllocation(Allocator allocator, int n);
+/// Whether the refusal has happened; ends it if not.
+bool allocationWasRefused();
+
+}  // namespace tarnwick::testing
