@@ -1,25 +1,51 @@
-# Lays the files of ASSETS into the program folder FOLDER. What the user may change (the database, the mail template, the
-# report) is laid there only when it is missing; the rest is brought up to date. Needs the sqlite3 tool SQLITE3.
-file(MAKE_DIRECTORY "${FOLDER}/images" "${FOLDER}/reports")
+# Lays the files of ASSETS into the program folder FOLDER, and the translations that lie in TRANSLATIONS where that is
+# given. What the user may change (the database, the mail template, the report) is laid there only when it is missing; the
+# rest is brought up to date. Needs the sqlite3 tool SQLITE3.
+file(MAKE_DIRECTORY "${FOLDER}/images" "${FOLDER}/reports" "${FOLDER}/fresh")
+set(readable PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+
+# The pristine database, from which a folder for another user can be made. Made under another name first: a failure
+# leaves no half-made database behind.
+set(fresh "${FOLDER}/fresh/tarnwick.mdb")
+file(REMOVE "${fresh}.new")
+execute_process(
+  COMMAND "${SQLITE3}" -batch -bail "${fresh}.new"
+  INPUT_FILE "${ASSETS}/schema.sql"
+  OUTPUT_QUIET
+  COMMAND_ERROR_IS_FATAL ANY)
+file(CHMOD "${fresh}.new" ${readable})
+file(RENAME "${fresh}.new" "${fresh}")
 
 if(NOT EXISTS "${FOLDER}/tarnwick.mdb")
-  # Made under another name first: a failure leaves no half-made database behind.
-  set(fresh "${FOLDER}/tarnwick.mdb.new")
-  file(REMOVE "${fresh}")
-  execute_process(
-    COMMAND "${SQLITE3}" -batch -bail "${fresh}"
-    INPUT_FILE "${ASSETS}/schema.sql"
-    OUTPUT_QUIET
-    COMMAND_ERROR_IS_FATAL ANY)
-  file(RENAME "${fresh}" "${FOLDER}/tarnwick.mdb")
+  # Passwords of sites are kept in it, so it is its owner's alone from the start.
+  set(unfinished "${FOLDER}/tarnwick.mdb.new")
+  file(COPY_FILE "${fresh}" "${unfinished}")
+  file(CHMOD "${unfinished}" PERMISSIONS OWNER_READ OWNER_WRITE)
+  file(RENAME "${unfinished}" "${FOLDER}/tarnwick.mdb")
 endif()
 
 if(NOT EXISTS "${FOLDER}/email.txt")
   file(COPY_FILE "${ASSETS}/email.txt" "${FOLDER}/email.txt")
+  file(CHMOD "${FOLDER}/email.txt" ${readable})
 endif()
 
-file(COPY_FILE "${ASSETS}/help.html" "${FOLDER}/help.html" ONLY_IF_DIFFERENT)
+# lay(FROM NAME): brings the file NAME of the program folder up to date with the file FROM.
+function(lay from name)
+  file(COPY_FILE "${from}" "${FOLDER}/${name}" ONLY_IF_DIFFERENT)
+  file(CHMOD "${FOLDER}/${name}" ${readable})
+endfunction()
+
+lay("${ASSETS}/email.txt" fresh/email.txt)
+lay("${ASSETS}/help.html" help.html)
 file(GLOB images RELATIVE "${ASSETS}" "${ASSETS}/images/*.bmp" "${ASSETS}/images/*.png")
 foreach(file IN LISTS images ITEMS reports/green.jpg reports/red.jpg)
-  file(COPY_FILE "${ASSETS}/${file}" "${FOLDER}/${file}" ONLY_IF_DIFFERENT)
+  lay("${ASSETS}/${file}" "${file}")
 endforeach()
+
+if(TRANSLATIONS)
+  file(GLOB translations RELATIVE "${TRANSLATIONS}" "${TRANSLATIONS}/tarnwick_*.qm")
+  foreach(file IN LISTS translations)
+    file(MAKE_DIRECTORY "${FOLDER}/translations")
+    lay("${TRANSLATIONS}/${file}" "translations/${file}")
+  endforeach()
+endif()

@@ -1,4 +1,4 @@
-# The program folder: the executable and everything that must lie beside it, in one folder that can be moved anywhere.
+# The program folder: the executables and everything that must lie beside them, in one folder that can be moved anywhere.
 # The build lays it out in ${CMAKE_BINARY_DIR}/tarnwick, `cmake --install` in <prefix>/tarnwick, CPack in an archive.
 find_program(SQLITE3_PROGRAM sqlite3 REQUIRED)
 
@@ -9,24 +9,21 @@ add_custom_target(program_folder ALL
   COMMAND ${CMAKE_COMMAND}
     -D FOLDER=${TARNWICK_FOLDER}
     -D ASSETS=${CMAKE_SOURCE_DIR}/assets
+    -D TRANSLATIONS=${TARNWICK_TRANSLATIONS}
     -D SQLITE3=${SQLITE3_PROGRAM}
     -P ${CMAKE_SOURCE_DIR}/cmake/LayProgramFolder.cmake
   DEPENDS tarnwick tarnwickctl
   COMMENT "Laying out the program folder ${TARNWICK_FOLDER}"
   VERBATIM)
+if(TARGET translations)
+  add_dependencies(program_folder translations)
+endif()
 
 # Installing over an older version keeps the user's files as rebuilding does.
 install(TARGETS tarnwick tarnwickctl RUNTIME DESTINATION tarnwick)
 install(CODE "
   set(FOLDER \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/tarnwick\")
   set(ASSETS \"${CMAKE_SOURCE_DIR}/assets\")
+  set(TRANSLATIONS \"${TARNWICK_TRANSLATIONS}\")
   set(SQLITE3 \"${SQLITE3_PROGRAM}\")
   include(\"${CMAKE_SOURCE_DIR}/cmake/LayProgramFolder.cmake\")")
-
-set(CPACK_GENERATOR TGZ)
-set(CPACK_PACKAGE_NAME tarnwick)
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
-# The archive unpacks to the program folder itself.
-set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
-set(CPACK_STRIP_FILES ON)
-include(CPack)

@@ -37,6 +37,14 @@ to_bitmap assets/images/logosmall.bmp
 draw tarnwick "$art/released.css"
 convert "$work/drawn.png" -strip PNG32:assets/images/tarnwick.png
 
+# The icons of an installation for all users; the drawing itself goes along as the scalable one.
+for size in 16 22 24 32 48 64 128 256 512; do
+  folder=packaging/icons/hicolor/${size}x$size/apps
+  mkdir -p "$folder"
+  rsvg-convert --width "$size" --height "$size" -o "$work/icon.png" "$art/tarnwick.svg"
+  convert "$work/icon.png" -strip "PNG32:$folder/tarnwick.png"
+done
+
 for bar in green red; do
   draw "$bar" "$art/released.css"
   convert "$work/drawn.png" -strip -sampling-factor 1x1 -quality 92 "assets/reports/$bar.jpg"

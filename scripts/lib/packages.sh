@@ -20,6 +20,11 @@ test_packages=(
   pulseaudio pulseaudio-utils sharutils
 )
 
+# What makes the packages: dependencies, compression, the window's translations.
+package_packages=(dpkg-dev file fakeroot gzip xz-utils qt6-l10n-tools)
+# What looks at them.
+package_test_packages=(lintian appstream desktop-file-utils man-db)
+
 # The style checks.
 style_packages=(clang-format python3)
 

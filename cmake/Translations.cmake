@@ -1,0 +1,33 @@
+# The window in other languages. The target `translations` compiles translations/tarnwick_<language>.ts; it is part of
+# every build on a machine that has Qt's tool for it. `update_translations` takes the texts of the sources into these
+# files and into the template for a new language, translations/tarnwick.ts.
+set(TARNWICK_TRANSLATIONS ${CMAKE_BINARY_DIR}/translations)
+set(translation_tools HINTS /usr/lib/qt6/bin "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_BINS}")
+find_program(LRELEASE_PROGRAM NAMES lrelease lrelease-qt6 ${translation_tools})
+find_program(LUPDATE_PROGRAM NAMES lupdate lupdate-qt6 ${translation_tools})
+file(GLOB translation_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/translations/tarnwick_*.ts)
+
+if(LRELEASE_PROGRAM)
+  set(compiled_translations)
+  foreach(file IN LISTS translation_files)
+    cmake_path(GET file STEM LAST_ONLY name)
+    set(compiled ${TARNWICK_TRANSLATIONS}/${name}.qm)
+    add_custom_command(
+      OUTPUT ${compiled}
+      COMMAND ${CMAKE_COMMAND} -E make_directory ${TARNWICK_TRANSLATIONS}
+      COMMAND ${LRELEASE_PROGRAM} -silent -removeidentical ${file} -qm ${compiled}
+      DEPENDS ${file}
+      VERBATIM)
+    list(APPEND compiled_translations ${compiled})
+  endforeach()
+  add_custom_target(translations DEPENDS ${compiled_translations})
+endif()
+
+if(LUPDATE_PROGRAM)
+  # Without line numbers: a text that moves in its source changes nothing for the translator.
+  add_custom_target(update_translations
+    COMMAND ${LUPDATE_PROGRAM} -silent -locations none -no-obsolete -I src src/ui src/platform/desktop
+      -ts translations/tarnwick.ts ${translation_files}
+    WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
+    VERBATIM)
+endif()

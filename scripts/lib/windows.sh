@@ -1,0 +1,169 @@
+# Builds the libraries that the Windows program is made of, from the sources in the Debian archive. Sourced from the root
+# of the repository, after packages.sh.
+# shellcheck shell=bash
+
+# Where the libraries are kept between two runs.
+windows_cache=${TARNWICK_WINDOWS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/tarnwick-windows}
+
+# The compiler, what runs its programs, and the headers and test libraries that are the same on every system.
+windows_core_packages=(
+  g++-mingw-w64-x86-64-posix wine64 wine cmake ninja-build ccache
+  dpkg-dev gcc libc6-dev make tcl googletest sqlite3 python3
+)
+# For the window: Qt's tools of the same version as its sources, and the display that its tests look at.
+windows_packages=(
+  "${windows_core_packages[@]}"
+  qt6-base-dev qt6-base-dev-tools libz-mingw-w64-dev libcli11-dev nlohmann-json3-dev
+  zip openssl python3-aiosmtpd xvfb xdotool imagemagick
+)
+
+# quietly LOG COMMAND...: runs the command with its output in the file LOG, which is shown when it fails.
+quietly() {
+  local log=$1
+  shift
+  if ! "$@" >"$log" 2>&1; then
+    tail -40 "$log" >&2
+    echo "Failed: $* (all of its output is in $log)" >&2
+    return 1
+  fi
+}
+
+# fetch_source PACKAGE: lays the unpacked source of the Debian package into the cache folder, as src/PACKAGE. The lists
+# of sources are the cache's own: those of the system are left as they are.
+fetch_source() {
+  local package=$1
+  local apt=$windows_cache/apt target=$windows_cache/src/$1
+  if [[ -d $target ]]; then
+    return
+  fi
+  local options=(
+    -o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=/dev/null
+    -o "Dir::State::Lists=$apt/lists" -o "Dir::Cache=$apt/cache" -o APT::Sandbox::User=root
+  )
+  local release
+  release=$(. /etc/os-release && echo "$VERSION_CODENAME")
+  mkdir -p "$apt/lists/partial" "$apt/cache" "$windows_cache/src" "$windows_cache/log"
+  cat >"$apt/sources.list" <<END
+deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] http://deb.debian.org/debian $release main
+deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] http://deb.debian.org/debian-security $release-security main
+END
+  echo "Fetching the source of $package ..."
+  quietly "$windows_cache/log/fetch.log" apt-get "${options[@]}" update
+  rm -rf "$target.part"
+  mkdir "$target.part"
+  (
+    cd "$target.part"
+    quietly "$windows_cache/log/fetch.log" apt-get "${options[@]}" source --download-only "$package"
+    # The archive's signatures have vouched for the files already.
+    quietly "$windows_cache/log/fetch.log" dpkg-source --no-check -x ./*.dsc source
+  )
+  mv "$target.part/source" "$target"
+  rm -rf "$target.part"
+}
+
+# build_once NAME COMMAND...: runs the command, which installs a library into the cache's root folder, unless it has
+# done so before.
+build_once() {
+  local name=$1 from=$SECONDS
+  shift
+  local mark=$windows_cache/root/.built-$name
+  if [[ -e $mark ]]; then
+    return
+  fi
+  mkdir -p "$windows_cache"/{root/lib,root/include,build,log}
+  echo "Building $name for Windows, once ..."
+  "$@" || exit 1
+  date >"$mark"
+  echo "Built $name in $((SECONDS - from)) s."
+}
+
+# cross_configure SOURCE BUILD ARGUMENT...: CMake with the compiler for Windows and the libraries of the cache.
+cross_configure() {
+  local source=$1 build=$2
+  shift 2
+  cmake -S "$source" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+    -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/windows/mingw.cmake" -DTARNWICK_WINDOWS_ROOT="$windows_cache/root" "$@"
+}
+
+build_sqlite() {
+  fetch_source sqlite3
+  local build=$windows_cache/build/sqlite
+  rm -rf "$build"
+  mkdir -p "$build"
+  (
+    cd "$build"
+    # The sources are put together into one file by programs of this system.
+    quietly "$windows_cache/log/sqlite.log" "$windows_cache/src/sqlite3/configure" --disable-tcl --disable-readline
+    quietly "$windows_cache/log/sqlite.log" make -j"$jobs" sqlite3.c
+    quietly "$windows_cache/log/sqlite.log" x86_64-w64-mingw32-gcc-posix -c -O2 -o sqlite3.o sqlite3.c \
+      -DSQLITE_THREADSAFE=1 -DSQLITE_ENABLE_COLUMN_METADATA -DSQLITE_OMIT_LOAD_EXTENSION
+    x86_64-w64-mingw32-gcc-ar-posix rcs "$windows_cache/root/lib/libsqlite3.a" sqlite3.o
+    cp sqlite3.h "$windows_cache/root/include/"
+  )
+}
+
+build_googletest() {
+  local build=$windows_cache/build/googletest
+  quietly "$windows_cache/log/googletest.log" cross_configure /usr/src/googletest "$build" \
+    -DCMAKE_INSTALL_PREFIX="$windows_cache/root"
+  quietly "$windows_cache/log/googletest.log" cmake --build "$build" --target install -- -j"$jobs"
+}
+
+# The transfer library with the certificates and the cryptography of Windows itself.
+build_curl() {
+  fetch_source curl
+  local build=$windows_cache/build/curl
+  quietly "$windows_cache/log/curl.log" cross_configure "$windows_cache/src/curl" "$build" \
+    -DCMAKE_INSTALL_PREFIX="$windows_cache/root" -DBUILD_SHARED_LIBS=OFF -DBUILD_CURL_EXE=OFF -DBUILD_TESTING=OFF \
+    -DCURL_USE_SCHANNEL=ON -DCURL_WINDOWS_SSPI=ON -DUSE_WIN32_IDN=ON -DUSE_LIBIDN2=OFF -DUSE_UNIX_SOCKETS=OFF \
+    -DCURL_USE_LIBSSH2=OFF -DCURL_USE_LIBPSL=OFF -DUSE_NGHTTP2=OFF -DCURL_BROTLI=OFF -DCURL_ZSTD=OFF -DCURL_ZLIB=ON \
+    -DCURL_DISABLE_LDAP=ON -DCURL_DISABLE_LDAPS=ON -DCURL_DISABLE_TELNET=ON -DCURL_DISABLE_DICT=ON \
+    -DCURL_DISABLE_FILE=ON -DCURL_DISABLE_TFTP=ON -DCURL_DISABLE_GOPHER=ON -DCURL_DISABLE_MQTT=ON \
+    -DCURL_DISABLE_SMB=ON -DCURL_DISABLE_RTSP=ON -DCURL_DISABLE_POP3=ON -DCURL_DISABLE_IMAP=ON \
+    -DCURL_DISABLE_SMTP=ON -DENABLE_UNICODE=ON
+  quietly "$windows_cache/log/curl.log" cmake --build "$build" --target install -- -j"$jobs"
+}
+
+# Widgets, network and what they stand on, as static libraries: about a quarter of an hour on two processors.
+build_qt() {
+  fetch_source qt6-base
+  local build=$windows_cache/build/qt without=() feature
+  # Nothing of these is used; the last two do not build or link with Debian's source and this compiler.
+  for feature in sql dbus opengl direct2d vulkan printsupport xml concurrent pkg_config zstd brotli glib icu \
+    tabletevent directwrite3; do
+    without+=("-DFEATURE_$feature=OFF")
+  done
+  # What Qt brings along instead of the libraries of this system.
+  for feature in zlib pcre2 png jpeg freetype harfbuzz doubleconversion; do
+    without+=("-DFEATURE_system_$feature=OFF")
+  done
+  quietly "$windows_cache/log/qt.log" cross_configure "$windows_cache/src/qt6-base" "$build" --log-level=WARNING \
+    -DCMAKE_INSTALL_PREFIX="$windows_cache/root" -DQT_HOST_PATH=/usr \
+    -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake" \
+    -DBUILD_SHARED_LIBS=OFF -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DQT_USE_CCACHE=ON -DINPUT_opengl=no \
+    -DFEATURE_schannel=ON \
+    "${without[@]}"
+  quietly "$windows_cache/log/qt.log" cmake --build "$build" -- -j"$jobs"
+  quietly "$windows_cache/log/qt.log" cmake --install "$build"
+  # A gigabyte that nothing needs any more.
+  rm -rf "$build" "$windows_cache/src/qt6-base"
+}
+
+# Libraries of headers only are the same on every system; they are copied so that nothing else of this system is found.
+build_headers() {
+  mkdir -p "$windows_cache/root/share/cmake"
+  cp -r /usr/include/CLI /usr/include/nlohmann "$windows_cache/root/include/"
+  cp -r /usr/share/cmake/CLI11 /usr/share/cmake/nlohmann_json "$windows_cache/root/share/cmake/"
+}
+
+build_core_libraries() {
+  build_once sqlite build_sqlite
+  build_once googletest build_googletest
+}
+
+build_libraries() {
+  build_core_libraries
+  build_once headers build_headers
+  build_once curl build_curl
+  build_once qt build_qt
+}

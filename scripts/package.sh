@@ -1,0 +1,45 @@
+#!/bin/bash
+# Makes the packages of this version in build/package: the archive of the program folder, and on Debian the package for all
+# users of a machine.
+#
+#   scripts/package.sh            makes them
+#   scripts/package.sh --test     and looks whether they work
+set -euo pipefail
+cd "$(dirname "$0")/.."
+source scripts/lib/packages.sh
+source scripts/lib/build.sh
+
+tests=OFF
+case "${1:-}" in
+  "") ;;
+  --test)
+    tests=ON
+    ;;
+  -h | --help)
+    sed -n '2,6s/^# \{0,1\}//p' "$0"
+    exit 0
+    ;;
+  *)
+    echo "scripts/package.sh does not know \"$1\"; see scripts/package.sh --help" >&2
+    exit 2
+    ;;
+esac
+
+need_packages "${build_packages[@]}" "${package_packages[@]}"
+if [[ $tests == ON ]]; then
+  need_packages "${test_packages[@]}" "${package_test_packages[@]}"
+fi
+configure package -DBUILD_TESTING=$tests
+build package
+(
+  cd build/package
+  rm -f tarnwick[-_]*.tar.gz tarnwick_*.deb
+  said=$(cpack 2>&1) || {
+    printf '%s\n' "$said" "The packages could not be made; the reason is above." >&2
+    exit 1
+  }
+)
+if [[ $tests == ON ]]; then
+  ctest --test-dir build/package --output-on-failure --no-tests=error -L package
+fi
+sha256sum build/package/tarnwick[-_]*.tar.gz build/package/tarnwick_*.deb

@@ -1,0 +1,768 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>This page is stored in the Windows-1252 character set, which has no &quot;%1&quot;. Delete the character that is selected now or type another one, then press OK again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sender of the alert mails</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SMTP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail server; it takes mail on port 25 without a log-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The .wav file of the alert sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a sound file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play this sound now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The alert program; ~1~ to ~6~ stand for what happened where</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>T&amp;est</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start this program now, with sample values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lo&amp;gs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep a log of all checks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the report of the day during a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Emai&amp;l</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send alert mails for the sites that ask for them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;udio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the alert sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pr&amp;ogram</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start the alert program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TCP Timeout in seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many seconds the fetch of a page may take</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>O&amp;K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Store the settings and close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close without storing (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;SMTP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TCP T&amp;imeout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear Logs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete every log line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>logs ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status of Clear Logs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compact &amp;Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back the database up, then make its file as small as it can be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>compact ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status of Compact Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create / &amp;View Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the report of today and open it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>report ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status of Create / View Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Configuration Data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Administration Functions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start a run: tests every active site now (F5)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the run (Shift+F5)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a site (Ctrl+N)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set&amp;up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Testing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Online Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the help page (F1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 home page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the home page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress of the test pass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This desktop could not open the page. You find it at:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Url</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Visit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the site in the browser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Get</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Method: Get</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;ost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Method: Post</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interval in minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Url</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Interval ( in minutes )</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>POST variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the new variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>enter name here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value of the new variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>enter value here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add PO&amp;ST Variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear POST Varia&amp;bles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Email</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alert by e-mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E-mail address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page&amp;r</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alert by pager</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pager</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save and close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>App&amp;ly</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save, then show the page that every check is compared with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete this site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coun&amp;ters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset counters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close without saving (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site ID:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alerts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HTTP Post Variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::BaselineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ContentDialog</name>
+    <message>
+        <source>Content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Url: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Url</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load From Url</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch the page now; nothing is stored yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>O&amp;K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Store this content and close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close without storing (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LOADING: Please Wait ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ControlDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No TCP Timeout is selected. Select one in the list, then press OK again; nothing was stored yet.
+
+The database says: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In Progress ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::CountersDialog</name>
+    <message>
+        <source>counters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counter Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear This &amp;Site&apos;s Counter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear Counter For &amp;All Sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::Lamp</name>
+    <message>
+        <source>Lamp &quot;%1&quot;, bar %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: lit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: not lit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::Master</name>
+    <message>
+        <source>Tarnwick web-site monitor. Copyright © the Tarnwick developers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your data: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 keeps your sites and settings in the folder %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change the settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings are kept in the table &quot;control&quot; of the database; this window cannot change them</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::NewPostVar</name>
+    <message>
+        <source>Add / Edit Post Variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HTTP Post Variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>enter name here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>enter value here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::PostVarModel</name>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteEditor</name>
+    <message>
+        <source>Site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site ID: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do You Want To Discard The Changes To Site %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This variable is not stored as it is shown. Press Apply to store the list, then click the variable again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteGridModel</name>
+    <message>
+        <source>up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not tested yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteGridView</name>
+    <message>
+        <source>Method ( get,post )</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Active ( true,false )</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes Until Next Check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date Last Checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::StatusLine</name>
+    <message>
+        <source>Status: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::VarsForm</name>
+    <message>
+        <source>Command1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
