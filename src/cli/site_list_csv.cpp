@@ -157,9 +157,9 @@ std::vector<ListedSite> readSiteListCsv(std::string_view text, ListFaults& fault
       continue;
     }
     if (record.fields.size() != columns.size()) {
-      faults.add(record.line, "here are " + std::to_string(record.fields.size()) + " fields, and " +
-                                  std::to_string(columns.size()) +
-                                  " columns: give each column its field, and put one that holds a comma in quotes");
+      faults.add(record.line, "the number of fields is " + std::to_string(record.fields.size()) +
+                                  " and that of columns " + std::to_string(columns.size()) +
+                                  ": give each column its field, and put one that holds a comma in quotes");
       continue;
     }
     const std::size_t before = faults.count();

@@ -32,24 +32,21 @@ void TextGrid::print(Console& console) const {
     }
     widths.push_back(width);
   }
-  std::ostream& out = console.out();
-  const auto printCell = [&](std::size_t i, const std::string& text, const std::string& shown) {
-    const bool last = i + 1 == columns_.size();
-    const bool loose = last && columns_[i].align == Align::left;
-    if (loose && text.empty()) {
-      return;  // no blanks at the end of a line
+  const auto lineOf = [&](const auto& textOf) {
+    std::string line;
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+      const auto [text, colour] = textOf(i);
+      const std::string shown = console.coloured(colour, text);
+      line += (i == 0 ? "" : kGap);
+      line += padded(text, shown, widths[i], columns_[i].align);
     }
-    out << (i == 0 ? "" : kGap) << (loose ? shown : padded(text, shown, widths[i], columns_[i].align));
+    line.erase(line.find_last_not_of(' ') + 1);
+    return line;
   };
-  for (std::size_t i = 0; i < columns_.size(); ++i) {
-    printCell(i, columns_[i].title, console.coloured(Console::Colour::bold, columns_[i].title));
-  }
-  out << '\n';
+  std::ostream& out = console.out();
+  out << lineOf([&](std::size_t i) { return Cell{columns_[i].title, Console::Colour::bold}; }) << '\n';
   for (const auto& row : rows_) {
-    for (std::size_t i = 0; i < row.size(); ++i) {
-      printCell(i, row[i].text, console.coloured(row[i].colour, row[i].text));
-    }
-    out << '\n';
+    out << lineOf([&](std::size_t i) { return row[i]; }) << '\n';
   }
   out.flush();
 }

@@ -16,9 +16,9 @@ TEST_F(SettingsVerb, ListsAllOfThem) {
   EXPECT_EQ(out,
             "SETTING   VALUE\n"
             "email     a@b.cc\n"
-            "smtp      \n"
-            "audio     \n"
-            "program   \n"
+            "smtp\n"
+            "audio\n"
+            "program\n"
             "timeout   30\n"
             "clogs     on\n"
             "creports  off\n"

@@ -126,8 +126,8 @@ TEST_F(SiteListCsv, RefusesQuotesThatDoNotFit) {
 }
 
 TEST_F(SiteListCsv, RefusesAWrongNumberOfFields) {
-  EXPECT_THAT(faultsOf("idSite,url\n1\n1,a,b\n"),
-              AllOf(HasSubstr("2: here are 1 fields, and 2 columns"), HasSubstr("3: here are 3 fields")));
+  EXPECT_THAT(faultsOf("idSite,url\n1\n1,a,b\n"), AllOf(HasSubstr("2: the number of fields is 1 and that of columns 2"),
+                                                        HasSubstr("3: the number of fields is 3")));
 }
 
 TEST_F(SiteListCsv, RefusesWhatIsNoText) {
