@@ -36,6 +36,7 @@ LIBRARY = re.compile(r"^(Q[A-Z]\w*|Qt\w*/.*|q[a-z]+\.h|sqlite3\w*\.h|curl/.*)$")
 SLEEP = re.compile(r"\b(sleep_for|sleep_until|usleep|nanosleep|qSleep|msleep)\b|\b(?:QThread|std)?::sleep\s*\("
                    r"|(?<![\w.>:])sleep\s*\(")
 REASON = re.compile(r"//\s*sleeps because \S")
+SYSTEM = re.compile(r"^\s*#\s*(if|ifdef|ifndef|elif).*\b(_WIN32|_WIN64|__linux__|__unix__|__APPLE__|Q_OS_\w+)\b")
 UNFINISHED = re.compile(r"\b(TODO|FIXME|XXX|HACK)\b")
 
 
@@ -123,6 +124,16 @@ def tests_do_not_sleep(tree: Tree):
                        "limit (support/wait_until.h), or say why not at the end of the line: // sleeps because ...")
 
 
+def only_the_platform_knows_the_system(tree: Tree):
+    for name, lines in tree.lines.items():
+        if not name.startswith("src/") or room_of(name) == "platform":
+            continue
+        for number, line in enumerate(lines, 1):
+            if SYSTEM.search(line):
+                yield (name, number, "asks which system this is: put what differs behind a function of src/platform, in a "
+                       "source that ends with _posix.cpp or _windows.cpp.")
+
+
 def nothing_is_unfinished(tree: Tree):
     for name, lines in tree.lines.items():
         for number, line in enumerate(lines, 1):
@@ -132,8 +143,12 @@ def nothing_is_unfinished(tree: Tree):
 
 
 def lists_source(lists: Path, source: str) -> bool:
-    return lists.is_file() and bool(
-        re.search(rf"(?<![\w./-]){re.escape(source)}(?![\w.])", lists.read_text(encoding="utf-8")))
+    if not lists.is_file():
+        return False
+    # A source of one system may be listed for all of them at once.
+    of_any_system = re.sub(r"_(posix|windows)\.cpp$", "_${TARNWICK_SYSTEM}.cpp", source)
+    text = lists.read_text(encoding="utf-8")
+    return any(re.search(rf"(?<![\w./-]){re.escape(form)}(?![\w.])", text) for form in (source, of_any_system))
 
 
 def every_source_is_built(tree: Tree):
@@ -153,7 +168,8 @@ def headers_are_included_once(tree: Tree):
             yield name, 1, "has no include guard: begin it with #pragma once."
 
 
-RULES = (no_library_in_the_core, rooms_open_downwards, files_are_short, tests_do_not_sleep, nothing_is_unfinished,
+RULES = (no_library_in_the_core, rooms_open_downwards, files_are_short, tests_do_not_sleep,
+         only_the_platform_knows_the_system, nothing_is_unfinished,
          every_source_is_built, headers_are_included_once)
 
 
@@ -199,6 +215,11 @@ def self_test() -> int:
         "an unfinished piece": ("src/a.h:2: says " + "TO" + "DO", {"src/a.h": header + "// " + "TO" + "DO: later\n"}),
         "a source that is not built": ("is built by no CMakeLists.txt", {
             "src/store/a.cpp": "\n", "src/store/CMakeLists.txt": "add_library(s data.cpp)\n"}),
+        "a source of each system": (None, {
+            "src/store/a_posix.cpp": "\n", "src/store/a_windows.cpp": "\n",
+            "src/store/CMakeLists.txt": "add_library(s a_${TARNWICK_SYSTEM}.cpp)\n"}),
+        "a question about the system": ("src/store/a.h:2: asks which system", {
+            "src/store/a.h": header + "#ifdef _WIN32\n#endif\n"}),
         "a header without a guard": ("has no include guard", {"src/store/a.h": "int a();\n"}),
         "no sources at all": ("no sources found", {"README.md": "\n"}),
     }

@@ -115,6 +115,10 @@ int addSite(Tool& tool, const SiteEdit& edit) {
     sayJson(tool.console(), {{"idSite", id}});
   } else {
     tool.console().say(std::to_string(id));
+    if (tool.console().isTerminal() && site.active) {
+      tool.console().complain("A new site is tested when a run is started next, or by: tarnwickctl check " +
+                              std::to_string(id));
+    }
   }
   if (!vars.empty()) {
     hintAtMethod(tool, id);
