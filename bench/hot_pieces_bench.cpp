@@ -76,7 +76,8 @@ BENCHMARK(translateShortStatement);
 
 void translateLogStatement(benchmark::State& state) {
   const std::string sql =
-      "insert into log (idSite,url,status,errCode,errDescription,content) values (1,'http://127.0.0.1/p1',True,0,'','')";
+      "insert into log (idSite,url,status,errCode,errDescription,content) values "
+      "(1,'http://127.0.0.1/p1',True,0,'','')";
   for (auto _ : state) {
     benchmark::DoNotOptimize(translateSql(sql));
   }

@@ -84,8 +84,9 @@ void checkAll(sqlite3* database, std::int64_t changedEvery) {
   Statement site(database, "select url, content_compare from sites where idSite = ?1");
   Statement latest(database, "update sites set content_runtime = ?2 where idSite = ?1");
   Statement logging(database, "select clogs from control where id = 1");
-  Statement log(database,
-                "insert into log (idSite, url, status, errCode, errDescription, content) values (?1, ?2, ?3, 0, '', ?4)");
+  Statement log(
+      database,
+      "insert into log (idSite, url, status, errCode, errDescription, content) values (?1, ?2, ?3, 0, '', ?4)");
   Statement stamp(database, "update sites set lastChecked = ?2 where idSite = ?1");
   Statement status(database, "update sites set status = ?2 where idSite = ?1");
   Statement up(database, "update sites set success = success + 1 where idSite = ?1");

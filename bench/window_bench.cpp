@@ -8,8 +8,8 @@
 // fires is a stall. On a machine that does other work as well a stall may be the machine's: so its processor time is
 // told beside it, which is the program's own doing.
 
-#include <sys/resource.h>
 #include <time.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -17,7 +17,6 @@
 #include <fstream>
 #include <iostream>
 #include <string>
-#include <vector>
 #include <QApplication>
 #include <QTimer>
 
@@ -39,10 +38,15 @@ double processorMs() {
 
 double msSince(Clock::time_point begin) { return Milliseconds(Clock::now() - begin).count(); }
 
+/// Not what getrusage tells: that begins with the peak of the process that started this one.
 double peakMiB() {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  return static_cast<double>(usage.ru_maxrss) / 1024;
+  std::ifstream file("/proc/self/status");
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with("VmHWM:")) {
+      return std::stod(line.substr(line.find(':') + 1)) / 1024;
+    }
+  }
+  return 0;
 }
 
 /// The time since this process was started, which includes loading its libraries.

@@ -39,11 +39,12 @@ sums() {
   (cd "$1/build/package" && sha256sum tarnwick/tarnwick tarnwick/tarnwickctl tarnwick-*.tar.gz tarnwick_*.deb)
 }
 
-echo "Building for the first time ..."
+# Both before the first build: the sources may be edited meanwhile.
 copy_sources "$work/one"
+cp -R "$work/one" "$work/another folder"
+echo "Building for the first time ..."
 (umask 022 && TZ=UTC LC_ALL=C.UTF-8 make_packages "$work/one")
 echo "Building for the second time, in another folder ..."
-copy_sources "$work/another folder"
 (umask 027 && TZ=Pacific/Auckland LC_ALL=C make_packages "$work/another folder")
 
 sums "$work/one" | tee "$work/sums-one"

@@ -25,6 +25,9 @@ package_packages=(dpkg-dev file fakeroot gzip xz-utils qt6-l10n-tools)
 # What looks at them.
 package_test_packages=(lintian appstream desktop-file-utils man-db)
 
+# What the benchmark runs beside the product, and the server they all fetch from.
+bench_packages=(python3 time curl nginx-light urlwatch monitoring-plugins-basic libbenchmark-dev)
+
 # The style checks.
 style_packages=(clang-format python3)
 

@@ -167,3 +167,52 @@ build_libraries() {
   build_once curl build_curl
   build_once qt build_qt
 }
+
+# pack FOLDER: the program folder of the build in FOLDER as a zip archive beside it.
+pack() {
+  local stage=$1/stage version archive
+  version=$(sed -n 's/^project(Tarnwick VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+  archive=$PWD/$1/tarnwick-$version-windows-x86_64.zip
+  rm -rf "$stage" "$archive"
+  quietly "$1/install.log" cmake --install "$1" --strip --prefix "$stage"
+  (cd "$stage" && zip -qr -X "$archive" tarnwick)
+  echo "The program folder for Windows is packed as $archive"
+}
+
+# skipped_under_wine PROGRAM: the tests of the program that Wine cannot run, as a filter; they are named with the reason.
+skipped_under_wine() {
+  local program=$1 case reason all=
+  while read -r name case reason; do
+    if [[ $name == "$program" ]]; then
+      echo "  not under Wine: $case - $reason" >&2
+      all+=:$case
+    fi
+  done < <(grep -v '^#' tests/wine_skips.txt)
+  echo "${all#:}"
+}
+
+# run_under_wine FOLDER: runs the test programs of the build in FOLDER, each as a whole, and shows what fails.
+run_under_wine() {
+  local program name log status=0 filter from=$SECONDS
+  export WINEPREFIX=$PWD/$1/wine WINEDEBUG=-all QT_QPA_PLATFORM=offscreen no_proxy='*' NO_PROXY='*'
+  mkdir -p "$1/wine-logs"
+  echo "Setting up Wine ..."
+  # What Wine leaves running in the background would hold a pipe open, so all of its output goes into files.
+  wineboot --init >"$1/wine-logs/wineboot.log" 2>&1 </dev/null || true
+  for program in "$1"/tests/*/test_*.exe; do
+    name=$(basename "$program" .exe)
+    log=$PWD/$1/wine-logs/$name.log
+    filter=$(skipped_under_wine "$name")
+    if (cd "$(dirname "$program")" &&
+      timeout 900 wine "./$name.exe" --gtest_brief=1 "--gtest_filter=-$filter" >"$log" 2>&1 </dev/null); then
+      echo "$name: $(grep -a 'PASSED' "$log" | tr -d '\r')"
+    else
+      tr -d '\r' <"$log" | tail -60 >&2
+      echo "$name: FAILED under Wine; all of its output is in $log" >&2
+      status=1
+    fi
+  done
+  wineserver -k || true
+  echo "Tests under Wine: $([[ $status == 0 ]] && echo passed || echo FAILED) in $((SECONDS - from)) s."
+  return "$status"
+}

@@ -4,6 +4,7 @@
 #include <cctype>
 #include <string_view>
 
+#include "platform/socket_errors.h"
 #include "platform/socket_inheritance.h"
 
 namespace tarnwick {
@@ -198,7 +199,7 @@ TransferFailure CurlRequest::failure(CURLcode result) const {
   return failureOf({.result = result,
                     .detail = detail_.data(),
                     .url = url == nullptr ? order_.url : url,
-                    .systemError = static_cast<int>(systemError),
+                    .systemError = errnoOfSocket(static_cast<int>(systemError)),
                     .status = static_cast<int>(status),
                     .answered = answering_,
                     .bound = headerRefused ? BrokenBound::header : bound_,

@@ -77,6 +77,12 @@ bool isFolder(DWORD attributes) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+void refuseFolder(const std::wstring& place, const std::string& path) {
+  if (isFolder(GetFileAttributesW(place.c_str()))) {
+    throw FileError(path, "This is a folder, where a file was expected.");
+  }
+}
+
 DWORD moveOver(const std::wstring& from, const std::wstring& to) {
   const DWORD error =
       errorUnless(MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
@@ -166,8 +172,8 @@ void copyPermissions(const std::string&, const std::string&) {
 void replaceFile(const std::string& from, const std::string& to) {
   const std::wstring source = systemPath(from);
   const std::wstring target = systemPath(to);
-  const DWORD error =
-      patiently([&] { return moveOver(source, target); }, !isFolder(GetFileAttributesW(target.c_str())));
+  refuseFolder(target, to);
+  const DWORD error = patiently([&] { return moveOver(source, target); }, true);
   if (error != ERROR_SUCCESS) {
     fail(to, error);
   }
@@ -177,9 +183,7 @@ bool canReplaceOpenFiles() { return false; }
 
 void removeFile(const std::string& path) {
   const std::wstring place = systemPath(path);
-  if (isFolder(GetFileAttributesW(place.c_str()))) {
-    throw FileError(path, "This is a folder, where a file was expected.");
-  }
+  refuseFolder(place, path);
   const DWORD error = patiently([&] { return errorUnless(DeleteFileW(place.c_str())); }, true);
   if (error != ERROR_SUCCESS && !isNothingThere(error)) {
     fail(path, error);

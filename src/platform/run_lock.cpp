@@ -11,6 +11,8 @@ namespace tarnwick {
 namespace {
 
 constexpr const char* kLockFile = "/tarnwick.lock";
+/// Within this time whoever makes the file has written its name into it.
+constexpr int kNamingMs = 300;
 
 std::string holderOf(const QLockFile& lock) {
   qint64 process = 0;
@@ -21,6 +23,26 @@ std::string holderOf(const QLockFile& lock) {
   }
   return (program.isEmpty() ? std::string("a program") : program.toStdString()) + " (process " +
          std::to_string(process) + (host.isEmpty() ? "" : " on " + host.toStdString()) + ")";
+}
+
+/// Tries to take the lock. A file without a name in it, as a process leaves that was killed between making the file and
+/// writing to it, would otherwise stand in the way for ever.
+bool tryToTake(QLockFile& lock) {
+  qint64 process = 0;
+  QString host;
+  QString program;
+  if (lock.tryLock(0)) {
+    return true;
+  }
+  if (lock.error() != QLockFile::LockFailedError || lock.getLockInfo(&process, &host, &program)) {
+    return false;
+  }
+  if (lock.tryLock(kNamingMs)) {
+    return true;
+  }
+  // Fails while a process has the file open as its own.
+  return lock.error() == QLockFile::LockFailedError && !lock.getLockInfo(&process, &host, &program) &&
+         lock.removeStaleLockFile() && lock.tryLock(0);
 }
 
 }  // namespace
@@ -42,7 +64,7 @@ void RunLock::take() {
   }
   const std::string path = folder_ + kLockFile;
   auto file = std::make_unique<File>(path);
-  if (file->lock.tryLock(0)) {
+  if (tryToTake(file->lock)) {
     file_ = std::move(file);
     return;
   }

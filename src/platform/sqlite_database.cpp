@@ -1,5 +1,6 @@
 #include "platform/sqlite_database.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <type_traits>
@@ -17,6 +18,10 @@ namespace {
 
 constexpr int kBusyPatienceMs = 2000;
 constexpr std::size_t kStatementsKept = 64;
+/// 2 MiB, and 32 MiB while a text longer than `kLargeText` is being stored.
+constexpr const char* kUsualCache = "pragma cache_size = -2048";
+constexpr const char* kLargeCache = "pragma cache_size = -32768";
+constexpr std::size_t kLargeText = std::size_t{512} * 1024;
 
 /// 0 also for a file that is missing.
 std::uint64_t bytesIn(const std::string& path) {
@@ -86,8 +91,9 @@ void SqliteDatabase::openFile() {
 }
 
 // A copy that was put in the place of a lost database may find that one's log beside it, left by a program that was
-// killed; SQLite would write its pages into the copy. Only a file whose header (https://www.sqlite.org/fileformat2.html)
-// says that it has no log is known not to be the one that this log belongs to.
+// killed; SQLite would write its pages into the copy. Only a file whose header
+// (https://www.sqlite.org/fileformat2.html) says that it has no log is known not to be the one that this log belongs
+// to.
 void SqliteDatabase::setForeignLogAside() {
   constexpr sqlite3_int64 kVersions = 18;
   constexpr std::array<char, 2> kWithoutLog{1, 1};
@@ -100,9 +106,8 @@ void SqliteDatabase::setForeignLogAside() {
     try {
       replaceFile(log, log + ".old");
     } catch (const FileError& error) {
-      throw DataAccessError("The file " + log + " belongs to another database than " + path_ +
-                                ". Remove it. (" + error.what() + ")",
-                            "");
+      throw DataAccessError(
+          "The file " + log + " belongs to another database than " + path_ + ". Remove it. (" + error.what() + ")", "");
     }
   }
 }
@@ -136,12 +141,30 @@ void SqliteDatabase::chooseJournal() noexcept {
   }
   // One large page must not leave a log of its size on the disk for the rest of the run.
   sqlite3_exec(database, "pragma journal_size_limit = 8388608", nullptr, nullptr, nullptr);
-  // A check reads and writes a handful of pages that no other check needs, so a larger cache (2 MiB here) would only fill
-  // with what is never asked for again; the due query reads the rest from the system's own cache as fast.
-  sqlite3_exec(database, "pragma cache_size = -2048", nullptr, nullptr, nullptr);
+  // A check reads and writes a handful of pages that no other check needs: a larger cache would only fill with what is
+  // never asked for again, and the due query reads faster from the system's own.
+  sqlite3_exec(database, kUsualCache, nullptr, nullptr, nullptr);
+}
+
+/// Every statement of a check rewrites the site's row. One with a page of many megabytes, which the small cache cannot
+/// hold, would be read from the file again each time, and the window would stand still meanwhile.
+void SqliteDatabase::fitCache(const PlainStatement& statement) noexcept {
+  const bool large = std::ranges::any_of(statement.parameters, [](const SqlParameter& parameter) {
+    const auto* token = std::get_if<SqlToken>(&parameter);
+    return token != nullptr && token->source.size() > kLargeText;
+  });
+  if (large && !cachesLargePage_) {
+    cachesLargePage_ = true;
+    sqlite3_exec(handle(), kLargeCache, nullptr, nullptr, nullptr);
+  } else if (!large && cachesLargePage_ && sqlite3_get_autocommit(handle()) != 0) {
+    cachesLargePage_ = false;
+    sqlite3_exec(handle(), kUsualCache, nullptr, nullptr, nullptr);
+    sqlite3_db_release_memory(handle());
+  }
 }
 
 StatementLoan SqliteDatabase::prepare(const PlainStatement& statement, std::string_view sql) {
+  fitCache(statement);
   if (const auto found = keptByText_.find(statement.text); found != keptByText_.end()) {
     const Kept::iterator place = found->second;
     SqliteStatement prepared = std::move(*place);

@@ -83,9 +83,7 @@ class SqliteDatabase {
   /// True when the file should be opened afresh before its next use, and nobody is at work on it: damage was met, of
   /// which the pages in memory may be all there is once a good copy is put back, or it could not be changed, which an
   /// open file goes on with after its permissions have been put right.
-  bool wantsReopening() const {
-    return outdated_ && open_.empty() && sqlite3_get_autocommit(handle()) != 0;
-  }
+  bool wantsReopening() const { return outdated_ && open_.empty() && sqlite3_get_autocommit(handle()) != 0; }
 
   void enroll(SqliteRecordset& recordset) { open_.push_back(&recordset); }
   void strikeOff(const SqliteRecordset& recordset) noexcept { std::erase(open_, &recordset); }
@@ -97,6 +95,7 @@ class SqliteDatabase {
   void setForeignLogAside();
   void refuseDamage();
   void chooseJournal() noexcept;
+  void fitCache(const PlainStatement& statement) noexcept;
 
   using Kept = std::list<SqliteStatement>;
 
@@ -107,6 +106,7 @@ class SqliteDatabase {
   Kept kept_;
   std::unordered_map<std::string_view, Kept::iterator> keptByText_;
   std::vector<SqliteRecordset*> open_;
+  bool cachesLargePage_ = false;
   mutable bool outdated_ = false;
 };
 

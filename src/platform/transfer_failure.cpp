@@ -112,8 +112,15 @@ TransferFailure untrusted(const Server& server, const std::string& detail) {
   if (problem != std::string::npos) {
     return {TransferFault::certificate, start + quotable(detail.substr(problem + kProblem.size())) + "."};
   }
-  if (detail.find("subject name") != std::string::npos || detail.find("subjectAltName") != std::string::npos) {
-    return {TransferFault::certificate, start + "it was issued for another host."};
+  // The first two in the words of OpenSSL's side of libcurl, the others in those of Windows' own.
+  for (const std::string_view otherHost :
+       {"subject name", "subjectAltName", "check failed", "match connection hostname"}) {
+    if (detail.find(otherHost) != std::string::npos) {
+      return {TransferFault::certificate, start + "it was issued for another host."};
+    }
+  }
+  if (detail.find("UNTRUSTED_ROOT") != std::string::npos) {
+    return {TransferFault::certificate, start + "nobody whom this machine trusts has issued it."};
   }
   return {TransferFault::certificate, start + "it is not valid."};
 }

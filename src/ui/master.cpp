@@ -25,6 +25,12 @@ QString versionText() {
   return QStringLiteral("Version:%1.%2").arg(TARNWICK_VERSION_MAJOR).arg(TARNWICK_VERSION_MINOR);
 }
 
+/// A folder in the user's home as a shell writes it: the foot line has little room.
+QString briefly(const QString& folder) {
+  const QString home = QDir::toNativeSeparators(QDir::homePath()) + QDir::separator();
+  return folder.startsWith(home) ? QLatin1Char('~') + folder.mid(home.size() - 1) : folder;
+}
+
 }  // namespace
 
 Master::Master(std::string programFolder, const Services& services)
@@ -58,7 +64,7 @@ void Master::tellNotice() {
   const QString folder = QDir::toNativeSeparators(QString::fromStdString(program_.programFolder()));
   QString notice = tr("Tarnwick web-site monitor. Copyright © the Tarnwick developers.");
   if (program_.programFolder() != QCoreApplication::applicationDirPath().toStdString()) {
-    notice += QLatin1Char(' ') + tr("Your data: %1").arg(folder);
+    notice += QLatin1Char(' ') + tr("Your data: %1").arg(briefly(folder));
   }
   controls_.copyright->setText(notice);
   const QString about = tr("%1 %2 keeps your sites and settings in the folder %3")

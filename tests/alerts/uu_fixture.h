@@ -15,6 +15,7 @@
 #include "alerts/decode_error.h"
 #include "alerts/uu_code.h"
 #include "platform/errors.h"
+#include "platform/file_access.h"
 #include "platform/local_files.h"
 #include "support/recording_desktop.h"
 
@@ -103,25 +104,25 @@ class UuTest : public ::testing::Test {
     std::filesystem::remove_all(folder_, ignored);
   }
 
-  std::string folder() const { return folder_.string(); }
-  std::string path(const std::string& name) const { return (folder_ / name).string(); }
+  std::string folder() const { return textOf(folder_); }
+  std::string path(const std::string& name) const { return textOf(folder_ / pathOf(name)); }
 
   /// Makes the file and returns its path.
   std::string make(const std::string& name, const std::string& bytes) const {
-    std::ofstream(path(name), std::ios::binary) << bytes;
+    std::ofstream(pathOf(path(name)), std::ios::binary) << bytes;
     return path(name);
   }
   std::string read(const std::string& name) const {
-    std::ifstream file(path(name), std::ios::binary);
+    std::ifstream file(pathOf(path(name)), std::ios::binary);
     EXPECT_TRUE(file) << name << " is missing";
     return {std::istreambuf_iterator<char>(file), {}};
   }
-  bool exists(const std::string& name) const { return std::filesystem::exists(path(name)); }
+  bool exists(const std::string& name) const { return std::filesystem::exists(pathOf(path(name))); }
   /// The names of everything in the folder, sorted.
   std::vector<std::string> names() const {
     std::vector<std::string> all;
     for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
-      all.push_back(entry.path().filename().string());
+      all.push_back(textOf(entry.path().filename()));
     }
     std::sort(all.begin(), all.end());
     return all;

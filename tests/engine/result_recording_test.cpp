@@ -252,8 +252,8 @@ TEST_F(ResultRecordingTest, SmallStatementsAreBuiltFromTheirPieces) {
                   "select lastChecked from sites where idsite = 1", "select status from sites where idSite = 1",
                   "update sites set status = True where idSite = 1", "update sites set status = true",
                   "select Active from sites where idSite = 1", "update sites set Active = False where idSite = 1",
-                  "select url from sites where idSite = 1", "select success from sites where idsite = 1",
-                  "update sites set success = 1 where idsite = 1"));
+                  "select url from sites where idSite = 1", "begin", "select success from sites where idsite = 1",
+                  "update sites set success = 1 where idsite = 1", "commit"));
 }
 
 TEST_F(ResultRecordingTest, CountersRiseBy1FromNull) {

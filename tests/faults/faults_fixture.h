@@ -62,7 +62,7 @@ class UsedFolder {
     EXPECT_EQ(text("select status from sites where idSite = 4"), "0") << hint;
   }
 
-  static std::string largePage() { return std::string(30000, 'x') + "the end"; }
+  static std::string largePage() { return std::string(12000, 'x') + "the end"; }
 
   ProgramFolder folder;
   HttpServer server;

@@ -227,7 +227,7 @@ TEST(RealFaults, ALockOfAnotherProcessIsToldOnceAndTheRunGoesOn) {
         other = std::make_unique<LockingProcess>(used);
         ASSERT_TRUE(other->locked());
       },
-      2,
+      1,
       [&](RunningProgram& running) {
         other.reset();
         EXPECT_EQ(running.boxes(), 1u);

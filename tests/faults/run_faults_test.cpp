@@ -90,8 +90,9 @@ TEST_F(RunFaults, TwoProgramsOnOneFileLoseNoCount) {
   running.databases.watch.before = [&](std::string_view statement) {
     if (!counted && statement.starts_with("select failure")) {
       counted = true;
-      // Waits for the lock in vain, instead of slipping in between reading and writing.
-      EXPECT_ANY_THROW(used.folder.execute("update sites set failure = failure + 1 where idSite = 4"));
+      // Finds it locked, instead of slipping in between reading and writing.
+      EXPECT_ANY_THROW(
+          used.folder.execute("pragma busy_timeout = 0; update sites set failure = failure + 1 where idSite = 4"));
     }
   };
   running.program.data().updateStatusCounter(4, false);

@@ -184,7 +184,6 @@ void HostileTest::expectJudgedInTimeAndNobodyHarmed() {
   for (const std::int16_t neighbour : neighbours) {
     EXPECT_EQ(logged("status", neighbour), "1") << logged("errDescription", neighbour);
   }
-  printf("PEAK %s %zu MiB\n", GetParam().name.c_str(), (peak - std::min(memory, peak)) / kMebibyte);
   if (measured) {
     EXPECT_LT((peak - std::min(memory, peak)) / kMebibyte, GetParam().mebibytes);
   }

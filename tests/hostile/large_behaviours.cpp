@@ -33,7 +33,7 @@ HostileBehaviours largeBehaviours() {
        .outcome = takes("x", kLargestPage),
        .serve = sendsPageOf(kLargestPage, false),
        .timeoutSeconds = 30,
-       .mebibytes = 1000},
+       .mebibytes = 600},
       {.name = "PageOfOneByteMore",
        .outcome = tooLarge(),
        .serve = sendsPageOf(kLargestPage + 1, false),

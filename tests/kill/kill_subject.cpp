@@ -33,23 +33,11 @@ class Subject {
 
   void edit() {
     say("phase edit");
-    const TextTable sites = program_.data().getArraySites(0);
-    for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
-      const auto idSite = static_cast<std::int16_t>(std::stoi(sites.at(1, row)));
-      const std::string number = nextSerial();
-      const std::string what = " site " + sites.at(1, row) + " " + number;
-      say("editing" + what);
-      program_.data().updateSites(idSite, sites.at(2, row), sites.at(3, row), true, 10, false, number, "", "");
-      say("edited" + what);
+    for (int i = 0; i < kEdits; ++i) {
+      editSites();
+      editSettings();
+      editVariables();
     }
-    const std::string setting = nextSerial();
-    say("editing setting email " + setting);
-    program_.data().storeSettings({{"email", setting}, {"smtp", setting}});
-    say("edited setting email " + setting);
-    const std::string variable = nextSerial();
-    say("editing variable 1 " + variable);
-    program_.data().addPostVars(1, "n", variable);
-    say("edited variable 1 " + variable);
   }
 
   void pass() {
@@ -59,9 +47,17 @@ class Subject {
 
   void clearLog() {
     say("phase clear");
-    say("clearing");
-    program_.data().clearLog();
-    say("cleared");
+    for (int i = 0; i < kClearings; ++i) {
+      say("filling " + std::to_string(kRowsToClear));
+      program_.data().database().execute(
+          "insert into log (idSite,url,status,content) with recursive n(i) as (select 1 "
+          "union all select i + 1 from n where i < " +
+          std::to_string(kRowsToClear) + ") select i, 'u', i % 2, randomblob(2000) from n");
+      say("filled " + std::to_string(kRowsToClear));
+      say("clearing");
+      program_.data().clearLog();
+      say("cleared");
+    }
   }
 
   bool compact() {
@@ -72,6 +68,36 @@ class Subject {
   }
 
  private:
+  static constexpr int kEdits = 20;
+  static constexpr int kClearings = 5;
+  static constexpr int kRowsToClear = 300;
+
+  void editSites() {
+    const TextTable sites = program_.data().getArraySites(0);
+    for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+      const auto idSite = static_cast<std::int16_t>(std::stoi(sites.at(1, row)));
+      const std::string number = nextSerial();
+      const std::string what = " site " + sites.at(1, row) + " " + number;
+      say("editing" + what);
+      program_.data().updateSites(idSite, sites.at(2, row), sites.at(3, row), true, 10, false, number, "", "");
+      say("edited" + what);
+    }
+  }
+
+  void editSettings() {
+    const std::string setting = nextSerial();
+    say("editing setting email " + setting);
+    program_.data().storeSettings({{"email", setting}, {"smtp", setting}});
+    say("edited setting email " + setting);
+  }
+
+  void editVariables() {
+    const std::string variable = nextSerial();
+    say("editing variable 1 " + variable);
+    program_.data().addPostVars(1, "n", variable);
+    say("edited variable 1 " + variable);
+  }
+
   std::string nextSerial() { return std::to_string(serial_++); }
 
   Program& program_;

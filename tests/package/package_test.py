@@ -45,7 +45,7 @@ def expect(condition: bool, what: str) -> None:
 def need(*tools: str) -> None:
     missing = [tool for tool in tools if shutil.which(tool) is None]
     if missing:
-        raise Skip(f"{', '.join(missing)} not installed (scripts/package.sh installs what is missing)")
+        raise Skip(f"{', '.join(missing)} not installed (scripts/package.sh --test installs them)")
 
 
 def run(*command, status: int = 0, **options) -> str:

@@ -63,6 +63,13 @@ TEST_F(RunLockTest, DoesNotCountWhatAProcessThatIsGoneLeft) {
   EXPECT_EQ(refusalOfSecond(), "taken");
 }
 
+TEST_F(RunLockTest, DoesNotCountAFileWithoutANameAsAProcessLeavesThatIsKilledWhileItMakesIt) {
+  std::ofstream(folder.file("tarnwick.lock")).flush();
+  EXPECT_EQ(refusalOfSecond(), "taken");
+  RunLock third(folder.path());
+  EXPECT_THROW(third.take(), std::runtime_error) << "it has become a lock like any other";
+}
+
 TEST_F(RunLockTest, SaysThatAFolderIsMissing) {
   RunLock nowhere(folder.file("nowhere"));
   EXPECT_THROW(nowhere.take(), std::runtime_error);

@@ -141,6 +141,9 @@ TEST_F(SqliteValues, FieldsAreFoundByNameInAnyLetterCase) {
   EXPECT_EQ(records->fieldName(1), "The Address");
   EXPECT_EQ(records->field("IDSITE").toInt64(), 1);
   EXPECT_EQ(records->field("the address").toText(), "http://localhost");
+  const SqlValue kept = records->field("the address");
+  EXPECT_EQ(kept.toText(), "http://localhost");
+  EXPECT_EQ(kept.toTableText(), "http://localhost") << "giving its text away does not empty a value that is kept";
   EXPECT_THROW(records->field("addres"), DataAccessError);
   EXPECT_THROW(records->field(2), DataAccessError);
   EXPECT_THROW(records->fieldName(2), DataAccessError);

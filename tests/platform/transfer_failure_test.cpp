@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <chrono>
 
 #include "platform/curl_transfers.h"
@@ -159,6 +160,33 @@ TEST_F(TransferFailures, ChunkedPageCutShort) {
   expectFailure("/a", TransferFault::dropped, "The server " + place() + " broke the connection off during its answer.");
 }
 
+TEST_F(TransferFailures, ConnectionClosedInsideTheHeader) {
+  for (const std::string start : {"HTTP/1.1 200 OK\r\n", "HTTP/1.1 200 OK\r\nContent-Le"}) {
+    server_.respond("/a", {.raw = start});
+    expectFailure("/a", TransferFault::dropped,
+                  "The server " + place() + " broke the connection off during its answer.");
+    EXPECT_EQ(probe_.states, (States{1, 2, 3, 4, 5, 6, 7, 11}));
+  }
+}
+
+TEST_F(TransferFailures, LengthsThatDiffer) {
+  server_.respond("/a", {.raw = "HTTP/1.1 200 OK\r\nContent-Length: 5\r\nContent-Length: 6\r\n\r\nhello!"});
+  expectFailure("/a", TransferFault::dropped,
+                "The answer of the server " + place() + " is damaged: its length is not clear.");
+}
+
+TEST_F(TransferFailures, RedirectToAnInvalidAddress) {
+  server_.respond("/a", HttpResponse::redirect("http://127.0.0.1:99999/"));
+  expectFailure("/a", TransferFault::badUrl, "The server " + place() + " redirected to an address that is not valid.");
+}
+
+TEST_F(TransferFailures, RedirectToAScript) {
+  server_.respond("/a", HttpResponse::redirect("javascript://alert(1)"));
+  expectFailure("/a", TransferFault::badUrl,
+                "The server " + place() +
+                    " redirected to an address of a kind that is not fetched; only http, https, ftp and ftps are.");
+}
+
 TEST_F(TransferFailures, BadChunk) {
   server_.respond("/a", {.raw = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nzz\r\nhello\r\n0\r\n\r\n"});
   expectFailure("/a", TransferFault::dropped, "The answer of the server " + place() + " is damaged: bad chunk.");
@@ -233,6 +261,37 @@ TEST(TransferFailureWords, UnreachableHost) {
   EXPECT_EQ(failure.cause, "The host example.test cannot be reached from this machine.");
   EXPECT_EQ(failureWith(CURLE_COULDNT_CONNECT, ENETUNREACH).cause, failure.cause);
   EXPECT_EQ(failureWith(CURLE_COULDNT_CONNECT).cause, "No connection to example.test port 443 could be made.");
+}
+
+TEST(TransferFailureWords, ResetBeforeAnyAnswer) {
+  const std::string words = "The server example.test port 443 closed the connection without an answer.";
+  EXPECT_EQ(failureWith(CURLE_RECV_ERROR).cause, words);
+  const auto whileConnecting = failureWith(CURLE_COULDNT_CONNECT, ECONNRESET);
+  EXPECT_EQ(whileConnecting.fault, TransferFault::dropped);
+  EXPECT_EQ(whileConnecting.cause, words);
+}
+
+TEST(TransferFailureWords, ServerThatHangsUpOnAHandshake) {
+  for (const std::string detail : {"OpenSSL SSL_connect: SSL_ERROR_SYSCALL in connection to example.test:443 ",
+                                   "Recv failure: Connection reset by peer",
+                                   "OpenSSL/3.0: error:0A000126:SSL routines::unexpected eof while reading"}) {
+    const auto failure = failureWith(CURLE_SSL_CONNECT_ERROR, 0, detail);
+    EXPECT_EQ(failure.fault, TransferFault::secureConnection);
+    EXPECT_EQ(failure.cause,
+              "No secure connection to example.test port 443 could be made: the server closed the connection.");
+  }
+}
+
+TEST(TransferFailureWords, FtpServerThatIsTooBusyIsNoTimeOut) {
+  const auto failure = failureOf({.result = CURLE_OPERATION_TIMEDOUT, .url = "ftp://example.test/a", .status = 421});
+  EXPECT_EQ(failure.fault, TransferFault::dropped);
+  EXPECT_EQ(failure.cause, "The server example.test port 21 is not available for now.");
+}
+
+TEST(TransferFailureWords, EndlessChallengeIsNoRedirect) {
+  const auto failure = failureOf({.result = CURLE_TOO_MANY_REDIRECTS, .url = "http://example.test/a", .status = 401});
+  EXPECT_EQ(failure.fault, TransferFault::other);
+  EXPECT_EQ(failure.cause, "The server example.test port 80 asked for the user name and the password again and again.");
 }
 
 TEST(TransferFailureWords, SendFailure) {

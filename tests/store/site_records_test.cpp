@@ -26,9 +26,10 @@ class SiteRecordsTest : public DataFixture {
 
 TEST_F(SiteRecordsTest, FirstSiteGetsId1AndTheDefaults) {
   EXPECT_EQ(sites.addSite(), 1);
-  EXPECT_THAT(takeStatements(), ElementsAre("select max(idSite)+1 as mid from sites",
+  EXPECT_THAT(takeStatements(), ElementsAre("begin", "select max(idSite)+1 as mid from sites",
                                             "insert into sites (idSite,url,method,active,tInterval) values "
-                                            "(1,'http://localhost','GET',true,10)"));
+                                            "(1,'http://localhost','GET',true,10)",
+                                            "commit"));
   EXPECT_EQ(folder.queryRows("select idSite,url,method,active<>0,tInterval,lastChecked,alertEmail,email,sUserName,"
                              "sPassWord,status,success,failure,content_compare,content_runtime from sites"),
             "1|http://localhost|GET|1|10|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL\n");

@@ -13,6 +13,11 @@ TEST(SqlQuote, DoublesEverySingleQuote) {
   EXPECT_EQ(sqlQuote("''a'"), "''''a''");
 }
 
+TEST(SqlQuote, DoublesTheQuotesOfALongText) {
+  const std::string text = std::string(255, '\'') + "b" + std::string(600, '\'') + std::string(70'000, 'c') + "'";
+  EXPECT_EQ(sqlQuote(text), std::string(510, '\'') + "b" + std::string(1200, '\'') + std::string(70'000, 'c') + "''");
+}
+
 TEST(SqlQuote, LeavesEveryOtherByteAlone) {
   const std::string bytes("a|b\"c\\d\0e\xff\r\n", 12);
   EXPECT_EQ(sqlQuote(bytes), bytes);

@@ -74,7 +74,6 @@ class HostileVisit {
 
   /// The address of another behaviour, or of this one by its own name.
   std::string urlOf(const std::string& name) const;
-  const std::string& name() const { return name_; }
 
  private:
   class Tls;

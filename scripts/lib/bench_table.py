@@ -1,0 +1,290 @@
+#!/usr/bin/env python3
+"""Runs the contenders in turns and prints one table. Started by scripts/bench.sh, which builds what is measured.
+
+Each figure is the median of the runs. All contenders run once before any of them runs again, so that a busy moment of
+the machine falls on all of them. What a run starts from is put back before it, outside the measured time.
+"""
+
+import argparse
+import json
+import os
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+import urllib.request
+from pathlib import Path
+from types import SimpleNamespace
+
+import bench_contenders
+from bench_pages import page
+
+MOST_SITES = 32767
+HERE = Path(__file__).resolve().parent
+ROOT = HERE.parent.parent
+
+
+def measured(command, environment):
+    """Runs a command: wall seconds, processor seconds of it and all it started, its peak memory in MiB, status, output."""
+    with tempfile.TemporaryFile() as output, tempfile.NamedTemporaryFile() as peak:
+        # A process inherits the peak memory of the one it was forked from, so a small one stands between.
+        watched = ["/usr/bin/time", "--quiet", "--format", "%M", "--output", peak.name, *command]
+        begin = time.monotonic()
+        process = subprocess.Popen(watched, env=environment, stdin=subprocess.DEVNULL, stdout=output,
+                                   stderr=subprocess.STDOUT)
+        _, status, usage = os.wait4(process.pid, 0)
+        wall = time.monotonic() - begin
+        process.returncode = os.waitstatus_to_exitcode(status)
+        output.seek(0)
+        said = output.read()
+        memory = int(peak.read()) / 1024
+    return SimpleNamespace(wall=wall, cpu=usage.ru_utime + usage.ru_stime, memory=memory,
+                           status=process.returncode, said=said)
+
+
+class FastServer:
+    """nginx with one worker over files in memory."""
+
+    def __init__(self, folder):
+        self.folder = folder
+        self.pages = folder / "pages"
+        self.pages.mkdir(parents=True)
+        with subprocess.Popen([sys.executable, "-c", "import socket; s = socket.socket(); s.bind(('127.0.0.1', 0)); "
+                               "print(s.getsockname()[1])"], stdout=subprocess.PIPE) as chooser:
+            self.port = int(chooser.stdout.read())
+        config = folder / "nginx.conf"
+        config.write_text(
+            f"worker_processes 1; daemon off; user root; pid {folder}/nginx.pid; error_log {folder}/nginx.log;\n"
+            "events { worker_connections 1024; }\n"
+            f"http {{ access_log off; client_body_temp_path {folder}/t1; proxy_temp_path {folder}/t2;"
+            f" fastcgi_temp_path {folder}/t3; uwsgi_temp_path {folder}/t4; scgi_temp_path {folder}/t5;"
+            f" server {{ listen 127.0.0.1:{self.port} backlog=1024; root {self.pages}; }} }}\n",
+            encoding="ascii")
+        self.process = subprocess.Popen(["/usr/sbin/nginx", "-c", str(config)], stderr=subprocess.DEVNULL)
+        self.await_page()
+
+    def await_page(self):
+        (self.pages / "ready").write_text("yes", encoding="ascii")
+        for _ in range(100):
+            try:
+                urllib.request.urlopen(f"http://127.0.0.1:{self.port}/ready").read()
+                return
+            except OSError:
+                time.sleep(0.05)
+        sys.exit(f"The local server did not start; {self.folder}/nginx.log says why.")
+
+    def lay(self, sites, size, changed_every):
+        """The pages of a round. Replaced as a whole file each, never written in place."""
+        for number in range(1, sites + 1):
+            fresh = self.pages / "fresh"
+            fresh.write_bytes(page(number, size, changed_every))
+            fresh.rename(self.pages / f"p{number}")
+
+    def close(self):
+        self.process.terminate()
+        self.process.wait()
+
+
+class SlowServer:
+    """The benchmark's own server, which answers after a while and counts."""
+
+    def __init__(self, delay, size):
+        self.process = subprocess.Popen([sys.executable, str(HERE / "bench_server.py"), "--delay", str(delay), "--size",
+                                         str(size)], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self.port = int(self.process.stdout.readline())
+
+    def in_flight(self):
+        with urllib.request.urlopen(f"http://127.0.0.1:{self.port}/-/in-flight") as answer:
+            told = json.load(answer)
+        total = sum(told["seconds"].values()) or 1
+        mean = sum(int(count) * seconds for count, seconds in told["seconds"].items()) / total
+        return f"{told['served']} requests, at most {told['most']} in flight, {mean:.2f} on average"
+
+    def close(self):
+        self.process.stdin.close()
+        self.process.wait()
+
+
+def load():
+    return f"{os.getloadavg()[0]:.1f}"
+
+
+def round_of(contenders, place, runs, after=None):
+    """Every contender `runs` times in turns; {contender: [runs]}, and what was skipped and why."""
+    results, skipped = {}, []
+    for contender in list(contenders):
+        reason = contender.reason_to_skip(place)
+        if reason:
+            skipped.append(f"{contender.name} is left out: {reason}.")
+            continue
+        contender.prepare(place)
+        results[contender] = []
+    for contender in results:
+        if hasattr(contender, "learn"):
+            contender.learn(place)
+    if place.server and place.changed:
+        place.server.lay(place.sites, place.size, 10)
+    if after:
+        after()  # what came before does not count
+    for _ in range(runs):
+        for contender, taken in results.items():
+            contender.restore(place)
+            run = measured(contender.command(place), contender.environment(place))
+            if not contender.accepts(place, run.status, run.said):
+                tail = run.said[-400:].decode(errors="replace")
+                sys.exit(f"{contender.name} did not do what it was to do (status {run.status}):\n{tail}")
+            run.note = after() if after else ""
+            taken.append(run)
+    return results, skipped
+
+
+def print_row(cells):
+    print("| " + " | ".join(cells) + " |", flush=True)
+
+
+def print_head(title):
+    print(f"\n{title}\n")
+    print_row(["", "wall", "CPU a check", "peak memory", "load"])
+    print_row(["---", "---:", "---:", "---:", "---:"])
+
+
+def print_results(results, place):
+    wall_of = {}
+    for contender, runs in results.items():
+        wall = wall_of[type(contender)] = statistics.median(run.wall for run in runs)
+        cpu = statistics.median(run.cpu for run in runs) / place.sites * 1000
+        memory = statistics.median(run.memory for run in runs)
+        print_row([f"{contender.name} ({contender.note})", f"{wall:.2f} s", f"{cpu:.3f} ms", f"{memory:.1f} MiB", load()])
+    return wall_of
+
+
+def print_ratios(wall_of):
+    own = wall_of.get(bench_contenders.Tarnwick)
+    floor = [wall_of.get(kind) for kind in (bench_contenders.Curl, bench_contenders.BareStatements)]
+    if own and all(floor):
+        print_row(["floor: curl and bare statements, one after the other", f"{sum(floor):.2f} s", "", "", ""])
+        print(f"\ntarnwickctl takes {own / sum(floor):.2f} times the floor.", end="")
+        for kind in (bench_contenders.Urlwatch, bench_contenders.CheckHttp):
+            if kind in wall_of:
+                print(f" {kind.name} takes {wall_of[kind] / own:.1f} times as long as tarnwickctl.", end="")
+        print()
+
+
+def fast_rounds(options, tools, folder):
+    server = FastServer(folder / "fast")
+    try:
+        for sites in options.sites:
+            for changed in (False, True):
+                server.lay(sites, options.size, 0)
+                place = bench_contenders.Place(folder / "place", sites, options.size, server.port, changed, server)
+                results, skipped = round_of([kind(tools) for kind in bench_contenders.ALL], place, options.runs)
+                print_head(f"{sites} sites of {options.size} bytes, " + ("a tenth changed" if changed else "unchanged"))
+                print_ratios(print_results(results, place))
+                for line in skipped:
+                    print(line)
+                shutil.rmtree(place.folder, ignore_errors=True)
+    finally:
+        server.close()
+
+
+def slow_round(options, tools, folder):
+    server = SlowServer(options.delay, options.size)
+    try:
+        place = bench_contenders.Place(folder / "slow", options.slow_sites, options.size, server.port, False)
+        kinds = (bench_contenders.Tarnwick, bench_contenders.Curl, bench_contenders.Urlwatch, bench_contenders.CheckHttp)
+        results, _ = round_of([kind(tools) for kind in kinds], place, options.runs, server.in_flight)
+        ideal = options.slow_sites / 5 * options.delay / 1000
+        print_head(f"{options.slow_sites} sites, each answer after {options.delay} ms: at best {ideal:.2f} s")
+        wall_of = print_results(results, place)
+        print(f"\ntarnwickctl takes {wall_of[bench_contenders.Tarnwick] / ideal:.3f} times the ideal.")
+        for contender, runs in results.items():
+            print(f"{contender.name}, as the server saw it: {runs[-1].note}.")
+    finally:
+        server.close()
+
+
+def scale_round(options, tools, folder):
+    """What a check costs in a list of any length, and with a log of any length."""
+    server = FastServer(folder / "scale-server")
+    try:
+        server.lay(MOST_SITES, options.size, 0)
+        print_head("The product alone: as many sites as there can be, and a long log")
+        cost = {}
+        for name, sites, log_rows in (("100 sites", 100, 0), (f"{MOST_SITES} sites", MOST_SITES, 0),
+                                      ("2000 sites, log empty", 2000, 0),
+                                      ("2000 sites, log of 1,000,000 rows", 2000, 1_000_000)):
+            place = bench_contenders.Place(folder / "scale", sites, options.size, server.port, False)
+            contender = bench_contenders.Tarnwick(tools, log_rows)
+            contender.name, contender.note = name, "unchanged"
+            start = statistics.median(measured([str(tools.tarnwickctl), "--version"], None).cpu for _ in range(5))
+            results, _ = round_of([contender], place, options.runs)
+            print_results(results, place)
+            cost[name] = (statistics.median(run.cpu for run in results[contender]) - start) / sites * 1000
+            shutil.rmtree(place.folder)
+        print("\nCPU a check without the tool's own start: "
+              + ", ".join(f"{name} {value:.3f} ms" for name, value in cost.items()) + ".")
+    finally:
+        server.close()
+
+
+def window_round(options, tools, folder):
+    """The window's start, its smoothness in a pass, its memory and its rest, offscreen."""
+    server = FastServer(folder / "window-server")
+    environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", XDG_RUNTIME_DIR=str(folder))
+    try:
+        for sites, size, rest in ((2000, 10_000, 0), (MOST_SITES, 10_000, 20), (20, 10_000_000, 0)):
+            server.lay(sites, size, 0)
+            place = bench_contenders.Place(folder / "window", sites, size, server.port, False)
+            contender = bench_contenders.Tarnwick(tools)
+            contender.prepare(place)
+            contender.restore(place)
+            shutil.copytree(ROOT / "assets" / "images", contender.folder(place) / "images")
+            (contender.folder(place) / "reports").mkdir()
+            print(f"\nThe window with {sites} sites of {size} bytes (load {load()}):\n")
+            print(subprocess.run([str(tools.window_bench), str(contender.folder(place)), str(rest)], env=environment,
+                                 check=True, capture_output=True, text=True).stdout, end="", flush=True)
+            shutil.rmtree(place.folder)
+    finally:
+        server.close()
+
+
+PARTS = {"fast": fast_rounds, "slow": slow_round, "scale": scale_round, "window": window_round}
+
+
+def arguments():
+    parser = argparse.ArgumentParser(prog="scripts/bench.sh", description=__doc__)
+    parser.add_argument("--build", type=Path, required=True, help=argparse.SUPPRESS)
+    parser.add_argument("--quick", action="store_true", help="one run of each, 100 and 2000 sites, no part but fast and slow")
+    parser.add_argument("--only", choices=PARTS, action="append", help="this part alone; may be given more than once")
+    parser.add_argument("--sites", type=lambda text: [int(n) for n in text.split(",")], default=[100, 2000, 10000],
+                        help="numbers of sites of the part fast, separated by commas (default 100,2000,10000)")
+    parser.add_argument("--runs", type=int, default=5, help="runs of each contender (default 5)")
+    parser.add_argument("--size", type=int, default=10_000, help="bytes of a page (default 10000)")
+    parser.add_argument("--delay", type=int, default=100, help="milliseconds of a slow answer (default 100)")
+    parser.add_argument("--slow-sites", type=int, default=500, help="sites of the part slow (default 500)")
+    options = parser.parse_args()
+    if options.quick:
+        options.runs = 1
+        options.sites = [n for n in options.sites if n <= 2000]
+        options.slow_sites = min(options.slow_sites, 100)
+        options.only = options.only or ["fast", "slow"]
+    return options
+
+
+def main():
+    options = arguments()
+    tools = SimpleNamespace(tarnwickctl=options.build / "tarnwick" / "tarnwickctl",
+                            sql_floor=options.build / "bench" / "sql_floor",
+                            window_bench=options.build / "bench" / "window_bench",
+                            schema=(ROOT / "assets" / "schema.sql").read_text(encoding="utf-8"))
+    # Pages in memory, databases on the disk that TMPDIR names.
+    with tempfile.TemporaryDirectory(prefix="tarnwick-bench-") as disk:
+        for name in options.only or PARTS:
+            PARTS[name](options, tools, Path(disk))
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
