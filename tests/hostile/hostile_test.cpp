@@ -160,6 +160,7 @@ void HostileTest::expectTraces() const {
 
 void HostileTest::expectJudgedInTimeAndNobodyHarmed() {
   std::vector<std::int16_t> neighbours;
+  neighbours.reserve(kNeighboursBefore + kNeighboursAfter);
   for (int neighbour = 0; neighbour < kNeighboursBefore; ++neighbour) {
     neighbours.push_back(addNeighbour());
   }

@@ -51,7 +51,7 @@ void HostileDoors::open(Door& door) {
     // One connection fills a queue of this length; a few more make sure.
     for (int guest = 0; guest < 4; ++guest) {
       const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-      ::connect(socket, reinterpret_cast<const sockaddr*>(&address), size);
+      static_cast<void>(::connect(socket, reinterpret_cast<const sockaddr*>(&address), size));
     }
   }
 }
