@@ -175,6 +175,10 @@ pack() {
   archive=$PWD/$1/tarnwick-$version-windows-x86_64.zip
   rm -rf "$stage" "$archive"
   quietly "$1/install.log" cmake --install "$1" --strip --prefix "$stage"
+  if x86_64-w64-mingw32-objdump -p "$stage"/tarnwick/*.exe | grep -iE 'DLL Name: (lib|zlib|qt|sqlite)'; then
+    echo "The program needs the libraries named above, which Windows does not have." >&2
+    exit 1
+  fi
   (cd "$stage" && zip -qr -X "$archive" tarnwick)
   echo "The program folder for Windows is packed as $archive"
 }
