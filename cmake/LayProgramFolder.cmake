@@ -1,6 +1,6 @@
-# Lays the files of ASSETS into the program folder FOLDER, and the translations that lie in TRANSLATIONS where that is
-# given. What the user may change (the database, the mail template, the report) is laid there only when it is missing; the
-# rest is brought up to date. Needs the sqlite3 tool SQLITE3.
+# Lays the files of ASSETS into the program folder FOLDER, and where these are given the pages of the help that lie in
+# HELP and the translations that lie in TRANSLATIONS. What the user may change (the database, the mail template, the
+# report) is laid there only when it is missing; the rest is brought up to date. Needs the sqlite3 tool SQLITE3.
 file(MAKE_DIRECTORY "${FOLDER}/images" "${FOLDER}/reports" "${FOLDER}/fresh")
 set(readable PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 
@@ -41,6 +41,15 @@ file(GLOB images RELATIVE "${ASSETS}" "${ASSETS}/images/*.bmp" "${ASSETS}/images
 foreach(file IN LISTS images ITEMS reports/green.jpg reports/red.jpg)
   lay("${ASSETS}/${file}" "${file}")
 endforeach()
+
+if(EXISTS "${HELP}/index.html")
+  file(REMOVE_RECURSE "${FOLDER}/help")  # a page that is no more would be left
+  file(GLOB pages RELATIVE "${HELP}" "${HELP}/*.*" "${HELP}/images/*")
+  file(MAKE_DIRECTORY "${FOLDER}/help/images")
+  foreach(file IN LISTS pages)
+    lay("${HELP}/${file}" "help/${file}")
+  endforeach()
+endif()
 
 if(TRANSLATIONS)
   file(GLOB translations RELATIVE "${TRANSLATIONS}" "${TRANSLATIONS}/tarnwick_*.qm")

@@ -29,6 +29,7 @@ install(FILES ${packaging}/shared-installation.txt assets/help.html DESTINATION 
 install(FILES ${TARNWICK_FOLDER}/fresh/tarnwick.mdb assets/email.txt DESTINATION ${shared}/fresh ${system})
 install(FILES assets/reports/green.jpg assets/reports/red.jpg DESTINATION ${shared}/reports ${system})
 install(DIRECTORY assets/images DESTINATION ${shared} ${system} FILES_MATCHING PATTERN *.bmp PATTERN *.png)
+install(DIRECTORY ${TARNWICK_HELP} DESTINATION ${shared} ${system})
 if(TARGET translations)
   install(DIRECTORY ${TARNWICK_TRANSLATIONS} DESTINATION ${shared} ${system} FILES_MATCHING PATTERN *.qm)
 endif()

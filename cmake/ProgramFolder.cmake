@@ -9,10 +9,11 @@ add_custom_target(program_folder ALL
   COMMAND ${CMAKE_COMMAND}
     -D FOLDER=${TARNWICK_FOLDER}
     -D ASSETS=${CMAKE_SOURCE_DIR}/assets
+    -D HELP=${TARNWICK_HELP}
     -D TRANSLATIONS=${TARNWICK_TRANSLATIONS}
     -D SQLITE3=${SQLITE3_PROGRAM}
     -P ${CMAKE_SOURCE_DIR}/cmake/LayProgramFolder.cmake
-  DEPENDS tarnwick tarnwickctl
+  DEPENDS tarnwick tarnwickctl help_pages
   COMMENT "Laying out the program folder ${TARNWICK_FOLDER}"
   VERBATIM)
 if(TARGET translations)
@@ -24,6 +25,7 @@ install(TARGETS tarnwick tarnwickctl RUNTIME DESTINATION tarnwick)
 install(CODE "
   set(FOLDER \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/tarnwick\")
   set(ASSETS \"${CMAKE_SOURCE_DIR}/assets\")
+  set(HELP \"${TARNWICK_HELP}\")
   set(TRANSLATIONS \"${TARNWICK_TRANSLATIONS}\")
   set(SQLITE3 \"${SQLITE3_PROGRAM}\")
   include(\"${CMAKE_SOURCE_DIR}/cmake/LayProgramFolder.cmake\")")

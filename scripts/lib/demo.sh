@@ -32,7 +32,7 @@ lay_demo_folder() {
     return 1
   fi
   rm -rf "$demo_folder"
-  said=$(cmake -D FOLDER="$demo_folder" -D ASSETS="$PWD/assets" -D SQLITE3="$(command -v sqlite3)" \
+  said=$(cmake -D FOLDER="$demo_folder" -D ASSETS="$PWD/assets" -D HELP="$built/help" -D SQLITE3="$(command -v sqlite3)" \
     -P cmake/LayProgramFolder.cmake 2>&1) || {
     printf '%s\n' "$said" "The folder of the demo could not be laid out; the reason is above." >&2
     return 1

@@ -1,11 +1,13 @@
 # What the product needs of the Debian archive, and how a script gets it. Sourced, not run.
 # shellcheck shell=bash disable=SC2034
 
-# Compiler, build tools and the headers of the three libraries; sqlite3 makes the fresh database from the schema.
+# Compiler, build tools and the headers of the three libraries; sqlite3 makes the fresh database from the schema, and
+# python3-markdown-it the pages of the help.
 build_packages=(
   g++ cmake ninja-build ccache
   qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev
   libcurl4-openssl-dev libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev
+  python3 python3-markdown-it
 )
 
 # The certificates that https addresses are verified with, a font for the window, and the desktop's opener for pages and

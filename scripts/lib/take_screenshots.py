@@ -31,6 +31,8 @@ SITES = (
     ("/archive/2019/", 120, 0, 88, 0, False),
 )
 
+# The first one whose page has changed, by its number.
+CHANGED_SITE = 3
 # The site that is asked with POST, by its number, and what is posted.
 FORM_SITE = 5
 FORM = (("user", "monitor"), ("action", "sign in"), ("remember", "no"))
@@ -106,6 +108,36 @@ def press_all(session: DesktopSession, window: str, keys: str) -> None:
         session.press(window, key)
 
 
+def take_first_start(session: DesktopSession, folder: Path, errors: Path, address: str, pictures: Path) -> None:
+    """Starts on an empty list and adds the first site."""
+    process = session.start(folder / "tarnwick", errors)
+    window = session.window("Tarnwick", process)
+    settle()
+    take(session, window, pictures / "first-start.png")
+    session.press(window, "ctrl+n")
+    editor = session.window("Site", process)
+    settle()
+    subprocess.run(["xdotool", "type", "--delay", "30", address + "/news/"], env=session.env, check=True)
+    settle()
+    take(session, editor, pictures / "new-site.png")
+    session.press(editor, "Escape")
+    session.close(window)
+    process.wait(timeout=15)
+
+
+def take_change(session: DesktopSession, process: subprocess.Popen, window: str, pictures: Path) -> None:
+    """Loads the page of the site that has changed, and leaves its baseline as it was."""
+    press_all(session, window, "ctrl+Home" + " Down" * (CHANGED_SITE - 1) + " Return")
+    editor = session.window("Site", process)
+    session.press(editor, "alt+c")
+    dialog = session.window("Content", process)
+    session.press(dialog, "alt+l")
+    settle()
+    take(session, dialog, pictures / "content-loaded.png")
+    session.press(dialog, "Escape")
+    session.press(editor, "Escape")
+
+
 def take_dialogs(session: DesktopSession, process: subprocess.Popen, window: str, pictures: Path) -> None:
     """Opens the dialogs of a site as a person with a keyboard does, and takes their pictures."""
     press_all(session, window, "ctrl+Home" + " Down" * (FORM_SITE - 1) + " Return")
@@ -157,14 +189,20 @@ def main() -> int:
         folder = work / "tarnwick"
         shutil.copytree(built, folder, ignore=shutil.ignore_patterns("*.mdb*", "report.html"))
         database = folder / "tarnwick.mdb"
-        make_database(database, schema, f"http://127.0.0.1:{server.server_port}")
+        address = f"http://127.0.0.1:{server.server_port}"
         with DesktopSession(work) as session:
+            shutil.copy(built / "fresh" / "tarnwick.mdb", database)
+            take_first_start(session, folder, work / "errors.txt", address, pictures)
+            for file in folder.glob("tarnwick.mdb*"):
+                file.unlink()
+            make_database(database, schema, address)
             process = session.start(folder / "tarnwick", work / "errors.txt")
             window = session.window("Tarnwick", process)
             session.press(window, "F5")
             wait_until(lambda: checked(database), "the sites to be checked")
             threading.Event().wait(4)  # the countdown and the run clock get going
             take(session, window, pictures / "main-window.png")
+            take_change(session, process, window, pictures)
             take_dialogs(session, process, window, pictures)
             take_settings(session, process, window, pictures / "settings.png", database)
             session.close(window)

@@ -13,7 +13,7 @@ windows_core_packages=(
 # For the window: Qt's tools of the same version as its sources, and the display that its tests look at.
 windows_packages=(
   "${windows_core_packages[@]}"
-  qt6-base-dev qt6-base-dev-tools libz-mingw-w64-dev libcli11-dev nlohmann-json3-dev
+  qt6-base-dev qt6-base-dev-tools libz-mingw-w64-dev libcli11-dev nlohmann-json3-dev python3-markdown-it
   zip openssl python3-aiosmtpd xvfb xdotool imagemagick
 )
 
@@ -118,7 +118,7 @@ build_curl() {
     -DCURL_USE_SCHANNEL=ON -DCURL_WINDOWS_SSPI=ON -DUSE_WIN32_IDN=ON -DUSE_LIBIDN2=OFF -DUSE_UNIX_SOCKETS=OFF \
     -DCURL_USE_LIBSSH2=OFF -DCURL_USE_LIBPSL=OFF -DUSE_NGHTTP2=OFF -DCURL_BROTLI=OFF -DCURL_ZSTD=OFF -DCURL_ZLIB=ON \
     -DCURL_DISABLE_LDAP=ON -DCURL_DISABLE_LDAPS=ON -DCURL_DISABLE_TELNET=ON -DCURL_DISABLE_DICT=ON \
-    -DCURL_DISABLE_FILE=ON -DCURL_DISABLE_TFTP=ON -DCURL_DISABLE_GOPHER=ON -DCURL_DISABLE_MQTT=ON \
+    -DCURL_DISABLE_TFTP=ON -DCURL_DISABLE_GOPHER=ON -DCURL_DISABLE_MQTT=ON \
     -DCURL_DISABLE_SMB=ON -DCURL_DISABLE_RTSP=ON -DCURL_DISABLE_POP3=ON -DCURL_DISABLE_IMAP=ON \
     -DCURL_DISABLE_SMTP=ON -DENABLE_UNICODE=ON
   quietly "$windows_cache/log/curl.log" cmake --build "$build" --target install -- -j"$jobs"

@@ -1,5 +1,6 @@
 #include "alerts/mail_socket.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -8,6 +9,24 @@
 
 namespace tarnwick {
 namespace {
+
+/// Whether a number that is too far from 1 for a double, and not 0, is too large and not too small. `number` has no
+/// sign: what its exponent and the place of its first digit say together decides.
+bool isLarge(std::string_view number) {
+  const std::string_view digits = number.substr(0, number.find_first_of("eE"));
+  const auto point = static_cast<std::int64_t>(std::min(digits.find('.'), digits.size()));
+  const auto first = static_cast<std::int64_t>(digits.find_first_not_of("0."));
+
+  std::int64_t exponent = 0;
+  if (digits.size() < number.size()) {
+    std::string_view text = number.substr(digits.size() + 1);
+    text.remove_prefix(text.starts_with('+') ? 1 : 0);
+    if (std::from_chars(text.data(), text.data() + text.size(), exponent).ec == std::errc::result_out_of_range) {
+      return !text.starts_with('-');
+    }
+  }
+  return exponent > first - point;
+}
 
 /// The number that `text` is as a whole, in the forms in which people type numbers (250, +250, 2.5e2), rounded to a
 /// whole one, a half to the even neighbour; blanks and line ends around it do not count.
@@ -34,7 +53,7 @@ std::optional<double> typedNumber(std::string_view text) {
     return std::nullopt;
   }
   if (fault == std::errc::result_out_of_range) {
-    number = text.find('-') == std::string_view::npos ? std::numeric_limits<double>::infinity() : 0;
+    number = isLarge(text) ? std::numeric_limits<double>::infinity() : 0;
   }
   return std::nearbyint(negative ? -number : number);
 }

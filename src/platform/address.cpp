@@ -56,17 +56,11 @@ std::string completed(std::string_view text) {
 
 bool isControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
 
-}  // namespace
-
-std::optional<Address> parseAddress(const std::string& text) {
-  const std::string_view meant = trimmed(text);
-  // A line end or a NUL would end the request line early, and what follows would be taken for something else.
-  if (meant.empty() || std::ranges::any_of(meant, isControl)) {
-    return std::nullopt;
-  }
+/// `text` has a scheme.
+std::optional<Address> takenApart(const std::string& text) {
   const std::unique_ptr<CURLU, UrlCleanup> url(curl_url());
-  if (!url || curl_url_set(url.get(), CURLUPART_URL, completed(meant).c_str(),
-                           CURLU_NON_SUPPORT_SCHEME | CURLU_URLENCODE) != CURLUE_OK) {
+  if (!url ||
+      curl_url_set(url.get(), CURLUPART_URL, text.c_str(), CURLU_NON_SUPPORT_SCHEME | CURLU_URLENCODE) != CURLUE_OK) {
     return std::nullopt;
   }
   Address address{.url = part(url.get(), CURLUPART_URL),
@@ -77,7 +71,25 @@ std::optional<Address> parseAddress(const std::string& text) {
   if (address.host.find('%') != std::string::npos && !address.host.starts_with('[')) {
     return std::nullopt;
   }
+  // What is percent-encoded in a host name has become what it stands for.
+  if (std::ranges::any_of(address.url, isControl)) {
+    return std::nullopt;
+  }
   return address;
+}
+
+}  // namespace
+
+std::optional<Address> parseAddress(const std::string& text) {
+  const std::string_view meant = trimmed(text);
+  // A line end or a NUL would end the request line early, and what follows would be taken for something else.
+  if (meant.empty() || std::ranges::any_of(meant, isControl)) {
+    return std::nullopt;
+  }
+  const std::optional<Address> address = takenApart(completed(meant));
+  // The library takes it apart once more when it is fetched: a host that was percent-encoded may only now be seen to be
+  // a number, or no host at all.
+  return address ? takenApart(address->url) : std::nullopt;
 }
 
 bool isFetchedScheme(const std::string& scheme) {

@@ -29,7 +29,7 @@ int statusOf(std::string_view firstLine) {
   firstLine = trimmed(firstLine);
   int status = 0;
   std::from_chars(firstLine.data(), firstLine.data() + firstLine.size(), status);
-  return status;
+  return std::max(status, 0);
 }
 
 HeadFault AnswerHead::add(std::string_view line) {

@@ -48,10 +48,10 @@ std::string findProgram(const std::string& name) {
   const bool inFolder = name.find_first_of("/\\:") != std::string::npos;
   for (const std::string_view ending : kTriedEndings) {
     const std::string tried = name + std::string(ending);
-    const std::string path =
-        inFolder ? textOf((pathOf(programFolder()) / pathOf(tried)).make_preferred()) : searched(tried);
+    const std::string path = inFolder ? textOf(pathOf(programFolder()) / pathOf(tried)) : searched(tried);
     if (!path.empty() && kindOf(path) == FileKind::file) {
-      return path;
+      // Interpreters take a slash for the start of an option.
+      return QDir::toNativeSeparators(QString::fromStdString(path)).toStdString();
     }
   }
   return {};

@@ -12,7 +12,7 @@ std::filesystem::path pathOf(const std::string& utf8) {
 }
 
 std::string textOf(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
+  const std::u8string text = path.generic_u8string();
   return {text.begin(), text.end()};
 }
 

@@ -11,7 +11,7 @@
 namespace tarnwick {
 
 /// A path for taking apart and putting together; the functions below are what touches the disk. Raises FileError when
-/// the text holds a NUL character, which no name can.
+/// the text holds a NUL character, which no name can. The text of a path has slashes on every system.
 std::filesystem::path pathOf(const std::string& utf8);
 std::string textOf(const std::filesystem::path& path);
 

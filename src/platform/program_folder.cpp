@@ -58,8 +58,8 @@ void makePrivateFolder(const fs::path& folder) {
 /// The files that belong to the program and not to the user, relative to the folder.
 QStringList programFiles(const QDir& installation) {
   QStringList files;
-  for (const QString& pattern :
-       {QStringLiteral("help.html"), QStringLiteral("images/*"), QStringLiteral("reports/*.jpg")}) {
+  for (const QString& pattern : {QStringLiteral("help.html"), QStringLiteral("help/*"), QStringLiteral("help/images/*"),
+                                 QStringLiteral("images/*"), QStringLiteral("reports/*.jpg")}) {
     const QFileInfo place(pattern);
     const QDir folder(installation.filePath(place.path()));
     for (const QString& name : folder.entryList({place.fileName()}, QDir::Files, QDir::Name)) {
@@ -69,13 +69,17 @@ QStringList programFiles(const QDir& installation) {
   return files;
 }
 
+bool isUpToDate(const QString& path, const QByteArray& contents) {
+  QFile present(path);
+  return present.open(QIODevice::ReadOnly) && present.readAll() == contents;
+}
+
 /// Copies the program's own files where they are missing or differ.
 void layProgramFiles(const QDir& installation, const QDir& folder) {
   for (const QString& name : programFiles(installation)) {
     const QByteArray contents = contentsOf(installation.filePath(name));
     const QString target = folder.filePath(name);
-    QFile present(target);
-    if (present.open(QIODevice::ReadOnly) && present.readAll() == contents) {
+    if (isUpToDate(target, contents)) {
       continue;
     }
     folder.mkpath(QFileInfo(target).path());

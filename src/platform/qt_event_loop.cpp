@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QTimer>
 
+#include "platform/qt_event_wait.h"
+
 namespace tarnwick {
 namespace {
 
@@ -68,7 +70,7 @@ void QtEventPump::pump() { QCoreApplication::processEvents(); }
 
 void QtEventPump::waitForEvent() {
   if (!closing_) {
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    waitForQtEvent();
   }
 }
 

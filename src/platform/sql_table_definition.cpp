@@ -13,13 +13,13 @@ using Tokens = std::vector<SqlToken>;
 
 char lowered(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
 
-std::string joined(Tokens::const_iterator begin, Tokens::const_iterator end) {
-  std::string text;
-  for (auto token = begin; token != end; ++token) {
-    text += text.empty() ? "" : " ";
-    text += token->source;
+/// The pieces as they stand in their statement, with the blanks between them.
+std::string verbatim(Tokens::const_iterator begin, Tokens::const_iterator end) {
+  if (begin == end) {
+    return {};
   }
-  return text;
+  const std::string_view last = (end - 1)->source;
+  return {begin->source.data(), last.data() + last.size()};
 }
 
 bool startsConstraint(const SqlToken& token) {
@@ -32,9 +32,11 @@ void addItem(TableDefinition& definition, Tokens::const_iterator begin, Tokens::
     return;
   }
   if (startsConstraint(*begin)) {
-    definition.constraints.push_back(joined(begin, end));
+    definition.constraints.push_back(verbatim(begin, end));
   } else {
-    definition.columns.push_back({nameIn(*begin), joined(begin + 1, end)});
+    // SQLite takes a text for a name here.
+    const std::string name = begin->kind == SqlTokenKind::text ? textIn(*begin) : nameIn(*begin);
+    definition.columns.push_back({name, verbatim(begin + 1, end)});
   }
 }
 
@@ -76,7 +78,7 @@ TableDefinition parseTableDefinition(std::string_view createStatement) {
       itemBegin = token + 1;
     }
     if (depth == 0) {
-      definition.options = joined(itemBegin, tokens.end());
+      definition.options = verbatim(itemBegin, tokens.end());
       break;
     }
   }

@@ -15,6 +15,7 @@
 #include "support/smtp_server.h"
 #include "support/test_services.h"
 #include "support/wait_until.h"
+#include "support/system.h"
 
 namespace tarnwick {
 namespace {
@@ -338,6 +339,10 @@ TEST_F(Alerts, WaitSuspendsWithoutHandlingEvents) {
 /// A program of the test's own, which writes its arguments to the file "arguments", each in brackets.
 class StartedPrograms : public Alerts {
  protected:
+  void SetUp() override {
+    SKIP_ON_WINDOWS("The programs of these cases are scripts of a shell.");
+  }
+
   std::string writeProgram(const std::string& name = "alert.sh") {
     const std::string path = folder.file(name);
     const std::string result = folder.file("arguments");

@@ -82,6 +82,13 @@ INSTANTIATE_TEST_SUITE_P(Unclear, ReplyCode,
                                            Reply{"1e no", 0}, Reply{"e5 no", 0}, Reply{". no", 0}, Reply{"5,5 no", 0},
                                            Reply{"550\0 no"s, 0}, Reply{"1e-999 no", 0}));
 
+// Neither the sign of the exponent nor the number of digits alone tells what a double cannot hold.
+const std::string kManyZeros(400, '0');
+
+INSTANTIATE_TEST_SUITE_P(TooSmallForADouble, ReplyCode,
+                         ::testing::Values(Reply{"0." + kManyZeros + "1 no", 0}, Reply{"." + kManyZeros + "1e20 no", 0},
+                                           Reply{"1e-99999999999999999999 no", 0}));
+
 class TooLargeACode : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(TooLargeACode, IsReportedAndNeverWraps) {
@@ -102,7 +109,9 @@ TEST_P(TooLargeACode, IsReportedAndNeverWraps) {
 
 INSTANTIATE_TEST_SUITE_P(Any, TooLargeACode,
                          ::testing::Values("32768 no", "-32769 no", "65786 would wrap to 250",
-                                           "99999999999999999999 no", "1e9 no", "1e999 no"));
+                                           "99999999999999999999 no", "1e9 no", "1e999 no",
+                                           "1" + kManyZeros + "e-20 no", "-1" + kManyZeros + " no",
+                                           "0.1e99999999999999999999 no"));
 
 }  // namespace
 }  // namespace tarnwick

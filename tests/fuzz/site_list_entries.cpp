@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -14,12 +13,6 @@ namespace {
 
 using Reader = std::vector<ListedSite> (*)(std::string_view text, ListFaults& faults);
 using WriterMaker = std::unique_ptr<SiteListWriter> (*)(ListColumns columns, ByteSink sink);
-
-void require(bool holds, const char* what) {
-  if (!holds) {
-    throw std::logic_error(what);
-  }
-}
 
 std::string written(WriterMaker make, const std::vector<ListedSite>& sites) {
   std::string text;

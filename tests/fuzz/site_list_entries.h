@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-#include "fuzz/uu_entries.h"
+#include "fuzz/fuzz_target.h"
 
 namespace tarnwick::testing {
 

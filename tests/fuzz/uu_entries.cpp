@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -13,22 +12,6 @@
 
 namespace tarnwick::testing {
 namespace {
-
-void require(bool holds, const char* what) {
-  if (!holds) {
-    throw std::logic_error(what);
-  }
-}
-
-/// The first byte of the input, taken off it; 0 when there is none.
-std::size_t takeByte(std::string_view& input) {
-  if (input.empty()) {
-    return 0;
-  }
-  const auto byte = static_cast<unsigned char>(input.front());
-  input.remove_prefix(1);
-  return byte;
-}
 
 struct Outcome {
   std::string bytes;

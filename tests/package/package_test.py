@@ -27,8 +27,13 @@ from desktop_session import wait_until  # noqa: E402
 SKIPPED = 77
 PROGRAMS = ("tarnwick", "tarnwickctl")
 PICTURES = [f"images/{name}{state}.bmp" for name in ("new", "setup", "start", "stop") for state in ("", "h")]
+DOCS = Path(__file__).resolve().parent.parent.parent / "docs"
+GUIDE = [*(DOCS / "guide").glob("*.md"), *(DOCS / name for name in ("tarnwickctl.md", "security.md", "windows.md"))]
+HELP_FILES = {"help/style.css", *(f"help/{text.stem}.html" for text in GUIDE),
+              *(f"help/images/{name}" for text in GUIDE
+                for name in re.findall(r"!\[.*?\]\(\S*images/(.+?)\)", text.read_text(encoding="utf-8")))}
 PROGRAM_FILES = {"help.html", "images/logosmall.bmp", "images/tarnwick.png", "reports/green.jpg", "reports/red.jpg",
-                 *PICTURES}
+                 *PICTURES, *HELP_FILES}
 USER_FILES = {"tarnwick.mdb", "email.txt"}
 ICON_SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
 

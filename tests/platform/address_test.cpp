@@ -42,9 +42,17 @@ TEST(Address, OfAnotherSchemeIsValidButNotFetched) {
   }
 }
 
+TEST(Address, HasTheHostThatIsAskedThoughItIsEncoded) {
+  const auto address = parseAddress("http://%32222/");
+  ASSERT_TRUE(address);
+  EXPECT_EQ(address->host, "0.0.8.174");
+  EXPECT_EQ(address->url, "http://0.0.8.174/");
+}
+
 TEST(Address, WithAControlCharacterIsInvalid) {
   using namespace std::string_literals;
-  for (const std::string& text : {"http://a.test/\r\nb"s, "http://a.test/\0b"s, "http://a\x7f.test/"s, ""s, "  "s}) {
+  for (const std::string& text : {"http://a.test/\r\nb"s, "http://a.test/\0b"s, "http://a\x7f.test/"s,
+                                  "http://a%7F.test/"s, "http://%0d%0aa.test/"s, ""s, "  "s}) {
     EXPECT_FALSE(parseAddress(text));
   }
 }

@@ -98,6 +98,7 @@ TEST(AnswerHeadTest, StatusIsReadFromTheFirstLine) {
   EXPECT_EQ(statusOf("HTTP/1.0  200\r\n"), 200);
   EXPECT_EQ(statusOf("HTTP/1.1 fine"), 0);
   EXPECT_EQ(statusOf("HTTP/1.1"), 0);
+  EXPECT_EQ(statusOf("HTTP/1.1 -303"), 0);
 }
 
 }  // namespace

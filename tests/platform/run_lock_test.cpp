@@ -58,8 +58,8 @@ TEST_F(RunLockTest, LeavesNothingInTheFolder) {
 
 TEST_F(RunLockTest, DoesNotCountWhatAProcessThatIsGoneLeft) {
   // The form in which the lock keeps its holder: process, program, host.
-  std::ofstream(folder.file("tarnwick.lock")) << "99999999\ntarnwick\n"
-                                              << QSysInfo::machineHostName().toStdString() << "\n";
+  std::ofstream(folder.file("tarnwick.lock"), std::ios::binary) << "99999999\ntarnwick\n"
+                                                                << QSysInfo::machineHostName().toStdString() << "\n";
   EXPECT_EQ(refusalOfSecond(), "taken");
 }
 

@@ -121,13 +121,26 @@ TEST(SqlTableDefinition, IsTakenApartAndPutTogetherAgain) {
       " d, UNIQUE (d, a)) STRICT");
   ASSERT_EQ(definition.columns.size(), 3U);
   EXPECT_EQ(definition.columns[1].name, "b c");
-  EXPECT_EQ(definition.columns[1].rest, "TEXT DEFAULT 'x,y' CHECK ( length ( b ) IN ( 1 , 2 ) )");
+  EXPECT_EQ(definition.columns[1].rest, "TEXT DEFAULT 'x,y' CHECK (length(b) IN (1, 2))");
   EXPECT_EQ(definition.find("D"), &definition.columns[2]);
   EXPECT_EQ(definition.find("e"), nullptr);
-  EXPECT_EQ(
-      definition.createStatement("n\"n"),
-      "create table \"n\"\"n\" (\"a\" INTEGER PRIMARY KEY, \"b c\" TEXT DEFAULT 'x,y' CHECK ( length ( b ) IN ( 1 "
-      ", 2 ) ), \"d\", UNIQUE ( d , a )) STRICT");
+  EXPECT_EQ(definition.createStatement("n\"n"),
+            "create table \"n\"\"n\" (\"a\" INTEGER PRIMARY KEY, "
+            "\"b c\" TEXT DEFAULT 'x,y' CHECK (length(b) IN (1, 2)), \"d\", UNIQUE (d, a)) STRICT");
+}
+
+TEST(SqlTableDefinition, KeepsTypesAndDefaultsAsTheyAreWritten) {
+  const TableDefinition definition = parseTableDefinition("create table t (a decimal(10, -2) default -1.5e3 , b)");
+  ASSERT_EQ(definition.columns.size(), 2U);
+  EXPECT_EQ(definition.columns[0].rest, "decimal(10, -2) default -1.5e3");
+}
+
+TEST(SqlTableDefinition, TakesATextForAName) {
+  const TableDefinition definition = parseTableDefinition("create table 't' ('it''s a name' text, 'b')");
+  ASSERT_EQ(definition.columns.size(), 2U);
+  EXPECT_EQ(definition.columns[0].name, "it's a name");
+  EXPECT_EQ(definition.columns[0].rest, "text");
+  EXPECT_EQ(definition.createStatement("u"), "create table \"u\" (\"it's a name\" text, \"b\")");
 }
 
 TEST(SqlTableDefinition, OfAnythingElseHasNoColumns) {

@@ -7,6 +7,7 @@
 
 #include "open_database.h"
 #include "platform/errors.h"
+#include "platform/file_access.h"
 #include "support/system.h"
 
 namespace tarnwick::testing {
@@ -19,12 +20,13 @@ class SqliteConnectionTest : public ::testing::Test {
   /// Opens a copy of the fresh database under `name`, with `rest` behind the path in the connection string.
   bool opensAs(const std::string& name, const std::string& rest) {
     const std::string path = folder_.file(name);
-    fs::create_directories(fs::path(path).parent_path());
-    fs::copy_file(folder_.databasePath(), path, fs::copy_options::overwrite_existing);
+    fs::create_directories(tarnwick::pathOf(path).parent_path());
+    fs::remove(tarnwick::pathOf(path));
+    fs::copy_file(folder_.databasePath(), tarnwick::pathOf(path));
     const auto conn = databases_.makeSqlConnection();
     conn->open("provider=any;data source=" + path + rest);
     conn->execute("insert into sites (idSite) values (1)");
-    return conn->isOpen() && fs::exists(path + "-wal");
+    return conn->isOpen() && fs::exists(tarnwick::pathOf(path + "-wal"));
   }
   bool sideFilesExist() const {
     return fs::exists(folder_.file("tarnwick.mdb-wal")) || fs::exists(folder_.file("tarnwick.mdb-shm"));

@@ -2,7 +2,6 @@
 
 #include <QHostAddress>
 #include <QNetworkInterface>
-#include <QProcess>
 #include <QTcpServer>
 #include <QTcpSocket>
 
@@ -90,25 +89,6 @@ TEST_F(ATcpSocket, ReportsANameThatIsNoneAsAnError) {
     socket->connectTo(name, 25);
     EXPECT_TRUE(reaches(SocketState::error)) << name;
   }
-}
-
-// The program is closed in the middle of it: no name server is waited for then.
-TEST(ANameThatNobodyAnswersFor, DoesNotKeepTheProgramFromEnding) {
-  QProcess program;
-  program.start(QStringLiteral(TARNWICK_SILENT_NAMES_PROBE), QStringList());
-  const bool ended = program.waitForFinished(10000);
-  if (!ended) {
-    program.kill();
-    program.waitForFinished();
-  }
-  EXPECT_TRUE(ended);
-  EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
-  EXPECT_EQ(program.exitCode(), 0);
-}
-
-TEST_F(ATcpSocket, TriesTheNextAddressOfANameWhenTheFirstDoesNotAnswer) {
-  const QString port = QString::number(server.serverPort());
-  EXPECT_EQ(QProcess::execute(QStringLiteral(TARNWICK_SILENT_NAMES_PROBE), {port}), 0);
 }
 
 TEST_F(ATcpSocket, LooksNamesUpInTheBackgroundAndForgetsTheLookupWhenClosed) {

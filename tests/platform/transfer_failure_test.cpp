@@ -9,6 +9,7 @@
 #include "platform/curl_transfers.h"
 #include "support/http_message.h"
 #include "support/http_server.h"
+#include "support/system.h"
 #include "transfer_probe.h"
 
 namespace tarnwick::testing {
@@ -224,8 +225,12 @@ TEST_F(TransferFailures, PlainServerAskedForHttps) {
   server_.respond("/a", {.body = "plain"});
   probe_.fetch("https" + server_.url("/a").substr(4));
   EXPECT_EQ(probe_.fault(), TransferFault::secureConnection);
-  EXPECT_EQ(probe_.cause(), "No secure connection to " + place() + " could be made: wrong version number.");
-  EXPECT_EQ(probe_.states, (States{1, 2, 3, 4, 11}));
+  // Windows' own library gives no reason, nor tells when it begins.
+  EXPECT_EQ(probe_.cause(), "No secure connection to " + place() + " could be made" +
+                                (tarnwick::testing::kOnWindows ? "." : ": wrong version number."));
+  if (!tarnwick::testing::kOnWindows) {
+    EXPECT_EQ(probe_.states, (States{1, 2, 3, 4, 11}));
+  }
 }
 
 TEST_F(TransferFailures, NextRequestForgetsTheFailure) {

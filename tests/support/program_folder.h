@@ -18,9 +18,9 @@ class ProgramFolder {
   ProgramFolder& operator=(const ProgramFolder&) = delete;
 
   /// The folder, without a trailing separator.
-  std::string path() const { return folder_.string(); }
+  std::string path() const { return folder_.generic_string(); }
   /// A file or folder in it, for instance `file("images/start.bmp")`.
-  std::string file(const std::string& name) const { return (folder_ / name).string(); }
+  std::string file(const std::string& name) const { return (folder_ / name).generic_string(); }
   std::string databasePath() const { return file("tarnwick.mdb"); }
 
   /// Runs one or more statements; raises std::runtime_error with the database's message when one fails.

@@ -10,6 +10,9 @@ constexpr bool kOnWindows = true;
 constexpr bool kOnWindows = false;
 #endif
 
+/// The processor time that this process has used, in seconds.
+double processorSeconds();
+
 }  // namespace tarnwick::testing
 
 /// For a test of what there is no such thing as on Windows; the reason says what that is.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <QDir>
 #include <QRegularExpression>
 
 #include "ui/colour_text.h"
@@ -33,8 +34,9 @@ TEST_F(MasterTest, TheVersionIsMajorAndMinor) {
 
 TEST_F(MasterTest, AFolderThatIsNotTheProgramsOwnIsNamedAtTheFoot) {
   open();
-  EXPECT_TRUE(find<QLabel>("copyright").text().contains(QString::fromStdString(folder.path())));
-  EXPECT_TRUE(find<QLabel>("lblVersion").toolTip().contains(QString::fromStdString(folder.path())));
+  const QString shown = QDir::toNativeSeparators(QString::fromStdString(folder.path()));
+  EXPECT_TRUE(find<QLabel>("copyright").text().contains(shown));
+  EXPECT_TRUE(find<QLabel>("lblVersion").toolTip().contains(shown));
   EXPECT_EQ(master->windowTitle(), QStringLiteral("Tarnwick"));
 }
 

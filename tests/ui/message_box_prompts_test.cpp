@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -113,7 +114,8 @@ TEST_F(MessageBoxPromptsTest, AChosenFileIsGivenWithItsFullPath) {
     dialog.selectFile(path);
     static_cast<QDialog&>(dialog).accept();
   });
-  EXPECT_EQ(prompts.chooseFile(folder.path().toStdString(), "Audio Files (*.wav;*.au)|*.wav;*.au"), path.toStdString());
+  EXPECT_EQ(prompts.chooseFile(folder.path().toStdString(), "Audio Files (*.wav;*.au)|*.wav;*.au"),
+            QDir::toNativeSeparators(path).toStdString());
   EXPECT_EQ(filters.value(0), QStringLiteral("Audio Files (*.wav *.au)"));
 #ifndef Q_OS_WIN
   EXPECT_EQ(filters.value(1), QStringLiteral("All Files (*)")) << "a program without an ending can be chosen";

@@ -1,0 +1,273 @@
+#!/usr/bin/env python3
+"""What keeps the documentation true: every message is explained, every link leads somewhere, every picture is there.
+
+    docs_test.py FOLDER        checks the repository in FOLDER; exit status 1 with a line for each finding
+    docs_test.py --self-test   checks the checks themselves on small trees
+
+A message is a text of the sources in src/ that is worded for a reader: three words or more, unless it is a statement, a
+help text of the command line, a result that was asked for, or named in NO_MESSAGES below. Whatever is added to the
+sources counts as a message until one of these says otherwise. Its place is docs/guide/troubleshooting.md; values that
+the program puts into a text are written there as "..." and end what is compared.
+"""
+
+from __future__ import annotations
+
+import fnmatch
+import re
+import sys
+import tempfile
+from pathlib import Path
+
+MESSAGES = "docs/guide/troubleshooting.md"
+
+TOKEN = re.compile(r'//[^\n]*|/\*.*?\*/|R"(?P<mark>\w*)\((?P<raw>.*?)\)(?P=mark)"|"(?P<text>(?:[^"\\\n]|\\.)*)"'
+                   r"|'(?:[^'\\\n]|\\.)+'|#[^\n]*|\s+|[A-Za-z_]\w*|\d[\w.']*|.", re.DOTALL)
+ESCAPE = {"n": "\n", "r": "\r", "t": "\t", '"': '"', "\\": "\\"}
+
+# Texts inside of these calls are the command line's own help, results, names for the eye, or statements.
+HELP_CALLS = {"add_option", "add_flag", "add_subcommand", "description", "footer", "examples", "addText",
+              "addUpkeepVerb", "addSiteId", "addJsonFlag"}
+RESULT_CALLS = {"say", "told", "tell", "line"}
+LABEL_CALLS = {"addButton", "setToolTip", "setAccessibleName", "setWindowTitle", "named", "setTitle"}
+STATEMENT_CALLS = {"joinSql", "query", "execute", "rows", "sqlite3_exec", "firstText", "firstFlag", "firstField"}
+OTHER_CALLS = HELP_CALLS | RESULT_CALLS | LABEL_CALLS | STATEMENT_CALLS
+STATEMENT = re.compile(r"^[\s)']*(select|update|insert|delete|drop|alter|create|from|where|order by|and|begin|rollback|"
+                       r"release|pragma|vacuum|primary key|collate|values|rename to|not indexed) ", re.IGNORECASE)
+
+# Calls whose text is a message even when it is short.
+MESSAGE_CALLS = {"inform", "confirm", "complain", "runtime_error", "FileError", "DataAccessError", "OverflowError"}
+
+# Files, or texts of a file, that are worded but no messages; each with the reason. A text is given by its beginning.
+NO_MESSAGES = {
+    "src/alerts/uu_*": ("the encoder of attachments, which neither the window nor the tool reaches", ()),
+    "src/alerts/base64.cpp": ("who decodes says what is wrong in words of his own", ()),
+    "src/alerts/inet_pool.cpp": ("the states of a request, kept for callers of the pool and shown nowhere", ()),
+    "src/ui/*_layout.cpp": ("labels and hints of the window; the guide explains the controls", ()),
+    "src/ui/new_post_var.cpp": ("hints in the fields", ()),
+    "src/ui/site_grid_*.cpp": ("heads and hints of the list", ()),
+    "src/ui/master.cpp": ("the foot of the window, and hints", ()),
+    "src/ui/control_dialog.cpp": ("the kinds of files in the file dialog", ("Audio Files", "Program Files")),
+    "src/alerts/alert_dispatch.cpp": ("the subject of the mails", ("A WEB SITE ERROR",)),
+    "src/cli/settings_verb.cpp": ("the settings in the verb's help",
+                                  ("the address that", "the mail server that", "the .wav file", "the program that",
+                                   "how long a fetch", "write every", "write the daily", "send alert", "play the",
+                                   "start the")),
+    "src/cli/tool.cpp": ("the tool's own help", ("Tarnwick watches", "Exit status:")),
+    "src/cli/page_verbs.cpp": ("the head of a diff", ("--- baseline", "+++ latest")),
+    "src/cli/unified_diff.cpp": ("the word of every diff for it", (" No newline",)),
+    "src/cli/site_verbs.cpp": ("cells of the verb site", ("set; --show", "none yet:")),
+    "src/engine/run_controller.cpp": ("the run clock", ("Run Time:",)),
+    "src/platform/sqlite_tables.cpp": ("pieces of statements", ("INTEGER PRIMARY",)),
+    "src/platform/sqlite_errors.cpp": ("the library's words, which are taken away", ("CHECK constraint failed:",)),
+    "src/platform/transfer_failure.cpp": ("the library's words, which are looked for",
+                                          ("SSL certificate problem", "match connection hostname", "reset by peer")),
+    "src/platform/windows_command_line.cpp": ("arguments", ("/d /e:on",)),
+    "src/report/*.cpp": ("pieces of the page", ("<img",)),
+    "src/store/database.cpp": ("a connection string", (";Jet",)),
+    "src/store/result_log.cpp": ("the columns of a statement", ("rowid as",)),
+}
+
+
+class Source:
+    """The texts of a C++ source, each with its line and the names of the calls that it stands in."""
+
+    def __init__(self, text: str):
+        self.texts: list[tuple[int, str, list[str]]] = []
+        calls: list[str] = []
+        name = ""
+        pending: tuple[int, str] | None = None
+        for match in TOKEN.finditer(text):
+            token = match.group(0)
+            if token.isspace() or token.startswith(("//", "/*", "#")):
+                continue
+            piece = match.group("raw") if match.group("raw") is not None else match.group("text")
+            if piece is not None:
+                if match.group("raw") is None:
+                    piece = re.sub(r"\\(.)", lambda escape: ESCAPE.get(escape.group(1), escape.group(0)), piece)
+                line = text.count("\n", 0, match.start()) + 1
+                pending = (pending[0], pending[1] + piece) if pending else (line, piece)
+                continue
+            if pending:
+                self.texts.append((*pending, list(calls)))
+                pending = None
+            if token in "([{":
+                calls.append(name if token != "[" else "")
+            elif token in ")]}" and calls:
+                calls.pop()
+            name = token if re.match(r"\w", token) else ""
+
+
+def words_in(text: str) -> int:
+    return sum(1 for word in text.split() if re.search(r"[A-Za-z]", word))
+
+
+def is_message(text: str, calls: list[str]) -> bool:
+    if OTHER_CALLS.intersection(calls) or STATEMENT.match(text):
+        return False
+    return words_in(text) >= (2 if MESSAGE_CALLS.intersection(calls[-1:]) else 3)
+
+
+def is_excepted(name: str, text: str) -> bool:
+    return any(fnmatch.fnmatchcase(name, pattern) and (not beginnings or text.startswith(beginnings))
+               for pattern, (_, beginnings) in NO_MESSAGES.items())
+
+
+def worded(root: Path):
+    """The texts of the sources that are worded for a reader: file, line and text."""
+    for path in sorted((root / "src").rglob("*")):
+        if path.suffix not in (".h", ".cpp"):
+            continue
+        name = path.relative_to(root).as_posix()
+        for line, text, calls in Source(path.read_text(encoding="utf-8")).texts:
+            if is_message(text, calls):
+                yield name, line, text
+
+
+def messages(root: Path):
+    return ((name, line, text) for name, line, text in worded(root) if not is_excepted(name, text))
+
+
+def plain(text: str) -> str:
+    """A text without marks and quotes, and with single blanks: as it is compared."""
+    return " ".join(re.sub(r"[`*\\\"]", "", text).split())
+
+
+def every_message_is_explained(root: Path):
+    page = root / MESSAGES
+    explained = plain(page.read_text(encoding="utf-8")) if page.is_file() else ""
+    for name, line, text in messages(root):
+        for piece in re.split(r"%\d|\n", text):
+            if words_in(piece) >= 2 and plain(piece) not in explained:
+                yield (name, line, f'says "{piece.strip()}", which {MESSAGES} does not explain: add the message there with '
+                       "its meaning and the remedy, or name it in NO_MESSAGES of tests/docs_test.py if nobody reads it.")
+
+
+def slug(heading: str) -> str:
+    """The anchor of a heading, as GitHub makes it."""
+    return re.sub(r"[^\w\- ]", "", plain(re.sub(r"\[(.*?)\]\(.*?\)", r"\1", heading)).lower()).replace(" ", "-")
+
+
+def texts_of(root: Path) -> list[Path]:
+    return [*sorted(root.glob("*.md")), *sorted((root / "docs").rglob("*.md"))]
+
+
+def without_code(text: str) -> str:
+    """The same lines, those of code emptied: an example is no link."""
+    inside = False
+    lines = []
+    for line in text.splitlines():
+        fence = line.lstrip().startswith("```")
+        lines.append("" if inside or fence else re.sub(r"`[^`]*`", "", line))
+        inside ^= fence
+    return "\n".join(lines)
+
+
+def anchors_of(path: Path) -> set[str]:
+    inside = False
+    anchors = set()
+    for line in path.read_text(encoding="utf-8").splitlines():
+        if line.lstrip().startswith("```"):
+            inside = not inside
+        elif not inside and (heading := re.match(r"#+ +(.*)", line)):
+            anchors.add(slug(heading.group(1)))
+    return anchors
+
+
+def every_link_leads_somewhere(root: Path):
+    for path in texts_of(root):
+        name = path.relative_to(root).as_posix()
+        for number, line in enumerate(without_code(path.read_text(encoding="utf-8")).splitlines(), 1):
+            for link in re.findall(r"\]\(([^)\s]+)\)", line):
+                if re.match(r"[a-z]+:", link):
+                    continue
+                file, _, anchor = link.partition("#")
+                target = (path.parent / file).resolve() if file else path
+                if not target.exists():
+                    yield name, number, f"links to {link}, which is not there: correct the link or add what it names."
+                elif anchor and target.suffix == ".md" and anchor not in anchors_of(target):
+                    yield name, number, f"links to {link}, and no heading there has that anchor: correct it."
+
+
+def every_picture_is_used(root: Path):
+    shown = "".join(path.read_text(encoding="utf-8") for path in texts_of(root))
+    for picture in sorted((root / "docs" / "images").glob("*")):
+        if f"images/{picture.name})" not in shown:
+            yield (picture.relative_to(root).as_posix(), 1, "is shown by no text: show it, or delete it and what makes it "
+                   "in scripts/lib/take_screenshots.py.")
+
+
+def no_exception_is_stale(root: Path):
+    """Each exception still excepts something; only of the repository itself."""
+    texts = [(name, text) for name, _, text in worded(root)]
+    for pattern, (_, beginnings) in NO_MESSAGES.items():
+        for beginning in beginnings or ("",):
+            if not any(fnmatch.fnmatchcase(name, pattern) and text.startswith(beginning) for name, text in texts):
+                yield ("tests/docs_test.py", 1, f'excepts "{beginning}" in {pattern}, where no such text is any more: take it '
+                       "out of NO_MESSAGES.")
+
+
+CHECKS = (every_message_is_explained, every_link_leads_somewhere, every_picture_is_used)
+
+
+def findings(root: Path, checks=CHECKS) -> list[str]:
+    if not (root / "docs").is_dir():
+        return [f"{root}: there is no folder docs."]
+    return [f"{name}:{line}: {text}" for check in checks for name, line, text in check(root.resolve())]
+
+
+def findings_of(files: dict[str, str]) -> list[str]:
+    with tempfile.TemporaryDirectory(prefix="tarnwick-docs-") as folder:
+        for name, text in {"docs/index.md": "# Docs\n", **files}.items():
+            path = Path(folder, name)
+            path.parent.mkdir(parents=True, exist_ok=True)
+            path.write_text(text, encoding="utf-8")
+        return findings(Path(folder))
+
+
+def self_test() -> int:
+    explained = {MESSAGES: "| \"The list ... is `empty`\nnow.\" | | |\n"}
+    # Each tree, and a piece of the only finding that it must give; None for a tree without any.
+    trees = {
+        "an explained message": (None, {"src/a.cpp": 'f("The list " + x +\n  " is empty "\n  "now.");', **explained}),
+        "a message that nobody explains": ('src/a.cpp:2: says "is full now."', {
+            "src/a.cpp": 'f("The list ");\nthrow runtime_error(x + " is full now.");', **explained}),
+        "a short one in a box": ('says "Logs Cleared"', {"src/a.cpp": 'prompts.inform("Logs Cleared");'}),
+        "one with a place for a value": ('says "cannot be read today."', {
+            "src/a.cpp": 'tr("The list %1 cannot be read today.");', MESSAGES: "The list ... is fine."}),
+        "one in a raw text": ("says", {"src/a.cpp": 'fault(R"(no text: give {"a": 1} instead)");'}),
+        "statements, help and results": (None, {
+            "src/a.cpp": 'db.execute("update sites set url = 1");\nverb->add_option("X", x, "The name of a thing");\n'
+                         'console.say("All is well now.");\n// "not a text at all"\n#include "a b c"\n'}),
+        "a file that is excepted": (None, {"src/alerts/uu_code.cpp": 'f("No line begins here.");'}),
+        "a link to a file": (None, {"README.md": "[a](docs/index.md#docs) [b](https://example.org/x) `[c](d)`\n"}),
+        "a dead link": ("README.md:2: links to docs/away.md", {"README.md": "\n[a](docs/away.md)\n"}),
+        "a dead anchor": ("no heading there", {"README.md": "[a](docs/index.md#away)\n"}),
+        "an example in code": (None, {"README.md": "```\n[a](docs/away.md)\n# No heading\n```\n"}),
+        "a picture that is not there": ("links to x.png", {"docs/index.md": "![x](x.png)\n"}),
+        "a picture that is not shown": ("is shown by no text", {"docs/images/x.png": "x"}),
+    }
+    failures = 0
+    for title, (expected, files) in trees.items():
+        found = findings_of(files)
+        good = not found if expected is None else len(found) == 1 and expected in found[0]
+        if not good:
+            failures += 1
+            print(f"{title}: expected {expected!r}, found {found}", file=sys.stderr)
+    print(f"{len(trees) - failures} of {len(trees)} trees were judged rightly.")
+    return 1 if failures else 0
+
+
+def main() -> int:
+    if sys.argv[1:] == ["--self-test"]:
+        return self_test()
+    if len(sys.argv) != 2:
+        print(__doc__, file=sys.stderr)
+        return 2
+    found = findings(Path(sys.argv[1]), (*CHECKS, no_exception_is_stale))
+    for line in found:
+        print(line, file=sys.stderr)
+    print(f"{len(found)} findings." if found else "The documentation holds.")
+    return 1 if found else 0
+
+
+sys.exit(main())

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <vector>
+
+#include "fuzz/command_entries.h"
+#include "fuzz/mail_entries.h"
+#include "fuzz/sql_entries.h"
+#include "fuzz/uu_entries.h"
+
+namespace tarnwick::testing {
+
+/// The targets of what needs neither Qt nor libcurl nor the libraries of the terminal's front end.
+inline std::vector<FuzzTarget> coreFuzzTargets() {
+  std::vector<FuzzTarget> targets;
+  const auto add = [&targets](const auto& some) { targets.insert(targets.end(), some.begin(), some.end()); };
+  add(kCommandFuzzTargets);
+  add(kMailFuzzTargets);
+  add(kSqlFuzzTargets);
+  add(kUuFuzzTargets);
+  return targets;
+}
+
+}  // namespace tarnwick::testing
