@@ -25,7 +25,11 @@ struct Program::Parts {
 };
 
 Program::Program(std::string programFolder, const Services& services, RunView& view)
-    : programFolder_(std::move(programFolder)), services_(services), view_(view), faults_(services.prompts), lock_(programFolder_) {}
+    : programFolder_(std::move(programFolder)),
+      services_(services),
+      view_(view),
+      faults_(services.prompts),
+      lock_(programFolder_) {}
 
 Program::~Program() = default;
 

@@ -6,8 +6,8 @@
 #include "m.h"
 #include "platform/sql_value.h"
 #include "store/first_field.h"
-#include "store/sql_quote.h"
 #include "store/site_table.h"
+#include "store/sql_quote.h"
 
 namespace tarnwick {
 namespace {
@@ -46,9 +46,9 @@ SiteDraft readSite(m& data, std::int16_t idSite) {
   const auto text = [&](std::size_t column, const char* name) {
     const std::string& cell = sites.at(column, row);
     // Those four letters may be what was typed.
-    return cell != kNull ? cell
-                         : firstText(data.database(),
-                                     joinSql("select ", name, " from sites where idSite = ", sqlQuote(idSite)));
+    return cell != kNull
+               ? cell
+               : firstText(data.database(), joinSql("select ", name, " from sites where idSite = ", sqlQuote(idSite)));
   };
   return {text(site_column::url, "url"),
           text(site_column::method, "method"),

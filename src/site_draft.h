@@ -28,7 +28,8 @@ struct SiteDraft {
   bool operator==(const SiteDraft&) const = default;
 };
 
-/// Reads a site. A text of the letters "NULL" is told from a Null, which is empty. Raises DataAccessError, and std::runtime_error when there is no such site.
+/// Reads a site. A text of the letters "NULL" is told from a Null, which is empty. Raises DataAccessError, and
+/// std::runtime_error when there is no such site.
 SiteDraft readSite(m& data, std::int16_t idSite);
 
 /// Reads a site's POST variables. A text of the letters "NULL" is told from a Null, which is empty.

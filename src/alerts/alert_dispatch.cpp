@@ -29,9 +29,7 @@ std::string trimmed(std::string_view text) {
   return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
 }
 
-bool isFile(const std::string& path) {
-  return path.find('\0') == std::string::npos && kindOf(path) == FileKind::file;
-}
+bool isFile(const std::string& path) { return path.find('\0') == std::string::npos && kindOf(path) == FileKind::file; }
 
 /// A mail without its text is still an alert.
 std::string textOrNothing(TextFiles& files, const std::string& path) {

@@ -50,7 +50,7 @@ HeadlessPlatform::~HeadlessPlatform() = default;
 Services HeadlessPlatform::services() {
   Machine& machine = *machine_;
   return {machine.clock,   machine.pump,    machine.timers, machine.databases, machine.transfers,
-          machine.sockets, machine.prompts, *machine.sound,  machine.programs,  machine.opener};
+          machine.sockets, machine.prompts, *machine.sound, machine.programs,  machine.opener};
 }
 
 }  // namespace tarnwick

@@ -38,9 +38,9 @@ std::string forProgram(std::string_view argument) {
   return plain ? std::string(argument) : quoted(argument);
 }
 
-// Between quotes nothing has a meaning for cmd.exe but the quote itself and the percent sign. The quote is doubled, which
-// closes and opens; and before every percent sign stands the name of a variable that is always empty, so that no pair of
-// them can enclose a name.
+// Between quotes nothing has a meaning for cmd.exe but the quote itself and the percent sign. The quote is doubled,
+// which closes and opens; and before every percent sign stands the name of a variable that is always empty, so that no
+// pair of them can enclose a name.
 std::string forBatchFile(std::string_view argument) {
   std::string text = "\"";
   for (const char c : argument) {

@@ -7,15 +7,15 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/errors.h"
 #include "platform/detached_programs.h"
+#include "platform/errors.h"
 #include "store/site_records.h"
 #include "support/program_folder.h"
 #include "support/real_mail_server.h"
 #include "support/smtp_server.h"
+#include "support/system.h"
 #include "support/test_services.h"
 #include "support/wait_until.h"
-#include "support/system.h"
 
 namespace tarnwick {
 namespace {
@@ -339,9 +339,7 @@ TEST_F(Alerts, WaitSuspendsWithoutHandlingEvents) {
 /// A program of the test's own, which writes its arguments to the file "arguments", each in brackets.
 class StartedPrograms : public Alerts {
  protected:
-  void SetUp() override {
-    SKIP_ON_WINDOWS("The programs of these cases are scripts of a shell.");
-  }
+  void SetUp() override { SKIP_ON_WINDOWS("The programs of these cases are scripts of a shell."); }
 
   std::string writeProgram(const std::string& name = "alert.sh") {
     const std::string path = folder.file(name);

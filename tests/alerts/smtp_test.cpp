@@ -10,8 +10,8 @@
 #include "platform/qt_tcp_socket.h"
 #include "support/real_mail_server.h"
 #include "support/smtp_server.h"
-#include "support/wait_until.h"
 #include "support/system.h"
+#include "support/wait_until.h"
 
 namespace tarnwick {
 namespace {

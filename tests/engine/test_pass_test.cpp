@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-
 #include "platform/errors.h"
 #include "support/program_fixture.h"
 #include "support/system.h"

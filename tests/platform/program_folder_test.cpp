@@ -144,13 +144,13 @@ class SharedInstallationTest : public ::testing::Test {
   }
 
   const fs::path work = makeWork();
-  const std::string installation = (work / "usr").string();
+  const std::string installation = (work / "usr").generic_string();
   const fs::path user = work / "home" / "data" / "tarnwick";
-  const EnvironmentValue dataHome{"XDG_DATA_HOME", user.parent_path().string()};
+  const EnvironmentValue dataHome{"XDG_DATA_HOME", user.parent_path().generic_string()};
 };
 
 TEST_F(SharedInstallationTest, TheFirstStartLaysTheUsersFolder) {
-  EXPECT_EQ(start(), user.string());
+  EXPECT_EQ(start(), user.generic_string());
   EXPECT_THAT(namesIn(user),
               UnorderedElementsAre("tarnwick.mdb", "email.txt", "help.html", "help/index.html",
                                    "help/images/main-window.png", "images/start.bmp", "reports/green.jpg"));
@@ -173,7 +173,7 @@ TEST_F(SharedInstallationTest, ALaterStartLeavesWhatIsTheUsersAlone) {
   put(user / "tarnwick.mdb", "my sites");
   put(user / "email.txt", "my text");
   put(user / "reports" / "report.html", "my report");
-  EXPECT_EQ(start(), user.string());
+  EXPECT_EQ(start(), user.generic_string());
   EXPECT_EQ(get(user / "tarnwick.mdb"), "my sites");
   EXPECT_EQ(get(user / "email.txt"), "my text");
   EXPECT_EQ(get(user / "reports" / "report.html"), "my report");
@@ -195,7 +195,7 @@ TEST_F(SharedInstallationTest, AnUpgradeBringsThePicturesAndTheHelpPageUpToDate)
 TEST_F(SharedInstallationTest, ADatabaseThatIsLostLaterIsNotMadeAgain) {
   start();
   fs::remove(user / "tarnwick.mdb");
-  EXPECT_EQ(start(), user.string());
+  EXPECT_EQ(start(), user.generic_string());
   EXPECT_FALSE(fs::exists(user / "tarnwick.mdb"));
 }
 
@@ -231,7 +231,7 @@ TEST_F(SharedInstallationTest, AHomeThatCannotHoldTheFolderIsAnErrorThatNamesIt)
     start();
     FAIL() << "a folder was laid inside of a file";
   } catch (const FileError& error) {
-    EXPECT_THAT(error.what(), HasSubstr((work / "home").string()));
+    EXPECT_THAT(error.what(), HasSubstr((work / "home").generic_string()));
   }
 }
 
@@ -256,7 +256,7 @@ TEST_F(SharedInstallationTest, AFolderOfSomebodyElseLeadsToTheUsersOwn) {
   if (lookAt(installation).isWritable) {
     GTEST_SKIP() << "the system's administrator can write everywhere";
   }
-  EXPECT_EQ(start(), user.string());
+  EXPECT_EQ(start(), user.generic_string());
   EXPECT_EQ(get(user / "tarnwick.mdb"), "a fresh database");
   fs::permissions(installation, fs::perms::owner_all);
 }

@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "support/program_folder.h"
+#include "support/system.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -57,9 +58,10 @@ TEST_F(RunLockTest, LeavesNothingInTheFolder) {
 }
 
 TEST_F(RunLockTest, DoesNotCountWhatAProcessThatIsGoneLeft) {
-  // The form in which the lock keeps its holder: process, program, host.
-  std::ofstream(folder.file("tarnwick.lock"), std::ios::binary) << "99999999\ntarnwick\n"
-                                                                << QSysInfo::machineHostName().toStdString() << "\n";
+  // The form in which the lock keeps its holder: process, program, host, which Windows knows by another name.
+  const QString host =
+      tarnwick::testing::kOnWindows ? qEnvironmentVariable("COMPUTERNAME") : QSysInfo::machineHostName();
+  std::ofstream(folder.file("tarnwick.lock"), std::ios::binary) << "99999999\ntarnwick\n" << host.toStdString() << "\n";
   EXPECT_EQ(refusalOfSecond(), "taken");
 }
 

@@ -1,7 +1,6 @@
 // Cancelling, reusing and destroying transfer controls, several at once, and what waiting costs.
 #include <gtest/gtest.h>
 
-
 #include "platform/curl_transfers.h"
 #include "support/http_server.h"
 #include "support/system.h"
