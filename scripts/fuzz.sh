@@ -24,13 +24,15 @@ if ! [[ $seconds =~ ^[1-9][0-9]*$ ]]; then
   echo "\"$seconds\" is no number of seconds; see scripts/fuzz.sh --help." >&2
   exit 2
 fi
+all=(tests/fuzz/corpus/*)
+all=("${all[@]##*/}")
 targets=("${@:2}")
 if ((${#targets[@]} == 0)); then
-  mapfile -t targets < <(ls tests/fuzz/corpus)
+  targets=("${all[@]}")
 fi
 for target in "${targets[@]}"; do
   if ! [[ -d tests/fuzz/corpus/$target ]]; then
-    echo "There is no target $target. The targets are:" tests/fuzz/corpus/* >&2
+    echo "There is no target $target. The targets are: ${all[*]}" >&2
     exit 2
   fi
 done
@@ -44,6 +46,7 @@ learnt=build/fuzz/learnt
 mkdir -p "$findings"
 
 # fuzz TARGET: runs it and prints its line; what else it says goes into a file.
+# shellcheck disable=SC2317
 fuzz() {
   local target=$1 from=$SECONDS status=0 log=build/fuzz/$1.log runs
   mkdir -p "$learnt/$target"
@@ -64,6 +67,7 @@ export findings learnt seconds
 # A smaller quarantine of freed memory: dozens of fuzzers may run side by side.
 export ASAN_OPTIONS=${ASAN_OPTIONS:-quarantine_size_mb=16}
 status=0
+# shellcheck disable=SC2016
 printf '%s\0' "${targets[@]}" | xargs -0 -n 1 -P "$jobs" bash -c 'fuzz "$1" || exit 1' fuzz || status=1
 if ((status == 0)); then
   echo "Fuzzers: nothing found by ${#targets[@]} targets in $seconds s each."

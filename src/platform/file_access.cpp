@@ -1,6 +1,7 @@
 #include "platform/file_access.h"
 
 #include "platform/errors.h"
+#include "platform/path_text.h"
 
 namespace tarnwick {
 
@@ -8,12 +9,9 @@ std::filesystem::path pathOf(const std::string& utf8) {
   if (const auto nul = utf8.find('\0'); nul != std::string::npos) {
     throw FileError(utf8.substr(0, nul), "A file's name cannot hold a NUL character.");
   }
-  return {std::u8string(utf8.begin(), utf8.end())};
+  return pathOfText(utf8);
 }
 
-std::string textOf(const std::filesystem::path& path) {
-  const std::u8string text = path.generic_u8string();
-  return {text.begin(), text.end()};
-}
+std::string textOf(const std::filesystem::path& path) { return textOfPath(path); }
 
 }  // namespace tarnwick

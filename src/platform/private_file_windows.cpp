@@ -4,8 +4,11 @@
 #include <io.h>
 #include <sddl.h>
 
+#include <array>
 #include <cerrno>
+#include <cstddef>
 #include <memory>
+#include <string>
 #include <system_error>
 
 #include "platform/errors.h"
@@ -15,16 +18,37 @@
 namespace tarnwick {
 namespace {
 
-/// Full access for the owner and nobody else, and nothing taken over from the folder.
-constexpr const wchar_t* kOwnerOnly = L"D:P(A;;FA;;;OW)";
+/// Full access for the owner, whoever that becomes, and nothing taken over from the folder.
+const std::wstring kOwnerOnly = L"D:P(A;;FA;;;OW)";
 
 struct LocalFreer {
   void operator()(void* memory) const { LocalFree(memory); }
 };
 
+/// The user that this process works for, in the words of an access list; empty when that cannot be told.
+std::wstring accessOfThisUser() {
+  HANDLE raw = nullptr;
+  if (OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &raw) == FALSE) {
+    return {};
+  }
+  std::array<std::byte, sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE> room{};
+  DWORD size = 0;
+  const BOOL known = GetTokenInformation(raw, TokenUser, room.data(), static_cast<DWORD>(room.size()), &size);
+  CloseHandle(raw);
+  wchar_t* name = nullptr;
+  if (known == FALSE ||
+      ConvertSidToStringSidW(reinterpret_cast<const TOKEN_USER*>(room.data())->User.Sid, &name) == FALSE) {
+    return {};
+  }
+  const std::unique_ptr<void, LocalFreer> owner(name);
+  return L"(A;;FA;;;" + std::wstring(name) + L")";
+}
+
 std::unique_ptr<void, LocalFreer> ownerOnly(const std::string& path) {
+  // A member of the administrators makes files that belong to all of these.
+  const std::wstring list = kOwnerOnly + accessOfThisUser();
   PSECURITY_DESCRIPTOR descriptor = nullptr;
-  if (ConvertStringSecurityDescriptorToSecurityDescriptorW(kOwnerOnly, SDDL_REVISION_1, &descriptor, nullptr) ==
+  if (ConvertStringSecurityDescriptorToSecurityDescriptorW(list.c_str(), SDDL_REVISION_1, &descriptor, nullptr) ==
       FALSE) {
     throw FileError(path, systemMessage(GetLastError()));
   }

@@ -1,12 +1,16 @@
 #include <windows.h>
 
+#include <string_view>
+
 #include "platform/sqlite_file.h"
 #include "platform/windows_text.h"
 
 namespace tarnwick {
 namespace {
 
-/// SQLite's own name for its access to files whose names are longer than Windows takes by default.
+/// SQLite's own names for its usual access to files, and for the one that takes names longer than Windows does by
+/// default.
+constexpr std::string_view kUsualDisk = "win32";
 constexpr const char* kLongNames = "win32-longpath";
 /// Room for what SQLite puts behind the name.
 constexpr std::size_t kLongestEnding = 16;
@@ -20,7 +24,10 @@ std::string sqliteFileName(const std::string& path) {
 }
 
 int openSqliteFile(const std::string& path, int flags, sqlite3** database) {
-  return sqlite3_open_v2(sqliteFileName(path).c_str(), database, flags, kLongNames);
+  // What has been put before the usual access stays there.
+  const sqlite3_vfs* const disk = sqlite3_vfs_find(nullptr);
+  const bool isUsual = disk != nullptr && disk->zName == kUsualDisk;
+  return sqlite3_open_v2(sqliteFileName(path).c_str(), database, flags, isUsual ? kLongNames : nullptr);
 }
 
 bool liesOnNetwork(const std::string& path) {

@@ -5,6 +5,7 @@
 #include "cli/tool_fixture.h"
 #include "platform/sqlite_connection.h"
 #include "store/database.h"
+#include "support/system.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -58,7 +59,9 @@ TEST_F(CompactVerb, ShrinksTheDatabaseAndPrintsTheSizes) {
 
 TEST_F(CompactVerb, PrintsTheSizesForPeople) {
   EXPECT_EQ(run({"compact"}), exit_status::ok) << err;
-  EXPECT_THAT(out, MatchesRegex("The database is compacted: [0-9]+ bytes before, [0-9]+ bytes after\\. .*\n"));
+  EXPECT_THAT(out,
+              MatchesRegex(kOnWindows ? "The database is compacted: \\d+ bytes before, \\d+ bytes after\\. .*\n"
+                                      : "The database is compacted: [0-9]+ bytes before, [0-9]+ bytes after\\. .*\n"));
 }
 
 TEST_F(CompactVerb, FailsWithTheReasonWhileAnotherProgramHasTheDatabaseOpen) {

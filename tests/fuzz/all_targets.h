@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "fuzz/core_targets.h"
@@ -12,7 +14,7 @@ namespace tarnwick::testing {
 /// Beside the core's the targets of the terminal's front end and of what fetches pages.
 inline std::vector<FuzzTarget> furtherFuzzTargets() {
   std::vector<FuzzTarget> targets;
-  const auto add = [&targets](const auto& some) { targets.insert(targets.end(), some.begin(), some.end()); };
+  const auto add = [&targets](const auto& some) { std::copy(some.begin(), some.end(), std::back_inserter(targets)); };
   add(kPageFuzzTargets);
   add(kSiteListFuzzTargets);
   add(kTextFuzzTargets);
@@ -22,7 +24,7 @@ inline std::vector<FuzzTarget> furtherFuzzTargets() {
 inline std::vector<FuzzTarget> allFuzzTargets() {
   std::vector<FuzzTarget> targets = coreFuzzTargets();
   const std::vector<FuzzTarget> further = furtherFuzzTargets();
-  targets.insert(targets.end(), further.begin(), further.end());
+  std::copy(further.begin(), further.end(), std::back_inserter(targets));
   return targets;
 }
 

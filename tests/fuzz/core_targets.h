@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "fuzz/command_entries.h"
@@ -12,7 +14,7 @@ namespace tarnwick::testing {
 /// The targets of what needs neither Qt nor libcurl nor the libraries of the terminal's front end.
 inline std::vector<FuzzTarget> coreFuzzTargets() {
   std::vector<FuzzTarget> targets;
-  const auto add = [&targets](const auto& some) { targets.insert(targets.end(), some.begin(), some.end()); };
+  const auto add = [&targets](const auto& some) { std::copy(some.begin(), some.end(), std::back_inserter(targets)); };
   add(kCommandFuzzTargets);
   add(kMailFuzzTargets);
   add(kSqlFuzzTargets);
