@@ -156,23 +156,28 @@ void CurlEventLoop::wake() {
   if (!awake_) {
     awake_ = true;
     QMetaObject::invokeMethod(
-        &context_, [this] { dispatchOne(); }, Qt::QueuedConnection);
+        &context_, [this] { dispatch(); }, Qt::QueuedConnection);
   }
 }
 
-void CurlEventLoop::dispatchOne() {
+// All that wait, since a round of the event loop for each of the ten states of a request cost more than the request;
+// but none that these post, so that events that post each other let the others in.
+void CurlEventLoop::dispatch() {
   awake_ = false;
   retired_.clear();
-  if (events_.empty()) {
-    return;
+  const std::weak_ptr<char> alive = alive_;
+  for (std::size_t waiting = events_.size(); waiting > 0 && !events_.empty(); --waiting) {
+    const auto event = std::move(events_.front());
+    events_.pop_front();
+    if (!events_.empty()) {
+      // Before the event, which may wait for the ones behind it, and may destroy us.
+      wake();
+    }
+    event();
+    if (alive.expired()) {
+      return;
+    }
   }
-  const auto event = std::move(events_.front());
-  events_.pop_front();
-  if (!events_.empty()) {
-    // Before the event, which may wait for the ones behind it, and may destroy us.
-    wake();
-  }
-  event();
 }
 
 }  // namespace tarnwick

@@ -51,7 +51,7 @@ class CurlEventLoop {
   void act(curl_socket_t socket, int events);
   void collectEnded();
   void wake();
-  void dispatchOne();
+  void dispatch();
 
   CURLM* multi_;
   std::unordered_map<curl_socket_t, Watch> watches_;
@@ -60,6 +60,8 @@ class CurlEventLoop {
   std::unordered_map<CURL*, std::function<void(CURLcode)>> transfers_;
   std::deque<std::function<void()>> events_;
   bool awake_ = false;
+  // Tells whether an event has destroyed us.
+  std::shared_ptr<char> alive_ = std::make_shared<char>();
   std::chrono::steady_clock::time_point enteredAt_;
   QTimer timer_;
   QObject context_;

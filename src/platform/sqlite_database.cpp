@@ -78,7 +78,8 @@ SqliteDatabase::~SqliteDatabase() {
 void SqliteDatabase::openFile() {
   sqlite3* raw = nullptr;
   // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
-  const int result = openSqliteFile(path_, SQLITE_OPEN_READWRITE, &raw);
+  // Without locks between threads: there is only one.
+  const int result = openSqliteFile(path_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, &raw);
   handle_.reset(raw);
   if (result != SQLITE_OK) {
     throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path_, "");

@@ -55,6 +55,7 @@ void SqliteRecordset::moveFirst() {
     throw DataAccessError("The records have been closed.", sql_);
   }
   sqlite3_reset(loan_.get());
+  yesNo_.clear();
   advance();
 }
 
@@ -88,7 +89,18 @@ SqlValue SqliteRecordset::field(std::size_t index) const {
   if (!value) {
     database_->fail(sql_);
   }
-  return !value->isNull() && isYesNo(loan_.get(), column) ? SqlValue(value->toBool()) : *std::move(value);
+  return !value->isNull() && holdsYesNo(index) ? SqlValue(value->toBool()) : *std::move(value);
+}
+
+// Remembered, since a long list asks for each of its fields.
+bool SqliteRecordset::holdsYesNo(std::size_t index) const {
+  if (yesNo_.empty()) {
+    yesNo_.resize(fieldCount());
+    for (std::size_t column = 0; column < yesNo_.size(); ++column) {
+      yesNo_[column] = isYesNo(loan_.get(), static_cast<int>(column));
+    }
+  }
+  return yesNo_[index];
 }
 
 SqlValue SqliteRecordset::field(std::string_view name) const {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/sql_connection.h"
 #include "platform/sqlite_database.h"
@@ -29,11 +30,13 @@ class SqliteRecordset final : public Recordset {
  private:
   void advance();
   int checkedColumn(std::size_t index) const;
+  bool holdsYesNo(std::size_t index) const;
 
   SqliteDatabase* database_;
   StatementLoan loan_;
   bool onRow_;
   std::string sql_;
+  mutable std::vector<bool> yesNo_;
 };
 
 /// What a statement without rows returns.

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
 #include <string>
-#include <vector>
 
 namespace tarnwick {
 
@@ -34,7 +34,8 @@ class TextTable {
   }
 
   std::size_t columns_;
-  std::vector<std::string> cells_;
+  // Grows without moving what is there: a long list has some hundred thousand cells.
+  std::deque<std::string> cells_;
 };
 
 }  // namespace tarnwick

@@ -57,6 +57,18 @@ TEST_F(DueSitesTest, DueSitesAreActiveOnesInTheOrderOfTheirIds) {
   EXPECT_THAT(due.xgetSitesToTest(), ElementsAre(2, 9));
 }
 
+// With some ten thousand sites the window would stand still while the pages of the file that hold them are read.
+TEST_F(DueSitesTest, ListAndCountdownAreReadFromTheIndexAlone) {
+  for (const std::string& sql : {"select " + std::string(kSiteFields) + " from sites where active = 1 order by idSite",
+                                 std::string("select idSite, url, tInterval, lastChecked from sites where active = 1 "
+                                             "order by tInterval * 60 - datediff('s', lastChecked, '2024-01-01')")}) {
+    const auto plan = database.query("explain query plan " + sql);
+    ASSERT_FALSE(plan->eof());
+    EXPECT_THAT(plan->field("detail").toText(), HasSubstr("USING COVERING INDEX sites_list")) << sql;
+    plan->close();
+  }
+}
+
 TEST_F(DueSitesTest, AnyNonZeroFlagIsActive) {
   addSite(1, true, 10, "NULL");
   addSite(2, true, 10, "NULL");
