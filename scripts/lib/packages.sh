@@ -1,11 +1,11 @@
 # What the product needs of the Debian archive, and how a script gets it. Sourced, not run.
 # shellcheck shell=bash disable=SC2034
 
-# Compiler, build tools and the headers of the three libraries; sqlite3 makes the fresh database from the schema, and
-# python3-markdown-it the pages of the help.
+# Compiler, build tools and the headers of the three libraries; sqlite3 makes the fresh database from the schema,
+# python3-markdown-it the pages of the help, and qt6-l10n-tools the translations.
 build_packages=(
   g++ cmake ninja-build ccache
-  qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev
+  qt6-base-dev qt6-multimedia-dev qt6-l10n-tools libgl1-mesa-dev
   libcurl4-openssl-dev libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev
   python3 python3-markdown-it
 )
@@ -14,16 +14,16 @@ build_packages=(
 # reports. Qt's own plug-ins come with its libraries.
 run_packages=(ca-certificates fonts-dejavu-core xdg-utils)
 
-# The test libraries, the mail server of the tests, the system's certificates and what makes the tests' own, a display to start the program on, a sound
-# server that records what is played, and other people's encoders.
+# The test libraries, the mail server of the tests, the system's certificates and what makes the tests' own, a display
+# to start the program on, a sound server that records what is played, and other people's encoders.
 test_packages=(
   libgtest-dev libgmock-dev ca-certificates openssl python3 python3-aiosmtpd
   xvfb openbox xdotool wmctrl fonts-dejavu-core
   pulseaudio pulseaudio-utils sharutils
 )
 
-# What makes the packages: dependencies, compression, the window's translations.
-package_packages=(dpkg-dev file fakeroot gzip xz-utils qt6-l10n-tools)
+# What makes the packages: dependencies and compression.
+package_packages=(dpkg-dev file fakeroot gzip xz-utils)
 # What looks at them.
 package_test_packages=(lintian appstream desktop-file-utils man-db)
 

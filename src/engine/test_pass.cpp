@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <new>
 #include <utility>
 
 #include "engine/due_sites.h"
@@ -64,8 +65,8 @@ void TestPass::test(TextTable sites) {
   dispatchAll();
   awaitAllSlots();
   drain();
-  if (unusable_ && !stopped()) {
-    std::rethrow_exception(unusable_);
+  if (putOff_ && !stopped()) {
+    std::rethrow_exception(putOff_);
   }
 }
 
@@ -127,7 +128,7 @@ bool TestPass::hasUsableId(std::size_t row) {
     idSite(row);
     return true;
   } catch (const OverflowError&) {
-    unusable_ = unusable_ ? unusable_ : std::current_exception();
+    putOff(std::current_exception());
     return false;
   }
 }
@@ -177,6 +178,31 @@ void TestPass::judge(std::int16_t slot) {
 
 void TestPass::record(std::size_t row, const std::string& content, std::int32_t errCode,
                       const std::string& errDescription) {
+  try {
+    recordResult(row, content, errCode, errDescription);
+  } catch (const DataAccessError&) {
+    putOffUnlessGeneral();
+  } catch (const std::bad_alloc&) {
+    putOffUnlessGeneral();
+  }
+}
+
+// A page too large for what is left of the disk or of the memory must not keep the other sites from being watched, as
+// long as theirs can be recorded. REQUIRES: called from a handler of an exception.
+void TestPass::putOffUnlessGeneral() {
+  const std::exception_ptr fault = std::current_exception();
+  try {
+    needs_.results.proveRecording();
+  } catch (const std::exception&) {
+    std::rethrow_exception(fault);
+  }
+  putOff(fault);
+}
+
+void TestPass::putOff(const std::exception_ptr& fault) { putOff_ = putOff_ ? putOff_ : fault; }
+
+void TestPass::recordResult(std::size_t row, const std::string& content, std::int32_t errCode,
+                            const std::string& errDescription) {
   const std::int16_t id = idSite(row);
   Transaction whole = needs_.results.oneRecord();
   if (!stillAsSelected(row)) {

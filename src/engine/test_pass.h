@@ -21,8 +21,9 @@ class TestPass {
   TestPass(const TestPass&) = delete;
   TestPass& operator=(const TestPass&) = delete;
 
-  /// Tests the sites of `mode`, or those of a site table; returns early when the run is stopped. Raises OverflowError,
-  /// after all others have been tested, when a site's id does not fit 16 bits.
+  /// Tests the sites of `mode`, or those of a site table; returns early when the run is stopped. Raises,
+  /// after all others have been tested, OverflowError when a site's id does not fit 16 bits, and the fault that kept
+  /// the result of one site from being recorded while those of others could be.
   void test(std::int16_t mode);
   void test(TextTable sites);
 
@@ -40,6 +41,10 @@ class TestPass {
   void drain();
   void judge(std::int16_t slot);
   void record(std::size_t row, const std::string& content, std::int32_t errCode, const std::string& errDescription);
+  void recordResult(std::size_t row, const std::string& content, std::int32_t errCode,
+                    const std::string& errDescription);
+  void putOffUnlessGeneral();
+  void putOff(const std::exception_ptr& fault);
   bool stillAsSelected(std::size_t row) const;
   void nextRow();
   void showProgress();
@@ -54,8 +59,8 @@ class TestPass {
   TextTable sites_;
   std::vector<std::string> urls_;
   std::vector<std::int16_t> brightened_;
-  // What is wrong with the first id that cannot be used.
-  std::exception_ptr unusable_;
+  // The first fault that concerns one site alone, told when the others have been tested.
+  std::exception_ptr putOff_;
   std::size_t next_ = 1;
   std::int64_t progressStep_ = 0;
   std::int64_t progressWidth_ = -1;

@@ -344,6 +344,27 @@ TEST_F(TestPassTest, AnErrorEndsThePassWithLampsPoolAndGuardInOrder) {
   EXPECT_EQ(column(id, "success"), "1");
 }
 
+TEST_F(TestPassTest, AResultThatCannotBeRecordedIsToldAfterTheOthersHaveBeen) {
+  const std::int16_t good = addPage("/a", "a");
+  const std::int16_t refused = addPage("/b", "b");
+  std::vector<std::int16_t> after;
+  for (const char* path : {"/c", "/d", "/e", "/f", "/g", "/h"}) {
+    after.push_back(addPage(path, path));
+  }
+  folder.execute("create trigger no_room before update on sites when new.idSite = " + std::to_string(refused) +
+                 " and new.content_runtime <> '' begin select raise(abort, 'no room for this page'); end");
+  EXPECT_FALSE(program.startRun());
+  EXPECT_THAT(machine.prompts.texts(), ElementsAre(HasSubstr("no room for this page")));
+  EXPECT_EQ(column(good, "status"), "1");
+  for (const std::int16_t id : after) {
+    EXPECT_NE(column(id, "lastChecked"), "NULL") << "site " << id;
+  }
+  EXPECT_EQ(column(refused, "lastChecked"), "NULL");
+  EXPECT_EQ(folder.queryText("select count(*) from log where idSite = " + std::to_string(refused)), "0");
+  EXPECT_FALSE(run().busy());
+  EXPECT_EQ(view.lamps.back(), RunState::pause);
+}
+
 TEST_F(TestPassTest, AnIdOutsideSixteenBitsIsAnErrorThatNamesIt) {
   folder.execute("insert into sites (idSite,url,method,active,tInterval) values (70000,'" + server.url("/a") +
                  "','GET',1,10)");
