@@ -33,7 +33,12 @@ while (($# > 0)); do
     --demo) demo=yes ;;
     --terminal) place=terminal ;;
     --built)
-      built=$(cd "$called_from" && realpath -- "${2:?"--built needs a folder, for instance build/release"}")
+      if (($# < 2)); then
+        echo "--built needs a folder, for instance build/release" >&2
+        usage >&2
+        exit 2
+      fi
+      built=$(cd "$called_from" && realpath -- "$2")
       shift
       ;;
     --)
@@ -88,6 +93,9 @@ if [[ $demo == yes ]]; then
 else
   folder=$built/tarnwick
   said+="The program folder is $folder. "
+  if [[ $place == terminal ]]; then
+    said+="Its list is changed, from another terminal, by $folder/tarnwickctl. "
+  fi
 fi
 
 if [[ $place == window ]]; then
@@ -99,7 +107,4 @@ if [[ $place == window ]]; then
 fi
 
 echo "${said}Ctrl+C ends it." >&2
-if [[ $("$folder/tarnwickctl" --folder "$folder" sites --json 2>/dev/null) == "[]" ]]; then
-  echo "The list is empty. Add the first site, from another terminal: $folder/tarnwickctl add URL" >&2
-fi
 exec "$folder/tarnwickctl" --folder "$folder" run "$@"

@@ -1,12 +1,17 @@
+#include <exception>
 #include <iostream>
+#include <new>
 #include <string>
 #include <vector>
 #include <QCoreApplication>
 
 #include "cli/tool.h"
 #include "platform/headless_platform.h"
+#include "platform/unwanted_signals.h"
 
-int main(int argc, char** argv) {
+namespace {
+
+int run(int argc, char** argv) {
   // The application object takes arguments of its own away, so the tool's are kept first.
   const std::vector<std::string> arguments = tarnwick::programArguments(argc, argv);
   tarnwick::prepareStandardStreams();
@@ -16,4 +21,24 @@ int main(int argc, char** argv) {
   tarnwick::Console console(std::cout, std::cerr, tarnwick::standardOutputFacts());
   return tarnwick::runTool(arguments, QCoreApplication::applicationDirPath().toStdString(), machine.services(),
                            console);
+}
+
+// Where not even the tool could be made, and so nothing that complains.
+int failed(const char* why) {
+  std::cerr << "tarnwickctl: " << why << '\n';
+  return tarnwick::exit_status::failed;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  tarnwick::ignoreUnwantedSignals();
+  try {
+    return run(argc, argv);
+  } catch (const std::bad_alloc&) {
+    // Its own text is the name of the class.
+    return failed("There is not enough memory for this.");
+  } catch (const std::exception& error) {
+    return failed(error.what());
+  }
 }

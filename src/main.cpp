@@ -4,12 +4,14 @@
 #include "fault_box.h"
 #include "platform/desktop/desktop_platform.h"
 #include "platform/program_folder.h"
+#include "platform/unwanted_signals.h"
 #include "ui/control_dialog.h"
 #include "ui/master.h"
 #include "ui/site_editor.h"
 #include "ui/translations.h"
 
 int main(int argc, char** argv) {
+  tarnwick::ignoreUnwantedSignals();
   QApplication application(argc, argv);
   QApplication::setApplicationName(QString::fromLatin1(tarnwick::kProductName));
   QApplication::setApplicationVersion(QStringLiteral(TARNWICK_VERSION));

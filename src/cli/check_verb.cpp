@@ -11,6 +11,9 @@
 namespace tarnwick {
 namespace {
 
+// A command that names more is none to be typed.
+constexpr std::size_t kMostNamed = 10;
+
 struct CheckOptions {
   std::vector<std::int16_t> ids;
   bool due = false;
@@ -97,6 +100,22 @@ TextTable chosenSites(m& data, const CheckOptions& options) {
   return chosen;
 }
 
+// A site that was never checked is never due, and who only ever asks for those that are would never hear of it.
+void tellWhatIsNeverDue(Console& console, m& data) {
+  const TextTable sites = data.getArraySitesActiveTrue(site_choice::active);
+  std::size_t count = 0;
+  std::string ids;
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    if (sites.at(site_column::lastChecked, row) == "NULL" && ++count <= kMostNamed) {
+      ids += " " + sites.at(site_column::idSite, row);
+    }
+  }
+  if (count > 0) {
+    console.complain("Left out, since never checked: " + std::to_string(count) + (count == 1 ? " site" : " sites") +
+                     ". Check once with: tarnwickctl check" + (count > kMostNamed ? "" : ids));
+  }
+}
+
 int check(Tool& tool, const CheckOptions& options) {
   Console& console = tool.console();
   CheckView view(console, options.json);
@@ -109,6 +128,9 @@ int check(Tool& tool, const CheckOptions& options) {
   if (count == 0) {
     console.complain(options.due ? "No site is due."
                                  : "There is no active site to check. Add one with: tarnwickctl add URL");
+  }
+  if (options.due) {
+    tellWhatIsNeverDue(console, program.data());
   }
   bool whole = true;
   try {
@@ -133,8 +155,10 @@ void addCheckVerb(CLI::App& app, Action& chosen) {
   CLI::App* verb =
       app.add_subcommand("check", "Check sites once, now: all active ones, those named, or those that are due");
   CLI::Option* ids = verb->add_option("ID", options->ids, "The sites to check, active or not");
-  ids->check(decimalNumber());
-  verb->add_flag("--due", options->due, "Only the active sites whose interval has elapsed")->excludes(ids);
+  ids->check(siteNumber());
+  verb->add_flag("--due", options->due,
+                 "Only the active sites whose interval has elapsed; one that was never checked is none of them")
+      ->excludes(ids);
   addJsonFlag(*verb, options->json);
   verb->footer(
       "Each result is recorded, and each failure raises the alerts that the settings switch on, as in a run.\n"

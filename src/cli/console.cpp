@@ -1,6 +1,7 @@
 #include "cli/console.h"
 
 #include <array>
+#include <cerrno>
 #include <cstdio>
 #include <iostream>
 
@@ -51,7 +52,8 @@ bool movesTheCursor(std::string_view character) {
   }
   const auto second = static_cast<unsigned char>(character[1]);
   if (character.size() == 2) {
-    return first == 0xc2 && second < 0xa0;
+    const bool arabicLetterMark = first == 0xd8 && second == 0x9c;  // U+061C
+    return (first == 0xc2 && second < 0xa0) || arabicLetterMark;
   }
   const auto third = static_cast<unsigned char>(character[2]);
   // U+200E, U+200F, U+2028 to U+202E and U+2066 to U+2069
@@ -63,6 +65,7 @@ bool movesTheCursor(std::string_view character) {
 }  // namespace
 
 std::ostream& Console::out() {
+  noteFailure();
   endLive();
   return out_;
 }
@@ -71,6 +74,7 @@ void Console::say(std::string_view line) {
   const std::string below = live_;
   out() << line << '\n';
   out_.flush();
+  noteFailure();
   if (!below.empty()) {
     live(below);
   }
@@ -78,6 +82,7 @@ void Console::say(std::string_view line) {
 
 void Console::complain(std::string_view line) {
   endLive();
+  hasComplained_ = true;
   err_ << "tarnwickctl: " << line << '\n';
   err_.flush();
 }
@@ -100,6 +105,7 @@ void Console::live(const std::string& text) {
   live_ = text;
   out_ << "\r\x1b[K" << visibleText(text, width > 1 ? width - 1 : 1);
   out_.flush();
+  noteFailure();
 }
 
 void Console::endLive() {
@@ -116,6 +122,20 @@ std::string Console::coloured(Colour colour, std::string_view text) const {
 }
 
 bool Console::good() const { return out_.good(); }
+
+// Only the attempt itself tells the reason, and not for long.
+void Console::noteFailure() {
+  if (!out_.good() && cause_ == 0) {
+    cause_ = errno != 0 ? errno : EIO;
+  }
+}
+
+std::error_code Console::flush() {
+  endLive();
+  out_.flush();
+  noteFailure();
+  return {cause_, std::generic_category()};
+}
 
 std::size_t characterCount(std::string_view text) {
   std::size_t count = 0;

@@ -5,6 +5,7 @@
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "platform/terminal.h"
 
@@ -42,13 +43,22 @@ class Console {
   std::string coloured(Colour colour, std::string_view text) const;
   /// False once something could not be written, for instance since the reader of a pipe has gone.
   bool good() const;
+  /// Hands on all data that was written, and tells why that cannot be done; no error when it is all out.
+  std::error_code flush();
+  /// Whether there has been something to complain of.
+  bool hasComplained() const { return hasComplained_; }
 
  private:
+  void noteFailure();
+
   std::ostream& out_;
   std::ostream& err_;
   TerminalFacts facts_;
   std::function<std::size_t()> width_;
   std::string live_;
+  bool hasComplained_ = false;
+  /// The system's number of the first failure to write; 0 before it.
+  int cause_ = 0;
 };
 
 /// Bytes as they may be shown in a line of text: what would move the cursor, change the terminal or break the line is

@@ -1,8 +1,8 @@
 #include <algorithm>
-#include <iostream>
-#include <iterator>
 #include <ostream>
 
+#include "cli/consent.h"
+#include "cli/input_file.h"
 #include "cli/json_text.h"
 #include "cli/site_import.h"
 #include "cli/site_list_csv.h"
@@ -30,6 +30,7 @@ struct ImportVerbOptions {
   std::string format;
   ImportOptions how;
   bool dryRun = false;
+  bool yes = false;
   bool json = false;
 };
 
@@ -108,8 +109,7 @@ int exportList(Tool& tool, const ExportOptions& options) {
   if (options.file == kStream) {
     std::ostream& out = console.out();
     writeList(tool, format, columns, [&out](std::string_view bytes) { out << bytes; });
-    out.flush();
-    if (!console.good()) {
+    if (console.flush()) {
       throw std::runtime_error("Standard output took not all of the list.");
     }
     return exit_status::ok;
@@ -123,8 +123,7 @@ int exportList(Tool& tool, const ExportOptions& options) {
 
 std::vector<ListedSite> readList(const ImportVerbOptions& options, ListFaults& faults) {
   const Format format = formatOf(options.file, options.format);
-  const std::string text = options.file == kStream ? std::string(std::istreambuf_iterator<char>(std::cin), {})
-                                                   : TextFiles::getFile(options.file);
+  const std::string text = readInput(options.file);
   return format == Format::csv ? readSiteListCsv(text, faults) : readSiteListJson(text, faults);
 }
 
@@ -205,10 +204,21 @@ ImportPlan planOrRaise(m& data, std::vector<ListedSite> sites, const ImportOptio
   return plan;
 }
 
+// A file without a site is more often a slip than the wish to have none.
+bool mayReplace(Tool& tool, const ImportVerbOptions& options, const std::vector<ListedSite>& sites) {
+  const std::size_t stored = sites.empty() && options.how.replace ? tool.data().getArraySites(0).lastRow() : 0;
+  return stored == 0 || consents(tool.console(), options.yes,
+                                 "The file has no site. Delete all that are in the list (" + std::to_string(stored) +
+                                     ") with their POST variables and baselines?");
+}
+
 int importList(Tool& tool, const ImportVerbOptions& options) {
   ListFaults faults;
   std::vector<ListedSite> sites = readList(options, faults);
   m& data = tool.data();
+  if (!options.dryRun && faults.none() && !mayReplace(tool, options, sites)) {
+    return exit_status::failed;
+  }
   try {
     if (options.dryRun) {
       const Snapshot oneState(data.database());
@@ -240,7 +250,7 @@ void addExportVerb(CLI::App& app, Action& chosen) {
   verb->add_flag("--no-passwords", options->noPasswords, "Leave the passwords out; an import then keeps those stored");
   verb->add_flag("--baselines", options->baselines, "Write the pages that the sites are compared with as well");
   verb->footer(
-      "The file holds what has been set for each site, with its POST variables; what checks have found is not part of\n"
+      "The file holds what has been set for each site, with its POST variables; what checks have found is not part of "
       "it. Only you can read it, and one that is there already is replaced when the new one is complete.\n" +
       examples({{"export sites.csv", "for a spreadsheet, or for another computer"},
                 {"export --baselines sites.json", "a copy of the whole list"},
@@ -253,17 +263,21 @@ void addImportVerb(CLI::App& app, Action& chosen) {
   CLI::App* verb = app.add_subcommand("import", "Take sites from a CSV or JSON file into the list");
   addFile(*verb, options->file, options->format, "standard input");
   verb->add_flag("--as-new", options->how.asNew, "Add every site as a new one, whatever its id in the file");
-  verb->add_flag("--replace", options->how.replace, "Delete the sites that the file does not name");
+  CLI::Option* replace =
+      verb->add_flag("--replace", options->how.replace, "Delete the sites that the file does not name");
+  verb->add_flag("--yes", options->yes, "Do not ask when the file has no site, so that --replace deletes every one")
+      ->needs(replace);
   verb->add_flag("--dry-run", options->dryRun, "Only say what would be done");
   addJsonFlag(*verb, options->json);
   verb->footer(
-      "A site whose id is in the list is changed, in the fields that the file has; one with another id is added under\n"
-      "it, and one without an id is added as a new one. All of the file is taken, or nothing: each fault is told with\n"
+      "A site whose id is in the list is changed, in the fields that the file has; one with another id is added under "
+      "it, and one without an id is added as a new one. All of the file is taken, or nothing: each fault is told with "
       "its line.\n"
-      "A CSV file names its columns in the first line, separated by commas. Only url must be there; the others are\n"
-      "idSite, method (get or post), active, tInterval (minutes), alertEmail, email, sUserName, sPassWord, postVars\n"
-      "(name=value&name=value, other bytes than letters and digits as %XX), baseline (base64). An empty number or\n"
-      "yes/no is as one left out. A JSON file has the form {\"tarnwick\": 1, \"sites\": [{\"url\": ...}, ...]}.\n" +
+      "A CSV file names its columns in the first line, separated by commas. Only url must be there; the others are "
+      "idSite, method (get or post), active, tInterval (minutes), alertEmail, email, sUserName, sPassWord, postVars "
+      "(name=value&name=value, other bytes than letters and digits as %XX), baseline (base64). An empty idSite, "
+      "method, tInterval or yes/no is as one left out. A JSON file has the form {\"tarnwick\": 1, \"sites\": "
+      "[{\"url\": ...}, ...]}.\n" +
       examples({{"import sites.csv --dry-run", "what would be added and changed"},
                 {"import sites.csv", "do it"},
                 {"import sites.json --replace", "make the list as the file has it"},

@@ -14,7 +14,7 @@ constexpr std::int64_t kMostRows = 1000000000;
 
 struct LogOptions {
   std::string action = "show";
-  std::string since;
+  std::optional<std::string> since;
   std::int16_t idSite = 0;
   bool oneSite = false;
   bool down = false;
@@ -23,13 +23,13 @@ struct LogOptions {
   bool json = false;
   bool yes = false;
 
-  bool chooses() const { return !since.empty() || oneSite || down || limit != 0 || content || json; }
+  bool chooses() const { return since || oneSite || down || limit != 0 || content || json; }
 };
 
 LogChoice choiceOf(Tool& tool, const LogOptions& options) {
   LogChoice choice;
-  if (!options.since.empty()) {
-    choice.since = momentOf(options.since, tool.services().clock.localNow());
+  if (options.since) {
+    choice.since = momentOf(*options.since, tool.services().clock.localNow());
   }
   if (options.oneSite) {
     choice.idSite = options.idSite;  // the log may hold sites that are gone
@@ -95,6 +95,9 @@ void printRow(Console& console, const LogRow& row) {
 }
 
 int showLog(Tool& tool, const LogOptions& options) {
+  if (options.yes) {
+    throw std::runtime_error("Only \"log clear\" takes --yes.");
+  }
   Console& console = tool.console();
   JsonArray array(console);
   bool any = false;
@@ -115,8 +118,7 @@ int showLog(Tool& tool, const LogOptions& options) {
                          : "The log holds no such result, and none is written. To write them: tarnwickctl settings "
                            "clogs on");
   }
-  console.out().flush();
-  return console.good() ? exit_status::ok : exit_status::failed;
+  return exit_status::ok;
 }
 
 int clearLog(Tool& tool, const LogOptions& options) {
@@ -138,10 +140,16 @@ void addLogVerb(CLI::App& app, Action& chosen) {
   auto options = std::make_shared<LogOptions>();
   CLI::App* verb = app.add_subcommand("log", "Show the log of check results, the oldest first, or empty it");
   verb->add_option("ACTION", options->action, "show (default), clear")->check(CLI::IsMember({"show", "clear"}));
-  verb->add_option("--since", options->since, "From this moment on: " + std::string(kMomentForms))->type_name("WHEN");
+  // The library would take an empty text for none at all.
+  verb->add_option("--since", CLI::callback_t([options](const CLI::results_t& values) {
+                     options->since = values.back();
+                     return true;
+                   }),
+                   "From this moment on: " + std::string(kMomentForms))
+      ->type_name("WHEN");
   CLI::Option* site = verb->add_option("--site", options->idSite, "Only this site, also one that is deleted")
                           ->type_name("ID")
-                          ->check(decimalNumber());
+                          ->check(siteNumber());
   verb->add_flag("--down", options->down, "Only checks that failed");
   verb->add_option("--limit", options->limit, "Only the N newest of them")
       ->type_name("N")

@@ -1,7 +1,7 @@
 #include <algorithm>
-#include <iostream>
-#include <iterator>
+#include <ostream>
 
+#include "cli/input_file.h"
 #include "cli/json_text.h"
 #include "cli/unified_diff.h"
 #include "cli/verbs.h"
@@ -24,13 +24,6 @@ struct DiffOptions {
   std::int16_t idSite = 0;
   bool json = false;
 };
-
-std::string readAll(const std::string& file) {
-  if (file == "-") {
-    return {std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>()};
-  }
-  return TextFiles::getFile(file);
-}
 
 std::string sizeText(std::size_t bytes) { return std::to_string(bytes) + (bytes == 1 ? " byte" : " bytes"); }
 
@@ -65,7 +58,6 @@ int showBaseline(Tool& tool, const BaselineOptions& options) {
     // Every byte as it is stored, so that it can be piped into a file and set again.
     tool.console().out() << page;
   }
-  tool.console().out().flush();
   return exit_status::ok;
 }
 
@@ -90,7 +82,7 @@ int loadBaseline(Tool& tool, const BaselineOptions& options) {
 }
 
 int setBaseline(Tool& tool, const BaselineOptions& options) {
-  const std::string page = readAll(options.file);
+  const std::string page = readInput(options.file);
   if (page.empty()) {
     throw std::runtime_error(options.file + " is empty. To remove the baseline, use: tarnwickctl baseline " +
                              std::to_string(options.idSite) + " clear");
@@ -121,6 +113,9 @@ int baseline(Tool& tool, const BaselineOptions& options) {
   requireListed(tool, options.idSite);
   if (!options.file.empty() && options.action != "set") {
     throw std::runtime_error("Only \"set\" takes a file.");
+  }
+  if (options.force && options.action != "accept") {
+    throw std::runtime_error("Only \"accept\" takes --force.");
   }
   if (options.action == "load") {
     return loadBaseline(tool, options);
@@ -168,7 +163,6 @@ int diff(Tool& tool, const DiffOptions& options) {
     console.out() << console.coloured(Console::Colour::bold, "--- baseline of site " + id) << '\n'
                   << console.coloured(Console::Colour::bold, "+++ latest page of site " + id) << '\n';
     unifiedDiff(before, after, [&](const DiffLine& line) { printDiffLine(console, line); });
-    console.out().flush();
   }
   return before == after ? exit_status::ok : exit_status::down;
 }
@@ -181,7 +175,7 @@ void addBaselineVerb(CLI::App& app, Action& chosen) {
                    "show (default), load (fetch it from the URL now), set FILE, clear, accept (take the latest page)")
       ->check(CLI::IsMember({"show", "load", "set", "clear", "accept"}));
   verb->add_option("FILE", options->file, "The file for \"set\"; - is standard input");
-  verb->add_flag("--force", options->force, "Accept a latest page that looks like a failed fetch");
+  verb->add_flag("--force", options->force, "For \"accept\": also a latest page that looks like a failed fetch");
   addJsonFlag(*verb, options->json);
   verb->footer(examples({{"baseline 3 > page.html", "the baseline, byte for byte"},
                          {"baseline 3 set page.html", "an edited one"},

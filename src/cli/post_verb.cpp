@@ -189,7 +189,7 @@ void addPostVerb(CLI::App& app, Action& chosen) {
   addText(*verb, "--value", options->valueOption, "For \"change\": the new value alone");
   addJsonFlag(*verb, options->json);
   verb->footer(
-      "Names and values are found exactly as they are: letter case and blanks count. What begins with a minus sign is\n"
+      "Names and values are found exactly as they are: letter case and blanks count. What begins with a minus sign is "
       "written behind --.\n" +
       examples({{"post 3", "the variables, in the order in which they are sent"},
                 {"post 3 add lang en", "one more"},

@@ -1,6 +1,7 @@
 #include "cli/run_terminal.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "cli/cause.h"
@@ -22,9 +23,9 @@ std::string sitesText(std::size_t count) { return std::to_string(count) + (count
 
 void RunTerminal::prepare(m& data) {
   data_ = &data;
-  const TextTable sites = data.getArraySites(0);
+  const TextTable sites = data.getArraySitesActiveTrue(site_choice::active);
+  active_ = sites.lastRow();
   for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
-    active_ += SqlValue(sites.at(site_column::active, row)).toBool() ? 1U : 0U;
     const std::string& status = sites.at(site_column::status, row);
     if (status != "NULL") {
       known_[siteIdFromText(sites.at(site_column::idSite, row))] = SqlValue(status).toBool();
@@ -102,7 +103,21 @@ void RunTerminal::endPass() {
   if (count > 0) {
     tell("Checked " + sitesText(count) + ": " + countText(pass.up, pass.down) + ".", "pass",
          {{"up", pass.up}, {"down", pass.down}});
+    forgetWhatIsNotWatched();
   }
+}
+
+// Sites may be deleted or switched off while the run is on; the live line counts those that it still checks.
+void RunTerminal::forgetWhatIsNotWatched() {
+  if (!hasLiveLine()) {
+    return;
+  }
+  const TextTable sites = data_->getArraySitesActiveTrue(site_choice::active);
+  std::set<std::int16_t> watched;
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    watched.insert(siteIdFromText(sites.at(site_column::idSite, row)));
+  }
+  std::erase_if(known_, [&watched](const auto& site) { return !watched.contains(site.first); });
 }
 
 void RunTerminal::tell(const std::string& text, const char* event, Json details) {
@@ -114,10 +129,13 @@ void RunTerminal::tell(const std::string& text, const char* event, Json details)
   } else {
     console_.say(now + " " + text);
   }
+  endWithTheOutput();
 }
 
+bool RunTerminal::hasLiveLine() const { return !style_.json && console_.isTerminal() && data_ != nullptr; }
+
 void RunTerminal::showLive() {
-  if (style_.json || !console_.isTerminal() || data_ == nullptr) {
+  if (!hasLiveLine()) {
     return;
   }
   const auto down = static_cast<std::size_t>(
@@ -128,6 +146,13 @@ void RunTerminal::showLive() {
     line += std::to_string(progress_ * 100 / kFullWidth) + " %  ";
   }
   console_.live(line + status_);
+  endWithTheOutput();
+}
+
+void RunTerminal::endWithTheOutput() {
+  if (!console_.good()) {
+    pump_.close();
+  }
 }
 
 }  // namespace tarnwick

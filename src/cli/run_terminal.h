@@ -9,6 +9,7 @@
 #include "engine/run_view.h"
 #include "m.h"
 #include "platform/clock.h"
+#include "platform/event_pump.h"
 
 namespace tarnwick {
 
@@ -21,7 +22,9 @@ class RunTerminal final : public SilentView {
     bool json = false;     ///< an object a line
   };
 
-  RunTerminal(Console& console, const Clock& clock, Style style) : console_(console), clock_(clock), style_(style) {}
+  /// `pump` is closed when the output takes nothing any more: a run that nobody can see is none that was asked for.
+  RunTerminal(Console& console, const Clock& clock, EventPump& pump, Style style)
+      : console_(console), clock_(clock), pump_(pump), style_(style) {}
 
   /// Reads which sites are down already, so that their recovery is told; later baselines are read there too.
   void prepare(m& data);
@@ -44,13 +47,17 @@ class RunTerminal final : public SilentView {
   void begin();
   void tell(const std::string& text, const char* event, Json details);
   void endPass();
+  void forgetWhatIsNotWatched();
+  bool hasLiveLine() const;
   void showLive();
+  void endWithTheOutput();
 
   Console& console_;
   const Clock& clock_;
+  EventPump& pump_;
   Style style_;
   m* data_ = nullptr;
-  /// The sites judged so far, and whether they were up.
+  /// The sites that the run checks and that have been judged, and whether they were up.
   std::map<std::int16_t, bool> known_;
   std::size_t active_ = 0;
   bool begun_ = false;

@@ -6,10 +6,18 @@
 namespace tarnwick {
 namespace {
 
+// Who starts a run wants its lines, be it in a file or in another program.
+int complainOfOutput(Console& console) {
+  if (console.flush() == std::errc::broken_pipe) {
+    console.complain("The run has ended, since nobody reads its lines any more.");
+  }
+  return exit_status::failed;  // any other reason is told as it is of every verb
+}
+
 int run(Tool& tool, const RunTerminal::Style& style) {
   Console& console = tool.console();
   EventPump& pump = tool.services().pump;
-  RunTerminal terminal(console, tool.services().clock, style);
+  RunTerminal terminal(console, tool.services().clock, pump, style);
   Program program(tool.programFolder(), tool.services(), terminal);
   program.start();
   const Interrupts interrupts([&program] {
@@ -17,7 +25,9 @@ int run(Tool& tool, const RunTerminal::Style& style) {
     program.close();
   });
   if (program.data().getArraySitesActiveTrue(site_choice::active).lastRow() == 0) {
-    console.complain("There is no active site to watch yet. Add the first one with: tarnwickctl add URL");
+    console.complain(
+        "There is no active site to watch yet. Add one and check it once, so that this run takes it on: tarnwickctl "
+        "add URL, then: tarnwickctl check ID");
   }
   terminal.prepare(program.data());
   program.startRun();
@@ -28,7 +38,12 @@ int run(Tool& tool, const RunTerminal::Style& style) {
     pump.waitForEvent();
   }
   terminal.end();
-  return exit_status::ok;
+  if (console.good()) {
+    return exit_status::ok;
+  }
+  program.stopRun();
+  program.close();
+  return complainOfOutput(console);
 }
 
 }  // namespace
@@ -40,7 +55,8 @@ void addRunVerb(CLI::App& app, Action& chosen) {
   verb->add_flag("--verbose", style->verbose, "A line for every result, not only for failures and recoveries");
   verb->add_flag("--json", style->json, "Print an object a line for every event");
   verb->footer(
-      "Ctrl+C (SIGINT) and SIGTERM stop the run and close the database. One run at a time is possible on a folder.\n" +
+      "Ctrl+C (SIGINT) and SIGTERM stop the run and close the database; so does the end of what reads its output. One "
+      "run at a time is possible on a folder. A site that is added meanwhile is taken on once it was checked.\n" +
       examples({{"run", "a countdown on a terminal, lines with their time elsewhere"},
                 {"run --json | jq 'select(.status == false)'", "only the failures"}}));
   verb->callback([style, &chosen] { chosen = [style](Tool& tool) { return run(tool, *style); }; });

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <limits>
 #include <optional>
 #include <ostream>
 
@@ -33,7 +34,7 @@ constexpr std::array kKeys = {
 };
 
 struct SettingsOptions {
-  std::string key;
+  std::optional<std::string> key;
   std::optional<std::string> value;
   bool json = false;
 };
@@ -135,8 +136,8 @@ std::string secondsOf(const Key& key, const std::string& text) {
   const char* end = text.data() + text.size();
   const auto [rest, fault] = std::from_chars(text.data(), end, seconds);
   if (fault != std::errc() || rest != end || seconds <= 0) {
-    throw std::runtime_error("The setting " + std::string(key.name) +
-                             " is a whole number of seconds greater than 0, and \"" + visibleText(text) +
+    throw std::runtime_error("The setting " + std::string(key.name) + " is a whole number of seconds from 1 to " +
+                             std::to_string(std::numeric_limits<std::int32_t>::max()) + ", and \"" + visibleText(text) +
                              "\" is none.");
   }
   return std::to_string(seconds);
@@ -158,10 +159,10 @@ int storeSetting(Tool& tool, const Key& key, const std::string& text, bool json)
 }
 
 int settings(Tool& tool, const SettingsOptions& options) {
-  if (options.key.empty()) {
+  if (!options.key) {
     return listSettings(tool, options.json);
   }
-  const Key& key = keyOf(options.key);
+  const Key& key = keyOf(*options.key);
   return options.value ? storeSetting(tool, key, *options.value, options.json) : showSetting(tool, key, options.json);
 }
 
@@ -174,18 +175,23 @@ std::string listOfKeys() {
   return list + "\n";
 }
 
+// The library would take an empty text for none at all.
+void addText(CLI::App& verb, const char* name, std::optional<std::string>& text, const char* meaning) {
+  verb.add_option(name, CLI::callback_t([&text](const CLI::results_t& values) {
+                    text = values.back();
+                    return true;
+                  }),
+                  meaning)
+      ->type_name("TEXT");
+}
+
 }  // namespace
 
 void addSettingsVerb(CLI::App& app, Action& chosen) {
   auto options = std::make_shared<SettingsOptions>();
   CLI::App* verb = app.add_subcommand("settings", "Show or change the program's settings");
-  verb->add_option("KEY", options->key, "A setting, in any letter case; all of them without one");
-  verb->add_option("VALUE", CLI::callback_t([options](const CLI::results_t& values) {
-                     options->value = values.back();
-                     return true;
-                   }),
-                   "Its new value: a text, seconds, or on or off")
-      ->type_name("TEXT");
+  addText(*verb, "KEY", options->key, "A setting, in any letter case; all of them without one");
+  addText(*verb, "VALUE", options->value, "Its new value: a text, seconds, or on or off");
   addJsonFlag(*verb, options->json);
   verb->footer(listOfKeys() + "A change takes effect at the next check, also in a run that is on.\n" +
                examples({{"settings", "all of them"},

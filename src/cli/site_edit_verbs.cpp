@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <charconv>
-#include <iostream>
 #include <iterator>
 #include <limits>
 #include <optional>
 #include <vector>
 
+#include "cli/input_file.h"
 #include "cli/json_text.h"
 #include "platform/address.h"
 #include "site_draft.h"
@@ -45,8 +45,7 @@ std::string lowerCase(std::string text) {
 
 // A password is a line: editors end it, and `echo` does.
 std::string readPassword(const std::string& file) {
-  std::string password =
-      file == "-" ? std::string(std::istreambuf_iterator<char>(std::cin), {}) : TextFiles::getFile(file);
+  std::string password = readInput(file);
   if (password.ends_with('\n')) {
     password.pop_back();
     if (password.ends_with('\r')) {
@@ -116,8 +115,9 @@ int addSite(Tool& tool, const SiteEdit& edit) {
   } else {
     tool.console().say(std::to_string(id));
     if (tool.console().isTerminal() && site.active) {
-      tool.console().complain("A new site is tested when a run is started next, or by: tarnwickctl check " +
-                              std::to_string(id));
+      tool.console().complain(
+          "A run that is on takes the site on once it was checked. Check it with: tarnwickctl check " +
+          std::to_string(id));
     }
   }
   if (!vars.empty()) {
@@ -198,12 +198,13 @@ void addAddVerb(CLI::App& app, Action& chosen) {
   addText(*verb, "--alert-email", edit->alertEmail, "ADDRESS", "Mail its failures to this address");
   addJsonFlag(*verb, edit->json);
   verb->footer(
-      "Without options it is fetched with GET every 10 minutes; with --post it is fetched with POST. The first page\n"
-      "that is fetched becomes its baseline.\n" +
+      "Without options it is fetched with GET every 10 minutes; with --post it is fetched with POST. The first page "
+      "that is fetched becomes its baseline. A run that is on takes the site on once it was checked.\n" +
       examples({{"add https://example.org/", "watch a page"},
+                {"check $(tarnwickctl add https://example.org/)", "and check it at once, so that a run takes it on"},
                 {"add https://example.org/search --post q=tarn --post lang=en --interval 60", "what a form answers"},
-                {"add https://example.org/in --user ann --password-file secret.txt --alert-email ann@example.org",
-                 "behind a password, with alert mails"}}));
+                {"add https://example.org/in --user ann --password-file secret.txt", "behind a password"},
+                {"add https://example.org/ --alert-email ann@example.org", "with alert mails"}}));
   verb->callback([edit, &chosen] { chosen = [edit](Tool& tool) { return addSite(tool, *edit); }; });
 }
 
@@ -276,8 +277,8 @@ std::string intervalOf(const std::string& text) {
 }
 
 void addEditVerbs(CLI::App& app, Action& chosen) {
-  addSetVerb(app, chosen);
   addAddVerb(app, chosen);
+  addSetVerb(app, chosen);
 }
 
 }  // namespace tarnwick

@@ -12,6 +12,9 @@
 namespace tarnwick {
 namespace {
 
+// A question stays one that can be read.
+constexpr std::size_t kMostNamed = 10;
+
 struct SitesOptions {
   bool down = false;
   bool active = false;
@@ -124,7 +127,6 @@ void printSite(Console& console, const SiteFacts& facts, const std::vector<PostV
   for (const PostVar& var : vars) {
     out << "  " << visibleText(var.name) << '=' << visibleText(var.value) << '\n';
   }
-  out.flush();
 }
 
 int showSite(Tool& tool, const SiteOptions& options) {
@@ -155,7 +157,12 @@ std::string questionOf(m& data, const std::set<std::int16_t>& ids) {
            ", with its POST variables and its baseline?";
   }
   std::string list;
+  std::size_t named = 0;
   for (const std::int16_t id : ids) {
+    if (++named > kMostNamed) {
+      list += " and " + std::to_string(ids.size() - kMostNamed) + " more";
+      break;
+    }
     list += (list.empty() ? "" : ", ") + std::to_string(id);
   }
   return "Delete " + std::to_string(ids.size()) + " sites (" + list + ") with their POST variables and baselines?";
@@ -213,7 +220,7 @@ void addDeleteVerb(CLI::App& app, Action& chosen) {
   CLI::App* verb = app.add_subcommand("delete", "Delete sites with their POST variables and baselines");
   verb->add_option("ID", options->ids, "The ids of the sites, as the verb sites lists them")
       ->required()
-      ->check(decimalNumber());
+      ->check(siteNumber());
   verb->add_flag("--yes", options->yes, "Do not ask; needed where nobody can be asked");
   verb->footer("All of them are deleted, or none when one is not in the list. What the log says of them stays.\n" +
                examples({{"delete 3", "asks first"}, {"delete 3 7 12 --yes", "three sites, without a question"}}));

@@ -48,7 +48,6 @@ void TextGrid::print(Console& console) const {
   for (const auto& row : rows_) {
     out << lineOf([&](std::size_t i) { return row[i]; }) << '\n';
   }
-  out.flush();
 }
 
 }  // namespace tarnwick

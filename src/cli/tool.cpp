@@ -1,22 +1,28 @@
 #include "cli/tool.h"
 
 #include <algorithm>
+#include <charconv>
+#include <filesystem>
+#include <new>
 #include <ostream>
 #include <sstream>
 
+#include "cli/help_text.h"
 #include "cli/tool_prompts.h"
 #include "cli/verbs.h"
+#include "platform/errors.h"
+#include "platform/file_access.h"
 #include "platform/program_folder.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr const char* kDescription =
-    "Tarnwick watches web sites for changes of their content: the terminal front end.\n"
-    "It works on the list of sites of a program folder, with or without the window open on the same folder.";
+    "Tarnwick watches web sites for changes of their content: the terminal front end. It works on the list of sites of "
+    "a program folder, with or without the window open on the same folder.";
 
 constexpr const char* kFooter =
-    "Exit status: 0 when all is well, 1 when a site is down or a page differs, 2 when the work could not be done.\n"
+    "Exit status: 0 when all is well, 1 when a site is down or a page differs, 2 when the work failed.\n"
     "Each verb has a --help with examples.";
 
 void addVerbs(CLI::App& app, Action& chosen) {
@@ -30,6 +36,47 @@ void addVerbs(CLI::App& app, Action& chosen) {
   addLogVerb(app, chosen);
   addUpkeepVerbs(app, chosen);
   addExchangeVerbs(app, chosen);
+  for (CLI::App* verb : app.get_subcommands({})) {
+    verb->group("Verbs");
+  }
+}
+
+// Before the verb and behind it; each help names it.
+void addFolder(CLI::App& app, std::string& folder) {
+  app.add_option("--folder", folder,
+                 "The program folder, in which tarnwick.mdb lies (default: the tool's own, or yours where that one is "
+                 "shared)")
+      ->type_name("DIR");
+}
+
+void addFolderEverywhere(CLI::App& app, std::string& folder) {
+  addFolder(app, folder);
+  for (CLI::App* verb : app.get_subcommands({})) {
+    addFolder(*verb, folder);
+  }
+}
+
+bool isFolderNamed(const CLI::App& app) {
+  const auto verbs = app.get_subcommands();
+  return app.count("--folder") > 0 ||
+         std::ranges::any_of(verbs, [](const CLI::App* verb) { return verb->count("--folder") > 0; });
+}
+
+// As messages name it: they may be read elsewhere than where the tool was started.
+std::string absoluteFolder(const std::string& folder) {
+  if (folder.empty()) {
+    throw std::runtime_error("--folder names no folder. Give the one in which tarnwick.mdb lies.");
+  }
+  std::filesystem::path path = std::filesystem::absolute(pathOf(folder));
+  // Behind a link "x/.." may be another folder than this one, so only what is surely the same is taken away.
+  if (std::ranges::find(path, "..") == path.end()) {
+    path = path.lexically_normal();
+  }
+  std::string text = textOf(path);
+  while (text.size() > 1 && text.ends_with('/')) {
+    text.pop_back();
+  }
+  return text;
 }
 
 std::string withoutLineEnd(std::string text) {
@@ -39,18 +86,40 @@ std::string withoutLineEnd(std::string text) {
   return text;
 }
 
-// Arguments that cannot be understood: the library's text, and where to read on.
-void complainOfUsage(Console& console, const CLI::App& app, const CLI::ParseError& error,
-                     const std::vector<std::string>& arguments) {
-  const auto verbs = app.get_subcommands();
-  if (verbs.empty() && !arguments.empty() && !arguments.front().starts_with("-")) {
-    console.complain("There is no verb \"" + visibleText(arguments.front()) + "\".");
-    console.complain("See: tarnwickctl --help");
-    return;
+// `unknown` is what the command line holds beside options that are known.
+std::string whatStandsForAVerb(const std::vector<std::string>& unknown) {
+  if (unknown.empty()) {
+    return "A verb is missing, for instance: tarnwickctl sites";
   }
+  const std::string& first = unknown.front();
+  return std::string("There is no ") + (first.starts_with("-") ? "option" : "verb") + " \"" + visibleText(first) +
+         "\".";
+}
+
+// Arguments that cannot be understood: the library's text, and where to read on.
+void complainOfUsage(Console& console, const CLI::App& app, const CLI::ParseError& error) {
+  const auto verbs = app.get_subcommands();
   const std::string verb = verbs.empty() ? std::string() : " " + verbs.front()->get_name();
-  console.complain(visibleText(error.what()));
+  const bool lacksVerb = verbs.empty() && dynamic_cast<const CLI::RequiredError*>(&error) != nullptr;
+  console.complain(lacksVerb ? whatStandsForAVerb(app.remaining()) : visibleText(error.what()));
   console.complain("See: tarnwickctl" + verb + " --help");
+}
+
+// What was written is part of the work. A reader that has gone has seen as much as it wanted.
+int statusWithOutput(Console& console, int status) {
+  const std::error_code fault = console.flush();
+  if (!fault || fault == std::errc::broken_pipe) {
+    return status;
+  }
+  console.complain("Standard output took not all of it: " + fault.message() + ".");
+  return exit_status::failed;
+}
+
+// A folder that is named wrongly looks like one whose database is gone.
+std::string adviceOn(const std::string& folder) {
+  return !folder.empty() && kindOf(folder + "/tarnwick.mdb") == FileKind::none
+             ? " Or name the right folder with --folder."
+             : "";
 }
 
 }  // namespace
@@ -77,8 +146,19 @@ CLI::Validator decimalNumber() {
       "");
 }
 
+CLI::Validator siteNumber() {
+  return CLI::Validator(
+      [](std::string& text) {
+        const std::string fault = decimalNumber()(text);
+        std::int16_t id = 0;
+        const bool fits = std::from_chars(text.data(), text.data() + text.size(), id).ec == std::errc();
+        return !fault.empty() || fits ? fault : "\"" + text + "\" is no id: ids are whole numbers from 1 to 32767";
+      },
+      "");
+}
+
 CLI::Option* addSiteId(CLI::App& verb, std::int16_t& idSite) {
-  return verb.add_option("ID", idSite, "The site's id, as the verb sites lists it")->check(decimalNumber());
+  return verb.add_option("ID", idSite, "The site's id, as the verb sites lists it")->check(siteNumber());
 }
 
 CLI::Option* addJsonFlag(CLI::App& verb, bool& json) { return verb.add_flag("--json", json, "Print JSON"); }
@@ -93,42 +173,41 @@ std::string examples(std::initializer_list<std::pair<const char*, const char*>> 
 
 int runTool(const std::vector<std::string>& arguments, const std::string& programFolder, const Services& services,
             Console& console) {
+  std::string folder;
   try {
     CLI::App app(kDescription, "tarnwickctl");
     app.footer(kFooter);
     app.set_version_flag("--version", std::string("tarnwickctl ") + TARNWICK_VERSION);
     app.require_subcommand(1);
+    app.get_formatter()->label("SUBCOMMAND", "VERB");
     app.fallthrough();
-    std::string folder = programFolder;
-    app.add_option("--folder", folder,
-                   "The program folder, in which tarnwick.mdb lies (default: the tool's own, or yours where that one "
-                   "is shared)")
-        ->type_name("DIR");
     Action chosen;
     addVerbs(app, chosen);
+    addFolderEverywhere(app, folder);
     try {
       std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
       app.parse(reversed);
     } catch (const CLI::Success& wish) {
       std::ostringstream text;
       app.exit(wish, text, text);
-      console.say(withoutLineEnd(text.str()));
-      return exit_status::ok;
+      console.say(withoutLineEnd(wrappedHelp(text.str())));
+      return statusWithOutput(console, exit_status::ok);
     } catch (const CLI::ParseError& error) {
-      complainOfUsage(console, app, error, arguments);
+      complainOfUsage(console, app, error);
       return exit_status::failed;
     }
-    if (app.count("--folder") == 0) {
-      folder = programFolderFor(programFolder);
-    }
-    while (folder.size() > 1 && folder.back() == '/') {
-      folder.pop_back();
-    }
+    folder = absoluteFolder(isFolderNamed(app) ? folder : programFolderFor(programFolder));
     ToolPrompts prompts(console);
     const Services withPrompts{services.clock,   services.pump, services.timers, services.databases, services.transfers,
                                services.sockets, prompts,       services.sound,  services.programs,  services.opener};
     Tool tool(folder, withPrompts, console);
-    return chosen(tool);
+    return statusWithOutput(console, chosen(tool));
+  } catch (const DataAccessError& error) {
+    console.complain(error.what() + adviceOn(folder));
+    return exit_status::failed;
+  } catch (const std::bad_alloc&) {
+    console.complain("There is not enough memory for this.");
+    return exit_status::failed;
   } catch (const std::exception& error) {
     console.complain(error.what());
     return exit_status::failed;

@@ -2,14 +2,16 @@
 
 #include <algorithm>
 #include <string>
-#include <unordered_map>
+#include <utility>
+
+#include "cli/differing_lines.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr std::size_t kContext = 3;
-// How many lines the search looks for removed and added ones. What it remembers grows with the square: 32 MB here.
-constexpr std::ptrdiff_t kFarthest = 2000;
+// More lines than this in what differs are not searched at all: what is kept of each is larger than most lines.
+constexpr std::size_t kMostLines = 2'000'000;
 
 // A text without its line feed at the very end differs from one with it, so that belongs to the line.
 std::vector<std::string_view> linesOf(std::string_view text) {
@@ -27,131 +29,90 @@ std::string_view withoutLineFeed(std::string_view line) {
   return !line.empty() && line.back() == '\n' ? line.substr(0, line.size() - 1) : line;
 }
 
-// Equal lines have equal numbers, which are compared far faster than lines.
-class LineNumbers {
- public:
-  std::vector<std::size_t> of(const std::vector<std::string_view>& lines) {
-    std::vector<std::size_t> numbers;
-    numbers.reserve(lines.size());
-    for (const std::string_view line : lines) {
-      numbers.push_back(known_.try_emplace(line, known_.size()).first->second);
-    }
-    return numbers;
-  }
-
- private:
-  std::unordered_map<std::string_view, std::size_t> known_;
+/// What differs of two texts, with the lines of context around it, and how many equal lines stand before that.
+struct Middle {
+  std::size_t linesBefore;
+  std::string_view before;
+  std::string_view after;
 };
 
-/// Which lines are removed and which are added.
-struct Marks {
-  std::vector<bool> removed;
-  std::vector<bool> added;
-};
+std::size_t linesIn(std::string_view text) {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) +
+         (text.empty() || text.back() == '\n' ? 0 : 1);
+}
 
-// E. Myers, An O(ND) Difference Algorithm and Its Variations, Algorithmica 1 (1986): the greedy form, which remembers
-// how far each diagonal was reached with each number of differences.
-class Search {
- public:
-  Search(const std::vector<std::size_t>& before, const std::vector<std::size_t>& after, Marks& marks)
-      : before_(before), after_(after), marks_(marks) {}
-
-  void run() {
-    trimEqualEnds();
-    const std::ptrdiff_t n = lastBefore_ - first_;
-    const std::ptrdiff_t m = lastAfter_ - first_;
-    if (n == 0 || m == 0 || !findWay(n, m)) {
-      std::fill(marks_.removed.begin() + first_, marks_.removed.begin() + lastBefore_, true);
-      std::fill(marks_.added.begin() + first_, marks_.added.begin() + lastAfter_, true);
-      return;
-    }
-    walkBack(n, m);
+// The last `count` lines of `text`, which ends with a line feed or is empty, are left; where they begin.
+std::size_t beginOfLast(std::size_t count, std::string_view text) {
+  std::size_t begin = text.size();
+  for (; count > 0 && begin > 0; --count) {
+    const std::size_t feed = begin < 2 ? std::string_view::npos : text.rfind('\n', begin - 2);
+    begin = feed == std::string_view::npos ? 0 : feed + 1;
   }
+  return begin;
+}
 
- private:
-  void trimEqualEnds() {
-    lastBefore_ = static_cast<std::ptrdiff_t>(before_.size());
-    lastAfter_ = static_cast<std::ptrdiff_t>(after_.size());
-    const auto unequal = std::mismatch(before_.begin(), before_.end(), after_.begin(), after_.end());
-    first_ = unequal.first - before_.begin();
-    while (lastBefore_ > first_ && lastAfter_ > first_ &&
-           beforeAt(lastBefore_ - 1 - first_) == afterAt(lastAfter_ - 1 - first_)) {
-      --lastBefore_;
-      --lastAfter_;
-    }
+std::size_t endOfFirst(std::size_t count, std::string_view text) {
+  std::size_t end = 0;
+  for (; count > 0 && end < text.size(); --count) {
+    const std::size_t feed = text.find('\n', end);
+    end = feed == std::string_view::npos ? text.size() : feed + 1;
   }
+  return end;
+}
 
-  std::size_t beforeAt(std::ptrdiff_t i) const { return before_[static_cast<std::size_t>(first_ + i)]; }
-  std::size_t afterAt(std::ptrdiff_t i) const { return after_[static_cast<std::size_t>(first_ + i)]; }
+// Byte by byte: lines of the parts that are equal would take many times the memory of the pages.
+Middle middleOf(std::string_view before, std::string_view after, std::size_t context) {
+  const auto unequal = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+  const std::string_view same = before.substr(0, static_cast<std::size_t>(unequal.first - before.begin()));
+  const std::size_t lineFeed = same.rfind('\n');
+  const std::size_t first = lineFeed == std::string_view::npos ? 0 : lineFeed + 1;
+  const std::string_view restBefore = before.substr(first);
+  const std::string_view restAfter = after.substr(first);
+  const auto unequalAtEnd = std::mismatch(restBefore.rbegin(), restBefore.rend(), restAfter.rbegin(), restAfter.rend());
+  const std::string_view sameAtEnd =
+      restBefore.substr(static_cast<std::size_t>(unequalAtEnd.first.base() - restBefore.begin()));
+  // The line in which the equal end begins may differ before it.
+  const std::string_view equalLines = sameAtEnd.substr(endOfFirst(1, sameAtEnd));
+  const std::size_t cut = equalLines.size() - endOfFirst(context, equalLines);
+  const std::size_t begin = beginOfLast(context, before.substr(0, first));
+  return {linesIn(before.substr(0, begin)), before.substr(begin, before.size() - cut - begin),
+          after.substr(begin, after.size() - cut - begin)};
+}
 
-  // Whether diagonal `k` is better reached with the `d`-th difference from the one above (a line added) than from the
-  // one below (a line removed). `at` tells how far a diagonal came with one difference less.
-  static bool comesFromAbove(std::ptrdiff_t d, std::ptrdiff_t k, const auto& at) {
-    return k == -d || (k != d && at(k - 1) < at(k + 1));
+void writeLine(char mark, std::string_view line, const DiffSink& sink) {
+  sink({mark, withoutLineFeed(line)});
+  if (line.back() != '\n') {
+    sink({'\\', " No newline at end of file"});
   }
+}
 
-  bool findWay(std::ptrdiff_t n, std::ptrdiff_t m) {
-    const std::ptrdiff_t farthest = std::min(n + m, kFarthest);
-    const std::ptrdiff_t middle = farthest + 1;
-    std::vector<std::ptrdiff_t> reach(static_cast<std::size_t>(2 * middle + 1), 0);
-    const auto at = [&](std::ptrdiff_t diagonal) -> std::ptrdiff_t& {
-      return reach[static_cast<std::size_t>(middle + diagonal)];
-    };
-    for (std::ptrdiff_t d = 0; d <= farthest; ++d) {
-      for (std::ptrdiff_t k = -d; k <= d; k += 2) {
-        std::ptrdiff_t x = comesFromAbove(d, k, at) ? at(k + 1) : at(k - 1) + 1;
-        while (x < n && x - k < m && beforeAt(x) == afterAt(x - k)) {
-          ++x;
-        }
-        at(k) = x;
-        if (x >= n && x - k >= m) {
-          remember(reach, d, middle);
-          return true;
-        }
-      }
-      remember(reach, d, middle);
-    }
-    return false;
+// POSIX, diff -u: the number of lines is left out when it is 1; an empty range stands behind the line it names.
+std::string rangeOf(std::size_t first, std::size_t count) {
+  if (count == 1) {
+    return std::to_string(first + 1);
   }
+  return std::to_string(count == 0 ? first : first + 1) + "," + std::to_string(count);
+}
 
-  void remember(const std::vector<std::ptrdiff_t>& reach, std::ptrdiff_t d, std::ptrdiff_t middle) {
-    ways_.emplace_back(reach.begin() + (middle - d), reach.begin() + (middle + d + 1));
+void writeHead(std::size_t firstBefore, std::size_t countBefore, std::size_t firstAfter, std::size_t countAfter,
+               const DiffSink& sink) {
+  sink({'@', "@@ -" + rangeOf(firstBefore, countBefore) + " +" + rangeOf(firstAfter, countAfter) + " @@"});
+}
+
+void writeAll(char mark, std::string_view text, const DiffSink& sink) {
+  while (!text.empty()) {
+    const std::size_t length = endOfFirst(1, text);
+    writeLine(mark, text.substr(0, length), sink);
+    text.remove_prefix(length);
   }
-
-  void walkBack(std::ptrdiff_t x, std::ptrdiff_t y) {
-    for (auto d = static_cast<std::ptrdiff_t>(ways_.size()) - 1; d > 0; --d) {
-      const std::vector<std::ptrdiff_t>& reach = ways_[static_cast<std::size_t>(d) - 1];
-      const std::ptrdiff_t k = x - y;
-      const auto at = [&](std::ptrdiff_t diagonal) { return reach[static_cast<std::size_t>(d - 1 + diagonal)]; };
-      const bool added = comesFromAbove(d, k, at);
-      const std::ptrdiff_t from = added ? k + 1 : k - 1;
-      const std::ptrdiff_t fromX = at(from);
-      const std::ptrdiff_t fromY = fromX - from;
-      if (added) {
-        marks_.added[static_cast<std::size_t>(first_ + fromY)] = true;
-      } else {
-        marks_.removed[static_cast<std::size_t>(first_ + fromX)] = true;
-      }
-      x = fromX;
-      y = fromY;
-    }
-  }
-
-  const std::vector<std::size_t>& before_;
-  const std::vector<std::size_t>& after_;
-  Marks& marks_;
-  std::ptrdiff_t first_ = 0;
-  std::ptrdiff_t lastBefore_ = 0;
-  std::ptrdiff_t lastAfter_ = 0;
-  std::vector<std::vector<std::ptrdiff_t>> ways_;
-};
+}
 
 /// Walks through both texts and writes what has changed, with the lines around it.
 class HunkWriter {
  public:
-  HunkWriter(const std::vector<std::string_view>& before, const std::vector<std::string_view>& after,
-             const Marks& marks, const std::function<void(const DiffLine&)>& sink)
-      : before_(before), after_(after), marks_(marks), sink_(sink) {}
+  HunkWriter(const std::vector<std::string_view>& before, const std::vector<std::string_view>& after, LineMarks marks,
+             std::size_t linesBefore, const DiffSink& sink)
+      : before_(before), after_(after), marks_(std::move(marks)), linesBefore_(linesBefore), sink_(sink) {}
 
   void run() {
     std::size_t i = 0;
@@ -161,8 +122,7 @@ class HunkWriter {
       i -= context;
       j -= context;
       const auto [endI, endJ] = endOfHunk(i + context, j + context);
-      const std::string head = "-" + rangeOf(i, endI - i) + " +" + rangeOf(j, endJ - j);
-      sink_({'@', "@@ " + head + " @@"});
+      writeHead(linesBefore_ + i, endI - i, linesBefore_ + j, endJ - j, sink_);
       writeLines(i, j, endI, endJ);
       i = endI;
       j = endJ;
@@ -206,35 +166,21 @@ class HunkWriter {
   void writeLines(std::size_t i, std::size_t j, std::size_t endI, std::size_t endJ) const {
     while (i < endI || j < endJ) {
       if (i < endI && marks_.removed[i]) {
-        write('-', before_[i++]);
+        writeLine('-', before_[i++], sink_);
       } else if (j < endJ && marks_.added[j]) {
-        write('+', after_[j++]);
+        writeLine('+', after_[j++], sink_);
       } else {
-        write(' ', before_[i++]);
+        writeLine(' ', before_[i++], sink_);
         ++j;
       }
     }
   }
 
-  void write(char mark, std::string_view line) const {
-    sink_({mark, withoutLineFeed(line)});
-    if (line.back() != '\n') {
-      sink_({'\\', " No newline at end of file"});
-    }
-  }
-
-  // POSIX, diff -u: the number of lines is left out when it is 1; an empty range stands behind the line it names.
-  static std::string rangeOf(std::size_t first, std::size_t count) {
-    if (count == 1) {
-      return std::to_string(first + 1);
-    }
-    return std::to_string(count == 0 ? first : first + 1) + "," + std::to_string(count);
-  }
-
   const std::vector<std::string_view>& before_;
   const std::vector<std::string_view>& after_;
-  const Marks& marks_;
-  const std::function<void(const DiffLine&)>& sink_;
+  LineMarks marks_;
+  std::size_t linesBefore_;
+  const DiffSink& sink_;
 };
 
 }  // namespace
@@ -255,18 +201,21 @@ FirstDifference firstDifference(std::string_view before, std::string_view after)
   return {static_cast<std::size_t>(std::count(same.begin(), same.end(), '\n')) + 1, lineAt(before), lineAt(after)};
 }
 
-void unifiedDiff(std::string_view before, std::string_view after, const std::function<void(const DiffLine&)>& sink) {
+void unifiedDiff(std::string_view before, std::string_view after, const DiffSink& sink) {
   if (before == after) {
     return;
   }
-  const std::vector<std::string_view> linesBefore = linesOf(before);
-  const std::vector<std::string_view> linesAfter = linesOf(after);
-  LineNumbers numbers;
-  const std::vector<std::size_t> numbersBefore = numbers.of(linesBefore);
-  const std::vector<std::size_t> numbersAfter = numbers.of(linesAfter);
-  Marks marks{std::vector<bool>(linesBefore.size()), std::vector<bool>(linesAfter.size())};
-  Search(numbersBefore, numbersAfter, marks).run();
-  HunkWriter(linesBefore, linesAfter, marks, sink).run();
+  const Middle middle = middleOf(before, after, kContext);
+  if (linesIn(middle.before) + linesIn(middle.after) > kMostLines) {
+    const Middle bare = middleOf(before, after, 0);
+    writeHead(bare.linesBefore, linesIn(bare.before), bare.linesBefore, linesIn(bare.after), sink);
+    writeAll('-', bare.before, sink);
+    writeAll('+', bare.after, sink);
+    return;
+  }
+  const std::vector<std::string_view> linesBefore = linesOf(middle.before);
+  const std::vector<std::string_view> linesAfter = linesOf(middle.after);
+  HunkWriter(linesBefore, linesAfter, differingLines(linesBefore, linesAfter), middle.linesBefore, sink).run();
 }
 
 }  // namespace tarnwick

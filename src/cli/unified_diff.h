@@ -22,10 +22,11 @@ struct DiffLine {
   char mark;
   std::string_view text;
 };
+using DiffSink = std::function<void(const DiffLine&)>;
 
 /// Hands the hunks that turn `before` into `after` to `sink`, with three lines of context; nothing when they are equal.
 /// The difference is minimal up to some thousand changed lines; beyond that what differs in the middle is replaced as
-/// a whole. The texts of the lines last for the call.
-void unifiedDiff(std::string_view before, std::string_view after, const std::function<void(const DiffLine&)>& sink);
+/// a whole, and beyond some million lines without context. The texts of the lines last for the call.
+void unifiedDiff(std::string_view before, std::string_view after, const DiffSink& sink);
 
 }  // namespace tarnwick

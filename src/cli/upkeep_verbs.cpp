@@ -43,6 +43,9 @@ int compact(Tool& tool, const UpkeepOptions& options) {
   const std::string database = data.database().dbPath();
   const std::uintmax_t before = sizeOf(database);
   if (!data.compact()) {
+    if (tool.console().hasComplained()) {
+      return exit_status::failed;  // why no copy could be made has been told
+    }
     throw std::runtime_error("Compact Failed. The database is as it was: " + database);
   }
   const std::uintmax_t after = sizeOf(database);
@@ -74,7 +77,7 @@ void addUpkeepVerbs(CLI::App& app, Action& chosen) {
       report);
   addUpkeepVerb(
       app, chosen, "compact", "Shrink the database, and keep a copy of it as it was",
-      "The copy is backup.mdb in the program folder. No other program may have the database open: end a run\n"
+      "The copy is backup.mdb in the program folder. No other program may have the database open: end a run "
       "and close the window first.\n" +
           examples({{"compact", "prints the sizes before and after"}, {"compact --json", "the same for a script"}}),
       compact);

@@ -35,6 +35,8 @@ void addExchangeVerbs(CLI::App& app, Action& chosen);
 CLI::Option* addSiteId(CLI::App& verb, std::int16_t& idSite);
 /// Takes whole numbers in decimal only; the library alone reads 010 as 8.
 CLI::Validator decimalNumber();
+/// Takes whole numbers in decimal that can be the id of a site.
+CLI::Validator siteNumber();
 /// Adds `--json`.
 CLI::Option* addJsonFlag(CLI::App& verb, bool& json);
 /// The examples that stand below a verb's help: each the arguments behind the program's name, and what they do.

@@ -56,6 +56,17 @@ std::string completed(std::string_view text) {
 
 bool isControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
 
+// What a file transfer's command line would end with: it is sent as what it stands for.
+bool hasEncodedControl(std::string_view url) {
+  for (auto at = url.find('%'); at != std::string_view::npos; at = url.find('%', at + 1)) {
+    const std::string_view digits = url.substr(at + 1, 2);
+    if (digits.size() == 2 && (digits[0] == '0' || digits[0] == '1' || digits == "7F" || digits == "7f")) {
+      return true;
+    }
+  }
+  return false;
+}
+
 /// `text` has a scheme.
 std::optional<Address> takenApart(const std::string& text) {
   const std::unique_ptr<CURLU, UrlCleanup> url(curl_url());
@@ -73,6 +84,9 @@ std::optional<Address> takenApart(const std::string& text) {
   }
   // What is percent-encoded in a host name has become what it stands for.
   if (std::ranges::any_of(address.url, isControl)) {
+    return std::nullopt;
+  }
+  if (address.scheme.starts_with("ftp") && hasEncodedControl(address.url)) {
     return std::nullopt;
   }
   return address;

@@ -17,7 +17,8 @@ struct Address {
 };
 
 /// The address that a user means by `text`: blanks around it do not count, blanks inside it are percent-encoded, and
-/// one without a scheme is http. Nothing when it is not a valid address (RFC 3986) or holds a control character.
+/// one without a scheme is http. Nothing when it is not a valid address (RFC 3986) or holds a control character,
+/// one of ftp also when it is percent-encoded.
 std::optional<Address> parseAddress(const std::string& text);
 
 /// The schemes that are fetched, separated by commas.

@@ -1,23 +1,41 @@
 #include "platform/curl_event_loop.h"
 
 #include <algorithm>
-#include <csignal>
+#include <climits>
 #include <stdexcept>
+#include <utility>
 #include <QMetaObject>
+
+#include "platform/unwanted_signals.h"
 
 namespace tarnwick {
 namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+/// Often enough to notice that the program was busy elsewhere, seldom enough to cost nothing.
+constexpr milliseconds kBeat{100};
+/// What a loop that has enough to do may be late by.
+constexpr milliseconds kUsualLateness{50};
+
+/// libcurl reads the bounds anew whenever it looks at the time, also in the middle of a transfer.
+void boundWaitsInside(CURL* easy, milliseconds allowed) {
+  constexpr milliseconds kLongest{INT_MAX};
+  // It divides the time for connecting among the addresses of a host.
+  curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(std::min(allowed, kLongest).count()));
+  // For where it waits inside itself and reads what an FTP server drips. Elsewhere the event loop's own end comes
+  // first.
+  curl_easy_setopt(easy, CURLOPT_TIMEOUT_MS, static_cast<long>(std::min(allowed + 2 * kBeat, kLongest).count()));
+}
 
 void initializeCurl() {
   static const CURLcode result = curl_global_init(CURL_GLOBAL_DEFAULT);
   if (result != CURLE_OK) {
     throw std::runtime_error(std::string("The transfer library cannot be used: ") + curl_easy_strerror(result) + ".");
   }
-#ifdef SIGPIPE
   // libcurl is told to leave signals alone, so a server that hangs up on us must not end the program.
-  static const auto previous = std::signal(SIGPIPE, SIG_IGN);
-  static_cast<void>(previous);
-#endif
+  ignoreUnwantedSignals();
 }
 
 }  // namespace
@@ -35,27 +53,34 @@ CurlEventLoop::CurlEventLoop() {
   timer_.setSingleShot(true);
   timer_.setTimerType(Qt::PreciseTimer);
   QObject::connect(&timer_, &QTimer::timeout, &context_, [this] { act(CURL_SOCKET_TIMEOUT, 0); });
+  beat_.setSingleShot(true);
+  beat_.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&beat_, &QTimer::timeout, &context_, [this] { beat(); });
 }
 
 CurlEventLoop::~CurlEventLoop() {
-  for (const auto& [easy, done] : transfers_) {
+  for (const auto& [easy, transfer] : transfers_) {
     curl_multi_remove_handle(multi_, easy);
   }
   curl_multi_cleanup(multi_);
 }
 
-bool CurlEventLoop::start(CURL* easy, std::function<void(CURLcode)> done) {
-  enteredAt_ = std::chrono::steady_clock::now();
+bool CurlEventLoop::start(CURL* easy, milliseconds timeout, std::function<void(CURLcode)> done) {
+  // What the program has done before is not for this transfer.
+  giveBackTimeAway();
+  boundWaitsInside(easy, timeout);
+  enteredAt_ = steady_clock::now();
   if (curl_multi_add_handle(multi_, easy) != CURLM_OK) {
     return false;
   }
-  transfers_[easy] = std::move(done);
+  transfers_.insert_or_assign(easy, Transfer{std::move(done), TransferClock(enteredAt_, timeout)});
+  armBeat(enteredAt_);
   return true;
 }
 
 void CurlEventLoop::stop(CURL* easy) {
   if (transfers_.erase(easy) > 0) {
-    enteredAt_ = std::chrono::steady_clock::now();
+    enteredAt_ = steady_clock::now();
     curl_multi_remove_handle(multi_, easy);
   }
 }
@@ -65,8 +90,8 @@ void CurlEventLoop::post(std::function<void()> event) {
   wake();
 }
 
-std::chrono::milliseconds CurlEventLoop::timeInside() const {
-  return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - enteredAt_);
+milliseconds CurlEventLoop::timeInside() const {
+  return std::chrono::duration_cast<milliseconds>(steady_clock::now() - enteredAt_);
 }
 
 int CurlEventLoop::socketChanged(CURL*, curl_socket_t socket, int what, void* self, void*) {
@@ -124,13 +149,14 @@ void CurlEventLoop::unwatch(curl_socket_t socket) {
 }
 
 void CurlEventLoop::act(curl_socket_t socket, int events) {
-  enteredAt_ = std::chrono::steady_clock::now();
+  giveBackTimeAway();
+  enteredAt_ = steady_clock::now();
   int running = 0;
   curl_multi_socket_action(multi_, socket, events, &running);
   // libcurl tells a time-out only when it changes. One that fired a moment too early must be set again by us.
   long next = -1;
   if (!timer_.isActive() && curl_multi_timeout(multi_, &next) == CURLM_OK && next >= 0) {
-    timer_.start(std::chrono::milliseconds(std::max(next, 1L)));
+    timer_.start(milliseconds(std::max(next, 1L)));
   }
   collectEnded();
 }
@@ -142,14 +168,67 @@ void CurlEventLoop::collectEnded() {
       continue;
     }
     // The message is gone once its handle is taken out.
-    CURL* const easy = message->easy_handle;
-    const CURLcode result = message->data.result;
-    curl_multi_remove_handle(multi_, easy);
-    auto transfer = transfers_.extract(easy);
-    if (!transfer.empty()) {
-      transfer.mapped()(result);
+    endWith(message->easy_handle, message->data.result);
+  }
+}
+
+void CurlEventLoop::endWith(CURL* easy, CURLcode result) {
+  enteredAt_ = steady_clock::now();
+  curl_multi_remove_handle(multi_, easy);
+  auto transfer = transfers_.extract(easy);
+  if (!transfer.empty()) {
+    transfer.mapped().done(result);
+  }
+}
+
+void CurlEventLoop::beat() {
+  const auto now = steady_clock::now();
+  giveBackTimeAway();
+  endOverdue(now);
+  if (!transfers_.empty()) {
+    armBeat(steady_clock::now());
+  }
+}
+
+// The program may have stored a large page, or libcurl waited inside itself for an FTP server. Answers that came
+// meanwhile lie unread, and requests were not sent.
+void CurlEventLoop::giveBackTimeAway() {
+  const auto now = steady_clock::now();
+  const auto away = std::chrono::duration_cast<milliseconds>(now - beatDue_);
+  if (transfers_.empty() || away <= kUsualLateness) {
+    return;
+  }
+  for (auto& [easy, transfer] : transfers_) {
+    transfer.clock.giveBack(away);
+    boundWaitsInside(easy, transfer.clock.allowed());
+  }
+  armBeat(now);
+}
+
+void CurlEventLoop::endOverdue(steady_clock::time_point now) {
+  std::vector<CURL*> overdue;
+  for (auto& [easy, transfer] : transfers_) {
+    if (!transfer.clock.overdueAt(now)) {
+      continue;
+    }
+    // The answer may have arrived in this very round.
+    if (std::exchange(transfer.lastRound, true)) {
+      overdue.push_back(easy);
     }
   }
+  for (CURL* const easy : overdue) {
+    endWith(easy, CURLE_OPERATION_TIMEDOUT);
+  }
+}
+
+// Towards the next time-out when that is nearer than a beat.
+void CurlEventLoop::armBeat(steady_clock::time_point now) {
+  beatDue_ = now + kBeat;
+  for (const auto& [easy, transfer] : transfers_) {
+    beatDue_ = std::min(beatDue_, transfer.clock.deadline());
+  }
+  beatDue_ = std::max(beatDue_, now);
+  beat_.start(std::chrono::ceil<milliseconds>(beatDue_ - now));
 }
 
 void CurlEventLoop::wake() {

@@ -12,9 +12,13 @@
 #include <QSocketNotifier>
 #include <QTimer>
 
+#include "platform/transfer_clock.h"
+
 namespace tarnwick {
 
-/// Drives libcurl transfers by the Qt event loop: socket notifiers and one timer, no polling, no thread of its own.
+/// Drives libcurl transfers by the Qt event loop: socket notifiers and timers, no polling, no thread of its own. The
+/// time-out of a transfer is counted here and not by libcurl, which would take the time in which the program was busy
+/// elsewhere for the server's.
 class CurlEventLoop {
  public:
   CurlEventLoop();
@@ -22,9 +26,10 @@ class CurlEventLoop {
   CurlEventLoop(const CurlEventLoop&) = delete;
   CurlEventLoop& operator=(const CurlEventLoop&) = delete;
 
-  /// Starts the transfer. When it ends the handle is taken out and `done` is called with its result, from the event
-  /// loop. `done` must not start or stop a transfer nor handle events. False when libcurl did not take the handle.
-  bool start(CURL* easy, std::function<void(CURLcode)> done);
+  /// Starts the transfer, which may take `timeout`. When it ends the handle is taken out and `done` is called with its
+  /// result, from the event loop. `done` must not start or stop a transfer nor handle events. False when libcurl did
+  /// not take the handle.
+  bool start(CURL* easy, std::chrono::milliseconds timeout, std::function<void(CURLcode)> done);
   /// Ends the transfer at once; its `done` is not called. Harmless when it is not under way.
   void stop(CURL* easy);
 
@@ -41,6 +46,13 @@ class CurlEventLoop {
     std::unique_ptr<QSocketNotifier> writing;
   };
 
+  struct Transfer {
+    std::function<void(CURLcode)> done;
+    TransferClock clock;
+    /// It is overdue; what has arrived for it is still looked at once.
+    bool lastRound = false;
+  };
+
   static int socketChanged(CURL* easy, curl_socket_t socket, int what, void* self, void* perSocket);
   static int timerChanged(CURLM* multi, long milliseconds, void* self);
 
@@ -50,6 +62,11 @@ class CurlEventLoop {
   void unwatch(curl_socket_t socket);
   void act(curl_socket_t socket, int events);
   void collectEnded();
+  void endWith(CURL* easy, CURLcode result);
+  void beat();
+  void giveBackTimeAway();
+  void endOverdue(std::chrono::steady_clock::time_point now);
+  void armBeat(std::chrono::steady_clock::time_point now);
   void wake();
   void dispatch();
 
@@ -57,13 +74,16 @@ class CurlEventLoop {
   std::unordered_map<curl_socket_t, Watch> watches_;
   // Notifiers no longer wanted: one of them may be the one that is calling us.
   std::vector<std::unique_ptr<QSocketNotifier>> retired_;
-  std::unordered_map<CURL*, std::function<void(CURLcode)>> transfers_;
+  std::unordered_map<CURL*, Transfer> transfers_;
   std::deque<std::function<void()>> events_;
   bool awake_ = false;
   // Tells whether an event has destroyed us.
   std::shared_ptr<char> alive_ = std::make_shared<char>();
   std::chrono::steady_clock::time_point enteredAt_;
   QTimer timer_;
+  // Beats while a transfer is under way. One beat that comes late tells how long nobody served the sockets.
+  QTimer beat_;
+  std::chrono::steady_clock::time_point beatDue_;
   QObject context_;
 };
 

@@ -15,6 +15,18 @@ constexpr std::size_t kLargestHeader = std::size_t{256} * 1024;
 constexpr std::chrono::milliseconds kLongestWaitInside{900};
 constexpr int kSeeOther = 303;
 
+std::string textOf(CURL* easy, CURLINFO what) {
+  const char* text = nullptr;
+  curl_easy_getinfo(easy, what, &text);
+  return text == nullptr ? "" : text;
+}
+
+int numberOf(CURL* easy, CURLINFO what) {
+  long number = 0;
+  curl_easy_getinfo(easy, what, &number);
+  return static_cast<int>(number);
+}
+
 BrokenBound brokenBy(HeadFault fault) {
   switch (fault) {
     case HeadFault::unclearLength:
@@ -58,12 +70,18 @@ CurlRequest::~CurlRequest() {
 }
 
 bool CurlRequest::start(std::function<void(CURLcode)> done) {
-  return easy_ && caches_ && loop_.start(easy_.get(), std::move(done));
+  return easy_ && caches_ && loop_.start(easy_.get(), timeLimit(), std::move(done));
 }
 
 int CurlRequest::onResolve(void*, void*, void* self) {
   static_cast<CurlRequest*>(self)->reach(transfer_state::resolvingHost);
   return 0;
+}
+
+curl_socket_t CurlRequest::onOpen(void* self, curlsocktype, curl_sockaddr* address) {
+  const curl_socket_t opened = ::socket(address->family, address->socktype, address->protocol);
+  static_cast<CurlRequest*>(self)->refusedSocket_ = opened == CURL_SOCKET_BAD ? lastSocketError() : 0;
+  return opened;
 }
 
 int CurlRequest::onSocket(void* self, curl_socket_t socket, curlsocktype) {
@@ -187,20 +205,26 @@ void CurlRequest::completeStates(CURLcode result) {
   noteSent(sent);
 }
 
+int CurlRequest::refusedSocket(CURLcode result) const {
+  // Of these libcurl tells no more, and both need files and sockets of the system's.
+  const bool neededMore = result == CURLE_COULDNT_RESOLVE_HOST || result == CURLE_SSL_CACERT_BADFILE;
+  return refusedSocket_ == 0 && neededMore ? shortageOfSockets() : refusedSocket_;
+}
+
 TransferFailure CurlRequest::failure(CURLcode result) const {
-  const char* url = nullptr;
-  curl_easy_getinfo(easy_.get(), CURLINFO_EFFECTIVE_URL, &url);
-  long systemError = 0;
-  curl_easy_getinfo(easy_.get(), CURLINFO_OS_ERRNO, &systemError);
-  long status = 0;
-  curl_easy_getinfo(easy_.get(), CURLINFO_RESPONSE_CODE, &status);
+  CURL* const easy = easy_.get();
+  const std::string url = textOf(easy, CURLINFO_EFFECTIVE_URL);
+  const std::string peer = textOf(easy, CURLINFO_PRIMARY_IP);
   // A header line longer than libcurl's own bound is reported as a lack of memory.
   const bool headerRefused = result == CURLE_OUT_OF_MEMORY && state_ >= transfer_state::requesting && page_.empty();
   return failureOf({.result = result,
                     .detail = detail_.data(),
-                    .url = url == nullptr ? order_.url : url,
-                    .systemError = errnoOfSocket(static_cast<int>(systemError)),
-                    .status = static_cast<int>(status),
+                    .url = url.empty() ? order_.url : url,
+                    .peer = peer.empty() ? "" : peer + " port " + std::to_string(numberOf(easy, CURLINFO_PRIMARY_PORT)),
+                    .systemError = errnoOfSocket(numberOf(easy, CURLINFO_OS_ERRNO)),
+                    .refusedSocket = refusedSocket(result),
+                    .status = numberOf(easy, CURLINFO_RESPONSE_CODE),
+                    .redirected = numberOf(easy, CURLINFO_REDIRECT_COUNT) > 0,
                     .answered = answering_,
                     .bound = headerRefused ? BrokenBound::header : bound_,
                     .timeout = order_.timeout,

@@ -62,6 +62,7 @@ class CurlRequest {
   using LineList = std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)>;
 
   void setCallbacks();
+  std::chrono::milliseconds timeLimit() const;
   void setBounds();
   void setCaches();
   void setTarget();
@@ -70,6 +71,7 @@ class CurlRequest {
   void setCredentials();
 
   static int onResolve(void* resolver, void* reserved, void* self);
+  static curl_socket_t onOpen(void* self, curlsocktype purpose, curl_sockaddr* address);
   static int onSocket(void* self, curl_socket_t socket, curlsocktype purpose);
   static CURLcode onHandshake(CURL* easy, void* sslContext, void* self);
   static int onReady(void* self, char* remoteAddress, char* localAddress, int remotePort, int localPort);
@@ -83,6 +85,7 @@ class CurlRequest {
   bool addPage(std::string_view piece);
   bool announcedTooLarge() const;
   bool waitsInside() const;
+  int refusedSocket(CURLcode result) const;
 
   RequestOrder order_;
   CurlTransfers::Options options_;
@@ -97,6 +100,8 @@ class CurlRequest {
   AnswerHead head_;
   // Something has come back over the connection that was made last.
   bool answering_ = false;
+  // Why the system has refused the socket that was asked for last; 0 when it has not.
+  int refusedSocket_ = 0;
   BrokenBound bound_ = BrokenBound::none;
   int state_ = transfer_state::none;
 };

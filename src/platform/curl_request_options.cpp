@@ -10,6 +10,8 @@ namespace {
 
 constexpr const char* kUserAgent = "Tarnwick/1.0";
 constexpr long kReceiveBuffer = 128L * 1024;
+/// The longest that libcurl takes.
+constexpr std::chrono::seconds kLongestWait{INT_MAX / 1000};
 
 // A token of RFC 9110, section 5.6.2: what a method may be. Anything else could smuggle a line into the request.
 bool isToken(std::string_view text) {
@@ -46,6 +48,8 @@ void CurlRequest::setCallbacks() {
   set(easy, CURLOPT_ERRORBUFFER, detail_.data());
   set(easy, CURLOPT_RESOLVER_START_FUNCTION, &CurlRequest::onResolve);
   set(easy, CURLOPT_RESOLVER_START_DATA, this);
+  set(easy, CURLOPT_OPENSOCKETFUNCTION, &CurlRequest::onOpen);
+  set(easy, CURLOPT_OPENSOCKETDATA, this);
   set(easy, CURLOPT_SOCKOPTFUNCTION, &CurlRequest::onSocket);
   set(easy, CURLOPT_SOCKOPTDATA, this);
   set(easy, CURLOPT_SSL_CTX_FUNCTION, &CurlRequest::onHandshake);
@@ -63,12 +67,12 @@ void CurlRequest::setCallbacks() {
   set(easy, CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
 }
 
+std::chrono::milliseconds CurlRequest::timeLimit() const { return std::min(order_.timeout, kLongestWait); }
+
 void CurlRequest::setBounds() {
   CURL* const easy = easy_.get();
-  const auto seconds = static_cast<long>(std::min<std::chrono::seconds::rep>(order_.timeout.count(), INT_MAX / 1000));
-  set(easy, CURLOPT_TIMEOUT, seconds);
-  set(easy, CURLOPT_CONNECTTIMEOUT, seconds);
-  set(easy, CURLOPT_SERVER_RESPONSE_TIMEOUT, seconds);
+  // The event loop bounds all other waiting; that of a reply must not end what it has given more time.
+  set(easy, CURLOPT_SERVER_RESPONSE_TIMEOUT, static_cast<long>(kLongestWait.count()));
   set(easy, CURLOPT_NOSIGNAL, 1L);
   // Cancelling must not wait for a name look-up that is under way in the system's resolver.
   set(easy, CURLOPT_QUICK_EXIT, 1L);

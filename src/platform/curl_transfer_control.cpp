@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/heap.h"
+
 namespace tarnwick {
 
 /// One request from `execute` until its last event has been delivered, or until it is cancelled.
@@ -16,7 +18,10 @@ struct CurlTransferControl::Run {
 CurlTransferControl::CurlTransferControl(std::shared_ptr<CurlEventLoop> loop, CurlTransfers::Options options)
     : loop_(std::move(loop)), options_(std::move(options)) {}
 
-CurlTransferControl::~CurlTransferControl() { endRun(); }
+CurlTransferControl::~CurlTransferControl() {
+  endRun();
+  giveBackFreedMemory();
+}
 
 void CurlTransferControl::setRequestTimeout(std::chrono::seconds timeout) {
   order_.timeout = timeout.count() > 0 ? timeout : kDefaultRequestTimeout;

@@ -3,6 +3,7 @@
 #include <QProcess>
 
 #include "platform/detached_programs.h"
+#include "platform/socket_inheritance.h"
 
 namespace tarnwick {
 
@@ -23,6 +24,7 @@ bool DetachedPrograms::start(const std::vector<std::string>& arguments) {
   process.setStandardInputFile(QProcess::nullDevice());
   process.setStandardOutputFile(QProcess::nullDevice());
   process.setStandardErrorFile(QProcess::nullDevice());
+  keepAllFromPrograms();
   return process.startDetached();
 }
 

@@ -26,6 +26,7 @@ std::uint64_t sizeOf(const std::string& path);
 /// Whether both paths lead to one file. False when one of them leads nowhere.
 bool isSameFile(const std::string& one, const std::string& other);
 
+/// A file that is made here can be written by its owner only, and read by whom the user's own rule for new files lets.
 enum class FileUse {
   read,
   /// From its start; what stood there is gone.
@@ -44,9 +45,6 @@ FileHandle openFile(const std::string& path, FileUse use);
 /// Waits until the disk holds what has been written. `path` is for the error.
 void settle(std::FILE* file, const std::string& path);
 
-/// Lets those read and write the file `to` who may read and write `from`. Where a new file takes its rights from its
-/// folder this is so already.
-void copyPermissions(const std::string& from, const std::string& to);
 /// Gives the file `from` the name `to` in the same folder, in place of a file that has this name. On the disk when this
 /// returns.
 void replaceFile(const std::string& from, const std::string& to);

@@ -16,14 +16,14 @@ namespace fs = std::filesystem;
   throw FileError(path, std::generic_category().message(cause));
 }
 
-const char* modeOf(FileUse use) {
+int flagsOf(FileUse use) {
   switch (use) {
     case FileUse::read:
-      return "rbe";
+      return O_RDONLY;
     case FileUse::update:
-      return "r+be";
+      return O_WRONLY | O_CREAT;
     default:
-      return "wbe";
+      return O_WRONLY | O_CREAT | O_TRUNC;
   }
 }
 
@@ -78,12 +78,16 @@ bool isSameFile(const std::string& one, const std::string& other) {
 }
 
 FileHandle openFile(const std::string& path, FileUse use) {
-  FileHandle file(std::fopen(pathOf(path).c_str(), modeOf(use)));
-  if (!file && use == FileUse::update && errno == ENOENT) {
-    file.reset(std::fopen(pathOf(path).c_str(), modeOf(FileUse::write)));
-  }
-  if (!file) {
+  constexpr mode_t kWrittenByOwnerOnly = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
+  const int descriptor = ::open(pathOf(path).c_str(), flagsOf(use) | O_CLOEXEC, kWrittenByOwnerOnly);
+  if (descriptor < 0) {
     fail(path, errno);
+  }
+  FileHandle file(fdopen(descriptor, use == FileUse::read ? "rb" : "wb"));
+  if (!file) {
+    const int cause = errno;
+    ::close(descriptor);
+    fail(path, cause);
   }
   return file;
 }
@@ -91,17 +95,6 @@ FileHandle openFile(const std::string& path, FileUse use) {
 void settle(std::FILE* file, const std::string& path) {
   if (std::fflush(file) != 0 || fsync(fileno(file)) != 0) {
     fail(path, errno);
-  }
-}
-
-void copyPermissions(const std::string& from, const std::string& to) {
-  std::error_code fault;
-  const fs::file_status model = fs::status(pathOf(from), fault);
-  if (!fault && model.permissions() != fs::perms::unknown) {
-    fs::permissions(pathOf(to), model.permissions(), fault);
-  }
-  if (fault) {
-    throw FileError(to, fault.message());
   }
 }
 

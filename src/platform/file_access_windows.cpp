@@ -165,10 +165,6 @@ void settle(std::FILE* file, const std::string& path) {
   }
 }
 
-void copyPermissions(const std::string&, const std::string&) {
-  // A file has the access list of its folder from the moment it is made.
-}
-
 void replaceFile(const std::string& from, const std::string& to) {
   const std::wstring source = systemPath(from);
   const std::wstring target = systemPath(to);

@@ -6,6 +6,7 @@
 
 #include "platform/errors.h"
 #include "platform/file_access.h"
+#include "platform/private_file.h"
 
 namespace tarnwick {
 namespace {
@@ -20,10 +21,13 @@ constexpr std::size_t kPieceSize = 1 << 20;
 
 void LocalFiles::write(const std::string& path, const std::string& like,
                        const std::function<void(const ByteSink& sink)>& fill) {
-  FileHandle file = openFile(path, FileUse::write);
+  // Not over what stands there: who has that open, or has put a link there, would get at what only its owner may read.
+  removeFile(path);
+  FileHandle file = openNewFileLike(path, like);
+  if (!file) {
+    fail(path, EEXIST);
+  }
   try {
-    // Before the first byte is written: what only its owner may read must not be readable for a moment either.
-    copyPermissions(like, path);
     fill([&](std::string_view bytes) {
       if (std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) {
         fail(path, errno);

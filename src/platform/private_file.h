@@ -14,7 +14,12 @@ namespace tarnwick {
 /// the link leads to; what is no file, as a pipe, is written to as it is. Raises FileError.
 void writePrivateFile(const std::string& path, const std::function<void(const ByteSink& sink)>& fill);
 
-/// Opens a new file for writing that nobody but its owner can read; nothing when the name is taken. Raises FileError.
+/// Opens a new file for writing that nobody but its owner can read; nothing when the name is taken, be it by a link.
+/// Raises FileError.
 FileHandle openNewPrivateFile(const std::string& path);
+
+/// The same, but those who may read and write the file `like` may do so with the new one too, and nobody else at any
+/// moment.
+FileHandle openNewFileLike(const std::string& path, const std::string& like);
 
 }  // namespace tarnwick

@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -20,6 +21,22 @@ FileHandle openNewPrivateFile(const std::string& path) {
     if (descriptor >= 0) {
       ::close(descriptor);
     }
+    throw FileError(path, std::generic_category().message(cause));
+  }
+  return file;
+}
+
+FileHandle openNewFileLike(const std::string& path, const std::string& like) {
+  constexpr mode_t kRights = S_IRWXU | S_IRWXG | S_IRWXO;
+  struct stat model {};
+  if (::stat(pathOf(like).c_str(), &model) != 0) {
+    throw FileError(like, std::generic_category().message(errno));
+  }
+  FileHandle file = openNewPrivateFile(path);
+  if (file && ::fchmod(fileno(file.get()), model.st_mode & kRights) != 0) {
+    const int cause = errno;
+    file.reset();
+    removeFile(path);
     throw FileError(path, std::generic_category().message(cause));
   }
   return file;

@@ -83,4 +83,9 @@ FileHandle openNewPrivateFile(const std::string& path) {
   return file;
 }
 
+FileHandle openNewFileLike(const std::string& path, const std::string&) {
+  // A file has the access list of its folder from the moment it is made.
+  return isTaken(path) ? nullptr : openFile(path, FileUse::write);
+}
+
 }  // namespace tarnwick

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 #include <utility>
+#include <QFile>
 #include <QLockFile>
 #include <QString>
 
@@ -65,6 +66,8 @@ void RunLock::take() {
   const std::string path = folder_ + kLockFile;
   auto file = std::make_unique<File>(path);
   if (tryToTake(file->lock)) {
+    // Whoever could write it could let a second run in.
+    QFile::setPermissions(QString::fromStdString(path), QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     file_ = std::move(file);
     return;
   }

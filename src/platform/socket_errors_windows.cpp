@@ -20,9 +20,18 @@ int errnoOfSocket(int error) {
       return ENETDOWN;
     case WSAETIMEDOUT:
       return ETIMEDOUT;
+    case WSAEMFILE:
+      return EMFILE;
+    case WSAENOBUFS:
+      return ENOBUFS;
     default:
       return error;
   }
 }
+
+// Handles are not scarce there: what a program may open is bounded by memory alone.
+int shortageOfSockets() { return 0; }
+
+int lastSocketError() { return errnoOfSocket(WSAGetLastError()); }
 
 }  // namespace tarnwick

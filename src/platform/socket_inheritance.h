@@ -7,4 +7,7 @@ namespace tarnwick {
 /// A program started as an alert must not inherit the connection and keep it open. `socket` is the system's handle.
 void keepFromPrograms(std::uintptr_t socket);
 
+/// The same for all that this process has open beyond its standard streams, also what libraries have opened.
+void keepAllFromPrograms();
+
 }  // namespace tarnwick

@@ -5,14 +5,13 @@
 #include <cstddef>
 
 #include "platform/errors.h"
+#include "platform/shown_statement.h"
 #include "platform/sql_rows_translator.h"
 
 namespace tarnwick {
 namespace {
 
 using Tokens = std::vector<SqlToken>;
-
-constexpr std::size_t kShownLength = 400;
 
 /// Statements about rows: in these a value may stand as a parameter.
 bool concernsRows(const Tokens& tokens) {
@@ -178,7 +177,7 @@ std::optional<SelectInto> readSelectInto(const Tokens& tokens) {
 PlainStatement passedOn(std::string_view sql) {
   if (sql.find('\0') != std::string_view::npos) {
     throw DataAccessError("A NUL byte cannot stand in a statement that defines tables or settings.",
-                          std::string(sql.substr(0, kShownLength)));
+                          shownStatement(sql));
   }
   return {std::string(sql), {}, false};
 }

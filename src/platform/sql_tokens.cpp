@@ -5,12 +5,10 @@
 #include <charconv>
 
 #include "platform/errors.h"
+#include "platform/shown_statement.h"
 
 namespace tarnwick {
 namespace {
-
-// Enough of a statement for a message box; page texts make statements of many megabytes.
-constexpr std::size_t kShownLength = 400;
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f'; }
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
@@ -32,9 +30,7 @@ class Scanner {
   }
 
  private:
-  [[noreturn]] void fail(const std::string& cause) const {
-    throw DataAccessError(cause, std::string(sql_.substr(0, kShownLength)));
-  }
+  [[noreturn]] void fail(const std::string& cause) const { throw DataAccessError(cause, shownStatement(sql_)); }
 
   bool startsWith(std::string_view text) const { return sql_.substr(position_).starts_with(text); }
 

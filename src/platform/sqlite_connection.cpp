@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "platform/errors.h"
+#include "platform/shown_statement.h"
 #include "platform/sql_table_definition.h"
 #include "platform/sqlite_database.h"
-#include "platform/sqlite_errors.h"
 #include "platform/sqlite_hold.h"
 #include "platform/sqlite_recordset.h"
 #include "platform/sqlite_tables.h"
@@ -89,8 +89,14 @@ class SqliteConnection final : public SqlConnection {
     return std::make_unique<NoRows>();
   }
 
-  void begin() override { runFixed("BEGIN IMMEDIATE"); }
-  void commit() override { runFixed("COMMIT"); }
+  void begin() override {
+    static constexpr const char* kBegin = "BEGIN IMMEDIATE";
+    opened(kBegin).run({kBegin, {}, true}, kBegin);
+  }
+  void commit() override {
+    static constexpr const char* kCommit = "COMMIT";
+    opened(kCommit).run({kCommit, {}, true}, kCommit);
+  }
 
   void rollback() noexcept override {
     if (inTransaction()) {
@@ -129,7 +135,28 @@ class SqliteConnection final : public SqlConnection {
       database_.reset();
       database_ = std::make_unique<SqliteDatabase>(path_, clock_);
     }
+    if (!inTransaction()) {
+      refuseOtherFiles();
+    }
     return *database_;
+  }
+
+  /// Whoever is at work gets an error once, and the files that are there now with the next opening.
+  void refuseOtherFiles() {
+    using Finding = SqliteFileWatch::Finding;
+    const Finding finding = database_->lookAtFiles();
+    if (finding == Finding::same) {
+      return;
+    }
+    if (finding == Finding::missing) {
+      // Kept open: when a folder was only moved away, and comes back, nothing is lost.
+      requireFile(path_);
+      return;
+    }
+    if (!database_->isRead()) {
+      database_.reset();
+    }
+    throw exchangedFiles(finding, path_);
   }
 
   static std::unique_ptr<Recordset> runPlain(SqliteDatabase& database, const PlainStatement& statement,
@@ -143,8 +170,6 @@ class SqliteConnection final : public SqlConnection {
     }
     return std::make_unique<SqliteRecordset>(database, std::move(loan), onRow, shownStatement(sql));
   }
-
-  void runFixed(const char* text) { opened(text).run({text, {}, true}, text); }
 
   const Clock& clock_;
   std::string path_;

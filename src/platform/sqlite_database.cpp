@@ -8,6 +8,8 @@
 
 #include "platform/errors.h"
 #include "platform/file_access.h"
+#include "platform/heap.h"
+#include "platform/shown_statement.h"
 #include "platform/sqlite_errors.h"
 #include "platform/sqlite_file.h"
 #include "platform/sqlite_functions.h"
@@ -32,18 +34,6 @@ std::uint64_t bytesIn(const std::string& path) {
   }
 }
 
-/// A file without which nothing works, told apart from what SQLite would only call "unable to open".
-void requireFile(const std::string& path) {
-  const FileKind kind = kindOf(path);
-  if (kind == FileKind::none) {
-    throw DataAccessError(
-        "The database " + path + " is missing. Put the file back, for instance by copying backup.mdb to its name.", "");
-  }
-  if (kind == FileKind::folder) {
-    throw DataAccessError("The database " + path + " is a folder. Put the database file in its place.", "");
-  }
-}
-
 }  // namespace
 
 void StatementLoan::giveBack() noexcept {
@@ -64,6 +54,9 @@ SqliteDatabase::SqliteDatabase(std::string path, const Clock& clock) : path_(std
   setForeignLogAside();
   refuseDamage();
   chooseJournal();
+  if (!liesOnNetwork(path_)) {  // where a file may be known by another number every time
+    watch_.emplace(path_, handle());
+  }
 }
 
 SqliteDatabase::~SqliteDatabase() {
@@ -73,6 +66,11 @@ SqliteDatabase::~SqliteDatabase() {
   }
   keptByText_.clear();
   kept_.clear();
+  if (watch_) {
+    watch_->beforeClosing(handle());
+    handle_.reset();
+    watch_->afterClosing();
+  }
 }
 
 void SqliteDatabase::openFile() {
@@ -139,6 +137,8 @@ void SqliteDatabase::chooseJournal() noexcept {
     sqlite3_exec(database, "pragma journal_mode = wal", nullptr, nullptr, nullptr);
     // With the write-ahead log a killed process loses nothing, and the file is whole even after a power cut.
     sqlite3_exec(database, "pragma synchronous = normal", nullptr, nullptr, nullptr);
+    // Makes the log now, so that it is there to be watched.
+    sqlite3_exec(database, "pragma schema_version", nullptr, nullptr, nullptr);
   }
   // One large page must not leave a log of its size on the disk for the rest of the run.
   sqlite3_exec(database, "pragma journal_size_limit = 8388608", nullptr, nullptr, nullptr);
@@ -157,6 +157,7 @@ void SqliteDatabase::fitCache(const PlainStatement& statement) noexcept {
   if (large && !cachesLargePage_) {
     cachesLargePage_ = true;
     sqlite3_exec(handle(), kLargeCache, nullptr, nullptr, nullptr);
+    keepFreedMemory();  // until the transfers that brought such pages have gone
   } else if (!large && cachesLargePage_ && sqlite3_get_autocommit(handle()) != 0) {
     cachesLargePage_ = false;
     sqlite3_exec(handle(), kUsualCache, nullptr, nullptr, nullptr);

@@ -4,6 +4,7 @@
 
 #include <list>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -11,6 +12,7 @@
 
 #include "platform/clock.h"
 #include "platform/sql_dialect.h"
+#include "platform/sqlite_file_watch.h"
 
 namespace tarnwick {
 
@@ -85,6 +87,12 @@ class SqliteDatabase {
   /// open file goes on with after its permissions have been put right.
   bool wantsReopening() const { return outdated_ && open_.empty() && sqlite3_get_autocommit(handle()) != 0; }
 
+  /// What became of the files since they were opened. May be noticed only some time later, for it is asked before
+  /// every statement.
+  SqliteFileWatch::Finding lookAtFiles() { return watch_ ? watch_->lookNowAndThen() : SqliteFileWatch::Finding::same; }
+  /// Whether rows are being read.
+  bool isRead() const { return !open_.empty(); }
+
   void enroll(SqliteRecordset& recordset) { open_.push_back(&recordset); }
   void strikeOff(const SqliteRecordset& recordset) noexcept { std::erase(open_, &recordset); }
 
@@ -102,6 +110,7 @@ class SqliteDatabase {
   std::string path_;
   const Clock& clock_;
   SqliteHandle handle_;
+  std::optional<SqliteFileWatch> watch_;
   /// The prepared statements not on loan, the one used last in front; found by the text they hold themselves.
   Kept kept_;
   std::unordered_map<std::string_view, Kept::iterator> keptByText_;

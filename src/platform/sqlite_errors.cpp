@@ -2,16 +2,22 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <optional>
 
+#include "platform/shown_statement.h"
 #include "platform/sql_dialect.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr std::size_t kShownLength = 400;
 constexpr std::size_t kShownValueLength = 40;
 constexpr int kPrimaryCodeMask = 0xff;
+
+/// A slip of the fingers is short and plain; anything else may be what was meant for another place.
+bool isFitToShow(std::string_view value) {
+  return value.size() <= kShownValueLength && std::ranges::all_of(value, [](char c) { return c >= ' ' && c <= '~'; });
+}
 
 /// A failed check names its rule, which the schema words as a sentence about a column: "timeout takes a whole number".
 std::string brokenRule(const std::string& message, std::string_view sql) {
@@ -24,9 +30,7 @@ std::string brokenRule(const std::string& message, std::string_view sql) {
   if (!value) {
     return rule + ". Nothing was stored.";
   }
-  const bool isShort = value->size() <= kShownValueLength;
-  return rule + "; " + (isShort ? std::string(*value) : std::string(value->substr(0, kShownValueLength)) + "...'") +
-         " was not stored.";
+  return rule + "; " + (isFitToShow(*value) ? std::string(*value) : "'...'") + " was not stored.";
 }
 
 std::string constraintCause(int code, const std::string& message, std::string_view sql) {
@@ -62,6 +66,10 @@ std::string cause(int code, const std::string& message, const std::string& path,
       return "The disk is full: the database " + path + " could not store this. Free some space and try again." +
              detail;
     case SQLITE_IOERR:
+      if (code == SQLITE_IOERR_SHMSIZE) {
+        return "The disk is full: even reading the database " + path +
+               " needs room for a small file beside it. Free some space and try again." + detail;
+      }
       return "Reading or writing the database " + path + " failed. Check the disk it lies on, and its free space." +
              detail;
     case SQLITE_TOOBIG:
@@ -78,8 +86,6 @@ std::string cause(int code, const std::string& message, const std::string& path,
 }
 
 }  // namespace
-
-std::string shownStatement(std::string_view sql) { return std::string(sql.substr(0, kShownLength)); }
 
 DataAccessError damagedDatabase(const std::string& path, const std::string& message, std::string_view sql) {
   return {"The file " + path + " is damaged or is no database. Put back a good copy, for instance backup.mdb. (" +

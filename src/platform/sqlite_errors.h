@@ -7,9 +7,6 @@
 
 namespace tarnwick {
 
-/// What of a statement goes into an error: enough for a message box, however long the statement is.
-std::string shownStatement(std::string_view sql);
-
 /// The error for a failed SQLite call on the database at `path`: in plain words, with the remedy where there is one and
 /// SQLite's own `message` behind. `code` is an extended result code (https://www.sqlite.org/rescode.html); `sql` the
 /// statement that was running, or empty.

@@ -2,6 +2,8 @@
 
 #include <sqlite3.h>
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace tarnwick {
@@ -15,5 +17,16 @@ int openSqliteFile(const std::string& path, int flags, sqlite3** database);
 /// Whether the file lies on another machine, where SQLite's write-ahead log cannot be shared between programs.
 /// https://www.sqlite.org/wal.html
 bool liesOnNetwork(const std::string& path);
+
+/// Tells a file from every other one on this machine, whatever its name.
+struct FileIdentity {
+  std::uint64_t device;
+  std::uint64_t number;
+  bool operator==(const FileIdentity&) const = default;
+};
+
+/// Which file has the name `path` now; nothing when there is none, and where a file cannot be taken away or exchanged
+/// while SQLite has it open.
+std::optional<FileIdentity> identityOf(const std::string& path);
 
 }  // namespace tarnwick

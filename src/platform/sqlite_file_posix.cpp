@@ -1,3 +1,4 @@
+#include <sys/stat.h>
 #include <sys/statfs.h>
 
 #include <algorithm>
@@ -24,6 +25,14 @@ bool liesOnNetwork(const std::string& path) {
   struct statfs facts {};
   return ::statfs(path.c_str(), &facts) == 0 &&
          std::ranges::find(kNetworkKinds, static_cast<std::uint32_t>(facts.f_type)) != kNetworkKinds.end();
+}
+
+std::optional<FileIdentity> identityOf(const std::string& path) {
+  struct stat facts {};
+  if (::stat(path.c_str(), &facts) != 0) {
+    return std::nullopt;
+  }
+  return FileIdentity{facts.st_dev, facts.st_ino};
 }
 
 }  // namespace tarnwick

@@ -35,4 +35,7 @@ bool liesOnNetwork(const std::string& path) {
   return GetVolumePathNameW(systemPath(path).c_str(), root, MAX_PATH) != FALSE && GetDriveTypeW(root) == DRIVE_REMOTE;
 }
 
+// Here nobody can move or remove a file that SQLite has open.
+std::optional<FileIdentity> identityOf(const std::string&) { return std::nullopt; }
+
 }  // namespace tarnwick

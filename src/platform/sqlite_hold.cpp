@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/errors.h"
-#include "platform/file_access.h"
+#include "platform/private_file.h"
 #include "platform/sqlite_connection.h"
 #include "platform/sqlite_errors.h"
 #include "platform/sqlite_file.h"
@@ -30,14 +30,14 @@ SqliteHandle openFile(const std::string& path, int flags) {
 
 /// Makes an empty file that may be read by those who may read the file `like`.
 void makeEmpty(const std::string& path, const std::string& like) {
-  if (isTaken(path)) {
-    throw DataAccessError("The file " + path + " is there already and would be overwritten. Remove it.", "");
-  }
+  bool isMade = false;
   try {
-    openFile(path, FileUse::write);
-    copyPermissions(like, path);
+    isMade = openNewFileLike(path, like) != nullptr;
   } catch (const FileError&) {
     throw DataAccessError("The file " + path + " cannot be written. Allow writing to its folder.", "");
+  }
+  if (!isMade) {
+    throw DataAccessError("The file " + path + " is there already and would be overwritten. Remove it.", "");
   }
 }
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "platform/errors.h"
+#include "platform/shown_statement.h"
 #include "platform/sql_table_definition.h"
-#include "platform/sqlite_errors.h"
 
 namespace tarnwick {
 namespace {

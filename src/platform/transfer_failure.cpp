@@ -62,6 +62,9 @@ TransferFailure damaged(const Server& server, const std::string& how) {
 
 TransferFailure unclearLength(const Server& server) { return damaged(server, "its length is not clear"); }
 
+// Of what a server sends, libcurl names nothing else a bad argument than a line behind the last chunk without a colon.
+TransferFailure badTrailer(const Server& server) { return damaged(server, "bad trailer"); }
+
 TransferFailure withoutAnswer(const Server& server) {
   return {TransferFault::dropped, "The server " + server.place + " closed the connection without an answer."};
 }
@@ -81,6 +84,20 @@ TransferFailure broken(const TransferEnd& end, const Server& server) {
       break;
   }
   return noMemory();
+}
+
+// What this machine lacks is no fault of any server.
+std::optional<TransferFailure> lackOfThisMachine(int error) {
+  switch (error) {
+    case EMFILE:
+    case ENFILE:
+      return TransferFailure{TransferFault::other, "This machine has no more file handles for Tarnwick."};
+    case ENOBUFS:
+    case ENOMEM:
+      return TransferFailure{TransferFault::other, "This machine has not enough memory for another connection."};
+    default:
+      return std::nullopt;
+  }
 }
 
 TransferFailure notConnected(const TransferEnd& end, const Server& server) {
@@ -134,17 +151,29 @@ TransferFailure unsecured(const Server& server, const std::string& detail) {
     }
   }
   // "error:0A00010B:SSL routines::wrong version number": only the last piece says something to a reader.
-  const auto reason = detail.rfind("::");
-  return {TransferFault::secureConnection,
-          start + (reason == std::string::npos ? "." : ": " + quotable(detail.substr(reason + 2)) + ".")};
+  const auto last = detail.rfind("::");
+  const std::string reason =
+      last == std::string::npos ? "" : detail.substr(last + 2, detail.find(',', last) - last - 2);
+  const bool isWord = !reason.empty() && !reason.starts_with("reason(");  // it has no word for this number
+  return {TransferFault::secureConnection, start + (isWord ? ": " + quotable(reason) + "." : ".")};
+}
+
+// A server may take the handshake for done and only then refuse the visitor, for want of a certificate for instance.
+bool refusedSecurely(const std::string& detail) {
+  return detail.find("SSL routines::") != std::string::npos && detail.find("unexpected eof") == std::string::npos;
 }
 
 TransferFailure cutShort(const Server& server, const TransferEnd& end) {
   if (end.detail.find("chunked-encoding") != std::string::npos) {
     return damaged(server, "bad chunk");
   }
+  // The proxy server was asked for a way through, and has hung up or refused.
+  if (end.detail.find("CONNECT ") != std::string::npos) {
+    return {TransferFault::refused,
+            "The proxy server " + quotable(end.peer) + " made no connection to " + server.place + "."};
+  }
   if (!end.answered) {
-    return withoutAnswer(server);
+    return refusedSecurely(end.detail) ? unsecured(server, end.detail) : withoutAnswer(server);
   }
   return {TransferFault::dropped, "The server " + server.place + " broke the connection off during its answer."};
 }
@@ -175,6 +204,15 @@ TransferFailure unsupported(const Server& server, const TransferEnd& end) {
   return end.status / 100 == kRedirects ? redirectedAway(server) : notUnderstood(server);
 }
 
+TransferFailure malformed(const Server& server, const TransferEnd& end) {
+  if (!end.redirected) {
+    return badAddress(end.url);
+  }
+  // libcurl has gone on to the new address already when that is one it can take apart.
+  const std::string redirecting = parseAddress(end.url) ? "The server " + server.place : "The server";
+  return {TransferFault::badUrl, redirecting + " redirected to an address that is not valid."};
+}
+
 TransferFailure tooManyRounds(const Server& server, const TransferEnd& end) {
   constexpr int kUnauthorized = 401;
   if (end.status == kUnauthorized) {
@@ -188,9 +226,7 @@ TransferFailure tooManyRounds(const Server& server, const TransferEnd& end) {
 std::optional<TransferFailure> failureToConnect(const TransferEnd& end, const Server& server) {
   switch (end.result) {
     case CURLE_URL_MALFORMAT:
-      // The address of the site was looked at before anything was sent.
-      return TransferFailure{TransferFault::badUrl,
-                             "The server " + server.place + " redirected to an address that is not valid."};
+      return malformed(server, end);
     case CURLE_COULDNT_RESOLVE_HOST:
       return TransferFailure{TransferFault::nameLookup, "The name of the host " + server.host + " could not be found."};
     case CURLE_COULDNT_RESOLVE_PROXY:
@@ -226,6 +262,8 @@ std::optional<TransferFailure> failureToAnswer(const TransferEnd& end, const Ser
     case CURLE_FTP_WEIRD_PASV_REPLY:
     case CURLE_FTP_WEIRD_227_FORMAT:
       return notUnderstood(server);
+    case CURLE_BAD_FUNCTION_ARGUMENT:
+      return badTrailer(server);
     case CURLE_GOT_NOTHING:
       return withoutAnswer(server);
     case CURLE_SEND_ERROR:
@@ -279,6 +317,11 @@ TransferFailure failureOf(const TransferEnd& end) {
   // libcurl has bounds of its own beside ours.
   if (end.detail.find("response header") != std::string::npos || end.detail.find("big header") != std::string::npos) {
     return largeHeader();
+  }
+  for (const int error : {end.refusedSocket, end.systemError}) {
+    if (auto lack = lackOfThisMachine(error)) {
+      return *lack;
+    }
   }
   if (end.result == CURLE_OUT_OF_MEMORY) {
     return noMemory();

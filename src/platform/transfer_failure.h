@@ -27,10 +27,16 @@ struct TransferEnd {
   std::string detail{};
   /// The address that was asked last: after a redirect the new one.
   std::string url{};
+  /// The place that was connected to last, which is the proxy server's where there is one; may be empty.
+  std::string peer{};
   /// The operating system's error number of the last failed connect; 0 for none.
   int systemError = 0;
+  /// That with which it has refused to give out a socket.
+  int refusedSocket = 0;
   /// The status of the last HTTP answer or FTP reply; 0 for none.
   int status = 0;
+  /// The address that was asked last is not the first one.
+  bool redirected = false;
   /// Something had come back over the last connection.
   bool answered = false;
   BrokenBound bound = BrokenBound::none;

@@ -152,5 +152,22 @@ TEST_F(CheckVerb, ShowsWhereThePassStandsOnATerminal) {
   EXPECT_TRUE(out.ends_with("\r\x1b[K")) << out;
 }
 
+TEST_F(CheckVerb, NamesWhatIsNeverDueSinceItWasNeverChecked) {
+  addPage("/a", "alpha");
+  ASSERT_EQ(run({"check"}), exit_status::ok);
+  addPage("/b", "beta");
+  addPage("/c", "gamma");
+  EXPECT_EQ(run({"check", "--due"}), exit_status::ok);
+  EXPECT_EQ(out, "");
+  EXPECT_THAT(err, HasSubstr("Left out, since never checked: 2 sites. Check once with: tarnwickctl check 2 3\n"));
+  EXPECT_EQ(run({"check", "--due", "--json"}), exit_status::ok);
+  EXPECT_EQ(out, "[]\n");
+  for (int i = 0; i < 9; ++i) {
+    addSite("http://a/");
+  }
+  EXPECT_EQ(run({"check", "--due"}), exit_status::ok);
+  EXPECT_THAT(err, HasSubstr("Left out, since never checked: 11 sites. Check once with: tarnwickctl check\n"));
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

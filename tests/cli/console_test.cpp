@@ -58,11 +58,27 @@ TEST_F(ConsoleTest, ColoursTextOnATerminal) {
   EXPECT_EQ(terminal.coloured(Console::Colour::red, "down"), "\x1b[31mdown\x1b[0m");
 }
 
+TEST_F(ConsoleTest, TellsWhetherAllIsWritten) {
+  pipe.say("line");
+  EXPECT_FALSE(pipe.flush());
+  out.setstate(std::ios::badbit);
+  pipe.say("line");
+  EXPECT_TRUE(pipe.flush());
+  EXPECT_TRUE(pipe.flush());
+}
+
+TEST_F(ConsoleTest, RemembersThatItHasComplained) {
+  EXPECT_FALSE(pipe.hasComplained());
+  pipe.complain("no");
+  EXPECT_TRUE(pipe.hasComplained());
+}
+
 TEST(VisibleText, LeavesNothingThatActsOnATerminal) {
   EXPECT_EQ(visibleText("a\x1b[31mb"), "a\\x1b[31mb");
   EXPECT_EQ(visibleText("a\r\n\tb"), "a\\r\\n\\tb");
   EXPECT_EQ(visibleText("\x7f\xc2\x9b"), "\\x7f\\xc2\\x9b");
   EXPECT_EQ(visibleText("\xe2\x80\xae"), "\\xe2\\x80\\xae");
+  EXPECT_EQ(visibleText("\xd8\x9c"), "\\xd8\\x9c");
   EXPECT_EQ(visibleText(std::string_view("\0", 1)), "\\x00");
 }
 

@@ -172,5 +172,23 @@ TEST_F(ExchangeVerbs, AMissingFileIsNamed) {
   EXPECT_THAT(err, HasSubstr("none.csv"));
 }
 
+TEST_F(ExchangeVerbs, AFileWithoutASiteReplacesTheListOnlyWithConsent) {
+  addSite("http://a/");
+  const std::string path = folder.file("none.json");
+  std::ofstream(path) << R"({"tarnwick": 1, "sites": []})";
+  EXPECT_EQ(run({"import", path}), exit_status::ok) << err;
+  EXPECT_EQ(run({"import", path, "--replace", "--dry-run"}), exit_status::ok) << err;
+  EXPECT_EQ(run({"import", path, "--replace"}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("add --yes"));
+  EXPECT_EQ(run({"import", path, "--yes"}), exit_status::failed);
+  terminal.canAsk = true;
+  input = "n\n";
+  EXPECT_EQ(run({"import", path, "--replace"}), exit_status::failed);
+  EXPECT_EQ(folder.queryText("select count(*) from sites"), "1");
+  terminal.canAsk = false;
+  EXPECT_EQ(run({"import", path, "--replace", "--yes"}), exit_status::ok) << err;
+  EXPECT_EQ(out, "0 added, 0 changed, 1 deleted, 0 unchanged.\n");
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

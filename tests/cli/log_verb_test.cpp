@@ -169,5 +169,14 @@ TEST_F(LogVerb, ShowsWhatACheckHasWritten) {
   EXPECT_EQ(list[1]["content"], "beta");
 }
 
+TEST_F(LogVerb, RefusesWhatWouldDoNothing) {
+  EXPECT_EQ(run({"log", "--since", ""}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("\"\" is no moment."));
+  EXPECT_EQ(run({"log", "--yes"}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("Only \"log clear\" takes --yes."));
+  EXPECT_EQ(run({"log", "clear", "--since", "", "--yes"}), exit_status::failed);
+  EXPECT_EQ(folder.queryText("select count(*) from log"), "4");
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

@@ -176,5 +176,13 @@ TEST_F(DiffVerb, NeedsAPageToCompare) {
   EXPECT_EQ(run({"diff", "7"}), exit_status::failed);
 }
 
+TEST_F(BaselineVerb, TakesForceOnlyWhereItDoesSomething) {
+  addPage("/a", "alpha");
+  for (const char* action : {"show", "load", "clear"}) {
+    EXPECT_EQ(run({"baseline", "1", action, "--force"}), exit_status::failed) << action;
+    EXPECT_THAT(err, HasSubstr("Only \"accept\" takes --force.")) << action;
+  }
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

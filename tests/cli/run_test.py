@@ -236,6 +236,44 @@ def goes_on_when_nobody_reads_what_it_writes():
         expect(rows(place, "select count(*) from log") == [(300,)], "the pass ended with its reader")
 
 
+def ends_with_what_reads_it():
+    for options in (("--json",), ("--verbose",)):
+        with web() as server, folder(f"http://127.0.0.1:{server.server_port}/steady") as place:
+            process = start(place, "run", *options)
+            process.stdout.readline()
+            process.stdout.close()
+            with contextlib.closing(sqlite3.connect(Path(place, "tarnwick.mdb"))) as database:
+                database.execute("update sites set lastChecked = '2001-01-01 00:00:00'")
+                database.commit()
+            said = process.stderr.read()
+            expect(process.wait(LIMIT) == 2, process.returncode, said)
+            expect("nobody reads its lines any more" in said, said)
+            expect("tarnwick.lock" not in os.listdir(place), os.listdir(place))
+
+
+def fails_on_a_full_disk():
+    with web() as server, folder(f"http://127.0.0.1:{server.server_port}/steady") as place, open("/dev/full", "w") as full:
+        for arguments in (("sites",), ("check",), ("baseline", "1"), ("log", "--json"), ("run",)):
+            ended = subprocess.run([tool, "--folder", place, *arguments], stdin=subprocess.DEVNULL, stdout=full,
+                                   stderr=subprocess.PIPE, text=True, timeout=LIMIT, check=False)
+            expect(ended.returncode == 2, arguments, ended)
+            expect(ended.stderr.count("\n") == 1 and "No space left on device" in ended.stderr, arguments, ended)
+
+
+def reads_pipes_that_are_given_as_files():
+    with folder("http://127.0.0.1:1/") as place:
+        for command, sql, found in (
+                ("baseline 1 set <(printf page)", "select content_compare from sites", "page"),
+                ("set 1 --password-file <(echo secret)", "select sPassWord from sites", "secret"),
+                ("import --format csv <(printf 'idSite,url\\n1,http://b/\\n')", "select url from sites", "http://b/"),
+                ("set 1 --password-file /dev/stdin < <(echo other)", "select sPassWord from sites", "other")):
+            ended = subprocess.run(["bash", "-c", f'"{tool}" --folder "{place}" {command}'], capture_output=True, text=True,
+                                   timeout=LIMIT, stdin=subprocess.DEVNULL, check=False)
+            expect(ended.returncode == 0, command, ended)
+            value = rows(place, sql)[0][0]
+            expect((value.decode() if isinstance(value, bytes) else value) == found, command, value)
+
+
 def loads_no_library_of_a_desktop():
     with web() as server, folder(f"http://127.0.0.1:{server.server_port}/steady") as place:
         process = start(place, "run")

@@ -248,5 +248,14 @@ TEST_F(SetVerb, NamesAnIdThatIsNotInTheList) {
   EXPECT_THAT(err, HasSubstr("There is no site 2."));
 }
 
+TEST_F(AddVerb, TellsOnATerminalHowARunTakesTheSiteOn) {
+  terminal.isTerminal = true;
+  EXPECT_EQ(run({"add", "http://a/"}), exit_status::ok);
+  EXPECT_EQ(out, "1\n");
+  EXPECT_THAT(err, HasSubstr("takes the site on once it was checked. Check it with: tarnwickctl check 1\n"));
+  EXPECT_EQ(run({"add", "http://a/", "--inactive"}), exit_status::ok);
+  EXPECT_EQ(err, "");
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

@@ -252,6 +252,15 @@ TEST_F(DeleteVerb, NamesTheSitesOfWhichThereAreSeveralWhenItAsks) {
   EXPECT_EQ(ids(), "2\n");
 }
 
+TEST_F(DeleteVerb, NamesNoMoreThanTenWhenItAsks) {
+  std::vector<std::string> arguments{"delete", "1", "2", "3"};
+  for (int i = 0; i < 9; ++i) {
+    arguments.push_back(std::to_string(addSite("http://a/")));
+  }
+  EXPECT_EQ(run(arguments), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("Delete 12 sites (1, 2, 3, 4, 5, 6, 7, 8, 9, 10 and 2 more) with their"));
+}
+
 TEST_F(DeleteVerb, DeletesNothingOnAnyOtherAnswer) {
   terminal.canAsk = true;
   for (const char* answer : {"n\n", "\n", "", "yo\n"}) {

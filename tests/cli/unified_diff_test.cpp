@@ -151,6 +151,45 @@ TEST(UnifiedDiff, OfLargePagesThatHaveNothingInCommonReplacesThemInBoundedTime) 
   EXPECT_EQ(added, 200'000U);
 }
 
+TEST(UnifiedDiff, CountsTheLinesBeforeAChangeFarBehindTheBeginning) {
+  std::string same;
+  for (int line = 1; line <= 1000; ++line) {
+    same += std::to_string(line) + "\n";
+  }
+  EXPECT_EQ(diffOf(same + "a\n" + same, same + "b\n" + same),
+            "@@ -998,7 +998,7 @@\n 998\n 999\n 1000\n-a\n+b\n 1\n 2\n 3\n");
+  EXPECT_EQ(
+      diffOf(same + same, same), "@@ -998,1003 +998,3 @@\n 998\n 999\n 1000\n" + [&] {
+        std::string removed;
+        for (const std::string& line : linesOf(same)) {
+          removed += "-" + line;
+        }
+        return removed;
+      }());
+}
+
+TEST(UnifiedDiff, OfMillionsOfLinesThatDifferIsTheWholeOfThemWithoutContext) {
+  const std::string feeds(3'000'000, '\n');
+  std::size_t lines = 0;
+  std::string last;
+  const auto summary = [&](const std::string& before, const std::string& after) {
+    lines = 0;
+    std::string head;
+    unifiedDiff(before, after, [&](const DiffLine& line) {
+      ++lines;
+      head += line.mark == '@' ? std::string(line.text) : "";
+      last = line.mark + std::string(line.text);
+    });
+    return head;
+  };
+  EXPECT_EQ(summary("same\na" + feeds + "b\nsame\n", "same\nc" + feeds + "d\nsame\n"), "@@ -2,3000001 +2,3000001 @@");
+  EXPECT_EQ(lines, 6'000'003U);
+  EXPECT_EQ(last, "+d");
+  // What is equal counts for nothing.
+  EXPECT_EQ(summary("a\n" + feeds, "b\n" + feeds), "@@ -1,4 +1,4 @@");
+  EXPECT_EQ(summary(feeds + "a", feeds + "b"), "@@ -2999998,4 +2999998,4 @@");
+}
+
 TEST(FirstDifference, NamesTheLineAndWhatStandsThere) {
   const FirstDifference difference = firstDifference("a\nb\nc\n", "a\nB\nc\n");
   EXPECT_EQ(difference.line, 2U);

@@ -269,6 +269,12 @@ TEST_F(ResultRecordingTest, CounterReaches32767) {
   EXPECT_EQ(siteField("failure"), "32767");
 }
 
+TEST_F(ResultRecordingTest, LowestCounterCounts) {
+  folder.execute("update sites set failure = -32768 where idSite = 1");
+  results.updateStatusCounter(1, false);
+  EXPECT_EQ(siteField("failure"), "-32767");
+}
+
 TEST_F(ResultRecordingTest, FullCounterIsAnErrorThatNamesTheRemedy) {
   for (const char* full : {"32767", "40000", "-40000"}) {
     folder.execute(std::string("update sites set failure = ") + full + " where idSite = 1");

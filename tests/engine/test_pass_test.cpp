@@ -266,6 +266,7 @@ TEST_F(TestPassTest, ARowWithoutAnAddressFailsAndTheOthersKeepTheirPages) {
   EXPECT_EQ(column(empty, "status"), "0");
   EXPECT_EQ(column(empty, "failure"), "1");
   EXPECT_THAT(column(empty, "content_runtime"), HasSubstr("address"));
+  EXPECT_TRUE(view.showed("Testing: "));
 }
 
 TEST_F(TestPassTest, APassOfNothingButRowsWithoutAddressEnds) {
@@ -373,6 +374,15 @@ TEST_F(TestPassTest, AnIdOutsideSixteenBitsIsAnErrorThatNamesIt) {
   EXPECT_THAT(server.requests(), IsEmpty());
 }
 
+TEST_F(TestPassTest, AnIdOutsideSixteenBitsDoesNotKeepTheOthersFromBeingTested) {
+  const std::int16_t good = addPage("/a", "a");
+  folder.execute("insert into sites (idSite,url,method,active,tInterval) values (-40000,'" + server.url("/b") +
+                 "','GET',1,10)");
+  EXPECT_FALSE(program.startRun());
+  EXPECT_THAT(machine.prompts.texts(), ElementsAre(HasSubstr("-40000")));
+  EXPECT_EQ(column(good, "content_compare"), "a");
+}
+
 TEST_F(TestPassTest, WaitingForASilentServerUsesNoProcessorTime) {
   server.respond("/slow", {.body = "at last", .delay = milliseconds(1500)});
   addSite(server.url("/slow"));
@@ -380,6 +390,18 @@ TEST_F(TestPassTest, WaitingForASilentServerUsesNoProcessorTime) {
   run().startChecking();
   const double used = processorSeconds() - before;
   EXPECT_LT(used, 0.2);
+}
+
+TEST_F(TestPassTest, WaitingForAFreeSlotUsesNoProcessorTime) {
+  for (int i = 0; i < 6; ++i) {
+    const std::string path = "/slow" + std::to_string(i);
+    server.respond(path, {.body = "at last", .delay = milliseconds(i < 5 ? 1500 : 0)});
+    addSite(server.url(path));
+  }
+  const double before = processorSeconds();
+  run().startChecking();
+  EXPECT_LT(processorSeconds() - before, 0.3);
+  EXPECT_THAT(view.judged, SizeIs(6));
 }
 
 TEST_F(TestPassTest, AStartAfterClosingEndsAtOnce) {

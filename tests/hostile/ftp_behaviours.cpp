@@ -138,6 +138,25 @@ HostileBehaviours ftpBehaviours() {
       ftp("FtpBreaksOffTheFile",
           fails(TransferFault::dropped, "The server {} broke the connection off during its answer."),
           gives([](const SideDoor& side) { side.give("a fi"); }, "426 broken\r\n")),
+      ftp("FtpDripsItsConfirmation",
+          fails(TransferFault::dropped, "The server {} did not confirm the end of the transfer."),
+          [](HostileVisit& visit) {
+            const SideDoor side;
+            talks([&](HostileVisit& same, const std::string& verb) {
+              if (verb == "EPSV") {
+                same.send("229 (|||" + std::to_string(side.port()) + "|)\r\n");
+              } else if (verb == "RETR") {
+                same.send("150 here it comes\r\n");
+                side.give(kFile);
+                for (;;) {
+                  same.send("226-");
+                  same.pause(std::chrono::milliseconds{150});
+                }
+              } else {
+                same.send("502 unknown\r\n");
+              }
+            })(visit);
+          }),
       ftp("FtpResetsTheFile",
           fails(TransferFault::dropped, "The server {} broke the connection off during its answer."),
           gives([](const SideDoor& side) { side.giveAndReset("a fi"); }, "426 broken\r\n")),

@@ -57,5 +57,15 @@ TEST(Address, WithAControlCharacterIsInvalid) {
   }
 }
 
+TEST(Address, OfAFileTransferMayNotHoldAnEncodedControlCharacter) {
+  for (const std::string text : {"ftp://a.test/a%0d%0aDELE%20x", "ftps://a.test/a%00b", "ftp://u%0A:p@a.test/",
+                                 "ftp://a.test/%1F", "FTP://a.test/%7f"}) {
+    EXPECT_FALSE(parseAddress(text)) << text;
+  }
+  // A web server is sent them as they are.
+  EXPECT_EQ(urlOf("http://a.test/a%0d%0ab%00"), "http://a.test/a%0d%0ab%00");
+  EXPECT_EQ(urlOf("ftp://a.test/%20%2F%e4%"), "ftp://a.test/%20%2F%e4%");
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -8,6 +8,9 @@
 
 #include "platform/errors.h"
 #include "platform/local_files.h"
+#include "platform/sqlite_connection.h"
+#include "store/database.h"
+#include "support/hand_clock.h"
 #include "support/program_folder.h"
 
 namespace tarnwick::testing {
@@ -46,6 +49,20 @@ TEST(FullDisk, FileThatFindsNoRoomIsAnErrorThatNamesItAndLeavesNothing) {
     EXPECT_EQ(error.path(), at("to"));
   }
   EXPECT_FALSE(std::filesystem::exists(at("to")));
+}
+
+TEST(FullDisk, DatabaseThatFindsNoRoomForTheMemoryItSharesSaysSo) {
+  const ProgramFolder folder;
+  HandClock clock;
+  SqliteConnections databases(clock);
+  Database(folder.path(), databases).execute("insert into sites (idSite) values (1)");
+  const FileSizeLimit limit(1000);
+  try {
+    const Database database(folder.path(), databases);
+    FAIL() << "No error was raised.";
+  } catch (const DataAccessError& error) {
+    EXPECT_NE(error.cause().find("The disk is full"), std::string::npos) << error.what();
+  }
 }
 
 }  // namespace

@@ -76,6 +76,21 @@ TEST_F(LocalFilesTest, NewFileHasThePermissionsOfItsModelFromTheStart) {
   EXPECT_EQ(fs::status(at("a")).permissions(), ownerOnly);
 }
 
+TEST_F(LocalFilesTest, CopyIsANewFileWhateverHasItsName) {
+  SKIP_ON_WINDOWS("There a link takes a right of its own.");
+  make("like", "new");
+  make("victim", "untouched");
+  fs::create_symlink(at("victim"), at("a"));
+  files.copy(at("like"), at("a"));
+  EXPECT_EQ(read("a"), "new");
+  EXPECT_EQ(read("victim"), "untouched");
+
+  make("b", "");
+  std::ifstream opened(at("b"), std::ios::binary);
+  files.copy(at("like"), at("b"));
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(opened), {}), "");
+}
+
 TEST_F(LocalFilesTest, RenamedFileTakesTheOtherOnesPlace) {
   make("a", "new");
   make("b", "old");

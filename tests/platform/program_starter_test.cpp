@@ -1,11 +1,16 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include "platform/curl_transfers.h"
 #include "platform/detached_programs.h"
+#include "platform/unwanted_signals.h"
 #include "support/wait_until.h"
 
 namespace tarnwick {
@@ -81,6 +86,38 @@ mv "$folder/part" "$folder/out"
   ASSERT_TRUE(stat.open(QIODevice::ReadOnly));
   const std::string own = stat.readAll().split(' ').value(5).toStdString();
   EXPECT_NE(out.substr(expected.size()), own + "\n");
+}
+
+TEST_F(ProgramStart, AnswersItsSignalsAsTheSystemDoesThoughThisProgramIgnoresSome) {
+  ignoreUnwantedSignals();
+  const std::string program = script("p", R"sh(#!/bin/sh
+cd "$(dirname "$0")"
+awk '/^SigIgn/ { print $2 }' /proc/self/status > part
+mv part out
+)sh");
+  EXPECT_TRUE(starter.start({program}));
+  const auto ignored = std::stoull(written("out"), nullptr, 16);
+  for (const int signal : {SIGPIPE, SIGXFSZ}) {
+    EXPECT_EQ(ignored >> static_cast<unsigned>(signal - 1) & 1U, 0U) << signal;
+  }
+  struct sigaction own {};
+  sigaction(SIGXFSZ, nullptr, &own);
+  EXPECT_NE(own.sa_handler, SIG_DFL) << "and this program goes on ignoring it";
+}
+
+TEST_F(ProgramStart, LeavesItNothingOpenButTheStandardStreams) {
+  const int leaking = fcntl(0, F_DUPFD, 100);
+  ASSERT_GE(leaking, 100);
+  const CurlTransfers transfers;
+  const std::string program = script("p", R"sh(#!/bin/sh
+cd "$(dirname "$0")"
+ls -l /proc/self/fd | grep -c socket: > part
+[ -e /proc/self/fd/$1 ] && echo open >> part || echo closed >> part
+mv part out
+)sh");
+  EXPECT_TRUE(starter.start({program, std::to_string(leaking)}));
+  EXPECT_EQ(written("out"), "0\nclosed\n");
+  close(leaking);
 }
 
 TEST_F(ProgramStart, FindsAProgramInTheSearchPath) { EXPECT_TRUE(starter.start({"true"})); }

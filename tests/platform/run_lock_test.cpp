@@ -57,6 +57,13 @@ TEST_F(RunLockTest, LeavesNothingInTheFolder) {
   EXPECT_FALSE(std::filesystem::exists(folder.file("tarnwick.lock")));
 }
 
+TEST_F(RunLockTest, IsAFileOfItsOwnerAlone) {
+  SKIP_ON_WINDOWS("There a file takes its rights from its folder.");
+  namespace fs = std::filesystem;
+  first.take();
+  EXPECT_EQ(fs::status(folder.file("tarnwick.lock")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
 TEST_F(RunLockTest, DoesNotCountWhatAProcessThatIsGoneLeft) {
   // The form in which the lock keeps its holder: process, program, host, which Windows knows by another name.
   const QString host =

@@ -131,7 +131,7 @@ TEST_F(SqliteValues, AnErrorCarriesOnlyTheBeginningOfALargeStatement) {
   } catch (const DataAccessError& error) {
     EXPECT_LT(std::string(error.what()).size(), 1000U);
     EXPECT_NE(std::string(error.what()).find("no such table: nosuch"), std::string::npos);
-    EXPECT_EQ(error.statement().find("update nosuch set content = 'xxx"), 0U);
+    EXPECT_EQ(error.statement(), "update nosuch set content = '...'");
   }
 }
 

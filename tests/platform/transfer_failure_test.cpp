@@ -7,6 +7,7 @@
 #include <chrono>
 
 #include "platform/curl_transfers.h"
+#include "support/ftp_server.h"
 #include "support/http_message.h"
 #include "support/http_server.h"
 #include "support/system.h"
@@ -181,6 +182,12 @@ TEST_F(TransferFailures, RedirectToAnInvalidAddress) {
   expectFailure("/a", TransferFault::badUrl, "The server " + place() + " redirected to an address that is not valid.");
 }
 
+TEST_F(TransferFailures, RedirectToAFileTransferWithACommandInItsPath) {
+  const FtpServer files;
+  server_.respond("/a", HttpResponse::redirect(files.url("/a%0d%0aDELE%20x")));
+  expectFailure("/a", TransferFault::badUrl, "The server redirected to an address that is not valid.");
+}
+
 TEST_F(TransferFailures, RedirectToAScript) {
   server_.respond("/a", HttpResponse::redirect("javascript://alert(1)"));
   expectFailure("/a", TransferFault::badUrl,
@@ -191,6 +198,14 @@ TEST_F(TransferFailures, RedirectToAScript) {
 TEST_F(TransferFailures, BadChunk) {
   server_.respond("/a", {.raw = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nzz\r\nhello\r\n0\r\n\r\n"});
   expectFailure("/a", TransferFault::dropped, "The answer of the server " + place() + " is damaged: bad chunk.");
+}
+
+TEST_F(TransferFailures, BadTrailer) {
+  for (const std::string trailer : {"HTTP/1.1 302 Found\r\n", "no colon\r\n\r\n"}) {
+    server_.respond("/a",
+                    {.raw = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5\r\nhello\r\n0\r\n" + trailer});
+    expectFailure("/a", TransferFault::dropped, "The answer of the server " + place() + " is damaged: bad trailer.");
+  }
 }
 
 TEST_F(TransferFailures, GarbageInsteadOfHttp) {
@@ -297,6 +312,56 @@ TEST(TransferFailureWords, EndlessChallengeIsNoRedirect) {
   const auto failure = failureOf({.result = CURLE_TOO_MANY_REDIRECTS, .url = "http://example.test/a", .status = 401});
   EXPECT_EQ(failure.fault, TransferFault::other);
   EXPECT_EQ(failure.cause, "The server example.test port 80 asked for the user name and the password again and again.");
+}
+
+TEST(TransferFailureWords, LacksOfThisMachineAreNoFaultOfTheServer) {
+  for (const int error : {EMFILE, ENFILE}) {
+    const auto failure = failureWith(CURLE_COULDNT_CONNECT, error);
+    EXPECT_EQ(failure.fault, TransferFault::other);
+    EXPECT_EQ(failure.cause, "This machine has no more file handles for Tarnwick.");
+  }
+  for (const int error : {ENOBUFS, ENOMEM}) {
+    EXPECT_EQ(failureWith(CURLE_COULDNT_CONNECT, error).cause,
+              "This machine has not enough memory for another connection.");
+  }
+  const auto ofTheSecondConnection = failureOf(
+      {.result = CURLE_COULDNT_CONNECT, .url = "ftp://example.test/a", .refusedSocket = EMFILE, .status = 227});
+  EXPECT_EQ(ofTheSecondConnection.cause, "This machine has no more file handles for Tarnwick.");
+}
+
+TEST(TransferFailureWords, ServerThatRefusesTheVisitorAfterTheHandshake) {
+  const auto failure = failureWith(CURLE_RECV_ERROR, 0,
+                                   "OpenSSL SSL_read: error:0A00045C:SSL routines::tlsv13 alert certificate required, "
+                                   "errno 0");
+  EXPECT_EQ(failure.fault, TransferFault::secureConnection);
+  EXPECT_EQ(failure.cause,
+            "No secure connection to example.test port 443 could be made: tlsv13 alert certificate required.");
+  EXPECT_EQ(
+      failureWith(CURLE_RECV_ERROR, 0, "OpenSSL SSL_read: error:0A000126:SSL routines::unexpected eof, errno 0").fault,
+      TransferFault::dropped);
+}
+
+TEST(TransferFailureWords, NumberWithoutAWordIsLeftOut) {
+  EXPECT_EQ(failureWith(CURLE_SSL_CONNECT_ERROR, 0, "error:0A0004D6:SSL routines::reason(1238)").cause,
+            "No secure connection to example.test port 443 could be made.");
+}
+
+TEST(TransferFailureWords, ProxyThatMakesNoWay) {
+  for (const std::string detail : {"Proxy CONNECT aborted", "CONNECT tunnel failed, response 403"}) {
+    const auto failure = failureOf({.result = CURLE_RECV_ERROR,
+                                    .detail = detail,
+                                    .url = "https://example.test/a",
+                                    .peer = "10.0.0.1 port 3128",
+                                    .status = 0});
+    EXPECT_EQ(failure.fault, TransferFault::refused);
+    EXPECT_EQ(failure.cause, "The proxy server 10.0.0.1 port 3128 made no connection to example.test port 443.");
+  }
+}
+
+TEST(TransferFailureWords, AddressThatNobodyRedirectedToIsTheSitesOwn) {
+  const auto failure = failureOf({.result = CURLE_URL_MALFORMAT, .url = "ftp://example.test/a"});
+  EXPECT_EQ(failure.fault, TransferFault::badUrl);
+  EXPECT_EQ(failure.cause, "The address ftp://example.test/a is not valid.");
 }
 
 TEST(TransferFailureWords, SendFailure) {

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace tarnwick {
+
+/// The bytes of a file that the command line names: "-" is standard input, and a pipe that the shell lays in place of a
+/// file is read to its end. Raises FileError.
+std::string readInput(const std::string& file);
+
+}  // namespace tarnwick
