@@ -73,8 +73,11 @@ bool CurlEventLoop::start(CURL* easy, milliseconds timeout, std::function<void(C
   if (curl_multi_add_handle(multi_, easy) != CURLM_OK) {
     return false;
   }
-  transfers_.insert_or_assign(easy, Transfer{std::move(done), TransferClock(enteredAt_, timeout)});
-  armBeat(enteredAt_);
+  const TransferClock clock(enteredAt_, timeout);
+  transfers_.insert_or_assign(easy, Transfer{std::move(done), clock});
+  if (!beat_.isActive() || enteredAt_ > beatDue_ || clock.deadline() < beatDue_) {
+    armBeat(enteredAt_);
+  }
   return true;
 }
 
