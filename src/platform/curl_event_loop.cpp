@@ -187,9 +187,25 @@ void CurlEventLoop::endWith(CURL* easy, CURLcode result) {
 void CurlEventLoop::beat() {
   const auto now = steady_clock::now();
   giveBackTimeAway();
+  lookAfterConnecting();
   endOverdue(now);
   if (!transfers_.empty()) {
     armBeat(steady_clock::now());
+  }
+}
+
+// Windows tells nobody of a connection that was refused before it was watched, as one to this machine is.
+void CurlEventLoop::lookAfterConnecting() {
+  std::vector<curl_socket_t> connecting;
+  for (const auto& [socket, watch] : watches_) {
+    if (watch.writing && watch.writing->isEnabled()) {
+      connecting.push_back(socket);
+    }
+  }
+  for (const curl_socket_t socket : connecting) {
+    if (watches_.contains(socket)) {
+      act(socket, 0);  // libcurl looks for itself
+    }
   }
 }
 

@@ -64,6 +64,7 @@ class CurlEventLoop {
   void collectEnded();
   void endWith(CURL* easy, CURLcode result);
   void beat();
+  void lookAfterConnecting();
   void giveBackTimeAway();
   void endOverdue(std::chrono::steady_clock::time_point now);
   void armBeat(std::chrono::steady_clock::time_point now);
