@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include "cli/tool.h"
+#include "platform/errors.h"
 #include "platform/headless_platform.h"
 #include "platform/unwanted_signals.h"
 
@@ -37,7 +38,7 @@ int main(int argc, char** argv) {
     return run(argc, argv);
   } catch (const std::bad_alloc&) {
     // Its own text is the name of the class.
-    return failed("There is not enough memory for this.");
+    return failed(tarnwick::kNotEnoughMemory);
   } catch (const std::exception& error) {
     return failed(error.what());
   }

@@ -27,8 +27,7 @@ Description describeCurrentException() {
   } catch (const DataAccessError& error) {
     return {error.what(), withoutNumbers(error.cause())};
   } catch (const std::bad_alloc&) {
-    const std::string message = "There is not enough memory for this.";
-    return {message, message};
+    return {kNotEnoughMemory, kNotEnoughMemory};
   } catch (const std::exception& error) {
     return {error.what(), withoutNumbers(error.what())};
   }

@@ -206,7 +206,7 @@ int runTool(const std::vector<std::string>& arguments, const std::string& progra
     console.complain(error.what() + adviceOn(folder));
     return exit_status::failed;
   } catch (const std::bad_alloc&) {
-    console.complain("There is not enough memory for this.");
+    console.complain(kNotEnoughMemory);
     return exit_status::failed;
   } catch (const std::exception& error) {
     console.complain(error.what());

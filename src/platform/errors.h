@@ -5,6 +5,9 @@
 
 namespace tarnwick {
 
+/// What the user is told when memory was refused and nothing more is known.
+inline constexpr const char* kNotEnoughMemory = "There is not enough memory for this.";
+
 /// A failed database operation: opening the file, running a statement, reading a field.
 /// `what()` is fit to be shown to the user: it names the cause and, where there is one, the remedy.
 class DataAccessError : public std::runtime_error {

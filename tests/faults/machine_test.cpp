@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,6 +14,7 @@
 #include <string>
 
 #include "faults/faults_fixture.h"
+#include "support/resource_limit_posix.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -23,28 +23,12 @@ namespace fs = std::filesystem;
 using std::chrono::seconds;
 using ::testing::HasSubstr;
 
-/// Lets no file of this process grow beyond `bytes`. That the system sends no deadly signal then is the program's work.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    rlimit lower = before_;
-    lower.rlim_cur = bytes;
-    setrlimit(RLIMIT_FSIZE, &lower);
-  }
-  ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
- private:
-  rlimit before_{};
-};
-
+// That the system sends no deadly signal when a file may not grow is the program's work.
 TEST(RealFaults, FilesThatMayNotGrowAreToldOnceAndTheRunGoesOn) {
   const UsedFolder used;
-  std::unique_ptr<FileSizeLimit> limit;
+  std::unique_ptr<ResourceLimit> limit;
   expectThatARunOutlives(
-      used, [&](RunningProgram&) { limit = std::make_unique<FileSizeLimit>(20000); }, 5,
+      used, [&](RunningProgram&) { limit = std::make_unique<ResourceLimit>(RLIMIT_FSIZE, 20000); }, 5,
       [&](RunningProgram& running) {
         limit.reset();
         EXPECT_EQ(running.boxes(), 1u);

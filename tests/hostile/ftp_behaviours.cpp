@@ -31,9 +31,10 @@ std::function<void(HostileVisit&)> talks(std::function<void(HostileVisit&, const
   };
 }
 
-// Gives the file by `give` over a connection of its own and then says `last`.
-std::function<void(HostileVisit&)> gives(std::function<void(const SideDoor&)> give, const std::string& last) {
-  return [give = std::move(give), last](HostileVisit& visit) {
+// Gives the file by `give` over a connection of its own and ends with `last`.
+std::function<void(HostileVisit&)> gives(std::function<void(const SideDoor&)> give,
+                                         std::function<void(HostileVisit&)> last) {
+  return [give = std::move(give), last = std::move(last)](HostileVisit& visit) {
     const SideDoor side;
     talks([&](HostileVisit& same, const std::string& verb) {
       if (verb == "EPSV") {
@@ -41,12 +42,16 @@ std::function<void(HostileVisit&)> gives(std::function<void(const SideDoor&)> gi
       } else if (verb == "RETR") {
         same.send("150 here it comes\r\n");
         give(side);
-        same.send(last);
+        last(same);
       } else {
         same.send("502 unknown\r\n");
       }
     })(visit);
   };
+}
+
+std::function<void(HostileVisit&)> gives(std::function<void(const SideDoor&)> give, const std::string& last) {
+  return gives(std::move(give), [last](HostileVisit& visit) { visit.send(last); });
 }
 
 // Answers the request for the file with `last`, and never with the file.
@@ -140,23 +145,13 @@ HostileBehaviours ftpBehaviours() {
           gives([](const SideDoor& side) { side.give("a fi"); }, "426 broken\r\n")),
       ftp("FtpDripsItsConfirmation",
           fails(TransferFault::dropped, "The server {} did not confirm the end of the transfer."),
-          [](HostileVisit& visit) {
-            const SideDoor side;
-            talks([&](HostileVisit& same, const std::string& verb) {
-              if (verb == "EPSV") {
-                same.send("229 (|||" + std::to_string(side.port()) + "|)\r\n");
-              } else if (verb == "RETR") {
-                same.send("150 here it comes\r\n");
-                side.give(kFile);
-                for (;;) {
-                  same.send("226-");
-                  same.pause(std::chrono::milliseconds{150});
-                }
-              } else {
-                same.send("502 unknown\r\n");
-              }
-            })(visit);
-          }),
+          gives([](const SideDoor& side) { side.give(kFile); },
+                [](HostileVisit& visit) {
+                  for (;;) {
+                    visit.send("226-");
+                    visit.pause(std::chrono::milliseconds{150});
+                  }
+                })),
       ftp("FtpResetsTheFile",
           fails(TransferFault::dropped, "The server {} broke the connection off during its answer."),
           gives([](const SideDoor& side) { side.giveAndReset("a fi"); }, "426 broken\r\n")),

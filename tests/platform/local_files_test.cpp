@@ -9,28 +9,16 @@
 #include <string>
 
 #include "platform/errors.h"
-#include "support/program_folder.h"
+#include "support/files_fixture.h"
 #include "support/system.h"
 
 namespace tarnwick::testing {
 namespace {
 
 namespace fs = std::filesystem;
-class LocalFilesTest : public ::testing::Test {
+class LocalFilesTest : public FilesFixture {
  protected:
-  std::string at(const std::string& name) const { return folder_.file(name); }
-  std::string read(const std::string& name) const {
-    std::ifstream file(at(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-  void make(const std::string& name, const std::string& bytes) const {
-    std::ofstream(at(name), std::ios::binary) << bytes;
-  }
-
   LocalFiles files;
-
- private:
-  ProgramFolder folder_;
 };
 
 TEST_F(LocalFilesTest, CopyOfManyPiecesIsTheSame) {

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "platform/errors.h"
-#include "support/program_folder.h"
+#include "support/files_fixture.h"
 #include "support/system.h"
 
 namespace tarnwick::testing {
@@ -17,16 +17,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class PrivateFile : public ::testing::Test {
+class PrivateFile : public FilesFixture {
  protected:
-  std::string at(const std::string& name) const { return folder_.file(name); }
-  std::string read(const std::string& name) const {
-    std::ifstream file(at(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-  void make(const std::string& name, const std::string& bytes) const {
-    std::ofstream(at(name), std::ios::binary) << bytes;
-  }
   /// Takes every name that a list's unfinished copy could have.
   void takeAllNames() const {
     make("list.csv.new", "the user's");
@@ -40,9 +32,6 @@ class PrivateFile : public ::testing::Test {
   void writeList() const {
     writePrivateFile(at("list.csv"), [](const ByteSink& sink) { sink("complete"); });
   }
-
- private:
-  ProgramFolder folder_;
 };
 
 TEST_F(PrivateFile, TakesTheNameOfAnOldUnfinishedFileWhenAllAreTaken) {
