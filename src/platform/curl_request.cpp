@@ -13,6 +13,8 @@ namespace {
 constexpr std::size_t kLargestHeader = std::size_t{256} * 1024;
 /// libcurl waits inside itself for the last replies of an FTP server; longer than this the window would seem frozen.
 constexpr std::chrono::milliseconds kLongestWaitInside{900};
+/// The same for a server that says something all the time, and thereby keeps libcurl from asking us; in seconds.
+constexpr long kLongestLastReply = 1;
 constexpr int kSeeOther = 303;
 
 std::string textOf(CURL* easy, CURLINFO what) {
@@ -151,6 +153,9 @@ bool CurlRequest::addHeader(std::string_view line) {
       // What follows is fetched by GET whatever this was (RFC 9110, section 15.4.4); libcurl keeps a method of ours.
       curl_easy_setopt(easy_.get(), CURLOPT_CUSTOMREQUEST, nullptr);
     }
+  } else if (overFtp() && (line.starts_with("150 ") || line.starts_with("125 "))) {
+    // The file comes (RFC 959, section 5.4). Only one more reply is waited for, and that wait is inside libcurl.
+    curl_easy_setopt(easy_.get(), CURLOPT_SERVER_RESPONSE_TIMEOUT, kLongestLastReply);
   }
   return true;
 }
@@ -177,10 +182,9 @@ bool CurlRequest::announcedTooLarge() const {
   return length > 0 && static_cast<std::size_t>(length) > options_.largestPage;
 }
 
-bool CurlRequest::waitsInside() const {
-  if (loop_.timeInside() < kLongestWaitInside) {
-    return false;
-  }
+bool CurlRequest::waitsInside() const { return loop_.timeInside() >= kLongestWaitInside && overFtp(); }
+
+bool CurlRequest::overFtp() const {
   const char* scheme = nullptr;
   curl_easy_getinfo(easy_.get(), CURLINFO_SCHEME, &scheme);
   return scheme != nullptr && std::tolower(static_cast<unsigned char>(scheme[0])) == 'f';

@@ -85,6 +85,7 @@ class CurlRequest {
   bool addPage(std::string_view piece);
   bool announcedTooLarge() const;
   bool waitsInside() const;
+  bool overFtp() const;
   int refusedSocket(CURLcode result) const;
 
   RequestOrder order_;

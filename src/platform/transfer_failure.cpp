@@ -252,6 +252,10 @@ std::optional<TransferFailure> failureToConnect(const TransferEnd& end, const Se
   }
 }
 
+TransferFailure notConfirmed(const Server& server) {
+  return {TransferFault::dropped, "The server " + server.place + " did not confirm the end of the transfer."};
+}
+
 std::optional<TransferFailure> failureToAnswer(const TransferEnd& end, const Server& server) {
   switch (end.result) {
     case CURLE_UNSUPPORTED_PROTOCOL:
@@ -272,8 +276,7 @@ std::optional<TransferFailure> failureToAnswer(const TransferEnd& end, const Ser
     case CURLE_PARTIAL_FILE:
       return cutShort(server, end);
     case CURLE_ABORTED_BY_CALLBACK:
-      return TransferFailure{TransferFault::dropped,
-                             "The server " + server.place + " did not confirm the end of the transfer."};
+      return notConfirmed(server);
     case CURLE_TOO_MANY_REDIRECTS:
       return tooManyRounds(server, end);
     case CURLE_BAD_CONTENT_ENCODING:
@@ -308,6 +311,9 @@ TransferFailure failureOf(const TransferEnd& end) {
     return broken(end, server);
   }
   if (end.result == CURLE_OPERATION_TIMEDOUT) {
+    if (end.detail.find("FTP response timeout") != std::string::npos) {
+      return notConfirmed(server);
+    }
     constexpr int kServiceNotAvailable = 421;  // RFC 959, section 4.2.1; for libcurl a time-out of the server's
     if (server.scheme.starts_with("ftp") && end.status == kServiceNotAvailable) {
       return {TransferFault::dropped, "The server " + server.place + " is not available for now."};

@@ -77,6 +77,22 @@ HostileBehaviour ftp(const std::string& name, HostileOutcome outcome, std::funct
   return {.name = name, .outcome = std::move(outcome), .serve = std::move(serve), .scheme = "ftp", .path = "/page.txt"};
 }
 
+// Gives the file and then says `piece` for ever, which libcurl listens to without coming back.
+HostileBehaviour neverDone(const std::string& name, const std::string& piece) {
+  HostileBehaviour behaviour =
+      ftp(name, fails(TransferFault::dropped, "The server {} did not confirm the end of the transfer."),
+          gives([](const SideDoor& side) { side.give(kFile); },
+                [piece](HostileVisit& visit) {
+                  for (;;) {
+                    visit.send(piece);
+                    visit.pause(std::chrono::milliseconds{150});
+                  }
+                }));
+  behaviour.timeoutSeconds = 20;
+  behaviour.mostSeconds = 1;
+  return behaviour;
+}
+
 }  // namespace
 
 HostileBehaviours ftpBehaviours() {
@@ -143,15 +159,8 @@ HostileBehaviours ftpBehaviours() {
       ftp("FtpBreaksOffTheFile",
           fails(TransferFault::dropped, "The server {} broke the connection off during its answer."),
           gives([](const SideDoor& side) { side.give("a fi"); }, "426 broken\r\n")),
-      ftp("FtpDripsItsConfirmation",
-          fails(TransferFault::dropped, "The server {} did not confirm the end of the transfer."),
-          gives([](const SideDoor& side) { side.give(kFile); },
-                [](HostileVisit& visit) {
-                  for (;;) {
-                    visit.send("226-");
-                    visit.pause(std::chrono::milliseconds{150});
-                  }
-                })),
+      neverDone("FtpDripsItsConfirmation", "226-"),
+      neverDone("FtpNeverEndsItsConfirmation", "226-still at it\r\n"),
       ftp("FtpResetsTheFile",
           fails(TransferFault::dropped, "The server {} broke the connection off during its answer."),
           gives([](const SideDoor& side) { side.giveAndReset("a fi"); }, "426 broken\r\n")),

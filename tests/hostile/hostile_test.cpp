@@ -180,7 +180,7 @@ void HostileTest::expectJudgedInTimeAndNobodyHarmed() {
 
   waitUntil([&] { return openDescriptors() == descriptors; }, std::chrono::seconds{2});
   EXPECT_EQ(openDescriptors(), descriptors);
-  EXPECT_LT(taken, std::chrono::seconds{GetParam().timeoutSeconds} + kMargin);
+  EXPECT_LT(taken, std::chrono::seconds{GetParam().mostSeconds} + kMargin);
   expectOutcome(id);
   for (const std::int16_t neighbour : neighbours) {
     EXPECT_EQ(logged("status", neighbour), "1") << logged("errDescription", neighbour);

@@ -67,6 +67,8 @@ struct HostileBehaviour {
   std::string userName{};
   std::string password{};
   int timeoutSeconds = 1;
+  /// When it must be over; before the time-out for one that would hold up the whole program meanwhile.
+  int mostSeconds = timeoutSeconds;
 
   /// What this or another behaviour must have received by then, or must not.
   std::vector<HostileTrace> traces{};
