@@ -3,11 +3,15 @@
 #include <algorithm>
 #include <cctype>
 #include <charconv>
+#include <cstdint>
+#include <limits>
 
 namespace tarnwick {
 namespace {
 
 constexpr int kSwitchingProtocols = 101;
+// What libcurl counts to. It passes over a longer length as if there were none.
+constexpr std::size_t kLongestLength = std::numeric_limits<std::int64_t>::max();
 constexpr std::string_view kBlanks = " \t\r\n";
 
 std::string_view trimmed(std::string_view text) {
@@ -83,7 +87,7 @@ void AnswerHead::addLength(std::string_view value) {
   const auto [rest, error] = std::from_chars(value.data(), value.data() + value.size(), length);
   if (rest != value.data() + value.size() || error == std::errc::invalid_argument) {
     unclear_ = true;
-  } else if (error == std::errc::result_out_of_range) {
+  } else if (error == std::errc::result_out_of_range || length > kLongestLength) {
     endless_ = true;
   } else {
     unclear_ = unclear_ || (length_ && *length_ != length);

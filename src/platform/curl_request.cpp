@@ -15,7 +15,9 @@ constexpr std::size_t kLargestHeader = std::size_t{256} * 1024;
 constexpr std::chrono::milliseconds kLongestWaitInside{900};
 /// The same for a server that says something all the time, and thereby keeps libcurl from asking us; in seconds.
 constexpr long kLongestLastReply = 1;
+constexpr int kRedirection = 300;
 constexpr int kSeeOther = 303;
+constexpr int kClientError = 400;
 
 std::string textOf(CURL* easy, CURLINFO what) {
   const char* text = nullptr;
@@ -112,13 +114,23 @@ int CurlRequest::onProgress(void* self, curl_off_t, curl_off_t, curl_off_t, curl
 
 std::size_t CurlRequest::onHeader(char* data, std::size_t size, std::size_t count, void* self) {
   const std::size_t length = size * count;
-  return static_cast<CurlRequest*>(self)->addHeader({data, length}) ? length : 0;
+  return static_cast<CurlRequest*>(self)->take(&CurlRequest::addHeader, {data, length}) ? length : 0;
 }
 
 std::size_t CurlRequest::onPage(char* data, std::size_t size, std::size_t count, void* self) {
   const std::size_t length = size * count;
   // Any other number than the length ends the transfer; for an empty piece that must not be 0.
-  return static_cast<CurlRequest*>(self)->addPage({data, length}) ? length : length + 1;
+  return static_cast<CurlRequest*>(self)->take(&CurlRequest::addPage, {data, length}) ? length : length + 1;
+}
+
+bool CurlRequest::take(bool (CurlRequest::*add)(std::string_view), std::string_view piece) {
+  try {
+    return (this->*add)(piece);
+  } catch (const std::exception&) {
+    // No exception may cross libcurl.
+    bound_ = BrokenBound::memory;
+    return false;
+  }
 }
 
 void CurlRequest::reach(int state) {
@@ -149,7 +161,11 @@ bool CurlRequest::addHeader(std::string_view line) {
   // The lines of an FTP server come here too, its greeting before anything was asked.
   if (line.starts_with("HTTP/")) {
     reach(transfer_state::receivingResponse);
-    if (statusOf(line) == kSeeOther) {
+    const int status = statusOf(line);
+    if (status >= kRedirection && status < kClientError) {
+      redirectedBy_ = textOf(easy_.get(), CURLINFO_EFFECTIVE_URL);
+    }
+    if (status == kSeeOther) {
       // What follows is fetched by GET whatever this was (RFC 9110, section 15.4.4); libcurl keeps a method of ours.
       curl_easy_setopt(easy_.get(), CURLOPT_CUSTOMREQUEST, nullptr);
     }
@@ -166,13 +182,7 @@ bool CurlRequest::addPage(std::string_view piece) {
     bound_ = BrokenBound::page;
     return false;
   }
-  try {
-    page_.append(piece);
-  } catch (const std::exception&) {
-    // No exception may cross libcurl.
-    bound_ = BrokenBound::memory;
-    return false;
-  }
+  page_.append(piece);
   return true;
 }
 
@@ -228,7 +238,7 @@ TransferFailure CurlRequest::failure(CURLcode result) const {
                     .systemError = errnoOfSocket(numberOf(easy, CURLINFO_OS_ERRNO)),
                     .refusedSocket = refusedSocket(result),
                     .status = numberOf(easy, CURLINFO_RESPONSE_CODE),
-                    .redirected = numberOf(easy, CURLINFO_REDIRECT_COUNT) > 0,
+                    .redirectedBy = redirectedBy_,
                     .answered = answering_,
                     .bound = headerRefused ? BrokenBound::header : bound_,
                     .timeout = order_.timeout,

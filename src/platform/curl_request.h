@@ -81,6 +81,7 @@ class CurlRequest {
 
   void reach(int state);
   void noteSent(curl_off_t bodyBytes);
+  bool take(bool (CurlRequest::*add)(std::string_view), std::string_view piece);
   bool addHeader(std::string_view line);
   bool addPage(std::string_view piece);
   bool announcedTooLarge() const;
@@ -99,6 +100,8 @@ class CurlRequest {
   std::string page_;
   std::size_t headerBytes_ = 0;
   AnswerHead head_;
+  // Where an answer has led elsewhere last.
+  std::string redirectedBy_;
   // Something has come back over the connection that was made last.
   bool answering_ = false;
   // Why the system has refused the socket that was asked for last; 0 when it has not.

@@ -35,8 +35,9 @@ struct TransferEnd {
   int refusedSocket = 0;
   /// The status of the last HTTP answer or FTP reply; 0 for none.
   int status = 0;
-  /// The address that was asked last is not the first one.
-  bool redirected = false;
+  /// The address whose server has led to the one that was asked last, or to one that could not be asked; empty when
+  /// none has.
+  std::string redirectedBy{};
   /// Something had come back over the last connection.
   bool answered = false;
   BrokenBound bound = BrokenBound::none;

@@ -76,6 +76,8 @@ TEST(AnswerHeadTest, WhatIsNoNumberIsNoLength) {
 
 TEST(AnswerHeadTest, ALengthBeyondAllNumbersIsToldApart) {
   EXPECT_EQ(faultOfLength("99999999999999999999999999"), HeadFault::endlessPage);
+  EXPECT_EQ(faultOfLength("9223372036854775808"), HeadFault::endlessPage);
+  EXPECT_EQ(faultOfLength("9223372036854775807"), HeadFault::none);
 }
 
 TEST(AnswerHeadTest, ChunksOverruleEveryLength) {

@@ -185,7 +185,12 @@ TEST_F(TransferFailures, RedirectToAnInvalidAddress) {
 TEST_F(TransferFailures, RedirectToAFileTransferWithACommandInItsPath) {
   const FtpServer files;
   server_.respond("/a", HttpResponse::redirect(files.url("/a%0d%0aDELE%20x")));
-  expectFailure("/a", TransferFault::badUrl, "The server redirected to an address that is not valid.");
+  expectFailure("/a", TransferFault::badUrl, "The server " + place() + " redirected to an address that is not valid.");
+}
+
+TEST_F(TransferFailures, RedirectToAHostWhoseNameIsNone) {
+  server_.respond("/a", HttpResponse::redirect("http://xn--\x80.invalid/"));
+  expectFailure("/a", TransferFault::badUrl, "The server " + place() + " redirected to an address that is not valid.");
 }
 
 TEST_F(TransferFailures, RedirectToAScript) {
