@@ -25,12 +25,12 @@ constexpr const char* kUsualCache = "pragma cache_size = -2048";
 constexpr const char* kLargeCache = "pragma cache_size = -32768";
 constexpr std::size_t kLargeText = std::size_t{512} * 1024;
 
-/// 0 also for a file that is missing.
-std::uint64_t bytesIn(const std::string& path) {
+/// Nothing for a file that is missing or cannot be looked at.
+std::optional<std::uint64_t> bytesIn(const std::string& path) {
   try {
     return sizeOf(path);
   } catch (const FileError&) {
-    return 0;
+    return std::nullopt;
   }
 }
 
@@ -99,7 +99,7 @@ void SqliteDatabase::setForeignLogAside() {
   const std::string log = path_ + "-wal";
   std::array<char, 2> versions{};
   sqlite3_file* file = nullptr;
-  if (bytesIn(log) > 0 && sqlite3_file_control(handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK &&
+  if (bytesIn(log) > 0U && sqlite3_file_control(handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK &&
       file->pMethods->xRead(file, versions.data(), static_cast<int>(versions.size()), kVersions) == SQLITE_OK &&
       versions == kWithoutLog) {
     try {
@@ -112,16 +112,16 @@ void SqliteDatabase::setForeignLogAside() {
 }
 
 void SqliteDatabase::refuseDamage() {
-  const std::uint64_t size = bytesIn(path_);
-  if (size == 0) {
+  const std::optional<std::uint64_t> size = bytesIn(path_);
+  if (size == 0U) {
     throw damagedDatabase(path_, "the file is empty", "");
   }
-  const bool changesPending = bytesIn(path_ + "-wal") > 0;
+  const bool changesPending = bytesIn(path_ + "-wal") > 0U;
   // Reads the file's header and all definitions, which SQLite itself puts off until the first statement.
   run("select count(*) from sqlite_master");
   const auto expected = rows("select page_count * page_size from pragma_page_count, pragma_page_size");
   // SQLite rounds a torn last page up. The file may be short only while changes wait in the log beside it.
-  if (!changesPending && size < std::stoull(expected.at(0).at(0))) {
+  if (!changesPending && size && *size < std::stoull(expected.at(0).at(0))) {
     throw damagedDatabase(path_, "the end of the file is missing", "");
   }
 }
@@ -255,7 +255,7 @@ std::vector<std::vector<std::string>> SqliteDatabase::rows(const std::string& te
 }
 
 void SqliteDatabase::fail(std::string_view sql) const {
-  const DataAccessError error = sqliteError(sqlite3_extended_errcode(handle()), sqlite3_errmsg(handle()), path_, sql);
+  const DataAccessError error = lastSqliteError(handle(), path_, sql);
   // With no room or a broken disk nothing that follows in the transaction can be relied on, so all of it is taken back;
   // SQLite leaves that to its caller when the statement could be undone alone.
   const int code = sqlite3_errcode(handle()) & 0xff;

@@ -7,6 +7,7 @@
 
 #include "platform/shown_statement.h"
 #include "platform/sql_dialect.h"
+#include "platform/sqlite_file.h"
 
 namespace tarnwick {
 namespace {
@@ -53,6 +54,9 @@ std::string cause(int code, const std::string& message, const std::string& path,
       return "The database " + path +
              " is in use by another program, which has locked it. Close that program, or wait " +
              "until it is done, and try again." + detail;
+    case SQLITE_PROTOCOL:
+      return "The database " + path +
+             " could not be locked. Try again; if it lies on a network disk, move it to one of this machine." + detail;
     case SQLITE_LOCKED:
       return "A table of the database is still being read; the change cannot be made now. Try again." + detail;
     case SQLITE_READONLY:
@@ -91,6 +95,12 @@ DataAccessError damagedDatabase(const std::string& path, const std::string& mess
   return {"The file " + path + " is damaged or is no database. Put back a good copy, for instance backup.mdb. (" +
               message + ")",
           shownStatement(sql)};
+}
+
+DataAccessError lastSqliteError(sqlite3* database, const std::string& path, std::string_view sql) {
+  const int told = sqlite3_extended_errcode(database);
+  const int code = causeBehind(told, database);
+  return sqliteError(code, code == told ? sqlite3_errmsg(database) : sqlite3_errstr(code), path, sql);
 }
 
 DataAccessError sqliteError(int code, const std::string& message, const std::string& path, std::string_view sql) {

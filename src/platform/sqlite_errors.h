@@ -5,7 +5,12 @@
 
 #include "platform/errors.h"
 
+struct sqlite3;
+
 namespace tarnwick {
+
+/// The error for the call on `database`, the file at `path`, that has failed last, as below.
+DataAccessError lastSqliteError(sqlite3* database, const std::string& path, std::string_view sql);
 
 /// The error for a failed SQLite call on the database at `path`: in plain words, with the remedy where there is one and
 /// SQLite's own `message` behind. `code` is an extended result code (https://www.sqlite.org/rescode.html); `sql` the

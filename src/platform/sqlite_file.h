@@ -14,6 +14,10 @@ std::string sqliteFileName(const std::string& path);
 /// Opens the file `path` as sqlite3_open_v2 does, however long its name is.
 int openSqliteFile(const std::string& path, int flags, sqlite3** database);
 
+/// The extended result code that fits a failure of `database`, which SQLite has told as `code`: it takes some failures
+/// of the disk for damage or a lack of room.
+int causeBehind(int code, sqlite3* database);
+
 /// Whether the file lies on another machine, where SQLite's write-ahead log cannot be shared between programs.
 /// https://www.sqlite.org/wal.html
 bool liesOnNetwork(const std::string& path);

@@ -30,6 +30,8 @@ int openSqliteFile(const std::string& path, int flags, sqlite3** database) {
   return sqlite3_open_v2(sqliteFileName(path).c_str(), database, flags, isUsual ? kLongNames : nullptr);
 }
 
+int causeBehind(int code, sqlite3*) { return code; }
+
 bool liesOnNetwork(const std::string& path) {
   wchar_t root[MAX_PATH + 1]{};
   return GetVolumePathNameW(systemPath(path).c_str(), root, MAX_PATH) != FALSE && GetDriveTypeW(root) == DRIVE_REMOTE;

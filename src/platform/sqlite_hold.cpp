@@ -129,8 +129,6 @@ void SqliteHold::check(const std::string& path) const {
   }
 }
 
-void SqliteHold::fail(sqlite3* database, std::string_view sql) const {
-  throw sqliteError(sqlite3_extended_errcode(database), sqlite3_errmsg(database), path_, sql);
-}
+void SqliteHold::fail(sqlite3* database, std::string_view sql) const { throw lastSqliteError(database, path_, sql); }
 
 }  // namespace tarnwick
