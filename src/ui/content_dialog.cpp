@@ -105,8 +105,11 @@ void ContentDialog::btnLoad_Click() {
 void ContentDialog::btnOk_Click() {
   const std::string page = tContent_->page();
   if (const auto character = tContent_->selectForeign()) {
+    const QPointer<BaselineEdit> content(tContent_);
     program_.services().prompts.inform(foreignMessage(*character));
-    tContent_->setFocus();
+    if (content != nullptr) {
+      content->setFocus();
+    }
     return;
   }
   requireSite(program_.data(), idSite_);

@@ -186,19 +186,21 @@ void ControlDialog::administrate(QLabel& status, const std::function<void()>& ac
 }
 
 void ControlDialog::Command3_Click() {
-  administrate(*controls_.lblLogs, [this] {
-    Prompts& prompts = program_.services().prompts;
+  // By its own reference: the form may be gone when the answer comes.
+  administrate(*controls_.lblLogs, [&program = program_] {
+    Prompts& prompts = program.services().prompts;
     if (prompts.confirm(kAskClearLogs)) {
-      program_.data().clearLog();
+      program.data().clearLog();
       prompts.inform("Logs Cleared");
     }
   });
 }
 
 void ControlDialog::Command4_Click() {
-  administrate(*controls_.lblCompact, [this] {
-    Prompts& prompts = program_.services().prompts;
-    if (!prompts.confirm(kAskCompact)) {
+  administrate(*controls_.lblCompact, [this, self = QPointer<ControlDialog>(this), &program = program_] {
+    Prompts& prompts = program.services().prompts;
+    // Who has closed the form before the answer got here looks for no compaction any more.
+    if (!prompts.confirm(kAskCompact) || self == nullptr || !isVisible()) {
       return;
     }
     bool compacted = false;
@@ -220,10 +222,11 @@ void ControlDialog::Command5_Click() {
 }
 
 void ControlDialog::chooseFileInto(ByteLineEdit& text, const std::string& filter) {
+  const QPointer<ByteLineEdit> box(&text);
   const auto file = program_.services().prompts.chooseFile(program_.programFolder(), filter);
-  if (file) {
-    text.setBytes(*file);
-    text.setFocus();
+  if (file && box != nullptr) {
+    box->setBytes(*file);
+    box->setFocus();
   }
 }
 

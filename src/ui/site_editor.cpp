@@ -1,7 +1,5 @@
 #include "ui/site_editor.h"
 
-#include <algorithm>
-#include <array>
 #include <memory>
 #include <stdexcept>
 #include <utility>
@@ -13,15 +11,9 @@
 #include "ui/dialog_parts.h"
 #include "ui/new_post_var.h"
 #include "ui/placement.h"
+#include "ui/site_editor_fields.h"
 
 namespace tarnwick {
-namespace {
-
-constexpr std::array<int, 9> kIntervals = {1, 5, 10, 15, 30, 45, 60, 90, 120};
-
-QString lowerCase(const std::string& text) { return QString::fromLatin1(text).toLower(); }
-
-}  // namespace
 
 SiteEditor::SiteEditor(Program& program, QWidget* parent)
     : QDialog(parent), program_(program), controls_(layOutSiteEditor(*this, postVars_)) {
@@ -32,9 +24,7 @@ SiteEditor::SiteEditor(Program& program, QWidget* parent)
 }
 
 void SiteEditor::Form_Load() {
-  for (const int minutes : kIntervals) {
-    controls_.lbInterval->addItem(QString::number(minutes));
-  }
+  offerIntervals(controls_);
   resetGrid1();
 }
 
@@ -58,7 +48,18 @@ void SiteEditor::editSite(std::int16_t idSite) {
     return;
   }
   const bool other = !isVisible() || idSite != idSite_;
-  if (other && (!isVisible() || mayLeave())) {
+  if (other && isVisible()) {
+    const auto there = stillThere();
+    const bool leaves = mayLeave();
+    if (!there()) {
+      return;
+    }
+    if (!leaves) {
+      bringToFront(*this);
+      return;
+    }
+  }
+  if (other) {
     populateMe(idSite);
     controls_.tUrl->setFocus();
     controls_.tUrl->selectAll();
@@ -77,33 +78,10 @@ void SiteEditor::populateMe(std::int16_t idSite) {
   const SiteDraft site = readSite(program_.data(), idSite);
   idSite_ = idSite;
   controls_.Frame1->setTitle(tr("Site ID: %1").arg(idSite));
-  fill(site);
-  reloadPostVars();
-}
-
-void SiteEditor::fill(const SiteDraft& site) {
-  controls_.tUrl->setBytes(site.url);
-  controls_.tUsername->setBytes(site.sUserName);
-  controls_.tPassword->setBytes(site.sPassWord);
-  controls_.tEmail->setBytes(site.email);
-  controls_.cEmail->setChecked(site.alertEmail);
-  // Any other method selects neither, also when one is selected from the site shown before.
-  const QString method = lowerCase(site.method);
-  for (QRadioButton* button : {controls_.tGet, controls_.tPost}) {
-    button->setAutoExclusive(false);
-    button->setChecked(false);
-  }
-  controls_.tGet->setChecked(method == QLatin1String("get"));
-  controls_.tPost->setChecked(method == QLatin1String("post"));
-  for (QRadioButton* button : {controls_.tGet, controls_.tPost}) {
-    button->setAutoExclusive(true);
-  }
-  controls_.tActive->setChecked(site.active);
-
-  const auto stored = std::ranges::find(kIntervals, QString::fromStdString(site.tInterval).toInt());
-  controls_.lbInterval->setCurrentRow(stored == kIntervals.end() ? -1 : static_cast<int>(stored - kIntervals.begin()));
+  fillFields(controls_, site);
   stored_ = site;
-  loaded_ = gather();
+  loaded_ = fieldsOf(controls_, stored_);
+  reloadPostVars();
 }
 
 void SiteEditor::resetGrid1() { postVars_.setVars({}); }
@@ -114,27 +92,20 @@ void SiteEditor::reloadPostVars() {
   postVars_.setVars(loadedVars_);
 }
 
-SiteDraft SiteEditor::gather() const {
-  // What is selected and not what is current: the Tab key makes an item current on its way through the list.
-  const auto selected = controls_.lbInterval->selectedItems();
-  return {
-      controls_.tUrl->bytes(),        controls_.tPost->isChecked() ? "post" : "get",
-      controls_.tActive->isChecked(), selected.isEmpty() ? stored_.tInterval : selected.front()->text().toStdString(),
-      controls_.cEmail->isChecked(),  controls_.tEmail->bytes(),
-      controls_.tUsername->bytes(),   controls_.tPassword->bytes()};
-}
-
 bool SiteEditor::validate() {
   if (!controls_.cEmail->isChecked() || m::isEmail(controls_.tEmail->bytes())) {
     return true;
   }
+  const auto there = stillThere();
   program_.services().prompts.inform("You must enter a valid email address.");
-  controls_.tEmail->setFocus();
+  if (there()) {
+    controls_.tEmail->setFocus();
+  }
   return false;
 }
 
 bool SiteEditor::save() {
-  const SiteDraft site = gather();
+  const SiteDraft site = fieldsOf(controls_, stored_);
   if (!validate()) {
     return false;
   }
@@ -144,7 +115,13 @@ bool SiteEditor::save() {
   return true;
 }
 
-bool SiteEditor::changed() const { return gather() != loaded_ || postVars_.vars() != loadedVars_; }
+std::function<bool()> SiteEditor::stillThere() {
+  return [self = QPointer<SiteEditor>(this), idSite = idSite_] {
+    return self != nullptr && self->isVisible() && self->idSite_ == idSite;
+  };
+}
+
+bool SiteEditor::changed() const { return fieldsOf(controls_, stored_) != loaded_ || postVars_.vars() != loadedVars_; }
 
 bool SiteEditor::mayLeave() {
   if (!changed()) {
@@ -152,12 +129,14 @@ bool SiteEditor::mayLeave() {
   }
   // Escape answers No, and must not lose what was typed.
   const QString question = tr("Do You Want To Discard The Changes To Site %1?").arg(idSite_);
-  return program_.services().prompts.confirm(question.toStdString()) && !program_.services().pump.closing();
+  const Services& services = program_.services();
+  return services.prompts.confirm(question.toStdString()) && !services.pump.closing();
 }
 
 void SiteEditor::Command1_Click() {
+  const auto there = stillThere();
   save();
-  if (validate()) {
+  if (there() && validate()) {
     unload();
   }
 }
@@ -188,9 +167,17 @@ void SiteEditor::Command4_Click() {
 void SiteEditor::Command5_Click() { resetGrid1(); }
 
 void SiteEditor::Command6_Click() {
-  if (program_.services().prompts.confirm("Do You Want To Delete This Site?")) {
-    program_.data().deleteSite(idSite_);
+  Program& program = program_;
+  const std::int16_t asked = idSite_;
+  const auto there = stillThere();
+  if (!program.services().prompts.confirm("Do You Want To Delete This Site?")) {
+    return;
+  }
+  program.data().deleteSite(asked);
+  if (there()) {
     unload();
+  } else {
+    program.run().init();
   }
 }
 

@@ -51,13 +51,14 @@ class SiteEditor final : public QDialog {
   void Command9_Click();
   void grid1_Click(int row);
 
-  SiteDraft gather() const;
-  void fill(const SiteDraft& draft);
   void reloadPostVars();
   bool validate();
   bool save();
   bool changed() const;
   bool mayLeave();
+  /// What looks after a question whether this form is still there, shown, and on the same site: a pass that begins
+  /// while the question stands can outlast it.
+  std::function<bool()> stillThere();
   /// Shows a dialog of this editor, which takes no input meanwhile; `alone`, nor does the main window.
   void openChild(QDialog& dialog, bool alone);
   void bringToFront(QDialog& dialog);

@@ -1,6 +1,7 @@
 #include "platform/desktop/exclusive_dialog.h"
 
 #include <QEventLoop>
+#include <QPointer>
 
 #include "platform/desktop/input_block.h"
 
@@ -15,17 +16,23 @@ int runExclusively(QDialog& dialog) {
     }
     return owner == nullptr;
   });
+  const QPointer<QDialog> standing(&dialog);
+  int answer = QDialog::Rejected;
   QEventLoop loop;
-  QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
+  QObject::connect(&dialog, &QDialog::finished, &loop, [&](int result) {
+    answer = result;
+    loop.quit();
+  });
+  QObject::connect(&dialog, &QObject::destroyed, &loop, &QEventLoop::quit);
   dialog.setWindowModality(Qt::NonModal);
   dialog.show();
   dialog.activateWindow();
   loop.exec(QEventLoop::DialogExec);
   // The loop also ends with the program, the dialog still standing.
-  if (dialog.isVisible()) {
-    dialog.reject();
+  if (standing != nullptr && standing->isVisible()) {
+    standing->reject();
   }
-  return dialog.result();
+  return answer;
 }
 
 }  // namespace tarnwick

@@ -7,7 +7,7 @@
 namespace tarnwick {
 
 InputBlock::InputBlock(QDialog& front, Blocked blocked, QObject* parent)
-    : QObject(parent), front_(front), blocked_(std::move(blocked)) {
+    : QObject(parent), front_(&front), blocked_(std::move(blocked)) {
   QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -20,15 +20,15 @@ bool InputBlock::isBlocked(QObject* object) const {
 
 bool InputBlock::eventFilter(QObject* watched, QEvent* event) {
   // A dialog that has been closed blocks nothing until it is taken down.
-  if (!front_.isVisible()) {
+  if (front_ == nullptr || !front_->isVisible()) {
     return false;
   }
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::TouchBegin:
       if (isBlocked(watched)) {
-        front_.raise();
-        front_.activateWindow();
+        front_->raise();
+        front_->activateWindow();
         return true;
       }
       return false;

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <QDialog>
+#include <QPointer>
 
 namespace tarnwick {
 
@@ -21,7 +22,7 @@ class InputBlock final : public QObject {
  private:
   bool isBlocked(QObject* object) const;
 
-  QDialog& front_;
+  QPointer<QDialog> front_;
   Blocked blocked_;
 };
 

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPointer>
 
 #include "platform/desktop/exclusive_dialog.h"
 #include "platform/desktop/file_filters.h"
@@ -27,14 +28,17 @@ QMessageBox::Icon iconOf(PromptIcon icon) {
 }
 
 int ask(const std::string& text, const std::string& title, PromptIcon icon, QMessageBox::StandardButtons buttons) {
-  QMessageBox box(QApplication::activeWindow());
-  box.setTextFormat(Qt::PlainText);
-  box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  box.setIcon(iconOf(icon));
-  box.setWindowTitle(QString::fromStdString(title));
-  box.setText(QString::fromStdString(text));
-  box.setStandardButtons(buttons);
-  return runExclusively(box);
+  // Goes with the window before which it stands, should that be closed before the answer gets here.
+  const QPointer<QMessageBox> box(new QMessageBox(QApplication::activeWindow()));
+  box->setTextFormat(Qt::PlainText);
+  box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  box->setIcon(iconOf(icon));
+  box->setWindowTitle(QString::fromStdString(title));
+  box->setText(QString::fromStdString(text));
+  box->setStandardButtons(buttons);
+  const int answer = runExclusively(*box);
+  delete box;
+  return answer;
 }
 
 // "Name (*.a;*.b)|*.a;*.b" as the file dialog wants it: "Name (*.a *.b)".
@@ -65,13 +69,17 @@ std::optional<std::string> MessageBoxPrompts::chooseFile(const std::string& fold
   if (pump_.closing()) {
     return std::nullopt;
   }
-  QFileDialog dialog(QApplication::activeWindow(), QString(), QString::fromStdString(folder));
-  dialog.setFileMode(QFileDialog::ExistingFile);
-  dialog.setNameFilters(nameFilters(filter));
-  if (runExclusively(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+  const QPointer<QFileDialog> dialog(
+      new QFileDialog(QApplication::activeWindow(), QString(), QString::fromStdString(folder)));
+  dialog->setFileMode(QFileDialog::ExistingFile);
+  dialog->setNameFilters(nameFilters(filter));
+  const bool accepted = runExclusively(*dialog) == QDialog::Accepted;
+  const QStringList chosen = dialog != nullptr ? dialog->selectedFiles() : QStringList();
+  delete dialog;
+  if (!accepted || chosen.isEmpty()) {
     return std::nullopt;
   }
-  return QDir::toNativeSeparators(dialog.selectedFiles().constFirst()).toStdString();
+  return QDir::toNativeSeparators(chosen.constFirst()).toStdString();
 }
 
 }  // namespace tarnwick
