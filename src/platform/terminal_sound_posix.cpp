@@ -1,5 +1,4 @@
 #include <array>
-#include <QFile>
 #include <QStandardPaths>
 
 #include "platform/terminal_sound.h"
@@ -9,15 +8,6 @@ namespace tarnwick {
 namespace {
 
 constexpr std::array kPlayers = {"pw-play", "paplay", "aplay"};
-
-bool isSound(const std::string& fileName) {
-  QFile file(QString::fromStdString(fileName));
-  if (!file.open(QIODevice::ReadOnly)) {
-    return false;
-  }
-  const QByteArray bytes = file.readAll();
-  return readWave({bytes.constData(), static_cast<std::size_t>(bytes.size())}).has_value();
-}
 
 /// Plays sounds where no multimedia library is loaded: through the first of the usual players that the machine has
 /// (pw-play, paplay, aplay), started like an alert program.
@@ -31,7 +21,7 @@ class SoundProgram final : public SoundPlayer {
 };
 
 long SoundProgram::play(const std::string& fileName) {
-  if (!isSound(fileName)) {
+  if (!readWave(bytesOfSound(fileName))) {
     return 0;
   }
   for (const char* player : kPlayers) {

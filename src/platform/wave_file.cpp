@@ -5,8 +5,13 @@
 #include <cmath>
 #include <functional>
 
+#include "platform/errors.h"
+#include "platform/file_access.h"
+
 namespace tarnwick {
 namespace {
+
+constexpr std::uint64_t kLongestFile = std::uint64_t{256} * 1024 * 1024;
 
 constexpr std::uint16_t kPcm = 1;
 constexpr std::uint16_t kFloat = 3;
@@ -107,6 +112,20 @@ Narrow narrowing(const Format& format) {
 }
 
 }  // namespace
+
+std::string bytesOfSound(const std::string& fileName) {
+  try {
+    if (kindOf(fileName) != FileKind::file || sizeOf(fileName) > kLongestFile) {
+      return {};
+    }
+    std::string bytes(static_cast<std::size_t>(sizeOf(fileName)), '\0');
+    const FileHandle file = openFile(fileName, FileUse::read);
+    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
+    return bytes;
+  } catch (const FileError&) {
+    return {};
+  }
+}
 
 std::optional<WaveSound> readWave(std::string_view bytes) {
   constexpr std::size_t kChunksStart = 12;

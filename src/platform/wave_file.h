@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,6 +14,10 @@ struct WaveSound {
   std::uint16_t channels = 0;
   std::vector<std::int16_t> samples;
 };
+
+/// The bytes of a sound's file; none when it cannot be read, is longer than 256 MiB, which is no signal any more, or is
+/// something else than a file: a pipe or a device could keep the program waiting for ever.
+std::string bytesOfSound(const std::string& fileName);
 
 /// Reads the bytes of a .wav file: uncompressed samples of 8, 16, 24 or 32 bit, or floating point ones of 32 or 64 bit,
 /// at 1000 to 384000 a second in 1 to 8 channels. A file that was cut off plays as far as it goes. Nothing when the

@@ -2,34 +2,13 @@
 
 #include <mmsystem.h>
 
-#include <cstdint>
+#include <string>
 
-#include "platform/errors.h"
-#include "platform/file_access.h"
 #include "platform/wave_file.h"
 #include "platform/windows_sound.h"
 
 namespace tarnwick {
 namespace {
-
-/// A longer file is no signal; it is not loaded.
-constexpr std::uint64_t kLargestFile = std::uint64_t{256} * 1024 * 1024;
-
-/// The file's bytes, empty when it cannot be read.
-std::string bytesOf(const std::string& fileName) {
-  try {
-    const std::uint64_t size = sizeOf(fileName);
-    if (size > kLargestFile) {
-      return {};
-    }
-    const FileHandle file = openFile(fileName, FileUse::read);
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
-    return bytes;
-  } catch (const FileError&) {
-    return {};
-  }
-}
 
 void stopSound() { PlaySoundW(nullptr, nullptr, 0); }
 
@@ -42,7 +21,7 @@ WindowsSound::~WindowsSound() {
 }
 
 long WindowsSound::play(const std::string& fileName) {
-  std::string sound = bytesOf(fileName);
+  std::string sound = bytesOfSound(fileName);
   // A file that cannot be played leaves the sound before it alone.
   if (!readWave(sound) || waveOutGetNumDevs() == 0) {
     return 0;

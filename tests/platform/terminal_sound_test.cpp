@@ -1,6 +1,7 @@
 #include "platform/terminal_sound.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <array>
 #include <cstdlib>
@@ -58,6 +59,15 @@ TEST_F(TerminalSoundTest, PrefersThePlayerOfTheSoundServer) {
 
 TEST_F(TerminalSoundTest, IsSilentOnAMachineWithoutAPlayer) {
   EXPECT_EQ(player->play(sound), 0);
+  EXPECT_TRUE(programs.started.empty());
+}
+
+TEST_F(TerminalSoundTest, WaitsForNoPipe) {
+  addPlayer("aplay");
+  const std::string pipe = folder.file("pipe.wav");
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(player->play(pipe), 0);
+  EXPECT_EQ(player->play("/dev/zero"), 0);
   EXPECT_TRUE(programs.started.empty());
 }
 

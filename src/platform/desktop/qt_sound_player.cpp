@@ -9,8 +9,6 @@
 #include <QAudioSink>
 #include <QBuffer>
 #include <QByteArray>
-#include <QFile>
-#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QMediaDevices>
 #include <QTimer>
@@ -19,9 +17,6 @@
 
 namespace tarnwick {
 namespace {
-
-/// A longer file is no signal; it is not loaded.
-constexpr qint64 kLargestFile = qint64{256} * 1024 * 1024;
 
 /// More than a sound device keeps back, a wireless one included.
 constexpr std::chrono::milliseconds kDeviceBuffer{1000};
@@ -34,16 +29,6 @@ void dropSoundServerMessages(QtMsgType type, const QMessageLogContext& context, 
   if (!message.startsWith(QLatin1String("PulseAudioService:"))) {
     earlierHandler(type, context, message);
   }
-}
-
-std::optional<WaveSound> load(const std::string& fileName) {
-  QFile file(QString::fromStdString(fileName));
-  // A pipe or a device could keep the program waiting for ever.
-  if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > kLargestFile) {
-    return std::nullopt;
-  }
-  const QByteArray bytes = file.readAll();
-  return readWave({bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 QAudioFormat formatOf(const WaveSound& sound) {
@@ -116,7 +101,7 @@ QtSoundPlayer::QtSoundPlayer() {
 QtSoundPlayer::~QtSoundPlayer() = default;
 
 long QtSoundPlayer::play(const std::string& fileName) {
-  const std::optional<WaveSound> sound = load(fileName);
+  const std::optional<WaveSound> sound = readWave(bytesOfSound(fileName));
   const QAudioDevice device = sound ? QMediaDevices::defaultAudioOutput() : QAudioDevice();
   // A file that cannot be played leaves the sound before it alone.
   if (!sound || device.isNull()) {
