@@ -49,6 +49,10 @@ int compact(Tool& tool, const UpkeepOptions& options) {
     throw std::runtime_error("Compact Failed. The database is as it was: " + database);
   }
   const std::uintmax_t after = sizeOf(database);
+  if (sizeOf(data.programFolder() + "/temp.mdb") != after) {
+    throw std::runtime_error("Compact Failed. There is no room for the compacted copy; the database is as it was: " +
+                             database);
+  }
   if (options.json) {
     sayJson(tool.console(), {{"before", before}, {"after", after}});
   } else {

@@ -1,5 +1,7 @@
 #include "platform/file_access.h"
 
+#include <system_error>
+
 #include "platform/errors.h"
 #include "platform/path_text.h"
 
@@ -13,5 +15,11 @@ std::filesystem::path pathOf(const std::string& utf8) {
 }
 
 std::string textOf(const std::filesystem::path& path) { return textOfPath(path); }
+
+std::string behindLinks(const std::string& path) {
+  std::error_code fault;
+  const std::filesystem::path place = std::filesystem::canonical(pathOf(path), fault);
+  return fault ? path : textOf(place);
+}
 
 }  // namespace tarnwick

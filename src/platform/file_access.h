@@ -21,6 +21,8 @@ enum class FileKind { none, file, folder, other };
 FileKind kindOf(const std::string& path);
 /// Whether the name is taken, be it by a link that leads nowhere.
 bool isTaken(const std::string& path);
+/// The file's own name, behind all links that lead to it; `path` itself where nothing stands.
+std::string behindLinks(const std::string& path);
 /// The size in bytes.
 std::uint64_t sizeOf(const std::string& path);
 /// Whether both paths lead to one file. False when one of them leads nowhere.

@@ -75,12 +75,6 @@ void writeTo(std::FILE* file, const std::string& path, const std::function<void(
   });
 }
 
-std::string behindLinks(const std::string& path) {
-  std::error_code fault;
-  const std::filesystem::path place = std::filesystem::canonical(pathOf(path), fault);
-  return fault ? path : textOf(place);
-}
-
 }  // namespace
 
 void writePrivateFile(const std::string& path, const std::function<void(const ByteSink& sink)>& fill) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/errors.h"
+#include "platform/file_access.h"
 
 namespace tarnwick {
 namespace {
@@ -104,14 +105,16 @@ bool Compaction::compactToTemp(HeldDatabase& held) {
 }
 
 void Compaction::putInPlace(std::unique_ptr<HeldDatabase> held) {
-  const std::string unfinished = db_.dbPath() + kUnfinished;
+  // A link stays one: what it leads to is replaced, in its own folder.
+  const std::string live = behindLinks(db_.dbPath());
+  const std::string unfinished = live + kUnfinished;
   files_.copy(inFolder(std::string(kTempName)), unfinished);
   if (!files_.replacesOpenFiles()) {
     held.reset();
   }
   try {
-    removeSideFiles(db_.dbPath());
-    files_.rename(unfinished, db_.dbPath());
+    removeSideFiles(live);
+    files_.rename(unfinished, live);
   } catch (...) {
     succeeds([&] { files_.remove(unfinished); });
     throw;

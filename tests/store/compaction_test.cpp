@@ -32,6 +32,18 @@ TEST_F(CompactionTest, EveryRowAndDefinitionIsThereAfterwards) {
   EXPECT_THAT(prompts.shown(), IsEmpty());
 }
 
+TEST_F(CompactionTest, ALinkToTheDatabaseStaysOne) {
+  database.close();
+  const ProgramFolder elsewhere;
+  fs::rename(folder.databasePath(), elsewhere.file("list.mdb"));
+  fs::create_symlink(elsewhere.file("list.mdb"), folder.databasePath());
+  const auto before = fs::file_size(elsewhere.file("list.mdb"));
+  database.reopen();
+  EXPECT_TRUE(compaction.compact());
+  EXPECT_TRUE(fs::is_symlink(folder.databasePath()));
+  EXPECT_LT(fs::file_size(elsewhere.file("list.mdb")), before);
+}
+
 TEST_F(CompactionTest, EveryByteOfATextIsKept) {
   for (const std::string& text : trickyTexts()) {
     database.execute(joinSql("update sites set content_compare = '", sqlQuote(text), "' where idSite = 9"));
