@@ -1,5 +1,6 @@
 #include "ui/new_post_var.h"
 
+#include <stdexcept>
 #include <utility>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -18,8 +19,8 @@ constexpr int kFieldCharacters = 48;
 
 }  // namespace
 
-NewPostVar::NewPostVar(Program& program, std::int16_t idPostVars, PostVar var, QWidget* siteEditor)
-    : QDialog(siteEditor), program_(program), idPostVars_(idPostVars), var_(std::move(var)) {
+NewPostVar::NewPostVar(Program& program, std::int16_t idSite, PostVar var, QWidget* siteEditor)
+    : QDialog(siteEditor), program_(program), idSite_(idSite), var_(std::move(var)) {
   setObjectName(QStringLiteral("newPostVar"));
   setWindowTitle(tr("Add / Edit Post Variable"));
   layOut();
@@ -73,13 +74,28 @@ void NewPostVar::populateMe() {
   pvName_->selectAll();
 }
 
+std::int16_t NewPostVar::idPostVars() {
+  const std::int16_t id = program_.data().getIdPostVars(idSite_, var_.name, var_.value);
+  if (id == 0) {
+    throw std::runtime_error(
+        tr("This variable was changed or removed by another program. Press Cancel, and look at the list.")
+            .toStdString());
+  }
+  return id;
+}
+
 void NewPostVar::Command4_Click() {
-  program_.data().updatePostVars(idPostVars_, pvName_->bytes(), pvValue_->bytes());
+  // Nobody numbers anew in between.
+  Transaction whole(program_.data().database());
+  program_.data().updatePostVars(idPostVars(), pvName_->bytes(), pvValue_->bytes());
+  whole.commit();
   accept();
 }
 
 void NewPostVar::Command1_Click() {
-  program_.data().deletePostVars(idPostVars_);
+  Transaction whole(program_.data().database());
+  program_.data().deletePostVars(idPostVars());
+  whole.commit();
   accept();
 }
 

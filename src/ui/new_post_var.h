@@ -14,8 +14,8 @@ class NewPostVar final : public QDialog {
   Q_OBJECT
 
  public:
-  /// Edits the variable `idPostVars`, which is `var` now. `program` outlives the form; `siteEditor` is below it.
-  NewPostVar(Program& program, std::int16_t idPostVars, PostVar var, QWidget* siteEditor);
+  /// Edits the variable `var` of the site `idSite`. `program` outlives the form; `siteEditor` is below it.
+  NewPostVar(Program& program, std::int16_t idSite, PostVar var, QWidget* siteEditor);
 
   /// Shows the variable's name and value.
   void populateMe();
@@ -26,9 +26,11 @@ class NewPostVar final : public QDialog {
   void Command4_Click();
   void Command1_Click();
   void Command2_Click();
+  /// The variable's id as it is now: a run that begins in another process numbers all variables anew.
+  std::int16_t idPostVars();
 
   Program& program_;
-  std::int16_t idPostVars_;
+  std::int16_t idSite_;
   PostVar var_;
   ByteLineEdit* pvName_ = nullptr;
   ByteLineEdit* pvValue_ = nullptr;

@@ -75,20 +75,23 @@ void SiteEditor::editSite(std::int16_t idSite) {
 }
 
 void SiteEditor::populateMe(std::int16_t idSite) {
+  // All that may fail comes first: a form that shows an empty list would store it so.
   const SiteDraft site = readSite(program_.data(), idSite);
+  std::vector<PostVar> vars = readPostVars(program_.data(), idSite);
   idSite_ = idSite;
   controls_.Frame1->setTitle(tr("Site ID: %1").arg(idSite));
   fillFields(controls_, site);
   stored_ = site;
   loaded_ = fieldsOf(controls_, stored_);
-  reloadPostVars();
+  showPostVars(std::move(vars));
 }
 
 void SiteEditor::resetGrid1() { postVars_.setVars({}); }
 
-void SiteEditor::reloadPostVars() {
-  resetGrid1();
-  loadedVars_ = readPostVars(program_.data(), idSite_);
+void SiteEditor::reloadPostVars() { showPostVars(readPostVars(program_.data(), idSite_)); }
+
+void SiteEditor::showPostVars(std::vector<PostVar> vars) {
+  loadedVars_ = std::move(vars);
   postVars_.setVars(loadedVars_);
 }
 
@@ -195,14 +198,13 @@ void SiteEditor::Command9_Click() {
 
 void SiteEditor::grid1_Click(int row) {
   const PostVar var = postVars_.vars().at(static_cast<std::size_t>(row));
-  const std::int16_t idPostVars = program_.data().getIdPostVars(idSite_, var.name, var.value);
-  if (idPostVars == 0) {
+  if (program_.data().getIdPostVars(idSite_, var.name, var.value) == 0) {
     // A Null, or a change by another program: an update would reach no variable and be lost.
     throw std::runtime_error(
         tr("This variable is not stored as it is shown. Press Apply to store the list, then click the variable again.")
             .toStdString());
   }
-  auto* editor = new NewPostVar(program_, idPostVars, var, this);
+  auto* editor = new NewPostVar(program_, idSite_, var, this);
   editor->populateMe();
   connect(editor, &QDialog::finished, this, [this] {
     // Only the variables: what was typed elsewhere in this form is kept.

@@ -52,6 +52,7 @@ class SiteEditor final : public QDialog {
   void grid1_Click(int row);
 
   void reloadPostVars();
+  void showPostVars(std::vector<PostVar> vars);
   bool validate();
   bool save();
   bool changed() const;

@@ -1,15 +1,18 @@
 // The POST variable editor.
 #include "ui/new_post_var.h"
 
+#include <filesystem>
 #include <QGroupBox>
 #include <QLabel>
 
+#include "support/wait_until.h"
 #include "ui/dialog_fixture.h"
 
 namespace tarnwick {
 namespace {
 
 using testing::DialogTest;
+using testing::waitUntil;
 
 class NewPostVarTest : public DialogTest {
  protected:
@@ -63,6 +66,49 @@ TEST_F(NewPostVarTest, UpdateStoresTheVariableAndTheGridShowsIt) {
   EXPECT_EQ(shown<NewPostVar>(), nullptr);
   EXPECT_EQ(vars(1), "new'name=x&y;b'= two ");
   EXPECT_EQ(gridCell(0, 0), "new'name");
+}
+
+TEST_F(NewPostVarTest, TheVariableThatIsShownIsMeantThoughAllWereNumberedAnewMeanwhile) {
+  folder.execute("update postVars set idPostVars = idPostVars + 10");
+  auto& form = openVar(0);
+  m(folder.path(), machine.services()).reIdpostVars();
+  type(form, "pvValue", "changed");
+  press(form, "Command4");
+  EXPECT_EQ(vars(1), "a=changed;b'= two ");
+}
+
+TEST_F(NewPostVarTest, AVariableThatIsGoneIsToldAndNothingElseIsTouched) {
+  for (const char* button : {"Command4", "Command1"}) {
+    auto& form = openVar(0);
+    folder.execute("update postVars set pvalue = 'by another' where pname = 'a'");
+    press(form, button);
+    EXPECT_NE(machine.prompts.texts().back().find("another program"), std::string::npos);
+    EXPECT_EQ(vars(1), "a=by another;b'= two ");
+    press(form, "Command2");
+    folder.execute("update postVars set pvalue = '1' where pname = 'a'");
+    press(opened<SiteEditor>(), "Command8");
+    master.reset();
+  }
+}
+
+TEST_F(NewPostVarTest, AListThatCannotBeReadForAMomentIsNotStoredAsAnEmptyOne) {
+  auto& form = openVar(0);
+  const std::string away = folder.databasePath() + ".away";
+  std::filesystem::rename(folder.databasePath(), away);
+  // The files are looked after ten times a second.
+  ASSERT_TRUE(waitUntil([&] {
+    try {
+      static_cast<void>(master->program().data().getUrl(1));
+      return false;
+    } catch (const std::exception&) {
+      return true;
+    }
+  }));
+  press(form, "Command2");
+  std::filesystem::rename(away, folder.databasePath());
+  EXPECT_EQ(gridRows(), 2);
+  press(opened<SiteEditor>(), "Command1");
+  EXPECT_EQ(vars(1), "a=1;b'= two ");
 }
 
 TEST_F(NewPostVarTest, UpdateWithoutAChangeRewritesTheSame) {
