@@ -50,17 +50,28 @@ bool FaultBox::run(const std::function<void()>& action, const std::string& sourc
 }
 
 bool FaultBox::runRepeated(const std::string& source, const std::function<void()>& action) {
+  bool succeeded = true;
   try {
     action();
     std::erase_if(standing_, [&](const Fault& fault) { return fault.source == source; });
-    return true;
   } catch (...) {
+    succeeded = false;
     const Description description = describeCurrentException();
     if (open_ == 0 && !isStanding(description.fault)) {
       standing_.insert({source, description.fault});
-      show(description.message);
+      waiting_.push_back(description.message);
     }
-    return false;
+  }
+  showWaiting();
+  return succeeded;
+}
+
+// A box that opens inside a pass holds the pass up until somebody closes it, and until then no site is watched.
+void FaultBox::showWaiting() {
+  while (open_ == 0 && !waiting_.empty() && !(busy_ && busy_())) {
+    const std::string message = std::move(waiting_.front());
+    waiting_.pop_front();
+    show(message);
   }
 }
 

@@ -28,7 +28,7 @@ Program::Program(std::string programFolder, const Services& services, RunView& v
     : programFolder_(std::move(programFolder)),
       services_(services),
       view_(view),
-      faults_(services.prompts),
+      faults_(services.prompts, [this] { return parts_ && parts_->run.busy(); }),
       lock_(programFolder_) {}
 
 Program::~Program() = default;

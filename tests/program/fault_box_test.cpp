@@ -85,6 +85,21 @@ TEST_F(FaultBoxTest, WhatWasHeldBackByAnOpenBoxIsToldAfterItWhenItLasts) {
   EXPECT_THAT(prompts.texts(), ElementsAre(HasSubstr("locked"), HasSubstr("another fault")));
 }
 
+TEST_F(FaultBoxTest, AFaultThatATimerMeetsDuringAPassIsToldOnceAfterIt) {
+  bool busy = true;
+  FaultBox patient(prompts, [&] { return busy; });
+  EXPECT_FALSE(patient.runRepeated("report", [] { fail("no report"); }));
+  EXPECT_FALSE(patient.runRepeated("report", [] { fail("no report"); }));
+  EXPECT_TRUE(patient.runRepeated("lamps", [] {}));
+  EXPECT_THAT(prompts.texts(), IsEmpty());
+  EXPECT_FALSE(patient.run([] { fail("what the user asked for"); }));
+  EXPECT_THAT(prompts.texts(), SizeIs(1));
+  busy = false;
+  EXPECT_TRUE(patient.runRepeated("lamps", [] {}));
+  EXPECT_TRUE(patient.runRepeated("lamps", [] {}));
+  EXPECT_THAT(prompts.texts(), ElementsAre(HasSubstr("what the user asked for"), HasSubstr("no report")));
+}
+
 TEST_F(FaultBoxTest, TheSameFaultMetByTwoTimersIsToldOnce) {
   for (int tick = 0; tick < 3; ++tick) {
     box.runRepeated("run", [] { fail("damaged", "select a"); });
