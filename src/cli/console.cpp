@@ -134,7 +134,12 @@ std::error_code Console::flush() {
   endLive();
   out_.flush();
   noteFailure();
-  return {cause_, std::generic_category()};
+  return failure();
+}
+
+void Console::writeOn() {
+  out_.clear();
+  cause_ = 0;
 }
 
 std::size_t characterCount(std::string_view text) {

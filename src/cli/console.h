@@ -45,6 +45,10 @@ class Console {
   bool good() const;
   /// Hands on all data that was written, and tells why that cannot be done; no error when it is all out.
   std::error_code flush();
+  /// Why something could not be written; no error when all could.
+  std::error_code failure() const { return {cause_, std::generic_category()}; }
+  /// Lets what follows be written again after a failure.
+  void writeOn();
   /// Whether there has been something to complain of.
   bool hasComplained() const { return hasComplained_; }
 

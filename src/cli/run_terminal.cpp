@@ -1,6 +1,7 @@
 #include "cli/run_terminal.h"
 
 #include <algorithm>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -17,6 +18,15 @@ std::string countText(std::size_t up, std::size_t down) {
   return std::to_string(up) + " up, " + std::to_string(down) + " down";
 }
 
+/// Nothing for one that the program cannot use, which the pass tells of.
+std::optional<std::int16_t> idOf(const std::string& text) {
+  try {
+    return siteIdFromText(text);
+  } catch (const OverflowError&) {
+    return std::nullopt;
+  }
+}
+
 std::string sitesText(std::size_t count) { return std::to_string(count) + (count == 1 ? " site" : " sites"); }
 
 }  // namespace
@@ -27,8 +37,9 @@ void RunTerminal::prepare(m& data) {
   active_ = sites.lastRow();
   for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
     const std::string& status = sites.at(site_column::status, row);
-    if (status != "NULL") {
-      known_[siteIdFromText(sites.at(site_column::idSite, row))] = SqlValue(status).toBool();
+    const auto id = idOf(sites.at(site_column::idSite, row));
+    if (id && status != "NULL") {
+      known_[*id] = SqlValue(status).toBool();
     }
   }
 }
@@ -115,7 +126,9 @@ void RunTerminal::forgetWhatIsNotWatched() {
   const TextTable sites = data_->getArraySitesActiveTrue(site_choice::active);
   std::set<std::int16_t> watched;
   for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
-    watched.insert(siteIdFromText(sites.at(site_column::idSite, row)));
+    if (const auto id = idOf(sites.at(site_column::idSite, row))) {
+      watched.insert(*id);
+    }
   }
   std::erase_if(known_, [&watched](const auto& site) { return !watched.contains(site.first); });
 }
@@ -129,7 +142,7 @@ void RunTerminal::tell(const std::string& text, const char* event, Json details)
   } else {
     console_.say(now + " " + text);
   }
-  endWithTheOutput();
+  lookAfterTheOutput();
 }
 
 bool RunTerminal::hasLiveLine() const { return !style_.json && console_.isTerminal() && data_ != nullptr; }
@@ -146,12 +159,24 @@ void RunTerminal::showLive() {
     line += std::to_string(progress_ * 100 / kFullWidth) + " %  ";
   }
   console_.live(line + status_);
-  endWithTheOutput();
+  lookAfterTheOutput();
 }
 
-void RunTerminal::endWithTheOutput() {
-  if (!console_.good()) {
+// Who has gone reads nothing any more. A disk that is full for a moment must not end the watching.
+void RunTerminal::lookAfterTheOutput() {
+  if (console_.good()) {
+    outputFails_ = false;
+    return;
+  }
+  const std::error_code cause = console_.failure();
+  if (cause == std::errc::broken_pipe) {
     pump_.close();
+    return;
+  }
+  console_.writeOn();
+  hasLostLines_ = true;
+  if (!std::exchange(outputFails_, true)) {
+    console_.complain("The run goes on, but its lines cannot be written: " + cause.message() + ".");
   }
 }
 

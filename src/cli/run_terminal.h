@@ -22,7 +22,7 @@ class RunTerminal final : public SilentView {
     bool json = false;     ///< an object a line
   };
 
-  /// `pump` is closed when the output takes nothing any more: a run that nobody can see is none that was asked for.
+  /// `pump` is closed when the reader of the output has gone: a run that nobody can see is none that was asked for.
   RunTerminal(Console& console, const Clock& clock, EventPump& pump, Style style)
       : console_(console), clock_(clock), pump_(pump), style_(style) {}
 
@@ -30,6 +30,8 @@ class RunTerminal final : public SilentView {
   void prepare(m& data);
   /// Says that the run has ended.
   void end();
+  /// Whether lines could not be written, which has been told.
+  bool hasLostLines() const { return hasLostLines_; }
 
   void showStatus(const std::string& text) override;
   void indicators(RunState state) override;
@@ -50,7 +52,7 @@ class RunTerminal final : public SilentView {
   void forgetWhatIsNotWatched();
   bool hasLiveLine() const;
   void showLive();
-  void endWithTheOutput();
+  void lookAfterTheOutput();
 
   Console& console_;
   const Clock& clock_;
@@ -66,6 +68,8 @@ class RunTerminal final : public SilentView {
   std::string status_;
   std::string runTime_;
   std::int64_t progress_ = 0;
+  bool outputFails_ = false;
+  bool hasLostLines_ = false;
 };
 
 }  // namespace tarnwick

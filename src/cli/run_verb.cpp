@@ -6,14 +6,6 @@
 namespace tarnwick {
 namespace {
 
-// Who starts a run wants its lines, be it in a file or in another program.
-int complainOfOutput(Console& console) {
-  if (console.flush() == std::errc::broken_pipe) {
-    console.complain("The run has ended, since nobody reads its lines any more.");
-  }
-  return exit_status::failed;  // any other reason is told as it is of every verb
-}
-
 int run(Tool& tool, const RunTerminal::Style& style) {
   Console& console = tool.console();
   EventPump& pump = tool.services().pump;
@@ -38,12 +30,13 @@ int run(Tool& tool, const RunTerminal::Style& style) {
     pump.waitForEvent();
   }
   terminal.end();
-  if (console.good()) {
-    return exit_status::ok;
+  if (console.flush() == std::errc::broken_pipe) {
+    program.stopRun();
+    program.close();
+    console.complain("The run has ended, since nobody reads its lines any more.");
+    return exit_status::failed;
   }
-  program.stopRun();
-  program.close();
-  return complainOfOutput(console);
+  return terminal.hasLostLines() ? exit_status::failed : exit_status::ok;
 }
 
 }  // namespace

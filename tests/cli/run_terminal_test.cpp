@@ -1,5 +1,8 @@
 #include "cli/run_terminal.h"
 
+#include <cerrno>
+#include <system_error>
+
 #include "cli/tool_fixture.h"
 
 namespace tarnwick::testing {
@@ -58,12 +61,40 @@ TEST_F(RunTerminalTest, ForgetsSitesThatAreDeletedOrSwitchedOffMeanwhile) {
   EXPECT_EQ(live(), "1 up, 0 down  Ready");
 }
 
-TEST_F(RunTerminalTest, EndsTheRunWhenItsOutputTakesNothingAnyMore) {
+TEST_F(RunTerminalTest, LeavesOutAnIdThatTheProgramCannotUse) {
+  addSite("http://a/");
+  folder.execute("insert into sites (idSite,url,active,status) values (70000,'http://b/',1,1)");
+  m data(folder.path(), machine.services());
+  shown.prepare(data);
+  pass({{.idSite = 1, .url = "http://a/", .passed = true}});
+  shown.showStatus("Waiting");
+  EXPECT_EQ(live(), "1 up, 0 down  Waiting");
+}
+
+TEST_F(RunTerminalTest, GoesOnWhenItsLinesCannotBeWrittenForAMoment) {
+  addSite("http://a/");
+  m data(folder.path(), machine.services());
+  shown.prepare(data);
+  for (int line = 0; line < 3; ++line) {
+    errno = ENOSPC;
+    written.setstate(std::ios::badbit);
+    shown.showStatus("Waiting " + std::to_string(line));
+  }
+  EXPECT_FALSE(machine.pump.closing());
+  EXPECT_TRUE(shown.hasLostLines());
+  EXPECT_EQ(complaints.str(), "tarnwickctl: The run goes on, but its lines cannot be written: " +
+                                  std::generic_category().message(ENOSPC) + ".\n");
+  shown.showStatus("Ready");
+  EXPECT_THAT(live(), EndsWith("Ready"));
+}
+
+TEST_F(RunTerminalTest, EndsTheRunWhenTheReaderOfItsOutputHasGone) {
   addSite("http://a/");
   m data(folder.path(), machine.services());
   shown.prepare(data);
   shown.indicators(RunState::start);
   EXPECT_FALSE(machine.pump.closing());
+  errno = EPIPE;
   written.setstate(std::ios::badbit);
   shown.showStatus("Waiting");
   EXPECT_TRUE(machine.pump.closing());

@@ -253,11 +253,26 @@ def ends_with_what_reads_it():
 
 def fails_on_a_full_disk():
     with web() as server, folder(f"http://127.0.0.1:{server.server_port}/steady") as place, open("/dev/full", "w") as full:
-        for arguments in (("sites",), ("check",), ("baseline", "1"), ("log", "--json"), ("run",)):
+        for arguments in (("sites",), ("check",), ("baseline", "1"), ("log", "--json")):
             ended = subprocess.run([tool, "--folder", place, *arguments], stdin=subprocess.DEVNULL, stdout=full,
                                    stderr=subprocess.PIPE, text=True, timeout=LIMIT, check=False)
             expect(ended.returncode == 2, arguments, ended)
             expect(ended.stderr.count("\n") == 1 and "No space left on device" in ended.stderr, arguments, ended)
+
+
+def watches_on_while_the_disk_of_its_lines_is_full():
+    with web() as server, folder(f"http://127.0.0.1:{server.server_port}/steady") as place, open("/dev/full", "w") as full:
+        process = subprocess.Popen([tool, "--folder", place, "run", "--verbose"], stdin=subprocess.DEVNULL, stdout=full,
+                                   stderr=subprocess.PIPE, text=True)
+        said = process.stderr.readline()
+        expect("The run goes on" in said and "No space left on device" in said, said)
+        end = time.monotonic() + LIMIT
+        while rows(place, "select success from sites")[0][0] != 1:
+            expect(time.monotonic() < end, "the site was not checked")
+            time.sleep(0.05)
+        process.send_signal(signal.SIGTERM)
+        _, more = process.communicate(timeout=LIMIT)
+        expect(process.returncode == 2 and more == "", process.returncode, more)
 
 
 def reads_pipes_that_are_given_as_files():
