@@ -1,14 +1,41 @@
 #include "platform/connection_failure.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <string_view>
 
 namespace tarnwick {
 namespace {
 
+// "Failed to connect to 10.0.0.1 port 3128 after 0 ms: ...": libcurl names whom it has really asked. Empty when that is
+// no proxy server which the environment names.
+std::string unreachedProxy(const std::string& detail) {
+  constexpr std::string_view kStart = "Failed to connect to ";
+  constexpr std::string_view kPort = " port ";
+  const auto port = detail.find(kPort);
+  if (!detail.starts_with(kStart) || port == std::string::npos) {
+    return {};
+  }
+  const auto end = detail.find(' ', port + kPort.size());
+  const std::string number = detail.substr(port + kPort.size(), end - port - kPort.size());
+  const std::string asked = detail.substr(kStart.size(), port - kStart.size()) + ":" + number;
+  for (const char* name :
+       {"http_proxy", "https_proxy", "HTTPS_PROXY", "ftp_proxy", "FTP_PROXY", "all_proxy", "ALL_PROXY"}) {
+    const char* const named = std::getenv(name);
+    if (named != nullptr && std::string_view(named).find(asked) != std::string_view::npos) {
+      return detail.substr(kStart.size(), end - kStart.size());
+    }
+  }
+  return {};
+}
+
 TransferFailure notConnected(const TransferEnd& end, const AskedServer& server) {
-  if (server.scheme.starts_with("ftp") && end.status != 0) {
-    // The server itself has been talked to.
+  if (const std::string proxy = unreachedProxy(end.detail); !proxy.empty()) {
+    return {TransferFault::refused, "No connection to the proxy server " + quotable(proxy) + " could be made."};
+  }
+  constexpr int kRedirection = 3;
+  if (server.scheme.starts_with("ftp") && end.status != 0 && end.status / 100 != kRedirection) {
+    // The server itself has been talked to, and not only one that redirected to it.
     return {TransferFault::refused,
             "The server " + server.place + " gives its files out at a port that cannot be reached."};
   }
@@ -62,10 +89,10 @@ std::optional<TransferFailure> lackOfThisMachine(int error) {
   switch (error) {
     case EMFILE:
     case ENFILE:
-      return TransferFailure{TransferFault::other, "This machine has no more file handles for Tarnwick."};
+      return TransferFailure{TransferFault::shortage, "This machine has no more file handles for Tarnwick."};
     case ENOBUFS:
     case ENOMEM:
-      return TransferFailure{TransferFault::other, "This machine has not enough memory for another connection."};
+      return TransferFailure{TransferFault::shortage, "This machine has not enough memory for another connection."};
     default:
       return std::nullopt;
   }

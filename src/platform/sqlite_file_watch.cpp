@@ -41,8 +41,11 @@ SqliteFileWatch::Finding SqliteFileWatch::lookNowAndThen() {
   if (now < nextLook_) {
     return Finding::same;
   }
-  nextLook_ = now + kPause;
-  return look();
+  const Finding finding = look();
+  if (finding == Finding::same) {
+    nextLook_ = now + kPause;
+  }
+  return finding;
 }
 
 // A database that has moved SQLite leaves as it is when it closes the files, and the log in its place.

@@ -322,7 +322,7 @@ TEST(TransferFailureWords, EndlessChallengeIsNoRedirect) {
 TEST(TransferFailureWords, LacksOfThisMachineAreNoFaultOfTheServer) {
   for (const int error : {EMFILE, ENFILE}) {
     const auto failure = failureWith(CURLE_COULDNT_CONNECT, error);
-    EXPECT_EQ(failure.fault, TransferFault::other);
+    EXPECT_EQ(failure.fault, TransferFault::shortage);
     EXPECT_EQ(failure.cause, "This machine has no more file handles for Tarnwick.");
   }
   for (const int error : {ENOBUFS, ENOMEM}) {
@@ -361,6 +361,29 @@ TEST(TransferFailureWords, ProxyThatMakesNoWay) {
     EXPECT_EQ(failure.fault, TransferFault::refused);
     EXPECT_EQ(failure.cause, "The proxy server 10.0.0.1 port 3128 made no connection to example.test port 443.");
   }
+}
+
+TEST(TransferFailureWords, ProxyThatDoesNotAnswer) {
+  ::setenv("ftp_proxy", "http://10.0.0.1:3128/", 1);
+  const auto causeOf = [](const std::string& asked) {
+    return failureOf({.result = CURLE_COULDNT_CONNECT,
+                      .detail = "Failed to connect to " + asked + " after 0 ms: Couldn't connect to server",
+                      .url = "ftp://example.test/a",
+                      .systemError = ECONNREFUSED})
+        .cause;
+  };
+  EXPECT_EQ(causeOf("10.0.0.1 port 3128"), "No connection to the proxy server 10.0.0.1 port 3128 could be made.");
+  EXPECT_EQ(causeOf("example.test port 21"), "The connection to example.test port 21 was refused.");
+  ::unsetenv("ftp_proxy");
+}
+
+TEST(TransferFailureWords, FileTransferThatARedirectLedToAndThatIsNotThere) {
+  const auto failure = failureOf({.result = CURLE_COULDNT_CONNECT,
+                                  .url = "ftp://example.test:2121/a",
+                                  .systemError = ECONNREFUSED,
+                                  .status = 302,
+                                  .redirectedBy = "http://example.test/"});
+  EXPECT_EQ(failure.cause, "The connection to example.test port 2121 was refused.");
 }
 
 TEST(TransferFailureWords, AddressThatNobodyRedirectedToIsTheSitesOwn) {
