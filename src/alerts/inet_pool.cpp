@@ -2,15 +2,18 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 
 #include "alerts/response_body.h"
+#include "platform/errors.h"
 #include "store/settings_and_log.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr std::chrono::milliseconds kSweepInterval{1000};
-constexpr std::size_t kPieceSize = 65536;
+// All of it at once: a page of many megabytes is handed over, not copied.
+constexpr std::size_t kPieceSize = kLargestPage;
 
 constexpr std::array<std::string_view, 13> kStateDescriptions{
     "No state to report.",
@@ -78,7 +81,13 @@ void InetPool::stateChanged(Slot& slot, int state) {
     slot.text = "11:" + slot.errDescription;
     slot.done = true;
   } else if (state == transfer_state::responseCompleted) {
-    slot.text = readResponseBody(*slot.inet, kPieceSize);
+    try {
+      slot.text = readResponseBody(*slot.inet, kPieceSize);
+    } catch (const std::bad_alloc&) {
+      // No exception may cross the event loop that calls this.
+      slot.errCode = static_cast<long>(TransferFault::shortage);
+      slot.errDescription = kNotEnoughMemory;
+    }
     slot.done = true;
   }
 }

@@ -38,6 +38,11 @@ TextTable DueSites::getArraySitesActiveTrue(std::int16_t mode) {
   }
 }
 
+TextTable DueSites::getSitesDueOrNeverChecked() {
+  return readSiteTable(db_, joinSql("SELECT ", kSiteFields, " from sites where ", "([lastChecked] is null or ", kIsDue,
+                                    ") AND ", kIsActive, " ", kById));
+}
+
 MinWaitTime DueSites::getMinWaitTime() {
   const auto rows =
       db_.query(joinSql("SELECT TOP 1 idsite,url,tInterval*60 AS tlc, "

@@ -35,6 +35,9 @@ class DueSites {
   /// std::invalid_argument. An active site that was never checked is not due, but is among the active ones.
   TextTable getArraySitesActiveTrue(std::int16_t mode);
 
+  /// The active sites that are due, and those that were never checked; columns and order as above.
+  TextTable getSitesDueOrNeverChecked();
+
   /// The soonest-due active site. Raises OverflowError when its id does not fit 16 bits, or its check interval 32.
   MinWaitTime getMinWaitTime();
 

@@ -54,6 +54,7 @@ void RunController::startChecking() {
   // What was left of the countdown at the last Stop says nothing about the sites that are tested now.
   secondsToNext_ = 0;
   backOff_ = {};
+  somethingWasLeft_ = false;
   runTestPass(kAllActiveSites);
 }
 
@@ -69,14 +70,21 @@ void RunController::runTestPass(std::int16_t mode) {
   if (busy_) {
     return;
   }
+  const bool takesWhatWasLeft = std::exchange(somethingWasLeft_, false) && mode == kDueSites;
   try {
     TestPass pass(*this, needs_, busy_);
-    pass.test(mode);
+    if (takesWhatWasLeft) {
+      pass.test(needs_.dueSites.getSitesDueOrNeverChecked());
+    } else {
+      pass.test(mode);
+    }
     backOff_ = {};
   } catch (const OverflowError&) {
-    throw;  // one site's fault; the checks themselves have been recorded
+    backOff_ = {};  // the checks themselves have been recorded
+    throw;
   } catch (...) {
     backOff_.passFailed();
+    somethingWasLeft_ = true;
     throw;
   }
 }
@@ -105,7 +113,16 @@ void RunController::recordResult(std::int16_t idSite, bool result) {
   if (!result) {
     needs_.alerts.sendAlerts(idSite);
   }
-  needs_.results.updateStatusCounter(idSite, result);
+  countResult(idSite, result);
+}
+
+void RunController::countResult(std::int16_t idSite, bool result) {
+  try {
+    needs_.results.updateStatusCounter(idSite, result);
+  } catch (const OverflowError&) {
+    needs_.view.updateGridRow(idSite, result);
+    throw;
+  }
   needs_.view.updateGridRow(idSite, result);
 }
 
@@ -117,6 +134,9 @@ void RunController::guardedTick() {
       due = countDown();
     } catch (const OverflowError&) {
       due = true;  // the fault of one site; the others are tested all the same
+      throw;
+    } catch (const DataAccessError&) {
+      somethingWasLeft_ = true;  // the file may be another one afterwards
       throw;
     }
   });

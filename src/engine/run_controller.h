@@ -58,6 +58,9 @@ class RunController {
   bool testOnce(TextTable sites);
   /// Stores one judged result, raises the alerts of a failure and repaints the site's row.
   void recordResult(std::int16_t idSite, bool result);
+  /// The end of that: counts a result and repaints the site's row. Raises OverflowError, with the row repainted, when
+  /// the counter is full.
+  void countResult(std::int16_t idSite, bool result);
 
   /// Shows caption and site list afresh and has the countdown asked again. A pass in progress is left alone.
   void init();
@@ -115,6 +118,9 @@ class RunController {
   // The wall clock less the one that only goes forward.
   std::chrono::seconds clockOffset_{0};
   BackOff backOff_;
+  // A fault has ended a pass, perhaps that of Start: sites may be left that were never checked. Those are never due,
+  // and would not be watched before the next Start.
+  bool somethingWasLeft_ = false;
 };
 
 }  // namespace tarnwick

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <exception>
 #include <new>
+#include <stdexcept>
 #include <utility>
 
+#include "alerts/alert_dispatch.h"
 #include "engine/due_sites.h"
 #include "engine/page_fetch.h"
 #include "engine/result_recording.h"
@@ -49,7 +51,11 @@ TestPass::~TestPass() {
       // elsewhere, and the lamps come after.
     }
   }
-  needs_.view.indicators(run_.running() ? RunState::pause : RunState::stop);
+  try {
+    needs_.view.indicators(run_.running() ? RunState::pause : RunState::stop);
+  } catch (const std::exception&) {
+    // As above: who shows that the pass has ended may read what there is to tell of it.
+  }
 }
 
 void TestPass::test(std::int16_t mode) { test(needs_.dueSites.getArraySitesActiveTrue(mode)); }
@@ -65,8 +71,17 @@ void TestPass::test(TextTable sites) {
   dispatchAll();
   awaitAllSlots();
   drain();
-  if (putOff_ && !stopped()) {
-    std::rethrow_exception(putOff_);
+  if (!stopped()) {
+    raisePutOff();
+  }
+}
+
+// A full counter costs nothing that has to be done again; a result that could not be recorded must not hide behind it.
+void TestPass::raisePutOff() const {
+  for (const std::exception_ptr& fault : {putOff_, overflow_}) {
+    if (fault) {
+      std::rethrow_exception(fault);
+    }
   }
 }
 
@@ -128,7 +143,7 @@ bool TestPass::hasUsableId(std::size_t row) {
     idSite(row);
     return true;
   } catch (const OverflowError&) {
-    putOff(std::current_exception());
+    putOff(overflow_, std::current_exception());
     return false;
   }
 }
@@ -171,7 +186,12 @@ void TestPass::judge(std::int16_t slot) {
   }
   pool.saveSocketData(slot);
   const std::size_t row = pool.socketRow(slot);
-  record(row, pool.siteContent(row), pool.siteErrCode(row), pool.siteErrDescription(row));
+  if (pool.siteErrCode(row) == static_cast<std::int32_t>(TransferFault::shortage)) {
+    // The request was not even made, so nothing is known of the site. It is due as before.
+    putOff(putOff_, std::make_exception_ptr(std::runtime_error(pool.siteErrDescription(row))));
+  } else {
+    record(row, pool.siteContent(row), pool.siteErrCode(row), pool.siteErrDescription(row));
+  }
   pool.releaseSiteContent(row);
   pool.setSocketDone(slot, false);
 }
@@ -196,10 +216,10 @@ void TestPass::putOffUnlessGeneral() {
   } catch (const std::exception&) {
     std::rethrow_exception(fault);
   }
-  putOff(fault);
+  putOff(putOff_, fault);
 }
 
-void TestPass::putOff(const std::exception_ptr& fault) { putOff_ = putOff_ ? putOff_ : fault; }
+void TestPass::putOff(std::exception_ptr& first, const std::exception_ptr& fault) { first = first ? first : fault; }
 
 void TestPass::recordResult(std::size_t row, const std::string& content, std::int32_t errCode,
                             const std::string& errDescription) {
@@ -209,24 +229,30 @@ void TestPass::recordResult(std::size_t row, const std::string& content, std::in
     return;
   }
   const bool passed = needs_.results.testSite(id, content, errCode, errDescription);
+  needs_.results.setStatus(id, passed);
   if (passed) {
-    try {
-      run_.recordResult(id, true);
-    } catch (const OverflowError&) {
-      // A full counter is no reason to forget the check itself: the site would be due again at once.
-      whole.commit();
-      throw;
-    }
+    countResult(id, true);
     whole.commit();
   } else {
     // The alerts of a failure wait for the network, so they cannot be part of the transaction. The site is down from
-    // here on, whatever becomes of them.
-    needs_.results.setStatus(id, false);
+    // here on, whatever becomes of them; and nothing is written before them that could fail and leave them out.
     whole.commit();
-    run_.recordResult(id, false);
+    needs_.alerts.sendAlerts(id);
+    if (stillAsSelected(row)) {  // they take events in, too
+      countResult(id, false);
+    }
   }
   std::erase(brightened_, id);
   needs_.view.showResult({id, url(row), passed, errCode, errDescription, content});
+}
+
+// A full counter is no reason to forget the check itself, or the sites behind this one.
+void TestPass::countResult(std::int16_t id, bool passed) {
+  try {
+    run_.countResult(id, passed);
+  } catch (const OverflowError&) {
+    putOff(overflow_, std::current_exception());
+  }
 }
 
 // While it was fetched a site may have been deleted, its id given to a new one, or its address been changed: the page

@@ -22,8 +22,8 @@ class TestPass {
   TestPass& operator=(const TestPass&) = delete;
 
   /// Tests the sites of `mode`, or those of a site table; returns early when the run is stopped. Raises,
-  /// after all others have been tested, OverflowError when a site's id does not fit 16 bits, and the fault that kept
-  /// the result of one site from being recorded while those of others could be.
+  /// after all others have been tested, the fault that kept one site from being fetched, or its result from being
+  /// recorded, while others could be; else OverflowError when an id does not fit 16 bits or a counter was full.
   void test(std::int16_t mode);
   void test(TextTable sites);
 
@@ -44,7 +44,9 @@ class TestPass {
   void recordResult(std::size_t row, const std::string& content, std::int32_t errCode,
                     const std::string& errDescription);
   void putOffUnlessGeneral();
-  void putOff(const std::exception_ptr& fault);
+  void countResult(std::int16_t id, bool passed);
+  static void putOff(std::exception_ptr& first, const std::exception_ptr& fault);
+  void raisePutOff() const;
   bool stillAsSelected(std::size_t row) const;
   void nextRow();
   void showProgress();
@@ -59,8 +61,10 @@ class TestPass {
   TextTable sites_;
   std::vector<std::string> urls_;
   std::vector<std::int16_t> brightened_;
-  // The first fault that concerns one site alone, told when the others have been tested.
+  // The first faults that concern one site alone, told when the others have been tested: one that left its check to be
+  // done again, and one that did not.
   std::exception_ptr putOff_;
+  std::exception_ptr overflow_;
   std::size_t next_ = 1;
   std::int64_t progressStep_ = 0;
   std::int64_t progressWidth_ = -1;

@@ -218,7 +218,7 @@ void CurlEventLoop::giveBackTimeAway() {
     return;
   }
   for (auto& [easy, transfer] : transfers_) {
-    transfer.clock.giveBack(away);
+    transfer.clock.giveBack(away, now);
     boundWaitsInside(easy, transfer.clock.allowed());
   }
   armBeat(now);

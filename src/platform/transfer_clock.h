@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace tarnwick {
 
 /// How long one transfer may still take. What the program did elsewhere meanwhile is given back to it, at most once the
-/// time-out again, so that a busy program makes no healthy site late and no silent one endless.
+/// time-out again, so that a busy program makes no healthy site late and no silent one endless. After an absence of any
+/// length there is still time to read what has come meanwhile.
 class TransferClock {
  public:
   using Moment = std::chrono::steady_clock::time_point;
@@ -14,10 +16,12 @@ class TransferClock {
 
   TransferClock(Moment start, Span timeout) : timeout_(timeout), deadline_(start + timeout) {}
 
-  void giveBack(Span away) {
-    const Span more = std::min(away, timeout_ - given_);
-    given_ += more;
-    deadline_ += more;
+  /// The program has been `away` until `now`.
+  void giveBack(Span away, Moment now) {
+    constexpr Span kToReadWhatHasCome{300};
+    const Span more = std::clamp(timeout_ - given_, Span{0}, away);
+    const Moment before = std::exchange(deadline_, std::max(deadline_ + more, now + kToReadWhatHasCome));
+    given_ += std::chrono::ceil<Span>(deadline_ - before);
   }
 
   bool overdueAt(Moment now) const { return now >= deadline_; }

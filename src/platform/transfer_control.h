@@ -28,6 +28,8 @@ inline constexpr int responseCompleted = 12;
 enum class TransferFault : long {
   none = 0,
   other = 1,
+  /// This machine had no memory or no file handle left for the request, which says nothing about the server.
+  shortage = 2,
   badUrl = 3,
   badMethod = 4,
   nameLookup = 6,

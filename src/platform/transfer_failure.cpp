@@ -218,6 +218,6 @@ TransferFailure badMethod(const std::string& method) {
   return {TransferFault::badMethod, "The method " + quotable(method) + " is not valid."};
 }
 
-TransferFailure noMemory() { return {TransferFault::other, "There is not enough memory for the page."}; }
+TransferFailure noMemory() { return {TransferFault::shortage, "There is not enough memory for the page."}; }
 
 }  // namespace tarnwick

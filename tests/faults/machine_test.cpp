@@ -36,6 +36,24 @@ TEST(RealFaults, FilesThatMayNotGrowAreToldOnceAndTheRunGoesOn) {
       });
 }
 
+TEST(RealFaults, ALackOfFileHandlesIsToldOnceAndNoSiteIsTakenForDown) {
+  const UsedFolder used;
+  std::unique_ptr<ResourceLimit> limit;
+  expectThatARunOutlives(
+      used,
+      [&](RunningProgram& running) {
+        running.program.data().getControl("timeout");  // with the files of the database open
+        constexpr rlim_t kLockOfTheRun = 1;
+        limit = std::make_unique<ResourceLimit>(RLIMIT_NOFILE, filesOpen() + kLockOfTheRun);
+      },
+      5,
+      [&](RunningProgram& running) {
+        limit.reset();
+        EXPECT_EQ(running.boxes(), 1u);
+        EXPECT_THAT(running.boxTexts(), HasSubstr("no more file handles"));
+      });
+}
+
 /// A small disk of its own, on which the temporary folders of the tests lie meanwhile.
 class SmallDisk {
  public:

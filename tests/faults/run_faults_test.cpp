@@ -56,6 +56,60 @@ TEST_F(RunFaults, AFaultThatOnlyPagesMeetHasThemFetchedMoreAndMoreRarely) {
   used.expectAllRecordedOnce(running.boxTexts());
 }
 
+TEST_F(RunFaults, SitesNeverCheckedAreCheckedOnceTheFaultOfTheFirstPassIsOver) {
+  used.folder.execute("update sites set lastChecked = null");
+  RunningProgram running(used);
+  disk.failAt(FaultyDisk::Operation::write, FaultyDisk::Failure::full, 1, FaultyDisk::kForEver);
+  running.program.startRun();
+  running.letPass(minutes(2));
+  disk.heal();
+  running.letPass(seconds(62));
+  used.expectAllRecordedOnce(running.boxTexts());
+  EXPECT_THAT(running.machine.prompts.texts(), SizeIs(1));
+}
+
+TEST_F(RunFaults, ASiteThatIsNewInAFileExchangedDuringTheRunIsChecked) {
+  RunningProgram running(used);
+  running.program.startRun();
+  used.folder.execute("update sites set lastChecked = null where idSite = 1");
+  running.databases.watch.before = [&](std::string_view statement) {
+    if (statement.starts_with("SELECT TOP 1")) {
+      running.databases.watch.before = {};
+      throw DataAccessError("The test says that the file is another one.", "");
+    }
+  };
+  running.letPass(seconds(3));
+  EXPECT_EQ(used.recorded(1, true), 2) << running.boxTexts();
+  EXPECT_EQ(used.recorded(2, true), 1) << running.boxTexts();
+}
+
+TEST_F(RunFaults, AFullCounterKeepsNoOtherSiteFromBeingChecked) {
+  used.folder.execute("update sites set success = 32767, lastChecked = null where idSite = 1");
+  RunningProgram running(used);
+  EXPECT_FALSE(running.program.startRun());
+  for (const int id : {1, 2, 3}) {
+    EXPECT_EQ(used.recorded(id, true), 1) << "site " << id;
+  }
+  EXPECT_EQ(used.recorded(4, false), 1);
+  EXPECT_THAT(running.boxTexts(), HasSubstr("32767"));
+  EXPECT_THAT(running.view.judged, SizeIs(kSites)) << "each is shown";
+}
+
+TEST_F(RunFaults, ATimersFaultDoesNotHoldUpThePassInWhichItIsMet) {
+  RunningProgram running(used);
+  std::size_t boxesInThePass = 0;
+  used.server.handle("/up", [&](const HttpRequest&) {
+    running.program.faults().runRepeated("report", [] { throw DataAccessError("No report could be made.", ""); });
+    boxesInThePass = running.boxes();
+    return HttpResponse{.body = "a page that stays"};
+  });
+  EXPECT_TRUE(running.program.startRun());
+  EXPECT_EQ(boxesInThePass, 0U);
+  used.expectAllRecordedOnce("");
+  running.letPass(seconds(1));
+  EXPECT_THAT(running.boxTexts(), HasSubstr("No report could be made."));
+}
+
 TEST_F(RunFaults, AStartAfterAStopTriesAtOnce) {
   RunningProgram running(used);
   disk.failAt(FaultyDisk::Operation::write, FaultyDisk::Failure::broken, 1, FaultyDisk::kForEver);

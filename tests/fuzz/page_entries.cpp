@@ -89,7 +89,7 @@ struct Fields {
   }
 
   void addLength(std::string length) {
-    static const std::string largest = std::to_string(std::numeric_limits<std::size_t>::max());
+    static const std::string largest = std::to_string(std::numeric_limits<std::int64_t>::max());
     if (length.empty() || !std::ranges::all_of(length, isDigit)) {
       unclear = true;
       return;

@@ -69,6 +69,10 @@ TEST_F(TransferWhileBusy, ASilentServerIsGivenTheTimeBackOnlyOnce) {
   EXPECT_LT(taken, 2 * kTimeout + milliseconds{1500});
 }
 
+TEST_F(TransferWhileBusy, AnAnswerThatLiesThereIsTakenThoughTheProgramStoodStillForLong) {
+  EXPECT_EQ(fetchWithBusyTimes("/slow", transfer_state::requesting, 1, 3 * kTimeout), "hello") << probe_.cause();
+}
+
 TEST_F(TransferWhileBusy, ASilentServerIsEndedInTimeWhenNobodyWasBusy) {
   const auto start = steady_clock::now();
   EXPECT_EQ(probe_.fetch(server_.url("/silent")), "");
@@ -83,12 +87,22 @@ TEST(TransferClock, GivesBackAtMostTheTimeOutAgain) {
   TransferClock clock(start, seconds{3});
   EXPECT_FALSE(clock.overdueAt(start + milliseconds{2999}));
   EXPECT_TRUE(clock.overdueAt(start + seconds{3}));
-  clock.giveBack(seconds{2});
+  clock.giveBack(seconds{2}, start + seconds{2});
   EXPECT_EQ(clock.deadline(), start + seconds{5});
-  clock.giveBack(seconds{2});
-  clock.giveBack(seconds{2});
+  clock.giveBack(seconds{2}, start + seconds{4});
+  clock.giveBack(seconds{1}, start + seconds{5});
   EXPECT_EQ(clock.deadline(), start + seconds{6});
   EXPECT_EQ(clock.allowed(), seconds{6});
+}
+
+TEST(TransferClock, LeavesTimeToReadWhatHasComeAfterAnAbsenceOfAnyLength) {
+  const TransferClock::Moment start{};
+  TransferClock clock(start, seconds{3});
+  const TransferClock::Moment back = start + seconds{100};
+  clock.giveBack(seconds{99}, back);
+  EXPECT_FALSE(clock.overdueAt(back + milliseconds{200}));
+  EXPECT_TRUE(clock.overdueAt(back + milliseconds{500}));
+  EXPECT_GE(start + clock.allowed(), clock.deadline());
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 // A machine that gives the program no more files: no fault of any server.
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "platform/curl_transfers.h"
 #include "support/http_server.h"
@@ -10,13 +8,6 @@
 
 namespace tarnwick::testing {
 namespace {
-
-/// The number of files from which on this process can open nothing more.
-rlim_t filesOpen() {
-  const int lowestFree = dup(0);
-  close(lowestFree);
-  return static_cast<rlim_t>(lowestFree);
-}
 
 TEST(TransferShortage, OfFileHandlesIsToldAsSuch) {
   HttpServer server;
@@ -27,7 +18,7 @@ TEST(TransferShortage, OfFileHandlesIsToldAsSuch) {
   for (const std::string host : {"127.0.0.1", "[::1]", "localhost"}) {
     const ResourceLimit noMore(RLIMIT_NOFILE, filesOpen());
     EXPECT_EQ(probe.fetch(server.url("/a", host)), "");
-    EXPECT_EQ(probe.fault(), TransferFault::other) << host;
+    EXPECT_EQ(probe.fault(), TransferFault::shortage) << host;
     EXPECT_EQ(probe.cause(), "This machine has no more file handles for Tarnwick.") << host;
   }
   EXPECT_EQ(probe.fetch(server.url("/a")), "hello") << "and the next one is well";

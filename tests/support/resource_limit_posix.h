@@ -1,6 +1,7 @@
 #pragma once
 
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace tarnwick::testing {
 
@@ -21,5 +22,12 @@ class ResourceLimit {
   int resource_;
   rlimit before_{};
 };
+
+/// The number of files from which on this process can open nothing more.
+inline rlim_t filesOpen() {
+  const int lowestFree = ::dup(0);
+  ::close(lowestFree);
+  return static_cast<rlim_t>(lowestFree);
+}
 
 }  // namespace tarnwick::testing
