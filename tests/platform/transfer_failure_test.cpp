@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <QtGlobal>
 
 #include "platform/curl_transfers.h"
 #include "support/ftp_server.h"
@@ -364,7 +365,7 @@ TEST(TransferFailureWords, ProxyThatMakesNoWay) {
 }
 
 TEST(TransferFailureWords, ProxyThatDoesNotAnswer) {
-  ::setenv("ftp_proxy", "http://10.0.0.1:3128/", 1);
+  qputenv("ftp_proxy", "http://10.0.0.1:3128/");
   const auto causeOf = [](const std::string& asked) {
     return failureOf({.result = CURLE_COULDNT_CONNECT,
                       .detail = "Failed to connect to " + asked + " after 0 ms: Couldn't connect to server",
@@ -374,7 +375,7 @@ TEST(TransferFailureWords, ProxyThatDoesNotAnswer) {
   };
   EXPECT_EQ(causeOf("10.0.0.1 port 3128"), "No connection to the proxy server 10.0.0.1 port 3128 could be made.");
   EXPECT_EQ(causeOf("example.test port 21"), "The connection to example.test port 21 was refused.");
-  ::unsetenv("ftp_proxy");
+  qunsetenv("ftp_proxy");
 }
 
 TEST(TransferFailureWords, FileTransferThatARedirectLedToAndThatIsNotThere) {

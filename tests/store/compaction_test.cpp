@@ -36,7 +36,12 @@ TEST_F(CompactionTest, ALinkToTheDatabaseStaysOne) {
   database.close();
   const ProgramFolder elsewhere;
   fs::rename(folder.databasePath(), elsewhere.file("list.mdb"));
-  fs::create_symlink(elsewhere.file("list.mdb"), folder.databasePath());
+  std::error_code fault;
+  fs::create_symlink(elsewhere.file("list.mdb"), folder.databasePath(), fault);
+  if (fault) {
+    fs::rename(elsewhere.file("list.mdb"), folder.databasePath());
+    GTEST_SKIP() << "Here no link can be made: " << fault.message();
+  }
   const auto before = fs::file_size(elsewhere.file("list.mdb"));
   database.reopen();
   EXPECT_TRUE(compaction.compact());
