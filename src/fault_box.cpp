@@ -12,7 +12,13 @@ namespace {
 struct Description {
   std::string message;
   std::string fault;
+  /// A number that is too large for the program, in a record of the database, is there until somebody changes it, also
+  /// when an action that does not come across it succeeds.
+  bool isLasting = false;
 };
+
+/// Whom lasting faults are noted under: no repeated action bears this name.
+constexpr const char* kNobody = "";
 
 /// The same text for the same fault: ids, counts and times differ from tick to tick and make no other fault of it.
 std::string withoutNumbers(std::string text) {
@@ -26,6 +32,8 @@ Description describeCurrentException() {
     throw;
   } catch (const DataAccessError& error) {
     return {error.what(), withoutNumbers(error.cause())};
+  } catch (const OverflowError& error) {
+    return {error.what(), withoutNumbers(error.what()), true};
   } catch (const std::bad_alloc&) {
     return {kNotEnoughMemory, kNotEnoughMemory};
   } catch (const std::exception& error) {
@@ -38,11 +46,14 @@ Description describeCurrentException() {
 bool FaultBox::run(const std::function<void()>& action, const std::string& source) {
   try {
     action();
+    if (!source.empty()) {
+      std::erase_if(standing_, [](const Fault& fault) { return fault.source == kNobody; });
+    }
     return true;
   } catch (...) {
     const Description description = describeCurrentException();
     if (!source.empty()) {
-      standing_.insert({source, description.fault});
+      standing_.insert({description.isLasting ? kNobody : source, description.fault});
     }
     show(description.message);
     return false;
@@ -58,7 +69,7 @@ bool FaultBox::runRepeated(const std::string& source, const std::function<void()
     succeeded = false;
     const Description description = describeCurrentException();
     if (open_ == 0 && !isStanding(description.fault)) {
-      standing_.insert({source, description.fault});
+      standing_.insert({description.isLasting ? kNobody : source, description.fault});
       waiting_.push_back(description.message);
     }
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <new>
+#include <utility>
 
 #include "alerts/response_body.h"
 #include "platform/errors.h"
@@ -113,7 +114,6 @@ void InetPool::testInetConnection() {
 void InetPool::assignRow(std::int16_t slot, std::size_t row) {
   Slot& assigned = at(slot);
   assigned.row = row;
-  assigned.text.clear();
   assigned.errCode = 0;
   assigned.errDescription.clear();
   assigned.done = false;
@@ -122,8 +122,7 @@ void InetPool::assignRow(std::int16_t slot, std::size_t row) {
 void InetPool::saveSocketData(std::int16_t slot) {
   Slot& finished = at(slot);
   Row& row = rows_.at(finished.row);
-  row.content = std::move(finished.text);
-  finished.text.clear();
+  row.content = std::exchange(finished.text, {});
   row.errCode = static_cast<std::int32_t>(finished.errCode);
   row.errDescription = finished.errDescription;
 }

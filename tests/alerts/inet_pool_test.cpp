@@ -135,6 +135,36 @@ TEST_F(InetPoolTest, ASweepLeavesAControlThatStillExecutesAlone) {
   EXPECT_THAT(pool.getAryFreeSockets(), IsEmpty());
 }
 
+TEST_F(InetPoolTest, NothingOfAnEarlierPassIsLeftInAPoolSetUpAnew) {
+  server.respond("/a", {.body = "hello"});
+  pool.initSockets(urls(1));
+  pool.tmrInet().setEnabled(true);
+  request(1, 1, "/a");
+  ASSERT_TRUE(waitUntil([&] { return pool.socketDone(1); }));
+  pool.initSockets(urls(1));
+  EXPECT_FALSE(pool.socketDone(1));
+  EXPECT_FALSE(pool.tmrInet().enabled());
+}
+
+TEST_F(InetPoolTest, TheNextRowOfASlotHasNothingOfTheOneBefore) {
+  server.respond("/a", {.body = "hello"});
+  pool.initSockets(urls(2));
+  request(1, 1, "/a");
+  pool.inet(1).cancel();
+  pool.inet(1).setUrl("no such kind://host/");
+  pool.inet(1).execute("GET", "", "");
+  ASSERT_TRUE(waitUntil([&] { return pool.socketDone(1); }));
+  pool.saveSocketData(1);
+  EXPECT_NE(pool.siteErrDescription(1), "");
+  pool.testInetConnection();
+  request(1, 2, "/a");
+  ASSERT_TRUE(waitUntil([&] { return pool.socketDone(1); }));
+  pool.saveSocketData(1);
+  EXPECT_EQ(pool.siteContent(2), "hello");
+  EXPECT_EQ(pool.siteErrCode(2), 0);
+  EXPECT_EQ(pool.siteErrDescription(2), "");
+}
+
 TEST_F(InetPoolTest, SavesThePageForItsRow) {
   const std::string page = std::string("a\0b\xFF", 4) + std::string(200000, 'x');
   server.respond("/a", {.body = page});

@@ -111,7 +111,7 @@ INSTANTIATE_TEST_SUITE_P(Any, TooLargeACode,
                          ::testing::Values("32768 no", "-32769 no", "65786 would wrap to 250",
                                            "99999999999999999999 no", "1e9 no", "1e999 no",
                                            "1" + kManyZeros + "e-20 no", "-1" + kManyZeros + " no",
-                                           "0.1e99999999999999999999 no"));
+                                           "0.1e99999999999999999999 no", "0.1e+999 no"));
 
 }  // namespace
 }  // namespace tarnwick

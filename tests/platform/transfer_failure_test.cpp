@@ -5,7 +5,7 @@
 
 #include <cerrno>
 #include <chrono>
-#include <QtGlobal>
+#include <QByteArray>
 
 #include "platform/curl_transfers.h"
 #include "support/ftp_server.h"
@@ -365,7 +365,7 @@ TEST(TransferFailureWords, ProxyThatMakesNoWay) {
 }
 
 TEST(TransferFailureWords, ProxyThatDoesNotAnswer) {
-  qputenv("ftp_proxy", "http://10.0.0.1:3128/");
+  qputenv("ftp_proxy", QByteArrayLiteral("http://10.0.0.1:3128/"));
   const auto causeOf = [](const std::string& asked) {
     return failureOf({.result = CURLE_COULDNT_CONNECT,
                       .detail = "Failed to connect to " + asked + " after 0 ms: Couldn't connect to server",

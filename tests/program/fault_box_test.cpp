@@ -58,6 +58,23 @@ TEST_F(FaultBoxTest, AFaultThatComesBackAfterASuccessIsToldAgain) {
   EXPECT_THAT(prompts.texts(), SizeIs(2));
 }
 
+TEST_F(FaultBoxTest, ANumberThatIsTooLargeIsNotToldAgainBecauseOthersWereFitMeanwhile) {
+  const auto tick = [&](bool fit) {
+    return box.runRepeated("run", [&] {
+      if (!fit) {
+        throw OverflowError("The counter of site 1 is full.");
+      }
+    });
+  };
+  EXPECT_FALSE(tick(false));
+  EXPECT_TRUE(tick(true));
+  EXPECT_FALSE(tick(false));
+  EXPECT_THAT(prompts.texts(), SizeIs(1));
+  EXPECT_TRUE(box.run([] {}, "run")) << "a Start that meets it no more";
+  EXPECT_FALSE(tick(false));
+  EXPECT_THAT(prompts.texts(), SizeIs(2));
+}
+
 TEST_F(FaultBoxTest, AnotherFaultOfTheSameTimerIsTold) {
   box.runRepeated("tick", [] { fail("locked"); });
   box.runRepeated("tick", [] { fail("disk full"); });
