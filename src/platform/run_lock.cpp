@@ -46,6 +46,17 @@ bool tryToTake(QLockFile& lock) {
          lock.removeStaleLockFile() && lock.tryLock(0);
 }
 
+/// Removes what a process leaves that is killed while it takes over the lock of another one that was killed.
+void removeLeftTakeOvers(const QString& path) {
+  for (const char* ending : {".rmlock.rmlock", ".rmlock"}) {
+    const QString left = path + QLatin1String(ending);
+    if (QFile::exists(left)) {
+      QLockFile takeOver(left);
+      tryToTake(takeOver);  // and removed at the end of its life, unless a living process is just at it
+    }
+  }
+}
+
 }  // namespace
 
 struct RunLock::File {
@@ -68,6 +79,7 @@ void RunLock::take() {
   if (tryToTake(file->lock)) {
     // Whoever could write it could let a second run in.
     QFile::setPermissions(QString::fromStdString(path), QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    removeLeftTakeOvers(QString::fromStdString(path));
     file_ = std::move(file);
     return;
   }

@@ -72,6 +72,16 @@ TEST_F(RunLockTest, DoesNotCountWhatAProcessThatIsGoneLeft) {
   EXPECT_EQ(refusalOfSecond(), "taken");
 }
 
+TEST_F(RunLockTest, RemovesWhatAProcessLeavesThatIsKilledWhileItTakesOverALock) {
+  for (const char* left : {"tarnwick.lock.rmlock", "tarnwick.lock.rmlock.rmlock"}) {
+    std::ofstream(folder.file(left)).flush();
+    first.take();
+    EXPECT_FALSE(std::filesystem::exists(folder.file(left))) << left;
+    EXPECT_THROW(second.take(), std::runtime_error);
+    first.release();
+  }
+}
+
 TEST_F(RunLockTest, DoesNotCountAFileWithoutANameAsAProcessLeavesThatIsKilledWhileItMakesIt) {
   std::ofstream(folder.file("tarnwick.lock")).flush();
   EXPECT_EQ(refusalOfSecond(), "taken");
