@@ -133,7 +133,7 @@ void RunTerminal::forgetWhatIsNotWatched() {
   std::erase_if(known_, [&watched](const auto& site) { return !watched.contains(site.first); });
 }
 
-void RunTerminal::tell(const std::string& text, const char* event, Json details) {
+void RunTerminal::tell(const std::string& text, const char* event, const Json& details) {
   const std::string now = dateTimeText(clock_.localNow());
   if (style_.json) {
     Json line{{"time", now}, {"event", event}};

@@ -270,7 +270,7 @@ void SqliteDatabase::fail(std::string_view sql) const {
     default:
       break;
   }
-  throw error;
+  throw DataAccessError(error);
 }
 
 void SqliteDatabase::keep(SqliteStatement statement) noexcept {

@@ -4,6 +4,7 @@
 #include <bit>
 #include <cmath>
 #include <functional>
+#include <ranges>
 
 #include "platform/errors.h"
 #include "platform/file_access.h"
@@ -27,8 +28,8 @@ struct Format {
 /// The little-endian number in up to eight bytes.
 std::uint64_t number(std::string_view bytes) {
   std::uint64_t value = 0;
-  for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte) {
-    value = value << 8 | static_cast<unsigned char>(*byte);
+  for (const char byte : std::views::reverse(bytes)) {
+    value = value << 8 | static_cast<unsigned char>(byte);
   }
   return value;
 }

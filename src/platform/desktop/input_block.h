@@ -22,7 +22,8 @@ class InputBlock final : public QObject {
  private:
   bool isBlocked(QObject* object) const;
 
-  QPointer<QDialog> front_;
+  // Asked for while it is being taken apart, too, when it is no dialog any more.
+  QPointer<QWidget> front_;
   Blocked blocked_;
 };
 
