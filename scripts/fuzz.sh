@@ -37,6 +37,8 @@ if ((${#targets[@]} == 0)); then
   targets=("${all[@]}")
 fi
 side_by_side=${together:+${#targets[@]}}
+# By the clock, which goes on while dozens wait for a processor.
+longest=$((${together:-0} * 3480 + 120))
 for target in "${targets[@]}"; do
   if ! [[ -d tests/fuzz/corpus/$target ]]; then
     echo "There is no target $target. The targets are: ${all[*]}" >&2
@@ -58,7 +60,7 @@ fuzz() {
   local target=$1 from=$SECONDS status=0 log=build/fuzz/$1.log runs used
   mkdir -p "$learnt/$target"
   local TIMEFORMAT=%U
-  used=$({ time nice -n 19 "build/fuzz/tests/fuzz/libfuzzer/fuzz_$target" -max_total_time="$seconds" -timeout=120 \
+  used=$({ time nice -n 19 "build/fuzz/tests/fuzz/libfuzzer/fuzz_$target" -max_total_time="$seconds" -timeout="$longest" \
     -print_final_stats=1 -artifact_prefix="$findings/$target-" "$learnt/$target" "tests/fuzz/corpus/$target" \
     >"$log" 2>&1; } 2>&1) || status=$?
   runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
@@ -71,7 +73,7 @@ fuzz() {
   return "$status"
 }
 export -f fuzz
-export findings learnt seconds
+export findings learnt seconds longest
 
 # A smaller quarantine of freed memory: dozens of fuzzers may run side by side.
 export ASAN_OPTIONS=${ASAN_OPTIONS:-quarantine_size_mb=16}
