@@ -129,8 +129,7 @@ std::optional<TransferFailure> failureToAnswer(const TransferEnd& end, const Ask
       return badTrailer(server);
     case CURLE_GOT_NOTHING:
       return withoutAnswer(server);
-    case CURLE_SEND_ERROR:
-      return TransferFailure{TransferFault::dropped, "The request could not be sent to " + server.place + "."};
+    case CURLE_SEND_ERROR:  // whether the request or its answer meets a server that hangs up is a matter of chance
     case CURLE_RECV_ERROR:
     case CURLE_PARTIAL_FILE:
       return cutShort(server, end);
