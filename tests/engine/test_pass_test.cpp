@@ -42,6 +42,7 @@ TEST_F(TestPassTest, TheFirstCheckAdoptsThePageAndIsUp) {
   EXPECT_EQ(column(id, "success"), "1");
   EXPECT_EQ(column(id, "lastChecked"), dateTimeText(machine.handClock.localNow()));
   EXPECT_THAT(view.judged, ElementsAre(Pair(id, true)));
+  EXPECT_THAT(view.results, ElementsAre(Pair(id, true)));
 }
 
 TEST_F(TestPassTest, AChangedPageIsDown) {
@@ -286,6 +287,7 @@ TEST_F(TestPassTest, ASiteDeletedWhileItIsFetchedChangesNothing) {
   const std::int16_t other = addPage("/b", "b");
   run().startChecking();
   EXPECT_EQ(folder.queryText("select count(*) from sites"), "1");
+  EXPECT_EQ(folder.queryText("select count(*) from log"), "1");
   EXPECT_EQ(column(other, "success"), "1");
 }
 

@@ -24,7 +24,7 @@ from pathlib import Path
 SUBJECTS = {
     "src/engine/result_recording.cpp": ("engine", "program"),
     "src/engine/due_sites.cpp": ("engine", "program"),
-    "src/engine/test_pass.cpp": ("engine", "program"),
+    "src/engine/test_pass.cpp": ("engine", "program", "faults"),
     "src/alerts/inet_pool.cpp": ("alerts", "engine"),
     "src/alerts/smtp.cpp": ("alerts",),
     "src/alerts/mail_socket.cpp": ("alerts",),

@@ -34,6 +34,7 @@ class RecordingView final : public RunView {
       onJudged(idSite);
     }
   }
+  void showResult(const CheckResult& result) override { results.emplace_back(result.idSite, result.passed); }
   void setLastChecked(std::int16_t idSite, const std::string& dateTime) override {
     lastChecked.emplace_back(idSite, dateTime);
   }
@@ -54,6 +55,7 @@ class RecordingView final : public RunView {
   std::vector<std::pair<std::int16_t, int>> brightened;
   std::vector<std::int16_t> unbrightened;
   std::vector<std::pair<std::int16_t, bool>> judged;
+  std::vector<std::pair<std::int16_t, bool>> results;
   std::vector<std::pair<std::int16_t, std::string>> lastChecked;
 
   /// Run inside the call that shows a status or a judged row, for tests of what happens in mid-pass.
