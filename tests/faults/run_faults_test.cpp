@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <new>
 #include <string>
 
 #include "faults/faults_fixture.h"
@@ -108,6 +109,22 @@ TEST_F(RunFaults, ATimersFaultDoesNotHoldUpThePassInWhichItIsMet) {
   used.expectAllRecordedOnce("");
   running.letPass(seconds(1));
   EXPECT_THAT(running.boxTexts(), HasSubstr("No report could be made."));
+}
+
+TEST_F(RunFaults, AResultThatFindsNoMemoryIsToldAndTheOthersAreRecorded) {
+  RunningProgram running(used);
+  running.databases.watch.before = [](std::string_view statement) {
+    if (statement.starts_with("update sites set content_runtime") &&
+        statement.size() > UsedFolder::largePage().size()) {
+      throw std::bad_alloc();
+    }
+  };
+  EXPECT_FALSE(running.program.startRun());
+  EXPECT_THAT(running.boxTexts(), HasSubstr("not enough memory"));
+  EXPECT_EQ(used.recorded(1, true), 1);
+  EXPECT_EQ(used.recorded(2, true), 0);
+  EXPECT_EQ(used.recorded(3, true), 1);
+  EXPECT_EQ(used.falseAlarms(), "");
 }
 
 TEST_F(RunFaults, AStartAfterAStopTriesAtOnce) {
