@@ -4,7 +4,7 @@
 #include <bit>
 #include <cmath>
 #include <functional>
-#include <ranges>
+#include <numeric>
 
 #include "platform/errors.h"
 #include "platform/file_access.h"
@@ -27,11 +27,8 @@ struct Format {
 
 /// The little-endian number in up to eight bytes.
 std::uint64_t number(std::string_view bytes) {
-  std::uint64_t value = 0;
-  for (const char byte : std::views::reverse(bytes)) {
-    value = value << 8 | static_cast<unsigned char>(byte);
-  }
-  return value;
+  return std::accumulate(bytes.rbegin(), bytes.rend(), std::uint64_t{0},
+                         [](std::uint64_t value, char byte) { return value << 8 | static_cast<unsigned char>(byte); });
 }
 
 std::uint16_t number16(std::string_view bytes, std::size_t at) {
