@@ -40,6 +40,18 @@ TEST_F(RunFaults, SitesAreNotFetchedAgainAndAgainWhileNothingCanBeStored) {
   EXPECT_THAT(running.machine.prompts.texts(), SizeIs(1));
 }
 
+TEST_F(RunFaults, APassOfWhichNothingCanBeStoredEndsBeforeAllSitesAreFetched) {
+  constexpr int kMore = 40;
+  for (int site = 0; site < kMore; ++site) {
+    used.folder.execute("insert into sites (url,method,active,tInterval) values ('" + used.server.url("/up") +
+                        "','GET',1,10)");
+  }
+  RunningProgram running(used);
+  disk.failAt(FaultyDisk::Operation::write, FaultyDisk::Failure::full, 1, FaultyDisk::kForEver);
+  EXPECT_FALSE(running.program.startRun());
+  EXPECT_LT(requests(), kSites + kMore / 2);
+}
+
 TEST_F(RunFaults, AFaultThatOnlyPagesMeetHasThemFetchedMoreAndMoreRarely) {
   RunningProgram running(used);
   running.databases.watch.before = [](std::string_view statement) {
