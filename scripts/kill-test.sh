@@ -8,13 +8,9 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/lib/packages.sh
 source scripts/lib/build.sh
+source scripts/lib/help.sh
 
-case "${1:-}" in
-  -h | --help)
-    sed -n '2,6s/^# \{0,1\}//p' "$0"
-    exit 0
-    ;;
-esac
+help_if_asked "$@"
 
 need_packages "${build_packages[@]}" "${test_packages[@]}"
 configure release -DBUILD_TESTING=ON

@@ -8,6 +8,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/lib/packages.sh
 source scripts/lib/build.sh
+source scripts/lib/help.sh
 
 tests=OFF
 case "${1:-}" in
@@ -15,10 +16,7 @@ case "${1:-}" in
   --test)
     tests=ON
     ;;
-  -h | --help)
-    sed -n '2,6s/^# \{0,1\}//p' "$0"
-    exit 0
-    ;;
+  -h | --help) show_help ;;
   *)
     echo "scripts/package.sh does not know \"$1\"; see scripts/package.sh --help" >&2
     exit 2

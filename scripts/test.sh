@@ -8,6 +8,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/lib/packages.sh
 source scripts/lib/build.sh
+source scripts/lib/help.sh
 
 preset=release
 case "${1:-}" in
@@ -15,10 +16,7 @@ case "${1:-}" in
     preset=sanitize
     shift
     ;;
-  -h | --help)
-    sed -n '2,7s/^# \{0,1\}//p' "$0"
-    exit 0
-    ;;
+  -h | --help) show_help ;;
 esac
 
 need_packages "${build_packages[@]}" "${test_packages[@]}"

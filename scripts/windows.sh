@@ -13,6 +13,7 @@ cd "$(dirname "$0")/.."
 source scripts/lib/packages.sh
 source scripts/lib/build.sh
 source scripts/lib/windows.sh
+source scripts/lib/help.sh
 
 part=program
 test=
@@ -27,10 +28,7 @@ while (($# > 0)); do
       windows_cache=${2:?"--libraries needs a folder"}
       shift
       ;;
-    -h | --help)
-      sed -n '2,10s/^# \{0,1\}//p' "$0"
-      exit 0
-      ;;
+    -h | --help) show_help ;;
     *)
       echo "There is no option $1; see scripts/windows.sh --help." >&2
       exit 2
