@@ -129,7 +129,8 @@ std::optional<HttpRequest> takeRequest(std::string& buffer) {
     return std::nullopt;
   }
   request.body = buffer.substr(headEnd + 4, bodySize);
-  buffer.erase(0, headEnd + 4 + bodySize);
+  request.wire = buffer.substr(0, headEnd + 4 + bodySize);
+  buffer.erase(0, request.wire.size());
   return request;
 }
 

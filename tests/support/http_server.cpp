@@ -97,7 +97,7 @@ class HttpServer::Impl {
       }
     };
     if (response.hold) {
-      held_.push_back(std::move(answer));
+      held_.push_back({QPointer(socket), request.target, std::move(answer)});
     } else if (response.delay.count() > 0) {
       QTimer::singleShot(response.delay, &context_, std::move(answer));
     } else {
@@ -151,10 +151,29 @@ class HttpServer::Impl {
   }
 
   void release() {
-    const auto answers = std::exchange(held_, {});
-    for (const auto& answer : answers) {
+    for (const Held& held : std::exchange(held_, {})) {
+      held.answer();
+    }
+  }
+
+  void release(const std::string& target) {
+    const auto found =
+        std::ranges::find_if(held_, [&](const Held& held) { return isWaiting(held) && held.target == target; });
+    if (found != held_.end()) {
+      const auto answer = std::move(found->answer);
+      held_.erase(found);
       answer();
     }
+  }
+
+  std::vector<std::string> held() const {
+    std::vector<std::string> targets;
+    for (const Held& held : held_) {
+      if (isWaiting(held)) {
+        targets.push_back(held.target);
+      }
+    }
+    return targets;
   }
 
   int inFlight() const {
@@ -180,11 +199,18 @@ class HttpServer::Impl {
     std::string buffer;
     int unanswered = 0;
   };
+  struct Held {
+    QPointer<QTcpSocket> socket;
+    std::string target;
+    std::function<void()> answer;
+  };
+
+  bool isWaiting(const Held& held) const { return held.socket && open_.contains(held.socket); }
 
   std::unique_ptr<QTcpServer> server_;
   std::string scheme_;
   std::map<QTcpSocket*, Connection> open_;
-  std::vector<std::function<void()>> held_;
+  std::vector<Held> held_;
   // Last, so that it goes first: no event finds a half-destroyed server.
   QObject context_;
 };
@@ -228,6 +254,8 @@ void HttpServer::requireDigest(const std::string& path, const std::string& userN
 }
 
 void HttpServer::release() { impl_->release(); }
+void HttpServer::release(const std::string& target) { impl_->release(target); }
+std::vector<std::string> HttpServer::held() const { return impl_->held(); }
 
 const std::vector<HttpRequest>& HttpServer::requests() const { return impl_->requests; }
 

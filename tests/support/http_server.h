@@ -21,6 +21,8 @@ struct HttpRequest {
   std::string target{};
   HttpHeaders headers{};
   std::string body{};
+  /// All of it as it came, byte for byte.
+  std::string wire{};
   /// The number of the connection it came by, counted from 1.
   int connection = 0;
 
@@ -105,6 +107,10 @@ class HttpServer {
 
   /// Answers the requests that are held now.
   void release();
+  /// Answers the oldest held request for `target` alone; nothing when there is none.
+  void release(const std::string& target);
+  /// The targets of the requests that are held and whose clients still wait, the oldest first.
+  std::vector<std::string> held() const;
 
   /// Every request that has arrived whole, in order.
   const std::vector<HttpRequest>& requests() const;
