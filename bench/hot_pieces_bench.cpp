@@ -15,15 +15,15 @@
 #include "engine/page_fetch.h"
 #include "engine/result_recording.h"
 #include "platform/clock.h"
-#include "platform/sql_dialect.h"
-#include "platform/sqlite_connection.h"
+#include "platform/sqlite/sql_dialect.h"
+#include "platform/sqlite/sqlite_connection.h"
 #include "store/database.h"
 #include "store/settings_and_log.h"
 #include "store/site_records.h"
 #include "store/sql_quote.h"
 #include "support/program_folder.h"
-#include "ui/site_grid_model.h"
-#include "ui/site_grid_view.h"
+#include "ui/main_window/site_grid_model.h"
+#include "ui/main_window/site_grid_view.h"
 
 namespace tarnwick {
 namespace {

@@ -16,8 +16,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "alerts/uu_code.h"
 #include "platform/local_files.h"
+#include "uucode/uu_code.h"
 
 namespace tarnwick {
 namespace {

@@ -20,8 +20,8 @@
 #include <QApplication>
 #include <QTimer>
 
-#include "platform/desktop/desktop_platform.h"
-#include "ui/master.h"
+#include "app/desktop_platform.h"
+#include "ui/main_window/master.h"
 
 namespace {
 

@@ -11,8 +11,8 @@ status=0
 # Services is a bundle of references, which cppcheck takes for values.
 cppcheck --enable=warning,performance,portability --std=c++20 --language=c++ -I src -j"$jobs" --quiet --error-exitcode=1 \
   --inline-suppr --suppress=missingIncludeSystem --suppress=unknownMacro \
-  --suppress=returnDanglingLifetime:src/platform/desktop/desktop_platform.cpp \
-  --suppress=returnDanglingLifetime:src/platform/headless_platform.cpp src || status=1
+  --suppress=returnDanglingLifetime:src/app/desktop_platform.cpp \
+  --suppress=returnDanglingLifetime:src/app/headless_platform.cpp src || status=1
 
 configure debug -DBUILD_TESTING=ON
 # What Qt generates (the meta-object code of the widgets) must be there before the sources can be read.

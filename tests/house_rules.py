@@ -24,7 +24,7 @@ ROOMS = {
 }
 CORE_ROOMS = ("store", "engine", "alerts", "report")
 # Beside the rooms, and open to all of them: constants only.
-SHARED_FILES = ("src/product.h",)
+SHARED_FILES = ("src/base/product.h",)
 CORE_FILES = ("product.h", "m.h", "m.cpp", "program.h", "program.cpp", "fault_box.h", "fault_box.cpp",
               "site_draft.h", "site_draft.cpp")
 
@@ -195,12 +195,12 @@ def self_test() -> int:
     trees = {
         "a sound tree": (None, {
             "src/store/a.h": header + '#include "platform/p.h"\n', "src/platform/p.h": header + "#include <string>\n",
-            "src/store/b.h": header + '#include "product.h"\n', "src/product.h": header,
+            "src/store/b.h": header + '#include "product.h"\n', "src/base/product.h": header,
             "src/platform/p.cpp": '#include "platform/p.h"\n#include <QString>\n',
             "src/platform/CMakeLists.txt": "add_library(p p.cpp)\n",
             "tests/store/a_test.h": header + "sleep_for(1s);  // sleeps because the file's clock is coarse\n"}),
         "Qt in the core": ("src/store/a.h:2: includes <QString>", {"src/store/a.h": header + "#include <QString>\n"}),
-        "SQLite in the core": ("includes <sqlite3.h>", {"src/m.h": header + "#include <sqlite3.h>\n"}),
+        "SQLite in the core": ("includes <sqlite3.h>", {"src/program/m.h": header + "#include <sqlite3.h>\n"}),
         "curl in the core": ("includes <curl/curl.h>", {"src/engine/a.h": header + "#include <curl/curl.h>\n"}),
         "a library by way of a header": ("src/alerts/a.h:1: includes <QtCore/qglobal.h> through src/platform/p.h", {
             "src/alerts/a.h": header + '#include "platform/p.h"\n',

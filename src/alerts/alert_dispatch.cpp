@@ -5,11 +5,11 @@
 #include <thread>
 #include <vector>
 
-#include "alerts/smtp.h"
-#include "platform/command_line.h"
-#include "platform/errors.h"
+#include "base/command_line.h"
+#include "base/errors.h"
+#include "base/product.h"
+#include "mail/smtp.h"
 #include "platform/file_access.h"
-#include "product.h"
 #include "store/sql_quote.h"
 
 namespace tarnwick {

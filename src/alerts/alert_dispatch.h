@@ -4,7 +4,7 @@
 #include <string>
 
 #include "alerts/alert_facts.h"
-#include "alerts/mail_socket.h"
+#include "mail/mail_socket.h"
 #include "platform/services.h"
 #include "store/database.h"
 #include "store/settings_and_log.h"

@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-#include "platform/command_line.h"
+#include "base/command_line.h"
 
 namespace tarnwick {
 namespace {

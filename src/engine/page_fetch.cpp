@@ -1,7 +1,7 @@
 #include "engine/page_fetch.h"
 
-#include "alerts/single_control.h"
-#include "engine/windows_1252.h"
+#include "base/windows_1252.h"
+#include "engine/single_control.h"
 #include "store/database.h"
 #include "store/settings_and_log.h"
 #include "store/sql_quote.h"

@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "store/first_field.h"
 #include "store/sql_quote.h"
 

@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "alerts/alert_dispatch.h"
+#include "base/errors.h"
 #include "engine/due_sites.h"
 #include "engine/result_recording.h"
 #include "engine/test_pass.h"
-#include "platform/errors.h"
 #include "platform/prompts.h"
 
 namespace tarnwick {

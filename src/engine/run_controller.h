@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "alerts/inet_pool.h"
+#include "engine/inet_pool.h"
 #include "engine/run_view.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"

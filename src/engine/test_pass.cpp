@@ -7,11 +7,11 @@
 #include <utility>
 
 #include "alerts/alert_dispatch.h"
+#include "base/errors.h"
+#include "base/sql_value.h"
 #include "engine/due_sites.h"
 #include "engine/page_fetch.h"
 #include "engine/result_recording.h"
-#include "platform/errors.h"
-#include "platform/sql_value.h"
 
 namespace tarnwick {
 namespace {

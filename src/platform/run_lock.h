@@ -6,23 +6,22 @@
 namespace tarnwick {
 
 /// The right to run on a program folder: at most one process has it at a time, since two runs would check each site
-/// twice. It is the file "tarnwick.lock" in the folder; what a killed process left there does not count.
+/// twice. Given back at the end of this object's life.
 class RunLock {
  public:
-  explicit RunLock(std::string programFolder);
-  ~RunLock();
-  RunLock(const RunLock&) = delete;
-  RunLock& operator=(const RunLock&) = delete;
+  virtual ~RunLock() = default;
 
   /// Takes the right; nothing when this object has it already. Raises std::runtime_error, which names the process that
   /// has it, and FileError when the folder cannot be written.
-  void take();
-  void release() noexcept;
+  virtual void take() = 0;
+  virtual void release() noexcept = 0;
+};
 
- private:
-  struct File;
-  std::string folder_;
-  std::unique_ptr<File> file_;
+class RunLockMaker {
+ public:
+  virtual ~RunLockMaker() = default;
+  /// The lock of the program folder, not taken yet.
+  virtual std::unique_ptr<RunLock> makeRunLock(const std::string& programFolder) = 0;
 };
 
 }  // namespace tarnwick

@@ -4,6 +4,7 @@
 #include "platform/desktop.h"
 #include "platform/event_pump.h"
 #include "platform/prompts.h"
+#include "platform/run_lock.h"
 #include "platform/sql_connection.h"
 #include "platform/tcp_socket.h"
 #include "platform/timer.h"
@@ -11,7 +12,9 @@
 
 namespace tarnwick {
 
-/// Everything the program asks of the machine. The referred objects outlive whoever holds this.
+/// Everything the program asks of the machine. The referred objects outlive whoever holds this. Built by name:
+///
+///     return {.clock = clock, .pump = pump, ...};
 struct Services {
   const Clock& clock;
   EventPump& pump;
@@ -23,6 +26,22 @@ struct Services {
   SoundPlayer& sound;
   ProgramStarter& programs;
   DesktopOpener& opener;
+  RunLockMaker& runLocks;
+
+  /// The same machine with other boxes.
+  Services withPrompts(Prompts& others) const {
+    return {.clock = clock,
+            .pump = pump,
+            .timers = timers,
+            .databases = databases,
+            .transfers = transfers,
+            .sockets = sockets,
+            .prompts = others,
+            .sound = sound,
+            .programs = programs,
+            .opener = opener,
+            .runLocks = runLocks};
+  }
 };
 
 }  // namespace tarnwick

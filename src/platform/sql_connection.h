@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/sql_value.h"
 #include "platform/file_system.h"
-#include "platform/sql_value.h"
 
 namespace tarnwick {
 

@@ -25,7 +25,9 @@ std::vector<std::string> programArguments(int argc, char** argv);
 /// Lets UTF-8, and whatever other bytes a page holds, pass through the standard streams as they are.
 void prepareStandardStreams();
 
-/// How many characters a line of the terminal holds now; 80 when that cannot be told.
+/// How many characters a line of a terminal holds when that cannot be told.
+inline constexpr std::size_t kUsualTerminalWidth = 80;
+/// How many characters a line of the terminal holds now.
 std::size_t terminalWidth();
 
 }  // namespace tarnwick

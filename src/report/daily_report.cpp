@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "platform/file_access.h"
 #include "platform/long_date.h"
 #include "report/html_tables.h"

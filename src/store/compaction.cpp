@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "platform/file_access.h"
 
 namespace tarnwick {

@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "store/database.h"
 #include "store/sql_quote.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "store/first_field.h"
 #include "store/site_table.h"
 #include "store/sql_quote.h"

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "platform/file_access.h"
 
 namespace tarnwick {

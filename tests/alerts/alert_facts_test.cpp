@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/command_line.h"
+#include "base/command_line.h"
 #include "support/hand_clock.h"
 
 namespace tarnwick {

@@ -5,7 +5,7 @@
 
 #include <stdexcept>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "store/site_table.h"
 #include "support/data_fixture.h"
 

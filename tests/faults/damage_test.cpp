@@ -5,8 +5,8 @@
 #include <fstream>
 #include <string>
 
+#include "base/errors.h"
 #include "faults/faults_fixture.h"
-#include "platform/errors.h"
 #include "store/text_files.h"
 #include "support/system.h"
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "base/errors.h"
 #include "faults/faults_fixture.h"
-#include "platform/errors.h"
 #include "support/faulty_disk.h"
 
 namespace tarnwick::testing {

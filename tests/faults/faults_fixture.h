@@ -5,7 +5,7 @@
 #include <chrono>
 #include <string>
 
-#include "program.h"
+#include "program/program.h"
 #include "support/http_server.h"
 #include "support/program_folder.h"
 #include "support/recording_view.h"

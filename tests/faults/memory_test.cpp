@@ -6,8 +6,8 @@
 #include <new>
 #include <string>
 
+#include "base/errors.h"
 #include "faults/faults_fixture.h"
-#include "platform/errors.h"
 #include "support/failing_memory.h"
 #include "support/faulty_disk.h"
 

@@ -4,8 +4,8 @@
 #include <new>
 #include <string>
 
+#include "base/errors.h"
 #include "faults/faults_fixture.h"
-#include "platform/errors.h"
 #include "support/faulty_disk.h"
 
 namespace tarnwick::testing {

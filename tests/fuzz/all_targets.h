@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "fuzz/core_targets.h"
-#include "fuzz/page_entries.h"
-#include "fuzz/site_list_entries.h"
-#include "fuzz/text_entries.h"
+#include "fuzz/entries/page_entries.h"
+#include "fuzz/entries/site_list_entries.h"
+#include "fuzz/entries/text_entries.h"
 
 namespace tarnwick::testing {
 

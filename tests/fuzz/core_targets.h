@@ -4,10 +4,10 @@
 #include <iterator>
 #include <vector>
 
-#include "fuzz/command_entries.h"
-#include "fuzz/mail_entries.h"
-#include "fuzz/sql_entries.h"
-#include "fuzz/uu_entries.h"
+#include "fuzz/entries/command_entries.h"
+#include "fuzz/entries/mail_entries.h"
+#include "fuzz/entries/sql_entries.h"
+#include "fuzz/entries/uu_entries.h"
 
 namespace tarnwick::testing {
 

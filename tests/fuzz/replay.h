@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "fuzz/fuzz_target.h"
+#include "fuzz/entries/fuzz_target.h"
 
 namespace tarnwick::testing {
 

@@ -10,7 +10,7 @@
 
 #include "behaviours.h"
 #include "own_process.h"
-#include "program.h"
+#include "program/program.h"
 #include "support/hostile_process.h"
 #include "support/program_folder.h"
 #include "support/recording_view.h"

@@ -3,9 +3,9 @@
 #include <string>
 #include <QCoreApplication>
 
+#include "app/headless_platform.h"
 #include "engine/run_view.h"
-#include "platform/headless_platform.h"
-#include "program.h"
+#include "program/program.h"
 
 // A program to be killed: kill_subject <program folder> <first serial number>
 //

@@ -9,8 +9,8 @@
 #include <string>
 #include <QCoreApplication>
 
-#include "platform/headless_platform.h"
-#include "program.h"
+#include "app/headless_platform.h"
+#include "program/program.h"
 
 namespace {
 

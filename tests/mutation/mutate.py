@@ -25,9 +25,9 @@ SUBJECTS = {
     "src/engine/result_recording.cpp": ("engine", "program"),
     "src/engine/due_sites.cpp": ("engine", "program"),
     "src/engine/test_pass.cpp": ("engine", "program", "faults"),
-    "src/alerts/inet_pool.cpp": ("alerts", "engine"),
-    "src/alerts/smtp.cpp": ("alerts",),
-    "src/alerts/mail_socket.cpp": ("alerts",),
+    "src/engine/inet_pool.cpp": ("alerts", "engine"),
+    "src/mail/smtp.cpp": ("alerts",),
+    "src/mail/mail_socket.cpp": ("alerts",),
 }
 
 FLIPS = [

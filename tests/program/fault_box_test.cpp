@@ -1,9 +1,9 @@
-#include "fault_box.h"
+#include "program/fault_box.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "support/recording_desktop.h"
 
 namespace tarnwick::testing {

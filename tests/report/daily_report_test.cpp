@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "report/report_fixture.h"
 #include "store/settings_and_log.h"
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "report/report_fixture.h"
 #include "support/hand_timers.h"
 

@@ -4,7 +4,7 @@
 #include "platform/clock.h"
 #include "platform/local_files.h"
 #include "platform/prompts.h"
-#include "platform/sqlite_connection.h"
+#include "platform/sqlite/sqlite_connection.h"
 #include "store/compaction.h"
 
 // A program of its own for the tests: compaction_helper compact|hold <program folder>

@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "store/compaction_fixture.h"
 #include "store/first_field.h"
 #include "store/sql_quote.h"

@@ -5,7 +5,7 @@
 #include <unistd.h>
 #endif
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "store/post_vars.h"
 #include "support/data_fixture.h"
 

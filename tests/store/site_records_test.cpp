@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "store/post_vars.h"
 #include "store/site_table.h"
 #include "support/data_fixture.h"

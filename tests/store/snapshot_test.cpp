@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "platform/clock.h"
-#include "platform/sqlite_connection.h"
+#include "platform/sqlite/sqlite_connection.h"
 #include "store/database.h"
 #include "store/first_field.h"
 #include "support/program_folder.h"

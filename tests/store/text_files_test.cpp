@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "support/data_fixture.h"
 #include "support/program_folder.h"
 #include "support/recording_desktop.h"

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/sqlite_connection.h"
+#include "platform/sqlite/sqlite_connection.h"
 #include "store/database.h"
 #include "support/hand_clock.h"
 #include "support/program_folder.h"

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "program.h"
+#include "program/program.h"
 #include "support/http_server.h"
 #include "support/program_folder.h"
 #include "support/recording_view.h"

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "platform/clock.h"
-#include "platform/curl_transfers.h"
-#include "platform/qt_event_loop.h"
-#include "platform/qt_tcp_socket.h"
+#include "platform/events/qt_event_loop.h"
+#include "platform/events/qt_tcp_socket.h"
+#include "platform/process/file_run_lock.h"
 #include "platform/services.h"
-#include "platform/sqlite_connection.h"
+#include "platform/sqlite/sqlite_connection.h"
+#include "platform/web/curl_transfers.h"
 #include "support/hand_clock.h"
 #include "support/hand_timers.h"
 #include "support/recording_desktop.h"
@@ -34,7 +35,17 @@ struct TestServices {
   }
 
   Services services() {
-    return {clock(), pump, timers(), databases, transfers, sockets, prompts, sound, programs, opener};
+    return {.clock = clock(),
+            .pump = pump,
+            .timers = timers(),
+            .databases = databases,
+            .transfers = transfers,
+            .sockets = sockets,
+            .prompts = prompts,
+            .sound = sound,
+            .programs = programs,
+            .opener = opener,
+            .runLocks = runLocks};
   }
 
   const Time time;
@@ -50,6 +61,7 @@ struct TestServices {
   RecordingSound sound;
   RecordingPrograms programs;
   RecordingOpener opener;
+  FileRunLocks runLocks;
 };
 
 }  // namespace tarnwick::testing

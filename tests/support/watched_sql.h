@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/errors.h"
+#include "base/errors.h"
 #include "platform/sql_connection.h"
 
 namespace tarnwick::testing {

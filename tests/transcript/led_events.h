@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "platform/event_pump.h"
-#include "program.h"
+#include "program/program.h"
 #include "transcript/recorded_mail.h"
 #include "transcript/scripted_web.h"
 

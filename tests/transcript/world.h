@@ -6,11 +6,11 @@
 #include <memory>
 #include <string>
 
-#include "platform/curl_transfers.h"
-#include "platform/qt_event_loop.h"
-#include "platform/qt_tcp_socket.h"
-#include "platform/sqlite_connection.h"
-#include "program.h"
+#include "platform/events/qt_event_loop.h"
+#include "platform/events/qt_tcp_socket.h"
+#include "platform/sqlite/sqlite_connection.h"
+#include "platform/web/curl_transfers.h"
+#include "program/program.h"
 #include "support/hand_clock.h"
 #include "support/hand_timers.h"
 #include "support/program_folder.h"

@@ -1,0 +1,22 @@
+# The rooms of the program: a folder is a target, which links the libraries that it uses itself and no others.
+
+# The rules and the data: what needs neither Qt nor libcurl. Without a desktop's libraries these can be built and tested
+# alone.
+set(TARNWICK_CORE_ROOMS base platform platform/os platform/sqlite store uucode mail alerts report engine program)
+# The machine with its network and its desktop, and the two front ends.
+set(TARNWICK_OUTER_ROOMS platform/web platform/events platform/process platform/sound platform/desktop
+    cli/terminal cli/pages cli/list cli/verbs
+    ui/controls ui/baseline ui/site ui/settings ui/main_window
+    app)
+set(TARNWICK_ROOMS ${TARNWICK_CORE_ROOMS})
+if(NOT TARNWICK_CORE_ONLY)
+  list(APPEND TARNWICK_ROOMS ${TARNWICK_OUTER_ROOMS})
+endif()
+
+# tarnwick_room(<name> SOURCES ... [PUBLIC ...] [PRIVATE ...]): the library tarnwick_<name> of the folder that says so.
+# PUBLIC are the rooms whose headers its own headers include, PRIVATE what only its sources use.
+function(tarnwick_room name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  add_library(tarnwick_${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(tarnwick_${name} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+endfunction()

@@ -1,0 +1,68 @@
+#include "app/headless_platform.h"
+
+#include <iostream>
+
+#include "platform/events/qt_event_loop.h"
+#include "platform/events/qt_tcp_socket.h"
+#include "platform/process/detached_programs.h"
+#include "platform/process/file_run_lock.h"
+#include "platform/process/unwanted_signals.h"
+#include "platform/sound/terminal_sound.h"
+#include "platform/sqlite/sqlite_connection.h"
+#include "platform/web/curl_transfers.h"
+
+namespace tarnwick {
+namespace {
+
+class StandardErrorPrompts final : public Prompts {
+ public:
+  void inform(const std::string& text, const std::string& title, PromptIcon) override {
+    std::cerr << title << ": " << text << '\n';
+  }
+  bool confirm(const std::string& text, const std::string& title, PromptIcon) override {
+    std::cerr << title << ": " << text << " No\n";
+    return false;
+  }
+  std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
+};
+
+class NoOpener final : public DesktopOpener {
+ public:
+  bool open(const std::string&) override { return false; }
+};
+
+}  // namespace
+
+struct HeadlessPlatform::Machine {
+  SystemClock clock;
+  QtEventPump pump;
+  QtTimers timers;
+  SqliteConnections databases{clock};
+  CurlTransfers transfers;
+  QtTcpSockets sockets;
+  StandardErrorPrompts prompts;
+  DetachedPrograms programs;
+  std::unique_ptr<SoundPlayer> sound = makeTerminalSound(programs);
+  NoOpener opener;
+  FileRunLocks runLocks;
+};
+
+HeadlessPlatform::HeadlessPlatform() : machine_(std::make_unique<Machine>()) { ignoreUnwantedSignals(); }
+HeadlessPlatform::~HeadlessPlatform() = default;
+
+Services HeadlessPlatform::services() {
+  Machine& machine = *machine_;
+  return {.clock = machine.clock,
+          .pump = machine.pump,
+          .timers = machine.timers,
+          .databases = machine.databases,
+          .transfers = machine.transfers,
+          .sockets = machine.sockets,
+          .prompts = machine.prompts,
+          .sound = *machine.sound,
+          .programs = machine.programs,
+          .opener = machine.opener,
+          .runLocks = machine.runLocks};
+}
+
+}  // namespace tarnwick

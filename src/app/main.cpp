@@ -1,0 +1,36 @@
+#include <cstdlib>
+#include <QApplication>
+
+#include "app/desktop_platform.h"
+#include "app/translations.h"
+#include "platform/process/unwanted_signals.h"
+#include "platform/program_folder.h"
+#include "program/fault_box.h"
+#include "ui/main_window/master.h"
+#include "ui/settings/control_dialog.h"
+#include "ui/site/site_editor.h"
+
+int main(int argc, char** argv) {
+  tarnwick::ignoreUnwantedSignals();
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QString::fromLatin1(tarnwick::kProductName));
+  QApplication::setApplicationVersion(QStringLiteral(TARNWICK_VERSION));
+  // The desktop finds icon and name of the window by it.
+  QApplication::setDesktopFileName(QStringLiteral("tarnwick"));
+  tarnwick::DesktopPlatform machine;
+  const QString executableFolder = QCoreApplication::applicationDirPath();
+  std::string folder;
+  const auto choose = [&] { folder = tarnwick::programFolderFor(executableFolder.toStdString()); };
+  if (!tarnwick::FaultBox(machine.services().prompts).run(choose)) {
+    return EXIT_FAILURE;
+  }
+  tarnwick::loadTranslations(application, {QString::fromStdString(folder), executableFolder});
+  tarnwick::Master window(folder, machine.services());
+  if (!window.load()) {
+    return EXIT_FAILURE;
+  }
+  window.setEditors({.site = tarnwick::siteEditorOf(window.program(), window),
+                     .settings = tarnwick::settingsDialogOf(window.program(), window)});
+  window.show();
+  return QApplication::exec();
+}

@@ -1,0 +1,30 @@
+#include "base/errors.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kShownStatementLength = 200;
+
+std::string shortened(const std::string& statement) {
+  if (statement.size() <= kShownStatementLength) {
+    return statement;
+  }
+  return statement.substr(0, kShownStatementLength) + " ...";
+}
+
+std::string withStatement(const std::string& cause, const std::string& statement) {
+  if (statement.empty()) {
+    return cause;
+  }
+  return cause + "\n\nStatement: " + shortened(statement);
+}
+
+}  // namespace
+
+DataAccessError::DataAccessError(const std::string& cause, const std::string& statement)
+    : std::runtime_error(withStatement(cause, statement)), cause_(cause), statement_(shortened(statement)) {}
+
+FileError::FileError(const std::string& path, const std::string& cause)
+    : std::runtime_error(path + ": " + cause), path_(path) {}
+
+}  // namespace tarnwick

@@ -1,0 +1,116 @@
+#include "cli/list/site_facts.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+#include "base/sql_value.h"
+#include "store/site_table.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kNull = "NULL";
+
+std::string textOf(const std::string& cell) { return cell == kNull ? std::string() : cell; }
+
+SiteDraft draftOfRow(const TextTable& sites, std::size_t row) {
+  const auto flag = [&](std::size_t column) { return SqlValue(sites.at(column, row)).toBool(); };
+  const auto text = [&](std::size_t column) { return textOf(sites.at(column, row)); };
+  return {text(site_column::url),       text(site_column::method),     flag(site_column::active),
+          text(site_column::tInterval), flag(site_column::alertEmail), text(site_column::email),
+          text(site_column::sUserName), text(site_column::sPassWord)};
+}
+
+// Those four letters stand for a Null, but may also be what was typed.
+bool isUnclear(const TextTable& sites, std::size_t row) {
+  return std::ranges::any_of(
+      std::initializer_list<std::size_t>{site_column::url, site_column::method, site_column::email,
+                                         site_column::sUserName, site_column::sPassWord},
+      [&](std::size_t column) { return sites.at(column, row) == kNull; });
+}
+
+bool fits16Bits(std::int64_t id) {
+  return id >= std::numeric_limits<std::int16_t>::min() && id <= std::numeric_limits<std::int16_t>::max();
+}
+
+SiteFacts factsOfRow(m& data, const TextTable& sites, std::size_t row) {
+  const auto number = [&](std::size_t column) { return SqlValue(sites.at(column, row)).toInt64(); };
+  SiteFacts facts;
+  facts.idSite = number(site_column::idSite);
+  facts.site = isUnclear(sites, row) && fits16Bits(facts.idSite)
+                   ? readSite(data, static_cast<std::int16_t>(facts.idSite))
+                   : draftOfRow(sites, row);
+  facts.lastChecked = textOf(sites.at(site_column::lastChecked, row));
+  const std::string& status = sites.at(site_column::status, row);
+  if (status != kNull) {
+    facts.status = SqlValue(status).toBool();
+  }
+  facts.success = number(site_column::success);
+  facts.failure = number(site_column::failure);
+  return facts;
+}
+
+Json numberJson(const std::string& text) {
+  std::int64_t number = 0;
+  const char* end = text.data() + text.size();
+  const auto [rest, fault] = std::from_chars(text.data(), end, number);
+  if (fault == std::errc() && rest == end) {
+    return number;
+  }
+  return text.empty() ? Json() : jsonText(text);
+}
+
+}  // namespace
+
+std::vector<SiteFacts> readSiteFacts(m& data, std::int16_t idSite) {
+  const TextTable sites = data.getArraySites(idSite);
+  std::vector<SiteFacts> list;
+  list.reserve(sites.lastRow());
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    list.push_back(factsOfRow(data, sites, row));
+  }
+  return list;
+}
+
+StateText stateOf(const SiteFacts& facts) {
+  StateText state{"-", Console::Colour::plain};
+  if (facts.status) {
+    state = *facts.status ? StateText{"up", Console::Colour::green} : StateText{"down", Console::Colour::red};
+  }
+  if (!facts.site.active) {
+    state.text += " (inactive)";
+  }
+  return state;
+}
+
+Json siteJson(const SiteFacts& facts, bool showPassword) {
+  const SiteDraft& site = facts.site;
+  Json json{{"idSite", facts.idSite},
+            {"url", jsonText(site.url)},
+            {"method", jsonText(site.method)},
+            {"active", site.active},
+            {"tInterval", numberJson(site.tInterval)},
+            {"lastChecked", facts.lastChecked.empty() ? Json() : jsonText(facts.lastChecked)},
+            {"alertEmail", site.alertEmail},
+            {"email", jsonText(site.email)},
+            {"sUserName", jsonText(site.sUserName)},
+            {"hasPassword", !site.sPassWord.empty()}};
+  if (showPassword) {
+    json["sPassWord"] = jsonText(site.sPassWord);
+  }
+  json["status"] = facts.status ? Json(*facts.status) : Json();
+  json["success"] = facts.success;
+  json["failure"] = facts.failure;
+  return json;
+}
+
+Json postVarsJson(const std::vector<PostVar>& vars) {
+  Json json = Json::array();
+  for (const PostVar& var : vars) {
+    json.push_back({{"pname", jsonText(var.name)}, {"pvalue", jsonText(var.value)}});
+  }
+  return json;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/terminal/json_text.h"
+#include "program/m.h"
+#include "program/site_draft.h"
+
+namespace tarnwick {
+
+/// A site of the list: what the user has set, and what its checks have found.
+struct SiteFacts {
+  std::int64_t idSite = 0;
+  SiteDraft site;
+  std::string lastChecked;     ///< empty when it was never checked
+  std::optional<bool> status;  ///< nothing when it was never judged
+  std::int64_t success = 0;
+  std::int64_t failure = 0;
+
+  bool down() const { return status == false; }
+};
+
+/// The sites, or the one of an id greater than 0, in the order of the database.
+std::vector<SiteFacts> readSiteFacts(m& data, std::int16_t idSite = 0);
+
+/// "up", "down" or "-", in its colour, and whether the site is left out of runs.
+struct StateText {
+  std::string text;
+  Console::Colour colour = Console::Colour::plain;
+};
+StateText stateOf(const SiteFacts& facts);
+
+/// A site as JSON, its members named as the database's columns; the password only when it is to be shown.
+Json siteJson(const SiteFacts& facts, bool showPassword = false);
+
+/// POST variables as JSON, in their order.
+Json postVarsJson(const std::vector<PostVar>& vars);
+
+}  // namespace tarnwick

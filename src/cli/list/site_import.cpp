@@ -1,0 +1,220 @@
+#include "cli/list/site_import.h"
+
+#include <algorithm>
+#include <limits>
+#include <unordered_map>
+#include <utility>
+
+#include "cli/list/site_list_stored.h"
+#include "platform/address.h"
+
+namespace tarnwick {
+namespace {
+
+using Action = ImportStep::Action;
+
+constexpr std::int64_t kHighestId = std::numeric_limits<std::int16_t>::max();
+
+/// Takes what the file gives into `stored`, and notes what differs.
+class Merge {
+ public:
+  Merge(const ListFields& given, ListFields& changed) : given_(given), changed_(changed) {}
+
+  template <typename Value>
+  void take(ListField field, Value& listed, Value stored) {
+    if (!given_.has(field)) {
+      listed = std::move(stored);
+    } else if (listed != stored) {
+      changed_.set(field);
+    }
+  }
+
+ private:
+  const ListFields& given_;
+  ListFields& changed_;
+};
+
+class Planner {
+ public:
+  Planner(m& data, const ImportOptions& options, ListFaults& faults) : data_(data), options_(options), faults_(faults) {
+    for (SiteFacts& facts : readSiteFacts(data)) {
+      stored_.emplace(idOf(facts), listedForm(std::move(facts.site)));
+    }
+  }
+
+  void add(ListedSite site) {
+    if (options_.asNew) {
+      site.idSite.reset();
+    }
+    if (site.idSite && !named_.emplace(*site.idSite, site.line).second) {
+      faults_.add(site.line, "idSite " + std::to_string(*site.idSite) + " stands on line " +
+                                 std::to_string(named_.at(*site.idSite)) +
+                                 " already: give each site an id of its own, or none to add it as a new one");
+      check(site);
+      return;
+    }
+    const auto stored = site.idSite ? stored_.find(*site.idSite) : stored_.end();
+    if (stored == stored_.end()) {
+      planNew(std::move(site));
+    } else {
+      planChange(std::move(site), stored->second);
+    }
+  }
+
+  ImportPlan finish() && {
+    if (options_.replace) {
+      planDeletions();
+    }
+    numberNewSites();
+    return std::move(plan_);
+  }
+
+ private:
+  void planNew(ListedSite site) {
+    if (!site.given.has(ListField::method) && !site.postVars.empty()) {
+      site.site.method = "post";
+    }
+    check(site);
+    ImportStep step{Action::add, site.idSite.value_or(0), {}, site.given};
+    step.listed = std::move(site);
+    plan_.steps.push_back(std::move(step));
+  }
+
+  void planChange(ListedSite site, const SiteDraft& stored) {
+    ImportStep step{Action::change, *site.idSite, {}, {}};
+    Merge merge(site.given, step.fields);
+    merge.take(ListField::url, site.site.url, stored.url);
+    merge.take(ListField::method, site.site.method, stored.method);
+    merge.take(ListField::active, site.site.active, stored.active);
+    merge.take(ListField::tInterval, site.site.tInterval, stored.tInterval);
+    merge.take(ListField::alertEmail, site.site.alertEmail, stored.alertEmail);
+    merge.take(ListField::email, site.site.email, stored.email);
+    merge.take(ListField::sUserName, site.site.sUserName, stored.sUserName);
+    merge.take(ListField::sPassWord, site.site.sPassWord, stored.sPassWord);
+    merge.take(ListField::postVars, site.postVars, readPostVars(data_, step.idSite));
+    if (site.given.has(ListField::baseline)) {
+      merge.take(ListField::baseline, site.baseline, data_.getContentCompare(step.idSite));
+    }
+    check(site);
+    if (step.fields.none()) {
+      ++plan_.unchanged;
+      return;
+    }
+    step.listed = std::move(site);
+    plan_.steps.push_back(std::move(step));
+  }
+
+  void check(const ListedSite& site) {
+    ListValues values(site.line, faults_);
+    if (site.site.url.empty() && !site.idSite) {
+      values.fault("the url is empty: give the site's address");
+    }
+    checkTexts(site.site, values);
+  }
+
+  void planDeletions() {
+    std::vector<std::int16_t> gone;
+    for (const auto& [id, site] : stored_) {
+      if (!named_.contains(id)) {
+        gone.push_back(id);
+      }
+    }
+    std::ranges::sort(gone);
+    for (const std::int16_t id : gone) {
+      ImportStep step{Action::remove, id, {}, {}};
+      step.listed.site.url = std::move(stored_.at(id).url);
+      plan_.steps.push_back(std::move(step));
+      stored_.erase(id);
+    }
+  }
+
+  // As they would be numbered one by one: behind the highest id that is there then.
+  void numberNewSites() {
+    std::int64_t highest = 0;
+    for (const auto& [id, site] : stored_) {
+      highest = std::max<std::int64_t>(highest, id);
+    }
+    for (const auto& [id, line] : named_) {
+      highest = std::max<std::int64_t>(highest, id);
+    }
+    for (ImportStep& step : plan_.steps) {
+      if (step.action != Action::add || step.listed.idSite) {
+        continue;
+      }
+      if (++highest > kHighestId) {
+        faults_.add(step.listed.line, "no id is left for a new site, since ids end at " + std::to_string(kHighestId) +
+                                          ": give it one that is free, or delete the site of the highest id");
+        continue;
+      }
+      step.idSite = static_cast<std::int16_t>(highest);
+    }
+  }
+
+  m& data_;
+  const ImportOptions& options_;
+  ListFaults& faults_;
+  std::unordered_map<std::int16_t, SiteDraft> stored_;
+  /// The ids of the file, and their lines.
+  std::unordered_map<std::int16_t, std::size_t> named_;
+  ImportPlan plan_;
+};
+
+void storeListed(m& data, const ImportStep& step) {
+  storeSite(data, step.idSite, step.listed.site, step.listed.postVars);
+  if (!step.fields.has(ListField::baseline)) {
+    return;
+  }
+  if (step.listed.baseline.empty()) {
+    data.clearContentCompare(step.idSite);
+  } else {
+    data.updateContentCompare(step.idSite, step.listed.baseline);
+  }
+}
+
+}  // namespace
+
+std::size_t ImportPlan::count(Action action) const {
+  return static_cast<std::size_t>(std::ranges::count(steps, action, &ImportStep::action));
+}
+
+ImportPlan planImport(m& data, std::vector<ListedSite> sites, const ImportOptions& options, ListFaults& faults) {
+  Planner planner(data, options, faults);
+  for (ListedSite& site : sites) {
+    planner.add(std::move(site));
+  }
+  return std::move(planner).finish();
+}
+
+void carryOut(m& data, const ImportPlan& plan) {
+  for (const ImportStep& step : plan.steps) {
+    if (step.action == Action::remove) {
+      data.deleteSite(step.idSite);
+    }
+  }
+  for (const ImportStep& step : plan.steps) {
+    if (step.action == Action::add) {
+      data.addSite(step.idSite);
+    }
+    if (step.action != Action::remove) {
+      storeListed(data, step);
+    }
+  }
+}
+
+void checkTexts(const SiteDraft& site, ListValues& values) {
+  const auto address = parseAddress(site.url);
+  if (address && !isFetchedScheme(address->scheme)) {
+    values.fault("url " + quotedForMessage(site.url) +
+                 " cannot be fetched: give an address of http, https, ftp or ftps");
+  }
+  if (site.alertEmail && !m::isEmail(site.email)) {
+    values.fault("email " + quotedForMessage(site.email) +
+                 " is no mail address: give one for the alerts, or set alertEmail to False");
+  }
+}
+
+const char* wordOf(Action action) {
+  return action == Action::add ? "add" : action == Action::change ? "change" : "delete";
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "cli/list/site_list.h"
+#include "program/m.h"
+
+namespace tarnwick {
+
+struct ImportOptions {
+  /// Adds every site of the file as a new one, whatever id it has there.
+  bool asNew = false;
+  /// Deletes the sites that the file does not name.
+  bool replace = false;
+};
+
+/// What an import does to one site.
+struct ImportStep {
+  enum class Action { add, change, remove };
+
+  Action action = Action::add;
+  std::int16_t idSite = 0;
+  /// The site as it will be stored, with all that the file leaves out; of one that is deleted its address only.
+  ListedSite listed;
+  /// What a change changes; what the file gives of a site that is added.
+  ListFields fields;
+};
+
+struct ImportPlan {
+  /// The sites of the file in its order, without those that stay as they are, and then those that are deleted.
+  std::vector<ImportStep> steps;
+  std::size_t unchanged = 0;
+
+  std::size_t count(ImportStep::Action action) const;
+};
+
+/// What an import of `sites` would do, faults of the single sites added to `faults`; a plan with faults is not to be
+/// carried out. Raises DataAccessError.
+ImportPlan planImport(m& data, std::vector<ListedSite> sites, const ImportOptions& options, ListFaults& faults);
+
+/// Does it. REQUIRES: one transaction around the planning and this, which is committed when this returns.
+void carryOut(m& data, const ImportPlan& plan);
+
+/// Adds what an import would refuse in the texts of a site.
+void checkTexts(const SiteDraft& site, ListValues& values);
+
+/// "add", "change" or "delete"
+const char* wordOf(ImportStep::Action action);
+
+}  // namespace tarnwick

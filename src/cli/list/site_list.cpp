@@ -1,0 +1,127 @@
+#include "cli/list/site_list.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+#include "cli/terminal/console.h"
+#include "platform/transfer_control.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kLongestQuoted = 60;
+constexpr std::int16_t kHighest = std::numeric_limits<std::int16_t>::max();
+
+char lowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+bool equalsIgnoringCase(std::string_view one, std::string_view other) {
+  return std::ranges::equal(one, other, {}, lowerCase, lowerCase);
+}
+
+bool isOneOf(std::string_view text, std::initializer_list<std::string_view> words) {
+  return std::ranges::any_of(words, [&](std::string_view word) { return equalsIgnoringCase(text, word); });
+}
+
+std::string summaryOf(const ListFaults& faults) {
+  const std::size_t count = faults.count();
+  return "The file has " + std::to_string(count) + (count == 1 ? " fault" : " faults");
+}
+
+}  // namespace
+
+std::optional<ListField> listFieldOf(std::string_view name) {
+  const auto* const found =
+      std::ranges::find_if(kListFieldNames, [&](std::string_view known) { return equalsIgnoringCase(known, name); });
+  return found == kListFieldNames.end()
+             ? std::nullopt
+             : std::optional(static_cast<ListField>(std::distance(kListFieldNames.begin(), found)));
+}
+
+std::string listFieldNames() {
+  std::string names;
+  for (const std::string_view name : kListFieldNames) {
+    names += (names.empty() ? "" : ", ") + std::string(name);
+  }
+  return names;
+}
+
+void ListFaults::add(std::size_t line, std::string text) {
+  ++count_;
+  if (faults_.size() < kMostKept) {
+    faults_.push_back({line, std::move(text)});
+  }
+}
+
+std::vector<ListFaults::Fault> ListFaults::kept() const {
+  std::vector<Fault> sorted = faults_;
+  std::ranges::stable_sort(sorted, {}, &Fault::line);
+  return sorted;
+}
+
+SiteListError::SiteListError(const ListFaults& faults) : std::runtime_error(summaryOf(faults)), faults_(faults) {}
+
+std::optional<std::int16_t> ListValues::number(std::string_view text, ListField field, const std::string& remedy) {
+  const std::string name(nameOf(field));
+  const std::string_view digits = withoutBlanks(text);
+  const std::string_view unsignedPart = digits.starts_with('-') ? digits.substr(1) : digits;
+  if (unsignedPart.empty() || unsignedPart.find_first_not_of("0123456789") != std::string_view::npos) {
+    fault(name + " " + quotedForMessage(text) + " is no whole number: " + remedy);
+    return std::nullopt;
+  }
+  std::int32_t value = 0;
+  const auto [end, cause] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  if (cause != std::errc() || value < 1 || value > kHighest) {
+    fault(name + " " + quotedForMessage(digits) + " is outside 1 to " + std::to_string(kHighest) + ": " + remedy);
+    return std::nullopt;
+  }
+  return static_cast<std::int16_t>(value);
+}
+
+std::optional<std::int16_t> ListValues::id(std::string_view text) {
+  return number(text, ListField::idSite, "give the site's id, or leave it out to add the site as a new one");
+}
+
+std::optional<std::string> ListValues::interval(std::string_view text) {
+  const auto minutes = number(text, ListField::tInterval, "give the whole minutes between two checks");
+  return minutes ? std::optional(std::to_string(*minutes)) : std::nullopt;
+}
+
+std::optional<bool> ListValues::yesNo(ListField field, std::string_view text) {
+  const std::string_view word = withoutBlanks(text);
+  if (isOneOf(word, {"true", "yes", "on", "1"})) {
+    return true;
+  }
+  if (isOneOf(word, {"false", "no", "off", "0"})) {
+    return false;
+  }
+  fault(std::string(nameOf(field)) + " " + quotedForMessage(text) + " is neither yes nor no: give True or False");
+  return std::nullopt;
+}
+
+std::optional<std::string> ListValues::method(std::string_view text) {
+  if (isOneOf(text, {"get", "post"})) {
+    return std::string(text);
+  }
+  fault("method " + quotedForMessage(text) + " is none that is sent: give get or post");
+  return std::nullopt;
+}
+
+std::optional<std::string> ListValues::baseline(std::string bytes) {
+  if (bytes.size() > kLargestPage) {
+    fault("the baseline is larger than the largest page that is fetched, 64 MiB: leave it out");
+    return std::nullopt;
+  }
+  return bytes;
+}
+
+std::string quotedForMessage(std::string_view text) { return '"' + visibleText(text, kLongestQuoted) + '"'; }
+
+std::string_view withoutBlanks(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t";
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  return first == std::string_view::npos ? std::string_view()
+                                         : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,265 @@
+#include "cli/list/site_list_json.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <utility>
+
+#include "cli/list/site_list_json_site.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kVersionName = "tarnwick";
+constexpr const char* kSitesName = "sites";
+constexpr std::int64_t kVersion = 1;
+/// A site holds an array of objects whose members may be objects; what lies deeper is no site's.
+constexpr std::size_t kDeepest = 4;
+
+/// Walks over a text and counts its lines, for a parser that tells none.
+class LineCounter {
+ public:
+  using iterator_category = std::input_iterator_tag;
+  using value_type = char;
+  using difference_type = std::ptrdiff_t;
+  using pointer = const char*;
+  using reference = const char&;
+
+  LineCounter(const char* at, std::size_t& line) : at_(at), line_(&line) {}
+  reference operator*() const { return *at_; }
+  LineCounter& operator++() {
+    *line_ += *at_ == '\n' ? 1 : 0;
+    ++at_;
+    return *this;
+  }
+  bool operator==(const LineCounter& other) const { return at_ == other.at_; }
+
+ private:
+  const char* at_;
+  std::size_t* line_;
+};
+
+/// Puts one value together from what a parser meets.
+class ValueBuilder {
+ public:
+  bool isOpen() const { return !open_.empty(); }
+  std::size_t depth() const { return open_.size(); }
+  Json& root() { return root_; }
+
+  void begin(Json container) {
+    Json* place = &put(std::move(container));
+    open_.push_back(place);
+  }
+  void end() { open_.pop_back(); }
+  /// False when the object has such a member already.
+  bool key(std::string name) {
+    key_ = std::move(name);
+    return !open_.back()->contains(key_);
+  }
+  Json& put(Json value) {
+    if (open_.empty()) {
+      return root_ = std::move(value);
+    }
+    Json& parent = *open_.back();
+    if (parent.is_array()) {
+      parent.push_back(std::move(value));
+      return parent.back();
+    }
+    return parent[key_] = std::move(value);
+  }
+
+ private:
+  Json root_;
+  /// A container does not grow while one inside it is open, so these stay where they are.
+  std::vector<Json*> open_;
+  std::string key_;
+};
+
+/// Takes the sites out of the file, one after the other.
+class ListHandler final : public nlohmann::json_sax<Json> {
+ public:
+  ListHandler(std::string_view text, const std::size_t& line, ListFaults& faults)
+      : text_(text), line_(line), faults_(faults) {}
+
+  std::vector<ListedSite> sites() && { return std::move(sites_); }
+
+  /// What is missing shows at the end.
+  void finish() {
+    if (!hasVersion_) {
+      faults_.add(1, R"(the member "tarnwick": 1 is missing, so this is no list of sites: begin the file with )"
+                     R"({"tarnwick": 1, "sites": [)");
+    } else if (!hasSites_) {
+      faults_.add(1, R"(the member "sites" is missing: give an array with an object for each site)");
+    }
+  }
+
+  bool null() override { return value(Json()); }
+  bool boolean(bool flag) override { return value(flag); }
+  bool number_integer(std::int64_t number) override { return value(number); }
+  bool number_unsigned(std::uint64_t number) override { return value(number); }
+  bool number_float(double number, const std::string& /*written*/) override { return value(number); }
+  bool string(std::string& text) override { return value(std::move(text)); }
+  bool binary(Json::binary_t& /*bytes*/) override { return false; }  // JSON has none
+
+  bool start_object(std::size_t /*size*/) override {
+    switch (place_) {
+      case Place::outside:
+        place_ = Place::list;
+        return true;
+      case Place::sites:
+        place_ = Place::site;
+        siteLine_ = line_;
+        siteFaults_ = faults_.count();
+        break;
+      case Place::site:
+        break;
+      default:
+        return misplaced();
+    }
+    return begin(Json::object());
+  }
+
+  bool start_array(std::size_t /*size*/) override {
+    if (place_ == Place::list && key_ == kSitesName) {
+      place_ = Place::sites;
+      return true;
+    }
+    return place_ == Place::site ? begin(Json::array()) : misplaced();
+  }
+
+  bool key(std::string& name) override {
+    if (place_ == Place::list) {
+      return listKey(name);
+    }
+    if (!builder_.key(name)) {
+      faults_.add(siteLine_, "the member " + quotedForMessage(name) + " is given twice: leave one of them out");
+    }
+    return true;
+  }
+
+  bool end_object() override {
+    if (place_ == Place::list) {
+      place_ = Place::outside;
+      return true;
+    }
+    builder_.end();
+    if (!builder_.isOpen()) {
+      place_ = Place::sites;
+      takeSite();
+    }
+    return true;
+  }
+
+  bool end_array() override {
+    if (place_ == Place::sites) {
+      place_ = Place::list;
+    } else {
+      builder_.end();
+    }
+    return true;
+  }
+
+  bool parse_error(std::size_t position, const std::string& /*token*/,
+                   const nlohmann::detail::exception& error) override {
+    const std::string_view before = text_.substr(0, position == 0 ? 0 : position - 1);
+    faults_.add(1 + static_cast<std::size_t>(std::ranges::count(before, '\n')),
+                "this is no JSON: " + visibleText(causeIn(error.what())));
+    return false;
+  }
+
+ private:
+  enum class Place { outside, list, sites, site };
+
+  bool listKey(const std::string& name) {
+    bool& seen = name == kSitesName ? hasSites_ : hasVersion_;
+    if (name != kSitesName && name != kVersionName) {
+      faults_.add(line_, "there is no member " + quotedForMessage(name) +
+                             R"( beside the sites: the members are "tarnwick" and "sites")");
+      return false;
+    }
+    if (std::exchange(seen, true)) {
+      faults_.add(line_, "the member " + quotedForMessage(name) + " is given twice: leave one of them out");
+      return false;
+    }
+    key_ = name;
+    return true;
+  }
+
+  bool value(Json value) {
+    if (place_ == Place::site) {
+      builder_.put(std::move(value));
+      return true;
+    }
+    if (place_ != Place::list || key_ != kVersionName) {
+      return misplaced();
+    }
+    if (value != Json(kVersion)) {
+      faults_.add(line_, "the file is of version " + quotedForMessage(value.dump()) +
+                             " of the list's format, and version 1 can be read: export it with the same program");
+      return false;
+    }
+    return true;
+  }
+
+  bool begin(Json container) {
+    if (builder_.depth() == kDeepest) {
+      faults_.add(siteLine_, "the site holds objects in objects that no member has: leave them out");
+      return false;
+    }
+    builder_.begin(std::move(container));
+    return true;
+  }
+
+  bool misplaced() {
+    faults_.add(line_, place_ == Place::sites
+                           ? "the array \"sites\" holds something else than objects: give an object for each site"
+                           : R"(this is no list of sites: it has the form {"tarnwick": 1, "sites": [{...}, ...]})");
+    hasVersion_ = hasSites_ = true;
+    return false;
+  }
+
+  void takeSite() {
+    if (faults_.count() == siteFaults_) {
+      if (auto site = siteOfJson(builder_.root(), siteLine_, faults_)) {
+        sites_.push_back(std::move(*site));
+      }
+    }
+  }
+
+  // The library's text without its own place and number.
+  static std::string_view causeIn(std::string_view text) {
+    const std::size_t column = text.find("column ");
+    const std::size_t end = column == std::string_view::npos ? column : text.find(": ", column);
+    const std::size_t number = text.find("] ");
+    return end != std::string_view::npos      ? text.substr(end + 2)
+           : number != std::string_view::npos ? text.substr(number + 2)
+                                              : text;
+  }
+
+  std::string_view text_;
+  const std::size_t& line_;
+  ListFaults& faults_;
+  Place place_ = Place::outside;
+  std::string key_;
+  bool hasVersion_ = false;
+  bool hasSites_ = false;
+  ValueBuilder builder_;
+  std::size_t siteLine_ = 0;
+  std::size_t siteFaults_ = 0;
+  std::vector<ListedSite> sites_;
+};
+
+}  // namespace
+
+std::vector<ListedSite> readSiteListJson(std::string_view text, ListFaults& faults) {
+  std::size_t line = 1;
+  ListHandler handler(text, line, faults);
+  const bool whole = Json::sax_parse(LineCounter(text.data(), line), LineCounter(text.data() + text.size(), line),
+                                     &handler, Json::input_format_t::json);
+  if (whole) {
+    handler.finish();
+  }
+  return std::move(handler).sites();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,64 @@
+#include <utility>
+
+#include "cli/list/site_list_json.h"
+#include "cli/terminal/json_text.h"
+
+namespace tarnwick {
+namespace {
+
+class JsonWriter final : public SiteListWriter {
+ public:
+  JsonWriter(ListColumns columns, ByteSink sink) : columns_(columns), sink_(std::move(sink)) {}
+
+  void begin() override { sink_(R"({"tarnwick": 1, "sites": [)"); }
+
+  void add(const ListedSite& site) override {
+    Json object = Json::object();
+    const auto put = [&](ListField field, Json value) { object[std::string(nameOf(field))] = std::move(value); };
+    put(ListField::idSite, site.idSite ? Json(*site.idSite) : Json());
+    put(ListField::url, jsonText(site.site.url));
+    put(ListField::method, jsonText(site.site.method));
+    put(ListField::active, site.site.active);
+    put(ListField::tInterval, numberOf(site.site.tInterval));
+    put(ListField::alertEmail, site.site.alertEmail);
+    put(ListField::email, jsonText(site.site.email));
+    put(ListField::sUserName, jsonText(site.site.sUserName));
+    if (columns_.has(ListField::sPassWord)) {
+      put(ListField::sPassWord, jsonText(site.site.sPassWord));
+    }
+    put(ListField::postVars, postVars(site.postVars));
+    if (columns_.has(ListField::baseline)) {
+      put(ListField::baseline, jsonText(site.baseline));
+    }
+    sink_(std::exchange(separator_, ",\n") + object.dump());
+  }
+
+  void end() override { sink_("\n]}\n"); }
+
+ private:
+  // The interval is a whole number in every list that the program keeps.
+  static Json numberOf(const std::string& text) {
+    const Json number = Json::parse(text, nullptr, false);
+    return number.is_number() ? number : jsonText(text);
+  }
+
+  static Json postVars(const std::vector<PostVar>& vars) {
+    Json json = Json::array();
+    for (const PostVar& var : vars) {
+      json.push_back({{"pname", jsonText(var.name)}, {"pvalue", jsonText(var.value)}});
+    }
+    return json;
+  }
+
+  ListColumns columns_;
+  ByteSink sink_;
+  std::string separator_ = "\n";
+};
+
+}  // namespace
+
+std::unique_ptr<SiteListWriter> makeJsonWriter(ListColumns columns, ByteSink sink) {
+  return std::make_unique<JsonWriter>(columns, std::move(sink));
+}
+
+}  // namespace tarnwick

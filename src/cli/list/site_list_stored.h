@@ -1,0 +1,21 @@
+#pragma once
+
+#include <functional>
+
+#include "cli/list/site_facts.h"
+#include "cli/list/site_list.h"
+#include "program/m.h"
+
+namespace tarnwick {
+
+/// A stored site as a file tells of it: with the method and the interval that take effect where none is stored.
+SiteDraft listedForm(SiteDraft stored);
+
+/// Hands over the stored sites by rising id, all of one state of the database, while others may write to it. Baselines
+/// are read one at a time, and only when they are columns. Raises DataAccessError.
+void readListedSites(m& data, ListColumns columns, const std::function<void(const ListedSite& site)>& take);
+
+/// The stored id; raises OverflowError, which names it, when it does not fit 16 bits.
+std::int16_t idOf(const SiteFacts& facts);
+
+}  // namespace tarnwick

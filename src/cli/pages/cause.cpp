@@ -1,0 +1,53 @@
+#include "cli/pages/cause.h"
+
+#include <algorithm>
+
+#include "base/utf8.h"
+#include "cli/pages/unified_diff.h"
+#include "cli/terminal/console.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kExcerpt = 48;
+constexpr std::size_t kBeforeDifference = 16;
+
+// What a line holds around its byte `at`: a page may be one line of many thousand characters.
+std::string excerpt(std::string_view line, std::size_t at) {
+  std::size_t begin = at > kBeforeDifference ? at - kBeforeDifference : 0;
+  while (begin > 0 && begin < line.size() && (static_cast<unsigned char>(line[begin]) & 0xc0U) == 0x80U) {
+    --begin;  // not in the middle of a character
+  }
+  line.remove_prefix(std::min(begin, line.size()));
+  return (begin > 0 ? "\"..." : "\"") + visibleText(line, kExcerpt) + "\"";
+}
+
+}  // namespace
+
+std::string causeOf(const CheckResult& failed, std::string_view baseline) {
+  if (failed.errCode != 0 || !failed.errDescription.empty()) {
+    return visibleText(failed.errDescription);
+  }
+  const FirstDifference difference = firstDifference(baseline, failed.page);
+  if (difference.line == 0) {
+    return "the baseline was changed meanwhile";
+  }
+  const auto place = std::mismatch(difference.before.begin(), difference.before.end(), difference.after.begin(),
+                                   difference.after.end());
+  const auto column = static_cast<std::size_t>(place.first - difference.before.begin());
+  const std::string line = "line " + std::to_string(difference.line);
+  if (difference.before == difference.after) {
+    return line + ": the page " + (baseline.size() < failed.page.size() ? "goes on behind" : "ends with") +
+           " this line, the baseline " + (baseline.size() < failed.page.size() ? "ends with it" : "goes on");
+  }
+  return line + ": expected " + excerpt(difference.before, column) + ", found " + excerpt(difference.after, column);
+}
+
+std::string noteOf(const CheckResult& passed) {
+  if (passed.errCode == 0 && passed.errDescription.empty()) {
+    return {};
+  }
+  return "the fetch fails, and its text is the baseline: " + visibleText(passed.errDescription);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,182 @@
+#include "cli/terminal/console.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <iostream>
+
+#include "base/utf8.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::string_view kCut = "...";
+
+constexpr std::string_view codeOf(Console::Colour colour) {
+  switch (colour) {
+    case Console::Colour::red:
+      return "\x1b[31m";
+    case Console::Colour::green:
+      return "\x1b[32m";
+    case Console::Colour::cyan:
+      return "\x1b[36m";
+    case Console::Colour::bold:
+      return "\x1b[1m";
+    case Console::Colour::plain:
+      break;
+  }
+  return "";
+}
+
+std::string escapeOf(unsigned char byte) {
+  switch (byte) {
+    case '\n':
+      return "\\n";
+    case '\r':
+      return "\\r";
+    case '\t':
+      return "\\t";
+    default:
+      break;
+  }
+  std::array<char, 5> escape{};
+  std::snprintf(escape.data(), escape.size(), "\\x%02x", byte);
+  return escape.data();
+}
+
+// The control characters, among them those above 0x7f that some terminals obey, and what reorders text.
+bool movesTheCursor(std::string_view character) {
+  const auto first = static_cast<unsigned char>(character.front());
+  if (character.size() == 1) {
+    return first < 0x20 || first == 0x7f;
+  }
+  const auto second = static_cast<unsigned char>(character[1]);
+  if (character.size() == 2) {
+    const bool arabicLetterMark = first == 0xd8 && second == 0x9c;  // U+061C
+    return (first == 0xc2 && second < 0xa0) || arabicLetterMark;
+  }
+  const auto third = static_cast<unsigned char>(character[2]);
+  // U+200E, U+200F, U+2028 to U+202E and U+2066 to U+2069
+  return character.size() == 3 && first == 0xe2 &&
+         ((second == 0x80 && (third == 0x8e || third == 0x8f || (third >= 0xa8 && third <= 0xae))) ||
+          (second == 0x81 && third >= 0xa6 && third <= 0xa9));
+}
+
+}  // namespace
+
+std::ostream& Console::out() {
+  noteFailure();
+  endLive();
+  return out_;
+}
+
+void Console::say(std::string_view line) {
+  const std::string below = live_;
+  out() << line << '\n';
+  out_.flush();
+  noteFailure();
+  if (!below.empty()) {
+    live(below);
+  }
+}
+
+void Console::complain(std::string_view line) {
+  endLive();
+  hasComplained_ = true;
+  err_ << "tarnwickctl: " << line << '\n';
+  err_.flush();
+}
+
+std::string Console::ask(std::string_view question) {
+  endLive();
+  err_ << question << ' ';
+  err_.flush();
+  std::string answer;
+  std::getline(std::cin, answer);
+  return answer;
+}
+
+void Console::live(const std::string& text) {
+  if (!facts_.isTerminal || text == live_) {
+    return;
+  }
+  // The last column stays free: a character there would move some terminals to the next line.
+  const std::size_t width = width_();
+  live_ = text;
+  out_ << "\r\x1b[K" << visibleText(text, width > 1 ? width - 1 : 1);
+  out_.flush();
+  noteFailure();
+}
+
+void Console::endLive() {
+  if (!live_.empty()) {
+    live_.clear();
+    out_ << "\r\x1b[K";
+    out_.flush();
+  }
+}
+
+std::string Console::coloured(Colour colour, std::string_view text) const {
+  const std::string_view code = facts_.colour ? codeOf(colour) : "";
+  return code.empty() ? std::string(text) : std::string(code) + std::string(text) + "\x1b[0m";
+}
+
+bool Console::good() const { return out_.good(); }
+
+// Only the attempt itself tells the reason, and not for long.
+void Console::noteFailure() {
+  if (!out_.good() && cause_ == 0) {
+    cause_ = errno != 0 ? errno : EIO;
+  }
+}
+
+std::error_code Console::flush() {
+  endLive();
+  out_.flush();
+  noteFailure();
+  return failure();
+}
+
+void Console::writeOn() {
+  out_.clear();
+  cause_ = 0;
+}
+
+std::size_t characterCount(std::string_view text) {
+  std::size_t count = 0;
+  for (; !text.empty(); text.remove_prefix(utf8Length(text).value_or(1))) {
+    ++count;
+  }
+  return count;
+}
+
+std::string visibleText(std::string_view bytes, std::size_t longest) {
+  std::string shown;
+  std::size_t count = 0;
+  std::size_t cutAt = 0;  // where the text is cut should it turn out to be too long
+  while (!bytes.empty()) {
+    const auto length = utf8Length(bytes);
+    const std::string_view character = bytes.substr(0, length.value_or(1));
+    std::string piece;
+    if (!length || movesTheCursor(character)) {
+      for (const char byte : character) {
+        piece += escapeOf(static_cast<unsigned char>(byte));
+      }
+    } else {
+      piece = character;
+    }
+    const std::size_t width = length && piece.size() == character.size() ? 1 : piece.size();
+    if (count + width > longest) {
+      return shown.substr(0, cutAt) + std::string(kCut.substr(0, longest));
+    }
+    shown += piece;
+    count += width;
+    if (count + kCut.size() <= longest) {
+      cutAt = shown.size();
+    }
+    bytes.remove_prefix(character.size());
+  }
+  return shown;
+}
+
+}  // namespace tarnwick

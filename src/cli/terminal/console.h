@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "platform/terminal.h"
+
+namespace tarnwick {
+
+/// Where the tool writes: data on one stream, complaints on the other, and on a terminal one line that is written over
+/// again and again while something is going on. All texts are UTF-8 or raw bytes of a page.
+class Console {
+ public:
+  enum class Colour { plain, red, green, cyan, bold };
+
+  /// `width` tells how many characters a line of the terminal holds.
+  Console(
+      std::ostream& out, std::ostream& err, TerminalFacts facts,
+      std::function<std::size_t()> width = [] { return kUsualTerminalWidth; })
+      : out_(out), err_(err), facts_(facts), width_(std::move(width)) {}
+
+  /// The stream of the data, with the live line out of the way.
+  std::ostream& out();
+  /// Writes a line of data and hands it on at once: who reads a pipe sees it now.
+  void say(std::string_view line);
+  /// Writes a line about what went wrong, or about what is being done: never data.
+  void complain(std::string_view line);
+  /// Shows `text` on the live line, cut to the terminal's width; nothing when the output is no terminal.
+  void live(const std::string& text);
+  /// Takes the live line away.
+  void endLive();
+
+  /// Asks on the stream of the complaints, and returns the line that the user types; empty at the end of the input.
+  std::string ask(std::string_view question);
+
+  bool isTerminal() const { return facts_.isTerminal; }
+  /// Whether somebody is there to be asked.
+  bool canAsk() const { return facts_.canAsk; }
+  bool hasColour() const { return facts_.colour; }
+  /// `text` in a colour, where colours are wanted.
+  std::string coloured(Colour colour, std::string_view text) const;
+  /// False once something could not be written, for instance since the reader of a pipe has gone.
+  bool good() const;
+  /// Hands on all data that was written, and tells why that cannot be done; no error when it is all out.
+  std::error_code flush();
+  /// Why something could not be written; no error when all could.
+  std::error_code failure() const { return {cause_, std::generic_category()}; }
+  /// Lets what follows be written again after a failure.
+  void writeOn();
+  /// Whether there has been something to complain of.
+  bool hasComplained() const { return hasComplained_; }
+
+ private:
+  void noteFailure();
+
+  std::ostream& out_;
+  std::ostream& err_;
+  TerminalFacts facts_;
+  std::function<std::size_t()> width_;
+  std::string live_;
+  bool hasComplained_ = false;
+  /// The system's number of the first failure to write; 0 before it.
+  int cause_ = 0;
+};
+
+/// Bytes as they may be shown in a line of text: what would move the cursor, change the terminal or break the line is
+/// written as an escape like "\n" or "\x1b", and so are bytes that are no UTF-8. Cut to `longest` characters.
+std::string visibleText(std::string_view bytes, std::size_t longest = std::string_view::npos);
+
+/// How many characters a UTF-8 text has.
+std::size_t characterCount(std::string_view text);
+
+}  // namespace tarnwick

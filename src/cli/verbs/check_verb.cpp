@@ -1,0 +1,172 @@
+#include <algorithm>
+#include <set>
+
+#include "cli/pages/cause.h"
+#include "cli/terminal/json_text.h"
+#include "cli/verbs/verbs.h"
+#include "platform/interrupts.h"
+#include "program/program.h"
+#include "store/site_table.h"
+
+namespace tarnwick {
+namespace {
+
+// A command that names more is none to be typed.
+constexpr std::size_t kMostNamed = 10;
+
+struct CheckOptions {
+  std::vector<std::int16_t> ids;
+  bool due = false;
+  bool json = false;
+};
+
+/// Shows a pass as it goes on: a line for each site, and on a terminal where the pass stands.
+class CheckView final : public SilentView {
+ public:
+  CheckView(Console& console, bool json) : console_(console), json_(json), array_(console) {}
+
+  /// What the results are told from; set once the program is there.
+  void readBaselinesFrom(m& data) { data_ = &data; }
+
+  void showStatus(const std::string& text) override {
+    if (!json_) {
+      console_.live(text);
+    }
+  }
+
+  void showResult(const CheckResult& result) override {
+    ++(result.passed ? up_ : down_);
+    if (json_) {
+      array_.add(asJson(result));
+      return;
+    }
+    const std::string state = result.passed ? console_.coloured(Console::Colour::green, "up  ")
+                                            : console_.coloured(Console::Colour::red, "down");
+    std::string line = state + " " + std::to_string(result.idSite) + " " + visibleText(result.url);
+    const std::string why = reasonOf(result);
+    line += why.empty() ? why : ": " + why;
+    console_.say(line);
+  }
+
+  void end() {
+    if (json_) {
+      array_.end();
+    }
+    console_.endLive();
+  }
+
+  std::size_t up() const { return up_; }
+  std::size_t down() const { return down_; }
+
+ private:
+  Json asJson(const CheckResult& result) {
+    Json json{{"idSite", result.idSite},
+              {"url", jsonText(result.url)},
+              {"status", result.passed},
+              {"errCode", result.errCode},
+              {"errDescription", jsonText(result.errDescription)}};
+    const std::string why = reasonOf(result);
+    json["cause"] = why.empty() ? Json() : Json(why);
+    return json;
+  }
+
+  std::string reasonOf(const CheckResult& result) {
+    return result.passed ? noteOf(result) : causeOf(result, data_->getContentCompare(result.idSite));
+  }
+
+  Console& console_;
+  bool json_;
+  JsonArray array_;
+  m* data_ = nullptr;
+  std::size_t up_ = 0;
+  std::size_t down_ = 0;
+};
+
+TextTable chosenSites(m& data, const CheckOptions& options) {
+  if (options.ids.empty()) {
+    return data.getArraySitesActiveTrue(options.due ? site_choice::due : site_choice::active);
+  }
+  TextTable chosen(site_column::last);
+  for (const std::int16_t id : std::set<std::int16_t>(options.ids.begin(), options.ids.end())) {
+    const TextTable site = data.getArraySites(id);
+    if (id <= 0 || site.lastRow() == 0) {
+      throw noSuchSite(id);
+    }
+    const std::size_t row = chosen.addRow();
+    for (std::size_t column = site_column::idSite; column <= site_column::last; ++column) {
+      chosen.at(column, row) = site.at(column, 1);
+    }
+  }
+  return chosen;
+}
+
+// A site that was never checked is never due, and who only ever asks for those that are would never hear of it.
+void tellWhatIsNeverDue(Console& console, m& data) {
+  const TextTable sites = data.getArraySitesActiveTrue(site_choice::active);
+  std::size_t count = 0;
+  std::string ids;
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    if (sites.at(site_column::lastChecked, row) == "NULL" && ++count <= kMostNamed) {
+      ids += " " + sites.at(site_column::idSite, row);
+    }
+  }
+  if (count > 0) {
+    console.complain("Left out, since never checked: " + std::to_string(count) + (count == 1 ? " site" : " sites") +
+                     ". Check once with: tarnwickctl check" + (count > kMostNamed ? "" : ids));
+  }
+}
+
+int check(Tool& tool, const CheckOptions& options) {
+  Console& console = tool.console();
+  CheckView view(console, options.json);
+  Program program(tool.programFolder(), tool.services(), view);
+  view.readBaselinesFrom(program.data());
+  const Interrupts interrupts([&program] { program.close(); });
+
+  TextTable sites = chosenSites(program.data(), options);
+  const std::size_t count = sites.lastRow();
+  if (count == 0) {
+    console.complain(options.due ? "No site is due."
+                                 : "There is no active site to check. Add one with: tarnwickctl add URL");
+  }
+  if (options.due) {
+    tellWhatIsNeverDue(console, program.data());
+  }
+  bool whole = true;
+  try {
+    whole = program.run().testOnce(std::move(sites));
+  } catch (...) {
+    view.end();
+    throw;
+  }
+  view.end();
+  if (!whole) {
+    console.complain("Interrupted: " + std::to_string(view.up() + view.down()) + " of " + std::to_string(count) +
+                     " sites were checked.");
+    return exit_status::failed;
+  }
+  return view.down() == 0 ? exit_status::ok : exit_status::down;
+}
+
+}  // namespace
+
+void addCheckVerb(CLI::App& app, Action& chosen) {
+  auto options = std::make_shared<CheckOptions>();
+  CLI::App* verb =
+      app.add_subcommand("check", "Check sites once, now: all active ones, those named, or those that are due");
+  CLI::Option* ids = verb->add_option("ID", options->ids, "The sites to check, active or not");
+  ids->check(siteNumber());
+  verb->add_flag("--due", options->due,
+                 "Only the active sites whose interval has elapsed; one that was never checked is none of them")
+      ->excludes(ids);
+  addJsonFlag(*verb, options->json);
+  verb->footer(
+      "Each result is recorded, and each failure raises the alerts that the settings switch on, as in a run.\n"
+      "Exit status: 0 when every site is up, 1 when one is down, 2 when the check could not be made.\n" +
+      examples({{"check", "every active site, a line each"},
+                {"check 3 7", "two sites"},
+                {"check --due --json", "what is due, for a script"}}));
+  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return check(tool, *options); }; });
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,295 @@
+#include <algorithm>
+#include <ostream>
+
+#include "cli/list/site_import.h"
+#include "cli/list/site_list_csv.h"
+#include "cli/list/site_list_json.h"
+#include "cli/list/site_list_stored.h"
+#include "cli/terminal/consent.h"
+#include "cli/terminal/input_file.h"
+#include "cli/terminal/json_text.h"
+#include "cli/verbs/verbs.h"
+#include "platform/private_file.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kStream = "-";
+
+enum class Format { csv, json };
+
+struct ExportOptions {
+  std::string file;
+  std::string format;
+  bool noPasswords = false;
+  bool baselines = false;
+};
+
+struct ImportVerbOptions {
+  std::string file;
+  std::string format;
+  ImportOptions how;
+  bool dryRun = false;
+  bool yes = false;
+  bool json = false;
+};
+
+std::string lowerCase(std::string text) {
+  std::ranges::transform(text, text.begin(),
+                         [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return text;
+}
+
+Format formatOf(const std::string& file, const std::string& format) {
+  const std::string end =
+      format.empty() ? lowerCase(file.substr(std::min(file.rfind('.'), file.size()))) : "." + format;
+  if (end == ".csv") {
+    return Format::csv;
+  }
+  if (end == ".json") {
+    return Format::json;
+  }
+  throw std::runtime_error("The format of \"" + visibleText(file) +
+                           "\" does not show in its name. Add --format csv or --format json.");
+}
+
+std::string shownName(const std::string& file) { return file == kStream ? "standard input" : visibleText(file); }
+
+std::string countText(std::size_t count) { return std::to_string(count) + (count == 1 ? " site" : " sites"); }
+
+/// Tells which of the sites that are exported an import would refuse, since the list has not only been edited here.
+class ImportWarnings {
+ public:
+  explicit ImportWarnings(Console& console) : console_(console) {}
+
+  void look(const ListedSite& site) {
+    ListFaults faults;
+    ListValues values(0, faults);
+    values.id(std::to_string(site.idSite.value_or(0)));
+    values.method(site.site.method);
+    values.interval(site.site.tInterval);
+    checkTexts(site.site, values);
+    if (!faults.none() && ++count_ <= ListFaults::kMostKept) {
+      console_.complain("An import will refuse site " + std::to_string(site.idSite.value_or(0)) + ": " +
+                        faults.kept().front().text + ".");
+    }
+  }
+
+  void end() {
+    if (count_ > ListFaults::kMostKept) {
+      console_.complain("An import will refuse " + countText(count_) + "; the first " +
+                        std::to_string(ListFaults::kMostKept) + " are named.");
+    }
+  }
+
+ private:
+  Console& console_;
+  std::size_t count_ = 0;
+};
+
+std::size_t writeList(Tool& tool, Format format, ListColumns columns, const ByteSink& sink) {
+  const auto writer = format == Format::csv ? makeCsvWriter(columns, sink) : makeJsonWriter(columns, sink);
+  ImportWarnings warnings(tool.console());
+  std::size_t count = 0;
+  writer->begin();
+  readListedSites(tool.data(), columns, [&](const ListedSite& site) {
+    writer->add(site);
+    warnings.look(site);
+    ++count;
+  });
+  writer->end();
+  warnings.end();
+  return count;
+}
+
+int exportList(Tool& tool, const ExportOptions& options) {
+  const Format format = formatOf(options.file, options.format);
+  const ListColumns columns{.passwords = !options.noPasswords, .baselines = options.baselines};
+  Console& console = tool.console();
+  if (options.file == kStream) {
+    std::ostream& out = console.out();
+    writeList(tool, format, columns, [&out](std::string_view bytes) { out << bytes; });
+    if (console.flush()) {
+      throw std::runtime_error("Standard output took not all of the list.");
+    }
+    return exit_status::ok;
+  }
+  tool.data();  // a folder without a list is told before anything is made
+  std::size_t count = 0;
+  writePrivateFile(options.file, [&](const ByteSink& sink) { count = writeList(tool, format, columns, sink); });
+  console.say("Exported " + countText(count) + " to " + shownName(options.file) + ".");
+  return exit_status::ok;
+}
+
+std::vector<ListedSite> readList(const ImportVerbOptions& options, ListFaults& faults) {
+  const Format format = formatOf(options.file, options.format);
+  const std::string text = readInput(options.file);
+  return format == Format::csv ? readSiteListCsv(text, faults) : readSiteListJson(text, faults);
+}
+
+std::vector<std::string> fieldNamesOf(const ImportStep& step) {
+  std::vector<std::string> names;
+  for (const std::string_view name : kListFieldNames) {
+    if (step.fields.has(*listFieldOf(name)) && name != nameOf(ListField::idSite)) {
+      names.emplace_back(name);
+    }
+  }
+  return names;
+}
+
+std::string lineOf(const ImportStep& step) {
+  std::string line =
+      std::string(wordOf(step.action)) + " " + std::to_string(step.idSite) + " " + visibleText(step.listed.site.url);
+  if (step.action == ImportStep::Action::change) {
+    std::string names;
+    for (const std::string& name : fieldNamesOf(step)) {
+      names += (names.empty() ? "" : ", ") + name;
+    }
+    line += " (" + names + ")";
+  }
+  return line;
+}
+
+Json jsonOf(const ImportPlan& plan, bool dryRun) {
+  using enum ImportStep::Action;
+  Json sites = Json::array();
+  for (const ImportStep& step : plan.steps) {
+    Json site{{"action", wordOf(step.action)}, {"idSite", step.idSite}, {"url", jsonText(step.listed.site.url)}};
+    if (step.action == change) {
+      site["fields"] = fieldNamesOf(step);
+    }
+    sites.push_back(std::move(site));
+  }
+  return {{"dryRun", dryRun},
+          {"added", plan.count(add)},
+          {"changed", plan.count(change)},
+          {"deleted", plan.count(remove)},
+          {"unchanged", plan.unchanged},
+          {"sites", std::move(sites)}};
+}
+
+void tell(Console& console, const ImportPlan& plan, const ImportVerbOptions& options) {
+  using enum ImportStep::Action;
+  if (options.json) {
+    sayJson(console, jsonOf(plan, options.dryRun));
+    return;
+  }
+  const auto count = [&](ImportStep::Action action) { return std::to_string(plan.count(action)); };
+  const std::string unchanged = std::to_string(plan.unchanged) + " unchanged.";
+  if (options.dryRun) {
+    for (const ImportStep& step : plan.steps) {
+      console.out() << lineOf(step) << '\n';
+    }
+    console.say(count(add) + " to add, " + count(change) + " to change, " + count(remove) + " to delete, " + unchanged);
+    return;
+  }
+  console.say(count(add) + " added, " + count(change) + " changed, " + count(remove) + " deleted, " + unchanged);
+}
+
+void complainOf(Console& console, const std::string& file, const ListFaults& faults) {
+  for (const ListFaults::Fault& fault : faults.kept()) {
+    console.complain(shownName(file) + ", line " + std::to_string(fault.line) + ": " + fault.text + ".");
+  }
+  const std::size_t kept = faults.kept().size();
+  console.complain("Nothing was imported" +
+                   (faults.count() > kept ? "; " + std::to_string(faults.count() - kept) + " more faults are not shown."
+                                          : std::string(".")));
+}
+
+ImportPlan planOrRaise(m& data, std::vector<ListedSite> sites, const ImportOptions& how, ListFaults& faults) {
+  ImportPlan plan = planImport(data, std::move(sites), how, faults);
+  if (!faults.none()) {
+    throw SiteListError(faults);
+  }
+  return plan;
+}
+
+// A file without a site is more often a slip than the wish to have none.
+bool mayReplace(Tool& tool, const ImportVerbOptions& options, const std::vector<ListedSite>& sites) {
+  const std::size_t stored = sites.empty() && options.how.replace ? tool.data().getArraySites(0).lastRow() : 0;
+  return stored == 0 || consents(tool.console(), options.yes,
+                                 "The file has no site. Delete all that are in the list (" + std::to_string(stored) +
+                                     ") with their POST variables and baselines?");
+}
+
+int importList(Tool& tool, const ImportVerbOptions& options) {
+  ListFaults faults;
+  std::vector<ListedSite> sites = readList(options, faults);
+  m& data = tool.data();
+  if (!options.dryRun && faults.none() && !mayReplace(tool, options, sites)) {
+    return exit_status::failed;
+  }
+  try {
+    if (options.dryRun) {
+      const Snapshot oneState(data.database());
+      tell(tool.console(), planOrRaise(data, std::move(sites), options.how, faults), options);
+      return exit_status::ok;
+    }
+    Transaction whole(data.database());
+    const ImportPlan plan = planOrRaise(data, std::move(sites), options.how, faults);
+    carryOut(data, plan);
+    whole.commit();
+    tell(tool.console(), plan, options);
+    return exit_status::ok;
+  } catch (const SiteListError& error) {
+    complainOf(tool.console(), options.file, error.faults());
+    return exit_status::failed;
+  }
+}
+
+void addFile(CLI::App& verb, std::string& file, std::string& format, const char* stream) {
+  verb.add_option("FILE", file, std::string("The file, whose name ends in .csv or .json; - is ") + stream)->required();
+  verb.add_option("--format", format, "The file's format, whatever its name: csv or json")
+      ->check(CLI::IsMember({"csv", "json"}));
+}
+
+void addExportVerb(CLI::App& app, Action& chosen) {
+  auto options = std::make_shared<ExportOptions>();
+  CLI::App* verb = app.add_subcommand("export", "Write the list of sites to a CSV or JSON file");
+  addFile(*verb, options->file, options->format, "standard output");
+  verb->add_flag("--no-passwords", options->noPasswords, "Leave the passwords out; an import then keeps those stored");
+  verb->add_flag("--baselines", options->baselines, "Write the pages that the sites are compared with as well");
+  verb->footer(
+      "The file holds what has been set for each site, with its POST variables; what checks have found is not part of "
+      "it. Only you can read it, and one that is there already is replaced when the new one is complete.\n" +
+      examples({{"export sites.csv", "for a spreadsheet, or for another computer"},
+                {"export --baselines sites.json", "a copy of the whole list"},
+                {"export - --format json --no-passwords", "to standard output"}}));
+  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return exportList(tool, *options); }; });
+}
+
+void addImportVerb(CLI::App& app, Action& chosen) {
+  auto options = std::make_shared<ImportVerbOptions>();
+  CLI::App* verb = app.add_subcommand("import", "Take sites from a CSV or JSON file into the list");
+  addFile(*verb, options->file, options->format, "standard input");
+  verb->add_flag("--as-new", options->how.asNew, "Add every site as a new one, whatever its id in the file");
+  CLI::Option* replace =
+      verb->add_flag("--replace", options->how.replace, "Delete the sites that the file does not name");
+  verb->add_flag("--yes", options->yes, "Do not ask when the file has no site, so that --replace deletes every one")
+      ->needs(replace);
+  verb->add_flag("--dry-run", options->dryRun, "Only say what would be done");
+  addJsonFlag(*verb, options->json);
+  verb->footer(
+      "A site whose id is in the list is changed, in the fields that the file has; one with another id is added under "
+      "it, and one without an id is added as a new one. All of the file is taken, or nothing: each fault is told with "
+      "its line.\n"
+      "A CSV file names its columns in the first line, separated by commas. Only url must be there; the others are "
+      "idSite, method (get or post), active, tInterval (minutes), alertEmail, email, sUserName, sPassWord, postVars "
+      "(name=value&name=value, other bytes than letters and digits as %XX), baseline (base64). An empty idSite, "
+      "method, tInterval or yes/no is as one left out. A JSON file has the form {\"tarnwick\": 1, \"sites\": "
+      "[{\"url\": ...}, ...]}.\n" +
+      examples({{"import sites.csv --dry-run", "what would be added and changed"},
+                {"import sites.csv", "do it"},
+                {"import sites.json --replace", "make the list as the file has it"},
+                {"import more.csv --as-new", "the list of somebody else, beside one's own"}}));
+  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return importList(tool, *options); }; });
+}
+
+}  // namespace
+
+void addExchangeVerbs(CLI::App& app, Action& chosen) {
+  addExportVerb(app, chosen);
+  addImportVerb(app, chosen);
+}
+
+}  // namespace tarnwick

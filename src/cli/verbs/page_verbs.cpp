@@ -1,0 +1,205 @@
+#include <algorithm>
+#include <ostream>
+
+#include "cli/pages/unified_diff.h"
+#include "cli/terminal/input_file.h"
+#include "cli/terminal/json_text.h"
+#include "cli/verbs/verbs.h"
+#include "platform/interrupts.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::string_view kFailedFetch = "11:";
+
+struct BaselineOptions {
+  std::int16_t idSite = 0;
+  std::string action = "show";
+  std::string file;
+  bool force = false;
+  bool json = false;
+};
+
+struct DiffOptions {
+  std::int16_t idSite = 0;
+  bool json = false;
+};
+
+std::string sizeText(std::size_t bytes) { return std::to_string(bytes) + (bytes == 1 ? " byte" : " bytes"); }
+
+int told(Tool& tool, const BaselineOptions& options, const std::string& text) {
+  const std::size_t size = tool.data().getContentCompare(options.idSite).size();
+  if (options.json) {
+    sayJson(tool.console(), {{"idSite", options.idSite}, {"size", size}});
+  } else {
+    tool.console().say(text + (size == 0 ? "" : " (" + sizeText(size) + ")"));
+  }
+  return exit_status::ok;
+}
+
+int showBaseline(Tool& tool, const BaselineOptions& options) {
+  const std::string page = tool.data().getContentCompare(options.idSite);
+  if (options.json) {
+    sayJson(tool.console(), {{"idSite", options.idSite}, {"size", page.size()}, {"baseline", jsonText(page)}});
+    return exit_status::ok;
+  }
+  if (page.empty()) {
+    tool.console().complain("Site " + std::to_string(options.idSite) +
+                            " has no baseline yet: the next page that is fetched becomes it.");
+  }
+  if (tool.console().isTerminal()) {
+    // Nothing of a page may act on the terminal.
+    for (std::string_view rest = page; !rest.empty();) {
+      const std::string_view line = rest.substr(0, rest.find('\n'));
+      tool.console().out() << visibleText(line) << '\n';
+      rest.remove_prefix(std::min(rest.size(), line.size() + 1));
+    }
+  } else {
+    // Every byte as it is stored, so that it can be piped into a file and set again.
+    tool.console().out() << page;
+  }
+  return exit_status::ok;
+}
+
+int loadBaseline(Tool& tool, const BaselineOptions& options) {
+  const Interrupts interrupts([&tool] { tool.services().pump.close(); });
+  const std::string page = tool.data().getHtmlFromSite(options.idSite);
+  if (tool.services().pump.closing()) {
+    tool.console().complain("Interrupted; the baseline is as it was.");
+    return exit_status::failed;
+  }
+  const TransferControl& inet = tool.data().single().sInet();
+  if (inet.responseCode() != 0) {
+    throw std::runtime_error("The page of site " + std::to_string(options.idSite) +
+                             " could not be fetched; the baseline is as it was. " + visibleText(inet.responseInfo()));
+  }
+  if (page.empty()) {
+    throw std::runtime_error("The page of site " + std::to_string(options.idSite) +
+                             " is empty, which cannot be a baseline; the baseline is as it was.");
+  }
+  tool.data().updateContentCompare(options.idSite, page);
+  return told(tool, options, "The page that was fetched now is the baseline.");
+}
+
+int setBaseline(Tool& tool, const BaselineOptions& options) {
+  const std::string page = readInput(options.file);
+  if (page.empty()) {
+    throw std::runtime_error(options.file + " is empty. To remove the baseline, use: tarnwickctl baseline " +
+                             std::to_string(options.idSite) + " clear");
+  }
+  if (page.size() > kLargestPage) {
+    throw std::runtime_error(options.file + " is larger than the largest page that is fetched, 64 MiB.");
+  }
+  tool.data().updateContentCompare(options.idSite, page);
+  return told(tool, options, "The file is the baseline.");
+}
+
+int acceptLatest(Tool& tool, const BaselineOptions& options) {
+  const std::string page = tool.data().getContentRuntime(options.idSite);
+  const std::string check = "tarnwickctl check " + std::to_string(options.idSite);
+  if (page.empty()) {
+    throw std::runtime_error("Site " + std::to_string(options.idSite) + " has no latest page. Fetch it with: " + check);
+  }
+  if (page.starts_with(kFailedFetch) && !options.force) {
+    throw std::runtime_error("The latest check of site " + std::to_string(options.idSite) + " brought no page but \"" +
+                             visibleText(page, 100) + "\". Check again with: " + check +
+                             "; if that is the page's own text, use --force.");
+  }
+  tool.data().updateContentCompare(options.idSite, page);
+  return told(tool, options, "The latest page is the baseline.");
+}
+
+int baseline(Tool& tool, const BaselineOptions& options) {
+  requireListed(tool, options.idSite);
+  if (!options.file.empty() && options.action != "set") {
+    throw std::runtime_error("Only \"set\" takes a file.");
+  }
+  if (options.force && options.action != "accept") {
+    throw std::runtime_error("Only \"accept\" takes --force.");
+  }
+  if (options.action == "load") {
+    return loadBaseline(tool, options);
+  }
+  if (options.action == "set") {
+    if (options.file.empty()) {
+      throw std::runtime_error("Name the file: tarnwickctl baseline " + std::to_string(options.idSite) +
+                               " set FILE (- for standard input)");
+    }
+    return setBaseline(tool, options);
+  }
+  if (options.action == "clear") {
+    tool.data().clearContentCompare(options.idSite);
+    return told(tool, options, "The baseline is cleared: the next page that is fetched becomes it.");
+  }
+  return options.action == "accept" ? acceptLatest(tool, options) : showBaseline(tool, options);
+}
+
+void printDiffLine(Console& console, const DiffLine& line) {
+  using enum Console::Colour;
+  const Console::Colour colour = line.mark == '-' ? red : line.mark == '+' ? green : line.mark == '@' ? cyan : plain;
+  // A hunk's head brings its marks along; on a terminal nothing of a page may act on it.
+  const std::string mark = line.mark == '@' ? "" : std::string(1, line.mark);
+  const std::string text = console.isTerminal() ? visibleText(line.text) : std::string(line.text);
+  console.out() << console.coloured(colour, mark + text) << '\n';
+}
+
+int diff(Tool& tool, const DiffOptions& options) {
+  requireListed(tool, options.idSite);
+  const std::string id = std::to_string(options.idSite);
+  const std::string before = tool.data().getContentCompare(options.idSite);
+  const std::string after = tool.data().getContentRuntime(options.idSite);
+  if (after.empty()) {
+    throw std::runtime_error("Site " + id + " has no latest page yet. Fetch it with: tarnwickctl check " + id);
+  }
+  Console& console = tool.console();
+  if (options.json) {
+    Json lines = Json::array();
+    unifiedDiff(before, after, [&](const DiffLine& line) {
+      lines.push_back(
+          jsonText(std::string(line.mark == '@' ? "" : std::string(1, line.mark)) + std::string(line.text)));
+    });
+    sayJson(console, {{"idSite", options.idSite}, {"equal", before == after}, {"diff", std::move(lines)}});
+  } else if (before != after) {
+    console.out() << console.coloured(Console::Colour::bold, "--- baseline of site " + id) << '\n'
+                  << console.coloured(Console::Colour::bold, "+++ latest page of site " + id) << '\n';
+    unifiedDiff(before, after, [&](const DiffLine& line) { printDiffLine(console, line); });
+  }
+  return before == after ? exit_status::ok : exit_status::down;
+}
+
+void addBaselineVerb(CLI::App& app, Action& chosen) {
+  auto options = std::make_shared<BaselineOptions>();
+  CLI::App* verb = app.add_subcommand("baseline", "Show or change the page that a site is compared with");
+  addSiteId(*verb, options->idSite)->required();
+  verb->add_option("ACTION", options->action,
+                   "show (default), load (fetch it from the URL now), set FILE, clear, accept (take the latest page)")
+      ->check(CLI::IsMember({"show", "load", "set", "clear", "accept"}));
+  verb->add_option("FILE", options->file, "The file for \"set\"; - is standard input");
+  verb->add_flag("--force", options->force, "For \"accept\": also a latest page that looks like a failed fetch");
+  addJsonFlag(*verb, options->json);
+  verb->footer(examples({{"baseline 3 > page.html", "the baseline, byte for byte"},
+                         {"baseline 3 set page.html", "an edited one"},
+                         {"baseline 3 accept", "what the last check fetched is how the page shall be"},
+                         {"baseline 3 load", "fetch the page now and take it"}}));
+  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return baseline(tool, *options); }; });
+}
+
+void addDiffVerb(CLI::App& app, Action& chosen) {
+  auto options = std::make_shared<DiffOptions>();
+  CLI::App* verb = app.add_subcommand("diff", "Compare a site's baseline with its latest page, as a unified diff");
+  addSiteId(*verb, options->idSite)->required();
+  addJsonFlag(*verb, options->json);
+  verb->footer("The latest page is that of the last check. Exit status: 0 when equal, 1 when they differ.\n" +
+               examples({{"diff 3", "what has changed, coloured on a terminal"},
+                         {"diff 3 > page.patch", "for the program patch"}}));
+  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return diff(tool, *options); }; });
+}
+
+}  // namespace
+
+void addPageVerbs(CLI::App& app, Action& chosen) {
+  addBaselineVerb(app, chosen);
+  addDiffVerb(app, chosen);
+}
+
+}  // namespace tarnwick

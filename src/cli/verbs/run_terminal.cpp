@@ -1,0 +1,183 @@
+#include "cli/verbs/run_terminal.h"
+
+#include <algorithm>
+#include <optional>
+#include <set>
+#include <utility>
+
+#include "cli/pages/cause.h"
+#include "store/site_table.h"
+
+namespace tarnwick {
+namespace {
+
+// Enough for a step of one for each site that there can be.
+constexpr std::int64_t kFullWidth = 1'000'000;
+
+std::string countText(std::size_t up, std::size_t down) {
+  return std::to_string(up) + " up, " + std::to_string(down) + " down";
+}
+
+/// Nothing for one that the program cannot use, which the pass tells of.
+std::optional<std::int16_t> idOf(const std::string& text) {
+  try {
+    return siteIdFromText(text);
+  } catch (const OverflowError&) {
+    return std::nullopt;
+  }
+}
+
+std::string sitesText(std::size_t count) { return std::to_string(count) + (count == 1 ? " site" : " sites"); }
+
+}  // namespace
+
+void RunTerminal::prepare(m& data) {
+  data_ = &data;
+  const TextTable sites = data.getArraySitesActiveTrue(site_choice::active);
+  active_ = sites.lastRow();
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    const std::string& status = sites.at(site_column::status, row);
+    const auto id = idOf(sites.at(site_column::idSite, row));
+    if (id && status != "NULL") {
+      known_[*id] = SqlValue(status).toBool();
+    }
+  }
+}
+
+void RunTerminal::begin() {
+  begun_ = true;
+  tell("Run started: " + sitesText(active_) + " active in " + data_->programFolder() + ".", "started",
+       {{"folder", jsonText(data_->programFolder())}, {"active", active_}});
+}
+
+void RunTerminal::end() {
+  console_.endLive();
+  if (begun_) {
+    tell("Run stopped.", "stopped", Json::object());
+  }
+  data_ = nullptr;
+}
+
+void RunTerminal::showStatus(const std::string& text) {
+  status_ = text;
+  showLive();
+}
+
+void RunTerminal::indicators(RunState state) {
+  if (state_ == RunState::start && state != RunState::start) {
+    endPass();
+  }
+  if (state == RunState::start && !begun_) {
+    begin();
+  }
+  state_ = state;
+  showLive();
+}
+
+void RunTerminal::showClock(const std::string& text) {
+  runTime_ = text;
+  showLive();
+}
+
+std::int64_t RunTerminal::fullProgressWidth() { return kFullWidth; }
+
+void RunTerminal::setProgressWidth(std::int64_t width) {
+  progress_ = width;
+  showLive();
+}
+
+void RunTerminal::showResult(const CheckResult& result) {
+  ++(result.passed ? pass_.up : pass_.down);
+  const auto before = known_.find(result.idSite);
+  const bool recovered = result.passed && before != known_.end() && !before->second;
+  known_[result.idSite] = result.passed;
+  if (result.passed && !recovered && !style_.verbose && !style_.json) {
+    return;
+  }
+  const std::string cause = result.passed ? noteOf(result) : causeOf(result, data_->getContentCompare(result.idSite));
+  const std::string state = result.passed ? console_.coloured(Console::Colour::green, "up  ")
+                                          : console_.coloured(Console::Colour::red, "down");
+  tell(state + " " + std::to_string(result.idSite) + " " + visibleText(result.url) + (recovered ? " (was down)" : "") +
+           (cause.empty() ? "" : ": " + cause),
+       "result",
+       {{"idSite", result.idSite},
+        {"url", jsonText(result.url)},
+        {"status", result.passed},
+        {"errCode", result.errCode},
+        {"errDescription", jsonText(result.errDescription)},
+        {"cause", cause.empty() ? Json() : Json(cause)}});
+}
+
+void RunTerminal::endPass() {
+  const Count pass = std::exchange(pass_, {});
+  const std::size_t count = pass.up + pass.down;
+  if (count > 0) {
+    tell("Checked " + sitesText(count) + ": " + countText(pass.up, pass.down) + ".", "pass",
+         {{"up", pass.up}, {"down", pass.down}});
+    forgetWhatIsNotWatched();
+  }
+}
+
+// Sites may be deleted or switched off while the run is on; the live line counts those that it still checks.
+void RunTerminal::forgetWhatIsNotWatched() {
+  if (!hasLiveLine()) {
+    return;
+  }
+  const TextTable sites = data_->getArraySitesActiveTrue(site_choice::active);
+  std::set<std::int16_t> watched;
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    if (const auto id = idOf(sites.at(site_column::idSite, row))) {
+      watched.insert(*id);
+    }
+  }
+  std::erase_if(known_, [&watched](const auto& site) { return !watched.contains(site.first); });
+}
+
+void RunTerminal::tell(const std::string& text, const char* event, const Json& details) {
+  const std::string now = dateTimeText(clock_.localNow());
+  if (style_.json) {
+    Json line{{"time", now}, {"event", event}};
+    line.update(details);
+    console_.say(line.dump());
+  } else {
+    console_.say(now + " " + text);
+  }
+  lookAfterTheOutput();
+}
+
+bool RunTerminal::hasLiveLine() const { return !style_.json && console_.isTerminal() && data_ != nullptr; }
+
+void RunTerminal::showLive() {
+  if (!hasLiveLine()) {
+    return;
+  }
+  const auto down = static_cast<std::size_t>(
+      std::count_if(known_.begin(), known_.end(), [](const auto& site) { return !site.second; }));
+  std::string line = runTime_.empty() ? std::string() : runTime_ + "  ";
+  line += countText(known_.size() - down, down) + "  ";
+  if (state_ == RunState::start) {
+    line += std::to_string(progress_ * 100 / kFullWidth) + " %  ";
+  }
+  console_.live(line + status_);
+  lookAfterTheOutput();
+}
+
+// Who has gone reads nothing any more. A disk that is full for a moment must not end the watching.
+void RunTerminal::lookAfterTheOutput() {
+  if (console_.good()) {
+    outputFails_ = false;
+    return;
+  }
+  const std::error_code cause = console_.failure();
+  if (cause == std::errc::broken_pipe) {
+    pump_.close();
+    return;
+  }
+  console_.writeOn();
+  hasLostLines_ = true;
+  if (!std::exchange(outputFails_, true)) {
+    console_.complain("The run goes on, but its lines cannot be written: " + cause.message() + ".");
+  }
+}
+
+}  // namespace tarnwick

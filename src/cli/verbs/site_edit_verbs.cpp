@@ -1,0 +1,284 @@
+#include "cli/verbs/site_edit_verbs.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <limits>
+#include <optional>
+#include <vector>
+
+#include "cli/terminal/input_file.h"
+#include "cli/terminal/json_text.h"
+#include "platform/address.h"
+#include "program/site_draft.h"
+
+namespace tarnwick {
+namespace {
+
+/// What the command line says of a site; what it does not say is empty.
+struct SiteEdit {
+  std::int16_t idSite = 0;
+  std::optional<std::string> url;
+  std::optional<std::string> method;
+  std::optional<std::string> interval;
+  bool active = false;
+  bool inactive = false;
+  std::optional<std::string> alertEmail;
+  bool noAlertEmail = false;
+  std::optional<std::string> user;
+  std::optional<std::string> password;
+  std::optional<std::string> passwordFile;
+  std::vector<std::string> posts;
+  bool json = false;
+
+  bool saysNothing() const {
+    return !url && !method && !interval && !active && !inactive && !alertEmail && !noAlertEmail && !user && !password &&
+           !passwordFile && posts.empty();
+  }
+};
+
+std::string lowerCase(std::string text) {
+  std::ranges::transform(text, text.begin(),
+                         [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return text;
+}
+
+// A password is a line: editors end it, and `echo` does.
+std::string readPassword(const std::string& file) {
+  std::string password = readInput(file);
+  if (password.ends_with('\n')) {
+    password.pop_back();
+    if (password.ends_with('\r')) {
+      password.pop_back();
+    }
+  }
+  return password;
+}
+
+PostVar varOf(const std::string& text) {
+  const auto sign = text.find('=');
+  if (sign == std::string::npos) {
+    throw std::runtime_error("--post takes NAME=VALUE, and \"" + visibleText(text) + "\" has no \"=\".");
+  }
+  return {text.substr(0, sign), text.substr(sign + 1)};
+}
+
+void apply(const SiteEdit& edit, SiteDraft& site) {
+  if (edit.url) {
+    requireFetchable(*edit.url);
+    site.url = *edit.url;
+  }
+  if (edit.method) {
+    site.method = methodOf(*edit.method);
+  }
+  if (edit.interval) {
+    site.tInterval = intervalOf(*edit.interval);
+  }
+  if (edit.active || edit.inactive) {
+    site.active = edit.active;
+  }
+  if (edit.alertEmail) {
+    requireMailAddress(*edit.alertEmail);
+    site.alertEmail = true;
+    site.email = *edit.alertEmail;
+  }
+  if (edit.noAlertEmail) {
+    site.alertEmail = false;
+  }
+  site.sUserName = edit.user.value_or(site.sUserName);
+  site.sPassWord = edit.password.value_or(site.sPassWord);
+  if (edit.passwordFile) {
+    site.sPassWord = readPassword(*edit.passwordFile);
+  }
+}
+
+std::vector<PostVar> varsOf(const SiteEdit& edit) {
+  std::vector<PostVar> vars;
+  std::ranges::transform(edit.posts, std::back_inserter(vars), varOf);
+  return vars;
+}
+
+int addSite(Tool& tool, const SiteEdit& edit) {
+  const std::vector<PostVar> vars = varsOf(edit);
+  SiteDraft site;
+  site.method = vars.empty() ? "get" : "post";
+  site.active = true;
+  site.tInterval = "10";
+  apply(edit, site);
+  m& data = tool.data();
+  Transaction whole(data.database());
+  const std::int16_t id = data.addSite();
+  storeSite(data, id, site, vars);
+  whole.commit();
+  if (edit.json) {
+    sayJson(tool.console(), {{"idSite", id}});
+  } else {
+    tool.console().say(std::to_string(id));
+    if (tool.console().isTerminal() && site.active) {
+      tool.console().complain(
+          "A run that is on takes the site on once it was checked. Check it with: tarnwickctl check " +
+          std::to_string(id));
+    }
+  }
+  if (!vars.empty()) {
+    hintAtMethod(tool, id);
+  }
+  return exit_status::ok;
+}
+
+int setSite(Tool& tool, const SiteEdit& edit) {
+  m& data = tool.data();
+  requireListed(tool, edit.idSite);
+  const std::string id = std::to_string(edit.idSite);
+  if (edit.saysNothing()) {
+    throw std::runtime_error("Say what is to be changed of site " + id + ". See: tarnwickctl set --help");
+  }
+  // What is read from standard input may take its time; nothing is locked meanwhile.
+  SiteDraft given;
+  apply(edit, given);
+  SiteEdit known = edit;
+  if (known.passwordFile) {
+    known.passwordFile.reset();
+    known.password = given.sPassWord;
+  }
+  const std::vector<PostVar> newVars = varsOf(edit);
+  Transaction whole(data.database());
+  requireListed(tool, edit.idSite);
+  SiteDraft site = readSite(data, edit.idSite);
+  apply(known, site);
+  storeSite(data, edit.idSite, site, newVars.empty() ? readPostVars(data, edit.idSite) : newVars);
+  whole.commit();
+  tool.console().say("Site " + id + " is changed.");
+  if (!newVars.empty()) {
+    hintAtMethod(tool, edit.idSite);
+  }
+  return exit_status::ok;
+}
+
+// The library would take an empty text for none at all, and that is what removes a user name.
+CLI::Option* addText(CLI::App& verb, const char* name, std::optional<std::string>& text, const char* type,
+                     const char* meaning) {
+  return verb
+      .add_option(name, CLI::callback_t([&text](const CLI::results_t& values) {
+                    text = values.back();
+                    return true;
+                  }),
+                  meaning)
+      ->type_name(type);
+}
+
+void addFields(CLI::App& verb, SiteEdit& edit) {
+  addText(verb, "--method", edit.method, "get|post", "How the page is fetched");
+  addText(verb, "--interval", edit.interval, "MINUTES", "The time between two checks, 1 to 32767 minutes");
+  addText(verb, "--user", edit.user, "NAME", "The user name for the fetch; \"\" for none");
+  CLI::Option* password = addText(verb, "--password", edit.password, "TEXT",
+                                  "The password for the fetch; other users of this machine may see it on the command "
+                                  "line, so prefer --password-file");
+  addText(verb, "--password-file", edit.passwordFile, "FILE",
+          "Read the password from a file, without its line end; - is standard input")
+      ->excludes(password);
+  verb.add_option("--post", CLI::callback_t([&edit](const CLI::results_t& values) {
+                    edit.posts = values;
+                    return true;
+                  }),
+                  "A POST variable; may be given several times")
+      ->type_name("NAME=VALUE")
+      ->type_size(1)
+      ->expected(1, CLI::detail::expected_max_vector_size)
+      ->allow_extra_args(false)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
+void addAddVerb(CLI::App& app, Action& chosen) {
+  auto edit = std::make_shared<SiteEdit>();
+  CLI::App* verb = app.add_subcommand("add", "Add a site to the list and print its id");
+  addText(*verb, "URL", edit->url, "TEXT", "The address of the page: http, https, ftp or ftps")->required();
+  addFields(*verb, *edit);
+  verb->add_flag("--inactive", edit->inactive, "Leave it out of runs");
+  addText(*verb, "--alert-email", edit->alertEmail, "ADDRESS", "Mail its failures to this address");
+  addJsonFlag(*verb, edit->json);
+  verb->footer(
+      "Without options it is fetched with GET every 10 minutes; with --post it is fetched with POST. The first page "
+      "that is fetched becomes its baseline. A run that is on takes the site on once it was checked.\n" +
+      examples({{"add https://example.org/", "watch a page"},
+                {"check $(tarnwickctl add https://example.org/)", "and check it at once, so that a run takes it on"},
+                {"add https://example.org/search --post q=tarn --post lang=en --interval 60", "what a form answers"},
+                {"add https://example.org/in --user ann --password-file secret.txt", "behind a password"},
+                {"add https://example.org/ --alert-email ann@example.org", "with alert mails"}}));
+  verb->callback([edit, &chosen] { chosen = [edit](Tool& tool) { return addSite(tool, *edit); }; });
+}
+
+void addSetVerb(CLI::App& app, Action& chosen) {
+  auto edit = std::make_shared<SiteEdit>();
+  CLI::App* verb = app.add_subcommand("set", "Change a site; what is not named stays as it is");
+  addSiteId(*verb, edit->idSite)->required();
+  addText(*verb, "--url", edit->url, "TEXT", "The address of the page: http, https, ftp or ftps");
+  addFields(*verb, *edit);
+  CLI::Option* active = verb->add_flag("--active", edit->active, "Let runs check it");
+  verb->add_flag("--inactive", edit->inactive, "Leave it out of runs")->excludes(active);
+  CLI::Option* alert =
+      addText(*verb, "--alert-email", edit->alertEmail, "ADDRESS", "Mail its failures to this address");
+  verb->add_flag("--no-alert-email", edit->noAlertEmail, "Mail no failures; the address is kept")->excludes(alert);
+  verb->footer("With --post the variables given replace all that the site has; the verb post changes single ones.\n" +
+               examples({{"set 3 --interval 5 --active", "check it more often"},
+                         {"set 3 --url https://example.org/new", "the page has moved"},
+                         {"set 3 --user \"\" --password \"\"", "no credentials any more"}}));
+  verb->callback([edit, &chosen] { chosen = [edit](Tool& tool) { return setSite(tool, *edit); }; });
+}
+
+}  // namespace
+
+void requireFetchable(const std::string& url) {
+  const auto address = parseAddress(url);
+  if (!address) {
+    throw std::runtime_error("\"" + visibleText(url) +
+                             "\" is not a valid address. One looks like https://example.org/page.");
+  }
+  if (!isFetchedScheme(address->scheme)) {
+    throw std::runtime_error("\"" + visibleText(url) + "\" cannot be fetched: " + visibleText(address->scheme) +
+                             " is none of http, https, ftp and ftps.");
+  }
+}
+
+void requireMailAddress(const std::string& email) {
+  if (!m::isEmail(email)) {
+    throw std::runtime_error("\"" + visibleText(email) +
+                             "\" is not a valid email address. One address is taken, like name@example.org: letters a "
+                             "to z, digits, \".\", \"-\", \"_\" before the \"@\" only, and at most 3 characters behind "
+                             "the last \".\".");
+  }
+}
+
+std::string methodOf(const std::string& text) {
+  std::string method = lowerCase(text);
+  if (method != "get" && method != "post") {
+    throw std::runtime_error("\"" + visibleText(text) + "\" is no method. Take get or post.");
+  }
+  return method;
+}
+
+void hintAtMethod(Tool& tool, std::int16_t idSite) {
+  if (lowerCase(readSite(tool.data(), idSite).method) != "post") {
+    const std::string id = std::to_string(idSite);
+    tool.console().complain("Site " + id + " is fetched with GET, so its POST variables are kept but not sent. To " +
+                            "send them: tarnwickctl set " + id + " --method post");
+  }
+}
+
+std::string intervalOf(const std::string& text) {
+  std::int16_t minutes = 0;
+  const char* end = text.data() + text.size();
+  const auto [rest, fault] = std::from_chars(text.data(), end, minutes);
+  if (fault != std::errc() || rest != end || minutes < 1) {
+    throw std::runtime_error("\"" + visibleText(text) + "\" is no interval. Take a number of minutes from 1 to " +
+                             std::to_string(std::numeric_limits<std::int16_t>::max()) + ".");
+  }
+  return std::to_string(minutes);
+}
+
+void addEditVerbs(CLI::App& app, Action& chosen) {
+  addAddVerb(app, chosen);
+  addSetVerb(app, chosen);
+}
+
+}  // namespace tarnwick

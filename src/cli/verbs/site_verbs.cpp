@@ -1,0 +1,239 @@
+#include <algorithm>
+#include <ostream>
+#include <set>
+
+#include "cli/list/site_facts.h"
+#include "cli/terminal/consent.h"
+#include "cli/terminal/json_text.h"
+#include "cli/terminal/text_grid.h"
+#include "cli/verbs/site_edit_verbs.h"
+#include "cli/verbs/verbs.h"
+
+namespace tarnwick {
+namespace {
+
+// A question stays one that can be read.
+constexpr std::size_t kMostNamed = 10;
+
+struct SitesOptions {
+  bool down = false;
+  bool active = false;
+  bool inactive = false;
+  bool json = false;
+};
+
+struct SiteOptions {
+  std::int16_t idSite = 0;
+  bool json = false;
+  bool showPassword = false;
+};
+
+struct DeleteOptions {
+  std::vector<std::int16_t> ids;
+  bool yes = false;
+};
+
+bool isWanted(const SiteFacts& facts, const SitesOptions& options) {
+  return (!options.down || facts.down()) && (!options.active || facts.site.active) &&
+         (!options.inactive || !facts.site.active);
+}
+
+void printSites(Console& console, const std::vector<SiteFacts>& sites) {
+  using enum TextGrid::Align;
+  TextGrid grid({{"ID", right},
+                 {"STATE"},
+                 {"METHOD"},
+                 {"INTERVAL", right},
+                 {"LAST TEST"},
+                 {"UP", right},
+                 {"DOWN", right},
+                 {"URL"}});
+  for (const SiteFacts& facts : sites) {
+    const StateText state = stateOf(facts);
+    grid.addRow({{std::to_string(facts.idSite)},
+                 {state.text, state.colour},
+                 {facts.site.method},
+                 {facts.site.tInterval},
+                 {facts.lastChecked.empty() ? "-" : facts.lastChecked},
+                 {std::to_string(facts.success)},
+                 {std::to_string(facts.failure)},
+                 {facts.site.url}});
+  }
+  grid.print(console);
+}
+
+int listSites(Tool& tool, const SitesOptions& options) {
+  Console& console = tool.console();
+  std::vector<SiteFacts> sites = readSiteFacts(tool.data());
+  const bool empty = sites.empty();
+  std::erase_if(sites, [&](const SiteFacts& facts) { return !isWanted(facts, options); });
+  if (options.json) {
+    JsonArray array(console);
+    for (const SiteFacts& facts : sites) {
+      array.add(siteJson(facts));
+    }
+    array.end();
+  } else if (!sites.empty()) {
+    printSites(console, sites);
+  } else if (empty) {
+    console.complain("There is no site in the list yet. Add the first one with: tarnwickctl add URL");
+  } else {
+    console.complain("No site of the list is like that.");
+  }
+  return exit_status::ok;
+}
+
+std::string yesNo(bool flag) { return flag ? "yes" : "no"; }
+
+std::string orNone(const std::string& text) { return text.empty() ? "none" : visibleText(text); }
+
+std::string passwordText(const std::string& password, bool show) {
+  return password.empty() || show ? orNone(password) : "set; --show-password shows it";
+}
+
+std::string baselineText(std::size_t size) {
+  return size == 0 ? "none yet: the next page that is fetched becomes it"
+                   : std::to_string(size) + (size == 1 ? " byte" : " bytes");
+}
+
+std::string alertText(const SiteDraft& site) {
+  return yesNo(site.alertEmail) + (site.email.empty() ? "" : ", " + visibleText(site.email));
+}
+
+void printSite(Console& console, const SiteFacts& facts, const std::vector<PostVar>& vars, std::size_t baselineSize,
+               bool showPassword) {
+  const SiteDraft& site = facts.site;
+  const StateText state = stateOf(facts);
+  const std::vector<std::pair<std::string, std::string>> lines = {
+      {"Site", std::to_string(facts.idSite)},
+      {"URL", visibleText(site.url)},
+      {"State", console.coloured(state.colour, state.text)},
+      {"Active", yesNo(site.active)},
+      {"Method", visibleText(site.method)},
+      {"Interval", site.tInterval.empty() ? "none" : visibleText(site.tInterval) + " min"},
+      {"Last test", facts.lastChecked.empty() ? "never" : visibleText(facts.lastChecked)},
+      {"Up", std::to_string(facts.success)},
+      {"Down", std::to_string(facts.failure)},
+      {"Alert mail", alertText(site)},
+      {"User name", orNone(site.sUserName)},
+      {"Password", passwordText(site.sPassWord, showPassword)},
+      {"Baseline", baselineText(baselineSize)},
+      {"Variables", vars.empty() ? "none" : std::to_string(vars.size())}};
+  constexpr std::size_t kLabelWidth = 12;
+  std::ostream& out = console.out();
+  for (const auto& [label, text] : lines) {
+    out << label << ':' << std::string(kLabelWidth - label.size(), ' ') << text << '\n';
+  }
+  for (const PostVar& var : vars) {
+    out << "  " << visibleText(var.name) << '=' << visibleText(var.value) << '\n';
+  }
+}
+
+int showSite(Tool& tool, const SiteOptions& options) {
+  m& data = tool.data();
+  requireListed(tool, options.idSite);
+  const std::vector<SiteFacts> sites = readSiteFacts(data, options.idSite);
+  const auto facts = std::ranges::find(sites, options.idSite, &SiteFacts::idSite);
+  if (facts == sites.end()) {
+    throw noSuchSite(options.idSite);
+  }
+  const std::vector<PostVar> vars = readPostVars(data, options.idSite);
+  const std::size_t baselineSize = data.getContentCompare(options.idSite).size();
+  if (!options.json) {
+    printSite(tool.console(), *facts, vars, baselineSize, options.showPassword);
+    return exit_status::ok;
+  }
+  Json json = siteJson(*facts, options.showPassword);
+  json["postVars"] = postVarsJson(vars);
+  json["hasBaseline"] = baselineSize != 0;
+  json["baselineSize"] = baselineSize;
+  sayJson(tool.console(), json);
+  return exit_status::ok;
+}
+
+std::string questionOf(m& data, const std::set<std::int16_t>& ids) {
+  if (ids.size() == 1) {
+    return "Delete site " + std::to_string(*ids.begin()) + ", " + visibleText(readSite(data, *ids.begin()).url) +
+           ", with its POST variables and its baseline?";
+  }
+  std::string list;
+  std::size_t named = 0;
+  for (const std::int16_t id : ids) {
+    if (++named > kMostNamed) {
+      list += " and " + std::to_string(ids.size() - kMostNamed) + " more";
+      break;
+    }
+    list += (list.empty() ? "" : ", ") + std::to_string(id);
+  }
+  return "Delete " + std::to_string(ids.size()) + " sites (" + list + ") with their POST variables and baselines?";
+}
+
+int deleteSites(Tool& tool, const DeleteOptions& options) {
+  m& data = tool.data();
+  const std::set<std::int16_t> ids(options.ids.begin(), options.ids.end());
+  for (const std::int16_t id : ids) {
+    requireListed(tool, id);
+  }
+  if (!consents(tool.console(), options.yes, questionOf(data, ids))) {
+    return exit_status::failed;
+  }
+  Transaction whole(data.database());
+  for (const std::int16_t id : ids) {
+    requireListed(tool, id);  // another program may have been faster than the answer
+    data.deleteSite(id);
+  }
+  whole.commit();
+  for (const std::int16_t id : ids) {
+    tool.console().say("Site " + std::to_string(id) + " is deleted.");
+  }
+  return exit_status::ok;
+}
+
+void addSitesVerb(CLI::App& app, Action& chosen) {
+  auto options = std::make_shared<SitesOptions>();
+  CLI::App* verb = app.add_subcommand("sites", "List the sites");
+  verb->add_flag("--down", options->down, "Only those whose last check failed");
+  CLI::Option* active = verb->add_flag("--active", options->active, "Only those that a run checks");
+  verb->add_flag("--inactive", options->inactive, "Only those that a run leaves out")->excludes(active);
+  addJsonFlag(*verb, options->json);
+  verb->footer(
+      "STATE is \"up\" or \"down\" as the last check found, and \"-\" where none has been made.\n" +
+      examples({{"sites", "all of them"},
+                {"sites --down --active", "what needs a look"},
+                {"sites --json | jq -r '.[] | select(.status == false) | .url'", "the addresses that are down"}}));
+  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return listSites(tool, *options); }; });
+}
+
+void addSiteVerb(CLI::App& app, Action& chosen) {
+  auto options = std::make_shared<SiteOptions>();
+  CLI::App* verb = app.add_subcommand("site", "Show all about one site");
+  addSiteId(*verb, options->idSite)->required();
+  verb->add_flag("--show-password", options->showPassword, "Show the password too");
+  addJsonFlag(*verb, options->json);
+  verb->footer(examples({{"site 3", "its settings, counters, POST variables, and the size of its baseline"},
+                         {"site 3 --json --show-password", "the same for a script, with the password"}}));
+  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return showSite(tool, *options); }; });
+}
+
+void addDeleteVerb(CLI::App& app, Action& chosen) {
+  auto options = std::make_shared<DeleteOptions>();
+  CLI::App* verb = app.add_subcommand("delete", "Delete sites with their POST variables and baselines");
+  verb->add_option("ID", options->ids, "The ids of the sites, as the verb sites lists them")
+      ->required()
+      ->check(siteNumber());
+  verb->add_flag("--yes", options->yes, "Do not ask; needed where nobody can be asked");
+  verb->footer("All of them are deleted, or none when one is not in the list. What the log says of them stays.\n" +
+               examples({{"delete 3", "asks first"}, {"delete 3 7 12 --yes", "three sites, without a question"}}));
+  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return deleteSites(tool, *options); }; });
+}
+
+}  // namespace
+
+void addSiteVerbs(CLI::App& app, Action& chosen) {
+  addSitesVerb(app, chosen);
+  addSiteVerb(app, chosen);
+  addEditVerbs(app, chosen);
+  addDeleteVerb(app, chosen);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "cli/terminal/console.h"
+#include "platform/services.h"
+#include "program/m.h"
+
+namespace tarnwick {
+
+/// What the tool ends with.
+namespace exit_status {
+inline constexpr int ok = 0;
+/// Something is not as it should be: a site is down, a page differs.
+inline constexpr int down = 1;
+/// The tool could not do what it was asked for.
+inline constexpr int failed = 2;
+}  // namespace exit_status
+
+/// What every verb has at hand.
+class Tool {
+ public:
+  Tool(std::string programFolder, const Services& services, Console& console)
+      : folder_(std::move(programFolder)), services_(services), console_(console) {}
+
+  /// The data of the program folder, opened on first use; raises DataAccessError when that fails.
+  m& data() {
+    if (!data_) {
+      data_.emplace(folder_, services_);
+    }
+    return *data_;
+  }
+  const std::string& programFolder() const { return folder_; }
+  const Services& services() const { return services_; }
+  Console& console() { return console_; }
+
+ private:
+  std::string folder_;
+  Services services_;
+  Console& console_;
+  std::optional<m> data_;
+};
+
+/// A verb that has been asked for, with its options: returns the exit status. What it raises is shown to the user.
+using Action = std::function<int(Tool&)>;
+
+/// What is raised for an id that is not in the list.
+std::runtime_error noSuchSite(std::int16_t idSite);
+/// Raises it when there is no such site.
+void requireListed(Tool& tool, std::int16_t idSite);
+
+/// Runs the tool with its arguments (without the program's name). Where no folder is named it is the one for
+/// an executable in `programFolder` (see `programFolderFor`).
+/// Returns the exit status; nothing is raised.
+int runTool(const std::vector<std::string>& arguments, const std::string& programFolder, const Services& services,
+            Console& console);
+
+}  // namespace tarnwick

@@ -1,0 +1,90 @@
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <system_error>
+
+#include "cli/terminal/json_text.h"
+#include "cli/verbs/verbs.h"
+
+namespace tarnwick {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct UpkeepOptions {
+  bool json = false;
+};
+
+fs::path pathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
+
+// A database's file, and what has not been brought over into it yet.
+std::uintmax_t sizeOf(const std::string& database) {
+  std::uintmax_t size = 0;
+  for (const char* ending : {"", "-wal"}) {
+    std::error_code none;
+    const std::uintmax_t part = fs::file_size(pathOf(database + ending), none);
+    size += none ? 0 : part;
+  }
+  return size;
+}
+
+int report(Tool& tool, const UpkeepOptions& options) {
+  const std::string path = tool.data().createReport();
+  if (options.json) {
+    sayJson(tool.console(), {{"path", jsonText(path)}});
+  } else {
+    tool.console().say(path);
+  }
+  return exit_status::ok;
+}
+
+int compact(Tool& tool, const UpkeepOptions& options) {
+  m& data = tool.data();
+  const std::string database = data.database().dbPath();
+  const std::uintmax_t before = sizeOf(database);
+  if (!data.compact()) {
+    if (tool.console().hasComplained()) {
+      return exit_status::failed;  // why no copy could be made has been told
+    }
+    throw std::runtime_error("Compact Failed. The database is as it was: " + database);
+  }
+  const std::uintmax_t after = sizeOf(database);
+  if (sizeOf(data.programFolder() + "/temp.mdb") != after) {
+    throw std::runtime_error("Compact Failed. There is no room for the compacted copy; the database is as it was: " +
+                             database);
+  }
+  if (options.json) {
+    sayJson(tool.console(), {{"before", before}, {"after", after}});
+  } else {
+    tool.console().say("The database is compacted: " + std::to_string(before) + " bytes before, " +
+                       std::to_string(after) + " bytes after. backup.mdb is the copy from before.");
+  }
+  return exit_status::ok;
+}
+
+void addUpkeepVerb(CLI::App& app, Action& chosen, const char* name, const char* description, const std::string& footer,
+                   int (*work)(Tool&, const UpkeepOptions&)) {
+  auto options = std::make_shared<UpkeepOptions>();
+  CLI::App* verb = app.add_subcommand(name, description);
+  addJsonFlag(*verb, options->json);
+  verb->footer(footer);
+  verb->callback([options, work, &chosen] { chosen = [options, work](Tool& tool) { return work(tool, *options); }; });
+}
+
+}  // namespace
+
+void addUpkeepVerbs(CLI::App& app, Action& chosen) {
+  addUpkeepVerb(
+      app, chosen, "report", "Write the report of today's log and print its path",
+      "It is reports/report.html in the program folder; only the newest is kept.\n" +
+          examples({{"report", "the path of the page that was written"}, {"report --json", "the same for a script"}}),
+      report);
+  addUpkeepVerb(
+      app, chosen, "compact", "Shrink the database, and keep a copy of it as it was",
+      "The copy is backup.mdb in the program folder. No other program may have the database open: end a run "
+      "and close the window first.\n" +
+          examples({{"compact", "prints the sizes before and after"}, {"compact --json", "the same for a script"}}),
+      compact);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,139 @@
+#include "engine/inet_pool.h"
+
+#include <algorithm>
+#include <array>
+#include <new>
+#include <utility>
+
+#include "base/errors.h"
+#include "engine/response_body.h"
+#include "store/settings_and_log.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::chrono::milliseconds kSweepInterval{1000};
+// All of it at once: a page of many megabytes is handed over, not copied.
+constexpr std::size_t kPieceSize = kLargestPage;
+
+constexpr std::array<std::string_view, 13> kStateDescriptions{
+    "No state to report.",
+    "The control is looking up the IP address of the specified host computer.",
+    "The control successfully found the IP address of the specified host computer.",
+    "The control is connecting to the host computer.",
+    "The control successfully connected to the host computer.",
+    "The control is sending a request to the host computer.",
+    "The control successfully sent the request.",
+    "The control is receiving a response from the host computer.",
+    "The control successfully received a response from the host computer.",
+    "The control is disconnecting from the host computer.",
+    "The control successfully disconnected from the host computer.",
+    "An error occurred in communicating with the host computer.",
+    "The request has completed and all data has been received.",
+};
+
+}  // namespace
+
+InetPool::InetPool(SettingsAndLog& settings, TransferMaker& transfers, TimerMaker& timers, std::int16_t largestPool)
+    : settings_(settings),
+      transfers_(transfers),
+      largestPool_(largestPool),
+      tmrInet_(timers.makeTimer([this] { testInetConnection(); })) {}
+
+InetPool::~InetPool() { killAllSockets(); }
+
+void InetPool::initSockets(std::span<const std::string> items) {
+  killAllSockets();
+  itemCount_ = static_cast<std::size_t>(
+      std::count_if(items.begin(), items.end(), [](const std::string& item) { return !item.empty(); }));
+  rows_.assign(items.size() + 1, Row{});
+  slots_.resize(std::min(itemCount_, static_cast<std::size_t>(largestPool_)));
+  if (!slots_.empty()) {
+    const std::chrono::seconds timeout = settings_.requestTimeout();
+    for (Slot& slot : slots_) {
+      loadSlot(slot, timeout);
+    }
+  }
+  tmrInet_->setEnabled(false);
+  tmrInet_->setInterval(kSweepInterval);
+}
+
+void InetPool::loadSlot(Slot& slot, std::chrono::seconds timeout) {
+  slot.inet = transfers_.makeTransferControl();
+  slot.inet->setRequestTimeout(timeout);
+  slot.inet->onStateChanged([&slot](int state) { stateChanged(slot, state); });
+  slot.inet->onIdle([this] {
+    if (tmrInet_->enabled()) {
+      testInetConnection();
+    }
+  });
+}
+
+void InetPool::killAllSockets() {
+  slots_.clear();
+  itemCount_ = 0;
+}
+
+void InetPool::stateChanged(Slot& slot, int state) {
+  slot.lastState = state;
+  if (state == transfer_state::error) {
+    slot.errCode = slot.inet->responseCode();
+    slot.errDescription = slot.inet->responseInfo();
+    slot.text = "11:" + slot.errDescription;
+    slot.done = true;
+  } else if (state == transfer_state::responseCompleted) {
+    try {
+      slot.text = readResponseBody(*slot.inet, kPieceSize);
+    } catch (const std::bad_alloc&) {
+      // No exception may cross the event loop that calls this.
+      slot.errCode = static_cast<long>(TransferFault::shortage);
+      slot.errDescription = kNotEnoughMemory;
+    }
+    slot.done = true;
+  }
+}
+
+std::vector<std::int16_t> InetPool::getAryFreeSockets() const {
+  std::vector<std::int16_t> free;
+  for (std::int16_t slot = 1; slot <= poolSize(); ++slot) {
+    if (at(slot).lastState == transfer_state::none && !at(slot).inet->stillExecuting()) {
+      free.push_back(slot);
+    }
+  }
+  return free;
+}
+
+void InetPool::testInetConnection() {
+  for (Slot& slot : slots_) {
+    if (!slot.inet->stillExecuting()) {
+      slot.lastState = transfer_state::none;
+    }
+  }
+}
+
+void InetPool::assignRow(std::int16_t slot, std::size_t row) {
+  Slot& assigned = at(slot);
+  assigned.row = row;
+  assigned.errCode = 0;
+  assigned.errDescription.clear();
+  assigned.done = false;
+}
+
+void InetPool::saveSocketData(std::int16_t slot) {
+  Slot& finished = at(slot);
+  Row& row = rows_.at(finished.row);
+  row.content = std::exchange(finished.text, {});
+  row.errCode = static_cast<std::int32_t>(finished.errCode);
+  row.errDescription = finished.errDescription;
+}
+
+void InetPool::releaseSiteContent(std::size_t row) { std::string().swap(rows_.at(row).content); }
+
+std::string_view InetPool::getStateDescription(std::int16_t state) {
+  if (state < 0 || static_cast<std::size_t>(state) >= kStateDescriptions.size()) {
+    return "undefined state";
+  }
+  return kStateDescriptions[static_cast<std::size_t>(state)];
+}
+
+}  // namespace tarnwick

@@ -1,8 +1,0 @@
-#include "platform/desktop/desktop_sound.h"
-#include "platform/desktop/qt_sound_player.h"
-
-namespace tarnwick {
-
-std::unique_ptr<SoundPlayer> makeDesktopSound() { return std::make_unique<QtSoundPlayer>(); }
-
-}  // namespace tarnwick

@@ -1,0 +1,14 @@
+#include <windows.h>
+
+#include "platform/os/socket_inheritance.h"
+
+namespace tarnwick {
+
+void keepFromPrograms(std::uintptr_t socket) {
+  SetHandleInformation(reinterpret_cast<HANDLE>(socket), HANDLE_FLAG_INHERIT, 0);
+}
+
+// A program that is started there inherits what is named to it, and nothing else.
+void keepAllFromPrograms() {}
+
+}  // namespace tarnwick

@@ -1,0 +1,8 @@
+#include "platform/process/unwanted_signals.h"
+
+namespace tarnwick {
+
+// The system has no such signals.
+void ignoreUnwantedSignals() {}
+
+}  // namespace tarnwick

@@ -1,9 +1,0 @@
-#include <QCoreApplication>
-
-#include "platform/qt_event_wait.h"
-
-namespace tarnwick {
-
-void waitForQtEvent() { QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents); }
-
-}  // namespace tarnwick

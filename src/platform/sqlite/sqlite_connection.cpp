@@ -1,0 +1,189 @@
+#include "platform/sqlite/sqlite_connection.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "base/errors.h"
+#include "platform/sqlite/shown_statement.h"
+#include "platform/sqlite/sql_table_definition.h"
+#include "platform/sqlite/sqlite_database.h"
+#include "platform/sqlite/sqlite_hold.h"
+#include "platform/sqlite/sqlite_recordset.h"
+#include "platform/sqlite/sqlite_tables.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kNotFound = std::string_view::npos;
+
+/// Where `wanted` stands first in `text`, letter case aside.
+std::size_t findIgnoringCase(std::string_view text, std::string_view wanted) {
+  for (std::size_t i = 0; i + wanted.size() <= text.size(); ++i) {
+    if (sameName(text.substr(i, wanted.size()), wanted)) {
+      return i;
+    }
+  }
+  return kNotFound;
+}
+
+std::size_t findLastIgnoringCase(std::string_view text, std::string_view wanted) {
+  for (std::size_t i = text.size(); i-- > 0;) {
+    if (sameName(text.substr(i, wanted.size()), wanted)) {
+      return i;
+    }
+  }
+  return kNotFound;
+}
+
+}  // namespace
+
+// A path may hold semicolons itself, so the settings behind it are sought from the end.
+std::string dataSource(std::string_view connString) {
+  static constexpr std::string_view kKey = "Data Source=";
+  const std::size_t key = findIgnoringCase(connString, kKey);
+  if (key == kNotFound) {
+    throw DataAccessError("The connection string names no database: \"Data Source=\" is missing.", "");
+  }
+  const std::string_view rest = connString.substr(key + kKey.size());
+  std::size_t end = findLastIgnoringCase(rest, ";Jet OLEDB:");
+  if (end == kNotFound) {
+    end = rest.rfind(';');
+  }
+  return std::string(rest.substr(0, end));
+}
+
+namespace {
+
+class SqliteConnection final : public SqlConnection {
+ public:
+  explicit SqliteConnection(const Clock& clock) : clock_(clock) {}
+
+  void open(const std::string& connString) override {
+    if (database_) {
+      throw DataAccessError("The connection to the database is open already.", "");
+    }
+    path_ = dataSource(connString);
+    database_ = std::make_unique<SqliteDatabase>(path_, clock_);
+  }
+
+  void close() noexcept override { database_.reset(); }
+
+  bool isOpen() const override { return database_ != nullptr; }
+
+  std::unique_ptr<Recordset> execute(std::string_view sql) override {
+    SqliteDatabase& database = opened(sql);
+    const SqlCommand command = translateSql(sql);
+    if (const auto* statement = std::get_if<PlainStatement>(&command)) {
+      return runPlain(database, *statement, sql);
+    }
+    if (const auto* into = std::get_if<SelectInto>(&command)) {
+      selectInto(database, *into, sql);
+    } else if (const auto* counter = std::get_if<AddCounter>(&command)) {
+      addCounter(database, *counter, sql);
+    } else {
+      addPrimaryKey(database, std::get<AddPrimaryKey>(command), sql);
+    }
+    return std::make_unique<NoRows>();
+  }
+
+  void begin() override {
+    static constexpr const char* kBegin = "BEGIN IMMEDIATE";
+    opened(kBegin).run({kBegin, {}, true}, kBegin);
+  }
+  void commit() override {
+    static constexpr const char* kCommit = "COMMIT";
+    opened(kCommit).run({kCommit, {}, true}, kCommit);
+  }
+
+  void rollback() noexcept override {
+    if (inTransaction()) {
+      sqlite3_exec(database_->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+    if (inTransaction()) {
+      // Without memory not even this can be done. What followed would go into a transaction that nobody ends, and be
+      // lost with it; closing the file ends it.
+      close();
+    }
+  }
+
+  void proveWritable() override {
+    begin();
+    try {
+      // A number in the file's header that is the user's own; writing it, even as it is, goes to the disk.
+      const auto version = database_->rows("pragma user_version");
+      database_->run("pragma user_version = " + version.at(0).at(0));
+      commit();
+    } catch (...) {
+      rollback();
+      throw;
+    }
+  }
+
+  bool inTransaction() const override { return database_ && sqlite3_get_autocommit(database_->handle()) == 0; }
+
+ private:
+  SqliteDatabase& opened(std::string_view sql) {
+    if (!database_) {
+      throw DataAccessError("The connection to the database is not open.", shownStatement(sql));
+    }
+    if (database_->wantsReopening()) {
+      // The old one is closed first: its locks and side files are in the way. Should the opening fail, the connection
+      // is closed.
+      database_.reset();
+      database_ = std::make_unique<SqliteDatabase>(path_, clock_);
+    }
+    if (!inTransaction()) {
+      refuseOtherFiles();
+    }
+    return *database_;
+  }
+
+  /// Whoever is at work gets an error once, and the files that are there now with the next opening.
+  void refuseOtherFiles() {
+    using Finding = SqliteFileWatch::Finding;
+    const Finding finding = database_->lookAtFiles();
+    if (finding == Finding::same) {
+      return;
+    }
+    if (finding == Finding::missing) {
+      // Kept open: when a folder was only moved away, and comes back, nothing is lost.
+      requireFile(path_);
+      return;
+    }
+    if (!database_->isRead()) {
+      database_.reset();
+    }
+    throw exchangedFiles(finding, path_);
+  }
+
+  static std::unique_ptr<Recordset> runPlain(SqliteDatabase& database, const PlainStatement& statement,
+                                             std::string_view sql) {
+    std::vector<std::string> room;
+    StatementLoan loan = database.prepare(statement, sql);
+    database.bind(loan.get(), statement, room, sql);
+    const bool onRow = database.step(loan.get(), sql);
+    if (sqlite3_column_count(loan.get()) == 0) {
+      return std::make_unique<NoRows>();
+    }
+    return std::make_unique<SqliteRecordset>(database, std::move(loan), onRow, shownStatement(sql));
+  }
+
+  const Clock& clock_;
+  std::string path_;
+  std::unique_ptr<SqliteDatabase> database_;
+};
+
+}  // namespace
+
+std::unique_ptr<SqlConnection> SqliteConnections::makeSqlConnection() {
+  return std::make_unique<SqliteConnection>(clock_);
+}
+
+std::unique_ptr<HeldDatabase> SqliteConnections::holdDatabase(const std::string& connString) {
+  return std::make_unique<SqliteHold>(dataSource(connString));
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,293 @@
+#include "platform/sqlite/sqlite_database.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <type_traits>
+#include <utility>
+
+#include "base/errors.h"
+#include "platform/file_access.h"
+#include "platform/os/heap.h"
+#include "platform/sqlite/shown_statement.h"
+#include "platform/sqlite/sqlite_errors.h"
+#include "platform/sqlite/sqlite_file.h"
+#include "platform/sqlite/sqlite_functions.h"
+#include "platform/sqlite/sqlite_recordset.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kBusyPatienceMs = 2000;
+constexpr std::size_t kStatementsKept = 64;
+/// 2 MiB, and 32 MiB while a text longer than `kLargeText` is being stored.
+constexpr const char* kUsualCache = "pragma cache_size = -2048";
+constexpr const char* kLargeCache = "pragma cache_size = -32768";
+constexpr std::size_t kLargeText = std::size_t{512} * 1024;
+
+/// Nothing for a file that is missing or cannot be looked at.
+std::optional<std::uint64_t> bytesIn(const std::string& path) {
+  try {
+    return sizeOf(path);
+  } catch (const FileError&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace
+
+void StatementLoan::giveBack() noexcept {
+  if (!statement_) {
+    return;
+  }
+  sqlite3_reset(statement_.get());
+  sqlite3_clear_bindings(statement_.get());
+  if (reusable_) {
+    database_->keep(std::move(statement_));
+  }
+  statement_.reset();
+}
+
+SqliteDatabase::SqliteDatabase(std::string path, const Clock& clock) : path_(std::move(path)), clock_(clock) {
+  requireFile(path_);
+  openFile();
+  setForeignLogAside();
+  refuseDamage();
+  chooseJournal();
+  if (!liesOnNetwork(path_)) {  // where a file may be known by another number every time
+    watch_.emplace(path_, handle());
+  }
+}
+
+SqliteDatabase::~SqliteDatabase() {
+  const std::vector<SqliteRecordset*> open = std::exchange(open_, {});
+  for (SqliteRecordset* recordset : open) {
+    recordset->close();
+  }
+  keptByText_.clear();
+  kept_.clear();
+  if (watch_) {
+    watch_->beforeClosing(handle());
+    handle_.reset();
+    watch_->afterClosing();
+  }
+}
+
+void SqliteDatabase::openFile() {
+  sqlite3* raw = nullptr;
+  // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
+  // Without locks between threads: there is only one.
+  const int result = openSqliteFile(path_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, &raw);
+  handle_.reset(raw);
+  if (result != SQLITE_OK) {
+    throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path_, "");
+  }
+  sqlite3_extended_result_codes(raw, 1);
+  sqlite3_busy_timeout(raw, kBusyPatienceMs);
+  if (registerDateFunctions(raw, clock_) != SQLITE_OK) {
+    fail("");
+  }
+}
+
+// A copy that was put in the place of a lost database may find that one's log beside it, left by a program that was
+// killed; SQLite would write its pages into the copy. Only a file whose header
+// (https://www.sqlite.org/fileformat2.html) says that it has no log is known not to be the one that this log belongs
+// to.
+void SqliteDatabase::setForeignLogAside() {
+  constexpr sqlite3_int64 kVersions = 18;
+  constexpr std::array<char, 2> kWithoutLog{1, 1};
+  const std::string log = path_ + "-wal";
+  std::array<char, 2> versions{};
+  sqlite3_file* file = nullptr;
+  if (bytesIn(log) > 0U && sqlite3_file_control(handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK &&
+      file->pMethods->xRead(file, versions.data(), static_cast<int>(versions.size()), kVersions) == SQLITE_OK &&
+      versions == kWithoutLog) {
+    try {
+      replaceFile(log, log + ".old");
+    } catch (const FileError& error) {
+      throw DataAccessError(
+          "The file " + log + " belongs to another database than " + path_ + ". Remove it. (" + error.what() + ")", "");
+    }
+  }
+}
+
+void SqliteDatabase::refuseDamage() {
+  const std::optional<std::uint64_t> size = bytesIn(path_);
+  if (size == 0U) {
+    throw damagedDatabase(path_, "the file is empty", "");
+  }
+  const bool changesPending = bytesIn(path_ + "-wal") > 0U;
+  // Reads the file's header and all definitions, which SQLite itself puts off until the first statement.
+  run("select count(*) from sqlite_master");
+  const auto expected = rows("select page_count * page_size from pragma_page_count, pragma_page_size");
+  // SQLite rounds a torn last page up. The file may be short only while changes wait in the log beside it.
+  if (!changesPending && size && *size < std::stoull(expected.at(0).at(0))) {
+    throw damagedDatabase(path_, "the end of the file is missing", "");
+  }
+}
+
+void SqliteDatabase::chooseJournal() noexcept {
+  // A database on a read-only disk can still be read; writing will say what is wrong.
+  sqlite3* const database = handle();
+  if (liesOnNetwork(path_)) {
+    // The write-ahead log needs memory that all who use the file share.
+    sqlite3_exec(database, "pragma journal_mode = delete", nullptr, nullptr, nullptr);
+    sqlite3_exec(database, "pragma synchronous = full", nullptr, nullptr, nullptr);
+  } else {
+    sqlite3_exec(database, "pragma journal_mode = wal", nullptr, nullptr, nullptr);
+    // With the write-ahead log a killed process loses nothing, and the file is whole even after a power cut.
+    sqlite3_exec(database, "pragma synchronous = normal", nullptr, nullptr, nullptr);
+    // Makes the log now, so that it is there to be watched.
+    sqlite3_exec(database, "pragma schema_version", nullptr, nullptr, nullptr);
+  }
+  // One large page must not leave a log of its size on the disk for the rest of the run.
+  sqlite3_exec(database, "pragma journal_size_limit = 8388608", nullptr, nullptr, nullptr);
+  // A check reads and writes a handful of pages that no other check needs: a larger cache would only fill with what is
+  // never asked for again, and the due query reads faster from the system's own.
+  sqlite3_exec(database, kUsualCache, nullptr, nullptr, nullptr);
+}
+
+/// Every statement of a check rewrites the site's row. One with a page of many megabytes, which the small cache cannot
+/// hold, would be read from the file again each time, and the window would stand still meanwhile.
+void SqliteDatabase::fitCache(const PlainStatement& statement) noexcept {
+  const bool large = std::ranges::any_of(statement.parameters, [](const SqlParameter& parameter) {
+    const auto* token = std::get_if<SqlToken>(&parameter);
+    return token != nullptr && token->source.size() > kLargeText;
+  });
+  if (large && !cachesLargePage_) {
+    cachesLargePage_ = true;
+    sqlite3_exec(handle(), kLargeCache, nullptr, nullptr, nullptr);
+    keepFreedMemory();  // until the transfers that brought such pages have gone
+  } else if (!large && cachesLargePage_ && sqlite3_get_autocommit(handle()) != 0) {
+    cachesLargePage_ = false;
+    sqlite3_exec(handle(), kUsualCache, nullptr, nullptr, nullptr);
+    sqlite3_db_release_memory(handle());
+  }
+}
+
+StatementLoan SqliteDatabase::prepare(const PlainStatement& statement, std::string_view sql) {
+  fitCache(statement);
+  if (const auto found = keptByText_.find(statement.text); found != keptByText_.end()) {
+    const Kept::iterator place = found->second;
+    SqliteStatement prepared = std::move(*place);
+    keptByText_.erase(found);
+    kept_.erase(place);
+    return {*this, std::move(prepared), true};
+  }
+  sqlite3_stmt* raw = nullptr;
+  const char* rest = nullptr;
+  const unsigned flags = statement.reusable ? SQLITE_PREPARE_PERSISTENT : 0;
+  const int result =
+      sqlite3_prepare_v3(handle(), statement.text.data(), static_cast<int>(statement.text.size()), flags, &raw, &rest);
+  SqliteStatement prepared(raw);
+  if (result != SQLITE_OK) {
+    fail(sql);
+  }
+  if (!prepared) {
+    throw DataAccessError("The statement is empty.", shownStatement(sql));
+  }
+  const std::string_view behind(rest, static_cast<std::size_t>(statement.text.data() + statement.text.size() - rest));
+  if (behind.find_first_not_of("; \t\r\n") != std::string_view::npos) {
+    throw DataAccessError("Only one statement can be run at a time.", shownStatement(sql));
+  }
+  return {*this, std::move(prepared), statement.reusable};
+}
+
+void SqliteDatabase::bind(sqlite3_stmt* prepared, const PlainStatement& statement, std::vector<std::string>& room,
+                          std::string_view sql) const {
+  // A statement without rows has run to its end before the caller's text goes away; rows are read later.
+  const auto lifetime = sqlite3_column_count(prepared) == 0 ? SQLITE_STATIC : SQLITE_TRANSIENT;
+  const auto bindText = [&](int number, std::string_view text) {
+    return sqlite3_bind_text64(prepared, number, text.data(), text.size(), lifetime, SQLITE_UTF8);
+  };
+  room.reserve(statement.parameters.size());
+  int number = 0;
+  for (const SqlParameter& parameter : statement.parameters) {
+    ++number;
+    int result = SQLITE_OK;
+    if (const auto* token = std::get_if<SqlToken>(&parameter)) {
+      result = bindText(number, holdsQuotes(*token) ? room.emplace_back(textIn(*token)) : quotedPart(*token));
+    } else if (const auto* whole = std::get_if<std::int64_t>(&parameter)) {
+      result = sqlite3_bind_int64(prepared, number, *whole);
+    } else {
+      result = bindText(number, room.emplace_back(dateTimeText(clock_.localNow())));
+    }
+    if (result != SQLITE_OK) {
+      fail(sql);
+    }
+  }
+}
+
+bool SqliteDatabase::step(sqlite3_stmt* prepared, std::string_view sql) const {
+  const int result = sqlite3_step(prepared);
+  if (result != SQLITE_ROW && result != SQLITE_DONE) {
+    fail(sql);
+  }
+  return result == SQLITE_ROW;
+}
+
+void SqliteDatabase::run(const PlainStatement& statement, std::string_view sql) {
+  std::vector<std::string> room;
+  const StatementLoan loan = prepare(statement, sql);
+  bind(loan.get(), statement, room, sql);
+  while (step(loan.get(), sql)) {
+  }
+}
+
+std::vector<std::vector<std::string>> SqliteDatabase::rows(const std::string& text, const std::string& argument) {
+  const StatementLoan loan = prepare({text, {}, false}, text);
+  if (sqlite3_bind_parameter_count(loan.get()) > 0) {
+    sqlite3_bind_text64(loan.get(), 1, argument.data(), argument.size(), SQLITE_STATIC, SQLITE_UTF8);
+  }
+  std::vector<std::vector<std::string>> all;
+  while (step(loan.get(), text)) {
+    auto& row = all.emplace_back();
+    for (int column = 0; column < sqlite3_column_count(loan.get()); ++column) {
+      const bool isNull = sqlite3_column_type(loan.get(), column) == SQLITE_NULL;
+      const auto* field = reinterpret_cast<const char*>(sqlite3_column_text(loan.get(), column));
+      if (field == nullptr && !isNull) {
+        fail(text);  // there is no memory for it
+      }
+      row.emplace_back(isNull ? "" : field);
+    }
+  }
+  return all;
+}
+
+void SqliteDatabase::fail(std::string_view sql) const {
+  const DataAccessError error = lastSqliteError(handle(), path_, sql);
+  // With no room or a broken disk nothing that follows in the transaction can be relied on, so all of it is taken back;
+  // SQLite leaves that to its caller when the statement could be undone alone.
+  const int code = sqlite3_errcode(handle()) & 0xff;
+  outdated_ = outdated_ || code == SQLITE_CORRUPT || code == SQLITE_NOTADB || code == SQLITE_READONLY;
+  switch (code) {
+    case SQLITE_FULL:
+    case SQLITE_IOERR:
+    case SQLITE_NOMEM:
+    case SQLITE_CORRUPT:
+      sqlite3_exec(handle(), "rollback", nullptr, nullptr, nullptr);
+      break;
+    default:
+      break;
+  }
+  throw DataAccessError(error);
+}
+
+void SqliteDatabase::keep(SqliteStatement statement) noexcept {
+  try {
+    const std::string_view text = sqlite3_sql(statement.get());
+    if (keptByText_.contains(text)) {
+      return;
+    }
+    kept_.push_front(std::move(statement));
+    keptByText_.emplace(text, kept_.begin());
+    if (kept_.size() > kStatementsKept) {
+      keptByText_.erase(sqlite3_sql(kept_.back().get()));
+      kept_.pop_back();
+    }
+  } catch (const std::bad_alloc&) {
+    // Only kept for speed. A statement in the list that cannot be found by its text is dropped with the oldest.
+  }
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,114 @@
+#include "platform/sqlite/sqlite_errors.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <optional>
+
+#include "platform/sqlite/shown_statement.h"
+#include "platform/sqlite/sql_dialect.h"
+#include "platform/sqlite/sqlite_file.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kShownValueLength = 40;
+constexpr int kPrimaryCodeMask = 0xff;
+
+/// A slip of the fingers is short and plain; anything else may be what was meant for another place.
+bool isFitToShow(std::string_view value) {
+  return value.size() <= kShownValueLength && std::ranges::all_of(value, [](char c) { return c >= ' ' && c <= '~'; });
+}
+
+/// A failed check names its rule, which the schema words as a sentence about a column: "timeout takes a whole number".
+std::string brokenRule(const std::string& message, std::string_view sql) {
+  static constexpr std::string_view kPrefix = "CHECK constraint failed: ";
+  if (!message.starts_with(kPrefix)) {
+    return message + ". Nothing was stored.";
+  }
+  const std::string rule = message.substr(kPrefix.size());
+  const std::optional<std::string_view> value = assignedText(sql, rule.substr(0, rule.find(' ')));
+  if (!value) {
+    return rule + ". Nothing was stored.";
+  }
+  return rule + "; " + (isFitToShow(*value) ? std::string(*value) : "'...'") + " was not stored.";
+}
+
+std::string constraintCause(int code, const std::string& message, std::string_view sql) {
+  switch (code) {
+    case SQLITE_CONSTRAINT_CHECK:
+      return brokenRule(message, sql);
+    case SQLITE_CONSTRAINT_PRIMARYKEY:
+    case SQLITE_CONSTRAINT_ROWID:
+    case SQLITE_CONSTRAINT_UNIQUE:
+      return "A record with this key is there already; nothing was stored. (" + message + ")";
+    default:
+      return "The database does not allow this value; nothing was stored. (" + message + ")";
+  }
+}
+
+std::string cause(int code, const std::string& message, const std::string& path, std::string_view sql) {
+  const std::string detail = " (" + message + ")";
+  switch (code & kPrimaryCodeMask) {
+    case SQLITE_BUSY:
+      return "The database " + path +
+             " is in use by another program, which has locked it. Close that program, or wait " +
+             "until it is done, and try again." + detail;
+    case SQLITE_PROTOCOL:
+      return "The database " + path +
+             " could not be locked. Try again; if it lies on a network disk, move it to one of this machine." + detail;
+    case SQLITE_LOCKED:
+      return "A table of the database is still being read; the change cannot be made now. Try again." + detail;
+    case SQLITE_READONLY:
+      return "The database " + path +
+             " cannot be changed: the file or its folder is read-only. Allow writing to both." + detail;
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+    case SQLITE_CANTOPEN:
+      return "The database " + path + " cannot be opened. Allow reading and writing the file and its folder." + detail;
+    case SQLITE_FULL:
+      return "The disk is full: the database " + path + " could not store this. Free some space and try again." +
+             detail;
+    case SQLITE_IOERR:
+      if (code == SQLITE_IOERR_SHMSIZE) {
+        return "The disk is full: even reading the database " + path +
+               " needs room for a small file beside it. Free some space and try again." + detail;
+      }
+      return "Reading or writing the database " + path + " failed. Check the disk it lies on, and its free space." +
+             detail;
+    case SQLITE_TOOBIG:
+      return "The text is too large for the database; nothing was stored." + detail;
+    case SQLITE_NOMEM:
+      return "There is not enough memory for this; nothing was stored." + detail;
+    case SQLITE_MISMATCH:
+      return "The record's number must be a whole number; nothing was stored." + detail;
+    case SQLITE_CONSTRAINT:
+      return constraintCause(code, message, sql);
+    default:
+      return "The database refused the statement: " + message;
+  }
+}
+
+}  // namespace
+
+DataAccessError damagedDatabase(const std::string& path, const std::string& message, std::string_view sql) {
+  return {"The file " + path + " is damaged or is no database. Put back a good copy, for instance backup.mdb. (" +
+              message + ")",
+          shownStatement(sql)};
+}
+
+DataAccessError lastSqliteError(sqlite3* database, const std::string& path, std::string_view sql) {
+  const int told = sqlite3_extended_errcode(database);
+  const int code = causeBehind(told, database);
+  return sqliteError(code, code == told ? sqlite3_errmsg(database) : sqlite3_errstr(code), path, sql);
+}
+
+DataAccessError sqliteError(int code, const std::string& message, const std::string& path, std::string_view sql) {
+  const int primary = code & kPrimaryCodeMask;
+  if (primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB) {
+    return damagedDatabase(path, message, sql);
+  }
+  return {cause(code, message, path, sql), shownStatement(sql)};
+}
+
+}  // namespace tarnwick

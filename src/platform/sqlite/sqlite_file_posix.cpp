@@ -1,0 +1,70 @@
+#include <sys/stat.h>
+#include <sys/statfs.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdint>
+
+#include "platform/sqlite/sqlite_file.h"
+
+namespace tarnwick {
+namespace {
+
+// What statfs(2) calls NFS, SMB, SMB2, CIFS, AFS and Ceph.
+constexpr std::array<std::uint32_t, 6> kNetworkKinds = {0x6969, 0x517B, 0xFE534D42, 0xFF534D42, 0x5346414F, 0x00C36400};
+
+// What the system has said of the file last, as SQLite keeps it.
+int lastErrorOf(const sqlite3_file* file) {
+  int error = 0;
+  if (file != nullptr && file->pMethods != nullptr) {
+    file->pMethods->xFileControl(const_cast<sqlite3_file*>(file), SQLITE_FCNTL_LAST_ERRNO, &error);
+  }
+  return error;
+}
+
+bool couldNotBeRead(sqlite3* database, int whichFile) {
+  sqlite3_file* file = nullptr;
+  if (sqlite3_file_control(database, "main", whichFile, &file) != SQLITE_OK) {
+    return false;
+  }
+  const int error = lastErrorOf(file);
+  return error == EIO || error == ENXIO || error == ERANGE;
+}
+
+}  // namespace
+
+std::string sqliteFileName(const std::string& path) { return path; }
+
+int openSqliteFile(const std::string& path, int flags, sqlite3** database) {
+  return sqlite3_open_v2(path.c_str(), database, flags, nullptr);
+}
+
+int causeBehind(int code, sqlite3* database) {
+  // A read that the disk refuses comes out as damage, since a damaged file system says the same; but the next read may
+  // well succeed, and nobody should put an old copy in the place of a file that is sound.
+  if (code == SQLITE_CORRUPT &&
+      (couldNotBeRead(database, SQLITE_FCNTL_FILE_POINTER) || couldNotBeRead(database, SQLITE_FCNTL_JOURNAL_POINTER))) {
+    return SQLITE_IOERR_READ;
+  }
+  // Any failure to make the memory that is shared through a file.
+  const int error = sqlite3_system_errno(database);
+  const bool noRoom = error == ENOSPC || error == EDQUOT || error == EFBIG;
+  return code == SQLITE_IOERR_SHMSIZE && !noRoom ? SQLITE_IOERR : code;
+}
+
+bool liesOnNetwork(const std::string& path) {
+  struct statfs facts {};
+  return ::statfs(path.c_str(), &facts) == 0 &&
+         std::ranges::find(kNetworkKinds, static_cast<std::uint32_t>(facts.f_type)) != kNetworkKinds.end();
+}
+
+std::optional<FileIdentity> identityOf(const std::string& path) {
+  struct stat facts {};
+  if (::stat(path.c_str(), &facts) != 0) {
+    return std::nullopt;
+  }
+  return FileIdentity{facts.st_dev, facts.st_ino};
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,114 @@
+#include "platform/sqlite/sqlite_file_watch.h"
+
+#include <exception>
+
+#include "platform/file_access.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::chrono::milliseconds kPause{100};
+
+/// SQLite keeps the other files beside the database itself, wherever links led to it.
+std::string realName(sqlite3* database) {
+  const char* name = sqlite3_db_filename(database, "main");
+  return name == nullptr ? "" : name;
+}
+
+/// What cannot be looked at may hold something.
+bool holdsNothing(const std::string& path) noexcept {
+  try {
+    return !isTaken(path) || sizeOf(path) == 0;
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+SqliteFileWatch::SqliteFileWatch(const std::string& path, sqlite3* database)
+    : database_(path), log_(realName(database) + "-wal"), sharedMemory_(realName(database) + "-shm") {}
+
+SqliteFileWatch::Finding SqliteFileWatch::look() const {
+  if (database_.isGone()) {
+    return identityOf(database_.path) ? Finding::other : Finding::missing;
+  }
+  return log_.isGone() || sharedMemory_.isGone() ? Finding::otherCompanions : Finding::same;
+}
+
+SqliteFileWatch::Finding SqliteFileWatch::lookNowAndThen() {
+  const auto now = std::chrono::steady_clock::now();
+  if (now < nextLook_) {
+    return Finding::same;
+  }
+  const Finding finding = look();
+  if (finding == Finding::same) {
+    nextLook_ = now + kPause;
+  }
+  return finding;
+}
+
+// A database that has moved SQLite leaves as it is when it closes the files, and the log in its place.
+void SqliteFileWatch::beforeClosing(sqlite3* database) const noexcept {
+  switch (look()) {
+    case Finding::other:
+      // So that the one that was moved out of the way is complete.
+      sqlite3_wal_checkpoint_v2(database, "main", SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+      break;
+    case Finding::otherCompanions:
+      // SQLite takes its log in only while nobody else has the database open. Where others have begun a log since,
+      // that one counts; an empty one holds nothing. The own one, if it is still in its place, is found there later.
+      if (!holdsNothing(log_.path)) {
+        sqlite3_db_config(database, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+      }
+      break;
+    default:
+      break;
+  }
+}
+
+void SqliteFileWatch::afterClosing() const noexcept {
+  if (look() != Finding::other || !log_.isInPlace()) {
+    return;
+  }
+  try {
+    replaceFile(log_.path, log_.path + ".old");
+    if (sharedMemory_.isInPlace()) {
+      removeFile(sharedMemory_.path);
+    }
+  } catch (const std::exception&) {
+    // Who may not change the folder cannot open the database either.
+  }
+}
+
+void requireFile(const std::string& path) {
+  const FileKind kind = kindOf(path);
+  if (kind == FileKind::none) {
+    throw DataAccessError(
+        "The database " + path + " is missing. Put the file back, for instance by copying backup.mdb to its name.", "");
+  }
+  if (kind == FileKind::folder) {
+    throw DataAccessError("The database " + path + " is a folder. Put the database file in its place.", "");
+  }
+  // Where the folder may not be looked into, SQLite says so.
+  if (kind == FileKind::other && isTaken(path)) {
+    throw DataAccessError("The database " + path +
+                              " is no file: a device, a pipe or a link that leads in a circle has its name. Put the "
+                              "database file in its place.",
+                          "");
+  }
+}
+
+DataAccessError exchangedFiles(SqliteFileWatch::Finding finding, const std::string& path) {
+  static const std::string kAdvice =
+      " What was stored last may be lost. From now on the files that are there are used: look whether they are the "
+      "right ones, and try again. Close every Tarnwick before you touch them.";
+  if (finding == SqliteFileWatch::Finding::other) {
+    return {"The database " + path + " was exchanged for another file while it was in use." + kAdvice, ""};
+  }
+  return {"The files " + path + "-wal and -shm, which belong to the database, were removed or exchanged while it was " +
+              "in use." + kAdvice,
+          ""};
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <sqlite3.h>
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "base/errors.h"
+#include "platform/sqlite/sqlite_file.h"
+
+namespace tarnwick {
+
+/// Notices when the files of an open SQLite database are taken away or exchanged for others. SQLite goes on with the
+/// ones it has open: what it writes is found by nobody, and when it closes them it would write a log that is out of
+/// date over what other programs have stored meanwhile.
+class SqliteFileWatch {
+ public:
+  enum class Finding {
+    same,
+    missing,         ///< no file has the database's name
+    other,           ///< another file has it
+    otherCompanions  ///< the write-ahead log, or the memory shared through a file, is gone or another one
+  };
+
+  /// Keeps in mind which files `database`, just opened by the name `path`, consists of.
+  SqliteFileWatch(const std::string& path, sqlite3* database);
+
+  /// Looks at most ten times a second, since it takes some microseconds; `same` in between.
+  Finding lookNowAndThen();
+
+  /// Before `database` is closed: keeps SQLite from taking its log in where others have begun one since.
+  void beforeClosing(sqlite3* database) const noexcept;
+
+  /// Afterwards: moves a log away that the database that is there now would take for its own.
+  void afterClosing() const noexcept;
+
+ private:
+  Finding look() const;
+
+  struct File {
+    explicit File(std::string name) : path(std::move(name)), atOpening(identityOf(path)) {}
+    /// False also where nothing was there at the beginning, so that nothing can be said.
+    bool isGone() const { return atOpening && identityOf(path) != atOpening; }
+    bool isInPlace() const { return atOpening && identityOf(path) == atOpening; }
+    std::string path;
+    std::optional<FileIdentity> atOpening;
+  };
+
+  File database_;
+  File log_;
+  File sharedMemory_;
+  std::chrono::steady_clock::time_point nextLook_{};
+};
+
+/// Raises DataAccessError unless `path` is a file, in words plainer than SQLite's "unable to open".
+void requireFile(const std::string& path);
+
+/// The error for a finding of `other` or `otherCompanions`.
+DataAccessError exchangedFiles(SqliteFileWatch::Finding finding, const std::string& path);
+
+}  // namespace tarnwick

@@ -1,0 +1,134 @@
+#include "platform/sqlite/sqlite_hold.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "base/errors.h"
+#include "platform/private_file.h"
+#include "platform/sqlite/sqlite_connection.h"
+#include "platform/sqlite/sqlite_errors.h"
+#include "platform/sqlite/sqlite_file.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kBusyPatienceMs = 2000;
+constexpr int kPieceSize = 1 << 20;
+
+SqliteHandle openFile(const std::string& path, int flags) {
+  sqlite3* raw = nullptr;
+  const int result = openSqliteFile(path, flags, &raw);
+  SqliteHandle handle(raw);
+  if (result != SQLITE_OK) {
+    throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path, "");
+  }
+  sqlite3_extended_result_codes(raw, 1);
+  sqlite3_busy_timeout(raw, kBusyPatienceMs);
+  return handle;
+}
+
+/// Makes an empty file that may be read by those who may read the file `like`.
+void makeEmpty(const std::string& path, const std::string& like) {
+  bool isMade = false;
+  try {
+    isMade = openNewFileLike(path, like) != nullptr;
+  } catch (const FileError&) {
+    throw DataAccessError("The file " + path + " cannot be written. Allow writing to its folder.", "");
+  }
+  if (!isMade) {
+    throw DataAccessError("The file " + path + " is there already and would be overwritten. Remove it.", "");
+  }
+}
+
+}  // namespace
+
+SqliteHold::SqliteHold(std::string path) : path_(std::move(path)), handle_(openFile(path_, SQLITE_OPEN_READWRITE)) {
+  lock();
+}
+
+void SqliteHold::lock() {
+  sqlite3* const database = handle_.get();
+  // Leaving the write-ahead log works only for a connection that is alone, and takes all of it into the file.
+  const bool alone = run(database, "pragma journal_mode = delete") == "delete";
+  // Once taken, the lock stays until the connection is closed, whatever is done meanwhile.
+  run(database, "pragma main.locking_mode = exclusive");
+  run(database, "begin exclusive");
+  run(database, "commit");
+  // Between the two another program may have come and begun a log again.
+  if (!alone || run(database, "pragma journal_mode") != "delete") {
+    throw sqliteError(SQLITE_BUSY, "the write-ahead log is in use", path_, "");
+  }
+}
+
+std::string SqliteHold::run(sqlite3* database, const std::string& sql) const {
+  sqlite3_stmt* raw = nullptr;
+  if (sqlite3_prepare_v2(database, sql.c_str(), -1, &raw, nullptr) != SQLITE_OK) {
+    fail(database, sql);
+  }
+  const SqliteStatement statement(raw);
+  std::string field;
+  int result = sqlite3_step(raw);
+  for (; result == SQLITE_ROW; result = sqlite3_step(raw)) {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(raw, 0));
+    field = text == nullptr ? "" : text;
+  }
+  if (result != SQLITE_DONE) {
+    fail(database, sql);
+  }
+  return field;
+}
+
+void SqliteHold::read(const ByteSink& sink) {
+  sqlite3_file* file = nullptr;
+  sqlite3_int64 size = 0;
+  int result = sqlite3_file_control(handle_.get(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+  if (result == SQLITE_OK) {
+    result = file->pMethods->xFileSize(file, &size);
+  }
+  std::vector<char> piece(kPieceSize);
+  for (sqlite3_int64 done = 0; result == SQLITE_OK && done < size;) {
+    const int length = static_cast<int>(std::min<sqlite3_int64>(kPieceSize, size - done));
+    result = file->pMethods->xRead(file, piece.data(), length, done);
+    if (result == SQLITE_OK) {
+      sink({piece.data(), static_cast<std::size_t>(length)});
+    }
+    done += length;
+  }
+  if (result != SQLITE_OK) {
+    throw sqliteError(result, sqlite3_errstr(result), path_, "");
+  }
+}
+
+void SqliteHold::compactInto(const std::string& destination) {
+  const std::string path = dataSource(destination);
+  makeEmpty(path, path_);
+  vacuumInto(path);
+  check(path);
+}
+
+void SqliteHold::vacuumInto(const std::string& path) {
+  static constexpr const char* kVacuum = "vacuum main into ?1";
+  sqlite3_stmt* raw = nullptr;
+  if (sqlite3_prepare_v2(handle_.get(), kVacuum, -1, &raw, nullptr) != SQLITE_OK) {
+    fail(handle_.get(), kVacuum);
+  }
+  const SqliteStatement statement(raw);
+  const std::string file = sqliteFileName(path);
+  sqlite3_bind_text64(raw, 1, file.data(), file.size(), SQLITE_STATIC, SQLITE_UTF8);
+  if (sqlite3_step(raw) != SQLITE_DONE) {
+    fail(handle_.get(), kVacuum);
+  }
+}
+
+void SqliteHold::check(const std::string& path) const {
+  const SqliteHandle made = openFile(path, SQLITE_OPEN_READONLY);
+  const std::string finding = run(made.get(), "pragma quick_check(1)");
+  if (finding != "ok") {
+    throw damagedDatabase(path, finding, "");
+  }
+}
+
+void SqliteHold::fail(sqlite3* database, std::string_view sql) const { throw lastSqliteError(database, path_, sql); }
+
+}  // namespace tarnwick

@@ -1,8 +1,0 @@
-#include "platform/terminal_sound.h"
-#include "platform/windows_sound.h"
-
-namespace tarnwick {
-
-std::unique_ptr<SoundPlayer> makeTerminalSound(ProgramStarter&) { return std::make_unique<WindowsSound>(); }
-
-}  // namespace tarnwick

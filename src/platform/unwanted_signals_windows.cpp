@@ -1,8 +1,0 @@
-#include "platform/unwanted_signals.h"
-
-namespace tarnwick {
-
-// The system has no such signals.
-void ignoreUnwantedSignals() {}
-
-}  // namespace tarnwick

@@ -1,0 +1,98 @@
+#include "platform/web/answer_head.h"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <cstdint>
+#include <limits>
+
+namespace tarnwick {
+namespace {
+
+constexpr int kSwitchingProtocols = 101;
+// What libcurl counts to. It passes over a longer length as if there were none.
+constexpr std::size_t kLongestLength = std::numeric_limits<std::int64_t>::max();
+constexpr std::string_view kBlanks = " \t\r\n";
+
+std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(kBlanks);
+  return first == std::string_view::npos ? std::string_view()
+                                         : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+bool sameName(std::string_view name, std::string_view lowerCase) {
+  return std::ranges::equal(name, lowerCase, [](char a, char b) {
+    return static_cast<char>(std::tolower(static_cast<unsigned char>(a))) == b;
+  });
+}
+
+}  // namespace
+
+int statusOf(std::string_view firstLine) {
+  firstLine.remove_prefix(std::min(firstLine.find(' '), firstLine.size()));
+  firstLine = trimmed(firstLine);
+  int status = 0;
+  std::from_chars(firstLine.data(), firstLine.data() + firstLine.size(), status);
+  return std::max(status, 0);
+}
+
+HeadFault AnswerHead::add(std::string_view line) {
+  if (!open_) {
+    return line.starts_with("HTTP/") ? begin(line) : HeadFault::none;
+  }
+  if (trimmed(line).empty()) {
+    return end();
+  }
+  const auto colon = std::min(line.find(':'), line.size());
+  const std::string_view name = trimmed(line.substr(0, colon));
+  if (sameName(name, "content-length")) {
+    addLengths(line.substr(std::min(colon + 1, line.size())));
+  } else if (sameName(name, "transfer-encoding")) {
+    chunked_ = true;
+  }
+  return HeadFault::none;
+}
+
+HeadFault AnswerHead::begin(std::string_view line) {
+  *this = {};
+  open_ = true;
+  return statusOf(line) == kSwitchingProtocols ? HeadFault::otherProtocol : HeadFault::none;
+}
+
+HeadFault AnswerHead::end() {
+  open_ = false;
+  if (chunked_) {
+    return HeadFault::none;
+  }
+  if (unclear_) {
+    return HeadFault::unclearLength;
+  }
+  return endless_ ? HeadFault::endlessPage : HeadFault::none;
+}
+
+// Several of the same value are as good as one (RFC 9110, section 8.6).
+void AnswerHead::addLengths(std::string_view values) {
+  for (;;) {
+    const auto comma = std::min(values.find(','), values.size());
+    addLength(trimmed(values.substr(0, comma)));
+    if (comma == values.size()) {
+      return;
+    }
+    values.remove_prefix(comma + 1);
+  }
+}
+
+void AnswerHead::addLength(std::string_view value) {
+  std::size_t length = 0;
+  const auto [rest, error] = std::from_chars(value.data(), value.data() + value.size(), length);
+  if (rest != value.data() + value.size() || error == std::errc::invalid_argument) {
+    unclear_ = true;
+  } else if (error == std::errc::result_out_of_range || length > kLongestLength) {
+    endless_ = true;
+  } else {
+    unclear_ = unclear_ || (length_ && *length_ != length);
+    length_ = length;
+  }
+}
+
+}  // namespace tarnwick

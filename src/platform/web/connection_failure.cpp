@@ -1,0 +1,150 @@
+#include "platform/web/connection_failure.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <string_view>
+
+namespace tarnwick {
+namespace {
+
+// "Failed to connect to 10.0.0.1 port 3128 after 0 ms: ...": libcurl names whom it has really asked. Empty when that is
+// no proxy server which the environment names.
+std::string unreachedProxy(const std::string& detail) {
+  constexpr std::string_view kStart = "Failed to connect to ";
+  constexpr std::string_view kPort = " port ";
+  const auto port = detail.find(kPort);
+  if (!detail.starts_with(kStart) || port == std::string::npos) {
+    return {};
+  }
+  const auto end = detail.find(' ', port + kPort.size());
+  const std::string number = detail.substr(port + kPort.size(), end - port - kPort.size());
+  const std::string asked = detail.substr(kStart.size(), port - kStart.size()) + ":" + number;
+  for (const char* name :
+       {"http_proxy", "https_proxy", "HTTPS_PROXY", "ftp_proxy", "FTP_PROXY", "all_proxy", "ALL_PROXY"}) {
+    const char* const named = std::getenv(name);
+    if (named != nullptr && std::string_view(named).find(asked) != std::string_view::npos) {
+      return detail.substr(kStart.size(), end - kStart.size());
+    }
+  }
+  return {};
+}
+
+TransferFailure notConnected(const TransferEnd& end, const AskedServer& server) {
+  if (const std::string proxy = unreachedProxy(end.detail); !proxy.empty()) {
+    return {TransferFault::refused, "No connection to the proxy server " + quotable(proxy) + " could be made."};
+  }
+  constexpr int kRedirection = 3;
+  if (server.scheme.starts_with("ftp") && end.status != 0 && end.status / 100 != kRedirection) {
+    // The server itself has been talked to, and not only one that redirected to it.
+    return {TransferFault::refused,
+            "The server " + server.place + " gives its files out at a port that cannot be reached."};
+  }
+  switch (end.systemError) {
+    case ECONNRESET:
+      return withoutAnswer(server);
+    case ECONNREFUSED:
+      return {TransferFault::refused, "The connection to " + server.place + " was refused."};
+    case ENETUNREACH:
+    case EHOSTUNREACH:
+    case ENETDOWN:
+      return {TransferFault::refused, "The host " + server.host + " cannot be reached from this machine."};
+    case ETIMEDOUT:
+      return {TransferFault::timeOut, "The host " + server.host + " does not answer."};
+    default:
+      return {TransferFault::refused, "No connection to " + server.place + " could be made."};
+  }
+}
+
+TransferFailure untrusted(const AskedServer& server, const std::string& detail) {
+  const std::string start = "The certificate of the server " + server.place + " could not be verified: ";
+  constexpr std::string_view kProblem = "SSL certificate problem: ";
+  const auto problem = detail.find(kProblem);
+  if (problem != std::string::npos) {
+    return {TransferFault::certificate, start + quotable(detail.substr(problem + kProblem.size())) + "."};
+  }
+  // The first two in the words of OpenSSL's side of libcurl, the others in those of Windows' own.
+  for (const std::string_view otherHost :
+       {"subject name", "subjectAltName", "check failed", "match connection hostname"}) {
+    if (detail.find(otherHost) != std::string::npos) {
+      return {TransferFault::certificate, start + "it was issued for another host."};
+    }
+  }
+  if (detail.find("UNTRUSTED_ROOT") != std::string::npos) {
+    return {TransferFault::certificate, start + "nobody whom this machine trusts has issued it."};
+  }
+  return {TransferFault::certificate, start + "it is not valid."};
+}
+
+TransferFailure malformed(const TransferEnd& end) {
+  if (end.redirectedBy.empty()) {
+    return badAddress(end.url);
+  }
+  return {TransferFault::badUrl,
+          "The server " + AskedServer(end.redirectedBy).place + " redirected to an address that is not valid."};
+}
+
+}  // namespace
+
+std::optional<TransferFailure> lackOfThisMachine(int error) {
+  switch (error) {
+    case EMFILE:
+    case ENFILE:
+      return TransferFailure{TransferFault::shortage, "This machine has no more file handles for Tarnwick."};
+    case ENOBUFS:
+    case ENOMEM:
+      return TransferFailure{TransferFault::shortage, "This machine has not enough memory for another connection."};
+    default:
+      return std::nullopt;
+  }
+}
+
+TransferFailure withoutAnswer(const AskedServer& server) {
+  return {TransferFault::dropped, "The server " + server.place + " closed the connection without an answer."};
+}
+
+TransferFailure unsecured(const AskedServer& server, const std::string& detail) {
+  const std::string start = "No secure connection to " + server.place + " could be made";
+  // What OpenSSL and the system say of a server that hangs up instead of going on with the handshake.
+  for (const std::string_view hungUp : {"SSL_ERROR_SYSCALL", "reset by peer", "unexpected eof"}) {
+    if (detail.find(hungUp) != std::string::npos) {
+      return {TransferFault::secureConnection, start + ": the server closed the connection."};
+    }
+  }
+  // "error:0A00010B:SSL routines::wrong version number": only the last piece says something to a reader.
+  const auto last = detail.rfind("::");
+  const std::string reason =
+      last == std::string::npos ? "" : detail.substr(last + 2, detail.find(',', last) - last - 2);
+  const bool isWord = !reason.empty() && !reason.starts_with("reason(");  // it has no word for this number
+  return {TransferFault::secureConnection, start + (isWord ? ": " + quotable(reason) + "." : ".")};
+}
+
+std::optional<TransferFailure> failureToConnect(const TransferEnd& end, const AskedServer& server) {
+  switch (end.result) {
+    case CURLE_URL_MALFORMAT:
+      return malformed(end);
+    case CURLE_COULDNT_RESOLVE_HOST:
+      return TransferFailure{TransferFault::nameLookup, "The name of the host " + server.host + " could not be found."};
+    case CURLE_COULDNT_RESOLVE_PROXY:
+      return TransferFailure{TransferFault::nameLookup, "The name of the proxy server could not be found."};
+    case CURLE_COULDNT_CONNECT:
+      return notConnected(end, server);
+    case CURLE_PEER_FAILED_VERIFICATION:
+    case CURLE_SSL_ISSUER_ERROR:
+    case CURLE_SSL_INVALIDCERTSTATUS:
+      return untrusted(server, end.detail);
+    case CURLE_SSL_CACERT_BADFILE:
+      return TransferFailure{TransferFault::certificate,
+                             end.caFile.empty()
+                                 ? "The system's file of trusted certificates could not be read."
+                                 : "The file of trusted certificates " + quotable(end.caFile) + " could not be read."};
+    case CURLE_SSL_CONNECT_ERROR:
+    case CURLE_SSL_CIPHER:
+    case CURLE_SSL_CERTPROBLEM:
+    case CURLE_USE_SSL_FAILED:
+      return unsecured(server, end.detail);
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace tarnwick

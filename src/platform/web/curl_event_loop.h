@@ -1,0 +1,91 @@
+#pragma once
+
+#include <curl/curl.h>
+
+#include <chrono>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+#include <QObject>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include "platform/web/transfer_clock.h"
+
+namespace tarnwick {
+
+/// Drives libcurl transfers by the Qt event loop: socket notifiers and timers, no polling, no thread of its own. The
+/// time-out of a transfer is counted here and not by libcurl, which would take the time in which the program was busy
+/// elsewhere for the server's.
+class CurlEventLoop {
+ public:
+  CurlEventLoop();
+  ~CurlEventLoop();
+  CurlEventLoop(const CurlEventLoop&) = delete;
+  CurlEventLoop& operator=(const CurlEventLoop&) = delete;
+
+  /// Starts the transfer, which may take `timeout`. When it ends the handle is taken out and `done` is called with its
+  /// result, from the event loop. `done` must not start or stop a transfer nor handle events. False when libcurl did
+  /// not take the handle.
+  bool start(CURL* easy, std::chrono::milliseconds timeout, std::function<void(CURLcode)> done);
+  /// Ends the transfer at once; its `done` is not called. Harmless when it is not under way.
+  void stop(CURL* easy);
+
+  /// Calls `event` from the event loop, after those posted before. Events may do anything: post, start and stop
+  /// transfers, handle further events, and destroy this object.
+  void post(std::function<void()> event);
+
+  /// How long libcurl has been running without coming back to the event loop, seen from one of its callbacks.
+  std::chrono::milliseconds timeInside() const;
+
+ private:
+  struct Watch {
+    std::unique_ptr<QSocketNotifier> reading;
+    std::unique_ptr<QSocketNotifier> writing;
+  };
+
+  struct Transfer {
+    std::function<void(CURLcode)> done;
+    TransferClock clock;
+    /// It is overdue; what has arrived for it is still looked at once.
+    bool lastRound = false;
+  };
+
+  static int socketChanged(CURL* easy, curl_socket_t socket, int what, void* self, void* perSocket);
+  static int timerChanged(CURLM* multi, long milliseconds, void* self);
+
+  void watch(curl_socket_t socket, int what);
+  void setWatching(std::unique_ptr<QSocketNotifier>& notifier, bool wanted, curl_socket_t socket,
+                   QSocketNotifier::Type type);
+  void unwatch(curl_socket_t socket);
+  void act(curl_socket_t socket, int events);
+  void collectEnded();
+  void endWith(CURL* easy, CURLcode result);
+  void beat();
+  void lookAfterConnecting();
+  void giveBackTimeAway();
+  void endOverdue(std::chrono::steady_clock::time_point now);
+  void armBeat(std::chrono::steady_clock::time_point now);
+  void wake();
+  void dispatch();
+
+  CURLM* multi_;
+  std::unordered_map<curl_socket_t, Watch> watches_;
+  // Notifiers no longer wanted: one of them may be the one that is calling us.
+  std::vector<std::unique_ptr<QSocketNotifier>> retired_;
+  std::unordered_map<CURL*, Transfer> transfers_;
+  std::deque<std::function<void()>> events_;
+  bool awake_ = false;
+  // Tells whether an event has destroyed us.
+  std::shared_ptr<char> alive_ = std::make_shared<char>();
+  std::chrono::steady_clock::time_point enteredAt_;
+  QTimer timer_;
+  // Beats while a transfer is under way. One beat that comes late tells how long nobody served the sockets.
+  QTimer beat_;
+  std::chrono::steady_clock::time_point beatDue_;
+  QObject context_;
+};
+
+}  // namespace tarnwick

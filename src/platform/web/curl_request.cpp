@@ -1,0 +1,250 @@
+#include "platform/web/curl_request.h"
+
+#include <algorithm>
+#include <cctype>
+#include <string_view>
+
+#include "platform/os/socket_inheritance.h"
+#include "platform/web/socket_errors.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kLargestHeader = std::size_t{256} * 1024;
+/// libcurl waits inside itself for the last replies of an FTP server; longer than this the window would seem frozen.
+constexpr std::chrono::milliseconds kLongestWaitInside{900};
+/// The same for a server that says something all the time, and thereby keeps libcurl from asking us; in seconds.
+constexpr long kLongestLastReply = 1;
+constexpr int kRedirection = 300;
+constexpr int kSeeOther = 303;
+constexpr int kClientError = 400;
+
+std::string textOf(CURL* easy, CURLINFO what) {
+  const char* text = nullptr;
+  curl_easy_getinfo(easy, what, &text);
+  return text == nullptr ? "" : text;
+}
+
+int numberOf(CURL* easy, CURLINFO what) {
+  long number = 0;
+  curl_easy_getinfo(easy, what, &number);
+  return static_cast<int>(number);
+}
+
+BrokenBound brokenBy(HeadFault fault) {
+  switch (fault) {
+    case HeadFault::unclearLength:
+      return BrokenBound::length;
+    case HeadFault::endlessPage:
+      return BrokenBound::page;
+    case HeadFault::otherProtocol:
+      return BrokenBound::protocol;
+    case HeadFault::none:
+      break;
+  }
+  return BrokenBound::none;
+}
+
+}  // namespace
+
+CurlRequest::CurlRequest(RequestOrder order, const CurlTransfers::Options& options, CurlEventLoop& loop,
+                         std::function<void(int)> onState)
+    : order_(std::move(order)),
+      options_(options),
+      loop_(loop),
+      onState_(std::move(onState)),
+      caches_(curl_share_init(), &curl_share_cleanup),
+      easy_(curl_easy_init(), &curl_easy_cleanup),
+      headerLines_(nullptr, &curl_slist_free_all) {
+  if (easy_ && caches_) {
+    setCallbacks();
+    setBounds();
+    setCaches();
+    setTarget();
+    setMethod();
+    setHeaders();
+    setCredentials();
+  }
+}
+
+CurlRequest::~CurlRequest() {
+  if (easy_) {
+    loop_.stop(easy_.get());
+  }
+}
+
+bool CurlRequest::start(std::function<void(CURLcode)> done) {
+  return easy_ && caches_ && loop_.start(easy_.get(), timeLimit(), std::move(done));
+}
+
+int CurlRequest::onResolve(void*, void*, void* self) {
+  static_cast<CurlRequest*>(self)->reach(transfer_state::resolvingHost);
+  return 0;
+}
+
+curl_socket_t CurlRequest::onOpen(void* self, curlsocktype, curl_sockaddr* address) {
+  const curl_socket_t opened = ::socket(address->family, address->socktype, address->protocol);
+  static_cast<CurlRequest*>(self)->refusedSocket_ = opened == CURL_SOCKET_BAD ? lastSocketError() : 0;
+  return opened;
+}
+
+int CurlRequest::onSocket(void* self, curl_socket_t socket, curlsocktype) {
+  keepFromPrograms(static_cast<std::uintptr_t>(socket));
+  auto* const request = static_cast<CurlRequest*>(self);
+  request->answering_ = false;
+  request->reach(transfer_state::connecting);
+  return CURL_SOCKOPT_OK;
+}
+
+CURLcode CurlRequest::onHandshake(CURL*, void*, void* self) {
+  static_cast<CurlRequest*>(self)->reach(transfer_state::connected);
+  return CURLE_OK;
+}
+
+int CurlRequest::onReady(void* self, char*, char*, int, int) {
+  static_cast<CurlRequest*>(self)->reach(transfer_state::requesting);
+  return CURL_PREREQFUNC_OK;
+}
+
+int CurlRequest::onProgress(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t up) {
+  auto* const request = static_cast<CurlRequest*>(self);
+  request->noteSent(up);
+  return request->waitsInside() ? 1 : 0;
+}
+
+std::size_t CurlRequest::onHeader(char* data, std::size_t size, std::size_t count, void* self) {
+  const std::size_t length = size * count;
+  return static_cast<CurlRequest*>(self)->take(&CurlRequest::addHeader, {data, length}) ? length : 0;
+}
+
+std::size_t CurlRequest::onPage(char* data, std::size_t size, std::size_t count, void* self) {
+  const std::size_t length = size * count;
+  // Any other number than the length ends the transfer; for an empty piece that must not be 0.
+  return static_cast<CurlRequest*>(self)->take(&CurlRequest::addPage, {data, length}) ? length : length + 1;
+}
+
+bool CurlRequest::take(bool (CurlRequest::*add)(std::string_view), std::string_view piece) {
+  try {
+    return (this->*add)(piece);
+  } catch (const std::exception&) {
+    // No exception may cross libcurl.
+    bound_ = BrokenBound::memory;
+    return false;
+  }
+}
+
+void CurlRequest::reach(int state) {
+  while (state_ < state) {
+    onState_(++state_);
+  }
+}
+
+void CurlRequest::noteSent(curl_off_t bodyBytes) {
+  if (state_ != transfer_state::requesting) {
+    return;
+  }
+  long requestBytes = 0;
+  curl_easy_getinfo(easy_.get(), CURLINFO_REQUEST_SIZE, &requestBytes);
+  const auto wanted = order_.method == "POST" ? static_cast<curl_off_t>(order_.body.size()) : curl_off_t{0};
+  if (requestBytes > 0 && bodyBytes >= wanted) {
+    reach(transfer_state::requestSent);
+  }
+}
+
+bool CurlRequest::addHeader(std::string_view line) {
+  answering_ = true;
+  headerBytes_ += line.size();
+  bound_ = headerBytes_ > kLargestHeader ? BrokenBound::header : brokenBy(head_.add(line));
+  if (bound_ != BrokenBound::none) {
+    return false;
+  }
+  // The lines of an FTP server come here too, its greeting before anything was asked.
+  if (line.starts_with("HTTP/")) {
+    reach(transfer_state::receivingResponse);
+    const int status = statusOf(line);
+    if (status >= kRedirection && status < kClientError) {
+      redirectedBy_ = textOf(easy_.get(), CURLINFO_EFFECTIVE_URL);
+    }
+    if (status == kSeeOther) {
+      // What follows is fetched by GET whatever this was (RFC 9110, section 15.4.4); libcurl keeps a method of ours.
+      curl_easy_setopt(easy_.get(), CURLOPT_CUSTOMREQUEST, nullptr);
+    }
+  } else if (overFtp() && (line.starts_with("150 ") || line.starts_with("125 "))) {
+    // The file comes (RFC 959, section 5.4). Only one more reply is waited for, and that wait is inside libcurl.
+    curl_easy_setopt(easy_.get(), CURLOPT_SERVER_RESPONSE_TIMEOUT, kLongestLastReply);
+  }
+  return true;
+}
+
+bool CurlRequest::addPage(std::string_view piece) {
+  reach(transfer_state::receivingResponse);
+  if (piece.size() > options_.largestPage - page_.size() || (page_.empty() && announcedTooLarge())) {
+    bound_ = BrokenBound::page;
+    return false;
+  }
+  page_.append(piece);
+  return true;
+}
+
+bool CurlRequest::announcedTooLarge() const {
+  curl_off_t length = -1;
+  curl_easy_getinfo(easy_.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &length);
+  return length > 0 && static_cast<std::size_t>(length) > options_.largestPage;
+}
+
+bool CurlRequest::waitsInside() const { return loop_.timeInside() >= kLongestWaitInside && overFtp(); }
+
+bool CurlRequest::overFtp() const {
+  const char* scheme = nullptr;
+  curl_easy_getinfo(easy_.get(), CURLINFO_SCHEME, &scheme);
+  return scheme != nullptr && std::tolower(static_cast<unsigned char>(scheme[0])) == 'f';
+}
+
+CURLcode CurlRequest::judged(CURLcode result) const {
+  return result == CURLE_OK && head_.open() ? CURLE_PARTIAL_FILE : result;
+}
+
+void CurlRequest::completeStates(CURLcode result) {
+  if (result == CURLE_OK) {
+    reach(transfer_state::disconnected);
+    return;
+  }
+  curl_off_t connectTime = 0;
+  curl_easy_getinfo(easy_.get(), CURLINFO_CONNECT_TIME_T, &connectTime);
+  if (state_ == transfer_state::connecting && connectTime > 0) {
+    reach(transfer_state::connected);
+  }
+  curl_off_t sent = 0;
+  curl_easy_getinfo(easy_.get(), CURLINFO_SIZE_UPLOAD_T, &sent);
+  noteSent(sent);
+}
+
+int CurlRequest::refusedSocket(CURLcode result) const {
+  // Of these libcurl tells no more, and both need files and sockets of the system's.
+  const bool neededMore = result == CURLE_COULDNT_RESOLVE_HOST || result == CURLE_SSL_CACERT_BADFILE;
+  return refusedSocket_ == 0 && neededMore ? shortageOfSockets() : refusedSocket_;
+}
+
+TransferFailure CurlRequest::failure(CURLcode result) const {
+  CURL* const easy = easy_.get();
+  const std::string url = textOf(easy, CURLINFO_EFFECTIVE_URL);
+  const std::string peer = textOf(easy, CURLINFO_PRIMARY_IP);
+  // A header line longer than libcurl's own bound is reported as a lack of memory.
+  const bool headerRefused = result == CURLE_OUT_OF_MEMORY && state_ >= transfer_state::requesting && page_.empty();
+  return failureOf({.result = result,
+                    .detail = detail_.data(),
+                    .url = url.empty() ? order_.url : url,
+                    .peer = peer.empty() ? "" : peer + " port " + std::to_string(numberOf(easy, CURLINFO_PRIMARY_PORT)),
+                    .systemError = errnoOfSocket(numberOf(easy, CURLINFO_OS_ERRNO)),
+                    .refusedSocket = refusedSocket(result),
+                    .status = numberOf(easy, CURLINFO_RESPONSE_CODE),
+                    .redirectedBy = redirectedBy_,
+                    .answered = answering_,
+                    .bound = headerRefused ? BrokenBound::header : bound_,
+                    .timeout = order_.timeout,
+                    .largestPage = options_.largestPage,
+                    .mostRedirects = kMostRedirects,
+                    .caFile = options_.caFile});
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,113 @@
+#pragma once
+
+#include <curl/curl.h>
+
+#include <array>
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/web/answer_head.h"
+#include "platform/web/curl_event_loop.h"
+#include "platform/web/curl_transfers.h"
+#include "platform/web/transfer_failure.h"
+
+namespace tarnwick {
+
+/// What one request asks for.
+struct RequestOrder {
+  std::string url{};
+  std::string userName{};
+  std::string password{};
+  std::chrono::seconds timeout{kDefaultRequestTimeout};
+  std::string method{};
+  std::string body{};
+  /// Header lines separated by CR LF.
+  std::string headers{};
+};
+
+/// Why `order` cannot be sent at all; nothing when it can.
+std::optional<TransferFailure> refusalOf(const RequestOrder& order);
+
+/// One request, its redirects and challenges included: an easy handle with its cookies, and the page so far.
+class CurlRequest {
+ public:
+  /// `onState` is called from inside libcurl with each state that is reached, in rising order without gaps; it must
+  /// not touch any transfer. REQUIRES: `refusalOf(order)` is nothing. `loop` outlives the request.
+  CurlRequest(RequestOrder order, const CurlTransfers::Options& options, CurlEventLoop& loop,
+              std::function<void(int)> onState);
+  ~CurlRequest();
+  CurlRequest(const CurlRequest&) = delete;
+  CurlRequest& operator=(const CurlRequest&) = delete;
+
+  /// Starts it; `done` is called from the event loop with libcurl's result. False when there is no memory for it.
+  bool start(std::function<void(CURLcode)> done);
+
+  /// What a transfer that ended with `result` really came to: libcurl takes an answer that breaks off inside its
+  /// header for a whole one.
+  CURLcode judged(CURLcode result) const;
+  /// Reports the states that had been reached when it ended but were not seen on the way.
+  void completeStates(CURLcode result);
+  /// Why it ended with `result`.
+  TransferFailure failure(CURLcode result) const;
+  std::string takePage() { return std::move(page_); }
+
+ private:
+  static constexpr int kMostRedirects = 20;
+
+  using EasyHandle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
+  using Caches = std::unique_ptr<CURLSH, decltype(&curl_share_cleanup)>;
+  using LineList = std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)>;
+
+  void setCallbacks();
+  std::chrono::milliseconds timeLimit() const;
+  void setBounds();
+  void setCaches();
+  void setTarget();
+  void setMethod();
+  void setHeaders();
+  void setCredentials();
+
+  static int onResolve(void* resolver, void* reserved, void* self);
+  static curl_socket_t onOpen(void* self, curlsocktype purpose, curl_sockaddr* address);
+  static int onSocket(void* self, curl_socket_t socket, curlsocktype purpose);
+  static CURLcode onHandshake(CURL* easy, void* sslContext, void* self);
+  static int onReady(void* self, char* remoteAddress, char* localAddress, int remotePort, int localPort);
+  static int onProgress(void* self, curl_off_t downTotal, curl_off_t down, curl_off_t upTotal, curl_off_t up);
+  static std::size_t onHeader(char* data, std::size_t size, std::size_t count, void* self);
+  static std::size_t onPage(char* data, std::size_t size, std::size_t count, void* self);
+
+  void reach(int state);
+  void noteSent(curl_off_t bodyBytes);
+  bool take(bool (CurlRequest::*add)(std::string_view), std::string_view piece);
+  bool addHeader(std::string_view line);
+  bool addPage(std::string_view piece);
+  bool announcedTooLarge() const;
+  bool waitsInside() const;
+  bool overFtp() const;
+  int refusedSocket(CURLcode result) const;
+
+  RequestOrder order_;
+  CurlTransfers::Options options_;
+  CurlEventLoop& loop_;
+  std::function<void(int)> onState_;
+  Caches caches_;
+  EasyHandle easy_;
+  LineList headerLines_;
+  std::array<char, CURL_ERROR_SIZE> detail_{};
+  std::string page_;
+  std::size_t headerBytes_ = 0;
+  AnswerHead head_;
+  // Where an answer has led elsewhere last.
+  std::string redirectedBy_;
+  // Something has come back over the connection that was made last.
+  bool answering_ = false;
+  // Why the system has refused the socket that was asked for last; 0 when it has not.
+  int refusedSocket_ = 0;
+  BrokenBound bound_ = BrokenBound::none;
+  int state_ = transfer_state::none;
+};
+
+}  // namespace tarnwick

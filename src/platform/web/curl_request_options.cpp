@@ -1,0 +1,166 @@
+#include <algorithm>
+#include <climits>
+#include <string_view>
+
+#include "platform/address.h"
+#include "platform/web/curl_request.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kUserAgent = "Tarnwick/1.0";
+constexpr long kReceiveBuffer = 128L * 1024;
+/// The longest that libcurl takes.
+constexpr std::chrono::seconds kLongestWait{INT_MAX / 1000};
+
+// A token of RFC 9110, section 5.6.2: what a method may be. Anything else could smuggle a line into the request.
+bool isToken(std::string_view text) {
+  constexpr std::string_view kMarks = "!#$%&'*+-.^_`|~";
+  return !text.empty() && std::ranges::all_of(text, [&](char c) {
+    const bool plain = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    return plain || kMarks.find(c) != std::string_view::npos;
+  });
+}
+
+template <class Value>
+void set(CURL* easy, CURLoption option, Value value) {
+  curl_easy_setopt(easy, option, value);
+}
+
+}  // namespace
+
+std::optional<TransferFailure> refusalOf(const RequestOrder& order) {
+  const auto address = parseAddress(order.url);
+  if (!address) {
+    return badAddress(order.url);
+  }
+  if (!isFetchedScheme(address->scheme)) {
+    return unfetchedScheme(address->scheme);
+  }
+  if (!order.method.empty() && !isToken(order.method)) {
+    return badMethod(order.method);
+  }
+  return std::nullopt;
+}
+
+void CurlRequest::setCallbacks() {
+  CURL* const easy = easy_.get();
+  set(easy, CURLOPT_ERRORBUFFER, detail_.data());
+  set(easy, CURLOPT_RESOLVER_START_FUNCTION, &CurlRequest::onResolve);
+  set(easy, CURLOPT_RESOLVER_START_DATA, this);
+  set(easy, CURLOPT_OPENSOCKETFUNCTION, &CurlRequest::onOpen);
+  set(easy, CURLOPT_OPENSOCKETDATA, this);
+  set(easy, CURLOPT_SOCKOPTFUNCTION, &CurlRequest::onSocket);
+  set(easy, CURLOPT_SOCKOPTDATA, this);
+  set(easy, CURLOPT_SSL_CTX_FUNCTION, &CurlRequest::onHandshake);
+  set(easy, CURLOPT_SSL_CTX_DATA, this);
+  set(easy, CURLOPT_PREREQFUNCTION, &CurlRequest::onReady);
+  set(easy, CURLOPT_PREREQDATA, this);
+  set(easy, CURLOPT_XFERINFOFUNCTION, &CurlRequest::onProgress);
+  set(easy, CURLOPT_XFERINFODATA, this);
+  set(easy, CURLOPT_NOPROGRESS, 0L);
+  set(easy, CURLOPT_HEADERFUNCTION, &CurlRequest::onHeader);
+  set(easy, CURLOPT_HEADERDATA, this);
+  set(easy, CURLOPT_WRITEFUNCTION, &CurlRequest::onPage);
+  set(easy, CURLOPT_WRITEDATA, this);
+  // A proxy's own answer is not the page's.
+  set(easy, CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
+}
+
+std::chrono::milliseconds CurlRequest::timeLimit() const { return std::min(order_.timeout, kLongestWait); }
+
+void CurlRequest::setBounds() {
+  CURL* const easy = easy_.get();
+  // The event loop bounds all other waiting; that of a reply must not end what it has given more time.
+  set(easy, CURLOPT_SERVER_RESPONSE_TIMEOUT, static_cast<long>(kLongestWait.count()));
+  set(easy, CURLOPT_NOSIGNAL, 1L);
+  // Cancelling must not wait for a name look-up that is under way in the system's resolver.
+  set(easy, CURLOPT_QUICK_EXIT, 1L);
+  // A check sees the server as it is now: nothing of an earlier request is used again.
+  set(easy, CURLOPT_FRESH_CONNECT, 1L);
+  set(easy, CURLOPT_FORBID_REUSE, 1L);
+  set(easy, CURLOPT_SSL_SESSIONID_CACHE, 0L);
+  set(easy, CURLOPT_BUFFERSIZE, kReceiveBuffer);
+}
+
+// What one request has looked up and connected is used for its redirects and challenges, and by no other request.
+// With one cache of names for all, a request that ends throws out what libcurl still reads while it makes an FTP
+// server's second connection for another request. With one cache of connections for all, one that an NTLM handshake
+// was broken off on stays open, forbidden to be used again or not.
+void CurlRequest::setCaches() {
+  curl_share_setopt(caches_.get(), CURLSHOPT_SHARE, CURL_LOCK_DATA_DNS);
+  curl_share_setopt(caches_.get(), CURLSHOPT_SHARE, CURL_LOCK_DATA_CONNECT);
+  set(easy_.get(), CURLOPT_SHARE, caches_.get());
+  set(easy_.get(), CURLOPT_DNS_CACHE_TIMEOUT, -1L);
+}
+
+void CurlRequest::setTarget() {
+  CURL* const easy = easy_.get();
+  const auto address = parseAddress(order_.url);
+  set(easy, CURLOPT_URL, address ? address->url.c_str() : "");
+  set(easy, CURLOPT_PROTOCOLS_STR, kFetchedSchemes);
+  set(easy, CURLOPT_REDIR_PROTOCOLS_STR, kFetchedSchemes);
+  set(easy, CURLOPT_FOLLOWLOCATION, 1L);
+  set(easy, CURLOPT_MAXREDIRS, static_cast<long>(kMostRedirects));
+  set(easy, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
+  set(easy, CURLOPT_SSL_VERIFYPEER, 1L);
+  set(easy, CURLOPT_SSL_VERIFYHOST, 2L);
+  if (!options_.caFile.empty()) {
+    set(easy, CURLOPT_CAINFO, options_.caFile.c_str());
+  }
+}
+
+void CurlRequest::setMethod() {
+  CURL* const easy = easy_.get();
+  const std::string& method = order_.method;
+  if (method.empty() || method == "GET") {
+    set(easy, CURLOPT_HTTPGET, 1L);
+  } else if (method == "POST") {
+    set(easy, CURLOPT_POST, 1L);
+    set(easy, CURLOPT_POSTFIELDS, order_.body.c_str());
+    set(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(order_.body.size()));
+  } else if (method == "HEAD") {
+    set(easy, CURLOPT_NOBODY, 1L);
+  } else {
+    set(easy, CURLOPT_CUSTOMREQUEST, method.c_str());
+  }
+}
+
+void CurlRequest::setHeaders() {
+  CURL* const easy = easy_.get();
+  const auto add = [this](const std::string& line) {
+    // On failure the list stays as it was.
+    if (curl_slist* longer = curl_slist_append(headerLines_.get(), line.c_str())) {
+      static_cast<void>(headerLines_.release());
+      headerLines_.reset(longer);
+    }
+  };
+  // Without this a large body waits a second for a "100 Continue" that many servers never send.
+  add("Expect:");
+  std::string_view rest = order_.headers;
+  while (!rest.empty()) {
+    const auto end = std::min(rest.find_first_of("\r\n"), rest.size());
+    if (end > 0) {
+      add(std::string(rest.substr(0, end)));
+    }
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+  }
+  set(easy, CURLOPT_HTTPHEADER, headerLines_.get());
+  set(easy, CURLOPT_USERAGENT, kUserAgent);
+  // Every coding that is built in, decoded on arrival.
+  set(easy, CURLOPT_ACCEPT_ENCODING, "");
+  // Cookies on, none to begin with.
+  set(easy, CURLOPT_COOKIEFILE, "");
+}
+
+void CurlRequest::setCredentials() {
+  CURL* const easy = easy_.get();
+  // With more than one kind allowed nothing is sent before the server has asked and named its kinds.
+  set(easy, CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_BASIC | CURLAUTH_DIGEST | CURLAUTH_NTLM));
+  if (!order_.userName.empty() || !order_.password.empty()) {
+    set(easy, CURLOPT_USERNAME, order_.userName.c_str());
+    set(easy, CURLOPT_PASSWORD, order_.password.c_str());
+  }
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,19 @@
+#include "platform/web/curl_transfers.h"
+
+#include "platform/web/curl_event_loop.h"
+#include "platform/web/curl_transfer_control.h"
+
+namespace tarnwick {
+
+CurlTransfers::CurlTransfers() : CurlTransfers(Options{}) {}
+
+CurlTransfers::CurlTransfers(Options options)
+    : options_(std::move(options)), loop_(std::make_shared<CurlEventLoop>()) {}
+
+CurlTransfers::~CurlTransfers() = default;
+
+std::unique_ptr<TransferControl> CurlTransfers::makeTransferControl() {
+  return std::make_unique<CurlTransferControl>(loop_, options_);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,19 @@
+#include "program/m.h"
+
+namespace tarnwick {
+
+m::m(const std::string& programFolder, const Services& services)
+    : MembersOfM(programFolder, services),
+      SiteRecords(ownedDatabase_),
+      PostVars(ownedDatabase_),
+      SettingsAndLog(ownedDatabase_),
+      ResultLog(ownedDatabase_),
+      TextFiles(services.opener),
+      DueSites(ownedDatabase_),
+      PageFetch(ownedDatabase_, *this, ownedControl_, services.pump),
+      ResultRecording(ownedDatabase_, *this, services.clock),
+      AlertDispatch(ownedDatabase_, *this, *this, ownedMail_, services),
+      DailyReport(ownedDatabase_, services.clock),
+      Compaction(ownedDatabase_, services.databases, ownedFiles_, services.prompts) {}
+
+}  // namespace tarnwick

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <string>
+
+#include "alerts/alert_dispatch.h"
+#include "engine/due_sites.h"
+#include "engine/page_fetch.h"
+#include "engine/result_recording.h"
+#include "engine/single_control.h"
+#include "mail/mail_socket.h"
+#include "platform/local_files.h"
+#include "platform/services.h"
+#include "report/daily_report.h"
+#include "store/compaction.h"
+#include "store/database.h"
+#include "store/post_vars.h"
+#include "store/result_log.h"
+#include "store/settings_and_log.h"
+#include "store/site_records.h"
+#include "store/text_files.h"
+
+namespace tarnwick {
+
+/// What class m owns and its groups of procedures share; built before and torn down after them.
+class MembersOfM {
+ protected:
+  MembersOfM(const std::string& programFolder, const Services& services)
+      : ownedDatabase_(programFolder, services.databases),
+        ownedControl_(services.transfers),
+        ownedMail_(services.sockets) {}
+  ~MembersOfM() = default;
+
+  Database ownedDatabase_;
+  SingleControl ownedControl_;
+  MailSocket ownedMail_;
+  LocalFiles ownedFiles_;
+};
+
+/// Everything the program can do with its data, in one object: the sum of the groups of procedures below, each of
+/// which is an idea of its own in a header of its own. It owns the only connection to the database, opened when it is
+/// created and closed when it ends.
+///
+///     QCoreApplication application(argc, argv);
+///     tarnwick::HeadlessPlatform machine;
+///     tarnwick::m data("/path/of/the/program/folder", machine.services());
+///     const std::int16_t id = data.addSite();
+class m : private MembersOfM,
+          public SiteRecords,
+          public PostVars,
+          public SettingsAndLog,
+          public ResultLog,
+          public TextFiles,
+          public DueSites,
+          public PageFetch,
+          public ResultRecording,
+          public AlertDispatch,
+          public DailyReport,
+          public Compaction {
+ public:
+  /// Opens the database of `programFolder` (no trailing separator); raises DataAccessError when it is missing or
+  /// damaged. What `services` refers to outlives this object.
+  m(const std::string& programFolder, const Services& services);
+
+  /// The program folder: where the database, the template, the images and the reports lie.
+  const std::string& programFolder() const { return ownedDatabase_.programFolder(); }
+  Database& database() { return ownedDatabase_; }
+  /// The control of `getHtmlFromSite`.
+  SingleControl& single() { return ownedControl_; }
+  /// The socket of the alert mails.
+  MailSocket& mail() { return ownedMail_; }
+
+ private:
+  using SettingsAndLog::addLog;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,86 @@
+#include "program/program.h"
+
+#include <utility>
+
+namespace tarnwick {
+
+// What needs the open database. The controller refers to the pool and the data, so it is the first to go.
+struct Program::Parts {
+  using Handler = std::function<void()>;
+
+  Parts(const std::string& folder, const Services& services, RunView& view, FaultBox& faults)
+      : data(folder, services),
+        pool(data, services.transfers, services.timers),
+        run({data, data, data, data, pool, view, services.clock, services.pump}, services.timers,
+            [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }),
+        report(
+            {data, data, [this] { return run.running(); }, [&view](const std::string& text) { view.showStatus(text); }},
+            services.timers,
+            [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }) {}
+
+  m data;
+  InetPool pool;
+  RunController run;
+  ReportTimer report;
+};
+
+Program::Program(std::string programFolder, const Services& services, RunView& view)
+    : programFolder_(std::move(programFolder)),
+      services_(services),
+      view_(view),
+      faults_(services.prompts, [this] { return parts_ && parts_->run.busy(); }),
+      lock_(services.runLocks.makeRunLock(programFolder_)) {}
+
+Program::~Program() = default;
+
+Program::Parts& Program::parts() {
+  if (!parts_) {
+    parts_ = std::make_unique<Parts>(programFolder_, services_, view_, faults_);
+  }
+  return *parts_;
+}
+
+m& Program::data() { return parts().data; }
+RunController& Program::run() { return parts().run; }
+InetPool& Program::pool() { return parts().pool; }
+ReportTimer& Program::report() { return parts().report; }
+
+void Program::start() {
+  run().init();
+  data().reIdpostVars();
+  run().prepare();
+  report().prepare();
+  view_.showStatus("Ready ...");
+}
+
+bool Program::startRun() {
+  // The passes that follow go on with the first one's work: what stopped that one is not told again by them.
+  return faults_.run(
+      [this] {
+        lock_->take();
+        run().startChecking();
+      },
+      "run");
+}
+
+void Program::stopRun() {
+  faults_.run([this] { run().stopChecking(); });
+  lock_->release();
+}
+
+void Program::close() {
+  services_.pump.close();
+  if (!parts_) {
+    return;
+  }
+  if (parts_->run.running()) {
+    stopRun();
+  }
+  if (!parts_->run.busy()) {
+    parts_->pool.killAllSockets();
+  }
+  parts_->data.single().sInet().cancel();
+  parts_->data.mail().winsock1().close();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "engine/inet_pool.h"
+#include "engine/run_controller.h"
+#include "engine/run_view.h"
+#include "platform/services.h"
+#include "program/fault_box.h"
+#include "program/m.h"
+#include "report/report_timer.h"
+
+namespace tarnwick {
+
+/// The whole program without a front end: the data, the pool of transfer controls and the run, on one program folder.
+/// A front end gives it the view that shows the run; `SilentView` shows nothing.
+///
+///     QCoreApplication application(argc, argv);
+///     tarnwick::HeadlessPlatform machine;
+///     tarnwick::SilentView view;
+///     tarnwick::Program program("/path/of/the/program/folder", machine.services(), view);
+///     program.start();                       // opens the database, gets ready; no run starts by itself
+///     program.run().startChecking();         // one pass over every active site, then the timers go on
+///     application.exec();
+class Program {
+ public:
+  /// Opens nothing yet. `services` refers to objects that outlive this one, and so does `view`.
+  Program(std::string programFolder, const Services& services, RunView& view);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  /// The program's data, opened on first use; raises DataAccessError when the database cannot be opened.
+  m& data();
+  /// The run and the pool it fetches through.
+  RunController& run();
+  InetPool& pool();
+  /// What writes the day's report while a run is on.
+  ReportTimer& report();
+
+  /// Shows a handler's failure in one box instead of letting it travel into the event loop.
+  FaultBox& faults() { return faults_; }
+  const Services& services() const { return services_; }
+  const std::string& programFolder() const { return programFolder_; }
+
+  /// Makes the run ready to be started: caption and grid, POST variables renumbered, timers set, lamps at "stop",
+  /// status "Ready ...". Raises DataAccessError when the database cannot be opened.
+  void start();
+
+  /// Start and Stop as the user asks for them: a failure ends in one box. `startRun` returns when the first pass has
+  /// ended; false when it failed, also because another process has a run on in this folder.
+  bool startRun();
+  void stopRun();
+
+  /// Ends every wait and transfer: what the closing of the last window does. A pass in progress unwinds.
+  void close();
+
+ private:
+  struct Parts;
+  Parts& parts();
+
+  std::string programFolder_;
+  Services services_;
+  RunView& view_;
+  FaultBox faults_;
+  std::unique_ptr<RunLock> lock_;
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace tarnwick

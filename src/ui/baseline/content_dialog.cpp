@@ -1,0 +1,131 @@
+#include "ui/baseline/content_dialog.h"
+
+#include <optional>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPointer>
+#include <QVBoxLayout>
+
+#include "program/site_draft.h"
+#include "ui/controls/dialog_parts.h"
+#include "ui/controls/display_text.h"
+#include "ui/controls/placement.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr QPoint kBesideCorner{30, 30};
+constexpr QSize kDefaultSize{760, 480};
+
+std::string foreignMessage(const QString& character) {
+  return QObject::tr(
+             "This page is stored in the Windows-1252 character set, which has no \"%1\". Delete the "
+             "character that is selected now or type another one, then press OK again.")
+      .arg(character)
+      .toStdString();
+}
+
+}  // namespace
+
+ContentDialog::ContentDialog(Program& program, QWidget* siteEditor) : QDialog(siteEditor), program_(program) {
+  setObjectName(QStringLiteral("frmContent"));
+  setWindowTitle(tr("Content"));
+  layOut();
+  Form_Load();
+}
+
+void ContentDialog::layOut() {
+  auto* content = named(new QGroupBox(tr("Content"), this), "Frame2", tr("Content"));
+  tContent_ = named(new BaselineEdit(content), "tContent", tr("Content"));
+  auto* contentLines = new QVBoxLayout(content);
+  contentLines->addWidget(tContent_);
+
+  auto* frame = named(new QGroupBox(tr("Url: "), this), "Frame1", tr("Url"));
+  address_ = named(new StatusLine(frame), "lblUrl", tr("Url"));
+  btnLoad_ = addButton(*frame, "btnLoad", tr("&Load From Url"), tr("Fetch the page now; nothing is stored yet"));
+  btnOk_ = addButton(*frame, "btnOk", tr("O&K"), tr("Store this content and close"));
+  btnCancel_ = addButton(*frame, "btnCancel", tr("Cancel"), tr("Close without storing (Esc)"));
+  btnOk_->setDefault(true);
+  onClick(*btnLoad_, program_.faults(), [this] { btnLoad_Click(); });
+  onClick(*btnOk_, program_.faults(), [this] { btnOk_Click(); });
+  onClick(*btnCancel_, program_.faults(), [this] { btnCancel_Click(); });
+
+  auto* buttons = new QHBoxLayout(frame);
+  buttons->addWidget(address_, 1);
+  for (QPushButton* button : {btnLoad_, btnOk_, btnCancel_}) {
+    buttons->addWidget(button);
+  }
+  auto* all = new QVBoxLayout(this);
+  all->addWidget(content, 1);
+  all->addWidget(frame);
+  tContent_->setFocus();
+}
+
+void ContentDialog::Form_Load() {
+  resize(kDefaultSize);
+  const QWidget& siteEditor = *parentWidget();
+  if (!siteEditor.isMinimized() && !siteEditor.isMaximized()) {
+    placeAt(*this, siteEditor, kBesideCorner);
+  }
+}
+
+void ContentDialog::populateMe(std::int16_t idSite) {
+  idSite_ = idSite;
+  address_->showText(displayText(program_.data().getUrl(idSite)));
+  tContent_->setPage(program_.data().getContentCompare(idSite));
+}
+
+void ContentDialog::setLoading(bool loading) {
+  loading_ = loading;
+  btnLoad_->setEnabled(!loading);
+  btnOk_->setEnabled(!loading);
+}
+
+void ContentDialog::btnLoad_Click() {
+  tContent_->showNotice(tr("LOADING: Please Wait ..."));
+  setLoading(true);
+  tContent_->repaint();
+  // The fetch pumps events: the form may be closed and gone when it returns.
+  const QPointer<ContentDialog> self(this);
+  std::optional<std::string> page;
+  const bool fetched = program_.faults().run([&] { page = program_.data().getHtmlFromSite(idSite_); });
+  if (self == nullptr || !isVisible()) {
+    return;
+  }
+  if (fetched) {
+    tContent_->setPage(std::move(*page));
+  } else {
+    tContent_->endNotice();
+  }
+  setLoading(false);
+  tContent_->setFocus();
+  tContent_->repaint();
+}
+
+void ContentDialog::btnOk_Click() {
+  const std::string page = tContent_->page();
+  if (const auto character = tContent_->selectForeign()) {
+    const QPointer<BaselineEdit> content(tContent_);
+    program_.services().prompts.inform(foreignMessage(*character));
+    if (content != nullptr) {
+      content->setFocus();
+    }
+    return;
+  }
+  requireSite(program_.data(), idSite_);
+  program_.data().updateContentCompare(idSite_, page);
+  formExit();
+}
+
+void ContentDialog::btnCancel_Click() { reject(); }
+
+void ContentDialog::reject() {
+  if (loading_) {
+    program_.data().single().sInet().cancel();
+  }
+  formExit();
+}
+
+void ContentDialog::formExit() { done(QDialog::Rejected); }
+
+}  // namespace tarnwick

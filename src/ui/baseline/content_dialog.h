@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+
+#include "program/program.h"
+#include "ui/baseline/baseline_edit.h"
+#include "ui/controls/status_line.h"
+
+namespace tarnwick {
+
+/// The form `frmContent`: a site's baseline, the page that every check is compared with, to be seen, edited and fetched
+/// anew. What is not edited is stored byte for byte as it was.
+class ContentDialog final : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// `program` outlives the form. `siteEditor` is the window below it.
+  ContentDialog(Program& program, QWidget* siteEditor);
+
+  /// Shows the stored baseline of a site. Raises DataAccessError.
+  void populateMe(std::int16_t idSite);
+  /// Hides the form and has it taken down.
+  void formExit();
+
+  /// Cancel; a page that is being fetched is given up.
+  void reject() override;
+
+ private:
+  void layOut();
+  void Form_Load();
+  void btnLoad_Click();
+  void btnOk_Click();
+  void btnCancel_Click();
+  void setLoading(bool loading);
+
+  Program& program_;
+  std::int16_t idSite_ = 0;
+  bool loading_ = false;
+  BaselineEdit* tContent_ = nullptr;
+  StatusLine* address_ = nullptr;
+  QPushButton* btnLoad_ = nullptr;
+  QPushButton* btnOk_ = nullptr;
+  QPushButton* btnCancel_ = nullptr;
+};
+
+}  // namespace tarnwick

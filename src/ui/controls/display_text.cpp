@@ -1,0 +1,32 @@
+#include "ui/controls/display_text.h"
+
+#include <algorithm>
+#include <QStringDecoder>
+
+#include "base/windows_1252.h"
+
+namespace tarnwick {
+namespace {
+
+QString fromWindows1252(QByteArrayView bytes) {
+  QString text(bytes.size(), Qt::Uninitialized);
+  std::ranges::transform(bytes, text.begin(), [](char byte) {
+    return QChar(static_cast<char16_t>(characterOfWindows1252(static_cast<unsigned char>(byte))));
+  });
+  return text;
+}
+
+}  // namespace
+
+QString displayText(std::string_view bytes) {
+  const QByteArrayView view(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+  const QString text = utf8(view);
+  return utf8.hasError() ? fromWindows1252(view) : text;
+}
+
+QString plainToolTip(const QString& text) {
+  return text.isEmpty() ? text : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+}
+
+}  // namespace tarnwick

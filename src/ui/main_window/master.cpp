@@ -1,0 +1,227 @@
+#include "ui/main_window/master.h"
+
+#include <exception>
+#include <utility>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QDir>
+#include <QIcon>
+#include <QScreen>
+#include <QShortcut>
+
+#include "base/product.h"
+#include "ui/controls/display_text.h"
+#include "ui/controls/page_opener.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kHelpFile = "/help.html";
+constexpr QSize kDefaultSize{820, 580};
+constexpr QSize kSmallestSize{660, 380};
+
+QString versionText() {
+  return QStringLiteral("Version:%1.%2").arg(TARNWICK_VERSION_MAJOR).arg(TARNWICK_VERSION_MINOR);
+}
+
+/// A folder in the user's home as a shell writes it: the foot line has little room.
+QString briefly(const QString& folder) {
+  const QString home = QDir::toNativeSeparators(QDir::homePath()) + QDir::separator();
+  return folder.startsWith(home) ? QLatin1Char('~') + folder.mid(home.size() - 1) : folder;
+}
+
+}  // namespace
+
+Master::Master(std::string programFolder, const Services& services)
+    : program_(std::move(programFolder), services, *this) {
+  auto* canvas = new QWidget(this);
+  controls_ = layOutMaster(*canvas, sites_);
+  setCentralWidget(canvas);
+  setObjectName(QStringLiteral("master"));
+  setAccessibleName(QString::fromLatin1(kProductName));
+  setWindowTitle(QString::fromLatin1(kProductName));
+  setMinimumSize(kSmallestSize);
+  resize(kDefaultSize.boundedTo(screen()->availableSize()));
+  connectControls();
+  setEditors({});
+  controls_.grid1->setFocus();
+}
+
+Master::~Master() = default;
+
+bool Master::load() {
+  return program_.faults().run([this] { Form_Load(); });
+}
+
+void Master::Form_Load() {
+  showStatus("Loading ...");
+  fullInit();
+  tellNotice();
+}
+
+void Master::tellNotice() {
+  const QString folder = QDir::toNativeSeparators(QString::fromStdString(program_.programFolder()));
+  QString notice = tr("Tarnwick web-site monitor. Copyright © the Tarnwick developers.");
+  if (program_.programFolder() != QCoreApplication::applicationDirPath().toStdString()) {
+    notice += QLatin1Char(' ') + tr("Your data: %1").arg(briefly(folder));
+  }
+  controls_.copyright->setText(notice);
+  const QString about = tr("%1 %2 keeps your sites and settings in the folder %3")
+                            .arg(QString::fromLatin1(kProductName), QStringLiteral(TARNWICK_VERSION), folder);
+  for (QLabel* label : {controls_.copyright, controls_.lblVersion}) {
+    label->setToolTip(plainToolTip(about));
+  }
+}
+
+void Master::fullInit() {
+  controls_.lblVersion->setText(versionText());
+  loadPictures();
+  controls_.lClock->clear();
+  setupGridHeader();
+  controls_.pb1->fill();
+  program_.start();
+}
+
+QString Master::fileOf(const QString& name) const { return QString::fromStdString(program_.programFolder()) + name; }
+
+void Master::loadPictures() {
+  const auto load = [this](PictureButton& image, const QString& name) {
+    image.loadPictures(fileOf(QStringLiteral("/images/%1.bmp").arg(name)),
+                       fileOf(QStringLiteral("/images/%1h.bmp").arg(name)));
+  };
+  load(*controls_.start.image, QStringLiteral("start"));
+  load(*controls_.stop.image, QStringLiteral("stop"));
+  load(*controls_.makeNew.image, QStringLiteral("new"));
+  load(*controls_.setup.image, QStringLiteral("setup"));
+  load(*controls_.imgLogoSmall, QStringLiteral("logosmall"));
+  // Boxes that come up before this window bear it too.
+  QApplication::setWindowIcon(QIcon(fileOf(QStringLiteral("/images/tarnwick.png"))));
+}
+
+void Master::setupGridHeader() { sites_.setSites(TextTable()); }
+
+void Master::connectControls() {
+  connectAction(controls_.start, Qt::Key_F5, &Master::btnStart_Click);
+  connectAction(controls_.stop, Qt::SHIFT | Qt::Key_F5, &Master::btnStop_Click);
+  connectAction(controls_.makeNew, QKeySequence::New, &Master::btnNew_Click);
+  connectAction(controls_.setup, {}, &Master::btnSetup_Click);
+  connect(controls_.grid1, &SiteGridView::rowChosen, this, &Master::grid1_Click);
+  connect(controls_.Label1, &LinkButton::clicked, this, &Master::Label1_Click);
+  connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &Master::Label1_Click);
+  connect(controls_.imgLogoSmall, &PictureButton::clicked, this, &Master::imgLogoSmall_Click);
+}
+
+void Master::connectAction(const ActionControls& action, const QKeySequence& shortcut, void (Master::*handler)()) {
+  connect(action.image, &PictureButton::clicked, this, handler);
+  connect(action.button, &QPushButton::clicked, this, handler);
+  if (!shortcut.isEmpty()) {
+    connect(new QShortcut(shortcut, this), &QShortcut::activated, this, handler);
+  }
+}
+
+void Master::setEditors(Editors editors) {
+  editors_ = std::move(editors);
+  const bool settings = static_cast<bool>(editors_.settings);
+  const QString toolTip =
+      settings ? tr("Change the settings")
+               : tr("The settings are kept in the table \"control\" of the database; this window cannot change them");
+  for (QAbstractButton* button :
+       {static_cast<QAbstractButton*>(controls_.setup.image), static_cast<QAbstractButton*>(controls_.setup.button)}) {
+    button->setEnabled(settings);
+    button->setToolTip(toolTip);
+  }
+}
+
+void Master::btnStart_Click() { program_.startRun(); }
+
+void Master::btnStop_Click() { program_.stopRun(); }
+
+void Master::btnNew_Click() {
+  program_.faults().run([this] {
+    const std::int16_t idSite = program_.data().addSite();
+    program_.run().init();
+    editSite(idSite);
+  });
+}
+
+void Master::btnSetup_Click() { program_.faults().run(editors_.settings); }
+
+void Master::grid1_Click(int row) {
+  if (const auto idSite = sites_.siteOfRow(row)) {
+    program_.faults().run([&] { editSite(*idSite); });
+  }
+}
+
+void Master::editSite(std::int16_t idSite) {
+  controls_.grid1->selectSite(idSite);
+  if (editors_.site) {
+    editors_.site(idSite);
+  }
+}
+
+void Master::Label1_Click() { openPage(program_.services(), program_.programFolder() + kHelpFile); }
+
+void Master::imgLogoSmall_Click() { openPage(program_.services(), kProductHomePage); }
+
+void Master::closeEvent(QCloseEvent* event) {
+  program_.close();
+  // A box that is still open holds up whoever asked; the program ends without its answer.
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (auto* dialog = qobject_cast<QDialog*>(window); dialog != nullptr && dialog->isVisible()) {
+      dialog->reject();
+    }
+  }
+  event->accept();
+}
+
+void Master::setCaption(const std::string& caption) { setWindowTitle(QString::fromStdString(caption)); }
+
+void Master::fillGrid() { controls_.grid1->setSites(program_.data().getArraySites(0)); }
+
+void Master::showStatus(const std::string& text) { controls_.lStatus->showText(displayText(text)); }
+
+void Master::indicators(RunState state) {
+  state_ = state;
+  controls_.lamps[0]->setLit(state == RunState::stop);
+  controls_.lamps[1]->setLit(state == RunState::pause);
+  controls_.lamps[2]->setLit(state == RunState::start);
+}
+
+void Master::blinkLamps() {
+  if (state_ == RunState::stop) {
+    return;
+  }
+  for (Lamp* lamp : controls_.lamps) {
+    lamp->blink();
+  }
+}
+
+void Master::showClock(const std::string& text) { controls_.lClock->setText(QString::fromStdString(text)); }
+
+std::int64_t Master::fullProgressWidth() { return controls_.pb1->takeFullWidth(); }
+
+void Master::setProgressWidth(std::int64_t width) { controls_.pb1->showWidth(width); }
+
+void Master::brighten(std::int16_t idSite, int amount) { sites_.brighten(idSite, amount); }
+
+void Master::unbrighten(std::int16_t idSite) {
+  sites_.unbrighten(idSite);
+  try {
+    sites_.updateSite(program_.data().getArraySites(idSite));
+  } catch (const std::exception&) {
+    // This runs while a pass is cut, perhaps by that very failure, which is told elsewhere: the row keeps the state
+    // that was last read.
+  }
+}
+
+void Master::updateGridRow(std::int16_t idSite, bool passed) {
+  sites_.updateSite(program_.data().getArraySites(idSite));
+  sites_.setResult(idSite, passed);
+}
+
+void Master::setLastChecked(std::int16_t idSite, const std::string& dateTime) {
+  sites_.setLastChecked(idSite, dateTime);
+}
+
+}  // namespace tarnwick

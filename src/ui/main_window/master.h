@@ -1,0 +1,90 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <QMainWindow>
+
+#include "engine/run_view.h"
+#include "platform/services.h"
+#include "program/program.h"
+#include "ui/main_window/master_layout.h"
+#include "ui/main_window/site_grid_model.h"
+
+namespace tarnwick {
+
+/// The windows that edit what the main window shows. What is empty is not offered to the user.
+struct Editors {
+  /// Opens the editor of a site.
+  std::function<void(std::int16_t idSite)> site;
+  /// Opens the settings.
+  std::function<void()> settings;
+};
+
+/// The main window, the only one that stands as long as the program runs: the list of sites, the lamps of the run, its
+/// clock, the status line and the buttons. Closing it ends the program. It owns the program and shows its run.
+class Master final : public QMainWindow, public RunView {
+  Q_OBJECT
+
+ public:
+  /// Opens nothing yet; what `services` refers to outlives the window.
+  Master(std::string programFolder, const Services& services);
+  ~Master() override;
+
+  /// Starts the program; a failure is shown in one box. False when it failed: there is nothing to show then.
+  bool load();
+
+  Program& program() { return program_; }
+  /// Sets what a click on a row, "New" and "Setup" open.
+  void setEditors(Editors editors);
+
+  // What the run shows.
+  void setCaption(const std::string& caption) override;
+  void fillGrid() override;
+  void showStatus(const std::string& text) override;
+  void indicators(RunState state) override;
+  void blinkLamps() override;
+  void showClock(const std::string& text) override;
+  std::int64_t fullProgressWidth() override;
+  void setProgressWidth(std::int64_t width) override;
+  void brighten(std::int16_t idSite, int amount) override;
+  void unbrighten(std::int16_t idSite) override;
+  void updateGridRow(std::int16_t idSite, bool passed) override;
+  void setLastChecked(std::int16_t idSite, const std::string& dateTime) override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void Form_Load();
+  void fullInit();
+  /// The product's notice, which names the folder of the data where that is not the program's own.
+  void tellNotice();
+  void loadPictures();
+  void setupGridHeader();
+  void connectControls();
+  void connectAction(const ActionControls& action, const QKeySequence& shortcut, void (Master::*handler)());
+  /// The path of a file in the program folder.
+  QString fileOf(const QString& name) const;
+
+  void btnStart_Click();
+  void btnStop_Click();
+  void btnNew_Click();
+  void btnSetup_Click();
+  void grid1_Click(int row);
+  void Label1_Click();
+  void imgLogoSmall_Click();
+
+  /// Selects a site and opens its editor.
+  void editSite(std::int16_t idSite);
+
+  SiteGridModel sites_;
+  MasterControls controls_{};
+  RunState state_ = RunState::stop;
+  Editors editors_;
+  // The run shows itself in the controls, so it goes before them.
+  Program program_;
+};
+
+}  // namespace tarnwick

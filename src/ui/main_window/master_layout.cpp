@@ -1,0 +1,143 @@
+#include "ui/main_window/master_layout.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "platform/prompts.h"
+#include "ui/controls/colour_text.h"
+
+namespace tarnwick {
+namespace {
+
+// The original margin and the distances between groups of controls.
+constexpr int kMargin = 10;
+constexpr int kGroupGap = 10;
+constexpr int kHeaderGap = 24;
+constexpr int kLampGap = 12;
+
+template <typename Control>
+Control* named(Control* control, const char* name, const QString& accessibleName) {
+  control->setObjectName(QString::fromLatin1(name));
+  control->setAccessibleName(accessibleName);
+  return control;
+}
+
+struct ActionTexts {
+  const char* image;
+  const char* button;
+  QString caption;
+  QString name;
+  QString toolTip;
+};
+
+ActionControls makeAction(QWidget& canvas, const ActionTexts& texts) {
+  // One mnemonic each: the picture shows the same caption without one.
+  const ActionControls action{named(new PictureButton(texts.name, &canvas), texts.image, texts.name),
+                              named(new QPushButton(texts.caption, &canvas), texts.button, texts.name)};
+  action.image->setToolTip(texts.toolTip);
+  action.button->setToolTip(texts.toolTip);
+  return action;
+}
+
+void makeActions(QWidget& canvas, MasterControls& controls) {
+  controls.start = makeAction(canvas, {"imgStart", "btnStart", QObject::tr("&Start"), QObject::tr("Start"),
+                                       QObject::tr("Start a run: tests every active site now (F5)")});
+  controls.stop = makeAction(canvas, {"imgStop", "btnStop", QObject::tr("S&top"), QObject::tr("Stop"),
+                                      QObject::tr("Stop the run (Shift+F5)")});
+  controls.makeNew = makeAction(
+      canvas, {"imgNew", "btnNew", QObject::tr("&New"), QObject::tr("New"), QObject::tr("Add a site (Ctrl+N)")});
+  controls.setup = makeAction(canvas, {"imgSetup", "btnSetup", QObject::tr("Set&up"), QObject::tr("Setup"), QString()});
+}
+
+std::array<Lamp*, 3> makeLamps(QWidget& canvas) {
+  const auto lamp = [&](const char* name, const QString& state, std::string_view dim, std::string_view bright) {
+    return new Lamp(QString::fromLatin1(name), state, colourFromText(dim), colourFromText(bright), &canvas);
+  };
+  return {lamp("indicator1", QObject::tr("Stopped"), colours::kRedDim, colours::kRedBright),
+          lamp("indicator2", QObject::tr("Waiting"), colours::kYellowDim, colours::kYellowBright),
+          lamp("indicator3", QObject::tr("Testing"), colours::kGreenDim, colours::kGreenBright)};
+}
+
+QLayout* headerOf(const MasterControls& controls) {
+  auto* lamps = new QHBoxLayout;
+  lamps->setSpacing(kLampGap);
+  for (Lamp* lamp : controls.lamps) {
+    lamps->addWidget(lamp);
+  }
+  auto* right = new QVBoxLayout;
+  right->setSpacing(2);
+  right->addWidget(controls.lClock, 0, Qt::AlignRight);
+  right->addLayout(lamps);
+  auto* header = new QHBoxLayout;
+  header->setSpacing(kHeaderGap);
+  header->addWidget(controls.imgLogoSmall, 0, Qt::AlignVCenter);
+  header->addLayout(right, 1);
+  return header;
+}
+
+QLayout* buttonsOf(const MasterControls& controls) {
+  const std::array<ActionControls, 4> actions = {controls.start, controls.stop, controls.makeNew, controls.setup};
+  auto* row = new QHBoxLayout;
+  row->setSpacing(6);
+  for (const ActionControls& action : actions) {
+    row->addWidget(action.image);
+  }
+  row->addStretch(1);
+  for (const ActionControls& action : actions) {
+    row->addWidget(action.button, 0, Qt::AlignBottom);
+  }
+  return row;
+}
+
+QLayout* footOf(const MasterControls& controls) {
+  auto* foot = new QHBoxLayout;
+  foot->setSpacing(2 * kGroupGap);
+  foot->addWidget(controls.copyright, 1);
+  foot->addWidget(controls.Label1);
+  foot->addWidget(controls.lblVersion);
+  return foot;
+}
+
+QLabel* plainLabel(QWidget& canvas) {
+  auto* label = new QLabel(&canvas);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+}  // namespace
+
+MasterControls layOutMaster(QWidget& canvas, SiteGridModel& sites) {
+  // The order of making is the order of the Tab key.
+  MasterControls controls{};
+  makeActions(canvas, controls);
+  controls.grid1 = named(new SiteGridView(sites, &canvas), "grid1", QObject::tr("Sites"));
+  controls.Label1 = named(new LinkButton(QObject::tr("Online Help"), &canvas), "Label1", QObject::tr("Online Help"));
+  controls.Label1->setToolTip(QObject::tr("Open the help page (F1)"));
+  controls.imgLogoSmall = named(new PictureButton(QString::fromLatin1(kProductName), &canvas), "imgLogoSmall",
+                                QObject::tr("%1 home page").arg(QString::fromLatin1(kProductName)));
+  controls.imgLogoSmall->setToolTip(QObject::tr("Open the home page"));
+  controls.imgLogoSmall->setCursor(Qt::PointingHandCursor);
+
+  controls.lamps = makeLamps(canvas);
+  controls.lClock = named(plainLabel(canvas), "lClock", QString());
+  // Room for the clock from the start, so that nothing moves when it first shows.
+  controls.lClock->setMinimumHeight(controls.lClock->fontMetrics().height());
+  controls.lStatus = named(new StatusLine(&canvas), "lStatus", QObject::tr("Status"));
+  controls.pb1 = named(new PassBar(&canvas), "pb1", QObject::tr("Progress of the test pass"));
+  controls.copyright = named(plainLabel(canvas), "copyright", QString());
+  controls.copyright->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  controls.lblVersion = named(plainLabel(canvas), "lblVersion", QString());
+
+  auto* layout = new QVBoxLayout(&canvas);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->setSpacing(kGroupGap);
+  layout->addLayout(headerOf(controls));
+  layout->addLayout(buttonsOf(controls));
+  layout->addWidget(controls.grid1, 1);
+  layout->addWidget(controls.lStatus);
+  layout->addWidget(controls.pb1);
+  layout->addLayout(footOf(controls));
+  return controls;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <array>
+#include <QLabel>
+#include <QPushButton>
+
+#include "ui/controls/link_button.h"
+#include "ui/controls/picture_button.h"
+#include "ui/controls/status_line.h"
+#include "ui/main_window/lamp.h"
+#include "ui/main_window/pass_bar.h"
+#include "ui/main_window/site_grid_view.h"
+
+namespace tarnwick {
+
+/// One action of the main window: its picture button and its command button, which do the same.
+struct ActionControls {
+  PictureButton* image;
+  QPushButton* button;
+};
+
+/// The main window's controls; the window owns them. Each has its name as object name.
+struct MasterControls {
+  PictureButton* imgLogoSmall;
+  QLabel* lClock;
+  /// Red, yellow, green.
+  std::array<Lamp*, 3> lamps;
+  ActionControls start;
+  ActionControls stop;
+  ActionControls makeNew;
+  ActionControls setup;
+  SiteGridView* grid1;
+  StatusLine* lStatus;
+  PassBar* pb1;
+  QLabel* copyright;
+  LinkButton* Label1;
+  QLabel* lblVersion;
+};
+
+/// Makes the controls of the main window and lays them out on `canvas`: logo, clock and lamps at the top, then the
+/// buttons, the grid, the status line with the bar under it, and the foot line.
+MasterControls layOutMaster(QWidget& canvas, SiteGridModel& sites);
+
+}  // namespace tarnwick

@@ -1,0 +1,228 @@
+#include "ui/main_window/site_grid_model.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <utility>
+
+#include "store/site_table.h"
+#include "ui/controls/colour_text.h"
+#include "ui/controls/display_text.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kNull = "NULL";
+
+std::string cellOf(const TextTable& sites, std::size_t column, std::size_t row) {
+  const std::string& text = sites.at(column, row);
+  return text == kNull ? std::string() : text;
+}
+
+std::optional<std::int16_t> idOf(const std::string& text) {
+  std::int16_t id = 0;
+  const char* end = text.data() + text.size();
+  const auto [rest, error] = std::from_chars(text.data(), end, id);
+  return error == std::errc() && rest == end ? std::optional(id) : std::nullopt;
+}
+
+// Counters are numbers to compare, so they stand under each other; the rest is read from the left.
+QVariant alignmentOf(int column) {
+  const bool counter = column == SiteGridModel::upColumn || column == SiteGridModel::downColumn;
+  return QVariant::fromValue(Qt::AlignVCenter | (counter ? Qt::AlignRight : Qt::AlignLeft));
+}
+
+}  // namespace
+
+SiteGridModel::Row SiteGridModel::readRow(const TextTable& sites, std::size_t row) {
+  const std::string status = cellOf(sites, site_column::status, row);
+  Shade shade = Shade::unjudged;
+  if (sites.at(site_column::active, row) != "True") {
+    shade = Shade::inactive;
+  } else if (!status.empty()) {
+    shade = status == "True" ? Shade::up : Shade::down;
+  }
+  return {cellOf(sites, site_column::idSite, row),      cellOf(sites, site_column::url, row),
+          cellOf(sites, site_column::success, row),     cellOf(sites, site_column::failure, row),
+          cellOf(sites, site_column::lastChecked, row), shade};
+}
+
+void SiteGridModel::setSites(const TextTable& sites) {
+  beginResetModel();
+  const std::size_t count = sites.lastRow();
+  rows_.clear();
+  rows_.reserve(count);
+  rowsOfSite_.clear();
+  rowsOfSite_.reserve(count);
+  for (std::size_t row = 1; row <= count; ++row) {
+    rows_.push_back(readRow(sites, row));
+    if (const auto id = idOf(rows_.back().id)) {
+      rowsOfSite_.emplace(*id, static_cast<int>(row - 1));
+    }
+  }
+  endResetModel();
+}
+
+template <typename Change>
+void SiteGridModel::changeRows(std::int16_t idSite, Change change) {
+  const auto [first, last] = rowsOfSite_.equal_range(idSite);
+  for (auto entry = first; entry != last; ++entry) {
+    change(rows_[static_cast<std::size_t>(entry->second)]);
+    repaintRow(entry->second);
+  }
+}
+
+void SiteGridModel::updateSite(const TextTable& sites) {
+  if (sites.lastRow() == 0) {
+    return;
+  }
+  const Row site = readRow(sites, 1);
+  if (const auto id = idOf(site.id)) {
+    changeRows(*id, [&](Row& row) { row = site; });
+  }
+}
+
+void SiteGridModel::setResult(std::int16_t idSite, bool passed) {
+  marks_.erase(idSite);
+  changeRows(idSite, [&](Row& row) {
+    if (row.shade != Shade::inactive) {
+      row.shade = passed ? Shade::up : Shade::down;
+    }
+  });
+}
+
+void SiteGridModel::setLastChecked(std::int16_t idSite, const std::string& dateTime) {
+  changeRows(idSite, [&](Row& row) { row.time = dateTime; });
+}
+
+void SiteGridModel::brighten(std::int16_t idSite, int amount) {
+  const int row = rowOfSite(idSite);
+  if (row >= 0) {
+    marks_[idSite] = brightened(background(index(row, urlColumn)), amount);
+    changeRows(idSite, [](Row&) {});
+  }
+}
+
+void SiteGridModel::unbrighten(std::int16_t idSite) {
+  marks_.erase(idSite);
+  changeRows(idSite, [](Row&) {});
+}
+
+std::optional<std::int16_t> SiteGridModel::siteOfRow(int row) const {
+  if (row < 0 || row >= rowCount()) {
+    return std::nullopt;
+  }
+  return idOf(rows_[static_cast<std::size_t>(row)].id);
+}
+
+int SiteGridModel::rowOfSite(std::int16_t idSite) const {
+  int found = -1;
+  const auto [first, last] = rowsOfSite_.equal_range(idSite);
+  for (auto entry = first; entry != last; ++entry) {
+    found = found < 0 ? entry->second : std::min(found, entry->second);
+  }
+  return found;
+}
+
+int SiteGridModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+int SiteGridModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : columnsOfGrid; }
+
+const std::string& SiteGridModel::cellText(const Row& row, int column) const {
+  switch (column) {
+    case idColumn:
+      return row.id;
+    case urlColumn:
+      return row.url;
+    case upColumn:
+      return row.up;
+    case downColumn:
+      return row.down;
+    default:
+      return row.time;
+  }
+}
+
+QColor SiteGridModel::colourOf(Shade shade) {
+  switch (shade) {
+    case Shade::up:
+      return colourFromText(colours::kUp);
+    case Shade::down:
+      return colourFromText(colours::kDown);
+    case Shade::inactive:
+      return colourFromText(colours::kInactive);
+    default:
+      return colourFromText(colours::kUnpainted);
+  }
+}
+
+QString SiteGridModel::stateText(Shade shade) {
+  switch (shade) {
+    case Shade::up:
+      return tr("up");
+    case Shade::down:
+      return tr("down");
+    case Shade::inactive:
+      return tr("not active");
+    default:
+      return tr("not tested yet");
+  }
+}
+
+QColor SiteGridModel::background(const QModelIndex& index) const {
+  const Row& row = rows_[static_cast<std::size_t>(index.row())];
+  if (!marks_.empty() && index.column() <= urlColumn) {
+    if (const auto id = idOf(row.id)) {
+      const auto mark = marks_.find(*id);
+      if (mark != marks_.end()) {
+        return mark->second;
+      }
+    }
+  }
+  return colourOf(row.shade);
+}
+
+QVariant SiteGridModel::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    return {};
+  }
+  const Row& row = rows_[static_cast<std::size_t>(index.row())];
+  const std::string& text = cellText(row, index.column());
+  switch (role) {
+    case Qt::DisplayRole:
+      return displayText(text);
+    case Qt::BackgroundRole:
+      return background(index);
+    case Qt::ForegroundRole:
+      return readableOn(background(index));
+    case Qt::TextAlignmentRole:
+      return alignmentOf(index.column());
+    case Qt::AccessibleTextRole:
+      // The colour's meaning in words, for those who do not see it.
+      return index.column() == urlColumn ? QStringLiteral("%1, %2").arg(displayText(text), stateText(row.shade))
+                                         : displayText(text);
+    default:
+      return {};
+  }
+}
+
+QVariant SiteGridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  static const std::array<QString, columnsOfGrid> kHeaders = {QStringLiteral("ID"), QStringLiteral("URL"),
+                                                              QStringLiteral("Up"), QStringLiteral("Down"),
+                                                              QStringLiteral("Time Of Last Test")};
+  if (orientation == Qt::Horizontal && section >= 0 && section < columnsOfGrid) {
+    if (role == Qt::DisplayRole) {
+      return kHeaders[static_cast<std::size_t>(section)];
+    }
+    if (role == Qt::TextAlignmentRole) {
+      return alignmentOf(section);
+    }
+  }
+  return {};
+}
+
+void SiteGridModel::repaintRow(int row) { Q_EMIT dataChanged(index(row, 0), index(row, columnsOfGrid - 1)); }
+
+}  // namespace tarnwick

@@ -1,0 +1,198 @@
+#include "ui/main_window/site_grid_view.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+
+#include "ui/controls/colour_text.h"
+
+namespace tarnwick {
+namespace {
+
+// A selected row keeps the colour of its state: selection is shown by a frame around the row.
+class StateColourDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyleOptionViewItem plain = option;
+    plain.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver);
+    QStyledItemDelegate::paint(painter, plain, index);
+    if (option.state.testFlag(QStyle::State_Selected)) {
+      paintFrame(*painter, option, index);
+    }
+  }
+
+ private:
+  static void paintFrame(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
+    constexpr int kThickness = 2;
+    const QRect& cell = option.rect;
+    // The grid is white in every theme, so the frame is dark in every theme.
+    const QColor frame = QColor(Qt::black);
+    painter.fillRect(cell.left(), cell.top(), cell.width(), kThickness, frame);
+    painter.fillRect(cell.left(), cell.bottom() + 1 - kThickness, cell.width(), kThickness, frame);
+    if (index.column() == 0) {
+      painter.fillRect(cell.left(), cell.top(), kThickness, cell.height(), frame);
+    }
+    if (index.column() == index.model()->columnCount() - 1) {
+      painter.fillRect(cell.right() + 1 - kThickness, cell.top(), kThickness, cell.height(), frame);
+    }
+  }
+};
+
+}  // namespace
+
+SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(parent), sites_(model) {
+  setModel(&model);
+  setItemDelegate(new StateColourDelegate(this));
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(SingleSelection);
+  setEditTriggers(NoEditTriggers);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  setVerticalScrollMode(ScrollPerItem);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setGridStyle(Qt::SolidLine);
+
+  QPalette white = palette();
+  white.setColor(QPalette::Base, colourFromText(colours::kUnpainted));
+  white.setColor(QPalette::Text, Qt::black);
+  viewport()->setPalette(white);
+
+  setUpColumns();
+  setRowHeight();
+
+  viewport()->setMouseTracking(true);
+  horizontalHeader()->viewport()->setMouseTracking(true);
+  horizontalHeader()->viewport()->installEventFilter(this);
+  connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) { Q_EMIT rowChosen(index.row()); });
+}
+
+void SiteGridView::setUpColumns() {
+  QHeaderView& header = *horizontalHeader();
+  header.setHighlightSections(false);
+  header.setSectionsMovable(false);
+  header.setMinimumSectionSize(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 4);
+  header.setSectionResizeMode(QHeaderView::Interactive);
+  header.setSectionResizeMode(SiteGridModel::urlColumn, QHeaderView::Stretch);
+
+  // "ID" and "Time Of Last Test" share one width, that of the time; "Up" and "Down" are to each other as 500 to 540.
+  constexpr int kPadding = 20;
+  const int time = fontMetrics().horizontalAdvance(QStringLiteral("0000-00-00 00:00:00")) + kPadding;
+  const int up = fontMetrics().horizontalAdvance(QStringLiteral("00000")) + kPadding;
+  header.resizeSection(SiteGridModel::idColumn, time);
+  header.resizeSection(SiteGridModel::upColumn, up);
+  header.resizeSection(SiteGridModel::downColumn, up * 540 / 500);
+  header.resizeSection(SiteGridModel::timeColumn, time);
+}
+
+void SiteGridView::setRowHeight() {
+  // One height for all rows: thirty thousand of them are laid out by a multiplication.
+  constexpr int kPadding = 8;
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setMinimumSectionSize(1);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kPadding);
+}
+
+QSize SiteGridView::sizeHint() const {
+  return {fontMetrics().averageCharWidth() * 100, verticalHeader()->defaultSectionSize() * 12};
+}
+
+QString SiteGridView::columnToolTip(int column) {
+  switch (column) {
+    case 2:
+      return tr("Method ( get,post )");
+    case 3:
+      return tr("Active ( true,false )");
+    case 4:
+      return tr("Minutes Until Next Check");
+    case 5:
+      return tr("Date Last Checked");
+    default:
+      return {};
+  }
+}
+
+void SiteGridView::selectSite(std::int16_t idSite) {
+  const int row = sites_.rowOfSite(idSite);
+  if (row >= 0) {
+    selectRow(row);
+    scrollTo(sites_.index(row, SiteGridModel::idColumn));
+  }
+}
+
+std::optional<std::int16_t> SiteGridView::currentSite() const { return sites_.siteOfRow(currentIndex().row()); }
+
+void SiteGridView::setSites(const TextTable& sites) {
+  const auto current = currentSite();
+  const int scrolled = verticalScrollBar()->value();
+  sites_.setSites(sites);
+  const int row = current ? sites_.rowOfSite(*current) : -1;
+  if (row >= 0) {
+    selectRow(row);
+  }
+  // The scroll bar learns of the new rows with the next layout, which must come first.
+  updateGeometries();
+  verticalScrollBar()->setValue(scrolled);
+}
+
+void SiteGridView::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && currentIndex().isValid()) {
+    event->accept();
+    Q_EMIT rowChosen(currentIndex().row());
+    return;
+  }
+  QTableView::keyPressEvent(event);
+}
+
+bool SiteGridView::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::MouseMove) {
+    followMouse(static_cast<QMouseEvent*>(event)->pos().x());
+  } else if (event->type() == QEvent::ToolTip) {
+    showColumnToolTip(static_cast<QHelpEvent*>(event)->globalPos());
+    return true;
+  }
+  return QTableView::viewportEvent(event);
+}
+
+bool SiteGridView::eventFilter(QObject* watched, QEvent* event) {
+  // The header row is part of the grid: the column under the mouse counts there as well.
+  if (watched == horizontalHeader()->viewport()) {
+    if (event->type() == QEvent::MouseMove) {
+      followMouse(static_cast<QMouseEvent*>(event)->pos().x());
+    } else if (event->type() == QEvent::ToolTip) {
+      showColumnToolTip(static_cast<QHelpEvent*>(event)->globalPos());
+      return true;
+    }
+  }
+  return QTableView::eventFilter(watched, event);
+}
+
+void SiteGridView::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::FontChange) {
+    setUpColumns();
+    setRowHeight();
+  }
+}
+
+void SiteGridView::followMouse(int x) { setToolTip(columnToolTip(columnAt(x))); }
+
+void SiteGridView::showColumnToolTip(const QPoint& globalPosition) {
+  if (toolTip().isEmpty()) {
+    QToolTip::hideText();
+  } else {
+    QToolTip::showText(globalPosition, toolTip(), this);
+  }
+}
+
+}  // namespace tarnwick

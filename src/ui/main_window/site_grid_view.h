@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <QTableView>
+
+#include "ui/main_window/site_grid_model.h"
+
+namespace tarnwick {
+
+/// The grid of the main window: the site list with its tooltips, its widths and its keys.
+class SiteGridView final : public QTableView {
+  Q_OBJECT
+
+ public:
+  /// `model` outlives the view.
+  explicit SiteGridView(SiteGridModel& model, QWidget* parent = nullptr);
+
+  /// The tooltip for a column under the mouse; empty for a column without one. The numbering is the original one, by
+  /// which the grid's columns count from 0 to 4 and the texts belong to columns 2 to 5.
+  static QString columnToolTip(int column);
+
+  /// Selects a site's row and scrolls to it. Nothing when the grid does not hold it.
+  void selectSite(std::int16_t idSite);
+  /// The site whose row is the current one.
+  std::optional<std::int16_t> currentSite() const;
+
+  /// Shows `sites` in place of what is shown; the current row and the scroll position stay with their site.
+  void setSites(const TextTable& sites);
+
+  QSize sizeHint() const override;
+
+ Q_SIGNALS:
+  /// A data row was clicked, or Enter was pressed on it.
+  void rowChosen(int row);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void setUpColumns();
+  void setRowHeight();
+  void followMouse(int x);
+  void showColumnToolTip(const QPoint& globalPosition);
+
+  SiteGridModel& sites_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+#include <QDialog>
+
+#include "program/program.h"
+#include "store/settings_and_log.h"
+#include "ui/settings/control_dialog_layout.h"
+
+namespace tarnwick {
+
+/// The form `frmControl`: the settings, and the functions that look after the data: clear the log, compact the
+/// database, create and view the report. Not modal; a run goes on behind it. It takes itself down when it is closed.
+class ControlDialog final : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// Fills the controls from the stored settings; raises DataAccessError. `program` outlives the dialog. `parent` is
+  /// the main window.
+  ControlDialog(Program& program, QWidget* parent);
+
+  /// Fills the controls from the stored settings. Raises DataAccessError.
+  void populateMe();
+
+  /// Shows the dialog, or brings it to the front with all that was typed.
+  void bringUp();
+
+  /// Cancel.
+  void reject() override;
+
+ private:
+  void Form_Load();
+  void connectButtons();
+  void Command1_Click();
+  void Command2_Click();
+  void Command3_Click();
+  void Command4_Click();
+  void Command5_Click();
+  void Command6_Click();
+  void Command7_Click();
+  void Command8_Click();
+  void Command9_Click();
+
+  /// Runs an administration function and shows in its label how it stands.
+  void administrate(QLabel& status, const std::function<void()>& action);
+  void chooseFileInto(ByteLineEdit& text, const std::string& filter);
+  std::vector<Setting> gather() const;
+  /// The control of a setting.
+  QWidget* controlOf(const std::string& key) const;
+  void store();
+  void unload(DialogCode result);
+
+  Program& program_;
+  ControlDialogControls controls_;
+};
+
+/// Opens the one settings dialog of `program`, above `parent`; made when it is first needed.
+std::function<void()> settingsDialogOf(Program& program, QWidget& parent);
+
+}  // namespace tarnwick

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QGroupBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+
+#include "ui/controls/byte_line_edit.h"
+#include "ui/site/post_var_model.h"
+
+namespace tarnwick {
+
+/// The site editor's controls; the dialog owns them. Each has its name as object name.
+struct SiteEditorControls {
+  QGroupBox* Frame1;  ///< the site
+  ByteLineEdit* tUrl;
+  ByteLineEdit* tUsername;
+  ByteLineEdit* tPassword;
+  QRadioButton* tGet;
+  QRadioButton* tPost;
+  QCheckBox* tActive;
+  QListWidget* lbInterval;
+  QPushButton* Command9;  ///< Visit
+
+  QTableView* grid1;  ///< the POST variables
+  QLineEdit* pvName;
+  QLineEdit* pvValue;
+  QPushButton* Command4;  ///< Add POST Variable
+  QPushButton* Command5;  ///< Clear POST Variables
+
+  QCheckBox* cEmail;
+  ByteLineEdit* tEmail;
+  QCheckBox* cPager;
+  QLineEdit* tPager;
+
+  QPushButton* Command1;  ///< OK
+  QPushButton* Command3;  ///< Apply
+  QPushButton* Command2;  ///< Content
+  QPushButton* Command6;  ///< Delete
+  QPushButton* Command7;  ///< Counters
+  QPushButton* Command8;  ///< Cancel
+};
+
+/// Makes the controls of the site editor and lays them out: the site and its alerts on the left, the POST variables on
+/// the right, the buttons below.
+SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars);
+
+}  // namespace tarnwick

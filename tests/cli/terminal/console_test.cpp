@@ -1,0 +1,106 @@
+#include "cli/terminal/console.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "base/utf8.h"
+
+namespace tarnwick {
+namespace {
+
+struct ConsoleTest : ::testing::Test {
+  std::ostringstream out;
+  std::ostringstream err;
+  Console terminal{out, err, {.isTerminal = true, .colour = true}, [] { return std::size_t{20}; }};
+  Console pipe{out, err, {}};
+};
+
+TEST_F(ConsoleTest, WritesTheLiveLineOverItself) {
+  terminal.live("one");
+  terminal.live("two");
+  EXPECT_EQ(out.str(), "\r\x1b[Kone\r\x1b[Ktwo");
+}
+
+TEST_F(ConsoleTest, WritesTheSameLiveLineOnce) {
+  terminal.live("one");
+  terminal.live("one");
+  EXPECT_EQ(out.str(), "\r\x1b[Kone");
+}
+
+TEST_F(ConsoleTest, CutsTheLiveLineToTheTerminal) {
+  terminal.live("123456789012345678901234567890");
+  EXPECT_EQ(out.str(), "\r\x1b[K1234567890123456...");
+}
+
+TEST_F(ConsoleTest, PutsALineAboveTheLiveLine) {
+  terminal.live("live");
+  out.str("");
+  terminal.say("line");
+  EXPECT_EQ(out.str(), "\r\x1b[Kline\n\r\x1b[Klive");
+}
+
+TEST_F(ConsoleTest, TakesTheLiveLineAwayBeforeAComplaint) {
+  terminal.live("live");
+  out.str("");
+  terminal.complain("no");
+  EXPECT_EQ(out.str(), "\r\x1b[K");
+  EXPECT_EQ(err.str(), "tarnwickctl: no\n");
+}
+
+TEST_F(ConsoleTest, HasNoLiveLineAndNoColourInAPipe) {
+  pipe.live("live");
+  pipe.say(pipe.coloured(Console::Colour::red, "down"));
+  EXPECT_EQ(out.str(), "down\n");
+}
+
+TEST_F(ConsoleTest, ColoursTextOnATerminal) {
+  EXPECT_EQ(terminal.coloured(Console::Colour::red, "down"), "\x1b[31mdown\x1b[0m");
+}
+
+TEST_F(ConsoleTest, TellsWhetherAllIsWritten) {
+  pipe.say("line");
+  EXPECT_FALSE(pipe.flush());
+  out.setstate(std::ios::badbit);
+  pipe.say("line");
+  EXPECT_TRUE(pipe.flush());
+  EXPECT_TRUE(pipe.flush());
+}
+
+TEST_F(ConsoleTest, RemembersThatItHasComplained) {
+  EXPECT_FALSE(pipe.hasComplained());
+  pipe.complain("no");
+  EXPECT_TRUE(pipe.hasComplained());
+}
+
+TEST(VisibleText, LeavesNothingThatActsOnATerminal) {
+  EXPECT_EQ(visibleText("a\x1b[31mb"), "a\\x1b[31mb");
+  EXPECT_EQ(visibleText("a\r\n\tb"), "a\\r\\n\\tb");
+  EXPECT_EQ(visibleText("\x7f\xc2\x9b"), "\\x7f\\xc2\\x9b");
+  EXPECT_EQ(visibleText("\xe2\x80\xae"), "\\xe2\\x80\\xae");
+  EXPECT_EQ(visibleText("\xd8\x9c"), "\\xd8\\x9c");
+  EXPECT_EQ(visibleText(std::string_view("\0", 1)), "\\x00");
+}
+
+TEST(VisibleText, KeepsLettersOfAllLanguagesAndEscapesBytesThatAreNone) {
+  EXPECT_EQ(visibleText("Grüße 日本 😀"), "Grüße 日本 😀");
+  EXPECT_EQ(visibleText("caf\xe9"), "caf\\xe9");
+}
+
+TEST(VisibleText, IsCutToItsLengthInCharacters) {
+  EXPECT_EQ(visibleText("äöüäöü", 6), "äöüäöü");
+  EXPECT_EQ(visibleText("äöüäöüä", 6), "äöü...");
+  EXPECT_EQ(visibleText("abcdef", 2), "..");
+  EXPECT_EQ(visibleText("", 2), "");
+}
+
+TEST(Utf8, TellsWellFormedTextFromOtherBytes) {
+  EXPECT_TRUE(isUtf8("plain, ü, 日, 😀"));
+  for (const char* broken : {"\x80", "\xc3", "\xc0\xaf", "\xe0\x80\x80", "\xed\xa0\x80", "\xf5\x80\x80\x80",
+                             "\xf0\x80\x80\x80", "\xf4\x90\x80\x80", "\xe2\x82", "a\xff"}) {
+    EXPECT_FALSE(isUtf8(broken)) << visibleText(broken);
+  }
+}
+
+}  // namespace
+}  // namespace tarnwick

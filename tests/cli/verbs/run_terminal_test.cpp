@@ -1,0 +1,104 @@
+#include "cli/verbs/run_terminal.h"
+
+#include <cerrno>
+#include <system_error>
+
+#include "cli/support/tool_fixture.h"
+
+namespace tarnwick::testing {
+namespace {
+
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+
+class RunTerminalTest : public ToolFixture {
+ protected:
+  /// The live line that stands there now.
+  std::string live() const {
+    const std::string text = written.str();
+    return text.substr(text.rfind("\r\x1b[K") + 4);
+  }
+
+  void pass(std::initializer_list<CheckResult> results) {
+    shown.indicators(RunState::start);
+    for (const CheckResult& result : results) {
+      shown.showResult(result);
+    }
+    shown.indicators(RunState::stop);
+  }
+
+  std::ostringstream written;
+  std::ostringstream complaints;
+  Console console{written, complaints, {.isTerminal = true}, [] { return std::size_t{80}; }};
+  RunTerminal shown{console, machine.clock(), machine.pump, {}};
+};
+
+TEST_F(RunTerminalTest, CountsOnlyTheSitesThatTheRunChecks) {
+  addSite("http://a/");
+  addSite("http://b/");
+  folder.execute("update sites set status = 0; update sites set active = 0 where idSite = 2");
+  m data(folder.path(), machine.services());
+  shown.prepare(data);
+  shown.showStatus("Waiting");
+  EXPECT_EQ(live(), "0 up, 1 down  Waiting");
+}
+
+TEST_F(RunTerminalTest, ForgetsSitesThatAreDeletedOrSwitchedOffMeanwhile) {
+  for (const char* url : {"http://a/", "http://b/", "http://c/"}) {
+    addSite(url);
+  }
+  m data(folder.path(), machine.services());
+  shown.prepare(data);
+  pass({{.idSite = 1, .url = "http://a/", .passed = true},
+        {.idSite = 2, .url = "http://b/", .passed = true},
+        {.idSite = 3, .url = "http://c/", .passed = true}});
+  shown.showStatus("Waiting");
+  EXPECT_EQ(live(), "3 up, 0 down  Waiting");
+  data.deleteSite(2);
+  folder.execute("update sites set active = 0 where idSite = 3");
+  pass({{.idSite = 1, .url = "http://a/", .passed = true}});
+  shown.showStatus("Ready");
+  EXPECT_EQ(live(), "1 up, 0 down  Ready");
+}
+
+TEST_F(RunTerminalTest, LeavesOutAnIdThatTheProgramCannotUse) {
+  addSite("http://a/");
+  folder.execute("insert into sites (idSite,url,active,status) values (70000,'http://b/',1,1)");
+  m data(folder.path(), machine.services());
+  shown.prepare(data);
+  pass({{.idSite = 1, .url = "http://a/", .passed = true}});
+  shown.showStatus("Waiting");
+  EXPECT_EQ(live(), "1 up, 0 down  Waiting");
+}
+
+TEST_F(RunTerminalTest, GoesOnWhenItsLinesCannotBeWrittenForAMoment) {
+  addSite("http://a/");
+  m data(folder.path(), machine.services());
+  shown.prepare(data);
+  for (int line = 0; line < 3; ++line) {
+    errno = ENOSPC;
+    written.setstate(std::ios::badbit);
+    shown.showStatus("Waiting " + std::to_string(line));
+  }
+  EXPECT_FALSE(machine.pump.closing());
+  EXPECT_TRUE(shown.hasLostLines());
+  EXPECT_EQ(complaints.str(), "tarnwickctl: The run goes on, but its lines cannot be written: " +
+                                  std::generic_category().message(ENOSPC) + ".\n");
+  shown.showStatus("Ready");
+  EXPECT_THAT(live(), EndsWith("Ready"));
+}
+
+TEST_F(RunTerminalTest, EndsTheRunWhenTheReaderOfItsOutputHasGone) {
+  addSite("http://a/");
+  m data(folder.path(), machine.services());
+  shown.prepare(data);
+  shown.indicators(RunState::start);
+  EXPECT_FALSE(machine.pump.closing());
+  errno = EPIPE;
+  written.setstate(std::ios::badbit);
+  shown.showStatus("Waiting");
+  EXPECT_TRUE(machine.pump.closing());
+}
+
+}  // namespace
+}  // namespace tarnwick::testing

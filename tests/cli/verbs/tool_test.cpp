@@ -1,0 +1,135 @@
+#include "cli/verbs/tool.h"
+
+#include <cerrno>
+#include <streambuf>
+
+#include "cli/support/tool_fixture.h"
+
+namespace tarnwick::testing {
+namespace {
+
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+const std::vector<const char*> kVerbs = {"sites",    "site",    "add",      "set",    "delete",   "post",
+                                         "baseline", "diff",    "counters", "check",  "settings", "log",
+                                         "report",   "compact", "export",   "import", "run"};
+
+/// Takes nothing, for a reason that the system has.
+class FullBuffer final : public std::streambuf {
+ public:
+  explicit FullBuffer(int cause) : cause_(cause) {}
+
+ protected:
+  int_type overflow(int_type) override {
+    errno = cause_;
+    return traits_type::eof();
+  }
+
+ private:
+  int cause_;
+};
+
+class ToolItself : public ToolFixture {
+ protected:
+  int runOnOutputThatFails(int cause, const std::vector<std::string>& arguments) {
+    FullBuffer full(cause);
+    std::ostream written(&full);
+    std::ostringstream complaints;
+    Console console(written, complaints, {});
+    const int status = runTool(arguments, folder.path(), machine.services(), console);
+    err = complaints.str();
+    return status;
+  }
+};
+
+TEST_F(ToolItself, FailsWhenItsOutputCannotBeWritten) {
+  addPage("/a", "alpha");
+  ASSERT_EQ(run({"check"}), exit_status::ok);
+  for (const auto& arguments : std::vector<std::vector<std::string>>{{"sites"},
+                                                                     {"site", "1"},
+                                                                     {"check"},
+                                                                     {"check", "--json"},
+                                                                     {"baseline", "1"},
+                                                                     {"log"},
+                                                                     {"log", "--json"},
+                                                                     {"settings"},
+                                                                     {"--help"},
+                                                                     {"add", "http://b/"}}) {
+    EXPECT_EQ(runOnOutputThatFails(ENOSPC, arguments), exit_status::failed) << arguments.front();
+    EXPECT_EQ(err,
+              "tarnwickctl: Standard output took not all of it: " + std::generic_category().message(ENOSPC) + ".\n")
+        << arguments.front();
+  }
+}
+
+TEST_F(ToolItself, MindsNoReaderThatHasSeenEnough) {
+  addPage("/a", "alpha");
+  for (const char* verb : {"check", "sites", "log"}) {
+    EXPECT_EQ(runOnOutputThatFails(EPIPE, {verb}), exit_status::ok) << verb;
+    EXPECT_EQ(err, "") << verb;
+  }
+}
+
+TEST_F(ToolItself, NamesAWordThatIsNoVerbWhereverItStands) {
+  for (const auto& arguments : std::vector<std::vector<std::string>>{
+           {"frob"}, {"--folder", folder.path(), "frob"}, {"frob", "--folder", folder.path()}}) {
+    EXPECT_EQ(run(arguments), exit_status::failed);
+    EXPECT_EQ(err, "tarnwickctl: There is no verb \"frob\".\ntarnwickctl: See: tarnwickctl --help\n");
+  }
+  EXPECT_EQ(run({"--frob"}), exit_status::failed);
+  EXPECT_THAT(err, StartsWith("tarnwickctl: There is no option \"--frob\"."));
+}
+
+TEST_F(ToolItself, AsksForAVerb) {
+  EXPECT_EQ(run({}), exit_status::failed);
+  EXPECT_THAT(err, StartsWith("tarnwickctl: A verb is missing"));
+}
+
+TEST_F(ToolItself, SaysWhichNumbersAreIds) {
+  for (const auto& arguments :
+       std::vector<std::vector<std::string>>{{"site", "99999"}, {"delete", "99999"}, {"check", "99999"}}) {
+    EXPECT_EQ(run(arguments), exit_status::failed);
+    EXPECT_THAT(err, HasSubstr("\"99999\" is no id: ids are whole numbers from 1 to 32767"));
+  }
+}
+
+TEST_F(ToolItself, TakesTheFolderBeforeTheVerbAndBehindIt) {
+  const ProgramFolder other;
+  other.execute("insert into sites (idSite, url) values (7, 'http://other/')");
+  EXPECT_EQ(run({"sites", "--folder", other.path()}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("http://other/"));
+  EXPECT_EQ(run({"--folder", other.path() + "/", "sites"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("http://other/"));
+  EXPECT_EQ(run({"sites", "--folder", ""}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("--folder names no folder"));
+}
+
+TEST_F(ToolItself, TellsOfAWrongFolderWhereItLiesAndHowToNameAnother) {
+  EXPECT_EQ(run({"--folder", "no such folder", "sites"}), exit_status::failed);
+  EXPECT_THAT(err, Not(HasSubstr("database no such folder")));
+  EXPECT_THAT(err, HasSubstr("/no such folder/tarnwick.mdb is missing."));
+  EXPECT_THAT(err, EndsWith("Or name the right folder with --folder.\n"));
+}
+
+TEST_F(ToolItself, EveryHelpNamesTheFolderAndFitsATerminal) {
+  for (const char* verb : kVerbs) {
+    EXPECT_EQ(run({verb, "--help"}), exit_status::ok) << verb;
+    EXPECT_THAT(out, HasSubstr("  --folder DIR ")) << verb;
+    std::istringstream lines(out);
+    for (std::string line; std::getline(lines, line);) {
+      EXPECT_LE(characterCount(line), 100U) << verb << ": " << line;
+    }
+  }
+}
+
+TEST_F(ToolItself, ListsAddBeforeSet) {
+  EXPECT_EQ(run({"--help"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("\nVerbs:\n"));
+  EXPECT_LT(out.find("\n  add "), out.find("\n  set "));
+}
+
+}  // namespace
+}  // namespace tarnwick::testing

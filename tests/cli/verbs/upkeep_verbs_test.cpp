@@ -1,0 +1,79 @@
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "cli/support/tool_fixture.h"
+#include "platform/sqlite/sqlite_connection.h"
+#include "store/database.h"
+#include "support/system.h"
+
+namespace tarnwick::testing {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::MatchesRegex;
+using ::testing::StartsWith;
+
+class UpkeepVerbs : public ToolFixture {
+ protected:
+  std::string contents(const std::string& name) const {
+    std::ifstream file(folder.file(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+};
+
+using ReportVerb = UpkeepVerbs;
+
+TEST_F(ReportVerb, WritesTheReportAndPrintsItsPath) {
+  folder.execute("insert into log (url, status, dateStamp) values ('http://a/', 1, '2024-05-17 11:00:00')");
+  EXPECT_EQ(run({"report"}), exit_status::ok) << err;
+  EXPECT_EQ(out, folder.path() + "/reports/report.html\n");
+  EXPECT_THAT(contents("reports/report.html"), HasSubstr("http://a/"));
+}
+
+TEST_F(ReportVerb, PrintsItsPathAsJson) {
+  EXPECT_EQ(runJson({"report", "--json"}), Json({{"path", folder.path() + "/reports/report.html"}}));
+}
+
+TEST_F(ReportVerb, SaysWhatIsWrongWithTheReportsFolder) {
+  std::filesystem::create_directory(folder.file("reports"));
+  EXPECT_EQ(run({"report"}), exit_status::failed);
+  EXPECT_EQ(out, "");
+  EXPECT_THAT(err, HasSubstr("green.jpg"));
+}
+
+using CompactVerb = UpkeepVerbs;
+
+TEST_F(CompactVerb, ShrinksTheDatabaseAndPrintsTheSizes) {
+  addSite("http://a/");
+  folder.execute("update sites set content_runtime = zeroblob(1000000)");
+  folder.execute("update sites set content_runtime = null");
+  const auto before = std::filesystem::file_size(folder.databasePath());
+  const Json sizes = runJson({"compact", "--json"});
+  EXPECT_EQ(sizes["before"], before);
+  EXPECT_EQ(sizes["after"], std::filesystem::file_size(folder.databasePath()));
+  EXPECT_LT(sizes["after"], 100000);
+  EXPECT_EQ(std::filesystem::file_size(folder.file("backup.mdb")), before);
+  EXPECT_EQ(column(1, "url"), "http://a/");
+}
+
+TEST_F(CompactVerb, PrintsTheSizesForPeople) {
+  EXPECT_EQ(run({"compact"}), exit_status::ok) << err;
+  EXPECT_THAT(out,
+              MatchesRegex(kOnWindows ? "The database is compacted: \\d+ bytes before, \\d+ bytes after\\. .*\n"
+                                      : "The database is compacted: [0-9]+ bytes before, [0-9]+ bytes after\\. .*\n"));
+}
+
+TEST_F(CompactVerb, FailsWithTheReasonWhileAnotherProgramHasTheDatabaseOpen) {
+  SqliteConnections others(machine.clock());
+  Database open(folder.path(), others);
+  open.execute("update control set timeout = 31");
+  EXPECT_EQ(run({"compact", "--json"}), exit_status::failed);
+  EXPECT_EQ(out, "");
+  EXPECT_THAT(err, StartsWith("tarnwickctl: Aborting compact: The database"));
+  EXPECT_EQ(std::count(err.begin(), err.end(), '\n'), 1) << err;
+}
+
+}  // namespace
+}  // namespace tarnwick::testing

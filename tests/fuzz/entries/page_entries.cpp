@@ -1,0 +1,184 @@
+#include "fuzz/entries/page_entries.h"
+
+#include <algorithm>
+#include <cctype>
+#include <limits>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "base/utf8.h"
+#include "base/windows_1252.h"
+#include "engine/page_fetch.h"
+#include "platform/address.h"
+#include "platform/web/answer_head.h"
+
+namespace tarnwick::testing {
+namespace {
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+std::string formDecoded(std::string_view encoded) {
+  std::string bytes;
+  for (std::size_t i = 0; i < encoded.size(); ++i) {
+    if (encoded[i] != '%') {
+      require(isLetter(encoded[i]) || isDigit(encoded[i]), "a character of a form stands for itself that must not");
+      bytes += encoded[i];
+      continue;
+    }
+    require(i + 2 < encoded.size(), "a code of a form is cut off");
+    const std::string digits(encoded.substr(i + 1, 2));
+    require(digits.find_first_not_of("0123456789ABCDEF") == std::string::npos, "a code of a form is no number");
+    bytes += static_cast<char>(std::stoi(digits, nullptr, 16));
+    require(!isLetter(bytes.back()) && !isDigit(bytes.back()), "a letter or digit of a form is encoded");
+    i += 2;
+  }
+  return bytes;
+}
+
+/// The text as UTF-8 again, a question mark for one that the set does not have.
+std::string characterText(char32_t character) {
+  const auto part = [&](unsigned shift, char32_t mark) {
+    return static_cast<char>(static_cast<unsigned char>(mark | ((character >> shift) & 0x3FU)));
+  };
+  if (character < 0x80) {
+    return {static_cast<char>(character)};
+  }
+  if (character < 0x800) {
+    return {static_cast<char>(static_cast<unsigned char>(0xC0U | (character >> 6U))), part(0, 0x80)};
+  }
+  return {static_cast<char>(static_cast<unsigned char>(0xE0U | (character >> 12U))), part(6, 0x80), part(0, 0x80)};
+}
+
+std::string trimmed(const std::string& text) {
+  constexpr const char* kBlanks = " \t\r\n";
+  const auto first = text.find_first_not_of(kBlanks);
+  return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::string lowered(std::string text) {
+  std::ranges::transform(text, text.begin(),
+                         [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+  return text;
+}
+
+/// What the header fields of one answer say, judged by their texts and not by numbers.
+struct Fields {
+  bool chunked = false;
+  bool unclear = false;
+  bool endless = false;
+  std::set<std::string> lengths;
+
+  void add(const std::string& line) {
+    const std::size_t colon = line.find(':');
+    const std::string name = lowered(trimmed(line.substr(0, colon)));
+    chunked = chunked || name == "transfer-encoding";
+    if (name != "content-length") {
+      return;
+    }
+    std::string values = colon == std::string::npos ? "" : line.substr(colon + 1);
+    while (true) {
+      const std::size_t comma = values.find(',');
+      addLength(trimmed(values.substr(0, comma)));
+      if (comma == std::string::npos) {
+        return;
+      }
+      values.erase(0, comma + 1);
+    }
+  }
+
+  void addLength(std::string length) {
+    static const std::string largest = std::to_string(std::numeric_limits<std::int64_t>::max());
+    if (length.empty() || !std::ranges::all_of(length, isDigit)) {
+      unclear = true;
+      return;
+    }
+    length.erase(0, std::min(length.find_first_not_of('0'), length.size() - 1));
+    if (length.size() > largest.size() || (length.size() == largest.size() && length > largest)) {
+      endless = true;
+    } else {
+      lengths.insert(length);
+    }
+  }
+
+  HeadFault fault() const {
+    if (chunked) {
+      return HeadFault::none;
+    }
+    if (unclear || lengths.size() > 1) {
+      return HeadFault::unclearLength;
+    }
+    return endless ? HeadFault::endlessPage : HeadFault::none;
+  }
+};
+
+}  // namespace
+
+void fuzzUrlEncode(std::string_view input) {
+  const std::string encoded = PageFetch::urlEncode(input);
+  require(encoded.size() <= 3 * input.size(), "a form grows more than threefold");
+  const std::string codes = formDecoded(encoded);
+  if (!isUtf8(input)) {
+    require(codes == input, "bytes that are no UTF-8 are changed");
+    return;
+  }
+  std::string back;
+  std::string expected;
+  for (const char code : codes) {
+    back += characterText(characterOfWindows1252(static_cast<unsigned char>(code)));
+  }
+  for (std::string_view rest = input; !rest.empty(); rest.remove_prefix(*utf8Length(rest))) {
+    const std::string character(rest.substr(0, *utf8Length(rest)));
+    const std::optional<DecodedCharacter> decoded = decodeUtf8(rest);
+    require(decoded && decoded->length == character.size(), "two readers of UTF-8 disagree");
+    expected += windows1252CodeOf(decoded->character) ? character : "?";
+  }
+  require(back == expected, "the text does not come back");
+}
+
+void fuzzAddress(std::string_view input) {
+  const std::optional<Address> address = parseAddress(std::string(input));
+  if (!address) {
+    return;
+  }
+  const auto isUnfit = [](char c) { return static_cast<unsigned char>(c) <= 0x20 || c == 0x7F; };
+  require(std::ranges::none_of(address->url, isUnfit), "a blank or control character stands in the address");
+  require(std::ranges::none_of(address->host, isUnfit), "a blank or control character stands in the host");
+  require(!address->scheme.empty() && lowered(address->scheme) == address->scheme, "the scheme is not in lower case");
+  require(std::ranges::all_of(address->port, isDigit) && address->port.size() <= 5, "the port is no number");
+  require(address->url.starts_with(address->scheme + "://") || address->scheme == "file", "another scheme is fetched");
+  require(!isFetchedScheme(address->scheme) || !address->host.empty(), "nobody is asked for the page");
+  const std::optional<Address> again = parseAddress(address->url);
+  require(again && again->url == address->url && again->scheme == address->scheme && again->host == address->host &&
+              again->port == address->port,
+          "the address does not mean itself");
+}
+
+void fuzzAnswerHead(std::string_view input) {
+  AnswerHead head;
+  Fields fields;
+  bool open = false;
+  while (!input.empty()) {
+    const std::size_t end = std::min(input.find('\n'), input.size() - 1);
+    const std::string line(input.substr(0, end + 1));
+    input.remove_prefix(end + 1);
+    HeadFault expected = HeadFault::none;
+    if (!open && line.starts_with("HTTP/")) {
+      open = true;
+      fields = {};
+      expected = statusOf(line) == 101 ? HeadFault::otherProtocol : HeadFault::none;
+    } else if (open && trimmed(line).empty()) {
+      open = false;
+      expected = fields.fault();
+    } else if (open) {
+      fields.add(line);
+    }
+    require(head.add(line) == expected, "the header is judged wrongly");
+    require(head.open() == open, "the header ends elsewhere");
+    require(statusOf(line) == 0 || line.find(std::to_string(statusOf(line))) != std::string::npos,
+            "the status is not in the line");
+  }
+}
+
+}  // namespace tarnwick::testing

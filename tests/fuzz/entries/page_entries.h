@@ -1,0 +1,20 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "fuzz/entries/fuzz_target.h"
+
+namespace tarnwick::testing {
+
+// Any text for a form becomes letters, digits and codes in percent, of which it can be got back.
+void fuzzUrlEncode(std::string_view input);
+// Any text is refused, or gives an address that names one host, can stand in a request, and means itself.
+void fuzzAddress(std::string_view input);
+// The header of any answer is judged as its fields, taken one by one, say.
+void fuzzAnswerHead(std::string_view input);
+
+inline constexpr std::array<FuzzTarget, 3> kPageFuzzTargets{
+    {{"url_encode", fuzzUrlEncode}, {"address", fuzzAddress}, {"answer_head", fuzzAnswerHead}}};
+
+}  // namespace tarnwick::testing

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "fuzz/entries/fuzz_target.h"
+
+namespace tarnwick::testing {
+
+// A list of sites of any bytes gives sites or faults, each with a line of the text; and the sites that are read come
+// back when they are written and read again.
+void fuzzSiteListCsv(std::string_view input);
+void fuzzSiteListJson(std::string_view input);
+
+inline constexpr std::array<FuzzTarget, 2> kSiteListFuzzTargets{
+    {{"site_list_csv", fuzzSiteListCsv}, {"site_list_json", fuzzSiteListJson}}};
+
+}  // namespace tarnwick::testing

@@ -1,0 +1,64 @@
+// Files of FTP servers.
+#include <gtest/gtest.h>
+
+#include "platform/web/curl_transfers.h"
+#include "support/ftp_server.h"
+#include "support/http_server.h"
+#include "transfer_probe.h"
+
+namespace tarnwick::testing {
+namespace {
+
+class TransferFtp : public ::testing::Test {
+ protected:
+  TransferFtp() { server_.files["page.txt"] = std::string("line\r\n\0end", 10); }
+
+  FtpServer server_;
+  CurlTransfers transfers_;
+  TransferProbe probe_{transfers_};
+};
+
+TEST_F(TransferFtp, FileIsFetchedUnchanged) {
+  EXPECT_EQ(probe_.fetch(server_.url("/page.txt")), server_.files["page.txt"]);
+  EXPECT_EQ(probe_.states, kAllStates);
+  EXPECT_EQ(server_.commands().front(), "USER anonymous");
+}
+
+TEST_F(TransferFtp, CredentialsAreUsed) {
+  server_.userName = "me";
+  server_.password = "secret";
+  probe_.control->setUserName("me");
+  probe_.control->setPassword("secret");
+  EXPECT_EQ(probe_.fetch(server_.url("/page.txt")), server_.files["page.txt"]);
+}
+
+TEST_F(TransferFtp, WrongCredentialsAreAFailure) {
+  server_.userName = "me";
+  EXPECT_EQ(probe_.fetch(server_.url("/page.txt")), "");
+  EXPECT_EQ(probe_.fault(), TransferFault::other);
+  EXPECT_NE(probe_.cause().find("refused the user name or the password"), std::string::npos) << probe_.cause();
+}
+
+TEST_F(TransferFtp, MissingFileIsAFailure) {
+  EXPECT_EQ(probe_.fetch(server_.url("/none.txt")), "");
+  EXPECT_EQ(probe_.fault(), TransferFault::other);
+  EXPECT_NE(probe_.cause().find("does not give the file out"), std::string::npos) << probe_.cause();
+}
+
+TEST_F(TransferFtp, RedirectFromTheWebIsFollowed) {
+  HttpServer web;
+  web.respond("/a", HttpResponse::redirect(server_.url("/page.txt")));
+  EXPECT_EQ(probe_.fetch(web.url("/a")), server_.files["page.txt"]);
+}
+
+TEST_F(TransferFtp, ServerThatFallsSilentAtTheEndDoesNotFreezeTheProgram) {
+  server_.confirmsEnd = false;
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(probe_.fetch(server_.url("/page.txt")), "");
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds{5});
+  EXPECT_EQ(probe_.fault(), TransferFault::dropped);
+  EXPECT_NE(probe_.cause().find("did not confirm the end of the transfer"), std::string::npos) << probe_.cause();
+}
+
+}  // namespace
+}  // namespace tarnwick::testing

@@ -1,0 +1,247 @@
+// What a transfer control sends: method, body, headers, redirects, credentials, cookies.
+#include <gtest/gtest.h>
+
+#include "platform/web/curl_transfers.h"
+#include "support/http_server.h"
+#include "transfer_probe.h"
+
+namespace tarnwick::testing {
+namespace {
+
+constexpr const char* kFormHeader = "Content-Type: application/x-www-form-urlencoded";
+
+class TransferRequest : public ::testing::Test {
+ protected:
+  TransferRequest() {
+    server_.handleOthers([](const HttpRequest& request) { return HttpResponse{.body = "page of " + request.target}; });
+  }
+
+  const HttpRequest& sent(std::size_t index = 0) const { return server_.requests().at(index); }
+
+  void setCredentials(const std::string& userName, const std::string& password) {
+    probe_.control->setUserName(userName);
+    probe_.control->setPassword(password);
+  }
+
+  HttpServer server_;
+  CurlTransfers transfers_;
+  TransferProbe probe_{transfers_};
+};
+
+TEST_F(TransferRequest, EmptyMethodIsGet) {
+  probe_.fetch(server_.url("/a"), "");
+  EXPECT_EQ(sent().method, "GET");
+  EXPECT_EQ(sent().target, "/a");
+  EXPECT_EQ(sent().body, "");
+  EXPECT_EQ(sent().header("User-Agent"), "Tarnwick/1.0");
+  EXPECT_FALSE(sent().hasHeader("Content-Type"));
+}
+
+TEST_F(TransferRequest, PostCarriesItsBodyAndHeader) {
+  probe_.fetch(server_.url("/a"), "POST", "a%20b=x%26y&n=", kFormHeader);
+  EXPECT_EQ(sent().method, "POST");
+  EXPECT_EQ(sent().body, "a%20b=x%26y&n=");
+  EXPECT_EQ(sent().header("Content-Type"), "application/x-www-form-urlencoded");
+  EXPECT_EQ(sent().header("Content-Length"), "14");
+}
+
+TEST_F(TransferRequest, PostBodyMayHoldAnyBytes) {
+  const std::string body("a\0b\r\n\xff\xfe\x80", 8);
+  probe_.fetch(server_.url("/a"), "POST", body, kFormHeader);
+  EXPECT_EQ(sent().body, body);
+}
+
+TEST_F(TransferRequest, EmptyPostIsStillAPost) {
+  probe_.fetch(server_.url("/a"), "POST", "", kFormHeader);
+  EXPECT_EQ(sent().method, "POST");
+  EXPECT_EQ(sent().header("Content-Length"), "0");
+}
+
+TEST_F(TransferRequest, LargePostDoesNotWaitForLeaveToSend) {
+  const std::string body(2'000'000, 'p');
+  probe_.fetch(server_.url("/a"), "POST", body);
+  EXPECT_EQ(sent().body, body);
+  EXPECT_FALSE(sent().hasHeader("Expect"));
+}
+
+TEST_F(TransferRequest, OtherMethodsAreSentAsTheyAreWithoutBody) {
+  for (const std::string method : {"PUT", "DELETE", "OPTIONS", "X-ODD!METHOD", "get"}) {
+    server_.clearRecords();
+    EXPECT_EQ(probe_.fetch(server_.url("/a"), method, "not sent"), "page of /a") << method;
+    EXPECT_EQ(sent().method, method);
+    EXPECT_EQ(sent().body, "");
+  }
+}
+
+TEST_F(TransferRequest, HeadHasNoPage) {
+  EXPECT_EQ(probe_.fetch(server_.url("/a"), "HEAD"), "");
+  EXPECT_TRUE(probe_.succeeded());
+  EXPECT_EQ(sent().method, "HEAD");
+}
+
+TEST_F(TransferRequest, SeveralHeaderLinesAreSent) {
+  probe_.fetch(server_.url("/a"), "GET", "", "X-One: 1\r\nX-Two: 2\r\n");
+  EXPECT_EQ(sent().header("X-One"), "1");
+  EXPECT_EQ(sent().header("X-Two"), "2");
+}
+
+TEST_F(TransferRequest, MethodCannotSmuggleALine) {
+  for (const std::string method : {"GET / HTTP/1.1\r\nX-Bad: 1", "GE T", "G\nT", "GET\t", "(GET)"}) {
+    probe_.fetch(server_.url("/a"), method);
+    EXPECT_TRUE(probe_.failed()) << method;
+    EXPECT_EQ(probe_.fault(), TransferFault::badMethod) << method;
+  }
+  EXPECT_TRUE(server_.requests().empty());
+}
+
+TEST_F(TransferRequest, AddressCannotSmuggleALine) {
+  using namespace std::string_literals;
+  for (const std::string& tail : {"/a\r\nX-Bad: 1"s, "/a\nb"s, "/a\0b"s, "/a\tb"s}) {
+    probe_.fetch(server_.url(tail));
+    EXPECT_TRUE(probe_.failed());
+    EXPECT_EQ(probe_.fault(), TransferFault::badUrl);
+  }
+  EXPECT_TRUE(server_.requests().empty());
+}
+
+TEST_F(TransferRequest, BlanksAroundTheAddressDoNotCountAndInnerOnesAreEncoded) {
+  EXPECT_EQ(probe_.fetch("  " + server_.url("/a b?q=c d") + " \r\n"), "page of /a%20b?q=c%20d");
+}
+
+TEST_F(TransferRequest, AddressWithoutSchemeIsHttp) {
+  EXPECT_EQ(probe_.fetch(server_.url("/a").substr(std::string("http://").size())), "page of /a");
+}
+
+TEST_F(TransferRequest, HttpErrorPageIsAPage) {
+  server_.respond("/gone", {.status = 404, .body = "gone"});
+  server_.respond("/broken", {.status = 500, .body = "broken"});
+  EXPECT_EQ(probe_.fetch(server_.url("/gone")), "gone");
+  EXPECT_TRUE(probe_.succeeded());
+  EXPECT_EQ(probe_.control->responseCode(), 0);
+  EXPECT_EQ(probe_.cause(), "");
+  EXPECT_EQ(probe_.fetch(server_.url("/broken")), "broken");
+}
+
+TEST_F(TransferRequest, PostTurnsIntoGetOnTheOldRedirects) {
+  for (const int status : {301, 302, 303}) {
+    server_.clearRecords();
+    server_.respond("/form", HttpResponse::redirect("/result", status));
+    EXPECT_EQ(probe_.fetch(server_.url("/form"), "POST", "a=1", kFormHeader), "page of /result") << status;
+    EXPECT_EQ(sent(1).method, "GET") << status;
+    EXPECT_EQ(sent(1).body, "") << status;
+  }
+}
+
+TEST_F(TransferRequest, PostStaysAPostOnTheNewRedirects) {
+  for (const int status : {307, 308}) {
+    server_.clearRecords();
+    server_.respond("/form", HttpResponse::redirect("/result", status));
+    EXPECT_EQ(probe_.fetch(server_.url("/form"), "POST", "a=1", kFormHeader), "page of /result") << status;
+    EXPECT_EQ(sent(1).method, "POST") << status;
+    EXPECT_EQ(sent(1).body, "a=1") << status;
+  }
+}
+
+TEST_F(TransferRequest, SeeOtherTurnsAnyMethodIntoGet) {
+  server_.respond("/form", HttpResponse::redirect("/result", 303));
+  EXPECT_EQ(probe_.fetch(server_.url("/form"), "PUT"), "page of /result");
+  EXPECT_EQ(sent(1).method, "GET");
+}
+
+TEST_F(TransferRequest, CookiesLiveForOneRequestsRedirectsOnly) {
+  server_.respond("/login", {.status = 302, .headers = {{"Set-Cookie", "key=1; Path=/"}, {"Location", "/inside"}}});
+  probe_.fetch(server_.url("/login"));
+  EXPECT_EQ(sent(1).header("Cookie"), "key=1");
+  probe_.fetch(server_.url("/inside"));
+  EXPECT_FALSE(sent(2).hasHeader("Cookie"));
+}
+
+TEST_F(TransferRequest, EveryRequestHasAConnectionOfItsOwn) {
+  probe_.fetch(server_.url("/a"));
+  probe_.fetch(server_.url("/a"));
+  EXPECT_EQ(server_.connections(), 2);
+  EXPECT_TRUE(waitUntil([&] { return server_.openConnections() == 0; }));
+}
+
+TEST_F(TransferRequest, BasicChallengeIsAnswered) {
+  server_.requireBasic("/in", "me", "p:w", {.body = "welcome"});
+  setCredentials("me", "p:w");
+  EXPECT_EQ(probe_.fetch(server_.url("/in")), "welcome");
+  EXPECT_FALSE(sent(0).hasHeader("Authorization")) << "nothing is sent before the server asks";
+  EXPECT_EQ(probe_.states, kAllStates);
+}
+
+TEST_F(TransferRequest, DigestChallengeIsAnsweredWithoutTellingThePassword) {
+  server_.requireDigest("/in", "me", "secret", {.body = "welcome"});
+  setCredentials("me", "secret");
+  EXPECT_EQ(probe_.fetch(server_.url("/in")), "welcome");
+  EXPECT_EQ(probe_.fetch(server_.url("/in"), "POST", "a=1", kFormHeader), "welcome");
+  EXPECT_EQ(server_.requests().back().body, "a=1");
+}
+
+TEST_F(TransferRequest, NtlmHandshakeStaysOnOneConnection) {
+  // The server's part of the handshake: type 2 with an 8 byte challenge, no target.
+  const std::string challenge = "TlRMTVNTUAACAAAAAAAAADgAAAAGggEAASNFZ4mrze8AAAAAAAAAAAAAAAA4AAAA";
+  server_.handle("/in", [&](const HttpRequest& request) {
+    const std::string given = request.header("Authorization");
+    if (given.starts_with("NTLM TlRMTVNTUAAB")) {
+      return HttpResponse{.status = 401, .headers = {{"WWW-Authenticate", "NTLM " + challenge}}};
+    }
+    return given.starts_with("NTLM TlRMTVNTUAAD")
+               ? HttpResponse{.body = "welcome"}
+               : HttpResponse{.status = 401, .headers = {{"WWW-Authenticate", "NTLM"}}};
+  });
+  setCredentials("me", "secret");
+  EXPECT_EQ(probe_.fetch(server_.url("/in"), "POST", "a=1", kFormHeader), "welcome");
+  const auto& requests = server_.requests();
+  EXPECT_EQ(requests.back().body, "a=1");
+  EXPECT_EQ(requests.back().connection, requests.at(requests.size() - 2).connection);
+}
+
+TEST_F(TransferRequest, WrongCredentialsGiveTheServersPage) {
+  server_.requireBasic("/in", "me", "right", {.body = "welcome"});
+  setCredentials("me", "wrong");
+  EXPECT_EQ(probe_.fetch(server_.url("/in")), "credentials, please");
+  EXPECT_TRUE(probe_.succeeded());
+}
+
+TEST_F(TransferRequest, NullTextIsPassedOnLikeAnyOther) {
+  server_.requireBasic("/in", "NULL", "NULL", {.body = "welcome"});
+  setCredentials("NULL", "NULL");
+  EXPECT_EQ(probe_.fetch(server_.url("/in")), "welcome");
+}
+
+TEST_F(TransferRequest, EmptyCredentialsAreNotSent) {
+  server_.requireBasic("/in", "me", "right", {.body = "welcome"});
+  EXPECT_EQ(probe_.fetch(server_.url("/in")), "credentials, please");
+  EXPECT_EQ(server_.requests().size(), 1U);
+}
+
+TEST_F(TransferRequest, CredentialsNeverLeaveForAnotherHost) {
+  server_.requireBasic("/in", "me", "secret", HttpResponse::redirect(server_.url("/other", "localhost")));
+  server_.requireBasic("/other", "me", "secret", {.body = "leaked"});
+  setCredentials("me", "secret");
+  EXPECT_EQ(probe_.fetch(server_.url("/in")), "credentials, please");
+  for (const auto& request : server_.requestsFor("/other")) {
+    EXPECT_FALSE(request.hasHeader("Authorization"));
+  }
+  EXPECT_FALSE(server_.requestsFor("/other").empty());
+}
+
+TEST_F(TransferRequest, CredentialsNeverLeaveForAnotherPort) {
+  HttpServer other;
+  other.requireBasic("/other", "me", "secret", {.body = "leaked"});
+  server_.requireBasic("/in", "me", "secret", HttpResponse::redirect(other.url("/other")));
+  setCredentials("me", "secret");
+  EXPECT_EQ(probe_.fetch(server_.url("/in")), "credentials, please");
+}
+
+TEST_F(TransferRequest, CredentialsFollowARedirectOnTheSameHost) {
+  server_.respond("/start", HttpResponse::redirect("/in"));
+  server_.requireBasic("/in", "me", "secret", {.body = "welcome"});
+  setCredentials("me", "secret");
+  EXPECT_EQ(probe_.fetch(server_.url("/start")), "welcome");
+}
+
+}  // namespace
+}  // namespace tarnwick::testing

@@ -1,0 +1,171 @@
+#include "ui/main_window/site_grid_view.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "ui/controls/colour_text.h"
+#include "ui/support/site_table.h"
+
+namespace tarnwick {
+namespace {
+
+using testing::SiteCells;
+using testing::siteTable;
+
+class SiteGridViewTest : public ::testing::Test {
+ protected:
+  SiteGridViewTest() {
+    grid.resize(800, 300);
+    grid.show();
+  }
+
+  void show(int sites) {
+    std::vector<SiteCells> cells;
+    for (int id = 1; id <= sites; ++id) {
+      cells.push_back({.id = std::to_string(id), .status = "True"});
+    }
+    grid.setSites(siteTable(cells));
+  }
+  QPoint cellCentre(int row, int column) const { return grid.visualRect(model.index(row, column)).center(); }
+  QString toolTipAt(QPoint position) {
+    QTest::mouseMove(grid.viewport(), position);
+    return grid.toolTip();
+  }
+
+  SiteGridModel model;
+  SiteGridView grid{model};
+};
+
+TEST_F(SiteGridViewTest, TheToolTipFollowsTheColumnUnderTheMouse) {
+  show(3);
+  EXPECT_EQ(toolTipAt(cellCentre(0, 0)), QString());
+  EXPECT_EQ(toolTipAt(cellCentre(0, 2)), QStringLiteral("Method ( get,post )"));
+  EXPECT_EQ(toolTipAt(cellCentre(1, 3)), QStringLiteral("Active ( true,false )"));
+  EXPECT_EQ(toolTipAt(cellCentre(2, 4)), QStringLiteral("Minutes Until Next Check"));
+  EXPECT_EQ(toolTipAt(cellCentre(2, 1)), QString());
+}
+
+TEST_F(SiteGridViewTest, TheToolTipCountsTheHeaderAndTheEmptyPartOfAColumnToo) {
+  show(1);
+  const QPoint below(cellCentre(0, 2).x(), grid.viewport()->height() - 5);
+  EXPECT_EQ(toolTipAt(below), QStringLiteral("Method ( get,post )"));
+  QTest::mouseMove(grid.horizontalHeader()->viewport(), QPoint(cellCentre(0, 3).x(), 5));
+  EXPECT_EQ(grid.toolTip(), QStringLiteral("Active ( true,false )"));
+}
+
+TEST_F(SiteGridViewTest, RightOfTheLastColumnThereIsNoToolTip) {
+  EXPECT_EQ(SiteGridView::columnToolTip(5), QStringLiteral("Date Last Checked"));
+  show(1);
+  grid.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  grid.horizontalHeader()->resizeSection(SiteGridModel::urlColumn, 100);
+  EXPECT_EQ(toolTipAt(QPoint(grid.viewport()->width() - 3, 5)), QString());
+}
+
+TEST_F(SiteGridViewTest, TheUrlColumnTakesTheRoomThatAWiderWindowGives) {
+  show(1);
+  const int before = grid.columnWidth(SiteGridModel::urlColumn);
+  const int time = grid.columnWidth(SiteGridModel::timeColumn);
+  grid.resize(1100, 300);
+  EXPECT_EQ(grid.columnWidth(SiteGridModel::urlColumn), before + 300);
+  EXPECT_EQ(grid.columnWidth(SiteGridModel::timeColumn), time);
+  EXPECT_EQ(grid.columnWidth(SiteGridModel::idColumn), time);
+}
+
+TEST_F(SiteGridViewTest, AClickChoosesItsRow) {
+  show(3);
+  QSignalSpy chosen(&grid, &SiteGridView::rowChosen);
+  QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cellCentre(1, 1));
+  ASSERT_EQ(chosen.size(), 1);
+  EXPECT_EQ(chosen[0][0].toInt(), 1);
+  EXPECT_EQ(grid.currentSite(), std::int16_t{2});
+}
+
+TEST_F(SiteGridViewTest, AClickBesideTheRowsChoosesNothing) {
+  show(1);
+  QSignalSpy chosen(&grid, &SiteGridView::rowChosen);
+  QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, QPoint(20, grid.viewport()->height() - 5));
+  QTest::mouseClick(grid.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(20, 5));
+  EXPECT_EQ(chosen.size(), 0);
+}
+
+TEST_F(SiteGridViewTest, ArrowsMoveAndEnterChooses) {
+  show(3);
+  grid.selectSite(1);
+  QSignalSpy chosen(&grid, &SiteGridView::rowChosen);
+  QTest::keyClick(&grid, Qt::Key_Down);
+  QTest::keyClick(&grid, Qt::Key_Down);
+  QTest::keyClick(&grid, Qt::Key_Up);
+  EXPECT_EQ(chosen.size(), 0);
+  QTest::keyClick(&grid, Qt::Key_Return);
+  QTest::keyClick(&grid, Qt::Key_Enter);
+  ASSERT_EQ(chosen.size(), 2);
+  EXPECT_EQ(chosen[0][0].toInt(), 1);
+}
+
+TEST_F(SiteGridViewTest, EnterWithoutARowChoosesNothing) {
+  show(0);
+  QSignalSpy chosen(&grid, &SiteGridView::rowChosen);
+  QTest::keyClick(&grid, Qt::Key_Return);
+  EXPECT_EQ(chosen.size(), 0);
+}
+
+TEST_F(SiteGridViewTest, ASelectedRowKeepsTheColourOfItsState) {
+  show(3);
+  grid.selectSite(2);
+  const QColor up = colourFromText(colours::kUp);
+  const QImage picture = grid.viewport()->grab().toImage();
+  EXPECT_EQ(picture.pixelColor(cellCentre(1, 2)), up);
+  // The frame around it tells that it is selected.
+  const QRect cell = grid.visualRect(model.index(1, 2));
+  EXPECT_NE(picture.pixelColor(cell.center().x(), cell.top()), up);
+}
+
+TEST_F(SiteGridViewTest, ARefillKeepsTheCurrentRowAndTheScrollPosition) {
+  show(500);
+  grid.selectSite(40);
+  grid.verticalScrollBar()->setValue(30);
+  show(600);
+  EXPECT_EQ(grid.currentSite(), std::int16_t{40});
+  EXPECT_EQ(grid.verticalScrollBar()->value(), 30);
+}
+
+TEST_F(SiteGridViewTest, SelectingASiteScrollsToIt) {
+  show(500);
+  grid.selectSite(400);
+  EXPECT_EQ(grid.currentSite(), std::int16_t{400});
+  EXPECT_TRUE(grid.viewport()->rect().intersects(grid.visualRect(model.index(399, 0))));
+  grid.selectSite(501);
+  EXPECT_EQ(grid.currentSite(), std::int16_t{400});
+}
+
+TEST_F(SiteGridViewTest, ThirtyThousandSitesAreShownInAMoment) {
+  std::vector<SiteCells> cells;
+  for (int id = 1; id <= 32767; ++id) {
+    cells.push_back({.id = std::to_string(id), .status = "True"});
+  }
+  const TextTable table = siteTable(cells);
+  const auto start = std::chrono::steady_clock::now();
+  grid.setSites(table);
+  grid.repaint();
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(700));
+  EXPECT_EQ(model.rowCount(), 32767);
+}
+
+TEST_F(SiteGridViewTest, IsWhiteInADarkThemeToo) {
+  QPalette dark;
+  dark.setColor(QPalette::Window, QColor(30, 30, 30));
+  dark.setColor(QPalette::Base, QColor(20, 20, 20));
+  dark.setColor(QPalette::Text, QColor(230, 230, 230));
+  grid.setPalette(dark);
+  show(1);
+  const QImage picture = grid.viewport()->grab().toImage();
+  EXPECT_EQ(picture.pixelColor(5, grid.viewport()->height() - 5), QColor(Qt::white));
+}
+
+}  // namespace
+}  // namespace tarnwick
