@@ -64,7 +64,7 @@ NO_MESSAGES = {
     "src/platform/web/connection_failure.cpp": ("the library's words, which are looked for",
                                             ("SSL certificate problem", "match connection hostname", "reset by peer",
                                              "Failed to connect to")),
-    "src/platform/process/windows_command_line.cpp": ("arguments", ("/d /e:on",)),
+    "src/base/windows_command_line.cpp": ("arguments", ("/d /e:on",)),
     "src/report/*.cpp": ("pieces of the page", ("<img",)),
     "src/store/database.cpp": ("a connection string", (";Jet",)),
     "src/store/result_log.cpp": ("the columns of a statement", ("rowid as",)),

@@ -19,18 +19,8 @@ DesktopPlatform::~DesktopPlatform() = default;
 
 Services DesktopPlatform::services() {
   Machine& machine = *machine_;
-  const Services common = machine.headless.services();
-  return {.clock = common.clock,
-          .pump = common.pump,
-          .timers = common.timers,
-          .databases = common.databases,
-          .transfers = common.transfers,
-          .sockets = common.sockets,
-          .prompts = machine.prompts,
-          .sound = *machine.sound,
-          .programs = common.programs,
-          .opener = machine.opener,
-          .runLocks = common.runLocks};
+  return machine.headless.services().with(
+      {.prompts = &machine.prompts, .sound = machine.sound.get(), .opener = &machine.opener});
 }
 
 }  // namespace tarnwick

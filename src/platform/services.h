@@ -28,18 +28,26 @@ struct Services {
   DesktopOpener& opener;
   RunLockMaker& runLocks;
 
-  /// The same machine with other boxes.
-  Services withPrompts(Prompts& others) const {
+  /// What takes the place of a part; null leaves the part as it is.
+  struct Exchanged {
+    SqlConnectionMaker* databases = nullptr;
+    Prompts* prompts = nullptr;
+    SoundPlayer* sound = nullptr;
+    ProgramStarter* programs = nullptr;
+    DesktopOpener* opener = nullptr;
+  };
+  /// The same machine with some parts exchanged: `services.with({.prompts = &others})`.
+  Services with(const Exchanged& other) const {
     return {.clock = clock,
             .pump = pump,
             .timers = timers,
-            .databases = databases,
+            .databases = other.databases != nullptr ? *other.databases : databases,
             .transfers = transfers,
             .sockets = sockets,
-            .prompts = others,
-            .sound = sound,
-            .programs = programs,
-            .opener = opener,
+            .prompts = other.prompts != nullptr ? *other.prompts : prompts,
+            .sound = other.sound != nullptr ? *other.sound : sound,
+            .programs = other.programs != nullptr ? *other.programs : programs,
+            .opener = other.opener != nullptr ? *other.opener : opener,
             .runLocks = runLocks};
   }
 };

@@ -97,11 +97,7 @@ class UsedFolder {
 struct RunningProgram {
   explicit RunningProgram(const UsedFolder& used) : program(used.folder.path(), services(), view) { program.start(); }
 
-  Services services() {
-    const Services real = machine.services();
-    return {real.clock,   real.pump,    real.timers, databases,     real.transfers,
-            real.sockets, real.prompts, real.sound,  real.programs, real.opener};
-  }
+  Services services() { return machine.services().with({.databases = &databases}); }
 
   void letPass(std::chrono::seconds time) { machine.handTimers.advance(time); }
   std::size_t boxes() const { return machine.prompts.shown().size(); }

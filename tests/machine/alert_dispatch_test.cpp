@@ -67,20 +67,7 @@ class Alerts : public ::testing::Test {
   }
 
   /// The machine with programs that are really started.
-  Services withRealPrograms() {
-    const Services all = machine.services();
-    return {.clock = all.clock,
-            .pump = all.pump,
-            .timers = all.timers,
-            .databases = all.databases,
-            .transfers = all.transfers,
-            .sockets = all.sockets,
-            .prompts = all.prompts,
-            .sound = all.sound,
-            .programs = programs,
-            .opener = all.opener,
-            .runLocks = all.runLocks};
-  }
+  Services withRealPrograms() { return machine.services().with({.programs = &programs}); }
 
   ProgramFolder folder;
   TestServices machine{TestServices::Time::clockByHand};
@@ -213,18 +200,7 @@ TEST_F(Alerts, ComeInTheOrderMailSoundProgram) {
     const SmtpServer& watched;
     std::vector<std::string> notes;
   } turns(server);
-  const Services all = machine.services();
-  const Services noting = {.clock = all.clock,
-                           .pump = all.pump,
-                           .timers = all.timers,
-                           .databases = all.databases,
-                           .transfers = all.transfers,
-                           .sockets = all.sockets,
-                           .prompts = all.prompts,
-                           .sound = turns,
-                           .programs = turns,
-                           .opener = all.opener,
-                           .runLocks = all.runLocks};
+  const Services noting = machine.services().with({.sound = &turns, .programs = &turns});
   switchOn(true, true, true);
 
   AlertDispatch(database, settings, files, mail, noting, server.port16()).sendAlerts(addSite("http://example.com/"));

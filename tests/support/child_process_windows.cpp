@@ -2,8 +2,8 @@
 
 #include <stdexcept>
 
+#include "base/windows_command_line.h"
 #include "platform/os/windows_text.h"
-#include "platform/process/windows_command_line.h"
 #include "support/child_process.h"
 
 namespace tarnwick::testing {

@@ -44,7 +44,8 @@ void World::start() {
                           .prompts = desktop,
                           .sound = desktop,
                           .programs = desktop,
-                          .opener = desktop};
+                          .opener = desktop,
+                          .runLocks = runLocks};
   program_ = std::make_unique<Program>(folder.path(), services, view);
   attempt("starts the program", [this] { program_->start(); });
   events_->lead(*program_);

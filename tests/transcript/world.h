@@ -8,6 +8,7 @@
 
 #include "platform/events/qt_event_loop.h"
 #include "platform/events/qt_tcp_socket.h"
+#include "platform/process/file_run_lock.h"
 #include "platform/sqlite/sqlite_connection.h"
 #include "platform/web/curl_transfers.h"
 #include "program/program.h"
@@ -58,6 +59,7 @@ struct World {
   SqliteConnections databases{clock};
   WatchedConnections watched{databases};
   RecordedConnections recordedDatabases{watched, transcript};
+  FileRunLocks runLocks;
   CurlTransfers transfers{{}};
   QtTcpSockets sockets;
   RecordedSockets recordedSockets{sockets, mailServer, transcript};

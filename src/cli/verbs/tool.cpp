@@ -198,7 +198,7 @@ int runTool(const std::vector<std::string>& arguments, const std::string& progra
     }
     folder = absoluteFolder(isFolderNamed(app) ? folder : programFolderFor(programFolder));
     ToolPrompts prompts(console);
-    Tool tool(folder, services.withPrompts(prompts), console);
+    Tool tool(folder, services.with({.prompts = &prompts}), console);
     return statusWithOutput(console, chosen(tool));
   } catch (const DataAccessError& error) {
     console.complain(error.what() + adviceOn(folder));

@@ -9,10 +9,10 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include "base/windows_command_line.h"
 #include "platform/file_access.h"
 #include "platform/os/windows_text.h"
 #include "platform/process/detached_programs.h"
-#include "platform/process/windows_command_line.h"
 
 namespace tarnwick {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "alerts/alert_facts.h"
 #include "base/command_line.h"
-#include "platform/process/windows_command_line.h"
+#include "base/windows_command_line.h"
 #include "support/hand_clock.h"
 
 namespace tarnwick::testing {

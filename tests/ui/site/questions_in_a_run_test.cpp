@@ -23,10 +23,7 @@ class QuestionsInARunTest : public DialogTest {
     server.respond("/page", {.body = "a page"});
     addSite(1, server.url("/slow"));
     addSite(7, server.url("/page"));
-    const Services usual = machine.services();
-    const Services withBoxes{usual.clock,   usual.pump, usual.timers, usual.databases, usual.transfers,
-                             usual.sockets, prompts_,   usual.sound,  usual.programs,  usual.opener};
-    master = std::make_unique<Master>(folder.path(), withBoxes);
+    master = std::make_unique<Master>(folder.path(), machine.services().with({.prompts = &prompts_}));
     ASSERT_TRUE(master->load());
     master->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(master.get()));

@@ -1,4 +1,4 @@
-#include "platform/process/windows_command_line.h"
+#include "base/windows_command_line.h"
 
 #include <gtest/gtest.h>
 
