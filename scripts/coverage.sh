@@ -18,5 +18,5 @@ ctest --preset coverage -j"$jobs" --no-tests=error -LE 'package|house' "$@" >bui
 mkdir -p build/coverage/html
 # Branches that only an exception would take are the compiler's, not ours.
 gcovr --root . --object-directory build/coverage --exclude-throw-branches --exclude-unreachable-branches \
-  --filter 'src/(store|engine|alerts|report)/' --filter 'src/(m|program|fault_box|site_draft)\.(h|cpp)' \
+  --filter 'src/(base|store|uucode|mail|alerts|report|engine|program)/' \
   --html-details build/coverage/html/index.html --print-summary --fail-under-line 95

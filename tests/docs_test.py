@@ -39,12 +39,12 @@ MESSAGE_CALLS = {"inform", "confirm", "complain", "runtime_error", "FileError", 
 
 # Files, or texts of a file, that are worded but no messages; each with the reason. A text is given by its beginning.
 NO_MESSAGES = {
-    "src/alerts/uu_*": ("the encoder of attachments, which neither the window nor the tool reaches", ()),
+    "src/uucode/*": ("the encoder of attachments, which neither the window nor the tool reaches", ()),
     "src/base/base64.cpp": ("who decodes says what is wrong in words of his own", ()),
     "src/engine/inet_pool.cpp": ("the states of a request, kept for callers of the pool and shown nowhere", ()),
     "src/ui/*_layout.cpp": ("labels and hints of the window; the guide explains the controls", ()),
     "src/ui/site/new_post_var.cpp": ("hints in the fields", ()),
-    "src/ui/site_grid_*.cpp": ("heads and hints of the list", ()),
+    "src/ui/main_window/site_grid_*.cpp": ("heads and hints of the list", ()),
     "src/ui/main_window/master.cpp": ("the foot of the window, and hints", ()),
     "src/ui/settings/control_dialog.cpp": ("the kinds of files in the file dialog", ("Audio Files", "Program Files")),
     "src/alerts/alert_dispatch.cpp": ("the subject of the mails", ("A WEB SITE ERROR",)),

@@ -14,25 +14,69 @@ import sys
 import tempfile
 from pathlib import Path
 
-# What each room may include of the others; the rooms that are named nowhere stand above all of them.
+# The rooms, and which others each may include: the whole of who knows whom. A room is a folder of src; what is named
+# here includes nothing else, and what is not named here is no room.
+MACHINE = ("base", "platform")
+DATA = (*MACHINE, "store")
+RUN = (*DATA, "uucode", "mail", "alerts", "report", "engine")
+TOOL = (*RUN, "program", "cli/terminal")
+WINDOW = (*RUN, "program", "ui/controls")
 ROOMS = {
-    "platform": set(),
-    "store": {"platform"},
-    "alerts": {"store", "platform"},
-    "report": {"store", "platform"},
-    "engine": {"alerts", "report", "store", "platform"},
+    "base": (),
+    "platform": ("base",),
+    "platform/os": MACHINE,
+    "platform/sqlite": (*MACHINE, "platform/os"),
+    "platform/web": (*MACHINE, "platform/os"),
+    "platform/events": (*MACHINE, "platform/os"),
+    "platform/process": (*MACHINE, "platform/os"),
+    "platform/sound": (*MACHINE, "platform/os"),
+    "platform/desktop": (*MACHINE, "platform/os"),
+    "store": MACHINE,
+    "uucode": MACHINE,
+    "mail": MACHINE,
+    "alerts": (*DATA, "mail"),
+    "report": DATA,
+    "engine": (*DATA, "alerts", "report"),
+    "program": RUN,
+    "cli/terminal": DATA,
+    "cli/pages": (*RUN, "cli/terminal"),
+    "cli/list": TOOL,
+    "cli/verbs": (*TOOL, "cli/pages", "cli/list"),
+    "ui/controls": (*RUN, "program"),
+    "ui/baseline": WINDOW,
+    "ui/site": (*WINDOW, "ui/baseline", "platform/desktop"),
+    "ui/settings": WINDOW,
+    "ui/main_window": WINDOW,
+    "app": None,  # puts together whatever there is
 }
-CORE_ROOMS = ("store", "engine", "alerts", "report")
-# Beside the rooms, and open to all of them: constants only.
-SHARED_FILES = ("src/base/product.h",)
-CORE_FILES = ("product.h", "m.h", "m.cpp", "program.h", "program.cpp", "fault_box.h", "fault_box.cpp",
-              "site_draft.h", "site_draft.cpp")
+# The libraries of others that a room may include, by the headers' names; all others include standard C++ and the system
+# alone.
+QT = r"Q[A-Z]\w*|Qt\w*/.*|q[a-z]+\.h"
+LIBRARIES = {
+    "platform/sqlite": r"sqlite3\w*\.h",
+    "platform/web": rf"curl/.*|{QT}",
+    "platform/events": QT,
+    "platform/process": QT,
+    "platform/sound": QT,
+    "platform/desktop": QT,
+    "cli/terminal": r"nlohmann/.*",
+    "cli/list": r"nlohmann/.*",
+    "cli/verbs": r"CLI/.*|nlohmann/.*",
+    "ui/controls": QT,
+    "ui/baseline": QT,
+    "ui/site": QT,
+    "ui/settings": QT,
+    "ui/main_window": QT,
+    "app": QT,
+}
 
 MOST_LINES = 500
 MOST_LINES_OF_A_FORM = 300
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
-LIBRARY = re.compile(r"^(Q[A-Z]\w*|Qt\w*/.*|q[a-z]+\.h|sqlite3\w*\.h|curl/.*)$")
+LIBRARY = re.compile(rf"^({QT}|sqlite3\w*\.h|curl/.*|CLI/.*|nlohmann/.*)$")
+SQL = re.compile(r'"\s*(select\s(?=[^"]*\sfrom\s|\s*")|update\s+\w+\s+set\s|insert\s+into\s|delete\s+from\s'
+                 r"|(create|alter|drop)\s+table\s|pragma\s+\w)", re.IGNORECASE)
 SLEEP = re.compile(r"\b(sleep_for|sleep_until|usleep|nanosleep|qSleep|msleep)\b|\b(?:QThread|std)?::sleep\s*\("
                    r"|(?<![\w.>:])sleep\s*\(")
 REASON = re.compile(r"//\s*sleeps because \S")
@@ -65,46 +109,61 @@ class Tree:
 
 
 def room_of(name: str) -> str | None:
-    parts = name.split("/")
-    return parts[1] if parts[0] == "src" and len(parts) > 2 else None
+    """The room that a file of src stands in: the folders that it lies in."""
+    return str(Path(name).parent.relative_to("src").as_posix()) if name.startswith("src/") else None
 
 
-def is_core(name: str) -> bool:
-    return room_of(name) in CORE_ROOMS or name in ("src/" + file for file in CORE_FILES)
+def every_source_has_a_room(tree: Tree):
+    for name in tree.lines:
+        room = room_of(name)
+        if room is not None and room not in ROOMS:
+            yield (name, 1, f"lies in src/{room}, which is no room: put it where its idea belongs, or name the new room "
+                   "and whom it may include in ROOMS of tests/house_rules.py.")
 
 
-def no_library_in_the_core(tree: Tree):
-    """The core knows neither Qt nor SQLite nor curl, not even through a header that it includes."""
-    for core in filter(is_core, tree.lines):
-        ways = [(core, ())]
-        seen = {core}
+def rooms_open_downwards(tree: Tree):
+    """A room includes the rooms below it that the table names, and no others."""
+    for name in tree.lines:
+        room = room_of(name)
+        if ROOMS.get(room) is None:
+            continue
+        for number, text, target in tree.includes(name):
+            other = room_of(target) if target else None
+            if other is not None and other != room and other not in ROOMS[room]:
+                yield (name, number, f'includes "{text}": {room}/ may include only '
+                       f"{', '.join(sorted(ROOMS[room])) or 'itself'}. Pass what is needed in through a constructor, "
+                       "or move the shared piece down.")
+
+
+def libraries_stay_in_their_rooms(tree: Tree):
+    """A library is included in the rooms that the table names, and through no header that others include."""
+    for start in tree.lines:
+        room = room_of(start)
+        if room not in ROOMS:
+            continue
+        allowed = re.compile(rf"^({LIBRARIES.get(room, '(?!)')})$")
+        ways = [(start, ())]
+        seen = {start}
         while ways:
             name, way = ways.pop()
             for number, text, target in tree.includes(name):
-                if LIBRARY.match(text):
+                if LIBRARY.match(text) and not allowed.match(text):
                     through = " through " + " and ".join(way) if way else ""
-                    yield (name if not way else core, number if not way else 1,
-                           f"includes <{text}>{through}: the core knows no Qt, SQLite or curl. Put what needs it "
-                           "behind an interface of src/platform and include the library in the .cpp there.")
+                    yield (start, 1 if way else number,
+                           f"includes <{text}>{through}: that library does not belong in {room}/. Put what needs it "
+                           "behind an interface of src/platform and include the library in the .cpp of its room.")
                 elif target and target not in seen:
                     seen.add(target)
                     ways.append((target, (*way, target)))
 
 
-def rooms_open_downwards(tree: Tree):
-    """A lower room knows nothing of the ones above it."""
-    for name in tree.lines:
-        room = room_of(name)
-        if room not in ROOMS:
+def front_ends_write_no_sql(tree: Tree):
+    for name, lines in tree.lines.items():
+        if not (room_of(name) or "").startswith(("ui/", "cli/")):
             continue
-        for number, text, target in tree.includes(name):
-            if target is None or target in SHARED_FILES:
-                continue
-            other = room_of(target)
-            if other != room and other not in ROOMS[room]:
-                yield (name, number, f'includes "{text}": {room}/ may include only '
-                       f"{', '.join(sorted(ROOMS[room])) or 'itself'}. Pass what is needed in through a constructor, "
-                       "or move the shared piece down.")
+        for number, line in enumerate(lines, 1):
+            if SQL.search(line.split("//")[0]):
+                yield (name, number, "writes SQL: make it a procedure of src/store, which window and terminal share.")
 
 
 def files_are_short(tree: Tree):
@@ -126,7 +185,7 @@ def tests_do_not_sleep(tree: Tree):
 
 def only_the_platform_knows_the_system(tree: Tree):
     for name, lines in tree.lines.items():
-        if not name.startswith("src/") or room_of(name) == "platform":
+        if not name.startswith("src/") or (room_of(name) or "").startswith("platform"):
             continue
         for number, line in enumerate(lines, 1):
             if SYSTEM.search(line):
@@ -168,7 +227,7 @@ def headers_are_included_once(tree: Tree):
             yield name, 1, "has no include guard: begin it with #pragma once."
 
 
-RULES = (no_library_in_the_core, rooms_open_downwards, files_are_short, tests_do_not_sleep,
+RULES = (every_source_has_a_room, rooms_open_downwards, libraries_stay_in_their_rooms, front_ends_write_no_sql, files_are_short, tests_do_not_sleep,
          only_the_platform_knows_the_system, nothing_is_unfinished,
          every_source_is_built, headers_are_included_once)
 
@@ -195,24 +254,41 @@ def self_test() -> int:
     trees = {
         "a sound tree": (None, {
             "src/store/a.h": header + '#include "platform/p.h"\n', "src/platform/p.h": header + "#include <string>\n",
-            "src/store/b.h": header + '#include "product.h"\n', "src/base/product.h": header,
-            "src/platform/p.cpp": '#include "platform/p.h"\n#include <QString>\n',
-            "src/platform/CMakeLists.txt": "add_library(p p.cpp)\n",
+            "src/store/b.h": header + '#include "base/c.h"\n', "src/base/c.h": header,
+            "src/platform/web/p.cpp": '#include "platform/p.h"\n#include <QString>\n',
+            "src/platform/web/CMakeLists.txt": "add_library(p p.cpp)\n",
+            "src/app/a.h": header + '#include "platform/web/q.h"\n', "src/platform/web/q.h": header,
+            "src/ui/site/text.h": header + 'auto text = tr("Select a site.");  // "select a from b"\n',
             "tests/store/a_test.h": header + "sleep_for(1s);  // sleeps because the file's clock is coarse\n"}),
         "Qt in the core": ("src/store/a.h:2: includes <QString>", {"src/store/a.h": header + "#include <QString>\n"}),
         "SQLite in the core": ("includes <sqlite3.h>", {"src/program/m.h": header + "#include <sqlite3.h>\n"}),
         "curl in the core": ("includes <curl/curl.h>", {"src/engine/a.h": header + "#include <curl/curl.h>\n"}),
-        "a library by way of a header": ("src/alerts/a.h:1: includes <QtCore/qglobal.h> through src/platform/p.h", {
-            "src/alerts/a.h": header + '#include "platform/p.h"\n',
-            "src/platform/p.h": header + "#include <QtCore/qglobal.h>\n"}),
-        "a room that looks up": ('includes "engine/e.h": store/ may include only platform', {
+        "SQLite in a window": ("belong in ui/site/", {"src/ui/site/a.h": header + "#include <sqlite3.h>\n"}),
+        "Qt in the terminal": ("belong in cli/verbs/", {"src/cli/verbs/a.h": header + "#include <QString>\n"}),
+        "Qt in the database": ("belong in platform/sqlite/", {
+            "src/platform/sqlite/a.h": header + "#include <QString>\n"}),
+        "a library by way of a header": ("src/cli/pages/a.h:1: includes <nlohmann/json.hpp> through src/cli/terminal/b.h", {
+            "src/cli/list/a.h": header + '#include "cli/terminal/b.h"\n',
+            "src/cli/terminal/b.h": header + "#include <nlohmann/json.hpp>\n",
+            "src/cli/pages/a.h": header + '#include "cli/terminal/b.h"\n'}),
+        "a room that looks up": ('includes "engine/e.h": store/ may include only base, platform', {
             "src/store/a.h": header + '#include "engine/e.h"\n', "src/engine/e.h": header}),
+        "a window in the terminal": ('includes "ui/site/s.h": cli/verbs/ may include only', {
+            "src/cli/verbs/a.h": header + '#include "ui/site/s.h"\n', "src/ui/site/s.h": header}),
+        "a wing in the core": ('includes "platform/sqlite/s.h": store/ may include only', {
+            "src/store/a.h": header + '#include "platform/sqlite/s.h"\n', "src/platform/sqlite/s.h": header}),
+        "a program in a room": ('includes "app/a.h": program/ may include only', {
+            "src/program/p.h": header + '#include "app/a.h"\n', "src/app/a.h": header}),
+        "SQL in a window": ("src/ui/site/a.h:2: writes SQL", {
+            "src/ui/site/a.h": header + 'auto sql = "select url from sites";\n'}),
+        "SQL in the terminal": ("writes SQL", {"src/cli/list/a.h": header + 'auto sql = "UPDATE sites set a = 1";\n'}),
+        "a file in no room": ("src/stray/a.h:1: lies in src/stray, which is no room", {"src/stray/a.h": header}),
         "a long source": ("has 501 lines", {"src/store/a.h": header + "\n" * 500}),
-        "a long form": ("has 301 lines", {"src/ui/a.h": header + "\n" * 300}),
+        "a long form": ("has 301 lines", {"src/ui/site/a.h": header + "\n" * 300}),
         "a sleep": ("tests/a.h:2: sleeps", {"tests/a.h": header + "std::this_thread::sleep_for(1s);\n"}),
         "a sleep with an empty reason": ("sleeps", {"tests/a.h": header + "QTest::qSleep(5);  // sleeps because\n"}),
         "another sleep": ("sleeps", {"tests/a.h": header + "QThread::sleep(1);\n"}),
-        "an unfinished piece": ("src/a.h:2: says " + "TO" + "DO", {"src/a.h": header + "// " + "TO" + "DO: later\n"}),
+        "an unfinished piece": ("src/base/a.h:2: says " + "TO" + "DO", {"src/base/a.h": header + "// " + "TO" + "DO: later\n"}),
         "a source that is not built": ("is built by no CMakeLists.txt", {
             "src/store/a.cpp": "\n", "src/store/CMakeLists.txt": "add_library(s data.cpp)\n"}),
         "a source of each system": (None, {

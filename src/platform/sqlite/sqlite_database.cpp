@@ -8,7 +8,6 @@
 
 #include "base/errors.h"
 #include "platform/file_access.h"
-#include "platform/os/heap.h"
 #include "platform/sqlite/shown_statement.h"
 #include "platform/sqlite/sqlite_errors.h"
 #include "platform/sqlite/sqlite_file.h"
@@ -157,7 +156,6 @@ void SqliteDatabase::fitCache(const PlainStatement& statement) noexcept {
   if (large && !cachesLargePage_) {
     cachesLargePage_ = true;
     sqlite3_exec(handle(), kLargeCache, nullptr, nullptr, nullptr);
-    keepFreedMemory();  // until the transfers that brought such pages have gone
   } else if (!large && cachesLargePage_ && sqlite3_get_autocommit(handle()) != 0) {
     cachesLargePage_ = false;
     sqlite3_exec(handle(), kUsualCache, nullptr, nullptr, nullptr);

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "platform/os/heap.h"
-
 namespace tarnwick {
 
 /// One request from `execute` until its last event has been delivered, or until it is cancelled.
@@ -18,10 +16,7 @@ struct CurlTransferControl::Run {
 CurlTransferControl::CurlTransferControl(std::shared_ptr<CurlEventLoop> loop, CurlTransfers::Options options)
     : loop_(std::move(loop)), options_(std::move(options)) {}
 
-CurlTransferControl::~CurlTransferControl() {
-  endRun();
-  giveBackFreedMemory();
-}
+CurlTransferControl::~CurlTransferControl() { endRun(); }
 
 void CurlTransferControl::setRequestTimeout(std::chrono::seconds timeout) {
   order_.timeout = timeout.count() > 0 ? timeout : kDefaultRequestTimeout;
