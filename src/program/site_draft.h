@@ -1,32 +1,13 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <vector>
+
+#include "store/site_draft.h"
 
 namespace tarnwick {
 
 class m;
-
-/// A form variable of a site.
-struct PostVar {
-  std::string name;
-  std::string value;
-  bool operator==(const PostVar&) const = default;
-};
-
-/// A site as a front end lets it be edited. Texts are bytes as they are stored; a Null is empty.
-struct SiteDraft {
-  std::string url;
-  std::string method;  ///< as it is stored; the editor writes "get" or "post"
-  bool active = false;
-  std::string tInterval;  ///< minutes, as they are stored
-  bool alertEmail = false;
-  std::string email;
-  std::string sUserName;
-  std::string sPassWord;
-  bool operator==(const SiteDraft&) const = default;
-};
 
 /// Reads a site. A text of the letters "NULL" is told from a Null, which is empty. Raises DataAccessError, and
 /// std::runtime_error when there is no such site.

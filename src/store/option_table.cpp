@@ -1,0 +1,97 @@
+#include "store/option_table.h"
+
+#include <algorithm>
+#include <charconv>
+#include <stdexcept>
+
+namespace tarnwick {
+namespace {
+
+std::string inWords(const std::vector<std::string>& choices) {
+  std::string words;
+  for (const std::string& choice : choices) {
+    words += (words.empty() ? "\"" : " or \"") + choice + "\"";
+  }
+  return words;
+}
+
+bool isSameWord(std::string_view one, std::string_view other) {
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  return std::ranges::equal(one, other, {}, lower, lower);
+}
+
+const std::vector<std::string>& words(const OptionField& option) {
+  static const std::vector<std::string> flag{"on", "off"};
+  return option.kind == OptionKind::flag ? flag : option.choices;
+}
+
+}  // namespace
+
+std::string OptionField::values() const {
+  switch (kind) {
+    case OptionKind::number:
+      return "a whole number from " + std::to_string(least) + " to " + std::to_string(most) +
+             (unit.empty() ? std::string() : " (" + unit + ")");
+    case OptionKind::text:
+      return "a text";
+    case OptionKind::flag:
+    case OptionKind::choice:
+      break;
+  }
+  return inWords(words(*this));
+}
+
+std::string OptionField::checked(std::string_view value) const {
+  if (kind == OptionKind::text && !value.empty()) {
+    return std::string(value);
+  }
+  if (kind == OptionKind::number) {
+    std::int64_t number = 0;
+    const char* const end = value.data() + value.size();
+    const auto [rest, fault] = std::from_chars(value.data(), end, number);
+    if (fault == std::errc() && rest == end && number >= least && number <= most) {
+      return std::to_string(number);
+    }
+  } else {
+    const auto word =
+        std::ranges::find_if(words(*this), [&](const std::string& known) { return isSameWord(known, value); });
+    if (word != words(*this).end()) {
+      return *word;
+    }
+  }
+  throw std::runtime_error("The option " + name + " does not take \"" + std::string(value) + "\". It takes " +
+                           values() + ".");
+}
+
+const std::vector<OptionField>& programOptions() {
+  static const std::vector<OptionField> options{
+      {.name = "newSites",
+       .kind = OptionKind::choice,
+       .choices = {"at once", "at the next start"},
+       .recommended = "at once",
+       .original = "a site that was never checked is not taken on before the next Start",
+       .label = "New sites",
+       .meaning = "When a run takes on a site that was never checked"},
+      {.name = "adopt",
+       .kind = OptionKind::choice,
+       .ofSite = true,
+       .choices = {"pages only", "anything"},
+       .recommended = "pages only",
+       .original = "the first answer becomes the baseline, also the text of a fetch that failed",
+       .label = "First baseline",
+       .meaning =
+           "What becomes the baseline of a site that has none; with \"pages only\" a fetch that failed does not"},
+      {.name = "mailLimit",
+       .kind = OptionKind::number,
+       .least = 1,
+       .most = 3600,
+       .unit = "seconds",
+       .recommended = "60",
+       .original = "a mail server that stays silent is waited for without end",
+       .label = "Mail exchange at most",
+       .meaning = "The longest time that handing over one mail may take, connecting included"},
+  };
+  return options;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarnwick {
+
+/// What an option takes.
+enum class OptionKind {
+  flag,    ///< "on" or "off"
+  number,  ///< a whole number from `least` to `most`
+  choice,  ///< one of `choices`
+  text,    ///< any text but the empty one
+};
+
+/// Something that a site, or the program, does otherwise than it did originally, when its user wants it to. An option
+/// that is set for no site and not for all leaves the original behaviour.
+struct OptionField {
+  std::string name;  ///< letters and digits: it stands on command lines and in JSON
+  OptionKind kind = OptionKind::text;
+  /// Whether a single site may have a value of its own; otherwise there is one for all.
+  bool ofSite = false;
+  std::int64_t least = 0;
+  std::int64_t most = 0;
+  std::vector<std::string> choices{};
+  std::string unit{};         ///< of a number, for people: "seconds"; else empty
+  std::string recommended{};  ///< the value in a fresh list; empty when it is unset there, too
+  std::string original;       ///< what happens while it is unset: "the wait has no end"
+  std::string label;          ///< a few words for people: "Longest mail exchange"
+  std::string meaning;        ///< for a help text, without a full stop
+
+  /// The values that it takes, for people: "a number from 1 to 3600 (seconds)".
+  std::string values() const;
+  /// `value` as it is stored: letter case of words as in the table, numbers without what is needless. Raises
+  /// std::runtime_error, which names the option, the value and what is taken.
+  std::string checked(std::string_view value) const;
+};
+
+/// The options of this program, in the order in which they are shown.
+const std::vector<OptionField>& programOptions();
+
+}  // namespace tarnwick
