@@ -7,37 +7,16 @@
 #include <string_view>
 
 #include "base/errors.h"
+#include "base/text.h"
 
 namespace tarnwick {
 namespace {
 
-bool equalsIgnoringCase(std::string_view text, std::string_view lower) {
-  if (text.size() != lower.size()) {
-    return false;
-  }
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char c = text[i];
-    const char folded = (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
-    if (folded != lower[i]) {
-      return false;
-    }
-  }
-  return true;
-}
-
-std::string_view withoutBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) {
-    return {};
-  }
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 double numberIn(std::string_view text) {
-  const std::string_view trimmed = withoutBlanks(text);
+  text = trimmed(text, " ");
   double number = 0;
-  const auto [end, fault] = std::from_chars(trimmed.data(), trimmed.data() + trimmed.size(), number);
-  const bool whole = fault == std::errc{} && end == trimmed.data() + trimmed.size();
+  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool whole = fault == std::errc{} && end == text.data() + text.size();
   return whole ? number : 0;
 }
 

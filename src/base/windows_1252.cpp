@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
+
+#include "base/text.h"
 
 namespace tarnwick {
 namespace {
@@ -29,38 +30,6 @@ std::optional<char> windows1252CodeOf(char32_t character) {
     return std::nullopt;
   }
   return static_cast<char>(static_cast<unsigned char>(0x80 + (found - kHighCodes.begin())));
-}
-
-std::optional<DecodedCharacter> decodeUtf8(std::string_view text) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-  const unsigned char lead = byte(0);
-  if (lead < 0x80) {
-    return DecodedCharacter{lead, 1};
-  }
-  std::size_t length = 0;
-  char32_t character = 0;
-  char32_t smallest = 0;
-  if ((lead & 0xE0U) == 0xC0) {
-    length = 2, character = lead & 0x1FU, smallest = 0x80;
-  } else if ((lead & 0xF0U) == 0xE0) {
-    length = 3, character = lead & 0x0FU, smallest = 0x800;
-  } else if ((lead & 0xF8U) == 0xF0) {
-    length = 4, character = lead & 0x07U, smallest = 0x10000;
-  }
-  if (length == 0 || text.size() < length) {
-    return std::nullopt;
-  }
-  for (std::size_t i = 1; i < length; ++i) {
-    if ((byte(i) & 0xC0U) != 0x80) {
-      return std::nullopt;
-    }
-    character = (character << 6U) | (byte(i) & 0x3FU);
-  }
-  const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
-  if (character < smallest || character > 0x10FFFF || surrogate) {
-    return std::nullopt;
-  }
-  return DecodedCharacter{character, length};
 }
 
 std::string toWindows1252(std::string_view text) {

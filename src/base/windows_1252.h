@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,15 +11,6 @@ char32_t characterOfWindows1252(unsigned char code);
 
 /// The Windows-1252 code of a character; nothing when the set does not have it.
 std::optional<char> windows1252CodeOf(char32_t character);
-
-/// A character and the number of bytes that it takes up.
-struct DecodedCharacter {
-  char32_t character;
-  std::size_t length;
-};
-
-/// The character at the start of `text`, which is not empty; nothing when the bytes are no valid UTF-8 (RFC 3629).
-std::optional<DecodedCharacter> decodeUtf8(std::string_view text);
 
 /// The text's characters as codes of the Windows-1252 character set, one byte each. `text` is taken as UTF-8 when the
 /// whole of it is valid, a character outside Windows-1252 becoming "?"; otherwise its bytes are codes already.

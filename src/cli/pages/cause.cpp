@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "base/utf8.h"
+#include "base/text.h"
 #include "cli/pages/unified_diff.h"
 #include "cli/terminal/console.h"
 
@@ -15,7 +15,7 @@ constexpr std::size_t kBeforeDifference = 16;
 // What a line holds around its byte `at`: a page may be one line of many thousand characters.
 std::string excerpt(std::string_view line, std::size_t at) {
   std::size_t begin = at > kBeforeDifference ? at - kBeforeDifference : 0;
-  while (begin > 0 && begin < line.size() && (static_cast<unsigned char>(line[begin]) & 0xc0U) == 0x80U) {
+  while (begin > 0 && begin < line.size() && continuesCharacter(line[begin])) {
     --begin;  // not in the middle of a character
   }
   line.remove_prefix(std::min(begin, line.size()));

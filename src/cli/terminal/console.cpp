@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <iostream>
 
-#include "base/utf8.h"
+#include "base/text.h"
 
 namespace tarnwick {
 namespace {
@@ -45,21 +45,10 @@ std::string escapeOf(unsigned char byte) {
 }
 
 // The control characters, among them those above 0x7f that some terminals obey, and what reorders text.
-bool movesTheCursor(std::string_view character) {
-  const auto first = static_cast<unsigned char>(character.front());
-  if (character.size() == 1) {
-    return first < 0x20 || first == 0x7f;
-  }
-  const auto second = static_cast<unsigned char>(character[1]);
-  if (character.size() == 2) {
-    const bool arabicLetterMark = first == 0xd8 && second == 0x9c;  // U+061C
-    return (first == 0xc2 && second < 0xa0) || arabicLetterMark;
-  }
-  const auto third = static_cast<unsigned char>(character[2]);
-  // U+200E, U+200F, U+2028 to U+202E and U+2066 to U+2069
-  return character.size() == 3 && first == 0xe2 &&
-         ((second == 0x80 && (third == 0x8e || third == 0x8f || (third >= 0xa8 && third <= 0xae))) ||
-          (second == 0x81 && third >= 0xa6 && third <= 0xa9));
+bool movesTheCursor(char32_t character) {
+  const auto within = [&](char32_t from, char32_t to) { return character >= from && character <= to; };
+  return character < 0x20 || within(0x7f, 0x9f) || character == 0x61c || within(0x200e, 0x200f) ||
+         within(0x2028, 0x202e) || within(0x2066, 0x2069);
 }
 
 }  // namespace
@@ -144,7 +133,9 @@ void Console::writeOn() {
 
 std::size_t characterCount(std::string_view text) {
   std::size_t count = 0;
-  for (; !text.empty(); text.remove_prefix(utf8Length(text).value_or(1))) {
+  while (!text.empty()) {
+    const auto decoded = decodeUtf8(text);
+    text.remove_prefix(decoded ? decoded->length : 1);
     ++count;
   }
   return count;
@@ -155,17 +146,17 @@ std::string visibleText(std::string_view bytes, std::size_t longest) {
   std::size_t count = 0;
   std::size_t cutAt = 0;  // where the text is cut should it turn out to be too long
   while (!bytes.empty()) {
-    const auto length = utf8Length(bytes);
-    const std::string_view character = bytes.substr(0, length.value_or(1));
+    const auto decoded = decodeUtf8(bytes);
+    const std::string_view character = bytes.substr(0, decoded ? decoded->length : 1);
     std::string piece;
-    if (!length || movesTheCursor(character)) {
+    if (!decoded || movesTheCursor(decoded->character)) {
       for (const char byte : character) {
         piece += escapeOf(static_cast<unsigned char>(byte));
       }
     } else {
       piece = character;
     }
-    const std::size_t width = length && piece.size() == character.size() ? 1 : piece.size();
+    const std::size_t width = decoded && piece.size() == character.size() ? 1 : piece.size();
     if (count + width > longest) {
       return shown.substr(0, cutAt) + std::string(kCut.substr(0, longest));
     }

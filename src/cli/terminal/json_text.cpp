@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "base/base64.h"
-#include "base/utf8.h"
+#include "base/text.h"
 
 namespace tarnwick {
 

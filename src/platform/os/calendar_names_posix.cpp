@@ -1,30 +1,19 @@
 #include <array>
-#include <cstdint>
 #include <ctime>
 #include <cwchar>
 #include <string_view>
 
+#include "base/text.h"
 #include "platform/os/calendar_names.h"
 
 namespace tarnwick {
 namespace {
 
-/// UTF-8 of wide text that holds no surrogates: the names of days and months of all languages are in the first plane.
+/// UTF-8 of the characters of wide text, each of which is one of its own here.
 std::string utf8(std::wstring_view wide) {
   std::string bytes;
-  const auto put = [&bytes](std::uint32_t byte) { bytes += static_cast<char>(static_cast<unsigned char>(byte)); };
   for (const wchar_t character : wide) {
-    const auto code = static_cast<std::uint32_t>(character);
-    if (code < 0x80) {
-      put(code);
-    } else if (code < 0x800) {
-      put(0xC0 | (code >> 6));
-      put(0x80 | (code & 0x3F));
-    } else {
-      put(0xE0 | ((code >> 12) & 0x0F));
-      put(0x80 | ((code >> 6) & 0x3F));
-      put(0x80 | (code & 0x3F));
-    }
+    appendUtf8(bytes, static_cast<char32_t>(character));
   }
   return bytes;
 }

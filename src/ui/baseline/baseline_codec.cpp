@@ -1,5 +1,6 @@
 #include "ui/baseline/baseline_codec.h"
 
+#include "base/text.h"
 #include "base/windows_1252.h"
 
 namespace tarnwick {
@@ -53,42 +54,9 @@ Character characterAt(std::u16string_view text, std::size_t offset) {
   return {isHighSurrogate(first) || isLowSurrogate(first) ? kReplacement : first, 1};
 }
 
-void appendUtf8(std::string& bytes, char32_t character) {
-  const auto append = [&](char32_t byte) { bytes.push_back(static_cast<char>(static_cast<unsigned char>(byte))); };
-  if (character < 0x80) {
-    append(character);
-    return;
-  }
-  if (character < 0x800) {
-    append(0xC0U | (character >> 6U));
-  } else {
-    if (character < 0x10000) {
-      append(0xE0U | (character >> 12U));
-    } else {
-      append(0xF0U | (character >> 18U));
-      append(0x80U | ((character >> 12U) & 0x3FU));
-    }
-    append(0x80U | ((character >> 6U) & 0x3FU));
-  }
-  append(0x80U | (character & 0x3FU));
-}
-
 }  // namespace
 
-PageCharset charsetOf(std::string_view page) {
-  for (std::size_t offset = 0; offset < page.size();) {
-    if (static_cast<unsigned char>(page[offset]) < 0x80) {
-      ++offset;
-      continue;
-    }
-    const auto decoded = decodeUtf8(page.substr(offset));
-    if (!decoded) {
-      return PageCharset::windows1252;
-    }
-    offset += decoded->length;
-  }
-  return PageCharset::utf8;
-}
+PageCharset charsetOf(std::string_view page) { return isUtf8(page) ? PageCharset::utf8 : PageCharset::windows1252; }
 
 ShownUnit unitAt(std::string_view bytes, std::size_t offset, PageCharset charset) {
   const char byte = bytes[offset];

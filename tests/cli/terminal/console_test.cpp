@@ -4,8 +4,6 @@
 
 #include <sstream>
 
-#include "base/utf8.h"
-
 namespace tarnwick {
 namespace {
 
@@ -92,14 +90,6 @@ TEST(VisibleText, IsCutToItsLengthInCharacters) {
   EXPECT_EQ(visibleText("äöüäöüä", 6), "äöü...");
   EXPECT_EQ(visibleText("abcdef", 2), "..");
   EXPECT_EQ(visibleText("", 2), "");
-}
-
-TEST(Utf8, TellsWellFormedTextFromOtherBytes) {
-  EXPECT_TRUE(isUtf8("plain, ü, 日, 😀"));
-  for (const char* broken : {"\x80", "\xc3", "\xc0\xaf", "\xe0\x80\x80", "\xed\xa0\x80", "\xf5\x80\x80\x80",
-                             "\xf0\x80\x80\x80", "\xf4\x90\x80\x80", "\xe2\x82", "a\xff"}) {
-    EXPECT_FALSE(isUtf8(broken)) << visibleText(broken);
-  }
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "base/utf8.h"
+#include "base/text.h"
 #include "base/windows_1252.h"
 #include "engine/page_fetch.h"
 #include "platform/address.h"
@@ -15,9 +15,6 @@
 
 namespace tarnwick::testing {
 namespace {
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 std::string formDecoded(std::string_view encoded) {
   std::string bytes;
@@ -37,32 +34,6 @@ std::string formDecoded(std::string_view encoded) {
   return bytes;
 }
 
-/// The text as UTF-8 again, a question mark for one that the set does not have.
-std::string characterText(char32_t character) {
-  const auto part = [&](unsigned shift, char32_t mark) {
-    return static_cast<char>(static_cast<unsigned char>(mark | ((character >> shift) & 0x3FU)));
-  };
-  if (character < 0x80) {
-    return {static_cast<char>(character)};
-  }
-  if (character < 0x800) {
-    return {static_cast<char>(static_cast<unsigned char>(0xC0U | (character >> 6U))), part(0, 0x80)};
-  }
-  return {static_cast<char>(static_cast<unsigned char>(0xE0U | (character >> 12U))), part(6, 0x80), part(0, 0x80)};
-}
-
-std::string trimmed(const std::string& text) {
-  constexpr const char* kBlanks = " \t\r\n";
-  const auto first = text.find_first_not_of(kBlanks);
-  return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-std::string lowered(std::string text) {
-  std::ranges::transform(text, text.begin(),
-                         [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-  return text;
-}
-
 /// What the header fields of one answer say, judged by their texts and not by numbers.
 struct Fields {
   bool chunked = false;
@@ -72,7 +43,7 @@ struct Fields {
 
   void add(const std::string& line) {
     const std::size_t colon = line.find(':');
-    const std::string name = lowered(trimmed(line.substr(0, colon)));
+    const std::string name = lowerCase(std::string(trimmed(line.substr(0, colon))));
     chunked = chunked || name == "transfer-encoding";
     if (name != "content-length") {
       return;
@@ -80,7 +51,7 @@ struct Fields {
     std::string values = colon == std::string::npos ? "" : line.substr(colon + 1);
     while (true) {
       const std::size_t comma = values.find(',');
-      addLength(trimmed(values.substr(0, comma)));
+      addLength(std::string(trimmed(std::string_view(values).substr(0, comma))));
       if (comma == std::string::npos) {
         return;
       }
@@ -126,13 +97,13 @@ void fuzzUrlEncode(std::string_view input) {
   std::string back;
   std::string expected;
   for (const char code : codes) {
-    back += characterText(characterOfWindows1252(static_cast<unsigned char>(code)));
+    appendUtf8(back, characterOfWindows1252(static_cast<unsigned char>(code)));
   }
-  for (std::string_view rest = input; !rest.empty(); rest.remove_prefix(*utf8Length(rest))) {
-    const std::string character(rest.substr(0, *utf8Length(rest)));
+  for (std::string_view rest = input; !rest.empty();) {
     const std::optional<DecodedCharacter> decoded = decodeUtf8(rest);
-    require(decoded && decoded->length == character.size(), "two readers of UTF-8 disagree");
-    expected += windows1252CodeOf(decoded->character) ? character : "?";
+    require(decoded.has_value(), "a part of UTF-8 is none");
+    expected += windows1252CodeOf(decoded->character) ? rest.substr(0, decoded->length) : "?";
+    rest.remove_prefix(decoded->length);
   }
   require(back == expected, "the text does not come back");
 }
@@ -145,7 +116,7 @@ void fuzzAddress(std::string_view input) {
   const auto isUnfit = [](char c) { return static_cast<unsigned char>(c) <= 0x20 || c == 0x7F; };
   require(std::ranges::none_of(address->url, isUnfit), "a blank or control character stands in the address");
   require(std::ranges::none_of(address->host, isUnfit), "a blank or control character stands in the host");
-  require(!address->scheme.empty() && lowered(address->scheme) == address->scheme, "the scheme is not in lower case");
+  require(!address->scheme.empty() && lowerCase(address->scheme) == address->scheme, "the scheme is not in lower case");
   require(std::ranges::all_of(address->port, isDigit) && address->port.size() <= 5, "the port is no number");
   require(address->url.starts_with(address->scheme + "://") || address->scheme == "file", "another scheme is fetched");
   require(!isFetchedScheme(address->scheme) || !address->host.empty(), "nobody is asked for the page");

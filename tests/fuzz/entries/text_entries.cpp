@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "base/utf8.h"
+#include "base/text.h"
 #include "base/windows_1252.h"
 #include "cli/pages/unified_diff.h"
 #include "cli/terminal/console.h"
@@ -151,12 +151,13 @@ void fuzzUtf8(std::string_view input) {
   bool whole = true;
   std::size_t characters = 0;
   for (std::string_view rest = input; !rest.empty(); ++characters) {
-    const std::optional<std::size_t> length = utf8Length(rest);
     const std::optional<DecodedCharacter> decoded = decodeUtf8(rest);
-    require(length.has_value() == decoded.has_value(), "one takes for a character what the other does not");
-    require(!length || *length == decoded->length, "a character has two lengths");
-    whole = whole && length;
-    rest.remove_prefix(length.value_or(1));
+    const std::string_view bytes = rest.substr(0, decoded ? decoded->length : 1);
+    std::string again;
+    appendUtf8(again, decoded ? decoded->character : 0);
+    require(!decoded || again == bytes, "a character does not come back");
+    whole = whole && decoded.has_value();
+    rest.remove_prefix(bytes.size());
   }
   require(isUtf8(input) == whole, "a text is UTF-8 though a character of it is not");
   require(characterCount(input) == characters, "the characters are counted wrongly");
