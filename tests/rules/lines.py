@@ -1,0 +1,72 @@
+"""What no line of a source may say, and how many of them it may have."""
+
+from __future__ import annotations
+
+import re
+
+from rules.tree import Tree, room_of
+
+MOST_LINES = 500
+MOST_LINES_OF_A_FORM = 300
+
+SQL = re.compile(r'"\s*(select\s(?=[^"]*\sfrom\s|\s*")|update\s+\w+\s+set\s|insert\s+into\s|delete\s+from\s'
+                 r"|(create|alter|drop)\s+table\s|pragma\s+\w)", re.IGNORECASE)
+SLEEP = re.compile(r"\b(sleep_for|sleep_until|usleep|nanosleep|qSleep|msleep)\b|\b(?:QThread|std)?::sleep\s*\("
+                   r"|(?<![\w.>:])sleep\s*\(")
+REASON = re.compile(r"//\s*sleeps because \S")
+SYSTEM = re.compile(r"^\s*#\s*(if|ifdef|ifndef|elif).*\b(_WIN32|_WIN64|__linux__|__unix__|__APPLE__|Q_OS_\w+)\b")
+UNFINISHED = re.compile(r"\b(TODO|FIXME|XXX|HACK)\b")
+
+
+def front_ends_write_no_sql(tree: Tree):
+    for name, lines in tree.lines.items():
+        if not (room_of(name) or "").startswith(("ui/", "cli/")):
+            continue
+        for number, line in enumerate(lines, 1):
+            if SQL.search(line.split("//")[0]):
+                yield (name, number, "writes SQL: make it a procedure of src/store, which window and terminal share.")
+
+
+def files_are_short(tree: Tree):
+    for name, lines in tree.lines.items():
+        limit = MOST_LINES_OF_A_FORM if name.startswith("src/ui/") else MOST_LINES
+        if len(lines) > limit:
+            yield name, limit + 1, f"has {len(lines)} lines, {limit} are allowed here. Split it by idea, not by length."
+
+
+def tests_do_not_sleep(tree: Tree):
+    for name, lines in tree.lines.items():
+        if not name.startswith("tests/"):
+            continue
+        for number, line in enumerate(lines, 1):
+            if SLEEP.search(line.split("//")[0]) and not REASON.search(line):
+                yield (name, number, "sleeps: a sleep is either too short or too long. Wait on a condition with a "
+                       "limit (support/wait_until.h), or say why not at the end of the line: // sleeps because ...")
+
+
+def only_the_platform_knows_the_system(tree: Tree):
+    for name, lines in tree.lines.items():
+        if not name.startswith("src/") or (room_of(name) or "").startswith("platform"):
+            continue
+        for number, line in enumerate(lines, 1):
+            if SYSTEM.search(line):
+                yield (name, number, "asks which system this is: put what differs behind a function of src/platform, in a "
+                       "source that ends with _posix.cpp or _windows.cpp.")
+
+
+def nothing_is_unfinished(tree: Tree):
+    for name, lines in tree.lines.items():
+        for number, line in enumerate(lines, 1):
+            found = UNFINISHED.search(line)
+            if found:
+                yield name, number, f"says {found.group(1)}: finish it, or take it out and keep the note elsewhere."
+
+
+def headers_are_included_once(tree: Tree):
+    for name, lines in tree.lines.items():
+        if name.endswith(".h") and not any(line.strip() == "#pragma once" for line in lines):
+            yield name, 1, "has no include guard: begin it with #pragma once."
+
+
+RULES = (front_ends_write_no_sql, files_are_short, tests_do_not_sleep, only_the_platform_knows_the_system,
+         nothing_is_unfinished, headers_are_included_once)
