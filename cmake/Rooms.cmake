@@ -14,9 +14,10 @@ if(NOT TARNWICK_CORE_ONLY)
 endif()
 
 # tarnwick_room(<name> SOURCES ... [PUBLIC ...] [PRIVATE ...]): the library tarnwick_<name> of the folder that says so.
-# PUBLIC are the rooms whose headers its own headers include, PRIVATE what only its sources use.
+# PUBLIC are the rooms whose headers its own headers include, PRIVATE the libraries and what only its sources use:
+# neither less nor more, which tests/house_rules.py looks after.
 function(tarnwick_room name)
   cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
   add_library(tarnwick_${name} STATIC ${ARG_SOURCES})
-  target_link_libraries(tarnwick_${name} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+  target_link_libraries(tarnwick_${name} PUBLIC tarnwick_flags ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
 endfunction()
