@@ -38,10 +38,14 @@ class SqlValue {
   /// The value as a whole number, fractions cut; Null, and a text that is no number, is 0.
   std::int64_t toInt64() const;
 
+  using Held = std::variant<std::monostate, bool, std::int64_t, double, std::string>;
+  /// The value as it is held; the first of the kinds is Null.
+  const Held& held() const { return value_; }
+
   bool operator==(const SqlValue&) const = default;
 
  private:
-  std::variant<std::monostate, bool, std::int64_t, double, std::string> value_;
+  Held value_;
 };
 
 /// Narrows `value` to 16 bits; raises OverflowError naming `what` and the value when it does not fit.

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -45,6 +47,10 @@ class SqlConnection {
   /// Runs one statement; one without rows gives a recordset at end of file.
   virtual std::unique_ptr<Recordset> execute(std::string_view sql) = 0;
 
+  /// Runs one statement of SQLite's own SQL as it stands, without the dialect: `?1` in it is the first of `parameters`,
+  /// and so on; there are exactly as many. A yes/no is stored as 1 or 0, a text whatever bytes it holds.
+  virtual std::unique_ptr<Recordset> execute(std::string_view sql, std::span<const SqlValue> parameters) = 0;
+
   /// Begin and end a transaction that takes the write lock at once. They do not nest.
   virtual void begin() = 0;
   virtual void commit() = 0;
@@ -56,6 +62,16 @@ class SqlConnection {
   /// Stores something for good that changes no record: raises DataAccessError when nothing can be stored just now.
   /// REQUIRES: no transaction.
   virtual void proveWritable() = 0;
+
+  /// Which form the tables of the file have: a number of 32 bits that it carries (SQLite's `user_version`), 0 in one
+  /// that was never given any. Compaction keeps it. Setting it belongs to the transaction it is done in; raises
+  /// OverflowError for a number of more bits.
+  virtual std::int64_t formOfTables() = 0;
+  virtual void setFormOfTables(std::int64_t form) = 0;
+
+  /// Whether the file that is open can only be read, since its permissions or its disk allow no more. One that lies in
+  /// a folder without room for the log beside it is not known to be so until it is written to. False when closed.
+  virtual bool readOnly() const = 0;
 };
 
 /// A database file that no connection has open and that is kept so, by every program, for this object's life: it can

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,7 +15,8 @@ namespace tarnwick::testing {
 
 /// What a test sees of a database's statements, and where it can make one fail.
 struct SqlWatch {
-  /// Every statement so far, in order, with "begin", "commit" and "rollback" among them; of long ones the beginning.
+  /// Every statement so far, in order, with "begin", "commit", "rollback" and "set form of tables" among
+  /// them; of long ones the beginning.
   std::vector<std::string> statements;
   /// Called before each of them is carried out; what it throws is thrown in its place.
   std::function<void(std::string_view statement)> before;
@@ -59,6 +61,10 @@ class WatchedConnections final : public SqlConnectionMaker {
       note(sql);
       return real_->execute(sql);
     }
+    std::unique_ptr<Recordset> execute(std::string_view sql, std::span<const SqlValue> parameters) override {
+      note(sql);
+      return real_->execute(sql, parameters);
+    }
     void begin() override {
       note("begin");
       real_->begin();
@@ -76,6 +82,12 @@ class WatchedConnections final : public SqlConnectionMaker {
       note("prove writable");
       real_->proveWritable();
     }
+    std::int64_t formOfTables() override { return real_->formOfTables(); }
+    void setFormOfTables(std::int64_t form) override {
+      note("set form of tables");
+      real_->setFormOfTables(form);
+    }
+    bool readOnly() const override { return real_->readOnly(); }
 
    private:
     static constexpr std::size_t kLongestKept = 2000;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -71,6 +72,13 @@ class RecordedConnections final : public SqlConnectionMaker {
       transcript_.add("sql", "(prove writable)");
       told(transcript_, [&] { real_->proveWritable(); });
     }
+    // What serves the file's own form, and tables of the program's own, is no part of a day.
+    std::unique_ptr<Recordset> execute(std::string_view sql, std::span<const SqlValue> parameters) override {
+      return real_->execute(sql, parameters);
+    }
+    std::int64_t formOfTables() override { return real_->formOfTables(); }
+    void setFormOfTables(std::int64_t form) override { real_->setFormOfTables(form); }
+    bool readOnly() const override { return real_->readOnly(); }
 
    private:
     std::unique_ptr<SqlConnection> real_;

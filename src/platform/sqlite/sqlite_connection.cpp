@@ -1,5 +1,6 @@
 #include "platform/sqlite/sqlite_connection.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -89,6 +90,13 @@ class SqliteConnection final : public SqlConnection {
     return std::make_unique<NoRows>();
   }
 
+  std::unique_ptr<Recordset> execute(std::string_view sql, std::span<const SqlValue> parameters) override {
+    SqliteDatabase& database = opened(sql);
+    StatementLoan loan = database.prepare({std::string(sql), {}, !parameters.empty()}, sql);
+    database.bind(loan.get(), parameters, sql);
+    return records(database, std::move(loan), sql);
+  }
+
   void begin() override {
     static constexpr const char* kBegin = "BEGIN IMMEDIATE";
     opened(kBegin).run({kBegin, {}, true}, kBegin);
@@ -112,15 +120,23 @@ class SqliteConnection final : public SqlConnection {
   void proveWritable() override {
     begin();
     try {
-      // A number in the file's header that is the user's own; writing it, even as it is, goes to the disk.
-      const auto version = database_->rows("pragma user_version");
-      database_->run("pragma user_version = " + version.at(0).at(0));
+      // A number in the file's header; writing it, even as it is, goes to the disk.
+      setFormOfTables(formOfTables());
       commit();
     } catch (...) {
       rollback();
       throw;
     }
   }
+
+  std::int64_t formOfTables() override { return execute("pragma user_version", {})->field(0).toInt64(); }
+
+  void setFormOfTables(std::int64_t form) override {
+    const std::int32_t checked = SqlValue(form).toInt32("the form of the tables");
+    execute("pragma user_version = " + std::to_string(checked), {});
+  }
+
+  bool readOnly() const override { return database_ && sqlite3_db_readonly(database_->handle(), "main") == 1; }
 
   bool inTransaction() const override { return database_ && sqlite3_get_autocommit(database_->handle()) == 0; }
 
@@ -164,6 +180,10 @@ class SqliteConnection final : public SqlConnection {
     std::vector<std::string> room;
     StatementLoan loan = database.prepare(statement, sql);
     database.bind(loan.get(), statement, room, sql);
+    return records(database, std::move(loan), sql);
+  }
+
+  static std::unique_ptr<Recordset> records(SqliteDatabase& database, StatementLoan loan, std::string_view sql) {
     const bool onRow = database.step(loan.get(), sql);
     if (sqlite3_column_count(loan.get()) == 0) {
       return std::make_unique<NoRows>();

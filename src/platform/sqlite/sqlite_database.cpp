@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <type_traits>
 #include <utility>
+#include <variant>
 
 #include "base/errors.h"
 #include "platform/file_access.h"
@@ -23,6 +24,23 @@ constexpr std::size_t kStatementsKept = 64;
 constexpr const char* kUsualCache = "pragma cache_size = -2048";
 constexpr const char* kLargeCache = "pragma cache_size = -32768";
 constexpr std::size_t kLargeText = std::size_t{512} * 1024;
+
+int bindValue(sqlite3_stmt* prepared, int number, const SqlValue& value) {
+  return std::visit(
+      [&](const auto& held) {
+        using Held = std::decay_t<decltype(held)>;
+        if constexpr (std::is_same_v<Held, std::monostate>) {
+          return sqlite3_bind_null(prepared, number);
+        } else if constexpr (std::is_same_v<Held, double>) {
+          return sqlite3_bind_double(prepared, number, held);
+        } else if constexpr (std::is_same_v<Held, std::string>) {
+          return sqlite3_bind_text64(prepared, number, held.data(), held.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+        } else {
+          return sqlite3_bind_int64(prepared, number, held);
+        }
+      },
+      value.held());
+}
 
 /// Nothing for a file that is missing or cannot be looked at.
 std::optional<std::uint64_t> bytesIn(const std::string& path) {
@@ -211,6 +229,18 @@ void SqliteDatabase::bind(sqlite3_stmt* prepared, const PlainStatement& statemen
       result = bindText(number, room.emplace_back(dateTimeText(clock_.localNow())));
     }
     if (result != SQLITE_OK) {
+      fail(sql);
+    }
+  }
+}
+
+void SqliteDatabase::bind(sqlite3_stmt* prepared, std::span<const SqlValue> values, std::string_view sql) const {
+  if (static_cast<std::size_t>(sqlite3_bind_parameter_count(prepared)) != values.size()) {
+    throw sqliteError(SQLITE_RANGE, sqlite3_errstr(SQLITE_RANGE), path_, sql);
+  }
+  int number = 0;
+  for (const SqlValue& value : values) {
+    if (bindValue(prepared, ++number, value) != SQLITE_OK) {
       fail(sql);
     }
   }

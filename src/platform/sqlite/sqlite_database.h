@@ -5,11 +5,13 @@
 #include <list>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
+#include "base/sql_value.h"
 #include "platform/clock.h"
 #include "platform/sqlite/sql_dialect.h"
 #include "platform/sqlite/sqlite_file_watch.h"
@@ -68,6 +70,9 @@ class SqliteDatabase {
   /// statement does not copy must stay in place until it is given back: `room`, and the text the parameters refer to.
   void bind(sqlite3_stmt* prepared, const PlainStatement& statement, std::vector<std::string>& room,
             std::string_view sql) const;
+
+  /// The same with values in the statement's order, as many as it has places for.
+  void bind(sqlite3_stmt* prepared, std::span<const SqlValue> values, std::string_view sql) const;
 
   /// Goes to the next row; false at the end.
   bool step(sqlite3_stmt* prepared, std::string_view sql) const;

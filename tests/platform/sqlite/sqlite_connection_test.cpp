@@ -97,6 +97,7 @@ TEST_F(SqliteConnectionTest, OpensAndClosesAgain) {
     conn->open(OpenDatabase::connStringFor(folder_.databasePath()));
     EXPECT_THROW(conn->open(OpenDatabase::connStringFor(folder_.databasePath())), DataAccessError);
     EXPECT_TRUE(conn->isOpen());
+    EXPECT_FALSE(conn->readOnly());
     conn->close();
     conn->close();
   }

@@ -208,6 +208,8 @@ TEST_F(SqliteFaults, AReadOnlyFileIsReadAndSaysSoWhenItIsToBeChanged) {
   }
   const auto conn = databases_.makeSqlConnection();
   conn->open(OpenDatabase::connStringFor(folder_.databasePath()));
+  EXPECT_TRUE(conn->readOnly());
+  EXPECT_NO_THROW(conn->formOfTables());
   EXPECT_EQ(conn->execute("select url from sites")->field(0).toText(), "u");
   const std::string fault = causeOf([&] { conn->execute("delete from sites"); });
   EXPECT_TRUE(contains(fault, "is read-only")) << fault;
