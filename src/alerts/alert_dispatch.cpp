@@ -8,6 +8,7 @@
 #include "base/command_line.h"
 #include "base/errors.h"
 #include "base/product.h"
+#include "base/text.h"
 #include "mail/smtp.h"
 #include "platform/file_access.h"
 #include "store/sql_quote.h"
@@ -20,14 +21,6 @@ constexpr const char* kSubject = "A WEB SITE ERROR HAS OCCURED - message from ta
 constexpr const char* kTemplateFile = "email.txt";
 /// The site id of a test alert.
 constexpr const char* kSampleSite = "27";
-
-std::string trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) {
-    return {};
-  }
-  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
-}
 
 bool isFile(const std::string& path) { return path.find('\0') == std::string::npos && kindOf(path) == FileKind::file; }
 
@@ -77,7 +70,7 @@ void AlertDispatch::sendAlerts(std::int16_t idSite) {
 
 void AlertDispatch::testShellExecuteAlert(const std::string& command) {
   const AlertFacts facts = factsOf(kProductHomePage, kSampleSite, settings_.getControl("email").toText());
-  shellProgram(fillCommand(trimmed(command), facts, services_.clock));
+  shellProgram(fillCommand(std::string(trimmed(command, " ")), facts, services_.clock));
 }
 
 long AlertDispatch::playWave(const std::string& fileName) { return services_.sound.play(fileName); }
@@ -108,7 +101,7 @@ void AlertDispatch::sendMail(const AlertFacts& facts, const std::string& server,
 }
 
 void AlertDispatch::shellProgram(const std::string& command) {
-  const std::string line = trimmed(command);
+  const std::string line(trimmed(command, " "));
   std::vector<std::string> arguments = splitCommandLine(line);
   // A path chosen in the settings dialog stands there as it is, and folders with blanks in their names are common.
   if (arguments.size() > 1 && isFile(line)) {

@@ -1,5 +1,6 @@
 #include "engine/page_fetch.h"
 
+#include "base/text.h"
 #include "base/windows_1252.h"
 #include "engine/single_control.h"
 #include "store/database.h"
@@ -7,22 +8,6 @@
 #include "store/sql_quote.h"
 
 namespace tarnwick {
-namespace {
-
-bool standsForItself(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); }
-
-std::string upperCase(std::string_view text) {
-  std::string upper(text);
-  for (char& c : upper) {
-    if (c >= 'a' && c <= 'z') {
-      c = static_cast<char>(c - 'a' + 'A');
-    }
-  }
-  return upper;
-}
-
-}  // namespace
-
 PageFetch::PageFetch(Database& database, SettingsAndLog& settings, SingleControl& single, EventPump& pump)
     : database_(database), settings_(settings), single_(single), pump_(pump) {}
 
@@ -30,7 +15,7 @@ std::string PageFetch::urlEncode(std::string_view text) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   std::string encoded;
   for (const char c : toWindows1252(text)) {
-    if (standsForItself(c)) {
+    if (isLetter(c) || isDigit(c)) {
       encoded.push_back(c);
     } else {
       const auto code = static_cast<unsigned char>(c);
@@ -55,7 +40,7 @@ std::string PageFetch::getPostVarsAsString(std::int16_t idSite) {
 }
 
 PageRequest PageFetch::requestFor(std::int16_t idSite, std::string_view method) {
-  PageRequest request{upperCase(method), {}, {}};
+  PageRequest request{upperCase(std::string(method)), {}, {}};
   if (request.method == "POST") {
     request.headers = kPostHeader;
     request.body = getPostVarsAsString(idSite);

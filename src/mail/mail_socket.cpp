@@ -7,6 +7,8 @@
 #include <optional>
 #include <string_view>
 
+#include "base/text.h"
+
 namespace tarnwick {
 namespace {
 
@@ -31,14 +33,9 @@ bool isLarge(std::string_view number) {
 /// The number that `text` is as a whole, in the forms in which people type numbers (250, +250, 2.5e2), rounded to a
 /// whole one, a half to the even neighbour; blanks and line ends around it do not count.
 std::optional<double> typedNumber(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r\n";
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) {
-    return std::nullopt;
-  }
-  text = text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-  const bool negative = text.front() == '-';
-  if (negative || text.front() == '+') {
+  text = trimmed(text);
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) {
     text.remove_prefix(1);
   }
   // Keeps out what only a machine calls a number: a second sign, "inf", "nan".

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <stdexcept>
 
+#include "base/text.h"
+
 namespace tarnwick {
 namespace {
 
@@ -13,11 +15,6 @@ std::string inWords(const std::vector<std::string>& choices) {
     words += (words.empty() ? "\"" : " or \"") + choice + "\"";
   }
   return words;
-}
-
-bool isSameWord(std::string_view one, std::string_view other) {
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-  return std::ranges::equal(one, other, {}, lower, lower);
 }
 
 const std::vector<std::string>& words(const OptionField& option) {
@@ -54,7 +51,7 @@ std::string OptionField::checked(std::string_view value) const {
     }
   } else {
     const auto word =
-        std::ranges::find_if(words(*this), [&](const std::string& known) { return isSameWord(known, value); });
+        std::ranges::find_if(words(*this), [&](const std::string& known) { return equalsIgnoringCase(known, value); });
     if (word != words(*this).end()) {
       return *word;
     }

@@ -4,17 +4,12 @@
 #include <array>
 #include <string_view>
 
+#include "base/text.h"
 #include "platform/transfer_control.h"
 #include "store/first_field.h"
 
 namespace tarnwick {
 namespace {
-
-std::string lowerCase(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  return text;
-}
 
 /// Yes/no settings go into the statement bare, all others quoted; the database makes a number of a quoted number.
 std::string_view delimiterOf(const std::string& key) {

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "base/errors.h"
+#include "base/text.h"
 #include "store/first_field.h"
 #include "store/site_table.h"
 #include "store/sql_quote.h"
@@ -27,8 +28,7 @@ std::int16_t newSiteId(const SqlValue& mid) {
 }
 
 bool mayStandInAddress(char c) {
-  return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ||
-         std::string_view("_.@-").find(c) != std::string_view::npos;
+  return isLetter(c) || isDigit(c) || std::string_view("_.@-").find(c) != std::string_view::npos;
 }
 
 }  // namespace

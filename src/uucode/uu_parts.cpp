@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <tuple>
 
+#include "base/text.h"
 #include "uucode/uu_record.h"
 
 namespace tarnwick {
@@ -11,8 +12,6 @@ namespace {
 
 constexpr int kNameLength = 8;
 constexpr std::uint64_t kMostParts = 9999;
-
-bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
 
 /// The first `count` characters of a UTF-8 text.
 std::string firstCharacters(const std::string& text, int count) {
@@ -48,9 +47,8 @@ std::pair<char, char> lowerLetter(char lead, char next) {
 
 std::string uuLowerCase(std::string text) {
   for (std::size_t at = 0; at < text.size(); ++at) {
-    if (text[at] >= 'A' && text[at] <= 'Z') {
-      text[at] = static_cast<char>(text[at] - 'A' + 'a');
-    } else if (at + 1 < text.size() && !continuesCharacter(text[at])) {
+    text[at] = lowerCase(text[at]);
+    if (at + 1 < text.size() && !continuesCharacter(text[at])) {
       std::tie(text[at], text[at + 1]) = lowerLetter(text[at], text[at + 1]);
     }
   }

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include "base/text.h"
 #include "base/windows_command_line.h"
 #include "platform/file_access.h"
 #include "platform/os/windows_text.h"
@@ -23,12 +24,7 @@ constexpr DWORD kElevationRequired = 740;
 constexpr std::array<std::string_view, 6> kScriptEndings = {".vbs", ".vbe", ".js", ".jse", ".wsf", ".wsh"};
 constexpr std::array<std::string_view, 8> kTriedEndings = {"", ".com", ".exe", ".bat", ".cmd", ".vbs", ".js", ".wsf"};
 
-std::string endingOf(const std::string& path) {
-  std::string ending = textOf(pathOf(path).extension());
-  std::transform(ending.begin(), ending.end(), ending.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  return ending;
-}
+std::string endingOf(const std::string& path) { return lowerCase(textOf(pathOf(path).extension())); }
 
 std::string programFolder() { return QDir::toNativeSeparators(QCoreApplication::applicationDirPath()).toStdString(); }
 

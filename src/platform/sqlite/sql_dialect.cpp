@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "base/errors.h"
+#include "base/text.h"
 #include "platform/sqlite/shown_statement.h"
 #include "platform/sqlite/sql_rows_translator.h"
 
@@ -206,9 +207,7 @@ SqlCommand translateSql(std::string_view sql) {
 
 std::optional<std::string_view> assignedText(std::string_view sql, std::string_view column) {
   const Tokens tokens = sqlTokens(sql);
-  std::string wanted(column);
-  std::transform(wanted.begin(), wanted.end(), wanted.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  const std::string wanted = lowerCase(std::string(column));
   for (std::size_t i = 0; i + 2 < tokens.size(); ++i) {
     if (tokens[i].isWord(wanted) && tokens[i + 1].isSymbol("=") && tokens[i + 2].kind == SqlTokenKind::text) {
       return tokens[i + 2].source;

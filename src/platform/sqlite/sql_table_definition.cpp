@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/text.h"
 #include "platform/sqlite/sql_dialect.h"
 #include "platform/sqlite/sql_tokens.h"
 
@@ -10,8 +11,6 @@ namespace tarnwick {
 namespace {
 
 using Tokens = std::vector<SqlToken>;
-
-char lowered(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
 
 /// The pieces as they stand in their statement, with the blanks between them.
 std::string verbatim(Tokens::const_iterator begin, Tokens::const_iterator end) {
@@ -85,9 +84,6 @@ TableDefinition parseTableDefinition(std::string_view createStatement) {
   return definition;
 }
 
-bool sameName(std::string_view one, std::string_view other) {
-  return std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                    [](char a, char b) { return lowered(a) == lowered(b); });
-}
+bool sameName(std::string_view one, std::string_view other) { return equalsIgnoringCase(one, other); }
 
 }  // namespace tarnwick

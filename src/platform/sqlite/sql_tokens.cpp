@@ -5,17 +5,15 @@
 #include <charconv>
 
 #include "base/errors.h"
+#include "base/text.h"
 #include "platform/sqlite/shown_statement.h"
 
 namespace tarnwick {
 namespace {
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f'; }
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 bool isWordStart(char c) { return isLetter(c) || c == '_' || static_cast<unsigned char>(c) >= 0x80; }
 bool isWordPart(char c) { return isWordStart(c) || isDigit(c) || c == '$'; }
-char lowered(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
 
 class Scanner {
  public:
@@ -114,7 +112,7 @@ class Scanner {
       ++end;
       digits();
     }
-    if (end < sql_.size() && lowered(sql_[end]) == 'e') {
+    if (end < sql_.size() && lowerCase(sql_[end]) == 'e') {
       std::size_t exponent = end + 1;
       if (exponent < sql_.size() && (sql_[exponent] == '+' || sql_[exponent] == '-')) {
         ++exponent;
@@ -168,8 +166,7 @@ std::string withSingleQuotes(std::string_view quoted, char quote) {
 }  // namespace
 
 bool SqlToken::isWord(std::string_view lower) const {
-  return kind == SqlTokenKind::word && std::equal(source.begin(), source.end(), lower.begin(), lower.end(),
-                                                  [](char mine, char theirs) { return lowered(mine) == theirs; });
+  return kind == SqlTokenKind::word && equalsIgnoringCase(source, lower);
 }
 
 std::vector<SqlToken> sqlTokens(std::string_view sql) { return Scanner(sql).tokens(); }

@@ -7,6 +7,8 @@
 #include <memory>
 #include <string_view>
 
+#include "base/text.h"
+
 namespace tarnwick {
 namespace {
 
@@ -24,17 +26,11 @@ std::string part(CURLU* url, CURLUPart which, unsigned flags = 0) {
   return text;
 }
 
-std::string_view trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r\n";
-  const auto first = text.find_first_not_of(kBlanks);
-  return first == std::string_view::npos ? std::string_view()
-                                         : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
 bool hasScheme(std::string_view text) {
-  constexpr std::string_view kSchemeCharacters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+-.";
   const auto end = text.find("://");
-  return end != std::string_view::npos && end > 0 && text.find_first_not_of(kSchemeCharacters) == end;
+  return end != std::string_view::npos && end > 0 && std::ranges::all_of(text.substr(0, end), [](char c) {
+           return isLetter(c) || isDigit(c) || c == '+' || c == '-' || c == '.';
+         });
 }
 
 std::string completed(std::string_view text) {

@@ -1,10 +1,11 @@
 #include "platform/web/answer_head.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <cstdint>
 #include <limits>
+
+#include "base/text.h"
 
 namespace tarnwick {
 namespace {
@@ -12,19 +13,6 @@ namespace {
 constexpr int kSwitchingProtocols = 101;
 // What libcurl counts to. It passes over a longer length as if there were none.
 constexpr std::size_t kLongestLength = std::numeric_limits<std::int64_t>::max();
-constexpr std::string_view kBlanks = " \t\r\n";
-
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(kBlanks);
-  return first == std::string_view::npos ? std::string_view()
-                                         : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-bool sameName(std::string_view name, std::string_view lowerCase) {
-  return std::ranges::equal(name, lowerCase, [](char a, char b) {
-    return static_cast<char>(std::tolower(static_cast<unsigned char>(a))) == b;
-  });
-}
 
 }  // namespace
 
@@ -45,9 +33,9 @@ HeadFault AnswerHead::add(std::string_view line) {
   }
   const auto colon = std::min(line.find(':'), line.size());
   const std::string_view name = trimmed(line.substr(0, colon));
-  if (sameName(name, "content-length")) {
+  if (equalsIgnoringCase(name, "content-length")) {
     addLengths(line.substr(std::min(colon + 1, line.size())));
-  } else if (sameName(name, "transfer-encoding")) {
+  } else if (equalsIgnoringCase(name, "transfer-encoding")) {
     chunked_ = true;
   }
   return HeadFault::none;

@@ -1,9 +1,9 @@
 #include "platform/web/curl_request.h"
 
 #include <algorithm>
-#include <cctype>
 #include <string_view>
 
+#include "base/text.h"
 #include "platform/os/socket_inheritance.h"
 #include "platform/web/socket_errors.h"
 
@@ -197,7 +197,7 @@ bool CurlRequest::waitsInside() const { return loop_.timeInside() >= kLongestWai
 bool CurlRequest::overFtp() const {
   const char* scheme = nullptr;
   curl_easy_getinfo(easy_.get(), CURLINFO_SCHEME, &scheme);
-  return scheme != nullptr && std::tolower(static_cast<unsigned char>(scheme[0])) == 'f';
+  return scheme != nullptr && lowerCase(scheme[0]) == 'f';
 }
 
 CURLcode CurlRequest::judged(CURLcode result) const {

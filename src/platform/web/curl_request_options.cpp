@@ -2,6 +2,7 @@
 #include <climits>
 #include <string_view>
 
+#include "base/text.h"
 #include "platform/address.h"
 #include "platform/web/curl_request.h"
 
@@ -17,8 +18,7 @@ constexpr std::chrono::seconds kLongestWait{INT_MAX / 1000};
 bool isToken(std::string_view text) {
   constexpr std::string_view kMarks = "!#$%&'*+-.^_`|~";
   return !text.empty() && std::ranges::all_of(text, [&](char c) {
-    const bool plain = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-    return plain || kMarks.find(c) != std::string_view::npos;
+    return isLetter(c) || isDigit(c) || kMarks.find(c) != std::string_view::npos;
   });
 }
 
