@@ -72,8 +72,8 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# To verify https pages; to open pages and reports.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "ca-certificates, xdg-utils")
+# To verify https pages; to open pages and reports; to play the alert sound.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "ca-certificates, xdg-utils, pipewire-bin | pulseaudio-utils | alsa-utils")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland, qt6-translations-l10n")
 file(READ ${packaging}/debian/description CPACK_DEBIAN_PACKAGE_DESCRIPTION)
 

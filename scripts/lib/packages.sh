@@ -5,14 +5,14 @@
 # python3-markdown-it the pages of the help, and qt6-l10n-tools the translations.
 build_packages=(
   g++ cmake ninja-build ccache
-  qt6-base-dev qt6-multimedia-dev qt6-l10n-tools libgl1-mesa-dev
+  qt6-base-dev qt6-l10n-tools libgl1-mesa-dev
   libcurl4-openssl-dev libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev
   python3 python3-markdown-it
 )
 
-# The certificates that https addresses are verified with, a font for the window, and the desktop's opener for pages and
-# reports. Qt's own plug-ins come with its libraries.
-run_packages=(ca-certificates fonts-dejavu-core xdg-utils)
+# The certificates that https addresses are verified with, a font for the window, the desktop's opener for pages and
+# reports, and a player for the alert sound. Qt's own plug-ins come with its libraries.
+run_packages=(ca-certificates fonts-dejavu-core xdg-utils pulseaudio-utils)
 
 # The test libraries, the mail server of the tests, the system's certificates and what makes the tests' own, a display
 # to start the program on, a sound server that records what is played, and other people's encoders.

@@ -7,7 +7,7 @@
 #include "platform/process/detached_programs.h"
 #include "platform/process/file_run_lock.h"
 #include "platform/process/unwanted_signals.h"
-#include "platform/sound/terminal_sound.h"
+#include "platform/sound/sound_player.h"
 #include "platform/sqlite/sqlite_connection.h"
 #include "platform/web/curl_transfers.h"
 
@@ -42,7 +42,7 @@ struct HeadlessPlatform::Machine {
   QtTcpSockets sockets;
   StandardErrorPrompts prompts;
   DetachedPrograms programs;
-  std::unique_ptr<SoundPlayer> sound = makeTerminalSound(programs);
+  std::unique_ptr<SoundPlayer> sound = makeSoundPlayer(programs);
   NoOpener opener;
   FileRunLocks runLocks;
 };

@@ -6,9 +6,8 @@
 
 namespace tarnwick {
 
-/// The real machine without a desktop: clock, event loop, database, network and programs are real; boxes are written to
-/// standard error and answered No, sounds are played by another program, and nothing can be opened. A QCoreApplication
-/// must exist.
+/// The real machine without a desktop: clock, event loop, database, network, sounds and programs are real; boxes are
+/// written to standard error and answered No, and nothing can be opened. A QCoreApplication must exist.
 class HeadlessPlatform {
  public:
   HeadlessPlatform();

@@ -10,8 +10,8 @@ class SoundPlayer {
  public:
   virtual ~SoundPlayer() = default;
 
-  /// Starts to play a .wav file and returns at once. 1 when playing was started, 0 when the file is missing or cannot
-  /// be read as sound, or the machine has no sound device; nothing is shown then.
+  /// Starts to play a .wav file and returns at once. 1 when playing was started, 0 when the file is missing or is no
+  /// sound, or the machine has nothing to play it with; nothing is shown then.
   virtual long play(const std::string& fileName) = 0;
 };
 

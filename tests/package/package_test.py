@@ -200,8 +200,10 @@ def debian_package_lies_in_the_systems_places(case: Case) -> None:
                 if re.match(r"[-d].{4}w|[-d].{7}w", line) or " root/root " not in line]
     expect(not writable, "others can write or own:\n" + "\n".join(writable))
     depends = run("dpkg-deb", "--field", package, "Depends")
-    for library in ("libqt6widgets6", "libqt6multimedia6", "libcurl4", "libsqlite3-0"):
+    for library in ("libqt6widgets6", "libcurl4", "libsqlite3-0"):
         expect(library in depends, f"the package does not depend on {library}: {depends}")
+    recommends = run("dpkg-deb", "--field", package, "Recommends")
+    expect("pipewire-bin | pulseaudio-utils | alsa-utils" in recommends, f"nothing plays the alert sound: {recommends}")
     sizes = {size: (usr / f"share/icons/hicolor/{size}x{size}/apps/tarnwick.png").read_bytes()[16:24]
              for size in ICON_SIZES}
     wrong = [size for size, found in sizes.items() if found != size.to_bytes(4, "big") * 2]

@@ -16,7 +16,6 @@ LIBRARY_TARGETS = (
     ("CLI11::CLI11", r"CLI/.*", ()),
     ("nlohmann_json::nlohmann_json", r"nlohmann/.*", ()),
     ("Qt6::Network", r"Q(Tcp|Host|Network|Ssl|LocalS|AbstractSocket)\w*", ("Qt6::Core",)),
-    ("Qt6::Multimedia", r"Q(Audio|Media|Sound)\w*", ("Qt6::Core", "Qt6::Gui", "Qt6::Network")),
     ("Qt6::Widgets", r"Q(Application|StylePainter|\w*(Widget|Dialog|Layout|Button|Edit|Box|TableView|HeaderView|Bar|Label"
                      r"|Menu|Style|StyleOption\w*|Delegate|MainWindow|ToolTip))", ("Qt6::Core", "Qt6::Gui")),
     ("Qt6::Core", r"Q[A-Z]\w*", ()),

@@ -49,7 +49,6 @@ LIBRARIES = {
     "platform/web": rf"curl/.*|{QT}",
     "platform/events": QT,
     "platform/process": QT,
-    "platform/sound": QT,
     "platform/desktop": QT,
     "cli/terminal": r"nlohmann/.*",
     "cli/list": r"nlohmann/.*",

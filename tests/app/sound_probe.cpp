@@ -4,14 +4,14 @@
 #include <QCoreApplication>
 #include <QTimer>
 
-#include "platform/sound/qt_sound_player.h"
+#include "app/headless_platform.h"
 
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
-  tarnwick::QtSoundPlayer player;
+  tarnwick::HeadlessPlatform machine;
   const QStringList arguments = QCoreApplication::arguments();
   for (qsizetype i = 1; i + 1 < arguments.size(); i += 2) {
-    std::cout << player.play(arguments[i].toStdString()) << std::endl;
+    std::cout << machine.services().sound.play(arguments[i].toStdString()) << std::endl;
     QTimer::singleShot(arguments[i + 1].toInt(), &application, &QCoreApplication::quit);
     QCoreApplication::exec();
   }
