@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""What keeps the documentation true: every message is explained, every link leads somewhere, every picture is there.
+"""What keeps the documentation true: every message is explained, every link leads somewhere, every picture is there, and
+what the developers' texts name is in the sources.
 
     docs_test.py FOLDER        checks the repository in FOLDER; exit status 1 with a line for each finding
     docs_test.py --self-test   checks the checks themselves on small trees
@@ -17,6 +18,10 @@ import re
 import sys
 import tempfile
 from pathlib import Path
+
+sys.dont_write_bytecode = True  # nothing is left among the sources
+
+from rules import names, picture  # noqa: E402
 
 MESSAGES = "docs/guide/troubleshooting.md"
 
@@ -209,7 +214,8 @@ def no_exception_is_stale(root: Path):
                        "out of NO_MESSAGES.")
 
 
-CHECKS = (every_message_is_explained, every_link_leads_somewhere, every_picture_is_used)
+CHECKS = (every_message_is_explained, every_link_leads_somewhere, every_picture_is_used, *names.CHECKS,
+          picture.the_picture_is_that_of_the_table)
 
 
 def findings(root: Path, checks=CHECKS) -> list[str]:
@@ -229,6 +235,12 @@ def findings_of(files: dict[str, str]) -> list[str]:
 
 def self_test() -> int:
     explained = {MESSAGES: "| \"The list ... is `empty`\nnow.\" | | |\n"}
+    # One function that is called, and one whose name another class has as well.
+    steps = {
+        "src/engine/run.h": "class Run {\n  void begin();\n  void recordResult();\n};\nenum class Kind { first };\n",
+        "src/engine/run.cpp": "void Run::begin() {\n}\n\nvoid Run::recordResult() {\n}\n",
+        "src/engine/pass.cpp": "void guardRun(Run& run) {\n  run.begin();\n}\n\nvoid Pass::record() {\n  recordResult();\n}\n",
+    }
     # Each tree, and a piece of the only finding that it must give; None for a tree without any.
     trees = {
         "an explained message": (None, {"src/a.cpp": 'f("The list " + x +\n  " is empty "\n  "now.");', **explained}),
@@ -248,6 +260,22 @@ def self_test() -> int:
         "an example in code": (None, {"README.md": "```\n[a](docs/away.md)\n# No heading\n```\n"}),
         "a picture that is not there": ("links to x.png", {"docs/index.md": "![x](x.png)\n"}),
         "a picture that is not shown": ("is shown by no text", {"docs/images/x.png": "x"}),
+        "a picture of other rooms": ("docs/images/house.svg:1: shows other rooms than there are", {
+            "docs/images/house.svg": "<svg/>\n", "README.md": "![rooms](docs/images/house.svg)\n"}),
+        "names of the sources": (None, {**steps, "docs/developer.md":
+            "`Run::begin`, `Run::begin()`, `engine/run.cpp`, `src/engine/run.h`, `run.*`, `engine/<name>.h`, `guardRun`, "
+            "`std::string`, `build/release/x.cpp`, `plain words`, `Kind::first`\n| 1 | `engine/run.cpp` `begin` | it |\n"}),
+        "a file that is not there": ("docs/developer.md:2: names `engine/away.cpp`: no such file", {
+            **steps, "docs/developer.md": "\n`engine/away.cpp`\n"}),
+        "a member that nobody has": ("names `Run::fill`: no such member", {**steps, "CONTRIBUTING.md": "`Run::fill`\n"}),
+        "a value that is not of that kind": ("names `Kind::second`", {**steps, "README.md": "`Kind::second`\n"}),
+        "a procedure that nobody has": ("names `countDown`: no such name", {
+            **steps, "docs/developer/recipes.md": "`countDown`\n"}),
+        "a function that nobody has": ("names `count()`: no such function", {**steps, "docs/developer.md": "`count()`\n"}),
+        "a step that nobody takes": ("names `Run::recordResult` as a step, and nobody calls it", {
+            **steps, "docs/developer.md": "| 1 | `engine/run.cpp` `Run::recordResult` | it |\n"}),
+        "a step in another source": ("`guardRun` as a step in src/engine/run.cpp, which does not have it", {
+            **steps, "docs/developer.md": "| 1 | `engine/run.cpp` `guardRun` | it |\n"}),
     }
     failures = 0
     for title, (expected, files) in trees.items():
