@@ -33,7 +33,8 @@ ESCAPE = {"n": "\n", "r": "\r", "t": "\t", '"': '"', "\\": "\\"}
 HELP_CALLS = {"add_option", "add_flag", "add_subcommand", "description", "footer", "examples", "addText",
               "addUpkeepVerb", "addSiteId", "addJsonFlag"}
 RESULT_CALLS = {"say", "told", "tell", "line"}
-LABEL_CALLS = {"addButton", "setToolTip", "setAccessibleName", "setWindowTitle", "named", "setTitle"}
+LABEL_CALLS = {"original", "label", "meaning", "choices",  # of an option
+               "addButton", "setToolTip", "setAccessibleName", "setWindowTitle", "named", "setTitle"}
 STATEMENT_CALLS = {"joinSql", "query", "execute", "rows", "sqlite3_exec", "firstText", "firstFlag", "firstField"}
 OTHER_CALLS = HELP_CALLS | RESULT_CALLS | LABEL_CALLS | STATEMENT_CALLS
 STATEMENT = re.compile(r"^[\s)']*(select|update|insert|delete|drop|alter|create|from|where|order by|and|begin|rollback|"
@@ -71,6 +72,8 @@ NO_MESSAGES = {
                                              "Failed to connect to")),
     "src/base/windows_command_line.cpp": ("arguments", ("/d /e:on",)),
     "src/report/*.cpp": ("pieces of the page", ("<img",)),
+    "src/store/fields.cpp": ("what the fields are called, for forms and helps", ()),
+    "src/store/option_table.cpp": ("the values that an option takes", ("a whole number from",)),
     "src/store/database.cpp": ("a connection string", (";Jet",)),
     "src/store/result_log.cpp": ("the columns of a statement", ("rowid as",)),
 }
@@ -96,13 +99,14 @@ class Source:
                 pending = (pending[0], pending[1] + piece) if pending else (line, piece)
                 continue
             if pending:
-                self.texts.append((*pending, list(calls)))
+                self.texts.append((*pending, [name, *calls]))
                 pending = None
             if token in "([{":
                 calls.append(name if token != "[" else "")
             elif token in ")]}" and calls:
                 calls.pop()
-            name = token if re.match(r"\w", token) else ""
+            if token != "=":  # a member keeps its name for what it is given
+                name = token if re.match(r"\w", token) else ""
 
 
 def words_in(text: str) -> int:
@@ -253,6 +257,8 @@ def self_test() -> int:
         "statements, help and results": (None, {
             "src/a.cpp": 'db.execute("update sites set url = 1");\nverb->add_option("X", x, "The name of a thing");\n'
                          'console.say("All is well now.");\n// "not a text at all"\n#include "a b c"\n'}),
+        "an option's description, and a member that is none": ('says "The list is full now."', {
+            "src/a.cpp": '{.label = "The name of it", .choices = {"the one or", "the other one"}, .text = "The list is full now."}'}),
         "a file that is excepted": (None, {"src/uucode/uu_code.cpp": 'f("No line begins here.");'}),
         "a link to a file": (None, {"README.md": "[a](docs/index.md#docs) [b](https://example.org/x) `[c](d)`\n"}),
         "a dead link": ("README.md:2: links to docs/away.md", {"README.md": "\n[a](docs/away.md)\n"}),
