@@ -12,7 +12,8 @@ source scripts/lib/help.sh
 help_if_asked "$@"
 rooms=("$@")
 if ((${#rooms[@]} == 0)); then
-  rooms=(store alerts report engine program platform)
+  rooms=(base platform_os platform_sqlite platform_web platform_events platform_process store uucode mail alerts report
+    engine program machine)
 fi
 
 need_packages "${build_packages[@]}" "${test_packages[@]}" valgrind
@@ -28,7 +29,8 @@ status=0
 for room in "${rooms[@]}"; do
   from=$SECONDS result=0
   log=$PWD/build/release/valgrind-$room.txt
-  (cd "build/release/tests/$room" &&
+  program=$(find build/release/tests -name "test_$room" -type f)
+  (cd "$(dirname "$program")" &&
     valgrind --quiet --error-exitcode=99 --leak-check=full --errors-for-leak-kinds=definite \
       --suppressions="$suppressions" \
       --child-silent-after-fork=yes --log-file="$log" \

@@ -203,7 +203,7 @@ run_under_wine() {
   echo "Setting up Wine ..."
   # What Wine leaves running in the background would hold a pipe open, so all of its output goes into files.
   wineboot --init >"$1/wine-logs/wineboot.log" 2>&1 </dev/null || true
-  for program in "$1"/tests/*/test_*.exe; do
+  while IFS= read -r program; do
     name=$(basename "$program" .exe)
     log=$PWD/$1/wine-logs/$name.log
     filter=$(skipped_under_wine "$name")
@@ -215,7 +215,7 @@ run_under_wine() {
       echo "$name: FAILED under Wine; all of its output is in $log" >&2
       status=1
     fi
-  done
+  done < <(find "$1/tests" -name 'test_*.exe' | sort)
   wineserver -k || true
   echo "Tests under Wine: $([[ $status == 0 ]] && echo passed || echo FAILED) in $((SECONDS - from)) s."
   return "$status"
