@@ -20,4 +20,22 @@ function(tarnwick_room name)
   cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
   add_library(tarnwick_${name} STATIC ${ARG_SOURCES})
   target_link_libraries(tarnwick_${name} PUBLIC tarnwick_flags ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+  if(name MATCHES "^ui_")
+    tarnwick_window_room(tarnwick_${name})
+  endif()
+endfunction()
+
+# A room of the window. The toolkit's headers are most of what compiling one costs, so they are compiled once, with the
+# controls that all others build on.
+function(tarnwick_window_room target)
+  set_target_properties(${target} PROPERTIES AUTOMOC ON)
+  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+  if(target STREQUAL tarnwick_ui_controls)
+    target_precompile_headers(${target} PRIVATE
+      <algorithm> <array> <functional> <memory> <optional> <string> <vector>
+      <QApplication> <QCheckBox> <QDialog> <QGridLayout> <QGroupBox> <QHeaderView> <QKeyEvent> <QLabel> <QLineEdit>
+      <QListWidget> <QPainter> <QPointer> <QPushButton> <QTableView>)
+  else()
+    target_precompile_headers(${target} REUSE_FROM tarnwick_ui_controls)
+  endif()
 endfunction()

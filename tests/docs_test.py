@@ -50,7 +50,7 @@ NO_MESSAGES = {
     "src/engine/inet_pool.cpp": ("the states of a request, kept for callers of the pool and shown nowhere", ()),
     "src/ui/*_layout.cpp": ("labels and hints of the window; the guide explains the controls", ()),
     "src/ui/site/new_post_var.cpp": ("hints in the fields", ()),
-    "src/ui/main_window/site_grid_*.cpp": ("heads and hints of the list", ()),
+    "src/ui/main_window/site_*.cpp": ("heads and hints of the list", ()),
     "src/ui/main_window/master.cpp": ("the foot of the window, and hints", ()),
     "src/ui/settings/control_dialog.cpp": ("the kinds of files in the file dialog", ("Audio Files", "Program Files")),
     "src/alerts/alert_dispatch.cpp": ("the subject of the mails", ("A WEB SITE ERROR",)),

@@ -10,6 +10,8 @@ namespace tarnwick {
 /// stay empty. A database Null is the text "NULL".
 class TextTable {
  public:
+  static constexpr const char* kNull = "NULL";
+
   /// A table with columns 0 to `lastColumn` and row 0 only.
   explicit TextTable(std::size_t lastColumn = 0) : columns_(lastColumn + 1), cells_(columns_) {}
 
@@ -27,6 +29,8 @@ class TextTable {
   /// The text at (`column`, `row`); raises std::out_of_range beyond the last ones.
   const std::string& at(std::size_t column, std::size_t row) const { return cells_.at(indexOf(column, row)); }
   std::string& at(std::size_t column, std::size_t row) { return cells_.at(indexOf(column, row)); }
+  /// Whether the text at (`column`, `row`) is that of a Null; raises as `at` does.
+  bool isNull(std::size_t column, std::size_t row) const { return at(column, row) == kNull; }
 
  private:
   std::size_t indexOf(std::size_t column, std::size_t row) const {

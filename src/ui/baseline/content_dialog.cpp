@@ -1,7 +1,6 @@
 #include "ui/baseline/content_dialog.h"
 
 #include <optional>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QVBoxLayout>
@@ -35,7 +34,7 @@ ContentDialog::ContentDialog(Program& program, QWidget* siteEditor) : QDialog(si
 }
 
 void ContentDialog::layOut() {
-  auto* content = named(new QGroupBox(tr("Content"), this), "Frame2", tr("Content"));
+  auto* content = addFrame(*this, "Frame2", tr("Content"));
   tContent_ = named(new BaselineEdit(content), "tContent", tr("Content"));
   auto* contentLines = new QVBoxLayout(content);
   contentLines->addWidget(tContent_);

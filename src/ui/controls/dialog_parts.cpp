@@ -23,6 +23,16 @@ class PressedByEnter final : public QPushButton {
 
 }  // namespace
 
+QGroupBox* addFrame(QWidget& parent, const char* name, const QString& caption) {
+  return named(new QGroupBox(caption, &parent), name, caption);
+}
+
+QLabel* addLabel(const QString& caption, QWidget& control) {
+  auto* label = new QLabel(caption, control.parentWidget());
+  label->setBuddy(&control);
+  return label;
+}
+
 QPushButton* addButton(QWidget& parent, const char* name, const QString& caption, const QString& toolTip) {
   auto* button = new PressedByEnter(caption, &parent);
   button->setToolTip(toolTip);

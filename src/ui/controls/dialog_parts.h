@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <QGroupBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QString>
 #include <QWidget>
@@ -15,6 +17,20 @@ Control* named(Control* control, const char* name, const QString& accessibleName
   control->setObjectName(QString::fromLatin1(name));
   control->setAccessibleName(accessibleName);
   return control;
+}
+
+/// Makes a frame with a caption, which is its accessible name too.
+QGroupBox* addFrame(QWidget& parent, const char* name, const QString& caption);
+
+/// Makes the caption beside `control`, whose mnemonic leads to it.
+QLabel* addLabel(const QString& caption, QWidget& control);
+
+/// Makes a text box with room for about so many characters.
+template <typename LineEdit>
+LineEdit* addText(QWidget& parent, const char* name, const QString& accessibleName, int characters) {
+  auto* text = named(new LineEdit(&parent), name, accessibleName);
+  text->setMinimumWidth(text->fontMetrics().averageCharWidth() * characters);
+  return text;
 }
 
 /// Makes a button of a dialog; `caption` may hold a mnemonic. It is not pressed by Enter unless it has the focus or is

@@ -5,6 +5,7 @@
 
 #include "platform/prompts.h"
 #include "ui/controls/colour_text.h"
+#include "ui/controls/dialog_parts.h"
 
 namespace tarnwick {
 namespace {
@@ -14,13 +15,6 @@ constexpr int kMargin = 10;
 constexpr int kGroupGap = 10;
 constexpr int kHeaderGap = 24;
 constexpr int kLampGap = 12;
-
-template <typename Control>
-Control* named(Control* control, const char* name, const QString& accessibleName) {
-  control->setObjectName(QString::fromLatin1(name));
-  control->setAccessibleName(accessibleName);
-  return control;
-}
 
 struct ActionTexts {
   const char* image;

@@ -1,7 +1,6 @@
 #include "ui/main_window/site_grid_model.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <utility>
 
@@ -12,11 +11,8 @@
 namespace tarnwick {
 namespace {
 
-constexpr const char* kNull = "NULL";
-
 std::string cellOf(const TextTable& sites, std::size_t column, std::size_t row) {
-  const std::string& text = sites.at(column, row);
-  return text == kNull ? std::string() : text;
+  return sites.isNull(column, row) ? std::string() : sites.at(column, row);
 }
 
 std::optional<std::int16_t> idOf(const std::string& text) {
@@ -26,15 +22,11 @@ std::optional<std::int16_t> idOf(const std::string& text) {
   return error == std::errc() && rest == end ? std::optional(id) : std::nullopt;
 }
 
-// Counters are numbers to compare, so they stand under each other; the rest is read from the left.
-QVariant alignmentOf(int column) {
-  const bool counter = column == SiteGridModel::upColumn || column == SiteGridModel::downColumn;
-  return QVariant::fromValue(Qt::AlignVCenter | (counter ? Qt::AlignRight : Qt::AlignLeft));
-}
+QVariant alignmentOf(const SiteColumn& column) { return QVariant::fromValue(Qt::AlignVCenter | column.alignment); }
 
 }  // namespace
 
-SiteGridModel::Row SiteGridModel::readRow(const TextTable& sites, std::size_t row) {
+SiteGridModel::Row SiteGridModel::readRow(const TextTable& sites, std::size_t row) const {
   const std::string status = cellOf(sites, site_column::status, row);
   Shade shade = Shade::unjudged;
   if (sites.at(site_column::active, row) != "True") {
@@ -42,9 +34,12 @@ SiteGridModel::Row SiteGridModel::readRow(const TextTable& sites, std::size_t ro
   } else if (!status.empty()) {
     shade = status == "True" ? Shade::up : Shade::down;
   }
-  return {cellOf(sites, site_column::idSite, row),      cellOf(sites, site_column::url, row),
-          cellOf(sites, site_column::success, row),     cellOf(sites, site_column::failure, row),
-          cellOf(sites, site_column::lastChecked, row), shade};
+  Row read{{}, shade};
+  read.cells.reserve(columns_.size());
+  for (const SiteColumn& column : columns_) {
+    read.cells.push_back(cellOf(sites, column.field, row));
+  }
+  return read;
 }
 
 void SiteGridModel::setSites(const TextTable& sites) {
@@ -56,7 +51,7 @@ void SiteGridModel::setSites(const TextTable& sites) {
   rowsOfSite_.reserve(count);
   for (std::size_t row = 1; row <= count; ++row) {
     rows_.push_back(readRow(sites, row));
-    if (const auto id = idOf(rows_.back().id)) {
+    if (const auto id = idOf(rows_.back().cells[idColumn])) {
       rowsOfSite_.emplace(*id, static_cast<int>(row - 1));
     }
   }
@@ -77,7 +72,7 @@ void SiteGridModel::updateSite(const TextTable& sites) {
     return;
   }
   const Row site = readRow(sites, 1);
-  if (const auto id = idOf(site.id)) {
+  if (const auto id = idOf(site.cells[idColumn])) {
     changeRows(*id, [&](Row& row) { row = site; });
   }
 }
@@ -92,7 +87,7 @@ void SiteGridModel::setResult(std::int16_t idSite, bool passed) {
 }
 
 void SiteGridModel::setLastChecked(std::int16_t idSite, const std::string& dateTime) {
-  changeRows(idSite, [&](Row& row) { row.time = dateTime; });
+  changeRows(idSite, [&](Row& row) { row.cells[timeColumn] = dateTime; });
 }
 
 void SiteGridModel::brighten(std::int16_t idSite, int amount) {
@@ -112,7 +107,7 @@ std::optional<std::int16_t> SiteGridModel::siteOfRow(int row) const {
   if (row < 0 || row >= rowCount()) {
     return std::nullopt;
   }
-  return idOf(rows_[static_cast<std::size_t>(row)].id);
+  return idOf(rows_[static_cast<std::size_t>(row)].cells[idColumn]);
 }
 
 int SiteGridModel::rowOfSite(std::int16_t idSite) const {
@@ -128,21 +123,8 @@ int SiteGridModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
-int SiteGridModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : columnsOfGrid; }
-
-const std::string& SiteGridModel::cellText(const Row& row, int column) const {
-  switch (column) {
-    case idColumn:
-      return row.id;
-    case urlColumn:
-      return row.url;
-    case upColumn:
-      return row.up;
-    case downColumn:
-      return row.down;
-    default:
-      return row.time;
-  }
+int SiteGridModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(columns_.size());
 }
 
 QColor SiteGridModel::colourOf(Shade shade) {
@@ -174,7 +156,7 @@ QString SiteGridModel::stateText(Shade shade) {
 QColor SiteGridModel::background(const QModelIndex& index) const {
   const Row& row = rows_[static_cast<std::size_t>(index.row())];
   if (!marks_.empty() && index.column() <= urlColumn) {
-    if (const auto id = idOf(row.id)) {
+    if (const auto id = idOf(row.cells[idColumn])) {
       const auto mark = marks_.find(*id);
       if (mark != marks_.end()) {
         return mark->second;
@@ -189,7 +171,7 @@ QVariant SiteGridModel::data(const QModelIndex& index, int role) const {
     return {};
   }
   const Row& row = rows_[static_cast<std::size_t>(index.row())];
-  const std::string& text = cellText(row, index.column());
+  const std::string& text = row.cells[static_cast<std::size_t>(index.column())];
   switch (role) {
     case Qt::DisplayRole:
       return displayText(text);
@@ -198,7 +180,7 @@ QVariant SiteGridModel::data(const QModelIndex& index, int role) const {
     case Qt::ForegroundRole:
       return readableOn(background(index));
     case Qt::TextAlignmentRole:
-      return alignmentOf(index.column());
+      return alignmentOf(columns_[static_cast<std::size_t>(index.column())]);
     case Qt::AccessibleTextRole:
       // The colour's meaning in words, for those who do not see it.
       return index.column() == urlColumn ? QStringLiteral("%1, %2").arg(displayText(text), stateText(row.shade))
@@ -209,20 +191,20 @@ QVariant SiteGridModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant SiteGridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  static const std::array<QString, columnsOfGrid> kHeaders = {QStringLiteral("ID"), QStringLiteral("URL"),
-                                                              QStringLiteral("Up"), QStringLiteral("Down"),
-                                                              QStringLiteral("Time Of Last Test")};
-  if (orientation == Qt::Horizontal && section >= 0 && section < columnsOfGrid) {
-    if (role == Qt::DisplayRole) {
-      return kHeaders[static_cast<std::size_t>(section)];
-    }
-    if (role == Qt::TextAlignmentRole) {
-      return alignmentOf(section);
-    }
+  if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) {
+    return {};
   }
-  return {};
+  const SiteColumn& column = columns_[static_cast<std::size_t>(section)];
+  switch (role) {
+    case Qt::DisplayRole:
+      return tr(column.header);
+    case Qt::TextAlignmentRole:
+      return alignmentOf(column);
+    default:
+      return {};
+  }
 }
 
-void SiteGridModel::repaintRow(int row) { Q_EMIT dataChanged(index(row, 0), index(row, columnsOfGrid - 1)); }
+void SiteGridModel::repaintRow(int row) { Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1)); }
 
 }  // namespace tarnwick

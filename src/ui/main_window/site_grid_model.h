@@ -9,6 +9,7 @@
 #include <QColor>
 
 #include "store/text_table.h"
+#include "ui/main_window/site_columns.h"
 
 namespace tarnwick {
 
@@ -18,9 +19,13 @@ class SiteGridModel final : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  enum Column { idColumn, urlColumn, upColumn, downColumn, timeColumn, columnsOfGrid };
+  /// Where the columns stand that every list has.
+  enum Column { idColumn, urlColumn, upColumn, downColumn, timeColumn };
 
-  explicit SiteGridModel(QObject* parent = nullptr) : QAbstractTableModel(parent) {}
+  /// `columns` outlives the model and begins with those of `Column`.
+  explicit SiteGridModel(SiteColumns columns = siteColumns()) : columns_(columns) {}
+
+  SiteColumns columns() const { return columns_; }
 
   /// Shows the sites of a whole site list in place of what was shown. Marks of sites that are still there stay.
   void setSites(const TextTable& sites);
@@ -50,24 +55,20 @@ class SiteGridModel final : public QAbstractTableModel {
   enum class Shade { unjudged, up, down, inactive };
 
   struct Row {
-    std::string id;
-    std::string url;
-    std::string up;
-    std::string down;
-    std::string time;
+    std::vector<std::string> cells;  // one a column
     Shade shade = Shade::unjudged;
   };
 
-  static Row readRow(const TextTable& sites, std::size_t row);
+  Row readRow(const TextTable& sites, std::size_t row) const;
   static QColor colourOf(Shade shade);
   static QString stateText(Shade shade);
-  const std::string& cellText(const Row& row, int column) const;
   QColor background(const QModelIndex& index) const;
   void repaintRow(int row);
   /// Calls `change` with each row of the site and has it painted again.
   template <typename Change>
   void changeRows(std::int16_t idSite, Change change);
 
+  const SiteColumns columns_;
   std::vector<Row> rows_;
   // Ids are unique unless another tool made the file; then every row of an id follows its site.
   std::unordered_multimap<std::int16_t, int> rowsOfSite_;

@@ -81,16 +81,18 @@ void SiteGridView::setUpColumns() {
   header.setSectionsMovable(false);
   header.setMinimumSectionSize(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 4);
   header.setSectionResizeMode(QHeaderView::Interactive);
-  header.setSectionResizeMode(SiteGridModel::urlColumn, QHeaderView::Stretch);
 
-  // "ID" and "Time Of Last Test" share one width, that of the time; "Up" and "Down" are to each other as 500 to 540.
   constexpr int kPadding = 20;
-  const int time = fontMetrics().horizontalAdvance(QStringLiteral("0000-00-00 00:00:00")) + kPadding;
-  const int up = fontMetrics().horizontalAdvance(QStringLiteral("00000")) + kPadding;
-  header.resizeSection(SiteGridModel::idColumn, time);
-  header.resizeSection(SiteGridModel::upColumn, up);
-  header.resizeSection(SiteGridModel::downColumn, up * 540 / 500);
-  header.resizeSection(SiteGridModel::timeColumn, time);
+  int section = 0;
+  for (const SiteColumn& column : sites_.columns()) {
+    if (column.widest == nullptr) {
+      header.setSectionResizeMode(section, QHeaderView::Stretch);
+    } else {
+      const int width = fontMetrics().horizontalAdvance(QLatin1String(column.widest)) + kPadding;
+      header.resizeSection(section, width * column.percent / 100);
+    }
+    ++section;
+  }
 }
 
 void SiteGridView::setRowHeight() {
@@ -106,19 +108,15 @@ QSize SiteGridView::sizeHint() const {
   return {fontMetrics().averageCharWidth() * 100, verticalHeader()->defaultSectionSize() * 12};
 }
 
-QString SiteGridView::columnToolTip(int column) {
-  switch (column) {
-    case 2:
-      return tr("Method ( get,post )");
-    case 3:
-      return tr("Active ( true,false )");
-    case 4:
-      return tr("Minutes Until Next Check");
-    case 5:
-      return tr("Date Last Checked");
-    default:
-      return {};
+QString SiteGridView::columnToolTip(int column) const {
+  const SiteColumns columns = sites_.columns();
+  const auto index = static_cast<std::size_t>(column);
+  if (column < 0 || index > columns.size()) {
+    return {};
   }
+  // The original hints are one more than the columns.
+  const char* hint = index == columns.size() ? QT_TR_NOOP("Date Last Checked") : columns[index].hint;
+  return hint == nullptr ? QString() : tr(hint);
 }
 
 void SiteGridView::selectSite(std::int16_t idSite) {

@@ -16,9 +16,9 @@ class SiteGridView final : public QTableView {
   /// `model` outlives the view.
   explicit SiteGridView(SiteGridModel& model, QWidget* parent = nullptr);
 
-  /// The tooltip for a column under the mouse; empty for a column without one. The numbering is the original one, by
-  /// which the grid's columns count from 0 to 4 and the texts belong to columns 2 to 5.
-  static QString columnToolTip(int column);
+  /// The tooltip for a column under the mouse; empty for a column without one. The original hints are two columns off:
+  /// the last one belongs to the column behind the last.
+  QString columnToolTip(int column) const;
 
   /// Selects a site's row and scrolls to it. Nothing when the grid does not hold it.
   void selectSite(std::int16_t idSite);

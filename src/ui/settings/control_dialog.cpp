@@ -1,7 +1,7 @@
 #include "ui/settings/control_dialog.h"
 
+#include <algorithm>
 #include <array>
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <QPointer>
@@ -14,7 +14,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::array<int, 10> kTimeouts = {1, 10, 20, 30, 45, 60, 90, 120, 150, 180};
 constexpr const char* kTimeoutKey = "timeout";
 
 constexpr const char* kAudioFiles = "Audio Files (*.wav)|*.wav";
@@ -59,8 +58,8 @@ class BusyPointer {
 
 }  // namespace
 
-ControlDialog::ControlDialog(Program& program, QWidget* parent)
-    : QDialog(parent), program_(program), controls_(layOutControlDialog(*this)) {
+ControlDialog::ControlDialog(Program& program, QWidget* parent, const Fields& fields)
+    : QDialog(parent), program_(program), controls_(layOutControlDialog(*this, fields.settings)) {
   setObjectName(QStringLiteral("frmControl"));
   setWindowTitle(tr("Settings"));
   connectButtons();
@@ -82,27 +81,11 @@ void ControlDialog::connectButtons() {
 }
 
 void ControlDialog::populateMe() {
-  m& stored = program_.data();
-  controls_.tEmail->setBytes(stored.getControl("email").toText());
-  controls_.tSmtp->setBytes(stored.getControl("smtp").toText());
-  controls_.tAudio->setBytes(stored.getControl("audio").toText());
-  controls_.tProgram->setBytes(stored.getControl("program").toText());
-
-  controls_.lbInterval->clear();
-  bool isNumber = false;
-  const double timeout = QString::fromStdString(stored.getControl(kTimeoutKey).toText()).toDouble(&isNumber);
-  for (const int seconds : kTimeouts) {
-    auto* item = new QListWidgetItem(QString::number(seconds), controls_.lbInterval);
-    if (isNumber && seconds == timeout) {
-      controls_.lbInterval->setCurrentItem(item);
-    }
+  for (const FieldControl& setting : controls_.settings) {
+    const SqlValue stored = program_.data().getControl(setting.field);
+    const bool flag = qobject_cast<QCheckBox*>(setting.widget) != nullptr;
+    setting.show(flag ? FieldValue(stored.toBool()) : FieldValue(stored.toText()));
   }
-
-  controls_.cLogs->setChecked(stored.getControl("cLogs").toBool());
-  controls_.cReports->setChecked(stored.getControl("cReports").toBool());
-  controls_.cEmail->setChecked(stored.getControl("cEmail").toBool());
-  controls_.cAudio->setChecked(stored.getControl("cAudio").toBool());
-  controls_.cProgram->setChecked(stored.getControl("cProgram").toBool());
 }
 
 void ControlDialog::bringUp() {
@@ -119,38 +102,17 @@ void ControlDialog::bringUp() {
   activateWindow();
 }
 
-std::vector<Setting> ControlDialog::gather() const {
-  // The current item is not asked: the Tab key makes the first one current without selecting it.
-  const auto chosen = controls_.lbInterval->selectedItems();
-  return {{"email", controls_.tEmail->bytes()},
-          {"smtp", controls_.tSmtp->bytes()},
-          {"audio", controls_.tAudio->bytes()},
-          {kTimeoutKey, chosen.isEmpty() ? std::string() : chosen.first()->text().toStdString()},
-          {"program", controls_.tProgram->bytes()},
-          {"cLogs", controls_.cLogs->isChecked()},
-          {"cReports", controls_.cReports->isChecked()},
-          {"cEmail", controls_.cEmail->isChecked()},
-          {"cAudio", controls_.cAudio->isChecked()},
-          {"cProgram", controls_.cProgram->isChecked()}};
-}
-
-QWidget* ControlDialog::controlOf(const std::string& key) const {
-  const std::map<std::string, QWidget*> texts = {{"email", controls_.tEmail},
-                                                 {"smtp", controls_.tSmtp},
-                                                 {"audio", controls_.tAudio},
-                                                 {"program", controls_.tProgram},
-                                                 {kTimeoutKey, controls_.lbInterval}};
-  const auto text = texts.find(key);
-  // A check box bears its setting's name.
-  return text != texts.end() ? text->second : findChild<QWidget*>(QString::fromStdString(key));
-}
-
-void ControlDialog::store() {
+void ControlDialog::storeSettings() {
+  std::vector<Setting> settings;
+  for (const FieldControl& setting : controls_.settings) {
+    settings.push_back({setting.field, setting.value().value_or(FieldValue())});
+  }
   try {
-    program_.data().storeSettings(gather());
+    program_.data().storeSettings(settings);
   } catch (const SettingRefused& refused) {
-    controlOf(refused.key())->setFocus();
-    if (refused.key() == kTimeoutKey && controls_.lbInterval->selectedItems().isEmpty()) {
+    const auto control = std::ranges::find(controls_.settings, refused.key(), &FieldControl::field);
+    control->widget->setFocus();
+    if (refused.key() == kTimeoutKey && !control->value()) {
       const QString remedy =
           tr("No TCP Timeout is selected. Select one in the list, then press OK again; nothing was stored yet.\n\nThe "
              "database says: %1");
@@ -161,7 +123,7 @@ void ControlDialog::store() {
 }
 
 void ControlDialog::Command1_Click() {
-  store();
+  storeSettings();
   unload(Accepted);
 }
 
@@ -251,11 +213,11 @@ void ControlDialog::unload(DialogCode result) {
   }
 }
 
-std::function<void()> settingsDialogOf(Program& program, QWidget& parent) {
-  return [&program, &parent, dialog = QPointer<ControlDialog>()]() mutable {
+std::function<void()> settingsDialogOf(Program& program, QWidget& parent, const Fields& fields) {
+  return [&program, &parent, &fields, dialog = QPointer<ControlDialog>()]() mutable {
     // One that has been closed may not have been taken down yet.
     if (dialog == nullptr || !dialog->isVisible()) {
-      dialog = new ControlDialog(program, &parent);
+      dialog = new ControlDialog(program, &parent, fields);
     }
     dialog->bringUp();
   };

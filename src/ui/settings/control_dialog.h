@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 #include <QDialog>
 
 #include "program/program.h"
@@ -18,8 +17,8 @@ class ControlDialog final : public QDialog {
 
  public:
   /// Fills the controls from the stored settings; raises DataAccessError. `program` outlives the dialog. `parent` is
-  /// the main window.
-  ControlDialog(Program& program, QWidget* parent);
+  /// the main window. `fields` says which settings there are.
+  ControlDialog(Program& program, QWidget* parent, const Fields& fields = programFields());
 
   /// Fills the controls from the stored settings. Raises DataAccessError.
   void populateMe();
@@ -46,17 +45,15 @@ class ControlDialog final : public QDialog {
   /// Runs an administration function and shows in its label how it stands.
   void administrate(QLabel& status, const std::function<void()>& action);
   void chooseFileInto(ByteLineEdit& text, const std::string& filter);
-  std::vector<Setting> gather() const;
-  /// The control of a setting.
-  QWidget* controlOf(const std::string& key) const;
-  void store();
+  void storeSettings();
   void unload(DialogCode result);
 
   Program& program_;
   ControlDialogControls controls_;
 };
 
-/// Opens the one settings dialog of `program`, above `parent`; made when it is first needed.
-std::function<void()> settingsDialogOf(Program& program, QWidget& parent);
+/// Opens the one settings dialog of `program`, above `parent`; made when it is first needed. `fields`,
+/// which outlives it, says which settings there are.
+std::function<void()> settingsDialogOf(Program& program, QWidget& parent, const Fields& fields = programFields());
 
 }  // namespace tarnwick

@@ -1,5 +1,7 @@
 #include "ui/settings/control_dialog_layout.h"
 
+#include <algorithm>
+#include <array>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -10,22 +12,47 @@
 namespace tarnwick {
 namespace {
 
+constexpr std::array<int, 10> kTimeouts = {1, 10, 20, 30, 45, 60, 90, 120, 150, 180};
 constexpr int kCharactersOfText = 46;
 constexpr int kCharactersOfList = 16;
 constexpr int kRowsOfList = 6;
 constexpr int kGap = 12;
 
-QLabel* labelOf(const QString& caption, QWidget* buddy) {
-  auto* label = new QLabel(caption, buddy->parentWidget());
-  label->setBuddy(buddy);
-  return label;
+// The settings that have their place in the dialog, in the order in which they are stored.
+std::vector<FieldLook> knownLooks() {
+  using Kind = FieldKind;
+  const auto flag = [](const char* name, const QString& caption, const QString& purpose) {
+    return FieldLook{name, Kind::flag, name, caption, purpose, purpose};
+  };
+  return {{"email", Kind::text, "tEmail", QObject::tr("E&mail"), QObject::tr("Email"),
+           QObject::tr("The sender of the alert mails")},
+          {"smtp", Kind::text, "tSmtp", QObject::tr("&SMTP"), QObject::tr("SMTP"),
+           QObject::tr("The mail server; it takes mail on port 25 without a log-in")},
+          {"audio", Kind::file, "tAudio", QObject::tr("&Audio"), QObject::tr("Audio"),
+           QObject::tr("The .wav file of the alert sound")},
+          {"timeout", Kind::seconds, "lbInterval", QObject::tr("TCP T&imeout"), QObject::tr("TCP Timeout in seconds"),
+           QObject::tr("How many seconds the fetch of a page may take")},
+          {"program", Kind::file, "tProgram", QObject::tr("&Program"), QObject::tr("Program"),
+           QObject::tr("The alert program; ~1~ to ~6~ stand for what happened where")},
+          flag("cLogs", QObject::tr("Lo&gs"), QObject::tr("Keep a log of all checks")),
+          flag("cReports", QObject::tr("&Reports"), QObject::tr("Write the report of the day during a run")),
+          flag("cEmail", QObject::tr("Emai&l"), QObject::tr("Send alert mails for the sites that ask for them")),
+          flag("cAudio", QObject::tr("A&udio"), QObject::tr("Play the alert sound")),
+          flag("cProgram", QObject::tr("Pr&ogram"), QObject::tr("Start the alert program"))};
 }
 
-ByteLineEdit* makeText(QGroupBox& frame, const char* name, const QString& accessibleName, const QString& toolTip) {
-  auto* text = named(new ByteLineEdit(&frame), name, accessibleName);
-  text->setMinimumWidth(text->fontMetrics().averageCharWidth() * kCharactersOfText);
-  text->setToolTip(toolTip);
-  return text;
+// All settings: any further one looks as the table describes it.
+std::vector<FieldLook> looksOf(const std::vector<SettingField>& settings) {
+  std::vector<FieldLook> looks = knownLooks();
+  for (const SettingField& setting : settings) {
+    const auto isIt = [name = QString::fromStdString(setting.name)](const FieldLook& look) {
+      return name.compare(QString::fromStdString(look.field), Qt::CaseInsensitive) == 0;
+    };
+    if (std::ranges::none_of(looks, isIt)) {
+      looks.push_back(usualLook(setting));
+    }
+  }
+  return looks;
 }
 
 // Buttons of one caption are told apart by the name that a screen reader speaks.
@@ -35,85 +62,88 @@ QPushButton* makeFileButton(QGroupBox& frame, const char* name, const QString& c
   return button;
 }
 
-QCheckBox* makeFlag(QGroupBox& frame, const char* name, const QString& caption, const QString& purpose) {
-  auto* flag = named(new QCheckBox(caption, &frame), name, purpose);
-  flag->setToolTip(purpose);
-  return flag;
-}
-
-void makeTexts(QGroupBox& frame, ControlDialogControls& controls) {
-  controls.tEmail = makeText(frame, "tEmail", QObject::tr("Email"), QObject::tr("The sender of the alert mails"));
-  controls.tSmtp = makeText(frame, "tSmtp", QObject::tr("SMTP"),
-                            QObject::tr("The mail server; it takes mail on port 25 without a log-in"));
-  controls.tAudio = makeText(frame, "tAudio", QObject::tr("Audio"), QObject::tr("The .wav file of the alert sound"));
-  controls.Command6 = makeFileButton(frame, "Command6", QObject::tr("&Browse"), QObject::tr("Choose a sound file"));
-  controls.Command7 = makeFileButton(frame, "Command7", QObject::tr("&Test"), QObject::tr("Play this sound now"));
-  controls.tProgram = makeText(frame, "tProgram", QObject::tr("Program"),
-                               QObject::tr("The alert program; ~1~ to ~6~ stand for what happened where"));
-  controls.Command9 = makeFileButton(frame, "Command9", QObject::tr("Bro&wse"), QObject::tr("Choose a program"));
-  controls.Command8 = makeFileButton(frame, "Command8", QObject::tr("T&est"),
-                                     QObject::tr("Start this program now, with sample values"));
-}
-
-void makeFlags(QGroupBox& frame, ControlDialogControls& controls) {
-  controls.cLogs = makeFlag(frame, "cLogs", QObject::tr("Lo&gs"), QObject::tr("Keep a log of all checks"));
-  controls.cReports =
-      makeFlag(frame, "cReports", QObject::tr("&Reports"), QObject::tr("Write the report of the day during a run"));
-  controls.cEmail =
-      makeFlag(frame, "cEmail", QObject::tr("Emai&l"), QObject::tr("Send alert mails for the sites that ask for them"));
-  controls.cAudio = makeFlag(frame, "cAudio", QObject::tr("A&udio"), QObject::tr("Play the alert sound"));
-  controls.cProgram = makeFlag(frame, "cProgram", QObject::tr("Pr&ogram"), QObject::tr("Start the alert program"));
-}
-
-void makeConfiguration(QGroupBox& frame, ControlDialogControls& controls) {
-  makeTexts(frame, controls);
-  controls.lbInterval = named(new QListWidget(&frame), "lbInterval", QObject::tr("TCP Timeout in seconds"));
-  controls.lbInterval->setToolTip(QObject::tr("How many seconds the fetch of a page may take"));
+QListWidget* makeTimeouts(QGroupBox& frame, const FieldLook& look) {
+  auto* list = named(new QListWidget(&frame), look.control.c_str(), look.accessibleName);
+  list->setToolTip(look.toolTip);
+  for (const int seconds : kTimeouts) {
+    list->addItem(QString::number(seconds));
+  }
   // Some rows of the list at least; it scrolls to the others. Of its own it would take most of the dialog.
-  controls.lbInterval->setMinimumHeight(controls.lbInterval->fontMetrics().height() * kRowsOfList);
-  controls.lbInterval->setFixedWidth(controls.lbInterval->fontMetrics().averageCharWidth() * kCharactersOfList);
-  controls.lbInterval->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
-  makeFlags(frame, controls);
+  list->setMinimumHeight(list->fontMetrics().height() * kRowsOfList);
+  list->setFixedWidth(list->fontMetrics().averageCharWidth() * kCharactersOfList);
+  list->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+  return list;
+}
+
+// The buttons beside the text of a file.
+std::vector<QPushButton*> makeFileButtons(QGroupBox& frame, const FieldLook& look, ControlDialogControls& controls) {
+  if (look.control == "tAudio") {
+    controls.Command6 = makeFileButton(frame, "Command6", QObject::tr("&Browse"), QObject::tr("Choose a sound file"));
+    controls.Command7 = makeFileButton(frame, "Command7", QObject::tr("&Test"), QObject::tr("Play this sound now"));
+    return {controls.Command6, controls.Command7};
+  }
+  if (look.control == "tProgram") {
+    controls.Command9 = makeFileButton(frame, "Command9", QObject::tr("Bro&wse"), QObject::tr("Choose a program"));
+    controls.Command8 = makeFileButton(frame, "Command8", QObject::tr("T&est"),
+                                       QObject::tr("Start this program now, with sample values"));
+    return {controls.Command9, controls.Command8};
+  }
+  return {};
+}
+
+// Texts one below the other, and the list of time-outs on their right; the flags go into `foot`.
+QLayout* makeSettings(QGroupBox& frame, const std::vector<SettingField>& settings, ControlDialogControls& controls,
+                      QLayout& foot) {
+  constexpr int kColumnOfList = 5;
+  auto* fields = new QGridLayout;
+  int row = 0;
+  for (const FieldLook& look : looksOf(settings)) {
+    if (look.control == "lbInterval") {
+      controls.lbInterval = makeTimeouts(frame, look);
+      controls.settings.push_back(bindField(look.field, *controls.lbInterval));
+      fields->addWidget(addLabel(look.caption, *controls.lbInterval), 0, kColumnOfList);
+      continue;
+    }
+    controls.settings.push_back(makeField(frame, look));
+    QWidget* made = controls.settings.back().widget;
+    if (look.kind == FieldKind::flag) {
+      foot.addWidget(made);
+      continue;
+    }
+    made->setMinimumWidth(made->fontMetrics().averageCharWidth() * kCharactersOfText);
+    fields->addWidget(addLabel(look.caption, *made), row, 0);
+    const std::vector<QPushButton*> buttons = makeFileButtons(frame, look, controls);
+    int column = 1;
+    fields->addWidget(made, row, column, 1, buttons.empty() ? 3 : 1);
+    for (QPushButton* button : buttons) {
+      fields->addWidget(button, row, ++column);
+    }
+    ++row;
+  }
+  fields->addWidget(controls.lbInterval, 1, kColumnOfList, row, 1);
+  fields->setColumnMinimumWidth(kColumnOfList - 1, kGap);
+  fields->setColumnStretch(1, 1);
+  fields->setRowStretch(row, 1);
+  return fields;
+}
+
+void makeConfiguration(QGroupBox& frame, const std::vector<SettingField>& settings, ControlDialogControls& controls) {
+  auto* foot = new QHBoxLayout;
+  auto* lines = new QVBoxLayout(&frame);
+  lines->addLayout(makeSettings(frame, settings, controls, *foot), 1);
+  lines->addLayout(foot);
+  controls.tEmail = frame.findChild<ByteLineEdit*>(QStringLiteral("tEmail"));
+  controls.tAudio = frame.findChild<ByteLineEdit*>(QStringLiteral("tAudio"));
+  controls.tProgram = frame.findChild<ByteLineEdit*>(QStringLiteral("tProgram"));
   controls.Command1 = addButton(frame, "Command1", QObject::tr("O&K"), QObject::tr("Store the settings and close"));
   controls.Command2 = addButton(frame, "Command2", QObject::tr("Cancel"), QObject::tr("Close without storing (Esc)"));
   controls.Command1->setDefault(true);
-}
-
-QLayout* layOutFoot(const ControlDialogControls& controls) {
-  auto* foot = new QHBoxLayout;
-  for (QCheckBox* flag : {controls.cLogs, controls.cReports, controls.cEmail, controls.cAudio, controls.cProgram}) {
-    foot->addWidget(flag);
-  }
   foot->addSpacing(kGap);
   foot->addStretch();
   foot->addWidget(controls.Command1);
   foot->addWidget(controls.Command2);
-  return foot;
-}
-
-void layOutConfiguration(QGroupBox& frame, const ControlDialogControls& controls) {
-  auto* fields = new QGridLayout;
-  fields->addWidget(labelOf(QObject::tr("E&mail"), controls.tEmail), 0, 0);
-  fields->addWidget(controls.tEmail, 0, 1, 1, 3);
-  fields->addWidget(labelOf(QObject::tr("&SMTP"), controls.tSmtp), 1, 0);
-  fields->addWidget(controls.tSmtp, 1, 1, 1, 3);
-  fields->addWidget(labelOf(QObject::tr("&Audio"), controls.tAudio), 2, 0);
-  fields->addWidget(controls.tAudio, 2, 1);
-  fields->addWidget(controls.Command6, 2, 2);
-  fields->addWidget(controls.Command7, 2, 3);
-  fields->addWidget(labelOf(QObject::tr("&Program"), controls.tProgram), 3, 0);
-  fields->addWidget(controls.tProgram, 3, 1);
-  fields->addWidget(controls.Command9, 3, 2);
-  fields->addWidget(controls.Command8, 3, 3);
-  fields->addWidget(labelOf(QObject::tr("TCP T&imeout"), controls.lbInterval), 0, 5);
-  fields->addWidget(controls.lbInterval, 1, 5, 4, 1);
-  fields->setColumnMinimumWidth(4, kGap);
-  fields->setColumnStretch(1, 1);
-  fields->setRowStretch(4, 1);
-
-  auto* lines = new QVBoxLayout(&frame);
-  lines->addLayout(fields, 1);
-  lines->addLayout(layOutFoot(controls));
+  // The list stands on the right of all texts, and so comes after them.
+  QWidget::setTabOrder(controls.Command8, controls.lbInterval);
 }
 
 QLabel* makeStatus(QGroupBox& frame, const char* name, const QString& caption, const QString& accessibleName) {
@@ -145,21 +175,15 @@ void makeAdministration(QGroupBox& frame, ControlDialogControls& controls) {
   lines->setColumnStretch(1, 1);
 }
 
-QGroupBox* makeFrame(QDialog& dialog, const char* name, const QString& caption) {
-  return named(new QGroupBox(caption, &dialog), name, caption);
-}
-
 }  // namespace
 
-ControlDialogControls layOutControlDialog(QDialog& dialog) {
+ControlDialogControls layOutControlDialog(QDialog& dialog, const std::vector<SettingField>& settings) {
   // Made in the order in which the eye reads them, which is the order of the Tab key.
   ControlDialogControls controls{};
-  QGroupBox* configuration = makeFrame(dialog, "Frame1", QObject::tr("Configuration Data"));
-  makeConfiguration(*configuration, controls);
-  QGroupBox* administration = makeFrame(dialog, "Frame2", QObject::tr("Administration Functions"));
+  QGroupBox* configuration = addFrame(dialog, "Frame1", QObject::tr("Configuration Data"));
+  makeConfiguration(*configuration, settings, controls);
+  QGroupBox* administration = addFrame(dialog, "Frame2", QObject::tr("Administration Functions"));
   makeAdministration(*administration, controls);
-
-  layOutConfiguration(*configuration, controls);
   auto* all = new QVBoxLayout(&dialog);
   all->addWidget(configuration, 1);
   all->addWidget(administration);

@@ -1,19 +1,20 @@
 #pragma once
 
-#include <QCheckBox>
+#include <vector>
 #include <QDialog>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 
-#include "ui/controls/byte_line_edit.h"
+#include "ui/controls/field_control.h"
 
 namespace tarnwick {
 
 /// The settings dialog's controls; the dialog owns them. Each has its name as object name.
 struct ControlDialogControls {
+  /// Each setting, in the order in which they are stored.
+  std::vector<FieldControl> settings;
   ByteLineEdit* tEmail;
-  ByteLineEdit* tSmtp;
   ByteLineEdit* tAudio;
   QPushButton* Command6;  ///< Browse for a sound
   QPushButton* Command7;  ///< Test the sound
@@ -21,11 +22,6 @@ struct ControlDialogControls {
   QPushButton* Command9;  ///< Browse for a program
   QPushButton* Command8;  ///< Test the program
   QListWidget* lbInterval;
-  QCheckBox* cLogs;
-  QCheckBox* cReports;
-  QCheckBox* cEmail;
-  QCheckBox* cAudio;
-  QCheckBox* cProgram;
   QPushButton* Command1;  ///< OK
   QPushButton* Command2;  ///< Cancel
 
@@ -37,8 +33,8 @@ struct ControlDialogControls {
   QLabel* lblReport;
 };
 
-/// Makes the controls of the settings dialog and lays them out: the settings with OK and Cancel at the top, the
-/// administration functions below.
-ControlDialogControls layOutControlDialog(QDialog& dialog);
+/// Makes the controls of the settings dialog and lays them out: on the first page `settings` with OK and Cancel at the
+/// top, the administration functions below; on the second one the options for all sites.
+ControlDialogControls layOutControlDialog(QDialog& dialog, const std::vector<SettingField>& settings);
 
 }  // namespace tarnwick

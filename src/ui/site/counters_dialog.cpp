@@ -1,7 +1,6 @@
 #include "ui/site/counters_dialog.h"
 
 #include <QCloseEvent>
-#include <QGroupBox>
 #include <QVBoxLayout>
 
 #include "ui/controls/dialog_parts.h"
@@ -22,7 +21,7 @@ CountersDialog::CountersDialog(Program& program, QWidget* siteEditor) : QDialog(
 }
 
 void CountersDialog::layOut() {
-  auto* frame = named(new QGroupBox(tr("Counter Options"), this), "Frame1", tr("Counter Options"));
+  auto* frame = addFrame(*this, "Frame1", tr("Counter Options"));
   auto* clearSite = addButton(*frame, "btnClearSite", tr("Clear This &Site's Counter"));
   auto* clearAll = addButton(*frame, "btnClearAll", tr("Clear Counter For &All Sites"));
   auto* cancel = addButton(*frame, "btnCancel", tr("Cancel"));

@@ -3,7 +3,6 @@
 #include <stdexcept>
 #include <utility>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -28,7 +27,7 @@ NewPostVar::NewPostVar(Program& program, std::int16_t idSite, PostVar var, QWidg
 }
 
 void NewPostVar::layOut() {
-  auto* frame = named(new QGroupBox(tr("HTTP Post Variables"), this), "Frame1", tr("HTTP Post Variables"));
+  auto* frame = addFrame(*this, "Frame1", tr("HTTP Post Variables"));
   pvName_ = named(new ByteLineEdit(frame), "pvName", tr("Name"));
   pvName_->setText(tr("enter name here"));
   pvValue_ = named(new ByteLineEdit(frame), "pvValue", tr("Value"));

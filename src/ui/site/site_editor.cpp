@@ -15,18 +15,15 @@
 
 namespace tarnwick {
 
-SiteEditor::SiteEditor(Program& program, QWidget* parent)
-    : QDialog(parent), program_(program), controls_(layOutSiteEditor(*this, postVars_)) {
+SiteEditor::SiteEditor(Program& program, QWidget* parent, const Fields& fields)
+    : QDialog(parent), program_(program), fields_(fields), controls_(layOutSiteEditor(*this, postVars_, fields.site)) {
   setObjectName(QStringLiteral("site"));
   setWindowTitle(tr("Site"));
   connectButtons();
   Form_Load();
 }
 
-void SiteEditor::Form_Load() {
-  offerIntervals(controls_);
-  resetGrid1();
-}
+void SiteEditor::Form_Load() { resetGrid1(); }
 
 void SiteEditor::connectButtons() {
   onClick(*controls_.Command1, program_.faults(), [this] { Command1_Click(); });
@@ -35,7 +32,7 @@ void SiteEditor::connectButtons() {
   onClick(*controls_.Command4, program_.faults(), [this] { Command4_Click(); });
   onClick(*controls_.Command5, program_.faults(), [this] { Command5_Click(); });
   onClick(*controls_.Command6, program_.faults(), [this] { Command6_Click(); });
-  onClick(*controls_.Command7, program_.faults(), [this] { Command7_Click(); });
+  onClick(*controls_.counters, program_.faults(), [this] { Command7_Click(); });
   onClick(*controls_.Command8, program_.faults(), [this] { Command8_Click(); });
   onClick(*controls_.Command9, program_.faults(), [this] { Command9_Click(); });
   connect(controls_.grid1, &QTableView::clicked, this,
@@ -80,9 +77,9 @@ void SiteEditor::populateMe(std::int16_t idSite) {
   std::vector<PostVar> vars = readPostVars(program_.data(), idSite);
   idSite_ = idSite;
   controls_.Frame1->setTitle(tr("Site ID: %1").arg(idSite));
-  fillFields(controls_, site);
+  showSite(controls_, fields_.site, site);
   stored_ = site;
-  loaded_ = fieldsOf(controls_, stored_);
+  loaded_ = shownSite(controls_, fields_.site, stored_);
   showPostVars(std::move(vars));
 }
 
@@ -108,7 +105,7 @@ bool SiteEditor::validate() {
 }
 
 bool SiteEditor::save() {
-  const SiteDraft site = fieldsOf(controls_, stored_);
+  const SiteDraft site = shownSite(controls_, fields_.site, stored_);
   if (!validate()) {
     return false;
   }
@@ -124,7 +121,9 @@ std::function<bool()> SiteEditor::stillThere() {
   };
 }
 
-bool SiteEditor::changed() const { return fieldsOf(controls_, stored_) != loaded_ || postVars_.vars() != loadedVars_; }
+bool SiteEditor::changed() const {
+  return shownSite(controls_, fields_.site, stored_) != loaded_ || postVars_.vars() != loadedVars_;
+}
 
 bool SiteEditor::mayLeave() {
   if (!changed()) {
@@ -272,13 +271,13 @@ void SiteEditor::unload() {
   }
 }
 
-std::function<void(std::int16_t)> siteEditorOf(Program& program, QWidget& parent) {
-  return [&program, &parent, editor = QPointer<SiteEditor>()](std::int16_t idSite) mutable {
+std::function<void(std::int16_t)> siteEditorOf(Program& program, QWidget& parent, const Fields& fields) {
+  return [&program, &parent, &fields, editor = QPointer<SiteEditor>()](std::int16_t idSite) mutable {
     if (editor != nullptr && editor->isVisible()) {
       editor->editSite(idSite);
       return;
     }
-    auto fresh = std::make_unique<SiteEditor>(program, &parent);
+    auto fresh = std::make_unique<SiteEditor>(program, &parent, fields);
     fresh->editSite(idSite);
     editor = fresh.release();
   };

@@ -1,53 +1,60 @@
 #include "ui/site/site_editor_fields.h"
 
 #include <algorithm>
-#include <array>
+
+#include "ui/controls/dialog_parts.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr std::array<int, 9> kIntervals = {1, 5, 10, 15, 30, 45, 60, 90, 120};
-
-QString lowerCase(const std::string& text) { return QString::fromLatin1(text).toLower(); }
+const FieldControl& controlOf(const SiteEditorControls& controls, const SiteField& field) {
+  return *std::ranges::find(controls.fields, field.name, &FieldControl::field);
+}
 
 }  // namespace
 
-void offerIntervals(const SiteEditorControls& controls) {
-  for (const int minutes : kIntervals) {
-    controls.lbInterval->addItem(QString::number(minutes));
+void bindFields(SiteEditorControls& controls, const std::vector<SiteField>& fields, QGridLayout& lines) {
+  controls.fields = {bindField("url", *controls.tUrl),
+                     bindField("method", {{"get", controls.tGet}, {"post", controls.tPost}}),
+                     bindField("active", *controls.tActive),
+                     bindField("tInterval", *controls.lbInterval),
+                     bindField("alertEmail", *controls.cEmail),
+                     bindField("email", *controls.tEmail),
+                     bindField("sUserName", *controls.tUsername),
+                     bindField("sPassWord", *controls.tPassword)};
+  // The last line is empty, so that the others stand at the top.
+  int line = lines.rowCount() - 1;
+  QWidget* before = controls.tActive;
+  for (const SiteField& field : fields) {
+    if (std::ranges::none_of(controls.fields, [&](const FieldControl& bound) { return bound.field == field.name; })) {
+      const FieldLook look = usualLook(field);
+      controls.fields.push_back(makeField(*controls.Frame1, look));
+      QWidget* made = controls.fields.back().widget;
+      if (look.kind != FieldKind::flag) {
+        lines.addWidget(addLabel(look.caption, *made), line, 0);
+      }
+      lines.addWidget(made, line++, 1);
+      QWidget::setTabOrder(before, made);
+      before = made;
+    }
+  }
+  lines.setRowStretch(line, 1);
+}
+
+void showSite(const SiteEditorControls& controls, const std::vector<SiteField>& fields, const SiteDraft& site) {
+  for (const SiteField& field : fields) {
+    controlOf(controls, field).show(valueOf(field, site));
   }
 }
 
-void fillFields(const SiteEditorControls& controls, const SiteDraft& site) {
-  controls.tUrl->setBytes(site.url);
-  controls.tUsername->setBytes(site.sUserName);
-  controls.tPassword->setBytes(site.sPassWord);
-  controls.tEmail->setBytes(site.email);
-  controls.cEmail->setChecked(site.alertEmail);
-  // Any other method selects neither, also when one is selected from the site shown before.
-  const QString method = lowerCase(site.method);
-  for (QRadioButton* button : {controls.tGet, controls.tPost}) {
-    button->setAutoExclusive(false);
-    button->setChecked(false);
+SiteDraft shownSite(const SiteEditorControls& controls, const std::vector<SiteField>& fields, const SiteDraft& stored) {
+  SiteDraft site = stored;
+  for (const SiteField& field : fields) {
+    if (const auto value = controlOf(controls, field).value()) {
+      setValue(field, site, *value);
+    }
   }
-  controls.tGet->setChecked(method == QLatin1String("get"));
-  controls.tPost->setChecked(method == QLatin1String("post"));
-  for (QRadioButton* button : {controls.tGet, controls.tPost}) {
-    button->setAutoExclusive(true);
-  }
-  controls.tActive->setChecked(site.active);
-
-  const auto stored = std::ranges::find(kIntervals, QString::fromStdString(site.tInterval).toInt());
-  controls.lbInterval->setCurrentRow(stored == kIntervals.end() ? -1 : static_cast<int>(stored - kIntervals.begin()));
-}
-
-SiteDraft fieldsOf(const SiteEditorControls& controls, const SiteDraft& stored) {
-  // What is selected and not what is current: the Tab key makes an item current on its way through the list.
-  const auto selected = controls.lbInterval->selectedItems();
-  return {controls.tUrl->bytes(),        controls.tPost->isChecked() ? "post" : "get",
-          controls.tActive->isChecked(), selected.isEmpty() ? stored.tInterval : selected.front()->text().toStdString(),
-          controls.cEmail->isChecked(),  controls.tEmail->bytes(),
-          controls.tUsername->bytes(),   controls.tPassword->bytes()};
+  return site;
 }
 
 }  // namespace tarnwick

@@ -1,18 +1,22 @@
 #pragma once
 
-#include "program/site_draft.h"
+#include <vector>
+#include <QGridLayout>
+
+#include "store/fields.h"
 #include "ui/site/site_editor_layout.h"
 
 /// What a site is in the controls of the site editor.
 namespace tarnwick {
 
-/// Fills the list of intervals.
-void offerIntervals(const SiteEditorControls& controls);
+/// Says which control shows which field. One of `fields` that has no control of its own gets the usual one, at the end
+/// of `lines`.
+void bindFields(SiteEditorControls& controls, const std::vector<SiteField>& fields, QGridLayout& lines);
 
 /// Shows `site`. An interval that the list does not offer, and a method that has no button, leave nothing selected.
-void fillFields(const SiteEditorControls& controls, const SiteDraft& site);
+void showSite(const SiteEditorControls& controls, const std::vector<SiteField>& fields, const SiteDraft& site);
 
 /// What the controls say; `stored` has what they cannot.
-SiteDraft fieldsOf(const SiteEditorControls& controls, const SiteDraft& stored);
+SiteDraft shownSite(const SiteEditorControls& controls, const std::vector<SiteField>& fields, const SiteDraft& stored);
 
 }  // namespace tarnwick

@@ -1,5 +1,6 @@
 #include "ui/site/site_editor_layout.h"
 
+#include <array>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -8,42 +9,31 @@
 
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/prompt_line_edit.h"
+#include "ui/site/site_editor_fields.h"
 
 namespace tarnwick {
 namespace {
 
-QGroupBox* makeFrame(QDialog& dialog, const char* name, const QString& caption) {
-  return named(new QGroupBox(caption, &dialog), name, caption);
-}
-
-QLabel* labelOf(const QString& caption, QWidget* buddy) {
-  auto* label = new QLabel(caption, buddy->parentWidget());
-  label->setBuddy(buddy);
-  return label;
-}
-
-template <typename LineEdit>
-LineEdit* makeText(QWidget* parent, const char* name, const QString& accessibleName, int characters) {
-  auto* text = named(new LineEdit(parent), name, accessibleName);
-  text->setMinimumWidth(text->fontMetrics().averageCharWidth() * characters);
-  return text;
-}
+constexpr std::array<int, 9> kIntervals = {1, 5, 10, 15, 30, 45, 60, 90, 120};
 
 void makeSite(QGroupBox& frame, SiteEditorControls& controls) {
   constexpr int kNarrow = 18;
-  controls.tUrl = makeText<ByteLineEdit>(&frame, "tUrl", QObject::tr("Url"), 2 * kNarrow);
+  controls.tUrl = addText<ByteLineEdit>(frame, "tUrl", QObject::tr("Url"), 2 * kNarrow);
   controls.tUrl->setText(QStringLiteral("http://"));
   controls.Command9 = addButton(frame, "Command9", QObject::tr("&Visit"), QObject::tr("Open the site in the browser"));
-  controls.tUsername = makeText<ByteLineEdit>(&frame, "tUsername", QObject::tr("Username"), kNarrow);
-  controls.tPassword = makeText<ByteLineEdit>(&frame, "tPassword", QObject::tr("Password"), kNarrow);
+  controls.tUsername = addText<ByteLineEdit>(frame, "tUsername", QObject::tr("Username"), kNarrow);
+  controls.tPassword = addText<ByteLineEdit>(frame, "tPassword", QObject::tr("Password"), kNarrow);
   controls.tPassword->setEchoMode(QLineEdit::Password);
   controls.tGet = named(new QRadioButton(QObject::tr("&Get"), &frame), "tGet", QObject::tr("Method: Get"));
   controls.tPost = named(new QRadioButton(QObject::tr("P&ost"), &frame), "tPost", QObject::tr("Method: Post"));
   controls.tActive = named(new QCheckBox(QObject::tr("&Active"), &frame), "tActive", QObject::tr("Active"));
   controls.lbInterval = named(new QListWidget(&frame), "lbInterval", QObject::tr("Interval in minutes"));
+  for (const int minutes : kIntervals) {
+    controls.lbInterval->addItem(QString::number(minutes));
+  }
 }
 
-QLayout* layOutSite(const SiteEditorControls& controls) {
+QGridLayout* layOutSite(const SiteEditorControls& controls) {
   auto* url = new QHBoxLayout;
   url->addWidget(controls.tUrl, 1);
   url->addWidget(controls.Command9);
@@ -53,21 +43,20 @@ QLayout* layOutSite(const SiteEditorControls& controls) {
   method->addStretch();
 
   auto* fields = new QGridLayout;
-  fields->addWidget(labelOf(QObject::tr("&Url"), controls.tUrl), 0, 0);
+  fields->addWidget(addLabel(QObject::tr("&Url"), *controls.tUrl), 0, 0);
   fields->addLayout(url, 0, 1, 1, 3);
-  fields->addWidget(labelOf(QObject::tr("User&name"), controls.tUsername), 1, 0);
+  fields->addWidget(addLabel(QObject::tr("User&name"), *controls.tUsername), 1, 0);
   fields->addWidget(controls.tUsername, 1, 1);
-  fields->addWidget(labelOf(QObject::tr("&Password"), controls.tPassword), 2, 0);
+  fields->addWidget(addLabel(QObject::tr("&Password"), *controls.tPassword), 2, 0);
   fields->addWidget(controls.tPassword, 2, 1);
   fields->addWidget(new QLabel(QObject::tr("Method"), controls.Frame1), 3, 0);
   fields->addLayout(method, 3, 1);
   fields->addWidget(controls.tActive, 4, 1);
-  fields->addWidget(labelOf(QObject::tr("&Interval ( in minutes )"), controls.lbInterval), 1, 3);
+  fields->addWidget(addLabel(QObject::tr("&Interval ( in minutes )"), *controls.lbInterval), 1, 3);
   fields->addWidget(controls.lbInterval, 2, 3, 4, 1);
   fields->setColumnMinimumWidth(2, 8);
   fields->setColumnStretch(1, 2);
   fields->setColumnStretch(3, 1);
-  fields->setRowStretch(5, 1);
   // Some rows of the list at least; it scrolls to the others.
   controls.lbInterval->setMinimumHeight(controls.lbInterval->fontMetrics().height() * 5);
   controls.lbInterval->setMinimumWidth(controls.lbInterval->fontMetrics().averageCharWidth() * 8);
@@ -91,9 +80,9 @@ void makePostVars(QGroupBox& frame, SiteEditorControls& controls, PostVarModel& 
   grid->setMinimumHeight(grid->fontMetrics().height() * 7);
   grid->setMinimumWidth(grid->fontMetrics().averageCharWidth() * 44);
   controls.grid1 = grid;
-  auto* name = makeText<PromptLineEdit>(&frame, "pvName", QObject::tr("Name of the new variable"), 14);
+  auto* name = addText<PromptLineEdit>(frame, "pvName", QObject::tr("Name of the new variable"), 14);
   name->setPrompt(QObject::tr("enter name here"));
-  auto* value = makeText<PromptLineEdit>(&frame, "pvValue", QObject::tr("Value of the new variable"), 14);
+  auto* value = addText<PromptLineEdit>(frame, "pvValue", QObject::tr("Value of the new variable"), 14);
   value->setPrompt(QObject::tr("enter value here"));
   controls.pvName = name;
   controls.pvValue = value;
@@ -114,9 +103,9 @@ QLayout* layOutPostVars(const SiteEditorControls& controls) {
 
 void makeAlerts(QGroupBox& frame, SiteEditorControls& controls) {
   controls.cEmail = named(new QCheckBox(QObject::tr("&Email"), &frame), "cEmail", QObject::tr("Alert by e-mail"));
-  controls.tEmail = makeText<ByteLineEdit>(&frame, "tEmail", QObject::tr("E-mail address"), 24);
+  controls.tEmail = addText<ByteLineEdit>(frame, "tEmail", QObject::tr("E-mail address"), 24);
   controls.cPager = named(new QCheckBox(QObject::tr("Page&r"), &frame), "cPager", QObject::tr("Alert by pager"));
-  controls.tPager = makeText<QLineEdit>(&frame, "tPager", QObject::tr("Pager"), 24);
+  controls.tPager = addText<QLineEdit>(frame, "tPager", QObject::tr("Pager"), 24);
   auto* lines = new QGridLayout(&frame);
   lines->addWidget(controls.cEmail, 0, 0);
   lines->addWidget(controls.tEmail, 0, 1);
@@ -130,31 +119,33 @@ void makeButtons(QGroupBox& frame, SiteEditorControls& controls) {
   controls.Command2 = addButton(frame, "Command2", QObject::tr("&Content"),
                                 QObject::tr("Save, then show the page that every check is compared with"));
   controls.Command6 = addButton(frame, "Command6", QObject::tr("&Delete"), QObject::tr("Delete this site"));
-  controls.Command7 = addButton(frame, "Command7", QObject::tr("Coun&ters"), QObject::tr("Reset counters"));
+  controls.counters = addButton(frame, "Command7", QObject::tr("Coun&ters"), QObject::tr("Reset counters"));
   controls.Command8 = addButton(frame, "Command8", QObject::tr("Cancel"), QObject::tr("Close without saving (Esc)"));
   controls.Command1->setDefault(true);
   auto* row = new QHBoxLayout(&frame);
   for (QPushButton* button : {controls.Command1, controls.Command3, controls.Command2, controls.Command6,
-                              controls.Command7, controls.Command8}) {
+                              controls.counters, controls.Command8}) {
     row->addWidget(button);
   }
 }
 
 }  // namespace
 
-SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars) {
+SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, const std::vector<SiteField>& fields) {
   // Made in the order in which the eye reads them, which is the order of the Tab key.
   SiteEditorControls controls{};
-  controls.Frame1 = makeFrame(dialog, "Frame1", QObject::tr("Site ID:"));
+  controls.Frame1 = addFrame(dialog, "Frame1", QObject::tr("Site ID:"));
   makeSite(*controls.Frame1, controls);
-  QGroupBox* alerts = makeFrame(dialog, "Frame4", QObject::tr("Alerts"));
+  QGroupBox* alerts = addFrame(dialog, "Frame4", QObject::tr("Alerts"));
   makeAlerts(*alerts, controls);
-  QGroupBox* post = makeFrame(dialog, "Frame2", QObject::tr("HTTP Post Variables"));
+  QGroupBox* post = addFrame(dialog, "Frame2", QObject::tr("HTTP Post Variables"));
   makePostVars(*post, controls, postVars);
-  QGroupBox* control = makeFrame(dialog, "Frame3", QObject::tr("Control"));
+  QGroupBox* control = addFrame(dialog, "Frame3", QObject::tr("Control"));
   makeButtons(*control, controls);
 
-  controls.Frame1->setLayout(layOutSite(controls));
+  QGridLayout* site = layOutSite(controls);
+  controls.Frame1->setLayout(site);
+  bindFields(controls, fields, *site);
   post->setLayout(layOutPostVars(controls));
   auto* all = new QGridLayout(&dialog);
   all->addWidget(controls.Frame1, 0, 0);

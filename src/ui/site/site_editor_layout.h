@@ -1,5 +1,6 @@
 #pragma once
 
+#include <vector>
 #include <QCheckBox>
 #include <QDialog>
 #include <QGroupBox>
@@ -8,7 +9,7 @@
 #include <QRadioButton>
 #include <QTableView>
 
-#include "ui/controls/byte_line_edit.h"
+#include "ui/controls/field_control.h"
 #include "ui/site/post_var_model.h"
 
 namespace tarnwick {
@@ -16,6 +17,8 @@ namespace tarnwick {
 /// The site editor's controls; the dialog owns them. Each has its name as object name.
 struct SiteEditorControls {
   QGroupBox* Frame1;  ///< the site
+  /// Each field of the site.
+  std::vector<FieldControl> fields;
   ByteLineEdit* tUrl;
   ByteLineEdit* tUsername;
   ByteLineEdit* tPassword;
@@ -40,12 +43,12 @@ struct SiteEditorControls {
   QPushButton* Command3;  ///< Apply
   QPushButton* Command2;  ///< Content
   QPushButton* Command6;  ///< Delete
-  QPushButton* Command7;  ///< Counters
+  QPushButton* counters;  ///< its object name is Command7
   QPushButton* Command8;  ///< Cancel
 };
 
-/// Makes the controls of the site editor and lays them out: the site and its alerts on the left, the POST variables on
-/// the right, the buttons below.
-SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars);
+/// Makes the controls of the site editor, with one for each of `fields`, and lays them out: the site and its alerts on
+/// the left, the POST variables on the right, the buttons below.
+SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, const std::vector<SiteField>& fields);
 
 }  // namespace tarnwick

@@ -59,7 +59,7 @@ TEST_F(SiteGridViewTest, TheToolTipCountsTheHeaderAndTheEmptyPartOfAColumnToo) {
 }
 
 TEST_F(SiteGridViewTest, RightOfTheLastColumnThereIsNoToolTip) {
-  EXPECT_EQ(SiteGridView::columnToolTip(5), QStringLiteral("Date Last Checked"));
+  EXPECT_EQ(grid.columnToolTip(5), QStringLiteral("Date Last Checked"));
   show(1);
   grid.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   grid.horizontalHeader()->resizeSection(SiteGridModel::urlColumn, 100);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <QtCore/Qt>
+
+namespace tarnwick {
+
+/// A column of the list of sites: all that the list knows of it.
+struct SiteColumn {
+  const char* header;
+  /// What is told where the mouse stands on the column; null for nothing.
+  const char* hint;
+  Qt::AlignmentFlag alignment;
+  /// The text that the column is as wide as, when it is first shown; null: it takes the room that the others leave.
+  const char* widest;
+  /// How much of that width it gets.
+  int percent;
+  /// The field of a site table that it shows, one of `site_column`.
+  std::size_t field;
+};
+
+using SiteColumns = std::span<const SiteColumn>;
+
+/// The columns of the list, from left to right.
+SiteColumns siteColumns();
+
+}  // namespace tarnwick
