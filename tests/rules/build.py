@@ -108,7 +108,7 @@ def targets_of(tree: Tree) -> dict[str, Target]:
             visibility = None
             for argument in re.finditer(r"\S+", command.group(2)):
                 word = argument.group(0)
-                if word in ("PUBLIC", "PRIVATE", "SOURCES"):
+                if word in ("PUBLIC", "PRIVATE", "SOURCES", "HEADERS", "HEADERS_OF"):
                     visibility = word if kind in ("tarnwick_room", "target_link_libraries") else None
                 elif visibility in ("PUBLIC", "PRIVATE") and (word.startswith("tarnwick_") or "::" in word):
                     targets[name].links[word] = (visibility, line_of(text, command.start(2) + argument.start()))
