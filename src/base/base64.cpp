@@ -120,7 +120,6 @@ class Decoder {
 std::string decodeBase64(std::string_view text) { return Decoder(text).decode(); }
 
 std::string encodeBase64(std::string_view bytes) {
-  constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
   constexpr std::size_t kGroup = 3;
   std::string text;
   text.reserve((bytes.size() + kGroup - 1) / kGroup * 4);
@@ -131,7 +130,7 @@ std::string encodeBase64(std::string_view bytes) {
       bits = bits << 8U | (i < group.size() ? static_cast<unsigned char>(group[i]) : 0U);
     }
     for (std::size_t i = 0; i <= kGroup; ++i) {
-      text.push_back(i <= group.size() ? kLetters[bits >> (18U - 6U * static_cast<unsigned>(i)) & 63U] : '=');
+      text.push_back(i <= group.size() ? kAlphabet[bits >> (18U - 6U * static_cast<unsigned>(i)) & 63U] : '=');
     }
   }
   return text;

@@ -61,9 +61,9 @@ std::string SqlValue::toText() && {
   return std::as_const(*this).toText();
 }
 
-std::string SqlValue::toTableText() const& { return isNull() ? "NULL" : toText(); }
+std::string SqlValue::toTableText() const& { return isNull() ? kNullText : toText(); }
 
-std::string SqlValue::toTableText() && { return isNull() ? "NULL" : std::move(*this).toText(); }
+std::string SqlValue::toTableText() && { return isNull() ? kNullText : std::move(*this).toText(); }
 
 bool SqlValue::toBool() const {
   if (const auto* flag = std::get_if<bool>(&value_)) {

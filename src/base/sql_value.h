@@ -7,6 +7,9 @@
 
 namespace tarnwick {
 
+/// What a Null is in the row tables.
+inline constexpr const char* kNullText = "NULL";
+
 /// One field of a recordset: Null, a yes/no, a whole number, a number, or a byte string (text and dates).
 class SqlValue {
  public:
@@ -23,7 +26,7 @@ class SqlValue {
   std::string toText() const&;
   /// The same of a value that is not needed any more: a page of many megabytes is not copied.
   std::string toText() &&;
-  /// The same, but the four letters "NULL" for Null: the form of the row tables.
+  /// The same, but `kNullText` for Null: the form of the row tables.
   std::string toTableText() const&;
   std::string toTableText() &&;
 

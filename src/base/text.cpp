@@ -24,6 +24,12 @@ std::string_view trimmed(std::string_view text, std::string_view characters) {
   return text.substr(0, text.find_last_not_of(characters) + 1);
 }
 
+void appendPercentEncoded(std::string& text, char byte) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  const auto code = static_cast<unsigned char>(byte);
+  text += {'%', kDigits[code >> 4U], kDigits[code & 0xFU]};
+}
+
 std::optional<DecodedCharacter> decodeUtf8(std::string_view text) {
   if (text.empty()) {
     return std::nullopt;

@@ -22,6 +22,9 @@ bool equalsIgnoringCase(std::string_view one, std::string_view other);
 /// The text without the given characters at its two ends.
 std::string_view trimmed(std::string_view text, std::string_view characters = kWhiteSpace);
 
+/// Adds a byte as the percent sign and two digits that addresses and forms have for it.
+void appendPercentEncoded(std::string& text, char byte);
+
 /// A character and the number of bytes that it takes up, from 1 to 4.
 struct DecodedCharacter {
   char32_t character;

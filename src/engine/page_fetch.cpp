@@ -12,16 +12,12 @@ PageFetch::PageFetch(Database& database, SettingsAndLog& settings, SingleControl
     : database_(database), settings_(settings), single_(single), pump_(pump) {}
 
 std::string PageFetch::urlEncode(std::string_view text) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
   std::string encoded;
   for (const char c : toWindows1252(text)) {
     if (isLetter(c) || isDigit(c)) {
       encoded.push_back(c);
     } else {
-      const auto code = static_cast<unsigned char>(c);
-      encoded.push_back('%');
-      encoded.push_back(kDigits[code >> 4U]);
-      encoded.push_back(kDigits[code & 15U]);
+      appendPercentEncoded(encoded, c);
     }
   }
   return encoded;

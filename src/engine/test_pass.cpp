@@ -26,9 +26,6 @@ constexpr std::size_t kPassword = 10;
 // How much lighter the row of a site is while its request is under way.
 constexpr int kTestingBrightness = 36;
 
-// A database Null in the site table.
-constexpr const char* kNull = "NULL";
-
 constexpr const char* kNoAddress = "The address of the site is empty.";
 
 }  // namespace
@@ -259,7 +256,7 @@ void TestPass::countResult(std::int16_t id, bool passed) {
 // is not that site's, and must not become its baseline. What is due by then is fetched by the next pass.
 bool TestPass::stillAsSelected(std::size_t row) const {
   const std::string stored = needs_.results.getUrl(idSite(row));
-  return stored == url(row) || (stored.empty() && url(row) == kNull);
+  return stored == url(row) || (stored.empty() && url(row) == kNullText);
 }
 
 void TestPass::nextRow() {

@@ -12,15 +12,12 @@
 namespace tarnwick {
 namespace {
 
-constexpr const char* kNull = "NULL";
 constexpr std::int16_t kIntervalOfNewSite = 10;
 
 std::runtime_error siteIsGone(std::int16_t idSite) {
   return std::runtime_error("The site " + std::to_string(idSite) +
                             " is not in the list any more. Close its editor; to watch it again, add it with New.");
 }
-
-std::string textOf(const std::string& cell) { return cell == kNull ? std::string() : cell; }
 
 std::size_t rowOf(const TextTable& sites, std::int16_t idSite) {
   const std::string id = std::to_string(idSite);
@@ -46,7 +43,7 @@ SiteDraft readSite(m& data, std::int16_t idSite) {
   const auto text = [&](std::size_t column, const char* name) {
     const std::string& cell = sites.at(column, row);
     // Those four letters may be what was typed.
-    return cell != kNull
+    return cell != kNullText
                ? cell
                : firstText(data.database(), joinSql("select ", name, " from sites where idSite = ", sqlQuote(idSite)));
   };
@@ -65,8 +62,8 @@ std::vector<PostVar> readPostVars(m& data, std::int16_t idSite) {
   std::vector<PostVar> vars;
   for (std::size_t row = 1; row <= table.lastRow(); ++row) {
     PostVar var{table.at(1, row), table.at(2, row)};
-    if ((var.name == kNull || var.value == kNull) && !isStoredAs(data, idSite, var)) {
-      var = {textOf(var.name), textOf(var.value)};
+    if ((var.name == kNullText || var.value == kNullText) && !isStoredAs(data, idSite, var)) {
+      var = {textOrEmpty(var.name), textOrEmpty(var.value)};
     }
     vars.push_back(std::move(var));
   }

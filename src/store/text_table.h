@@ -4,14 +4,14 @@
 #include <deque>
 #include <string>
 
+#include "base/sql_value.h"
+
 namespace tarnwick {
 
 /// A list read from the database as texts, indexed (column, row). Both count from 1; column 0 and row 0 exist and
-/// stay empty. A database Null is the text "NULL".
+/// stay empty. A database Null is `kNullText`.
 class TextTable {
  public:
-  static constexpr const char* kNull = "NULL";
-
   /// A table with columns 0 to `lastColumn` and row 0 only.
   explicit TextTable(std::size_t lastColumn = 0) : columns_(lastColumn + 1), cells_(columns_) {}
 
@@ -30,7 +30,7 @@ class TextTable {
   const std::string& at(std::size_t column, std::size_t row) const { return cells_.at(indexOf(column, row)); }
   std::string& at(std::size_t column, std::size_t row) { return cells_.at(indexOf(column, row)); }
   /// Whether the text at (`column`, `row`) is that of a Null; raises as `at` does.
-  bool isNull(std::size_t column, std::size_t row) const { return at(column, row) == kNull; }
+  bool isNull(std::size_t column, std::size_t row) const { return at(column, row) == kNullText; }
 
  private:
   std::size_t indexOf(std::size_t column, std::size_t row) const {
@@ -41,5 +41,8 @@ class TextTable {
   // Grows without moving what is there: a long list has some hundred thousand cells.
   std::deque<std::string> cells_;
 };
+
+/// The text of a cell, empty for a Null.
+inline std::string textOrEmpty(const std::string& cell) { return cell == kNullText ? std::string() : cell; }
 
 }  // namespace tarnwick

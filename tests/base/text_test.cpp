@@ -36,6 +36,14 @@ TEST(Text, TrimmingTakesTheEndsAlone) {
   EXPECT_EQ(trimmed(" \ta\n ", " "), "\ta\n");
 }
 
+TEST(Text, AByteIsEncodedWithTwoDigits) {
+  std::string text = "a";
+  for (const char byte : {' ', '\0', '\xff', '/'}) {
+    appendPercentEncoded(text, byte);
+  }
+  EXPECT_EQ(text, "a%20%00%FF%2F");
+}
+
 TEST(Utf8, TellsWellFormedTextFromOtherBytes) {
   EXPECT_TRUE(isUtf8("plain, ü, 日, 😀"));
   for (const char* broken : {"\x80", "\xc3", "\xc0\xaf", "\xe0\x80\x80", "\xed\xa0\x80", "\xf5\x80\x80\x80",

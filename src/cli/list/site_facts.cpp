@@ -10,13 +10,9 @@
 namespace tarnwick {
 namespace {
 
-constexpr const char* kNull = "NULL";
-
-std::string textOf(const std::string& cell) { return cell == kNull ? std::string() : cell; }
-
 SiteDraft draftOfRow(const TextTable& sites, std::size_t row) {
   const auto flag = [&](std::size_t column) { return SqlValue(sites.at(column, row)).toBool(); };
-  const auto text = [&](std::size_t column) { return textOf(sites.at(column, row)); };
+  const auto text = [&](std::size_t column) { return textOrEmpty(sites.at(column, row)); };
   return {text(site_column::url),       text(site_column::method),     flag(site_column::active),
           text(site_column::tInterval), flag(site_column::alertEmail), text(site_column::email),
           text(site_column::sUserName), text(site_column::sPassWord)};
@@ -27,7 +23,7 @@ bool isUnclear(const TextTable& sites, std::size_t row) {
   return std::ranges::any_of(
       std::initializer_list<std::size_t>{site_column::url, site_column::method, site_column::email,
                                          site_column::sUserName, site_column::sPassWord},
-      [&](std::size_t column) { return sites.at(column, row) == kNull; });
+      [&](std::size_t column) { return sites.at(column, row) == kNullText; });
 }
 
 bool fits16Bits(std::int64_t id) {
@@ -41,9 +37,9 @@ SiteFacts factsOfRow(m& data, const TextTable& sites, std::size_t row) {
   facts.site = isUnclear(sites, row) && fits16Bits(facts.idSite)
                    ? readSite(data, static_cast<std::int16_t>(facts.idSite))
                    : draftOfRow(sites, row);
-  facts.lastChecked = textOf(sites.at(site_column::lastChecked, row));
+  facts.lastChecked = textOrEmpty(sites.at(site_column::lastChecked, row));
   const std::string& status = sites.at(site_column::status, row);
-  if (status != kNull) {
+  if (status != kNullText) {
     facts.status = SqlValue(status).toBool();
   }
   facts.success = number(site_column::success);

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <limits>
 
+#include "base/text.h"
 #include "cli/terminal/console.h"
 #include "platform/transfer_control.h"
 
@@ -12,12 +13,6 @@ namespace {
 
 constexpr std::size_t kLongestQuoted = 60;
 constexpr std::int16_t kHighest = std::numeric_limits<std::int16_t>::max();
-
-char lowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-bool equalsIgnoringCase(std::string_view one, std::string_view other) {
-  return std::ranges::equal(one, other, {}, lowerCase, lowerCase);
-}
 
 bool isOneOf(std::string_view text, std::initializer_list<std::string_view> words) {
   return std::ranges::any_of(words, [&](std::string_view word) { return equalsIgnoringCase(text, word); });
@@ -117,11 +112,6 @@ std::optional<std::string> ListValues::baseline(std::string bytes) {
 
 std::string quotedForMessage(std::string_view text) { return '"' + visibleText(text, kLongestQuoted) + '"'; }
 
-std::string_view withoutBlanks(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t";
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  return first == std::string_view::npos ? std::string_view()
-                                         : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
+std::string_view withoutBlanks(std::string_view text) { return trimmed(text, " \t"); }
 
 }  // namespace tarnwick

@@ -3,32 +3,28 @@
 #include <optional>
 #include <stdexcept>
 
+#include "base/text.h"
 #include "cli/list/site_list.h"
 
 namespace tarnwick {
 namespace {
 
 bool isUnreserved(char c) {
-  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') ||
-         std::string_view("-._~").find(c) != std::string_view::npos;
+  return isLetter(c) || isDigit(c) || std::string_view("-._~").find(c) != std::string_view::npos;
 }
 
 void appendEncoded(std::string& text, std::string_view bytes) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
   for (const char c : bytes) {
     if (isUnreserved(c)) {
       text += c;
     } else {
-      const auto byte = static_cast<unsigned char>(c);
-      text += {'%', kDigits[byte >> 4U], kDigits[byte & 0xFU]};
+      appendPercentEncoded(text, c);
     }
   }
 }
 
 std::optional<unsigned> hexDigit(char c) {
-  constexpr std::string_view kUpper = "0123456789ABCDEF";
-  constexpr std::string_view kLower = "0123456789abcdef";
-  const std::size_t value = std::min(kUpper.find(c), kLower.find(c));
+  const std::size_t value = std::string_view("0123456789abcdef").find(lowerCase(c));
   return value == std::string_view::npos ? std::nullopt : std::optional(static_cast<unsigned>(value));
 }
 

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "base/base64.h"
+#include "base/sql_value.h"
 #include "base/text.h"
 
 namespace tarnwick {
@@ -29,7 +30,7 @@ std::string bytesOfJson(const Json& value) {
   throw std::runtime_error(R"(A text is expected: a string, or {"base64": "..."} for bytes that are no UTF-8.)");
 }
 
-Json jsonCell(const std::string& cell) { return cell == "NULL" ? Json() : jsonText(cell); }
+Json jsonCell(const std::string& cell) { return cell == kNullText ? Json() : jsonText(cell); }
 
 void sayJson(Console& console, const Json& value) { console.say(value.dump(2)); }
 

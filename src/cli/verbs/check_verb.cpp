@@ -106,7 +106,7 @@ void tellWhatIsNeverDue(Console& console, m& data) {
   std::size_t count = 0;
   std::string ids;
   for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
-    if (sites.at(site_column::lastChecked, row) == "NULL" && ++count <= kMostNamed) {
+    if (sites.at(site_column::lastChecked, row) == kNullText && ++count <= kMostNamed) {
       ids += " " + sites.at(site_column::idSite, row);
     }
   }

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <ostream>
 
+#include "base/text.h"
 #include "cli/list/site_import.h"
 #include "cli/list/site_list_csv.h"
 #include "cli/list/site_list_json.h"
@@ -33,12 +34,6 @@ struct ImportVerbOptions {
   bool yes = false;
   bool json = false;
 };
-
-std::string lowerCase(std::string text) {
-  std::ranges::transform(text, text.begin(),
-                         [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  return text;
-}
 
 Format formatOf(const std::string& file, const std::string& format) {
   const std::string end =

@@ -38,7 +38,7 @@ void RunTerminal::prepare(m& data) {
   for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
     const std::string& status = sites.at(site_column::status, row);
     const auto id = idOf(sites.at(site_column::idSite, row));
-    if (id && status != "NULL") {
+    if (id && status != kNullText) {
       known_[*id] = SqlValue(status).toBool();
     }
   }

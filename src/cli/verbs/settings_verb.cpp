@@ -5,6 +5,7 @@
 #include <optional>
 #include <ostream>
 
+#include "base/text.h"
 #include "cli/terminal/json_text.h"
 #include "cli/terminal/text_grid.h"
 #include "cli/verbs/verbs.h"
@@ -38,12 +39,6 @@ struct SettingsOptions {
   std::optional<std::string> value;
   bool json = false;
 };
-
-std::string lowerCase(std::string text) {
-  std::ranges::transform(text, text.begin(),
-                         [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  return text;
-}
 
 const Key& keyOf(const std::string& name) {
   const auto key = std::ranges::find(kKeys, lowerCase(name), &Key::name);

@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "base/text.h"
 #include "cli/terminal/input_file.h"
 #include "cli/terminal/json_text.h"
 #include "platform/address.h"
@@ -36,12 +37,6 @@ struct SiteEdit {
            !passwordFile && posts.empty();
   }
 };
-
-std::string lowerCase(std::string text) {
-  std::ranges::transform(text, text.begin(),
-                         [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  return text;
-}
 
 // A password is a line: editors end it, and `echo` does.
 std::string readPassword(const std::string& file) {

@@ -12,7 +12,7 @@ namespace tarnwick {
 namespace {
 
 std::string cellOf(const TextTable& sites, std::size_t column, std::size_t row) {
-  return sites.isNull(column, row) ? std::string() : sites.at(column, row);
+  return textOrEmpty(sites.at(column, row));
 }
 
 std::optional<std::int16_t> idOf(const std::string& text) {
