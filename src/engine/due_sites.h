@@ -41,6 +41,7 @@ class DueSites {
   /// The soonest-due active site. Raises OverflowError when its id does not fit 16 bits, or its check interval 32.
   MinWaitTime getMinWaitTime();
 
+  /// Vocabulary: no front end calls them.
   /// The ids of the active sites that are due, rising. Raise OverflowError for an id that does not fit 16 bits.
   std::vector<std::int16_t> getSitesToTest();
   std::vector<std::int16_t> xgetSitesToTest();

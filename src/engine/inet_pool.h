@@ -67,6 +67,7 @@ class InetPool {
   /// Frees the memory of a row's page text once it has been judged.
   void releaseSiteContent(std::size_t row);
 
+  /// Vocabulary: no front end calls it.
   /// What a state number means, in words; "undefined state" for numbers that are none.
   static std::string_view getStateDescription(std::int16_t state);
 

@@ -45,12 +45,15 @@ class ResultRecording {
   /// date.
   std::optional<LocalTime> getLastChecked(std::int16_t idSite);
 
+  /// Vocabulary: no front end calls it.
   /// Whether the last check found the site up; false when never judged or when there is no such site.
   bool getStatus(std::int16_t idSite);
   void setStatus(std::int16_t idSite, bool status);
+  /// Vocabulary: no front end calls it.
   /// Marks every site as up.
   void clearStatus();
 
+  /// Vocabulary: no front end calls them.
   /// Whether the site is to be checked; false when there is no such site.
   bool getActive(std::int16_t idSite);
   void setActive(std::int16_t idSite, bool active);

@@ -66,6 +66,7 @@ class RunController {
   void init();
   /// Sets the run clock's start to now and shows it.
   void resetClock();
+  /// Vocabulary: no front end calls it.
   /// Shows the time of a site's last check in the grid.
   void UpdateLastChecked(std::int16_t idSite);
 
@@ -80,6 +81,7 @@ class RunController {
 
   bool running() const { return running_; }
   bool busy() const { return busy_; }
+  /// Vocabulary: no front end calls them.
   bool inTimerPass() const { return inTimerPass_; }
   std::int32_t secondsToNext() const { return secondsToNext_; }
 

@@ -23,6 +23,7 @@ class Database {
   /// Runs a statement whose rows, if any, do not matter.
   void execute(std::string sql);
 
+  /// Vocabulary: no front end calls it.
   /// The statement most recently built.
   const std::string& sqlText() const { return sqlText_; }
   const std::string& connString() const { return connString_; }

@@ -42,6 +42,7 @@ class SettingsAndLog {
   /// DataAccessError when there is no such column.
   SqlValue getControl(const std::string& key);
 
+  /// Vocabulary: no front end calls it.
   /// Writes the setting `key`: a text, a yes/no or a whole number. Raises DataAccessError when there is no such
   /// column or it cannot hold the value; the stored value stays then.
   template <typename Value>
@@ -62,6 +63,7 @@ class SettingsAndLog {
   /// Empties the log.
   void clearLog();
 
+  /// Vocabulary: no front end calls it.
   /// Writes ten rows to the scratch table `test` and reads them back.
   void Test();
 

@@ -30,6 +30,7 @@ class SiteRecords {
   /// matching site the table has row 0 only.
   TextTable getArraySites(std::int16_t idSite);
 
+  /// Vocabulary: no front end calls it.
   /// The method that table `methods` holds for a site; "NONE" when it holds none.
   std::string getMethod(std::int16_t idSite);
 

@@ -12,6 +12,7 @@ class TextFiles {
  public:
   explicit TextFiles(DesktopOpener& opener) : opener_(opener) {}
 
+  /// Vocabulary: no front end calls it.
   /// Writes `data` over the start of the file, which is made when it is missing. What an existing file holds beyond
   /// the data stays.
   static void saveFileB(const std::string& path, const std::string& data);

@@ -28,6 +28,8 @@ namespace tarnwick {
 /// output file gets the permissions of the input file.
 ///
 /// Paths are UTF-8.
+///
+/// Vocabulary: no front end calls it.
 class UUCode {
  public:
   /// Both outlive this object.
