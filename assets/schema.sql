@@ -7,6 +7,8 @@
 
 PRAGMA encoding = 'UTF-8';
 PRAGMA auto_vacuum = NONE;
+-- The form of the tables: the original ones are form 0; the program brings an older list to today's form.
+PRAGMA user_version = 1;
 
 BEGIN;
 
@@ -86,5 +88,16 @@ CREATE TABLE methods (
   idSite INTEGER CONSTRAINT "idSite takes a whole number" CHECK (typeof(idSite) IN ('integer', 'null')),
   method TEXT
 );
+
+-- What a site, or all of them (idSite 0), does otherwise than originally. Here the ways that are recommended; without a
+-- row the program does as it originally did.
+CREATE TABLE siteOptions (
+  idSite INTEGER NOT NULL,
+  name TEXT NOT NULL,
+  value TEXT NOT NULL,
+  PRIMARY KEY (idSite, name)
+) WITHOUT ROWID;
+INSERT INTO siteOptions (idSite, name, value)
+VALUES (0, 'newSites', 'at once'), (0, 'adopt', 'pages only'), (0, 'mailLimit', '60');
 
 COMMIT;

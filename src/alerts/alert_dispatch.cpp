@@ -1,6 +1,7 @@
 #include "alerts/alert_dispatch.h"
 
 #include <chrono>
+#include <memory>
 #include <string_view>
 #include <thread>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "base/text.h"
 #include "mail/smtp.h"
 #include "platform/file_access.h"
+#include "store/site_options.h"
 #include "store/sql_quote.h"
 
 namespace tarnwick {
@@ -97,6 +99,13 @@ void AlertDispatch::sendMail(const AlertFacts& facts, const std::string& server,
   const std::string path = db_.programFolder() + "/" + kTemplateFile;
   const std::string body = fillTemplate(textOrNothing(files_, path), facts, services_.clock);
   std::int16_t port = smtpPort_;
+  const auto limit = readOptions(db_).valueOf(kAllSites, option_name::mailLimit);
+  const std::unique_ptr<Timer> end = services_.timers.makeTimer([this] { giveUpMail(); });
+  mailSocket_.bounded = limit.has_value();
+  if (limit) {
+    end->setInterval(std::chrono::seconds(std::stoi(*limit)));
+    end->setEnabled(true);
+  }
   smtp(mailSocket_, services_.pump).sendEmail(server, facts.email, from, kSubject, body, port);
 }
 

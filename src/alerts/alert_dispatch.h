@@ -28,6 +28,10 @@ class AlertDispatch {
   /// program folder (nothing when that cannot be read) with its placeholders filled in.
   void sendAlerts(std::int16_t idSite);
 
+  /// Ends the wait for a mail server of the alert in progress, if the option `mailLimit` bounds it: who stops a run
+  /// does not want to wait for it.
+  void giveUpMail() { mailSocket_.givenUp = true; }
+
   /// Fills sample facts into `command` and starts it as the program alert would.
   void testShellExecuteAlert(const std::string& command);
 

@@ -43,6 +43,13 @@ TextTable DueSites::getSitesDueOrNeverChecked() {
                                     ") AND ", kIsActive, " ", kById));
 }
 
+bool DueSites::changedByOthers() {
+  // https://www.sqlite.org/pragma.html#pragma_data_version
+  const auto rows = db_.conn().execute("pragma data_version", {});
+  const std::int64_t version = rows->eof() ? 0 : rows->field(std::size_t{0}).toInt64();
+  return std::exchange(version_, version) != version;
+}
+
 MinWaitTime DueSites::getMinWaitTime() {
   const auto rows =
       db_.query(joinSql("SELECT TOP 1 idsite,url,tInterval*60 AS tlc, "

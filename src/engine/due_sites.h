@@ -41,6 +41,9 @@ class DueSites {
   /// The soonest-due active site. Raises OverflowError when its id does not fit 16 bits, or its check interval 32.
   MinWaitTime getMinWaitTime();
 
+  /// Whether another program has changed the database since this was asked last.
+  bool changedByOthers();
+
   /// Vocabulary: no front end calls them.
   /// The ids of the active sites that are due, rising. Raise OverflowError for an id that does not fit 16 bits.
   std::vector<std::int16_t> getSitesToTest();
@@ -50,6 +53,7 @@ class DueSites {
   std::vector<std::int16_t> readIds(std::string sql);
 
   Database& db_;
+  std::int64_t version_ = 0;
 };
 
 }  // namespace tarnwick

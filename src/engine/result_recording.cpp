@@ -27,18 +27,18 @@ Judged readJudged(Database& database, std::int16_t idSite) {
 }  // namespace
 
 bool ResultRecording::testSite(std::int16_t idSite, const std::string& content, std::int32_t errCode,
-                               const std::string& errDescription) {
+                               const std::string& errDescription, FirstBaseline first) {
   Transaction whole(db_);
   const Judged site = readJudged(db_, idSite);
   const std::string quotedContent = sqlQuote(content);
   const std::string id = sqlQuote(idSite);
 
-  const bool adopted = site.baseline.empty();
+  const bool adopted = site.baseline.empty() && (first == FirstBaseline::anything || errCode == 0);
   if (adopted) {
     db_.execute(joinSql("update sites set content_compare = '", quotedContent, "'", " WHERE idsite = ", id));
   }
   db_.execute(joinSql("update sites set content_runtime = '", quotedContent, "'", " WHERE idsite = ", id));
-  const bool result = adopted || content == site.baseline;
+  const bool result = adopted || (!site.baseline.empty() && content == site.baseline);
   log_.addLog(idSite, site.url, result, errCode, errDescription, result ? std::string() : content);
   xupdateLastChecked(idSite);
 

@@ -10,6 +10,12 @@
 
 namespace tarnwick {
 
+/// What becomes the baseline of a site that has none.
+enum class FirstBaseline {
+  anything,   ///< the first answer, also the text of a fetch that failed
+  pagesOnly,  ///< the first page; a fetch that failed leaves the site down and without a baseline
+};
+
 /// Judges a fetched page and keeps the outcome in the site's row and in the log. A site is up when the page equals its
 /// stored baseline byte for byte; the first page of a site without a baseline becomes its baseline. Every failed
 /// statement raises DataAccessError. A change to a site that does not exist does nothing.
@@ -29,7 +35,7 @@ class ResultRecording {
   /// check, and logs the check: the page only when the site is down. True when the site is up. `errCode` and
   /// `errDescription` are logged and take no part in the verdict. All is written, or nothing.
   bool testSite(std::int16_t idSite, const std::string& content, std::int32_t errCode,
-                const std::string& errDescription);
+                const std::string& errDescription, FirstBaseline first = FirstBaseline::anything);
 
   /// Empties the baseline: the next page fetched becomes it.
   void clearContentCompare(std::int16_t idSite);

@@ -11,6 +11,7 @@
 #include "engine/result_recording.h"
 #include "engine/test_pass.h"
 #include "platform/prompts.h"
+#include "store/site_options.h"
 
 namespace tarnwick {
 namespace {
@@ -59,6 +60,7 @@ void RunController::startChecking() {
 }
 
 void RunController::stopChecking() {
+  needs_.alerts.giveUpMail();
   needs_.view.indicators(RunState::pause);
   running_ = false;
   needs_.view.indicators(RunState::stop);
@@ -73,7 +75,7 @@ void RunController::runTestPass(std::int16_t mode) {
   const bool takesWhatWasLeft = std::exchange(somethingWasLeft_, false) && mode == kDueSites;
   try {
     TestPass pass(*this, needs_, busy_);
-    if (takesWhatWasLeft) {
+    if (takesWhatWasLeft || (mode == kDueSites && takesNewSitesAtOnce())) {
       pass.test(needs_.dueSites.getSitesDueOrNeverChecked());
     } else {
       pass.test(mode);
@@ -87,6 +89,10 @@ void RunController::runTestPass(std::int16_t mode) {
     somethingWasLeft_ = true;
     throw;
   }
+}
+
+bool RunController::takesNewSitesAtOnce() {
+  return needs_.options.optionsInForce().valueOf(kAllSites, option_name::newSites) == "at once";
 }
 
 void RunController::BackOff::passFailed() {
@@ -154,6 +160,9 @@ void RunController::tmrCheckSites_Timer() {
 bool RunController::countDown() {
   inTimerPass_ = false;
   --secondsToNext_;
+  if (secondsToNext_ > 0 && needs_.dueSites.changedByOthers() && takesNewSitesAtOnce()) {
+    secondsToNext_ = -1;  // there may be a site that nobody has counted
+  }
   if (wallClockWasSet() || secondsToNext_ < 0) {
     // Due at once, should this fail.
     secondsToNext_ = 0;

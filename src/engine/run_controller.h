@@ -20,6 +20,7 @@ class AlertDispatch;
 class DueSites;
 class PageFetch;
 class ResultRecording;
+class SiteOptions;
 
 /// The program's main loop: the run's state, the countdown to the next due site, and the test pass that fetches every
 /// selected site through the pool, judges each result, records it and raises the alerts of a failure.
@@ -39,6 +40,7 @@ class RunController {
     RunView& view;
     const Clock& clock;
     EventPump& pump;
+    SiteOptions& options;
   };
 
   /// Wraps a timer's handler, for instance to show its failure in a box: called with the handler's name and itself.
@@ -102,6 +104,7 @@ class RunController {
   };
 
   void guardedTick();
+  bool takesNewSitesAtOnce();
   /// Counts one second down; true when a pass is to begin.
   bool countDown();
   void timerPass();

@@ -59,6 +59,7 @@ void TestPass::test(std::int16_t mode) { test(needs_.dueSites.getArraySitesActiv
 
 void TestPass::test(TextTable sites) {
   sites_ = std::move(sites);
+  options_ = needs_.options.optionsInForce();
   setUpPool();
   if (count() == 0) {
     return;
@@ -225,7 +226,7 @@ void TestPass::recordResult(std::size_t row, const std::string& content, std::in
   if (!stillAsSelected(row)) {
     return;
   }
-  const bool passed = needs_.results.testSite(id, content, errCode, errDescription);
+  const bool passed = needs_.results.testSite(id, content, errCode, errDescription, firstBaselineOf(id));
   needs_.results.setStatus(id, passed);
   if (passed) {
     countResult(id, true);
@@ -241,6 +242,10 @@ void TestPass::recordResult(std::size_t row, const std::string& content, std::in
   }
   std::erase(brightened_, id);
   needs_.view.showResult({id, url(row), passed, errCode, errDescription, content});
+}
+
+FirstBaseline TestPass::firstBaselineOf(std::int16_t id) const {
+  return options_.valueOf(id, option_name::adopt) == "pages only" ? FirstBaseline::pagesOnly : FirstBaseline::anything;
 }
 
 // A full counter is no reason to forget the check itself, or the sites behind this one.

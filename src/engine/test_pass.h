@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "engine/result_recording.h"
 #include "engine/run_controller.h"
+#include "store/site_options.h"
 #include "store/text_table.h"
 
 namespace tarnwick {
@@ -44,6 +46,7 @@ class TestPass {
   void recordResult(std::size_t row, const std::string& content, std::int32_t errCode,
                     const std::string& errDescription);
   void putOffUnlessGeneral();
+  FirstBaseline firstBaselineOf(std::int16_t id) const;
   void countResult(std::int16_t id, bool passed);
   static void putOff(std::exception_ptr& first, const std::exception_ptr& fault);
   void raisePutOff() const;
@@ -59,6 +62,7 @@ class TestPass {
   const RunController::Needs& needs_;
   bool& busy_;
   TextTable sites_;
+  OptionsInForce options_;
   std::vector<std::string> urls_;
   std::vector<std::int16_t> brightened_;
   // The first faults that concern one site alone, told when the others have been tested: one that left its check to be

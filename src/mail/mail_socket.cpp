@@ -60,6 +60,11 @@ MailSocket::MailSocket(TcpSocketMaker& sockets) : winsock1_(sockets.makeTcpSocke
   winsock1_->onDataArrival([this] { dataArrival(); });
 }
 
+bool MailSocket::isOver() const {
+  const SocketState state = winsock1_->state();
+  return bounded && (givenUp || state == SocketState::closed || state == SocketState::error);
+}
+
 void MailSocket::dataArrival() {
   winsockData = winsock1_->getData();
   const std::string_view data = winsockData;

@@ -26,6 +26,13 @@ class MailSocket {
   /// True while a mail is being handed over. A second exchange must not begin then: they would take each other's
   /// replies.
   bool inExchange = false;
+  /// Whether the exchange ends, unsuccessfully, when the connection is gone or `givenUp` is set. Otherwise a server
+  /// that stays silent is waited for until the program is being closed.
+  bool bounded = false;
+  /// Set when a bounded exchange has lasted too long or is not wanted any more.
+  bool givenUp = false;
+  /// True when a bounded exchange has nothing to wait for any more.
+  bool isOver() const;
 
  private:
   void dataArrival();

@@ -32,7 +32,10 @@ std::string messageText(const std::string& to, const std::string& subject, const
 /// One exchange's hold on the socket: it is the only one, and the connection is closed at its end whatever happened.
 class Exchange {
  public:
-  explicit Exchange(MailSocket& mail) : mail_(mail) { mail_.inExchange = true; }
+  explicit Exchange(MailSocket& mail) : mail_(mail) {
+    mail_.inExchange = true;
+    mail_.givenUp = false;
+  }
   ~Exchange() {
     mail_.winsock1().close();
     mail_.inExchange = false;
@@ -83,15 +86,16 @@ bool smtp::connectTo(const std::string& server, std::int16_t port) {
   const auto settled = [&socket] {
     return socket.state() == SocketState::connected || socket.state() == SocketState::error;
   };
-  while (!settled() && !pump_.closing()) {
+  while (!settled() && !pump_.closing() && !mail_.isOver()) {
     pump_.waitForEvent();
   }
   return socket.state() == SocketState::connected;
 }
 
-/// False when no reply came because the program is being closed, or one came that cannot be understood at all.
+/// False when no reply came because the program is being closed or the exchange is over, or one came that cannot be
+/// understood at all.
 bool smtp::awaitReply() {
-  while (mail_.wWaiting && !pump_.closing()) {
+  while (mail_.wWaiting && !pump_.closing() && !mail_.isOver()) {
     pump_.waitForEvent();
   }
   return !mail_.wWaiting && !mail_.winsockCodeOverflow;

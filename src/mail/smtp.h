@@ -16,7 +16,7 @@ class smtp {
 
   /// Delivers a mail of `mSubject` and `mMsg` from `mFrom` to `mTo` through `server` (a name or an address) and returns
   /// when the exchange is over; events are handled meanwhile. There is no time-out: a server that stays silent is
-  /// waited for until the program is being closed.
+  /// waited for until the program is being closed, or, in a bounded exchange (see `MailSocket`), until it is over.
   ///
   /// `port` 0 becomes 25, in the caller's variable too; a port above 32767 is the negative number of the same 16 bits.
   ///

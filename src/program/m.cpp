@@ -2,11 +2,12 @@
 
 namespace tarnwick {
 
-m::m(const std::string& programFolder, const Services& services)
+m::m(const std::string& programFolder, const Services& services, const Fields& fields)
     : MembersOfM(programFolder, services),
       SiteRecords(ownedDatabase_),
       PostVars(ownedDatabase_),
-      SettingsAndLog(ownedDatabase_),
+      SettingsAndLog(ownedDatabase_, fields),
+      SiteOptions(ownedDatabase_, fields.options),
       ResultLog(ownedDatabase_),
       TextFiles(services.opener),
       DueSites(ownedDatabase_),
@@ -14,6 +15,7 @@ m::m(const std::string& programFolder, const Services& services)
       ResultRecording(ownedDatabase_, *this, services.clock),
       AlertDispatch(ownedDatabase_, *this, *this, ownedMail_, services),
       DailyReport(ownedDatabase_, services.clock),
-      Compaction(ownedDatabase_, services.databases, ownedFiles_, services.prompts) {}
+      Compaction(ownedDatabase_, services.databases, ownedFiles_, services.prompts),
+      fields_(fields) {}
 
 }  // namespace tarnwick

@@ -16,6 +16,7 @@
 #include "store/post_vars.h"
 #include "store/result_log.h"
 #include "store/settings_and_log.h"
+#include "store/site_options.h"
 #include "store/site_records.h"
 #include "store/text_files.h"
 
@@ -48,6 +49,7 @@ class m : private MembersOfM,
           public SiteRecords,
           public PostVars,
           public SettingsAndLog,
+          public SiteOptions,
           public ResultLog,
           public TextFiles,
           public DueSites,
@@ -58,12 +60,14 @@ class m : private MembersOfM,
           public Compaction {
  public:
   /// Opens the database of `programFolder` (no trailing separator); raises DataAccessError when it is missing or
-  /// damaged. What `services` refers to outlives this object.
-  m(const std::string& programFolder, const Services& services);
+  /// damaged. What `services` refers to outlives this object, and so does `fields`.
+  m(const std::string& programFolder, const Services& services, const Fields& fields = programFields());
 
   /// The program folder: where the database, the template, the images and the reports lie.
   const std::string& programFolder() const { return ownedDatabase_.programFolder(); }
   Database& database() { return ownedDatabase_; }
+  /// What can be set of a site, of the program and beside the original behaviour.
+  const Fields& fields() const { return fields_; }
   /// The control of `getHtmlFromSite`.
   SingleControl& single() { return ownedControl_; }
   /// The socket of the alert mails.
@@ -71,6 +75,8 @@ class m : private MembersOfM,
 
  private:
   using SettingsAndLog::addLog;
+
+  const Fields& fields_;
 };
 
 }  // namespace tarnwick

@@ -8,10 +8,19 @@ namespace tarnwick {
 struct Program::Parts {
   using Handler = std::function<void()>;
 
-  Parts(const std::string& folder, const Services& services, RunView& view, FaultBox& faults)
-      : data(folder, services),
+  Parts(const std::string& folder, const Services& services, RunView& view, FaultBox& faults, const Fields& fields)
+      : data(folder, services, fields),
         pool(data, services.transfers, services.timers),
-        run({data, data, data, data, pool, view, services.clock, services.pump}, services.timers,
+        run({.dueSites = data,
+             .pages = data,
+             .results = data,
+             .alerts = data,
+             .pool = pool,
+             .view = view,
+             .clock = services.clock,
+             .pump = services.pump,
+             .options = data},
+            services.timers,
             [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }),
         report(
             {data, data, [this] { return run.running(); }, [&view](const std::string& text) { view.showStatus(text); }},
@@ -24,10 +33,11 @@ struct Program::Parts {
   ReportTimer report;
 };
 
-Program::Program(std::string programFolder, const Services& services, RunView& view)
+Program::Program(std::string programFolder, const Services& services, RunView& view, const Fields& fields)
     : programFolder_(std::move(programFolder)),
       services_(services),
       view_(view),
+      fields_(fields),
       faults_(services.prompts, [this] { return parts_ && parts_->run.busy(); }),
       lock_(services.runLocks.makeRunLock(programFolder_)) {}
 
@@ -35,7 +45,7 @@ Program::~Program() = default;
 
 Program::Parts& Program::parts() {
   if (!parts_) {
-    parts_ = std::make_unique<Parts>(programFolder_, services_, view_, faults_);
+    parts_ = std::make_unique<Parts>(programFolder_, services_, view_, faults_, fields_);
   }
   return *parts_;
 }

@@ -21,19 +21,20 @@ namespace tarnwick {
 ///     tarnwick::SilentView view;
 ///     tarnwick::Program program("/path/of/the/program/folder", machine.services(), view);
 ///     program.start();                       // opens the database, gets ready; no run starts by itself
-///     program.run().startChecking();         // one pass over every active site, then the timers go on
+///     program.startRun();                    // one pass over every active site, then the timers go on
 ///     application.exec();
 class Program {
  public:
-  /// Opens nothing yet. `services` refers to objects that outlive this one, and so does `view`.
-  Program(std::string programFolder, const Services& services, RunView& view);
+  /// Opens nothing yet. `services` refers to objects that outlive this one, and so do `view` and
+  /// `fields`, what can be set.
+  Program(std::string programFolder, const Services& services, RunView& view, const Fields& fields = programFields());
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
   /// The program's data, opened on first use; raises DataAccessError when the database cannot be opened.
   m& data();
-  /// The run and the pool it fetches through.
+  /// The run and the pool it fetches through. A run is started by `startRun`, which takes the folder's lock.
   RunController& run();
   InetPool& pool();
   /// What writes the day's report while a run is on.
@@ -63,6 +64,7 @@ class Program {
   std::string programFolder_;
   Services services_;
   RunView& view_;
+  const Fields& fields_;
   FaultBox faults_;
   std::unique_ptr<RunLock> lock_;
   std::unique_ptr<Parts> parts_;

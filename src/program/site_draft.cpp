@@ -47,14 +47,21 @@ SiteDraft readSite(m& data, std::int16_t idSite) {
                ? cell
                : firstText(data.database(), joinSql("select ", name, " from sites where idSite = ", sqlQuote(idSite)));
   };
-  return {text(site_column::url, "url"),
-          text(site_column::method, "method"),
-          flag(site_column::active),
-          text(site_column::tInterval, "tInterval"),
-          flag(site_column::alertEmail),
-          text(site_column::email, "email"),
-          text(site_column::sUserName, "sUserName"),
-          text(site_column::sPassWord, "sPassWord")};
+  SiteDraft site{text(site_column::url, "url"),
+                 text(site_column::method, "method"),
+                 flag(site_column::active),
+                 text(site_column::tInterval, "tInterval"),
+                 flag(site_column::alertEmail),
+                 text(site_column::email, "email"),
+                 text(site_column::sUserName, "sUserName"),
+                 text(site_column::sPassWord, "sPassWord")};
+  for (const SiteField& field : data.fields().site) {
+    if (std::holds_alternative<std::monostate>(field.member)) {
+      site.further[field.name] =
+          firstText(data.database(), joinSql("select ", field.name, " from sites where idSite = ", sqlQuote(idSite)));
+    }
+  }
+  return site;
 }
 
 std::vector<PostVar> readPostVars(m& data, std::int16_t idSite) {
@@ -85,6 +92,13 @@ void storeSite(m& data, std::int16_t idSite, const SiteDraft& site, const std::v
                              : SqlValue(site.tInterval).toInt16("The interval of site " + std::to_string(idSite));
   data.updateSites(idSite, site.url, site.method, site.active, interval, site.alertEmail, site.email, site.sUserName,
                    site.sPassWord);
+  for (const SiteField& field : data.fields().site) {
+    if (const auto value = site.further.find(field.name); value != site.further.end()) {
+      const char* const quote = field.kind == FieldKind::flag ? "" : "'";
+      data.database().execute(joinSql("update sites set ", field.name, " = ", quote, sqlQuote(value->second), quote,
+                                      " where idSite = ", sqlQuote(idSite)));
+    }
+  }
   data.clearPostVars(idSite);
   for (const PostVar& var : vars) {
     data.addPostVars(idSite, var.name, var.value);

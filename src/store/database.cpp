@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/file_access.h"
+#include "store/migrations.h"
 
 namespace tarnwick {
 
@@ -16,14 +17,24 @@ Database::Database(const std::string& programFolder, SqlConnectionMaker& databas
       dbPath_ +
       ";"
       "Jet OLEDB:Engine Type=4;";
+  open();
+}
+
+void Database::open() {
   conn_->open(connString_);
+  try {
+    bringUpToDate(*conn_, dbPath_);
+  } catch (...) {
+    conn_->close();
+    throw;
+  }
 }
 
 Database::~Database() { conn_->close(); }
 
 SqlConnection& Database::conn() {
   if (!conn_->isOpen()) {
-    conn_->open(connString_);
+    open();
   }
   return *conn_;
 }

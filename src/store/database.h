@@ -12,7 +12,8 @@ namespace tarnwick {
 class Database {
  public:
   /// Opens the database of `programFolder` (no trailing separator). The file must exist: a missing or damaged one
-  /// raises DataAccessError and nothing is created in its place.
+  /// raises DataAccessError and nothing is created in its place. The tables of an older list are brought to today's
+  /// form; those of a newer form raise DataAccessError.
   Database(const std::string& programFolder, SqlConnectionMaker& databases);
   ~Database();
   Database(const Database&) = delete;
@@ -40,6 +41,8 @@ class Database {
   void reopen() { conn(); }
 
  private:
+  void open();
+
   std::string sqlText_;
   std::string connString_;
   std::unique_ptr<SqlConnection> conn_;

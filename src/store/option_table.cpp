@@ -62,14 +62,14 @@ std::string OptionField::checked(std::string_view value) const {
 
 const std::vector<OptionField>& programOptions() {
   static const std::vector<OptionField> options{
-      {.name = "newSites",
+      {.name = std::string(option_name::newSites),
        .kind = OptionKind::choice,
        .choices = {"at once", "at the next start"},
        .recommended = "at once",
        .original = "a site that was never checked is not taken on before the next Start",
        .label = "New sites",
        .meaning = "When a run takes on a site that was never checked"},
-      {.name = "adopt",
+      {.name = std::string(option_name::adopt),
        .kind = OptionKind::choice,
        .ofSite = true,
        .choices = {"pages only", "anything"},
@@ -78,7 +78,7 @@ const std::vector<OptionField>& programOptions() {
        .label = "First baseline",
        .meaning =
            "What becomes the baseline of a site that has none; with \"pages only\" a fetch that failed does not"},
-      {.name = "mailLimit",
+      {.name = std::string(option_name::mailLimit),
        .kind = OptionKind::number,
        .least = 1,
        .most = 3600,

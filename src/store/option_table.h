@@ -38,6 +38,13 @@ struct OptionField {
   std::string checked(std::string_view value) const;
 };
 
+/// The options that the program asks for.
+namespace option_name {
+inline constexpr std::string_view newSites = "newSites";
+inline constexpr std::string_view adopt = "adopt";
+inline constexpr std::string_view mailLimit = "mailLimit";
+}  // namespace option_name
+
 /// The options of this program, in the order in which they are shown.
 const std::vector<OptionField>& programOptions();
 

@@ -1,7 +1,6 @@
 #include "store/settings_and_log.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 
 #include "base/text.h"
@@ -12,9 +11,10 @@ namespace tarnwick {
 namespace {
 
 /// Yes/no settings go into the statement bare, all others quoted; the database makes a number of a quoted number.
-std::string_view delimiterOf(const std::string& key) {
-  static constexpr std::array<std::string_view, 5> kFlags = {"clogs", "creports", "cemail", "caudio", "cprogram"};
-  return std::find(kFlags.begin(), kFlags.end(), lowerCase(key)) == kFlags.end() ? "'" : "";
+std::string_view delimiterOf(const Fields& fields, const std::string& key) {
+  const auto field = std::ranges::find_if(
+      fields.settings, [&](const SettingField& setting) { return equalsIgnoringCase(setting.name, key); });
+  return field != fields.settings.end() && field->kind == FieldKind::flag ? "" : "'";
 }
 
 }  // namespace
@@ -25,7 +25,7 @@ SqlValue SettingsAndLog::getControl(const std::string& key) {
 }
 
 void SettingsAndLog::writeControl(const std::string& key, const std::string& quotedValue) {
-  const std::string_view delimiter = delimiterOf(key);
+  const std::string_view delimiter = delimiterOf(fields_, key);
   db_.execute(joinSql("update control set ", sqlQuote(key), " = ", delimiter, quotedValue, delimiter, " where id = 1"));
 }
 

@@ -10,6 +10,7 @@
 
 #include "base/errors.h"
 #include "store/database.h"
+#include "store/fields.h"
 #include "store/sql_quote.h"
 
 namespace tarnwick {
@@ -36,7 +37,8 @@ class SettingRefused : public DataAccessError {
 /// Nothing is cached: a changed setting takes effect at its next use. Every failed statement raises DataAccessError.
 class SettingsAndLog {
  public:
-  explicit SettingsAndLog(Database& database) : db_(database) {}
+  explicit SettingsAndLog(Database& database, const Fields& fields = programFields())
+      : db_(database), fields_(fields) {}
 
   /// The setting `key`, a column's name in any letter case; an empty text when the settings row is missing. Raises
   /// DataAccessError when there is no such column.
@@ -71,6 +73,7 @@ class SettingsAndLog {
   void writeControl(const std::string& key, const std::string& quotedValue);
 
   Database& db_;
+  const Fields& fields_;
 };
 
 }  // namespace tarnwick

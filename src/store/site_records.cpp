@@ -6,6 +6,7 @@
 #include "base/errors.h"
 #include "base/text.h"
 #include "store/first_field.h"
+#include "store/site_options.h"
 #include "store/site_table.h"
 #include "store/sql_quote.h"
 
@@ -44,6 +45,8 @@ std::int16_t SiteRecords::addSite() {
 }
 
 void SiteRecords::addSite(std::int16_t idSite) {
+  // Left behind by a program that deleted a site and knew no options.
+  removeOptionsOf(db_, idSite);
   std::string sql(kInsertTemplate);
   sql.replace(sql.find(kIdToken), kIdToken.size(), sqlQuote(idSite));
   db_.execute(std::move(sql));
@@ -90,6 +93,7 @@ void SiteRecords::deleteSite(std::int16_t idSite) {
   Transaction whole(db_);
   db_.execute(joinSql("delete from sites ", " where idsite = ", sqlQuote(idSite)));
   db_.execute(joinSql("delete from postvars ", " where idsite = ", sqlQuote(idSite)));
+  removeOptionsOf(db_, idSite);
   whole.commit();
 }
 

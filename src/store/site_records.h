@@ -37,7 +37,7 @@ class SiteRecords {
   /// Sets the success and failure counters of a site to 0; those of every site when `idSite` is negative.
   void clearCounters(std::int16_t idSite);
 
-  /// Removes a site and its POST variables. Nothing when there is no such site.
+  /// Removes a site, its POST variables and its options. Nothing when there is no such site.
   void deleteSite(std::int16_t idSite);
 
   bool idExists(std::int16_t idSite);

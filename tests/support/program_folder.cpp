@@ -90,10 +90,13 @@ std::string contentsOf(const char* path) {
 
 }  // namespace
 
-ProgramFolder::ProgramFolder() : folder_(makeFolder()) {
+ProgramFolder::ProgramFolder(Options options) : folder_(makeFolder()) {
   try {
     const std::string schema = contentsOf(TARNWICK_SCHEMA_FILE);
     runAll(openDatabase(databasePath(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE).get(), schema);
+    if (options == Options::none) {
+      execute("delete from siteOptions");
+    }
   } catch (...) {
     std::filesystem::remove_all(folder_);
     throw;

@@ -12,7 +12,12 @@ namespace tarnwick::testing {
 /// are plain SQLite and know none of the program's dialect.
 class ProgramFolder {
  public:
-  ProgramFolder();
+  /// Which options are set at the beginning.
+  enum class Options {
+    none,         ///< as in a list from before there were any: the original behaviour
+    recommended,  ///< as in a fresh list
+  };
+  explicit ProgramFolder(Options options = Options::none);
   ~ProgramFolder();
   ProgramFolder(const ProgramFolder&) = delete;
   ProgramFolder& operator=(const ProgramFolder&) = delete;

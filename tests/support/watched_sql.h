@@ -15,9 +15,11 @@ namespace tarnwick::testing {
 
 /// What a test sees of a database's statements, and where it can make one fail.
 struct SqlWatch {
-  /// Every statement so far, in order, with "begin", "commit", "rollback" and "set form of tables" among
-  /// them; of long ones the beginning.
+  /// Every statement of the program's own dialect so far, in order, with "begin", "commit", "rollback" and "set form of
+  /// tables" among them; of long ones the beginning.
   std::vector<std::string> statements;
+  /// Those with bound values, which stand beside the original ones.
+  std::vector<std::string> boundStatements;
   /// Called before each of them is carried out; what it throws is thrown in its place.
   std::function<void(std::string_view statement)> before;
 
@@ -62,7 +64,7 @@ class WatchedConnections final : public SqlConnectionMaker {
       return real_->execute(sql);
     }
     std::unique_ptr<Recordset> execute(std::string_view sql, std::span<const SqlValue> parameters) override {
-      note(sql);
+      note(sql, watch_.boundStatements);
       return real_->execute(sql, parameters);
     }
     void begin() override {
@@ -92,8 +94,9 @@ class WatchedConnections final : public SqlConnectionMaker {
    private:
     static constexpr std::size_t kLongestKept = 2000;
 
-    void note(std::string_view statement) {
-      watch_.statements.emplace_back(statement.substr(0, kLongestKept));
+    void note(std::string_view statement) { note(statement, watch_.statements); }
+    void note(std::string_view statement, std::vector<std::string>& kept) {
+      kept.emplace_back(statement.substr(0, kLongestKept));
       if (watch_.before) {
         const auto before = watch_.before;  // it may set another one
         before(statement);

@@ -1,0 +1,72 @@
+#include "store/migrations.h"
+
+#include <array>
+#include <span>
+#include <string_view>
+
+#include "base/errors.h"
+
+namespace tarnwick {
+namespace {
+
+/// What leads from each form to the next; the first makes form 1 of form 0. A step that has been in a release never
+/// changes: lists that have gone through it are in people's hands.
+constexpr std::array<std::string_view, kFormOfTables> kSteps = {
+    "create table if not exists siteOptions (idSite INTEGER NOT NULL, name TEXT NOT NULL, value TEXT NOT NULL, "
+    "primary key (idSite, name)) without rowid",
+};
+
+void refuseNewer(std::int64_t form, const std::string& path) {
+  if (form > kFormOfTables) {
+    throw DataAccessError("The database " + path + " was written by a newer Tarnwick: its tables have form " +
+                              std::to_string(form) + ", and this program knows forms up to " +
+                              std::to_string(kFormOfTables) +
+                              ". Use the newer program, or put back a copy from before, for instance backup.mdb.",
+                          "");
+  }
+}
+
+/// REQUIRES: a transaction, in which nobody else can do the same.
+void takeSteps(SqlConnection& connection, const std::string& path) {
+  const std::int64_t form = connection.formOfTables();
+  refuseNewer(form, path);
+  if (form < 0 || form == kFormOfTables) {
+    return;
+  }
+  for (const std::string_view step : std::span(kSteps).subspan(static_cast<std::size_t>(form))) {
+    connection.execute(step, {});
+  }
+  connection.setFormOfTables(kFormOfTables);
+}
+
+}  // namespace
+
+void bringUpToDate(SqlConnection& connection, const std::string& path) {
+  refuseNewer(connection.formOfTables(), path);
+  try {
+    requireTodaysForm(connection, path);
+  } catch (const DataAccessError&) {
+    // Whoever wants to store something in a newer table is told why that cannot be; reading goes on.
+    refuseNewer(connection.formOfTables(), path);
+  }
+}
+
+void requireTodaysForm(SqlConnection& connection, const std::string& path) {
+  if (connection.formOfTables() == kFormOfTables) {
+    return;
+  }
+  if (connection.inTransaction()) {
+    takeSteps(connection, path);
+    return;
+  }
+  connection.begin();
+  try {
+    takeSteps(connection, path);
+    connection.commit();
+  } catch (...) {
+    connection.rollback();
+    throw;
+  }
+}
+
+}  // namespace tarnwick

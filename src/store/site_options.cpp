@@ -1,0 +1,123 @@
+#include "store/site_options.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <stdexcept>
+
+#include "base/text.h"
+#include "store/migrations.h"
+
+namespace tarnwick {
+namespace {
+
+using Parameters = std::span<const SqlValue>;
+
+bool hasTable(Database& database) {
+  const auto found = database.conn().execute(
+      "select 1 from sqlite_master where type = 'table' and name = 'siteOptions'", Parameters());
+  return !found->eof();
+}
+
+void run(Database& database, std::string_view sql, Parameters parameters) {
+  database.conn().execute(sql, parameters)->close();
+}
+
+void store(Database& database, std::int16_t idSite, const std::string& name, const std::string& value) {
+  if (!hasTable(database)) {
+    requireTodaysForm(database.conn(), database.dbPath());
+  }
+  const std::array<SqlValue, 3> row{SqlValue(std::int64_t{idSite}), SqlValue(name), SqlValue(value)};
+  run(database, "insert or replace into siteOptions (idSite, name, value) values (?1, ?2, ?3)", row);
+}
+
+}  // namespace
+
+std::optional<std::string> OptionsInForce::valueOf(std::int64_t idSite, std::string_view name) const {
+  for (const std::int64_t id : {idSite, std::int64_t{kAllSites}}) {
+    const auto ofSite = values_.find(id);
+    if (ofSite == values_.end()) {
+      continue;
+    }
+    if (const auto value = ofSite->second.find(name); value != ofSite->second.end()) {
+      return value->second;
+    }
+  }
+  return std::nullopt;
+}
+
+const OptionField& SiteOptions::optionField(std::string_view name) const {
+  const auto found =
+      std::ranges::find_if(fields_, [&](const OptionField& field) { return equalsIgnoringCase(field.name, name); });
+  if (found == fields_.end()) {
+    std::string names;
+    for (const OptionField& field : fields_) {
+      names += (names.empty() ? "" : ", ") + field.name;
+    }
+    throw std::runtime_error("There is no option \"" + std::string(name) + "\". The options are: " + names + ".");
+  }
+  return *found;
+}
+
+OptionValues SiteOptions::options(std::int16_t idSite) {
+  OptionValues values;
+  if (!hasTable(db_)) {
+    return values;
+  }
+  const std::array<SqlValue, 1> id{SqlValue(std::int64_t{idSite})};
+  const auto rows = db_.conn().execute("select name, value from siteOptions where idSite = ?1", id);
+  for (; !rows->eof(); rows->moveNext()) {
+    values.emplace(rows->field(std::size_t{0}).toText(), rows->field(std::size_t{1}).toText());
+  }
+  return values;
+}
+
+OptionsInForce readOptions(Database& database) {
+  std::map<std::int64_t, OptionValues> values;
+  if (!hasTable(database)) {
+    return OptionsInForce();
+  }
+  const auto rows = database.conn().execute("select idSite, name, value from siteOptions", Parameters());
+  for (; !rows->eof(); rows->moveNext()) {
+    values[rows->field(std::size_t{0}).toInt64()].emplace(rows->field(std::size_t{1}).toText(),
+                                                          rows->field(std::size_t{2}).toText());
+  }
+  return OptionsInForce(std::move(values));
+}
+
+void SiteOptions::setOption(std::int16_t idSite, std::string_view name, std::string_view value) {
+  const OptionField& field = optionField(name);
+  if (idSite != kAllSites && !field.ofSite) {
+    throw std::runtime_error("The option " + field.name + " holds for all sites, and none has a value of its own.");
+  }
+  store(db_, idSite, field.name, field.checked(value));
+}
+
+void SiteOptions::removeOption(std::int16_t idSite, std::string_view name) {
+  const std::array<SqlValue, 2> key{SqlValue(std::int64_t{idSite}), SqlValue(optionField(name).name)};
+  if (hasTable(db_)) {
+    run(db_, "delete from siteOptions where idSite = ?1 and name = ?2", key);
+  }
+}
+
+void SiteOptions::storeOptions(std::int16_t idSite, const OptionValues& values) {
+  Transaction whole(db_);
+  for (const auto& [name, value] : values) {
+    setOption(idSite, name, value);
+  }
+  for (const OptionField& field : fields_) {
+    if (!values.contains(field.name)) {
+      removeOption(idSite, field.name);
+    }
+  }
+  whole.commit();
+}
+
+void removeOptionsOf(Database& database, std::int16_t idSite) {
+  if (hasTable(database)) {
+    const std::array<SqlValue, 1> id{SqlValue(std::int64_t{idSite})};
+    run(database, "delete from siteOptions where idSite = ?1", id);
+  }
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "store/database.h"
+#include "store/option_table.h"
+
+namespace tarnwick {
+
+/// The site id under which table `siteOptions` keeps what holds for all sites.
+inline constexpr std::int16_t kAllSites = 0;
+
+/// Options by their names.
+using OptionValues = std::map<std::string, std::string, std::less<>>;
+
+/// The options that are set, read at once: what a pass decides by.
+class OptionsInForce {
+ public:
+  explicit OptionsInForce(std::map<std::int64_t, OptionValues> values = {}) : values_(std::move(values)) {}
+
+  /// The site's own value, else the one for all, else nothing: the original behaviour. `kAllSites` asks for the one
+  /// for all.
+  std::optional<std::string> valueOf(std::int64_t idSite, std::string_view name) const;
+
+ private:
+  std::map<std::int64_t, OptionValues> values_;
+};
+
+/// What is set for each site and for all; nothing in a list without the table. Raises DataAccessError.
+OptionsInForce readOptions(Database& database);
+
+/// Table `siteOptions`: what a site, or all of them, does otherwise than originally. A list without the table, as an
+/// older one that cannot be written, reads as if it were empty. Every failed statement raises DataAccessError.
+class SiteOptions {
+ public:
+  SiteOptions(Database& database, const std::vector<OptionField>& fields) : db_(database), fields_(fields) {}
+
+  /// The options that there are.
+  const std::vector<OptionField>& optionFields() const { return fields_; }
+  /// The one of that name, in any letter case; raises std::runtime_error, which lists all of them, for another name.
+  const OptionField& optionField(std::string_view name) const;
+
+  /// What is set for one site alone, or for all (`kAllSites`); also what this program has no field for.
+  OptionValues options(std::int16_t idSite);
+  /// What is set for each site and for all.
+  OptionsInForce optionsInForce() { return readOptions(db_); }
+
+  /// Sets an option of a site, or of all. Raises std::runtime_error for a value that it does not take, and for an
+  /// option of a site that there is for all sites only.
+  void setOption(std::int16_t idSite, std::string_view name, std::string_view value);
+  /// Takes the site's own value away, or the one for all. Nothing when there is none.
+  void removeOption(std::int16_t idSite, std::string_view name);
+  /// Stores `values` in place of all that is set for the site, or for all; all of it, or nothing. Raises as
+  /// `setOption`. What is set under a name that this program has no field for stays.
+  void storeOptions(std::int16_t idSite, const OptionValues& values);
+
+ private:
+  Database& db_;
+  const std::vector<OptionField>& fields_;
+};
+
+/// Removes a site's options with it. REQUIRES: a transaction.
+void removeOptionsOf(Database& database, std::int16_t idSite);
+
+}  // namespace tarnwick
