@@ -30,8 +30,7 @@ TOKEN = re.compile(r'//[^\n]*|/\*.*?\*/|R"(?P<mark>\w*)\((?P<raw>.*?)\)(?P=mark)
 ESCAPE = {"n": "\n", "r": "\r", "t": "\t", '"': '"', "\\": "\\"}
 
 # Texts inside of these calls are the command line's own help, results, names for the eye, or statements.
-HELP_CALLS = {"add_option", "add_flag", "add_subcommand", "description", "footer", "examples", "addText",
-              "addUpkeepVerb", "addSiteId", "addJsonFlag"}
+HELP_CALLS = {"Verb", "VerbOption", "upkeepVerb", "examples", "add_option"}
 RESULT_CALLS = {"say", "told", "tell", "line"}
 LABEL_CALLS = {"original", "label", "meaning", "choices",  # of an option
                "addButton", "setToolTip", "setAccessibleName", "setWindowTitle", "named", "setTitle"}
@@ -54,11 +53,7 @@ NO_MESSAGES = {
     "src/ui/main_window/master.cpp": ("the foot of the window, and hints", ()),
     "src/ui/settings/control_dialog.cpp": ("the kinds of files in the file dialog", ("Audio Files", "Program Files")),
     "src/alerts/alert_dispatch.cpp": ("the subject of the mails", ("A WEB SITE ERROR",)),
-    "src/cli/verbs/settings_verb.cpp": ("the settings in the verb's help",
-                                  ("the address that", "the mail server that", "the .wav file", "the program that",
-                                   "how long a fetch", "write every", "write the daily", "send alert", "play the",
-                                   "start the")),
-    "src/cli/verbs/tool.cpp": ("the tool's own help", ("Tarnwick watches", "Exit status:")),
+    "src/cli/verbs/command_line.cpp": ("the tool's own help", ("Tarnwick watches", "Exit status:")),
     "src/cli/verbs/page_verbs.cpp": ("the head of a diff", ("--- baseline", "+++ latest")),
     "src/cli/pages/unified_diff.cpp": ("the word of every diff for it", (" No newline",)),
     "src/cli/verbs/site_verbs.cpp": ("cells of the verb site", ("set; --show", "none yet:")),
@@ -255,7 +250,7 @@ def self_test() -> int:
             "src/a.cpp": 'tr("The list %1 cannot be read today.");', MESSAGES: "The list ... is fine."}),
         "one in a raw text": ("says", {"src/a.cpp": 'fault(R"(no text: give {"a": 1} instead)");'}),
         "statements, help and results": (None, {
-            "src/a.cpp": 'db.execute("update sites set url = 1");\nverb->add_option("X", x, "The name of a thing");\n'
+            "src/a.cpp": 'db.execute("update sites set url = 1");\nreturn Verb{"x", {{"X", &x, "The name of a thing"}}};\n'
                          'console.say("All is well now.");\n// "not a text at all"\n#include "a b c"\n'}),
         "an option's description, and a member that is none": ('says "The list is full now."', {
             "src/a.cpp": '{.label = "The name of it", .choices = {"the one or", "the other one"}, .text = "The list is full now."}'}),

@@ -47,14 +47,14 @@ SiteFacts factsOfRow(m& data, const TextTable& sites, std::size_t row) {
   return facts;
 }
 
-Json numberJson(const std::string& text) {
+JsonValue numberJson(const std::string& text) {
   std::int64_t number = 0;
   const char* end = text.data() + text.size();
   const auto [rest, fault] = std::from_chars(text.data(), end, number);
   if (fault == std::errc() && rest == end) {
     return number;
   }
-  return text.empty() ? Json() : jsonText(text);
+  return text.empty() ? JsonValue() : jsonText(text);
 }
 
 }  // namespace
@@ -80,31 +80,31 @@ StateText stateOf(const SiteFacts& facts) {
   return state;
 }
 
-Json siteJson(const SiteFacts& facts, bool showPassword) {
+JsonValue siteJson(const SiteFacts& facts, bool showPassword) {
   const SiteDraft& site = facts.site;
-  Json json{{"idSite", facts.idSite},
-            {"url", jsonText(site.url)},
-            {"method", jsonText(site.method)},
-            {"active", site.active},
-            {"tInterval", numberJson(site.tInterval)},
-            {"lastChecked", facts.lastChecked.empty() ? Json() : jsonText(facts.lastChecked)},
-            {"alertEmail", site.alertEmail},
-            {"email", jsonText(site.email)},
-            {"sUserName", jsonText(site.sUserName)},
-            {"hasPassword", !site.sPassWord.empty()}};
+  JsonValue json{{"idSite", facts.idSite},
+                 {"url", jsonText(site.url)},
+                 {"method", jsonText(site.method)},
+                 {"active", site.active},
+                 {"tInterval", numberJson(site.tInterval)},
+                 {"lastChecked", facts.lastChecked.empty() ? JsonValue() : jsonText(facts.lastChecked)},
+                 {"alertEmail", site.alertEmail},
+                 {"email", jsonText(site.email)},
+                 {"sUserName", jsonText(site.sUserName)},
+                 {"hasPassword", !site.sPassWord.empty()}};
   if (showPassword) {
     json["sPassWord"] = jsonText(site.sPassWord);
   }
-  json["status"] = facts.status ? Json(*facts.status) : Json();
+  json["status"] = facts.status ? JsonValue(*facts.status) : JsonValue();
   json["success"] = facts.success;
   json["failure"] = facts.failure;
   return json;
 }
 
-Json postVarsJson(const std::vector<PostVar>& vars) {
-  Json json = Json::array();
+JsonValue postVarsJson(const std::vector<PostVar>& vars) {
+  JsonValue json = JsonValue::array();
   for (const PostVar& var : vars) {
-    json.push_back({{"pname", jsonText(var.name)}, {"pvalue", jsonText(var.value)}});
+    json.add({{"pname", jsonText(var.name)}, {"pvalue", jsonText(var.value)}});
   }
   return json;
 }

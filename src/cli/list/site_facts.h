@@ -34,9 +34,9 @@ struct StateText {
 StateText stateOf(const SiteFacts& facts);
 
 /// A site as JSON, its members named as the database's columns; the password only when it is to be shown.
-Json siteJson(const SiteFacts& facts, bool showPassword = false);
+JsonValue siteJson(const SiteFacts& facts, bool showPassword = false);
 
 /// POST variables as JSON, in their order.
-Json postVarsJson(const std::vector<PostVar>& vars);
+JsonValue postVarsJson(const std::vector<PostVar>& vars);
 
 }  // namespace tarnwick

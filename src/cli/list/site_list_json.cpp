@@ -3,12 +3,15 @@
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
+#include <nlohmann/json.hpp>
 #include <utility>
 
 #include "cli/list/site_list_json_site.h"
 
 namespace tarnwick {
 namespace {
+
+using Json = nlohmann::json;
 
 constexpr const char* kVersionName = "tarnwick";
 constexpr const char* kSitesName = "sites";
@@ -44,34 +47,33 @@ class ValueBuilder {
  public:
   bool isOpen() const { return !open_.empty(); }
   std::size_t depth() const { return open_.size(); }
-  Json& root() { return root_; }
+  JsonValue& root() { return root_; }
 
-  void begin(Json container) {
-    Json* place = &put(std::move(container));
+  void begin(JsonValue container) {
+    JsonValue* place = &put(std::move(container));
     open_.push_back(place);
   }
   void end() { open_.pop_back(); }
   /// False when the object has such a member already.
   bool key(std::string name) {
     key_ = std::move(name);
-    return !open_.back()->contains(key_);
+    return open_.back()->find(key_) == nullptr;
   }
-  Json& put(Json value) {
+  JsonValue& put(JsonValue value) {
     if (open_.empty()) {
       return root_ = std::move(value);
     }
-    Json& parent = *open_.back();
-    if (parent.is_array()) {
-      parent.push_back(std::move(value));
-      return parent.back();
+    JsonValue& parent = *open_.back();
+    if (parent.as<JsonValue::Array>() != nullptr) {
+      return parent.add(std::move(value));
     }
     return parent[key_] = std::move(value);
   }
 
  private:
-  Json root_;
+  JsonValue root_;
   /// A container does not grow while one inside it is open, so these stay where they are.
-  std::vector<Json*> open_;
+  std::vector<JsonValue*> open_;
   std::string key_;
 };
 
@@ -93,7 +95,7 @@ class ListHandler final : public nlohmann::json_sax<Json> {
     }
   }
 
-  bool null() override { return value(Json()); }
+  bool null() override { return value(nullptr); }
   bool boolean(bool flag) override { return value(flag); }
   bool number_integer(std::int64_t number) override { return value(number); }
   bool number_unsigned(std::uint64_t number) override { return value(number); }
@@ -116,7 +118,7 @@ class ListHandler final : public nlohmann::json_sax<Json> {
       default:
         return misplaced();
     }
-    return begin(Json::object());
+    return begin(JsonValue::object());
   }
 
   bool start_array(std::size_t /*size*/) override {
@@ -124,7 +126,7 @@ class ListHandler final : public nlohmann::json_sax<Json> {
       place_ = Place::sites;
       return true;
     }
-    return place_ == Place::site ? begin(Json::array()) : misplaced();
+    return place_ == Place::site ? begin(JsonValue::array()) : misplaced();
   }
 
   bool key(std::string& name) override {
@@ -185,23 +187,25 @@ class ListHandler final : public nlohmann::json_sax<Json> {
     return true;
   }
 
-  bool value(Json value) {
+  template <typename Value>
+  bool value(Value value) {
     if (place_ == Place::site) {
-      builder_.put(std::move(value));
+      builder_.put(JsonValue(std::move(value)));
       return true;
     }
     if (place_ != Place::list || key_ != kVersionName) {
       return misplaced();
     }
-    if (value != Json(kVersion)) {
-      faults_.add(line_, "the file is of version " + quotedForMessage(value.dump()) +
+    const Json version(std::move(value));
+    if (version != Json(kVersion)) {
+      faults_.add(line_, "the file is of version " + quotedForMessage(version.dump()) +
                              " of the list's format, and version 1 can be read: export it with the same program");
       return false;
     }
     return true;
   }
 
-  bool begin(Json container) {
+  bool begin(JsonValue container) {
     if (builder_.depth() == kDeepest) {
       faults_.add(siteLine_, "the site holds objects in objects that no member has: leave them out");
       return false;

@@ -13,25 +13,25 @@ class JsonSite {
  public:
   JsonSite(ListedSite& site, ListFaults& faults) : site_(site), values_(site.line, faults) {}
 
-  void read(const std::string& name, Json& value) {
+  void read(const std::string& name, JsonValue& value) {
     const auto field = listFieldOf(name);
     if (!field) {
       values_.fault("there is no member " + quotedForMessage(name) + ": the members are " + listFieldNames());
     } else if (site_.given.has(*field)) {
       values_.fault("the member " + std::string(nameOf(*field)) + " is given twice: leave one of them out");
-    } else if (!value.is_null()) {
+    } else if (!value.isNull()) {
       readField(*field, value);
     }
   }
 
  private:
-  void readField(ListField field, Json& value) {
+  void readField(ListField field, JsonValue& value) {
     switch (field) {
       case ListField::idSite:
-        return keep(field, site_.idSite, isNumber(field, value) ? values_.id(value.dump()) : std::nullopt);
+        return keep(field, site_.idSite, isNumber(field, value) ? values_.id(jsonLine(value)) : std::nullopt);
       case ListField::tInterval:
         return keep(field, site_.site.tInterval,
-                    isNumber(field, value) ? values_.interval(value.dump()) : std::nullopt);
+                    isNumber(field, value) ? values_.interval(jsonLine(value)) : std::nullopt);
       case ListField::active:
         return keep(field, site_.site.active, flag(field, value));
       case ListField::alertEmail:
@@ -43,7 +43,7 @@ class JsonSite {
     }
   }
 
-  void readText(ListField field, const Json& value) {
+  void readText(ListField field, const JsonValue& value) {
     std::optional<std::string> bytes = text(nameOf(field), value);
     if (!bytes) {
       return;
@@ -72,24 +72,25 @@ class JsonSite {
     }
   }
 
-  bool isNumber(ListField field, const Json& value) {
-    if (!value.is_number_integer()) {
+  bool isNumber(ListField field, const JsonValue& value) {
+    if (!value.isInteger()) {
       values_.fault(std::string(nameOf(field)) + " " + shown(value) +
                     " is no whole number: give one without quotes, a point or an exponent");
     }
-    return value.is_number_integer();
+    return value.isInteger();
   }
 
-  std::optional<bool> flag(ListField field, const Json& value) {
-    if (!value.is_boolean()) {
+  std::optional<bool> flag(ListField field, const JsonValue& value) {
+    const bool* const flag = value.as<bool>();
+    if (flag == nullptr) {
       values_.fault(std::string(nameOf(field)) + " " + shown(value) +
                     " is neither yes nor no: give true or false, without quotes");
       return std::nullopt;
     }
-    return value.get<bool>();
+    return *flag;
   }
 
-  std::optional<std::string> text(std::string_view name, const Json& value) {
+  std::optional<std::string> text(std::string_view name, const JsonValue& value) {
     try {
       return bytesOfJson(value);
     } catch (const std::runtime_error&) {
@@ -99,14 +100,18 @@ class JsonSite {
     }
   }
 
-  std::optional<std::vector<PostVar>> postVars(const Json& value) {
+  std::optional<std::vector<PostVar>> postVars(const JsonValue& value) {
     std::vector<PostVar> vars;
-    bool good = value.is_array();
-    for (std::size_t i = 0; good && i < value.size(); ++i) {
-      good = value[i].is_object() && value[i].size() == 2 && value[i].contains(kName) && value[i].contains(kValue);
+    const auto* const elements = value.as<JsonValue::Array>();
+    bool good = elements != nullptr;
+    for (std::size_t i = 0; good && i < elements->size(); ++i) {
+      const JsonValue& element = (*elements)[i];
+      const JsonValue* const itsName = element.find(kName);
+      const JsonValue* const itsValue = element.find(kValue);
+      good = itsName != nullptr && itsValue != nullptr && element.as<JsonValue::Object>()->size() == 2;
       if (good) {
-        auto name = text(kName, value[i][kName]);
-        auto content = text(kValue, value[i][kValue]);
+        auto name = text(kName, *itsName);
+        auto content = text(kValue, *itsValue);
         if (!name || !content) {
           return std::nullopt;
         }
@@ -120,10 +125,11 @@ class JsonSite {
     return vars;
   }
 
-  static std::string shown(const Json& value) {
-    return quotedForMessage(value.is_structured() ? std::string(value.is_array() ? "[...]" : "{...}")
-                            : value.is_string()   ? value.get<std::string>()
-                                                  : value.dump());
+  static std::string shown(const JsonValue& value) {
+    return quotedForMessage(value.as<JsonValue::Array>() != nullptr    ? "[...]"
+                            : value.as<JsonValue::Object>() != nullptr ? "{...}"
+                            : value.asText() != nullptr                ? *value.asText()
+                                                                       : jsonLine(value));
   }
 
   ListedSite& site_;
@@ -132,12 +138,12 @@ class JsonSite {
 
 }  // namespace
 
-std::optional<ListedSite> siteOfJson(Json& object, std::size_t line, ListFaults& faults) {
+std::optional<ListedSite> siteOfJson(JsonValue& object, std::size_t line, ListFaults& faults) {
   const std::size_t before = faults.count();
   ListedSite site;
   site.line = line;
   JsonSite reader(site, faults);
-  for (auto& [name, value] : object.items()) {
+  for (auto& [name, value] : std::get<JsonValue::Object>(object.content())) {
     reader.read(name, value);
   }
   if (faults.count() == before && !site.given.has(ListField::url)) {

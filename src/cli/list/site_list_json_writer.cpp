@@ -13,13 +13,13 @@ class JsonWriter final : public SiteListWriter {
   void begin() override { sink_(R"({"tarnwick": 1, "sites": [)"); }
 
   void add(const ListedSite& site) override {
-    Json object = Json::object();
-    const auto put = [&](ListField field, Json value) { object[std::string(nameOf(field))] = std::move(value); };
-    put(ListField::idSite, site.idSite ? Json(*site.idSite) : Json());
+    JsonValue object = JsonValue::object();
+    const auto put = [&](ListField field, JsonValue value) { object[std::string(nameOf(field))] = std::move(value); };
+    put(ListField::idSite, site.idSite ? JsonValue(*site.idSite) : JsonValue());
     put(ListField::url, jsonText(site.site.url));
     put(ListField::method, jsonText(site.site.method));
     put(ListField::active, site.site.active);
-    put(ListField::tInterval, numberOf(site.site.tInterval));
+    put(ListField::tInterval, jsonNumber(site.site.tInterval));
     put(ListField::alertEmail, site.site.alertEmail);
     put(ListField::email, jsonText(site.site.email));
     put(ListField::sUserName, jsonText(site.site.sUserName));
@@ -30,22 +30,16 @@ class JsonWriter final : public SiteListWriter {
     if (columns_.has(ListField::baseline)) {
       put(ListField::baseline, jsonText(site.baseline));
     }
-    sink_(std::exchange(separator_, ",\n") + object.dump());
+    sink_(std::exchange(separator_, ",\n") + jsonLine(std::move(object)));
   }
 
   void end() override { sink_("\n]}\n"); }
 
  private:
-  // The interval is a whole number in every list that the program keeps.
-  static Json numberOf(const std::string& text) {
-    const Json number = Json::parse(text, nullptr, false);
-    return number.is_number() ? number : jsonText(text);
-  }
-
-  static Json postVars(const std::vector<PostVar>& vars) {
-    Json json = Json::array();
+  static JsonValue postVars(const std::vector<PostVar>& vars) {
+    JsonValue json = JsonValue::array();
     for (const PostVar& var : vars) {
-      json.push_back({{"pname", jsonText(var.name)}, {"pvalue", jsonText(var.value)}});
+      json.add({{"pname", jsonText(var.name)}, {"pvalue", jsonText(var.value)}});
     }
     return json;
   }

@@ -1,41 +1,83 @@
 #include "cli/terminal/json_text.h"
 
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <stdexcept>
+#include <type_traits>
 
 #include "base/base64.h"
-#include "base/sql_value.h"
 #include "base/text.h"
 
 namespace tarnwick {
-
 namespace {
-constexpr const char* kBase64 = "base64";
+
+using Json = nlohmann::ordered_json;
+
+constexpr std::string_view kBase64 = "base64";
+constexpr int kIndent = 2;
+
+/// The same value as the library has it. A page may be large: its text is moved.
+Json libraryForm(JsonValue value) {
+  return std::visit(
+      [](auto& content) -> Json {
+        using Kind = std::remove_reference_t<decltype(content)>;
+        if constexpr (std::is_same_v<Kind, JsonValue::Array>) {
+          Json array = Json::array();
+          for (JsonValue& element : content) {
+            array.push_back(libraryForm(std::move(element)));
+          }
+          return array;
+        } else if constexpr (std::is_same_v<Kind, JsonValue::Object>) {
+          Json object = Json::object();
+          for (auto& [name, member] : content) {
+            object[std::move(name)] = libraryForm(std::move(member));
+          }
+          return object;
+        } else {
+          return Json(std::move(content));
+        }
+      },
+      value.content());
 }
 
-Json jsonText(std::string_view bytes) {
+}  // namespace
+
+JsonValue jsonText(std::string_view bytes) {
   if (isUtf8(bytes)) {
     return bytes;
   }
-  return Json::object({{kBase64, encodeBase64(bytes)}});
+  return {{std::string(kBase64), encodeBase64(bytes)}};
 }
 
-std::string bytesOfJson(const Json& value) {
-  if (value.is_string()) {
-    return value.get<std::string>();
+std::string bytesOfJson(const JsonValue& value) {
+  if (const std::string* text = value.asText()) {
+    return *text;
   }
-  if (value.is_object() && value.size() == 1 && value.contains(kBase64) && value[kBase64].is_string()) {
-    return decodeBase64(value[kBase64].get_ref<const std::string&>());
+  const auto* const object = value.as<JsonValue::Object>();
+  if (object != nullptr && object->size() == 1 && object->front().first == kBase64 &&
+      object->front().second.asText() != nullptr) {
+    return decodeBase64(*object->front().second.asText());
   }
   throw std::runtime_error(R"(A text is expected: a string, or {"base64": "..."} for bytes that are no UTF-8.)");
 }
 
-Json jsonCell(const std::string& cell) { return cell == kNullText ? Json() : jsonText(cell); }
+JsonValue jsonNumber(std::string_view text) {
+  const Json number = Json::parse(text, nullptr, false);
+  if (number.is_number_unsigned()) {
+    return number.get<std::uint64_t>();
+  }
+  if (number.is_number_integer()) {
+    return number.get<std::int64_t>();
+  }
+  return number.is_number() ? JsonValue(number.get<double>()) : jsonText(text);
+}
 
-void sayJson(Console& console, const Json& value) { console.say(value.dump(2)); }
+std::string jsonLine(JsonValue value) { return libraryForm(std::move(value)).dump(); }
 
-void JsonArray::add(const Json& value) {
-  console_.out() << (begun_ ? ",\n " : "[\n ") << value.dump();
+void sayJson(Console& console, JsonValue value) { console.say(libraryForm(std::move(value)).dump(kIndent)); }
+
+void JsonArray::add(JsonValue value) {
+  console_.out() << (begun_ ? ",\n " : "[\n ") << jsonLine(std::move(value));
   begun_ = true;
 }
 

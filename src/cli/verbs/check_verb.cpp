@@ -3,6 +3,7 @@
 
 #include "cli/pages/cause.h"
 #include "cli/terminal/json_text.h"
+#include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "platform/interrupts.h"
 #include "program/program.h"
@@ -59,14 +60,14 @@ class CheckView final : public SilentView {
   std::size_t down() const { return down_; }
 
  private:
-  Json asJson(const CheckResult& result) {
-    Json json{{"idSite", result.idSite},
-              {"url", jsonText(result.url)},
-              {"status", result.passed},
-              {"errCode", result.errCode},
-              {"errDescription", jsonText(result.errDescription)}};
+  JsonValue asJson(const CheckResult& result) {
+    JsonValue json{{"idSite", result.idSite},
+                   {"url", jsonText(result.url)},
+                   {"status", result.passed},
+                   {"errCode", result.errCode},
+                   {"errDescription", jsonText(result.errDescription)}};
     const std::string why = reasonOf(result);
-    json["cause"] = why.empty() ? Json() : Json(why);
+    json["cause"] = why.empty() ? JsonValue() : JsonValue(why);
     return json;
   }
 
@@ -150,23 +151,23 @@ int check(Tool& tool, const CheckOptions& options) {
 
 }  // namespace
 
-void addCheckVerb(CLI::App& app, Action& chosen) {
+Verb checkVerb() {
   auto options = std::make_shared<CheckOptions>();
-  CLI::App* verb =
-      app.add_subcommand("check", "Check sites once, now: all active ones, those named, or those that are due");
-  CLI::Option* ids = verb->add_option("ID", options->ids, "The sites to check, active or not");
-  ids->check(siteNumber());
-  verb->add_flag("--due", options->due,
-                 "Only the active sites whose interval has elapsed; one that was never checked is none of them")
-      ->excludes(ids);
-  addJsonFlag(*verb, options->json);
-  verb->footer(
+  return Verb{
+      "check",
+      "Check sites once, now: all active ones, those named, or those that are due",
+      {{"ID", &options->ids, "The sites to check, active or not"},
+       {.name = "--due",
+        .target = &options->due,
+        .meaning = "Only the active sites whose interval has elapsed; one that was never checked is none of them",
+        .excludes = "ID"},
+       jsonOption(options->json)},
       "Each result is recorded, and each failure raises the alerts that the settings switch on, as in a run.\n"
       "Exit status: 0 when every site is up, 1 when one is down, 2 when the check could not be made.\n" +
-      examples({{"check", "every active site, a line each"},
-                {"check 3 7", "two sites"},
-                {"check --due --json", "what is due, for a script"}}));
-  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return check(tool, *options); }; });
+          examples({{"check", "every active site, a line each"},
+                    {"check 3 7", "two sites"},
+                    {"check --due --json", "what is due, for a script"}}),
+      [options](Tool& tool) { return check(tool, *options); }};
 }
 
 }  // namespace tarnwick

@@ -9,6 +9,7 @@
 #include "cli/terminal/consent.h"
 #include "cli/terminal/input_file.h"
 #include "cli/terminal/json_text.h"
+#include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "platform/private_file.h"
 
@@ -145,15 +146,15 @@ std::string lineOf(const ImportStep& step) {
   return line;
 }
 
-Json jsonOf(const ImportPlan& plan, bool dryRun) {
+JsonValue jsonOf(const ImportPlan& plan, bool dryRun) {
   using enum ImportStep::Action;
-  Json sites = Json::array();
+  JsonValue sites = JsonValue::array();
   for (const ImportStep& step : plan.steps) {
-    Json site{{"action", wordOf(step.action)}, {"idSite", step.idSite}, {"url", jsonText(step.listed.site.url)}};
+    JsonValue site{{"action", wordOf(step.action)}, {"idSite", step.idSite}, {"url", jsonText(step.listed.site.url)}};
     if (step.action == change) {
-      site["fields"] = fieldNamesOf(step);
+      site["fields"] = JsonValue::array(fieldNamesOf(step));
     }
-    sites.push_back(std::move(site));
+    sites.add(std::move(site));
   }
   return {{"dryRun", dryRun},
           {"added", plan.count(add)},
@@ -232,39 +233,52 @@ int importList(Tool& tool, const ImportVerbOptions& options) {
   }
 }
 
-void addFile(CLI::App& verb, std::string& file, std::string& format, const char* stream) {
-  verb.add_option("FILE", file, std::string("The file, whose name ends in .csv or .json; - is ") + stream)->required();
-  verb.add_option("--format", format, "The file's format, whatever its name: csv or json")
-      ->check(CLI::IsMember({"csv", "json"}));
+VerbOption fileOption(std::string& file, const std::string& stream) {
+  return {.name = "FILE",
+          .target = &file,
+          .meaning = "The file, whose name ends in .csv or .json; - is " + stream,
+          .required = true};
 }
 
-void addExportVerb(CLI::App& app, Action& chosen) {
+VerbOption formatOption(std::string& format) {
+  return {.name = "--format",
+          .target = &format,
+          .meaning = "The file's format, whatever its name: csv or json",
+          .oneOf = {"csv", "json"}};
+}
+
+Verb exportVerb() {
   auto options = std::make_shared<ExportOptions>();
-  CLI::App* verb = app.add_subcommand("export", "Write the list of sites to a CSV or JSON file");
-  addFile(*verb, options->file, options->format, "standard output");
-  verb->add_flag("--no-passwords", options->noPasswords, "Leave the passwords out; an import then keeps those stored");
-  verb->add_flag("--baselines", options->baselines, "Write the pages that the sites are compared with as well");
-  verb->footer(
-      "The file holds what has been set for each site, with its POST variables; what checks have found is not part of "
-      "it. Only you can read it, and one that is there already is replaced when the new one is complete.\n" +
-      examples({{"export sites.csv", "for a spreadsheet, or for another computer"},
-                {"export --baselines sites.json", "a copy of the whole list"},
-                {"export - --format json --no-passwords", "to standard output"}}));
-  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return exportList(tool, *options); }; });
+  return Verb{
+      "export",
+      "Write the list of sites to a CSV or JSON file",
+      {fileOption(options->file, "standard output"),
+       formatOption(options->format),
+       {"--no-passwords", &options->noPasswords, "Leave the passwords out; an import then keeps those stored"},
+       {"--baselines", &options->baselines, "Write the pages that the sites are compared with as well"}},
+      "The file holds what has been set for each site, with its POST variables; what checks have found is not part "
+      "of it. Only you can read it, and one that is there already is replaced when the new one is complete.\n" +
+          examples({{"export sites.csv", "for a spreadsheet, or for another computer"},
+                    {"export --baselines sites.json", "a copy of the whole list"},
+                    {"export - --format json --no-passwords", "to standard output"}}),
+      [options](Tool& tool) { return exportList(tool, *options); }};
 }
 
-void addImportVerb(CLI::App& app, Action& chosen) {
+Verb importVerb() {
   auto options = std::make_shared<ImportVerbOptions>();
-  CLI::App* verb = app.add_subcommand("import", "Take sites from a CSV or JSON file into the list");
-  addFile(*verb, options->file, options->format, "standard input");
-  verb->add_flag("--as-new", options->how.asNew, "Add every site as a new one, whatever its id in the file");
-  CLI::Option* replace =
-      verb->add_flag("--replace", options->how.replace, "Delete the sites that the file does not name");
-  verb->add_flag("--yes", options->yes, "Do not ask when the file has no site, so that --replace deletes every one")
-      ->needs(replace);
-  verb->add_flag("--dry-run", options->dryRun, "Only say what would be done");
-  addJsonFlag(*verb, options->json);
-  verb->footer(
+  return Verb{
+      "import",
+      "Take sites from a CSV or JSON file into the list",
+      {fileOption(options->file, "standard input"),
+       formatOption(options->format),
+       {"--as-new", &options->how.asNew, "Add every site as a new one, whatever its id in the file"},
+       {"--replace", &options->how.replace, "Delete the sites that the file does not name"},
+       {.name = "--yes",
+        .target = &options->yes,
+        .meaning = "Do not ask when the file has no site, so that --replace deletes every one",
+        .needs = "--replace"},
+       {"--dry-run", &options->dryRun, "Only say what would be done"},
+       jsonOption(options->json)},
       "A site whose id is in the list is changed, in the fields that the file has; one with another id is added under "
       "it, and one without an id is added as a new one. All of the file is taken, or nothing: each fault is told with "
       "its line.\n"
@@ -273,18 +287,15 @@ void addImportVerb(CLI::App& app, Action& chosen) {
       "(name=value&name=value, other bytes than letters and digits as %XX), baseline (base64). An empty idSite, "
       "method, tInterval or yes/no is as one left out. A JSON file has the form {\"tarnwick\": 1, \"sites\": "
       "[{\"url\": ...}, ...]}.\n" +
-      examples({{"import sites.csv --dry-run", "what would be added and changed"},
-                {"import sites.csv", "do it"},
-                {"import sites.json --replace", "make the list as the file has it"},
-                {"import more.csv --as-new", "the list of somebody else, beside one's own"}}));
-  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return importList(tool, *options); }; });
+          examples({{"import sites.csv --dry-run", "what would be added and changed"},
+                    {"import sites.csv", "do it"},
+                    {"import sites.json --replace", "make the list as the file has it"},
+                    {"import more.csv --as-new", "the list of somebody else, beside one's own"}}),
+      [options](Tool& tool) { return importList(tool, *options); }};
 }
 
 }  // namespace
 
-void addExchangeVerbs(CLI::App& app, Action& chosen) {
-  addExportVerb(app, chosen);
-  addImportVerb(app, chosen);
-}
+std::vector<Verb> exchangeVerbs() { return {exportVerb(), importVerb()}; }
 
 }  // namespace tarnwick

@@ -4,6 +4,7 @@
 #include "cli/terminal/consent.h"
 #include "cli/terminal/json_text.h"
 #include "cli/terminal/moment.h"
+#include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 
 namespace tarnwick {
@@ -15,15 +16,14 @@ constexpr std::int64_t kMostRows = 1000000000;
 struct LogOptions {
   std::string action = "show";
   std::optional<std::string> since;
-  std::int16_t idSite = 0;
-  bool oneSite = false;
+  std::optional<std::int16_t> idSite;
   bool down = false;
   std::int64_t limit = 0;
   bool content = false;
   bool json = false;
   bool yes = false;
 
-  bool chooses() const { return since || oneSite || down || limit != 0 || content || json; }
+  bool chooses() const { return since || idSite || down || limit != 0 || content || json; }
 };
 
 LogChoice choiceOf(Tool& tool, const LogOptions& options) {
@@ -31,9 +31,7 @@ LogChoice choiceOf(Tool& tool, const LogOptions& options) {
   if (options.since) {
     choice.since = momentOf(*options.since, tool.services().clock.localNow());
   }
-  if (options.oneSite) {
-    choice.idSite = options.idSite;  // the log may hold sites that are gone
-  }
+  choice.idSite = options.idSite;  // the log may hold sites that are gone
   choice.failures = options.down;
   if (options.limit > 0) {
     choice.newest = options.limit;
@@ -42,20 +40,20 @@ LogChoice choiceOf(Tool& tool, const LogOptions& options) {
   return choice;
 }
 
-Json jsonOf(const std::optional<std::string>& text) { return text ? jsonText(*text) : Json(); }
+JsonValue jsonOf(const std::optional<std::string>& text) { return text ? jsonText(*text) : JsonValue(); }
 
 template <typename Value>
-Json jsonOf(const std::optional<Value>& value) {
-  return value ? Json(*value) : Json();
+JsonValue jsonOf(const std::optional<Value>& value) {
+  return value ? JsonValue(*value) : JsonValue();
 }
 
-Json rowJson(const LogRow& row, bool content) {
-  Json json{{"dateStamp", jsonOf(row.dateStamp)},
-            {"idSite", jsonOf(row.idSite)},
-            {"url", jsonOf(row.url)},
-            {"status", jsonOf(row.status)},
-            {"errCode", jsonOf(row.errCode)},
-            {"errDescription", jsonOf(row.errDescription)}};
+JsonValue rowJson(const LogRow& row, bool content) {
+  JsonValue json{{"dateStamp", jsonOf(row.dateStamp)},
+                 {"idSite", jsonOf(row.idSite)},
+                 {"url", jsonOf(row.url)},
+                 {"status", jsonOf(row.status)},
+                 {"errCode", jsonOf(row.errCode)},
+                 {"errDescription", jsonOf(row.errDescription)}};
   if (content) {
     json["content"] = jsonOf(row.content);
   }
@@ -136,41 +134,39 @@ int clearLog(Tool& tool, const LogOptions& options) {
 
 }  // namespace
 
-void addLogVerb(CLI::App& app, Action& chosen) {
+Verb logVerb() {
   auto options = std::make_shared<LogOptions>();
-  CLI::App* verb = app.add_subcommand("log", "Show the log of check results, the oldest first, or empty it");
-  verb->add_option("ACTION", options->action, "show (default), clear")->check(CLI::IsMember({"show", "clear"}));
-  // The library would take an empty text for none at all.
-  verb->add_option("--since", CLI::callback_t([options](const CLI::results_t& values) {
-                     options->since = values.back();
-                     return true;
-                   }),
-                   "From this moment on: " + std::string(kMomentForms))
-      ->type_name("WHEN");
-  CLI::Option* site = verb->add_option("--site", options->idSite, "Only this site, also one that is deleted")
-                          ->type_name("ID")
-                          ->check(siteNumber());
-  verb->add_flag("--down", options->down, "Only checks that failed");
-  verb->add_option("--limit", options->limit, "Only the N newest of them")
-      ->type_name("N")
-      ->check(decimalNumber())
-      ->check(CLI::Range(std::int64_t{1}, kMostRows));
-  verb->add_flag("--content", options->content,
-                 "The pages of the checks that failed as well; none is kept of the others");
-  addJsonFlag(*verb, options->json);
-  verb->add_flag("--yes", options->yes, "For \"clear\": do not ask; needed where nobody can be asked");
-  verb->footer("The setting clogs says whether results are written to the log.\n" +
-               examples({{"log --since today --down", "what has failed today"},
-                         {"log --site 3 --limit 20", "the last 20 checks of a site"},
-                         {"log --since 2h --json | jq -r '.[] | select(.status == false) | .url' | sort | uniq -c",
-                          "how often each address has failed in the last two hours"},
-                         {"log clear --yes", "empty it, without a question"}}));
-  verb->callback([options, site, &chosen] {
-    options->oneSite = site->count() > 0;
-    chosen = [options](Tool& tool) {
-      return options->action == "clear" ? clearLog(tool, *options) : showLog(tool, *options);
-    };
-  });
+  return Verb{
+      "log",
+      "Show the log of check results, the oldest first, or empty it",
+      {{.name = "ACTION", .target = &options->action, .meaning = "show (default), clear", .oneOf = {"show", "clear"}},
+       {.name = "--since",
+        .target = &options->since,
+        .meaning = "From this moment on: " + std::string(kMomentForms),
+        .type = "WHEN"},
+       {.name = "--site",
+        .target = &options->idSite,
+        .meaning = "Only this site, also one that is deleted",
+        .type = "ID"},
+       {"--down", &options->down, "Only checks that failed"},
+       {.name = "--limit",
+        .target = &options->limit,
+        .meaning = "Only the N newest of them",
+        .type = "N",
+        .least = 1,
+        .most = kMostRows},
+       {"--content", &options->content, "The pages of the checks that failed as well; none is kept of the others"},
+       jsonOption(options->json),
+       {"--yes", &options->yes, "For \"clear\": do not ask; needed where nobody can be asked"}},
+      "The setting clogs says whether results are written to the log.\n" +
+          examples({{"log --since today --down", "what has failed today"},
+                    {"log --site 3 --limit 20", "the last 20 checks of a site"},
+                    {"log --since 2h --json | jq -r '.[] | select(.status == false) | .url' | sort | uniq -c",
+                     "how often each address has failed in the last two hours"},
+                    {"log clear --yes", "empty it, without a question"}}),
+      [options](Tool& tool) {
+        return options->action == "clear" ? clearLog(tool, *options) : showLog(tool, *options);
+      }};
 }
 
 }  // namespace tarnwick

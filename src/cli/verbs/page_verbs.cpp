@@ -4,6 +4,7 @@
 #include "cli/pages/unified_diff.h"
 #include "cli/terminal/input_file.h"
 #include "cli/terminal/json_text.h"
+#include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "platform/interrupts.h"
 
@@ -153,10 +154,9 @@ int diff(Tool& tool, const DiffOptions& options) {
   }
   Console& console = tool.console();
   if (options.json) {
-    Json lines = Json::array();
+    JsonValue lines = JsonValue::array();
     unifiedDiff(before, after, [&](const DiffLine& line) {
-      lines.push_back(
-          jsonText(std::string(line.mark == '@' ? "" : std::string(1, line.mark)) + std::string(line.text)));
+      lines.add(jsonText(std::string(line.mark == '@' ? "" : std::string(1, line.mark)) + std::string(line.text)));
     });
     sayJson(console, {{"idSite", options.idSite}, {"equal", before == after}, {"diff", std::move(lines)}});
   } else if (before != after) {
@@ -167,39 +167,39 @@ int diff(Tool& tool, const DiffOptions& options) {
   return before == after ? exit_status::ok : exit_status::down;
 }
 
-void addBaselineVerb(CLI::App& app, Action& chosen) {
+Verb baselineVerb() {
   auto options = std::make_shared<BaselineOptions>();
-  CLI::App* verb = app.add_subcommand("baseline", "Show or change the page that a site is compared with");
-  addSiteId(*verb, options->idSite)->required();
-  verb->add_option("ACTION", options->action,
-                   "show (default), load (fetch it from the URL now), set FILE, clear, accept (take the latest page)")
-      ->check(CLI::IsMember({"show", "load", "set", "clear", "accept"}));
-  verb->add_option("FILE", options->file, "The file for \"set\"; - is standard input");
-  verb->add_flag("--force", options->force, "For \"accept\": also a latest page that looks like a failed fetch");
-  addJsonFlag(*verb, options->json);
-  verb->footer(examples({{"baseline 3 > page.html", "the baseline, byte for byte"},
-                         {"baseline 3 set page.html", "an edited one"},
-                         {"baseline 3 accept", "what the last check fetched is how the page shall be"},
-                         {"baseline 3 load", "fetch the page now and take it"}}));
-  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return baseline(tool, *options); }; });
+  return Verb{"baseline",
+              "Show or change the page that a site is compared with",
+              {siteIdOption(options->idSite),
+               {.name = "ACTION",
+                .target = &options->action,
+                .meaning = "show (default), load (fetch it from the URL now), set FILE, clear, accept (take the latest "
+                           "page)",
+                .oneOf = {"show", "load", "set", "clear", "accept"}},
+               {"FILE", &options->file, "The file for \"set\"; - is standard input"},
+               {"--force", &options->force, "For \"accept\": also a latest page that looks like a failed fetch"},
+               jsonOption(options->json)},
+              examples({{"baseline 3 > page.html", "the baseline, byte for byte"},
+                        {"baseline 3 set page.html", "an edited one"},
+                        {"baseline 3 accept", "what the last check fetched is how the page shall be"},
+                        {"baseline 3 load", "fetch the page now and take it"}}),
+              [options](Tool& tool) { return baseline(tool, *options); }};
 }
 
-void addDiffVerb(CLI::App& app, Action& chosen) {
+Verb diffVerb() {
   auto options = std::make_shared<DiffOptions>();
-  CLI::App* verb = app.add_subcommand("diff", "Compare a site's baseline with its latest page, as a unified diff");
-  addSiteId(*verb, options->idSite)->required();
-  addJsonFlag(*verb, options->json);
-  verb->footer("The latest page is that of the last check. Exit status: 0 when equal, 1 when they differ.\n" +
-               examples({{"diff 3", "what has changed, coloured on a terminal"},
-                         {"diff 3 > page.patch", "for the program patch"}}));
-  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return diff(tool, *options); }; });
+  return Verb{"diff",
+              "Compare a site's baseline with its latest page, as a unified diff",
+              {siteIdOption(options->idSite), jsonOption(options->json)},
+              "The latest page is that of the last check. Exit status: 0 when equal, 1 when they differ.\n" +
+                  examples({{"diff 3", "what has changed, coloured on a terminal"},
+                            {"diff 3 > page.patch", "for the program patch"}}),
+              [options](Tool& tool) { return diff(tool, *options); }};
 }
 
 }  // namespace
 
-void addPageVerbs(CLI::App& app, Action& chosen) {
-  addBaselineVerb(app, chosen);
-  addDiffVerb(app, chosen);
-}
+std::vector<Verb> pageVerbs() { return {baselineVerb(), diffVerb()}; }
 
 }  // namespace tarnwick

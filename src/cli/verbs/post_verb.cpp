@@ -6,6 +6,7 @@
 #include "cli/terminal/json_text.h"
 #include "cli/terminal/text_grid.h"
 #include "cli/verbs/site_edit_verbs.h"
+#include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 
 namespace tarnwick {
@@ -163,41 +164,34 @@ int post(Tool& tool, const PostOptions& options) {
   return listVars(tool, options);
 }
 
-// Any text is a name or a value, also an empty one.
-void addText(CLI::App& verb, const char* name, Text& text, const char* meaning) {
-  verb.add_option(name, CLI::callback_t([&text](const CLI::results_t& values) {
-                    text = values.back();
-                    return true;
-                  }),
-                  meaning)
-      ->type_name("TEXT");
-}
-
 }  // namespace
 
-void addPostVerb(CLI::App& app, Action& chosen) {
+Verb postVerb() {
   auto options = std::make_shared<PostOptions>();
-  CLI::App* verb = app.add_subcommand("post", "List, add, change or remove the POST variables of a site");
-  addSiteId(*verb, options->idSite)->required();
-  verb->add_option("ACTION", options->action, "list (default), add, change, remove")
-      ->check(CLI::IsMember({"list", "add", "change", "remove"}));
-  addText(*verb, "NAME", options->name, "The variable's name");
-  addText(*verb, "VALUE", options->value, "Its value; not needed to find the only one of a name");
-  addText(*verb, "NEW_NAME", options->newName, "For \"change\": the new name");
-  addText(*verb, "NEW_VALUE", options->newValue, "For \"change\": the new value");
-  addText(*verb, "--name", options->nameOption, "For \"change\": the new name alone");
-  addText(*verb, "--value", options->valueOption, "For \"change\": the new value alone");
-  addJsonFlag(*verb, options->json);
-  verb->footer(
+  return Verb{
+      "post",
+      "List, add, change or remove the POST variables of a site",
+      {siteIdOption(options->idSite),
+       {.name = "ACTION",
+        .target = &options->action,
+        .meaning = "list (default), add, change, remove",
+        .oneOf = {"list", "add", "change", "remove"}},
+       {"NAME", &options->name, "The variable's name"},
+       {"VALUE", &options->value, "Its value; not needed to find the only one of a name"},
+       {"NEW_NAME", &options->newName, "For \"change\": the new name"},
+       {"NEW_VALUE", &options->newValue, "For \"change\": the new value"},
+       {"--name", &options->nameOption, "For \"change\": the new name alone"},
+       {"--value", &options->valueOption, "For \"change\": the new value alone"},
+       jsonOption(options->json)},
       "Names and values are found exactly as they are: letter case and blanks count. What begins with a minus sign is "
       "written behind --.\n" +
-      examples({{"post 3", "the variables, in the order in which they are sent"},
-                {"post 3 add lang en", "one more"},
-                {"post 3 change lang en lang de", "the one of this name and value"},
-                {"post 3 change lang --value de", "the same, where it is the only one of its name"},
-                {"post 3 remove lang", "one less"},
-                {"post 3 add -- offset -1", "a value with a minus sign"}}));
-  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return post(tool, *options); }; });
+          examples({{"post 3", "the variables, in the order in which they are sent"},
+                    {"post 3 add lang en", "one more"},
+                    {"post 3 change lang en lang de", "the one of this name and value"},
+                    {"post 3 change lang --value de", "the same, where it is the only one of its name"},
+                    {"post 3 remove lang", "one less"},
+                    {"post 3 add -- offset -1", "a value with a minus sign"}}),
+      [options](Tool& tool) { return post(tool, *options); }};
 }
 
 }  // namespace tarnwick

@@ -53,7 +53,7 @@ void RunTerminal::begin() {
 void RunTerminal::end() {
   console_.endLive();
   if (begun_) {
-    tell("Run stopped.", "stopped", Json::object());
+    tell("Run stopped.", "stopped", JsonValue::object());
   }
   data_ = nullptr;
 }
@@ -105,7 +105,7 @@ void RunTerminal::showResult(const CheckResult& result) {
         {"status", result.passed},
         {"errCode", result.errCode},
         {"errDescription", jsonText(result.errDescription)},
-        {"cause", cause.empty() ? Json() : Json(cause)}});
+        {"cause", cause.empty() ? JsonValue() : JsonValue(cause)}});
 }
 
 void RunTerminal::endPass() {
@@ -133,12 +133,14 @@ void RunTerminal::forgetWhatIsNotWatched() {
   std::erase_if(known_, [&watched](const auto& site) { return !watched.contains(site.first); });
 }
 
-void RunTerminal::tell(const std::string& text, const char* event, const Json& details) {
+void RunTerminal::tell(const std::string& text, const char* event, JsonValue details) {
   const std::string now = dateTimeText(clock_.localNow());
   if (style_.json) {
-    Json line{{"time", now}, {"event", event}};
-    line.update(details);
-    console_.say(line.dump());
+    JsonValue line{{"time", now}, {"event", event}};
+    for (JsonValue::Member& detail : std::get<JsonValue::Object>(details.content())) {
+      line[detail.first] = std::move(detail.second);
+    }
+    console_.say(jsonLine(std::move(line)));
   } else {
     console_.say(now + " " + text);
   }

@@ -47,7 +47,7 @@ class RunTerminal final : public SilentView {
   };
 
   void begin();
-  void tell(const std::string& text, const char* event, const Json& details);
+  void tell(const std::string& text, const char* event, JsonValue details);
   void endPass();
   void forgetWhatIsNotWatched();
   bool hasLiveLine() const;

@@ -1,4 +1,5 @@
 #include "cli/verbs/run_terminal.h"
+#include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "platform/interrupts.h"
 #include "program/program.h"
@@ -41,18 +42,18 @@ int run(Tool& tool, const RunTerminal::Style& style) {
 
 }  // namespace
 
-void addRunVerb(CLI::App& app, Action& chosen) {
+Verb runVerb() {
   auto style = std::make_shared<RunTerminal::Style>();
-  CLI::App* verb =
-      app.add_subcommand("run", "Watch the sites until interrupted: check all active ones, then each when it is due");
-  verb->add_flag("--verbose", style->verbose, "A line for every result, not only for failures and recoveries");
-  verb->add_flag("--json", style->json, "Print an object a line for every event");
-  verb->footer(
+  return Verb{
+      "run",
+      "Watch the sites until interrupted: check all active ones, then each when it is due",
+      {{"--verbose", &style->verbose, "A line for every result, not only for failures and recoveries"},
+       {"--json", &style->json, "Print an object a line for every event"}},
       "Ctrl+C (SIGINT) and SIGTERM stop the run and close the database; so does the end of what reads its output. One "
       "run at a time is possible on a folder. A site that is added meanwhile is taken on once it was checked.\n" +
-      examples({{"run", "a countdown on a terminal, lines with their time elsewhere"},
-                {"run --json | jq 'select(.status == false)'", "only the failures"}}));
-  verb->callback([style, &chosen] { chosen = [style](Tool& tool) { return run(tool, *style); }; });
+          examples({{"run", "a countdown on a terminal, lines with their time elsewhere"},
+                    {"run --json | jq 'select(.status == false)'", "only the failures"}}),
+      [style](Tool& tool) { return run(tool, *style); }};
 }
 
 }  // namespace tarnwick

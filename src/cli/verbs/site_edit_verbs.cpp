@@ -10,6 +10,7 @@
 #include "base/text.h"
 #include "cli/terminal/input_file.h"
 #include "cli/terminal/json_text.h"
+#include "cli/verbs/verbs.h"
 #include "platform/address.h"
 #include "program/site_draft.h"
 
@@ -150,75 +151,83 @@ int setSite(Tool& tool, const SiteEdit& edit) {
   return exit_status::ok;
 }
 
-// The library would take an empty text for none at all, and that is what removes a user name.
-CLI::Option* addText(CLI::App& verb, const char* name, std::optional<std::string>& text, const char* type,
-                     const char* meaning) {
-  return verb
-      .add_option(name, CLI::callback_t([&text](const CLI::results_t& values) {
-                    text = values.back();
-                    return true;
-                  }),
-                  meaning)
-      ->type_name(type);
+void addFields(std::vector<VerbOption>& options, SiteEdit& edit) {
+  options.insert(
+      options.end(),
+      {{.name = "--method", .target = &edit.method, .meaning = "How the page is fetched", .type = "get|post"},
+       {.name = "--interval",
+        .target = &edit.interval,
+        .meaning = "The time between two checks, 1 to 32767 minutes",
+        .type = "MINUTES"},
+       {.name = "--user",
+        .target = &edit.user,
+        .meaning = "The user name for the fetch; \"\" for none",
+        .type = "NAME"},
+       VerbOption{"--password", &edit.password,
+                  "The password for the fetch; other users of this machine may see it on the command line, so prefer "
+                  "--password-file"},
+       {.name = "--password-file",
+        .target = &edit.passwordFile,
+        .meaning = "Read the password from a file, without its line end; - is standard input",
+        .type = "FILE",
+        .excludes = "--password"},
+       {.name = "--post",
+        .target = &edit.posts,
+        .meaning = "A POST variable; may be given several times",
+        .type = "NAME=VALUE"}});
 }
 
-void addFields(CLI::App& verb, SiteEdit& edit) {
-  addText(verb, "--method", edit.method, "get|post", "How the page is fetched");
-  addText(verb, "--interval", edit.interval, "MINUTES", "The time between two checks, 1 to 32767 minutes");
-  addText(verb, "--user", edit.user, "NAME", "The user name for the fetch; \"\" for none");
-  CLI::Option* password = addText(verb, "--password", edit.password, "TEXT",
-                                  "The password for the fetch; other users of this machine may see it on the command "
-                                  "line, so prefer --password-file");
-  addText(verb, "--password-file", edit.passwordFile, "FILE",
-          "Read the password from a file, without its line end; - is standard input")
-      ->excludes(password);
-  verb.add_option("--post", CLI::callback_t([&edit](const CLI::results_t& values) {
-                    edit.posts = values;
-                    return true;
-                  }),
-                  "A POST variable; may be given several times")
-      ->type_name("NAME=VALUE")
-      ->type_size(1)
-      ->expected(1, CLI::detail::expected_max_vector_size)
-      ->allow_extra_args(false)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+VerbOption alertOption(SiteEdit& edit) {
+  return {.name = "--alert-email",
+          .target = &edit.alertEmail,
+          .meaning = "Mail its failures to this address",
+          .type = "ADDRESS"};
 }
 
-void addAddVerb(CLI::App& app, Action& chosen) {
+Verb addVerb() {
   auto edit = std::make_shared<SiteEdit>();
-  CLI::App* verb = app.add_subcommand("add", "Add a site to the list and print its id");
-  addText(*verb, "URL", edit->url, "TEXT", "The address of the page: http, https, ftp or ftps")->required();
-  addFields(*verb, *edit);
-  verb->add_flag("--inactive", edit->inactive, "Leave it out of runs");
-  addText(*verb, "--alert-email", edit->alertEmail, "ADDRESS", "Mail its failures to this address");
-  addJsonFlag(*verb, edit->json);
-  verb->footer(
+  std::vector<VerbOption> options{{.name = "URL",
+                                   .target = &edit->url,
+                                   .meaning = "The address of the page: http, https, ftp or ftps",
+                                   .required = true}};
+  addFields(options, *edit);
+  options.insert(options.end(), {VerbOption{"--inactive", &edit->inactive, "Leave it out of runs"}, alertOption(*edit),
+                                 jsonOption(edit->json)});
+  return Verb{
+      "add", "Add a site to the list and print its id", std::move(options),
       "Without options it is fetched with GET every 10 minutes; with --post it is fetched with POST. The first page "
       "that is fetched becomes its baseline. A run that is on takes the site on once it was checked.\n" +
-      examples({{"add https://example.org/", "watch a page"},
-                {"check $(tarnwickctl add https://example.org/)", "and check it at once, so that a run takes it on"},
-                {"add https://example.org/search --post q=tarn --post lang=en --interval 60", "what a form answers"},
-                {"add https://example.org/in --user ann --password-file secret.txt", "behind a password"},
-                {"add https://example.org/ --alert-email ann@example.org", "with alert mails"}}));
-  verb->callback([edit, &chosen] { chosen = [edit](Tool& tool) { return addSite(tool, *edit); }; });
+          examples(
+              {{"add https://example.org/", "watch a page"},
+               {"check $(tarnwickctl add https://example.org/)", "and check it at once, so that a run takes it on"},
+               {"add https://example.org/search --post q=tarn --post lang=en --interval 60", "what a form answers"},
+               {"add https://example.org/in --user ann --password-file secret.txt", "behind a password"},
+               {"add https://example.org/ --alert-email ann@example.org", "with alert mails"}}),
+      [edit](Tool& tool) { return addSite(tool, *edit); }};
 }
 
-void addSetVerb(CLI::App& app, Action& chosen) {
+Verb setVerb() {
   auto edit = std::make_shared<SiteEdit>();
-  CLI::App* verb = app.add_subcommand("set", "Change a site; what is not named stays as it is");
-  addSiteId(*verb, edit->idSite)->required();
-  addText(*verb, "--url", edit->url, "TEXT", "The address of the page: http, https, ftp or ftps");
-  addFields(*verb, *edit);
-  CLI::Option* active = verb->add_flag("--active", edit->active, "Let runs check it");
-  verb->add_flag("--inactive", edit->inactive, "Leave it out of runs")->excludes(active);
-  CLI::Option* alert =
-      addText(*verb, "--alert-email", edit->alertEmail, "ADDRESS", "Mail its failures to this address");
-  verb->add_flag("--no-alert-email", edit->noAlertEmail, "Mail no failures; the address is kept")->excludes(alert);
-  verb->footer("With --post the variables given replace all that the site has; the verb post changes single ones.\n" +
-               examples({{"set 3 --interval 5 --active", "check it more often"},
-                         {"set 3 --url https://example.org/new", "the page has moved"},
-                         {"set 3 --user \"\" --password \"\"", "no credentials any more"}}));
-  verb->callback([edit, &chosen] { chosen = [edit](Tool& tool) { return setSite(tool, *edit); }; });
+  std::vector<VerbOption> options{
+      siteIdOption(edit->idSite),
+      VerbOption{"--url", &edit->url, "The address of the page: http, https, ftp or ftps"},
+  };
+  addFields(options, *edit);
+  options.insert(
+      options.end(),
+      {VerbOption{"--active", &edit->active, "Let runs check it"},
+       {.name = "--inactive", .target = &edit->inactive, .meaning = "Leave it out of runs", .excludes = "--active"},
+       alertOption(*edit),
+       {.name = "--no-alert-email",
+        .target = &edit->noAlertEmail,
+        .meaning = "Mail no failures; the address is kept",
+        .excludes = "--alert-email"}});
+  return Verb{"set", "Change a site; what is not named stays as it is", std::move(options),
+              "With --post the variables given replace all that the site has; the verb post changes single ones.\n" +
+                  examples({{"set 3 --interval 5 --active", "check it more often"},
+                            {"set 3 --url https://example.org/new", "the page has moved"},
+                            {"set 3 --user \"\" --password \"\"", "no credentials any more"}}),
+              [edit](Tool& tool) { return setSite(tool, *edit); }};
 }
 
 }  // namespace
@@ -271,9 +280,6 @@ std::string intervalOf(const std::string& text) {
   return std::to_string(minutes);
 }
 
-void addEditVerbs(CLI::App& app, Action& chosen) {
-  addAddVerb(app, chosen);
-  addSetVerb(app, chosen);
-}
+std::vector<Verb> siteEditVerbs() { return {addVerb(), setVerb()}; }
 
 }  // namespace tarnwick

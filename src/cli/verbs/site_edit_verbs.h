@@ -2,12 +2,9 @@
 
 #include <string>
 
-#include "cli/verbs/verbs.h"
+#include "cli/verbs/tool.h"
 
 namespace tarnwick {
-
-/// add, set
-void addEditVerbs(CLI::App& app, Action& chosen);
 
 /// Raises std::runtime_error, which says why, when a page cannot be fetched from `url`.
 void requireFetchable(const std::string& url);

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <ostream>
+#include <ranges>
 #include <set>
 
 #include "cli/list/site_facts.h"
@@ -22,7 +23,7 @@ struct SitesOptions {
   bool json = false;
 };
 
-struct SiteOptions {
+struct ShowOptions {
   std::int16_t idSite = 0;
   bool json = false;
   bool showPassword = false;
@@ -119,17 +120,17 @@ void printSite(Console& console, const SiteFacts& facts, const std::vector<PostV
       {"Password", passwordText(site.sPassWord, showPassword)},
       {"Baseline", baselineText(baselineSize)},
       {"Variables", vars.empty() ? "none" : std::to_string(vars.size())}};
-  constexpr std::size_t kLabelWidth = 12;
+  const std::size_t width = std::ranges::max(lines | std::views::keys | std::views::transform(&std::string::size));
   std::ostream& out = console.out();
   for (const auto& [label, text] : lines) {
-    out << label << ':' << std::string(kLabelWidth - label.size(), ' ') << text << '\n';
+    out << label << ':' << std::string(width + 2 - label.size(), ' ') << text << '\n';
   }
   for (const PostVar& var : vars) {
     out << "  " << visibleText(var.name) << '=' << visibleText(var.value) << '\n';
   }
 }
 
-int showSite(Tool& tool, const SiteOptions& options) {
+int showSite(Tool& tool, const ShowOptions& options) {
   m& data = tool.data();
   requireListed(tool, options.idSite);
   const std::vector<SiteFacts> sites = readSiteFacts(data, options.idSite);
@@ -143,11 +144,11 @@ int showSite(Tool& tool, const SiteOptions& options) {
     printSite(tool.console(), *facts, vars, baselineSize, options.showPassword);
     return exit_status::ok;
   }
-  Json json = siteJson(*facts, options.showPassword);
+  JsonValue json = siteJson(*facts, options.showPassword);
   json["postVars"] = postVarsJson(vars);
   json["hasBaseline"] = baselineSize != 0;
   json["baselineSize"] = baselineSize;
-  sayJson(tool.console(), json);
+  sayJson(tool.console(), std::move(json));
   return exit_status::ok;
 }
 
@@ -189,51 +190,53 @@ int deleteSites(Tool& tool, const DeleteOptions& options) {
   return exit_status::ok;
 }
 
-void addSitesVerb(CLI::App& app, Action& chosen) {
+Verb sitesVerb() {
   auto options = std::make_shared<SitesOptions>();
-  CLI::App* verb = app.add_subcommand("sites", "List the sites");
-  verb->add_flag("--down", options->down, "Only those whose last check failed");
-  CLI::Option* active = verb->add_flag("--active", options->active, "Only those that a run checks");
-  verb->add_flag("--inactive", options->inactive, "Only those that a run leaves out")->excludes(active);
-  addJsonFlag(*verb, options->json);
-  verb->footer(
+  return Verb{
+      "sites",
+      "List the sites",
+      {{"--down", &options->down, "Only those whose last check failed"},
+       {"--active", &options->active, "Only those that a run checks"},
+       {.name = "--inactive",
+        .target = &options->inactive,
+        .meaning = "Only those that a run leaves out",
+        .excludes = "--active"},
+       jsonOption(options->json)},
       "STATE is \"up\" or \"down\" as the last check found, and \"-\" where none has been made.\n" +
-      examples({{"sites", "all of them"},
-                {"sites --down --active", "what needs a look"},
-                {"sites --json | jq -r '.[] | select(.status == false) | .url'", "the addresses that are down"}}));
-  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return listSites(tool, *options); }; });
+          examples({{"sites", "all of them"},
+                    {"sites --down --active", "what needs a look"},
+                    {"sites --json | jq -r '.[] | select(.status == false) | .url'", "the addresses that are down"}}),
+      [options](Tool& tool) { return listSites(tool, *options); }};
 }
 
-void addSiteVerb(CLI::App& app, Action& chosen) {
-  auto options = std::make_shared<SiteOptions>();
-  CLI::App* verb = app.add_subcommand("site", "Show all about one site");
-  addSiteId(*verb, options->idSite)->required();
-  verb->add_flag("--show-password", options->showPassword, "Show the password too");
-  addJsonFlag(*verb, options->json);
-  verb->footer(examples({{"site 3", "its settings, counters, POST variables, and the size of its baseline"},
-                         {"site 3 --json --show-password", "the same for a script, with the password"}}));
-  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return showSite(tool, *options); }; });
-}
-
-void addDeleteVerb(CLI::App& app, Action& chosen) {
-  auto options = std::make_shared<DeleteOptions>();
-  CLI::App* verb = app.add_subcommand("delete", "Delete sites with their POST variables and baselines");
-  verb->add_option("ID", options->ids, "The ids of the sites, as the verb sites lists them")
-      ->required()
-      ->check(siteNumber());
-  verb->add_flag("--yes", options->yes, "Do not ask; needed where nobody can be asked");
-  verb->footer("All of them are deleted, or none when one is not in the list. What the log says of them stays.\n" +
-               examples({{"delete 3", "asks first"}, {"delete 3 7 12 --yes", "three sites, without a question"}}));
-  verb->callback([options, &chosen] { chosen = [options](Tool& tool) { return deleteSites(tool, *options); }; });
+Verb siteVerb() {
+  auto options = std::make_shared<ShowOptions>();
+  return Verb{"site",
+              "Show all about one site",
+              {siteIdOption(options->idSite),
+               {"--show-password", &options->showPassword, "Show the password too"},
+               jsonOption(options->json)},
+              examples({{"site 3", "its settings, counters, POST variables, and the size of its baseline"},
+                        {"site 3 --json --show-password", "the same for a script, with the password"}}),
+              [options](Tool& tool) { return showSite(tool, *options); }};
 }
 
 }  // namespace
 
-void addSiteVerbs(CLI::App& app, Action& chosen) {
-  addSitesVerb(app, chosen);
-  addSiteVerb(app, chosen);
-  addEditVerbs(app, chosen);
-  addDeleteVerb(app, chosen);
+std::vector<Verb> siteVerbs() { return {sitesVerb(), siteVerb()}; }
+
+Verb deleteVerb() {
+  auto options = std::make_shared<DeleteOptions>();
+  return Verb{"delete",
+              "Delete sites with their POST variables and baselines",
+              {{.name = "ID",
+                .target = &options->ids,
+                .meaning = "The ids of the sites, as the verb sites lists them",
+                .required = true},
+               {"--yes", &options->yes, "Do not ask; needed where nobody can be asked"}},
+              "All of them are deleted, or none when one is not in the list. What the log says of them stays.\n" +
+                  examples({{"delete 3", "asks first"}, {"delete 3 7 12 --yes", "three sites, without a question"}}),
+              [options](Tool& tool) { return deleteSites(tool, *options); }};
 }
 
 }  // namespace tarnwick

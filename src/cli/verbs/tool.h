@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -9,8 +8,10 @@
 #include <string_view>
 
 #include "cli/terminal/console.h"
+#include "cli/verbs/verb.h"
 #include "platform/services.h"
 #include "program/m.h"
+#include "store/fields.h"
 
 namespace tarnwick {
 
@@ -26,8 +27,8 @@ inline constexpr int failed = 2;
 /// What every verb has at hand.
 class Tool {
  public:
-  Tool(std::string programFolder, const Services& services, Console& console)
-      : folder_(std::move(programFolder)), services_(services), console_(console) {}
+  Tool(std::string programFolder, const Services& services, Console& console, const Fields& fields = programFields())
+      : folder_(std::move(programFolder)), services_(services), console_(console), fields_(fields) {}
 
   /// The data of the program folder, opened on first use; raises DataAccessError when that fails.
   m& data() {
@@ -39,16 +40,16 @@ class Tool {
   const std::string& programFolder() const { return folder_; }
   const Services& services() const { return services_; }
   Console& console() { return console_; }
+  /// What can be set.
+  const Fields& fields() const { return fields_; }
 
  private:
   std::string folder_;
   Services services_;
   Console& console_;
+  const Fields& fields_;
   std::optional<m> data_;
 };
-
-/// A verb that has been asked for, with its options: returns the exit status. What it raises is shown to the user.
-using Action = std::function<int(Tool&)>;
 
 /// What is raised for an id that is not in the list.
 std::runtime_error noSuchSite(std::int16_t idSite);
@@ -59,6 +60,6 @@ void requireListed(Tool& tool, std::int16_t idSite);
 /// an executable in `programFolder` (see `programFolderFor`).
 /// Returns the exit status; nothing is raised.
 int runTool(const std::vector<std::string>& arguments, const std::string& programFolder, const Services& services,
-            Console& console);
+            Console& console, const Fields& fields = programFields());
 
 }  // namespace tarnwick

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "cli/terminal/json_text.h"
+#include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 
 namespace tarnwick {
@@ -62,29 +63,27 @@ int compact(Tool& tool, const UpkeepOptions& options) {
   return exit_status::ok;
 }
 
-void addUpkeepVerb(CLI::App& app, Action& chosen, const char* name, const char* description, const std::string& footer,
-                   int (*work)(Tool&, const UpkeepOptions&)) {
+Verb upkeepVerb(const char* name, const char* summary, std::string footer, int (*work)(Tool&, const UpkeepOptions&)) {
   auto options = std::make_shared<UpkeepOptions>();
-  CLI::App* verb = app.add_subcommand(name, description);
-  addJsonFlag(*verb, options->json);
-  verb->footer(footer);
-  verb->callback([options, work, &chosen] { chosen = [options, work](Tool& tool) { return work(tool, *options); }; });
+  return Verb{name, summary, {jsonOption(options->json)}, std::move(footer), [options, work](Tool& tool) {
+                return work(tool, *options);
+              }};
 }
 
 }  // namespace
 
-void addUpkeepVerbs(CLI::App& app, Action& chosen) {
-  addUpkeepVerb(
-      app, chosen, "report", "Write the report of today's log and print its path",
-      "It is reports/report.html in the program folder; only the newest is kept.\n" +
-          examples({{"report", "the path of the page that was written"}, {"report --json", "the same for a script"}}),
-      report);
-  addUpkeepVerb(
-      app, chosen, "compact", "Shrink the database, and keep a copy of it as it was",
-      "The copy is backup.mdb in the program folder. No other program may have the database open: end a run "
-      "and close the window first.\n" +
-          examples({{"compact", "prints the sizes before and after"}, {"compact --json", "the same for a script"}}),
-      compact);
+std::vector<Verb> upkeepVerbs() {
+  return {upkeepVerb("report", "Write the report of today's log and print its path",
+                     "It is reports/report.html in the program folder; only the newest is kept.\n" +
+                         examples({{"report", "the path of the page that was written"},
+                                   {"report --json", "the same for a script"}}),
+                     report),
+          upkeepVerb("compact", "Shrink the database, and keep a copy of it as it was",
+                     "The copy is backup.mdb in the program folder. No other program may have the database open: end "
+                     "a run and close the window first.\n" +
+                         examples({{"compact", "prints the sizes before and after"},
+                                   {"compact --json", "the same for a script"}}),
+                     compact)};
 }
 
 }  // namespace tarnwick

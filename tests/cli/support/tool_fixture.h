@@ -6,11 +6,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <iostream>
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 #include <vector>
 
-#include "cli/terminal/json_text.h"
 #include "cli/verbs/tool.h"
 #include "program/m.h"
 #include "support/http_server.h"
@@ -18,6 +18,8 @@
 #include "support/test_services.h"
 
 namespace tarnwick::testing {
+
+using Json = nlohmann::ordered_json;
 
 /// The tool in this process, on a program folder of its own and beside a web server:
 ///
@@ -36,7 +38,7 @@ class ToolFixture : public ::testing::Test {
     int status = -1;
     {
       const TypedInput typed(input);
-      status = runTool(arguments, folder.path(), machine.services(), console);
+      status = runTool(arguments, folder.path(), machine.services(), console, fields);
     }
     out = written.str();
     err = complaints.str();
@@ -72,6 +74,8 @@ class ToolFixture : public ::testing::Test {
 
   ProgramFolder folder;
   TestServices machine;
+  /// What can be set; a case may add to it.
+  Fields fields = programFields();
   HttpServer server;
   /// What standard output and standard input are; no terminals unless a case says so.
   TerminalFacts terminal{};

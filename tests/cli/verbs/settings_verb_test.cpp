@@ -27,6 +27,16 @@ TEST_F(SettingsVerb, ListsAllOfThem) {
             "cprogram  off\n");
 }
 
+TEST_F(SettingsVerb, TakesANameOfAnyLength) {
+  fields.settings.push_back({"longestWaitForTheMailServer", FieldKind::seconds, "Wait", "how long it may take"});
+  folder.execute("alter table control add column longestWaitForTheMailServer integer");
+  EXPECT_EQ(run({"settings", "--help"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("\n  longestWaitForTheMailServer  how long it may take\n"));
+  EXPECT_THAT(out, HasSubstr("\n  smtp                         the mail server"));
+  EXPECT_EQ(run({"settings", "LONGESTwaitForTheMailServer", "7"}), exit_status::ok) << err;
+  EXPECT_EQ(runJson({"settings", "--json"})["longestWaitForTheMailServer"], 7);
+}
+
 TEST_F(SettingsVerb, PrintsThemAsJson) {
   folder.execute("update control set program = null, caudio = null, email = 'NULL'");
   EXPECT_EQ(runJson({"settings", "--json"}),

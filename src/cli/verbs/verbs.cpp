@@ -1,0 +1,26 @@
+#include "cli/verbs/verbs.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace tarnwick {
+
+std::vector<Verb> allVerbs(const Fields& fields) {
+  std::vector<Verb> all;
+  const auto add = [&all](std::vector<Verb> verbs) { std::ranges::move(verbs, std::back_inserter(all)); };
+  add(siteVerbs());
+  add(siteEditVerbs());
+  all.push_back(deleteVerb());
+  all.push_back(postVerb());
+  add(pageVerbs());
+  all.push_back(countersVerb());
+  all.push_back(checkVerb());
+  all.push_back(runVerb());
+  all.push_back(settingsVerb(fields));
+  all.push_back(logVerb());
+  add(upkeepVerbs());
+  add(exchangeVerbs());
+  return all;
+}
+
+}  // namespace tarnwick
