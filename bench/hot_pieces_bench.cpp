@@ -69,7 +69,7 @@ void countBytes(benchmark::State& state, std::size_t bytes) {
 void translateShortStatement(benchmark::State& state) {
   const std::string sql = "update sites set success = 12 where idsite = 34";
   for (auto _ : state) {
-    benchmark::DoNotOptimize(translateSql(sql));
+    benchmark::DoNotOptimize(translateSql(sql, SystemClock()));
   }
 }
 BENCHMARK(translateShortStatement);
@@ -79,7 +79,7 @@ void translateLogStatement(benchmark::State& state) {
       "insert into log (idSite,url,status,errCode,errDescription,content) values "
       "(1,'http://127.0.0.1/p1',True,0,'','')";
   for (auto _ : state) {
-    benchmark::DoNotOptimize(translateSql(sql));
+    benchmark::DoNotOptimize(translateSql(sql, SystemClock()));
   }
 }
 BENCHMARK(translateLogStatement);
@@ -89,7 +89,7 @@ void translatePageStatement(benchmark::State& state) {
   const std::string sql =
       joinSql("update sites set content_runtime = '", sqlQuote(page(size)), "'", " WHERE idsite = ", sqlQuote(1));
   for (auto _ : state) {
-    benchmark::DoNotOptimize(translateSql(sql));
+    benchmark::DoNotOptimize(translateSql(sql, SystemClock()));
   }
   countBytes(state, size);
 }

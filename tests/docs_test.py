@@ -58,7 +58,7 @@ NO_MESSAGES = {
     "src/cli/pages/unified_diff.cpp": ("the word of every diff for it", (" No newline",)),
     "src/cli/verbs/site_verbs.cpp": ("cells of the verb site", ("set; --show", "none yet:")),
     "src/engine/run_controller.cpp": ("the run clock", ("Run Time:",)),
-    "src/platform/sqlite/sqlite_tables.cpp": ("pieces of statements", ("INTEGER PRIMARY",)),
+    "src/platform/sqlite/sqlite_tables.cpp": ("pieces of statements", (" as select", " INTEGER PRIMARY")),
     "src/platform/sqlite/sqlite_errors.cpp": ("the library's words, which are taken away", ("CHECK constraint failed:",)),
     "src/platform/web/transfer_failure.cpp": ("the library's words, which are looked for",
                                           ("FTP response timeout",)),

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstddef>
+#include <cstdint>
+#include <initializer_list>
 
-#include "base/errors.h"
-#include "base/text.h"
-#include "platform/sqlite/shown_statement.h"
-#include "platform/sqlite/sql_rows_translator.h"
+#include "platform/sqlite/sql_tokens.h"
 
 namespace tarnwick {
 namespace {
@@ -18,210 +18,197 @@ using Tokens = std::vector<SqlToken>;
 bool concernsRows(const Tokens& tokens) {
   static constexpr std::array<std::string_view, 8> kFirstWords{"select",  "insert", "update", "delete",
                                                                "replace", "with",   "values", "explain"};
-  return !tokens.empty() && std::any_of(kFirstWords.begin(), kFirstWords.end(),
-                                        [&](std::string_view word) { return tokens.front().isWord(word); });
+  return !tokens.empty() &&
+         std::ranges::any_of(kFirstWords, [&](std::string_view word) { return tokens.front().is(word); });
 }
 
-/// Reads a statement from the left, piece by piece.
-class Reader {
+/// Copies a statement, with other words in the place of some of its own.
+class RowsTranslator {
  public:
-  explicit Reader(const Tokens& tokens) : tokens_(tokens) {}
+  RowsTranslator(const Tokens& tokens, const Clock& clock) : tokens_(tokens), clock_(clock) {}
 
-  bool atEnd() const { return position_ == tokens_.size(); }
-  bool word(std::string_view lower) { return skipIf(!atEnd() && tokens_[position_].isWord(lower)); }
-  bool symbol(std::string_view symbol) { return skipIf(!atEnd() && tokens_[position_].isSymbol(symbol)); }
-  bool name(std::string& result) {
-    if (atEnd() || !tokens_[position_].isName()) {
-      return false;
+  PlainStatement translate() {
+    statement_.reusable = true;
+    for (position_ = 0; position_ < tokens_.size(); ++position_) {
+      take(tokens_[position_]);
     }
-    result = nameIn(tokens_[position_++]);
-    return true;
+    const std::string_view last = tokens_.back().source;
+    statement_.text.append(copied_, last.data() + last.size()).append(limit_);
+    return std::move(statement_);
   }
 
  private:
-  bool skipIf(bool matches) {
-    position_ += matches ? 1 : 0;
-    return matches;
+  /// The piece that stands so many places before the one that is looked at.
+  const SqlToken& before(std::size_t places) const {
+    static constexpr SqlToken kNothing{SqlTokenKind::symbol, {}};
+    return places <= position_ ? tokens_[position_ - places] : kNothing;
+  }
+
+  void take(const SqlToken& token) {
+    switch (token.kind) {
+      case SqlTokenKind::text:
+        // A unit stays as written: SQLite computes an expression once when it stands twice word for word, in the list
+        // of columns and in the order.
+        if (!before(1).is("(") || !before(2).is("datediff")) {
+          takeText(token);
+        }
+        break;
+      case SqlTokenKind::number:
+        takeNumber(token);
+        break;
+      case SqlTokenKind::word:
+        takeWord(token);
+        break;
+      case SqlTokenKind::symbol:
+        takeSymbol(token);
+        break;
+      case SqlTokenKind::name:
+        break;
+    }
+  }
+
+  void takeText(const SqlToken& token) {
+    const std::string_view inner = token.source.substr(1, token.source.size() - 2);
+    if (inner.find('\'') == std::string_view::npos) {
+      replace(0, parameter(inner));
+    } else {
+      replace(0, parameter(SqlValue(unquoted(token))));
+    }
+  }
+
+  void takeNumber(const SqlToken& token) {
+    if (before(1).is("top") && before(2).is("select")) {
+      limit_ = " limit " + std::string(token.source);
+      replace(1, {});
+      return;
+    }
+    const bool counts = before(1).is("=") || (inValues_ && (before(1).is("(") || before(1).is(",")));
+    std::int64_t value = 0;
+    const char* const end = token.source.data() + token.source.size();
+    const auto [stop, fault] = std::from_chars(token.source.data(), end, value);
+    if (counts && fault == std::errc{} && stop == end) {
+      replace(0, parameter(SqlValue(value)));
+    }
+  }
+
+  void takeWord(const SqlToken& token) {
+    if (token.is("where")) {
+      inCondition_ = true;
+    } else if (token.is("values")) {
+      inValues_ = true;
+    } else if (inCondition_ && before(1).is("=") && (token.is("true") || token.is("false"))) {
+      // In a `set` the same words assign, and SQLite reads them as 1 and 0.
+      replace(1, " is " + std::string(token.source));
+    }
+  }
+
+  void takeSymbol(const SqlToken& token) {
+    if (token.is("(") && before(1).is("datevalue")) {
+      replace(1, "date(");
+    } else if (token.is(")") && before(1).is("(") && before(2).is("now")) {
+      if (now_.empty()) {
+        now_ = parameter(SqlValue(dateTimeText(clock_.localNow())));
+      }
+      replace(2, now_);
+    }
+  }
+
+  std::string parameter(SqlParameter value) {
+    statement_.parameters.push_back(std::move(value));
+    return "?" + std::to_string(statement_.parameters.size());
+  }
+
+  /// Writes `words` in the place of the last pieces: the one that is looked at and so many before it.
+  void replace(std::size_t places, std::string_view words) {
+    const std::string_view last = tokens_[position_].source;
+    statement_.text.append(copied_, tokens_[position_ - places].source.data()).append(words);
+    copied_ = last.data() + last.size();
   }
 
   const Tokens& tokens_;
+  const Clock& clock_;
+  PlainStatement statement_;
   std::size_t position_ = 0;
+  const char* copied_ = tokens_.front().source.data();
+  std::string limit_;
+  std::string now_;
+  bool inCondition_ = false;
+  bool inValues_ = false;
 };
 
-std::optional<AddCounter> readAddCounter(const Tokens& tokens) {
-  Reader reader(tokens);
-  AddCounter command;
-  if (!reader.word("alter") || !reader.word("table") || !reader.name(command.table) || !reader.word("add")) {
-    return std::nullopt;
+/// The names that stand where `pattern` has a "?"; none when the statement reads otherwise.
+std::vector<std::string> namesIn(const Tokens& tokens, std::initializer_list<std::string_view> pattern) {
+  std::vector<std::string> names;
+  if (tokens.size() != pattern.size()) {
+    return names;
   }
-  reader.word("column");
-  if (!reader.name(command.column) || !reader.word("counter")) {
-    return std::nullopt;
-  }
-  const bool complete = reader.atEnd() || (reader.word("not") && reader.word("null") && reader.atEnd());
-  return complete ? std::optional(command) : std::nullopt;
-}
-
-std::optional<AddPrimaryKey> readAddPrimaryKey(const Tokens& tokens) {
-  Reader reader(tokens);
-  AddPrimaryKey command;
-  std::string column;
-  if (!reader.word("alter") || !reader.word("table") || !reader.name(command.table) || !reader.word("add") ||
-      !reader.word("constraint") || !reader.name(command.constraint) || !reader.word("primary") ||
-      !reader.word("key") || !reader.symbol("(")) {
-    return std::nullopt;
-  }
-  do {
-    if (!reader.name(column)) {
-      return std::nullopt;
+  auto token = tokens.begin();
+  for (const std::string_view piece : pattern) {
+    const bool isSought = piece == "?" && token->isName();
+    if (isSought) {
+      names.push_back(unquoted(*token));
+    } else if (!token->is(piece)) {
+      return {};
     }
-    command.columns.push_back(column);
-  } while (reader.symbol(","));
-  return reader.symbol(")") && reader.atEnd() ? std::optional(command) : std::nullopt;
-}
-
-/// Where the words of a select-into stand among the pieces of a statement.
-struct IntoPlace {
-  std::size_t into = 0;
-  std::size_t from = 0;
-};
-
-std::optional<IntoPlace> findInto(const Tokens& tokens) {
-  if (tokens.empty() || !tokens.front().isWord("select")) {
-    return std::nullopt;
+    ++token;
   }
-  IntoPlace place;
-  int depth = 0;
-  for (std::size_t i = 1; i < tokens.size(); ++i) {
-    depth += tokens[i].isSymbol("(") ? 1 : tokens[i].isSymbol(")") ? -1 : 0;
-    if (depth == 0 && place.into == 0 && tokens[i].isWord("into") && i + 1 < tokens.size() && tokens[i + 1].isName()) {
-      place.into = i;
-    } else if (depth == 0 && tokens[i].isWord("from")) {
-      place.from = i;
-      break;
-    }
-  }
-  return place.into != 0 && place.from == place.into + 2 ? std::optional(place) : std::nullopt;
-}
-
-/// The table after `from`, when it stands alone and under its own name.
-std::optional<SqlToken> onlyTable(const Tokens& tokens, std::size_t from) {
-  const std::size_t table = from + 1;
-  if (table >= tokens.size() || !tokens[table].isName()) {
-    return std::nullopt;
-  }
-  if (table + 1 == tokens.size()) {
-    return tokens[table];
-  }
-  static constexpr std::array<std::string_view, 5> kClauses{"where", "order", "group", "having", "limit"};
-  const SqlToken& after = tokens[table + 1];
-  const bool alone =
-      std::any_of(kClauses.begin(), kClauses.end(), [&](std::string_view word) { return after.isWord(word); });
-  return alone ? std::optional(tokens[table]) : std::nullopt;
-}
-
-/// The columns between `select` and `into`: see SelectInto::columns.
-std::vector<std::string> selectedColumns(const Tokens& tokens, std::size_t into) {
-  std::size_t i = 1;
-  while (i < into && (tokens[i].isWord("distinct") || tokens[i].isWord("all"))) {
-    ++i;
-  }
-  if (i + 1 < into && tokens[i].isWord("top") && tokens[i + 1].kind == SqlTokenKind::number) {
-    i += 2;
-  }
-  std::vector<std::string> columns;
-  while (i < into) {
-    std::size_t end = i;
-    int depth = 0;
-    while (end < into && (depth > 0 || !tokens[end].isSymbol(","))) {
-      depth += tokens[end].isSymbol("(") ? 1 : tokens[end].isSymbol(")") ? -1 : 0;
-      ++end;
-    }
-    const bool bare = end == i + 1 || (end == i + 3 && tokens[i + 1].isWord("as"));
-    const bool known = bare && (tokens[i].isName() || tokens[i].isSymbol("*"));
-    columns.push_back(known ? nameIn(tokens[i]) : std::string());
-    i = end + 1;
-  }
-  return columns;
+  return names;
 }
 
 std::optional<SelectInto> readSelectInto(const Tokens& tokens) {
-  const std::optional<IntoPlace> place = findInto(tokens);
-  if (!place) {
+  constexpr std::size_t kBehindColumns = 4;
+  if (tokens.size() < 2 + kBehindColumns || !tokens.front().is("select")) {
     return std::nullopt;
   }
-  SelectInto command;
-  command.target = nameIn(tokens[place->into + 1]);
-  command.columns = selectedColumns(tokens, place->into);
-  const std::optional<SqlToken> source = onlyTable(tokens, place->from);
-
-  static constexpr SqlToken kNot{SqlTokenKind::word, "not"};
-  static constexpr SqlToken kIndexed{SqlTokenKind::word, "indexed"};
-  Tokens select;
-  for (std::size_t i = 0; i < tokens.size(); ++i) {
-    if (i != place->into && i != place->into + 1) {
-      select.push_back(tokens[i]);
-    }
-    if (source && i == place->from + 1) {
-      // An index that holds every column selected would deliver the rows in its own order.
-      select.insert(select.end(), {kNot, kIndexed});
-    }
+  const std::size_t into = tokens.size() - kBehindColumns;
+  if (!tokens[into].is("into") || !tokens[into + 1].isName() || !tokens[into + 2].is("from") ||
+      !tokens[into + 3].isName()) {
+    return std::nullopt;
   }
-  if (source) {
-    command.source = nameIn(*source);
+  SelectInto command{{}, unquoted(tokens[into + 1]), unquoted(tokens[into + 3])};
+  for (std::size_t i = 1; i < into; i += 2) {
+    if (!tokens[i].isName() || (i + 1 != into && !tokens[i + 1].is(","))) {
+      return std::nullopt;
+    }
+    command.columns.push_back(unquoted(tokens[i]));
   }
-  command.select = translateRows(select);
   return command;
-}
-
-/// A statement about tables or settings, passed on as it stands: SQLite takes no parameters there.
-PlainStatement passedOn(std::string_view sql) {
-  if (sql.find('\0') != std::string_view::npos) {
-    throw DataAccessError("A NUL byte cannot stand in a statement that defines tables or settings.",
-                          shownStatement(sql));
-  }
-  return {std::string(sql), {}, false};
 }
 
 }  // namespace
 
-SqlCommand translateSql(std::string_view sql) {
+SqlCommand translateSql(std::string_view sql, const Clock& clock) {
   Tokens tokens = sqlTokens(sql);
-  while (!tokens.empty() && tokens.back().isSymbol(";")) {
+  while (!tokens.empty() && tokens.back().is(";")) {
     tokens.pop_back();
   }
   if (auto selectInto = readSelectInto(tokens)) {
     return *std::move(selectInto);
   }
   if (concernsRows(tokens)) {
-    return translateRows(tokens);
+    return RowsTranslator(tokens, clock).translate();
   }
-  if (auto addCounter = readAddCounter(tokens)) {
-    return *std::move(addCounter);
+  if (const auto names = namesIn(tokens, {"alter", "table", "?", "add", "column", "?", "counter", "not", "null"});
+      !names.empty()) {
+    return AddCounter{names[0], names[1]};
   }
-  if (auto addPrimaryKey = readAddPrimaryKey(tokens)) {
-    return *std::move(addPrimaryKey);
+  if (const auto names =
+          namesIn(tokens, {"alter", "table", "?", "add", "constraint", "?", "primary", "key", "(", "?", ")"});
+      !names.empty()) {
+    return PlainStatement{"create unique index " + quotedName(names[1]) + " on " + quotedName(names[0]) + " (" +
+                          quotedName(names[2]) + ")"};
   }
-  return passedOn(sql);
+  return PlainStatement{std::string(sql)};
 }
 
 std::optional<std::string_view> assignedText(std::string_view sql, std::string_view column) {
   const Tokens tokens = sqlTokens(sql);
-  const std::string wanted = lowerCase(std::string(column));
   for (std::size_t i = 0; i + 2 < tokens.size(); ++i) {
-    if (tokens[i].isWord(wanted) && tokens[i + 1].isSymbol("=") && tokens[i + 2].kind == SqlTokenKind::text) {
+    if (tokens[i].is(column) && tokens[i + 1].is("=") && tokens[i + 2].kind == SqlTokenKind::text) {
       return tokens[i + 2].source;
     }
   }
   return std::nullopt;
-}
-
-std::string quotedName(std::string_view name) {
-  std::string quoted = "\"";
-  for (const char c : name) {
-    quoted.append(c == '"' ? 2 : 1, c);
-  }
-  return quoted + '"';
 }
 
 }  // namespace tarnwick

@@ -1,73 +1,59 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
-#include "platform/sqlite/sql_tokens.h"
+#include "base/sql_value.h"
+#include "platform/clock.h"
 
 namespace tarnwick {
 
-/// The moment a statement began, one and the same wherever the statement says `now()`.
-struct StatementTime {};
-
-/// A value that a statement is run with: a quoted text of the original statement (still in its quotes, so that page
-/// texts are not copied), a whole number, or the statement's time.
-using SqlParameter = std::variant<SqlToken, std::int64_t, StatementTime>;
+/// A value that a statement is run with; a text may lie in the original statement, so that pages are not copied.
+using SqlParameter = std::variant<std::string_view, SqlValue>;
 
 /// A statement as SQLite takes it. `?1` in `text` stands for the first of `parameters`, and so on.
 struct PlainStatement {
   std::string text;
-  std::vector<SqlParameter> parameters;
+  std::vector<SqlParameter> parameters = {};
   /// Worth keeping prepared: it reads or writes rows, where other statements change tables or settings.
   bool reusable = false;
 };
 
-/// `select ... into target from ...`: makes the table `target` of the rows that `select` returns.
+/// `select a,b into target from source`: makes the table `target` of these columns of `source`.
 struct SelectInto {
-  std::string target;
-  /// The table that the rows come from; empty unless it is one table under its own name.
-  std::string source;
-  /// For each column selected the column of `source` that it is, "*" for all of them, empty for an expression.
   std::vector<std::string> columns;
-  PlainStatement select;
+  std::string target;
+  std::string source;
 };
 
-/// `alter table ... add column ... counter`: a last column that numbers the rows 1, 2, 3 in their order, and is the
-/// table's primary key.
+/// `alter table ... add column ... counter not null`: a last column that numbers the rows 1, 2, 3 in their order, and
+/// is the table's primary key.
 struct AddCounter {
   std::string table;
   std::string column;
 };
 
-/// `alter table ... add constraint ... primary key (...)`.
-struct AddPrimaryKey {
-  std::string table;
-  std::string constraint;
-  std::vector<std::string> columns;
-};
+using SqlCommand = std::variant<PlainStatement, SelectInto, AddCounter>;
 
-using SqlCommand = std::variant<PlainStatement, SelectInto, AddCounter, AddPrimaryKey>;
-
-/// Turns a statement of the program's dialect into what SQLite understands. Beside SQLite's own SQL the dialect knows
+/// Turns a statement of the program's dialect into what SQLite understands. In a statement that reads or writes rows
+/// the quoted texts, and the whole numbers that it compares with or inserts, become parameters, so that statements
+/// which differ only in these share one prepared statement. Beside SQLite's own SQL the dialect knows
 /// - `select top n ...`: the first n rows;
-/// - `x = true`, `x <> false` and the like in a condition: any number but 0 is true;
-/// - `now()`: the local date and time, the same throughout a statement; `datediff` and `datevalue` are functions of
-///   their own (sqlite_functions.h), but `datevalue` of a column is SQLite's own `date`, of which an index can be made
-///   that every program understands;
-/// - the three statements above.
+/// - `x = true` and `x = false` in a condition: any number but 0 is true;
+/// - `now()`: the local date and time of `clock`, the same throughout a statement;
+/// - `datediff`, a function of its own (sqlite_functions.h), and `datevalue`, which is SQLite's own `date`: of that an
+///   index can be made that every program understands;
+/// - the two statements above, and `alter table ... add constraint ... primary key (...)` of one column, which becomes
+///   an index that keeps its values unique.
 /// Quoted texts are never looked into. The result refers to `sql`, which must outlive it.
 /// Raises DataAccessError when the text cannot be cut into pieces (see `sqlTokens`).
-SqlCommand translateSql(std::string_view sql);
+SqlCommand translateSql(std::string_view sql, const Clock& clock);
 
 /// The text that a statement sets `column` to (`column = '...'`), quotes included, as it stands in the statement;
 /// nothing when there is none. For messages.
 std::optional<std::string_view> assignedText(std::string_view sql, std::string_view column);
-
-/// A name in double quotes, as SQLite takes any name.
-std::string quotedName(std::string_view name);
 
 }  // namespace tarnwick

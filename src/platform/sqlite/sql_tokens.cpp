@@ -1,196 +1,116 @@
 #include "platform/sqlite/sql_tokens.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 
 #include "base/errors.h"
-#include "base/text.h"
-#include "platform/sqlite/shown_statement.h"
 
 namespace tarnwick {
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f'; }
-bool isWordStart(char c) { return isLetter(c) || c == '_' || static_cast<unsigned char>(c) >= 0x80; }
-bool isWordPart(char c) { return isWordStart(c) || isDigit(c) || c == '$'; }
+constexpr std::size_t kUsualPieces = 64;
+constexpr std::string_view kBlanks = " \t\r\n\f";
+constexpr std::string_view kComparing = "=<>!";
+constexpr std::string_view kParameterMarks = "?:@$";
 
-class Scanner {
- public:
-  explicit Scanner(std::string_view sql) : sql_(sql) {}
+bool isWordPart(char c) {
+  return isLetter(c) || isDigit(c) || c == '_' || c == '$' || static_cast<unsigned char>(c) >= 0x80;
+}
+bool isNumberPart(char c) { return isWordPart(c) || c == '.'; }
+bool compares(char c) { return kComparing.find(c) != std::string_view::npos; }
 
-  std::vector<SqlToken> tokens() {
-    std::vector<SqlToken> all;
-    while (skipBlanks(), position_ < sql_.size()) {
-      all.push_back(next());
+std::size_t endOfRun(std::string_view sql, std::size_t begin, bool (*belongs)(char)) {
+  return static_cast<std::size_t>(
+      std::find_if_not(sql.begin() + static_cast<std::ptrdiff_t>(begin), sql.end(), belongs) - sql.begin());
+}
+
+/// Where a piece ends that opens at `opening`; its quote stands for itself when doubled, a bracket never.
+std::size_t endOfQuoted(std::string_view sql, std::size_t opening) {
+  const char quote = sql[opening] == '[' ? ']' : sql[opening];
+  for (std::size_t end = opening + 1;; end += 2) {
+    end = sql.find(quote, end);
+    if (end == std::string_view::npos) {
+      throw DataAccessError(quote == '\'' ? "A text in the statement has no end: a single quote is missing."
+                                          : "A name in the statement has no end: a quote or bracket is missing.",
+                            "");
     }
-    return all;
-  }
-
- private:
-  [[noreturn]] void fail(const std::string& cause) const { throw DataAccessError(cause, shownStatement(sql_)); }
-
-  bool startsWith(std::string_view text) const { return sql_.substr(position_).starts_with(text); }
-
-  void skipBlanks() {
-    while (position_ < sql_.size()) {
-      if (isBlank(sql_[position_])) {
-        ++position_;
-      } else if (startsWith("--")) {
-        position_ = std::min(sql_.find('\n', position_), sql_.size());
-      } else if (startsWith("/*")) {
-        const std::size_t end = sql_.find("*/", position_ + 2);
-        if (end == std::string_view::npos) {
-          fail("A comment in the statement has no end: */ is missing.");
-        }
-        position_ = end + 2;
-      } else {
-        return;
-      }
+    if (quote == ']' || end + 1 == sql.size() || sql[end + 1] != quote) {
+      return end + 1;
     }
   }
+}
 
-  SqlToken next() {
-    const char c = sql_[position_];
-    if (c == '\'') {
-      return quoted(SqlTokenKind::text, position_, '\'',
-                    "A text in the statement has no end: a single quote is missing.");
-    }
-    if (c == '"' || c == '`' || c == '[') {
-      return quoted(SqlTokenKind::name, position_, c == '[' ? ']' : c,
-                    "A name in the statement has no end: a quote or bracket is missing.");
-    }
-    if ((c == 'x' || c == 'X') && sql_.substr(position_ + 1).starts_with('\'')) {
-      return quoted(SqlTokenKind::blob, position_ + 1, '\'',
-                    "A byte text in the statement has no end: a single quote is missing.");
-    }
-    if (isWordStart(c)) {
-      return run(SqlTokenKind::word, isWordPart);
-    }
-    if (isDigit(c) || (c == '.' && position_ + 1 < sql_.size() && isDigit(sql_[position_ + 1]))) {
-      return number();
-    }
-    return symbol();
+SqlToken pieceAt(std::string_view sql, std::size_t begin) {
+  const auto upTo = [&](SqlTokenKind kind, std::size_t end) { return SqlToken{kind, sql.substr(begin, end - begin)}; };
+  const char c = sql[begin];
+  if (c == '\'') {
+    return upTo(SqlTokenKind::text, endOfQuoted(sql, begin));
   }
-
-  SqlToken take(SqlTokenKind kind, std::size_t end) {
-    const SqlToken token{kind, sql_.substr(position_, end - position_)};
-    position_ = end;
-    return token;
+  if (c == '"' || c == '`' || c == '[') {
+    return upTo(SqlTokenKind::name, endOfQuoted(sql, begin));
   }
-
-  /// A piece that opens at `opening` and ends with `quote`, which stands for itself when doubled (a bracket never).
-  SqlToken quoted(SqlTokenKind kind, std::size_t opening, char quote, const char* fault) {
-    for (std::size_t end = opening + 1;; end += 2) {
-      end = sql_.find(quote, end);
-      if (end == std::string_view::npos) {
-        fail(fault);
-      }
-      if (quote == ']' || end + 1 == sql_.size() || sql_[end + 1] != quote) {
-        return take(kind, end + 1);
-      }
-    }
+  if (lowerCase(c) == 'x' && sql.substr(begin + 1).starts_with('\'')) {
+    return upTo(SqlTokenKind::symbol, endOfQuoted(sql, begin + 1));
   }
-
-  SqlToken run(SqlTokenKind kind, bool (*belongs)(char)) {
-    std::size_t end = position_;
-    while (end < sql_.size() && belongs(sql_[end])) {
-      ++end;
-    }
-    return take(kind, end);
+  if (isDigit(c)) {
+    return upTo(SqlTokenKind::number, endOfRun(sql, begin, isNumberPart));
   }
-
-  SqlToken number() {
-    std::size_t end = position_;
-    const auto digits = [&] {
-      while (end < sql_.size() && isDigit(sql_[end])) {
-        ++end;
-      }
-    };
-    digits();
-    if (end < sql_.size() && sql_[end] == '.') {
-      ++end;
-      digits();
-    }
-    if (end < sql_.size() && lowerCase(sql_[end]) == 'e') {
-      std::size_t exponent = end + 1;
-      if (exponent < sql_.size() && (sql_[exponent] == '+' || sql_[exponent] == '-')) {
-        ++exponent;
-      }
-      if (exponent < sql_.size() && isDigit(sql_[exponent])) {
-        end = exponent;
-        digits();
-      }
-    }
-    // "0x1F" and "12abc" stay in one piece, for the database to accept or refuse.
-    while (end < sql_.size() && isWordPart(sql_[end])) {
-      ++end;
-    }
-    return take(SqlTokenKind::number, end);
+  if (kParameterMarks.find(c) != std::string_view::npos) {
+    throw DataAccessError(std::string("The statement holds a character outside its quoted texts that has no meaning ") +
+                              "there (character code " + std::to_string(static_cast<unsigned char>(c)) + ").",
+                          "");
   }
-
-  SqlToken symbol() {
-    static constexpr std::array<std::string_view, 10> kLongOnes{
-        "->>", "->", "<>", "!=", "<=", ">=", "==", "||", "<<", ">>"};
-    static constexpr std::string_view kSingles = "()+-*/%=<>,.;&|~";
-    for (const std::string_view longOne : kLongOnes) {
-      if (startsWith(longOne)) {
-        return take(SqlTokenKind::symbol, position_ + longOne.size());
-      }
-    }
-    if (kSingles.find(sql_[position_]) == std::string_view::npos) {
-      // A "?" or ":x" would be a parameter that nobody fills in, and a NUL byte would cut the statement off.
-      fail("The statement holds a character outside its quoted texts that has no meaning there (character code " +
-           std::to_string(static_cast<unsigned char>(sql_[position_])) + ").");
-    }
-    return take(SqlTokenKind::symbol, position_ + 1);
+  if (isWordPart(c)) {
+    return upTo(SqlTokenKind::word, endOfRun(sql, begin, isWordPart));
   }
+  return upTo(SqlTokenKind::symbol, compares(c) ? endOfRun(sql, begin, compares) : begin + 1);
+}
 
-  std::string_view sql_;
-  std::size_t position_ = 0;
-};
-
-std::string withSingleQuotes(std::string_view quoted, char quote) {
-  std::string text;
-  text.reserve(quoted.size());
-  while (true) {
-    const std::size_t found = quoted.find(quote);
-    if (found == std::string_view::npos) {
-      return text.append(quoted);
+/// Where the blanks and comments end that begin at `begin`.
+std::size_t afterBlanks(std::string_view sql, std::size_t begin) {
+  while ((begin = std::min(sql.find_first_not_of(kBlanks, begin), sql.size())) < sql.size()) {
+    const std::string_view rest = sql.substr(begin);
+    if (!rest.starts_with("--") && !rest.starts_with("/*")) {
+      break;
     }
-    text.append(quoted.substr(0, found + 1));
-    quoted.remove_prefix(std::min(found + 2, quoted.size()));
+    const std::string_view end = rest.starts_with("--") ? "\n" : "*/";
+    const std::size_t found = rest.find(end, 2);
+    begin = found == std::string_view::npos ? sql.size() : begin + found + end.size();
   }
+  return begin;
 }
 
 }  // namespace
 
-bool SqlToken::isWord(std::string_view lower) const {
-  return kind == SqlTokenKind::word && equalsIgnoringCase(source, lower);
+std::vector<SqlToken> sqlTokens(std::string_view sql) {
+  std::vector<SqlToken> tokens;
+  tokens.reserve(kUsualPieces);
+  for (std::size_t i = afterBlanks(sql, 0); i < sql.size(); i = afterBlanks(sql, i)) {
+    i += tokens.emplace_back(pieceAt(sql, i)).source.size();
+  }
+  return tokens;
 }
 
-std::vector<SqlToken> sqlTokens(std::string_view sql) { return Scanner(sql).tokens(); }
-
-std::string nameIn(const SqlToken& token) {
-  if (token.kind != SqlTokenKind::name) {
+std::string unquoted(const SqlToken& token) {
+  if (token.kind == SqlTokenKind::word) {
     return std::string(token.source);
   }
-  const std::string_view inner = token.source.substr(1, token.source.size() - 2);
   const char quote = token.source.front();
-  return quote == '[' ? std::string(inner) : withSingleQuotes(inner, quote);
+  std::string_view rest = token.source.substr(1, token.source.size() - 2);
+  std::string value;
+  value.reserve(rest.size());
+  for (std::size_t at; quote != '[' && (at = rest.find(quote)) != std::string_view::npos;) {
+    value.append(rest.substr(0, at + 1));
+    rest.remove_prefix(at + 2);
+  }
+  return value.append(rest);
 }
 
-std::string_view quotedPart(const SqlToken& text) { return text.source.substr(1, text.source.size() - 2); }
-
-bool holdsQuotes(const SqlToken& text) { return quotedPart(text).find('\'') != std::string_view::npos; }
-
-std::string textIn(const SqlToken& text) { return withSingleQuotes(quotedPart(text), '\''); }
-
-std::optional<std::int64_t> wholeNumberIn(const SqlToken& number) {
-  std::int64_t value = 0;
-  const char* end = number.source.data() + number.source.size();
-  const auto [stop, fault] = std::from_chars(number.source.data(), end, value);
-  return fault == std::errc{} && stop == end ? std::optional(value) : std::nullopt;
+std::string quotedName(std::string_view name) {
+  std::string quoted = "`";
+  for (const char c : name) {
+    quoted.append(c == '`' ? 2 : 1, c);
+  }
+  return quoted + '`';
 }
 
 }  // namespace tarnwick

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "base/text.h"
 
 namespace tarnwick {
 
@@ -13,9 +13,8 @@ enum class SqlTokenKind {
   word,    ///< a keyword or a plain name: `select`, `idSite`
   name,    ///< a name in brackets, double quotes or backquotes: `[Total Errors]`
   text,    ///< a text in single quotes, which may hold any bytes
-  blob,    ///< `x'0A'`
-  number,  ///< digits, with or without fraction and exponent
-  symbol   ///< everything else: `(`, `,`, `<>`
+  number,  ///< what begins with a digit
+  symbol   ///< everything else: `(`, `,`, `<>`, `x'0A'`
 };
 
 /// A piece of SQL text. Refers to the text it was taken from, and costs nothing however long that is.
@@ -24,31 +23,20 @@ struct SqlToken {
   /// The bytes as they stand in the statement, quotes and brackets included.
   std::string_view source;
 
-  /// True for the word `lower` (given in lower case) in any letter case.
-  bool isWord(std::string_view lower) const;
-  /// True for the symbol `symbol`.
-  bool isSymbol(std::string_view symbol) const { return kind == SqlTokenKind::symbol && source == symbol; }
+  /// True for the word (given in lower case, found in any letter case) or symbol `piece`.
+  bool is(std::string_view piece) const { return equalsIgnoringCase(source, piece); }
   /// True for a word or a quoted name.
   bool isName() const { return kind == SqlTokenKind::word || kind == SqlTokenKind::name; }
 };
 
 /// Cuts a statement into its pieces; blanks and comments fall away. Quoted texts are taken whole, whatever they hold.
-/// Raises DataAccessError for a text, name or comment without its end, and for a byte that no SQL text holds.
+/// Raises DataAccessError for a text or name without its end, and for what would be a parameter that nobody fills in.
 std::vector<SqlToken> sqlTokens(std::string_view sql);
 
-/// A name without its brackets or quotes.
-std::string nameIn(const SqlToken& token);
+/// A name without its brackets or quotes; the value of a text, every doubled quote made one.
+std::string unquoted(const SqlToken& token);
 
-/// True when the text token holds a doubled quote, so that `textIn` differs from what stands between its quotes.
-bool holdsQuotes(const SqlToken& text);
-
-/// What stands between the quotes of a text token, as it stands there.
-std::string_view quotedPart(const SqlToken& text);
-
-/// The value of a text token: what stands between its quotes, every doubled quote made one.
-std::string textIn(const SqlToken& text);
-
-/// The value of a number token that is a whole number of 64 bits; nothing for other numbers.
-std::optional<std::int64_t> wholeNumberIn(const SqlToken& number);
+/// A name in backquotes, as SQLite takes any name: one in double quotes that names nothing would pass for a text.
+std::string quotedName(std::string_view name);
 
 }  // namespace tarnwick

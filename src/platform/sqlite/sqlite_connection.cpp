@@ -8,9 +8,10 @@
 #include <vector>
 
 #include "base/errors.h"
+#include "base/text.h"
 #include "platform/sqlite/shown_statement.h"
-#include "platform/sqlite/sql_table_definition.h"
 #include "platform/sqlite/sqlite_database.h"
+#include "platform/sqlite/sqlite_errors.h"
 #include "platform/sqlite/sqlite_hold.h"
 #include "platform/sqlite/sqlite_recordset.h"
 #include "platform/sqlite/sqlite_tables.h"
@@ -23,7 +24,7 @@ constexpr std::size_t kNotFound = std::string_view::npos;
 /// Where `wanted` stands first in `text`, letter case aside.
 std::size_t findIgnoringCase(std::string_view text, std::string_view wanted) {
   for (std::size_t i = 0; i + wanted.size() <= text.size(); ++i) {
-    if (sameName(text.substr(i, wanted.size()), wanted)) {
+    if (equalsIgnoringCase(text.substr(i, wanted.size()), wanted)) {
       return i;
     }
   }
@@ -32,7 +33,7 @@ std::size_t findIgnoringCase(std::string_view text, std::string_view wanted) {
 
 std::size_t findLastIgnoringCase(std::string_view text, std::string_view wanted) {
   for (std::size_t i = text.size(); i-- > 0;) {
-    if (sameName(text.substr(i, wanted.size()), wanted)) {
+    if (equalsIgnoringCase(text.substr(i, wanted.size()), wanted)) {
       return i;
     }
   }
@@ -67,7 +68,7 @@ class SqliteConnection final : public SqlConnection {
       throw DataAccessError("The connection to the database is open already.", "");
     }
     path_ = dataSource(connString);
-    database_ = std::make_unique<SqliteDatabase>(path_, clock_);
+    database_ = std::make_unique<SqliteDatabase>(path_);
   }
 
   void close() noexcept override { database_.reset(); }
@@ -75,36 +76,29 @@ class SqliteConnection final : public SqlConnection {
   bool isOpen() const override { return database_ != nullptr; }
 
   std::unique_ptr<Recordset> execute(std::string_view sql) override {
-    SqliteDatabase& database = opened(sql);
-    const SqlCommand command = translateSql(sql);
-    if (const auto* statement = std::get_if<PlainStatement>(&command)) {
-      return runPlain(database, *statement, sql);
-    }
-    if (const auto* into = std::get_if<SelectInto>(&command)) {
-      selectInto(database, *into, sql);
-    } else if (const auto* counter = std::get_if<AddCounter>(&command)) {
-      addCounter(database, *counter, sql);
-    } else {
-      addPrimaryKey(database, std::get<AddPrimaryKey>(command), sql);
-    }
-    return std::make_unique<NoRows>();
+    return told(sql, [&](SqliteDatabase& database) -> std::unique_ptr<Recordset> {
+      database.fitCache(sql.size());
+      const SqlCommand command = translateSql(sql, clock_);
+      if (const auto* statement = std::get_if<PlainStatement>(&command)) {
+        return records(database, *statement, sql);
+      }
+      if (const auto* into = std::get_if<SelectInto>(&command)) {
+        selectInto(database, *into);
+      } else {
+        addCounter(database, std::get<AddCounter>(command));
+      }
+      return std::make_unique<NoRows>();
+    });
   }
 
   std::unique_ptr<Recordset> execute(std::string_view sql, std::span<const SqlValue> parameters) override {
-    SqliteDatabase& database = opened(sql);
-    StatementLoan loan = database.prepare({std::string(sql), {}, !parameters.empty()}, sql);
-    database.bind(loan.get(), parameters, sql);
-    return records(database, std::move(loan), sql);
+    return told(sql, [&](SqliteDatabase& database) {
+      return records(database, {std::string(sql), {parameters.begin(), parameters.end()}, !parameters.empty()}, sql);
+    });
   }
 
-  void begin() override {
-    static constexpr const char* kBegin = "BEGIN IMMEDIATE";
-    opened(kBegin).run({kBegin, {}, true}, kBegin);
-  }
-  void commit() override {
-    static constexpr const char* kCommit = "COMMIT";
-    opened(kCommit).run({kCommit, {}, true}, kCommit);
-  }
+  void begin() override { runKept("BEGIN IMMEDIATE"); }
+  void commit() override { runKept("COMMIT"); }
 
   void rollback() noexcept override {
     if (inTransaction()) {
@@ -141,15 +135,30 @@ class SqliteConnection final : public SqlConnection {
   bool inTransaction() const override { return database_ && sqlite3_get_autocommit(database_->handle()) == 0; }
 
  private:
-  SqliteDatabase& opened(std::string_view sql) {
+  /// Runs `action` on the open database; where it fails, the error carries the statement.
+  template <typename Action>
+  std::unique_ptr<Recordset> told(std::string_view sql, Action action) {
     if (!database_) {
       throw DataAccessError("The connection to the database is not open.", shownStatement(sql));
     }
+    SqliteDatabase& database = current();
+    try {
+      return action(database);
+    } catch (const DataAccessError& error) {
+      throw inStatement(error, sql);
+    }
+  }
+
+  void runKept(const char* sql) {
+    told(sql, [&](SqliteDatabase& database) { return records(database, {sql, {}, true}, sql); });
+  }
+
+  SqliteDatabase& current() {
     if (database_->wantsReopening()) {
       // The old one is closed first: its locks and side files are in the way. Should the opening fail, the connection
       // is closed.
       database_.reset();
-      database_ = std::make_unique<SqliteDatabase>(path_, clock_);
+      database_ = std::make_unique<SqliteDatabase>(path_);
     }
     if (!inTransaction()) {
       refuseOtherFiles();
@@ -175,16 +184,10 @@ class SqliteConnection final : public SqlConnection {
     throw exchangedFiles(finding, path_);
   }
 
-  static std::unique_ptr<Recordset> runPlain(SqliteDatabase& database, const PlainStatement& statement,
-                                             std::string_view sql) {
-    std::vector<std::string> room;
-    StatementLoan loan = database.prepare(statement, sql);
-    database.bind(loan.get(), statement, room, sql);
-    return records(database, std::move(loan), sql);
-  }
-
-  static std::unique_ptr<Recordset> records(SqliteDatabase& database, StatementLoan loan, std::string_view sql) {
-    const bool onRow = database.step(loan.get(), sql);
+  static std::unique_ptr<Recordset> records(SqliteDatabase& database, const PlainStatement& statement,
+                                            std::string_view sql) {
+    StatementLoan loan = database.prepare(statement);
+    const bool onRow = database.step(loan.get());
     if (sqlite3_column_count(loan.get()) == 0) {
       return std::make_unique<NoRows>();
     }

@@ -3,13 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <type_traits>
 #include <utility>
 #include <variant>
 
 #include "base/errors.h"
 #include "platform/file_access.h"
-#include "platform/sqlite/shown_statement.h"
 #include "platform/sqlite/sqlite_errors.h"
 #include "platform/sqlite/sqlite_file.h"
 #include "platform/sqlite/sqlite_functions.h"
@@ -25,22 +23,28 @@ constexpr const char* kUsualCache = "pragma cache_size = -2048";
 constexpr const char* kLargeCache = "pragma cache_size = -32768";
 constexpr std::size_t kLargeText = std::size_t{512} * 1024;
 
-int bindValue(sqlite3_stmt* prepared, int number, const SqlValue& value) {
-  return std::visit(
-      [&](const auto& held) {
-        using Held = std::decay_t<decltype(held)>;
-        if constexpr (std::is_same_v<Held, std::monostate>) {
-          return sqlite3_bind_null(prepared, number);
-        } else if constexpr (std::is_same_v<Held, double>) {
-          return sqlite3_bind_double(prepared, number, held);
-        } else if constexpr (std::is_same_v<Held, std::string>) {
-          return sqlite3_bind_text64(prepared, number, held.data(), held.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
-        } else {
-          return sqlite3_bind_int64(prepared, number, held);
-        }
-      },
-      value.held());
-}
+/// Binds parameters, one after the other, to their places.
+class Binder {
+ public:
+  explicit Binder(sqlite3_stmt* prepared)
+      : prepared_(prepared),
+        // A statement without rows has run to its end before the caller's text goes away; rows are read later.
+        lifetime_(sqlite3_column_count(prepared) == 0 ? SQLITE_STATIC : SQLITE_TRANSIENT) {}
+
+  int operator()(std::string_view text) {
+    return sqlite3_bind_text64(prepared_, ++number_, text.data(), text.size(), lifetime_, SQLITE_UTF8);
+  }
+  int operator()(const SqlValue& value) { return std::visit(*this, value.held()); }
+  int operator()(std::monostate) { return sqlite3_bind_null(prepared_, ++number_); }
+  int operator()(double number) { return sqlite3_bind_double(prepared_, ++number_, number); }
+  int operator()(std::int64_t number) { return sqlite3_bind_int64(prepared_, ++number_, number); }
+  int operator()(bool flag) { return (*this)(std::int64_t{flag}); }
+
+ private:
+  sqlite3_stmt* prepared_;
+  sqlite3_destructor_type lifetime_;
+  int number_ = 0;
+};
 
 /// Nothing for a file that is missing or cannot be looked at.
 std::optional<std::uint64_t> bytesIn(const std::string& path) {
@@ -65,9 +69,26 @@ void StatementLoan::giveBack() noexcept {
   statement_.reset();
 }
 
-SqliteDatabase::SqliteDatabase(std::string path, const Clock& clock) : path_(std::move(path)), clock_(clock) {
+SqliteHandle openDatabase(const std::string& path, int flags) {
+  sqlite3* raw = nullptr;
+  const int result = openSqliteFile(path, flags, &raw);
+  SqliteHandle handle(raw);
+  if (result != SQLITE_OK) {
+    throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path);
+  }
+  sqlite3_extended_result_codes(raw, 1);
+  sqlite3_busy_timeout(raw, kBusyPatienceMs);
+  return handle;
+}
+
+SqliteDatabase::SqliteDatabase(std::string path) : path_(std::move(path)) {
   requireFile(path_);
-  openFile();
+  // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
+  // Without locks between threads: there is only one.
+  handle_ = openDatabase(path_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX);
+  if (registerDateFunctions(handle()) != SQLITE_OK) {
+    throw lastError();
+  }
   setForeignLogAside();
   refuseDamage();
   chooseJournal();
@@ -87,22 +108,6 @@ SqliteDatabase::~SqliteDatabase() {
     watch_->beforeClosing(handle());
     handle_.reset();
     watch_->afterClosing();
-  }
-}
-
-void SqliteDatabase::openFile() {
-  sqlite3* raw = nullptr;
-  // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
-  // Without locks between threads: there is only one.
-  const int result = openSqliteFile(path_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, &raw);
-  handle_.reset(raw);
-  if (result != SQLITE_OK) {
-    throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path_, "");
-  }
-  sqlite3_extended_result_codes(raw, 1);
-  sqlite3_busy_timeout(raw, kBusyPatienceMs);
-  if (registerDateFunctions(raw, clock_) != SQLITE_OK) {
-    fail("");
   }
 }
 
@@ -131,15 +136,20 @@ void SqliteDatabase::setForeignLogAside() {
 void SqliteDatabase::refuseDamage() {
   const std::optional<std::uint64_t> size = bytesIn(path_);
   if (size == 0U) {
-    throw damagedDatabase(path_, "the file is empty", "");
+    throw damagedDatabase(path_, "the file is empty");
   }
   const bool changesPending = bytesIn(path_ + "-wal") > 0U;
   // Reads the file's header and all definitions, which SQLite itself puts off until the first statement.
-  run("select count(*) from sqlite_master");
+  static constexpr const char* kReadAll = "select count(*) from sqlite_master";
+  try {
+    run(kReadAll);
+  } catch (const DataAccessError& error) {
+    throw inStatement(error, kReadAll);
+  }
   const auto expected = rows("select page_count * page_size from pragma_page_count, pragma_page_size");
   // SQLite rounds a torn last page up. The file may be short only while changes wait in the log beside it.
   if (!changesPending && size && *size < std::stoull(expected.at(0).at(0))) {
-    throw damagedDatabase(path_, "the end of the file is missing", "");
+    throw damagedDatabase(path_, "the end of the file is missing");
   }
 }
 
@@ -166,11 +176,8 @@ void SqliteDatabase::chooseJournal() noexcept {
 
 /// Every statement of a check rewrites the site's row. One with a page of many megabytes, which the small cache cannot
 /// hold, would be read from the file again each time, and the window would stand still meanwhile.
-void SqliteDatabase::fitCache(const PlainStatement& statement) noexcept {
-  const bool large = std::ranges::any_of(statement.parameters, [](const SqlParameter& parameter) {
-    const auto* token = std::get_if<SqlToken>(&parameter);
-    return token != nullptr && token->source.size() > kLargeText;
-  });
+void SqliteDatabase::fitCache(std::size_t statementLength) noexcept {
+  const bool large = statementLength > kLargeText;
   if (large && !cachesLargePage_) {
     cachesLargePage_ = true;
     sqlite3_exec(handle(), kLargeCache, nullptr, nullptr, nullptr);
@@ -181,100 +188,82 @@ void SqliteDatabase::fitCache(const PlainStatement& statement) noexcept {
   }
 }
 
-StatementLoan SqliteDatabase::prepare(const PlainStatement& statement, std::string_view sql) {
-  fitCache(statement);
-  if (const auto found = keptByText_.find(statement.text); found != keptByText_.end()) {
-    const Kept::iterator place = found->second;
-    SqliteStatement prepared = std::move(*place);
-    keptByText_.erase(found);
-    kept_.erase(place);
-    return {*this, std::move(prepared), true};
+StatementLoan SqliteDatabase::prepare(const PlainStatement& statement) {
+  SqliteStatement prepared = takeKept(statement.text);
+  const bool reusable = prepared != nullptr || statement.reusable;
+  if (prepared == nullptr) {
+    prepared = compile(statement);
   }
+  StatementLoan loan(*this, std::move(prepared), reusable);
+  if (static_cast<std::size_t>(sqlite3_bind_parameter_count(loan.get())) != statement.parameters.size()) {
+    throw sqliteError(SQLITE_RANGE, sqlite3_errstr(SQLITE_RANGE), path_);
+  }
+  Binder binder(loan.get());
+  for (const SqlParameter& parameter : statement.parameters) {
+    if (std::visit([&](const auto& value) { return binder(value); }, parameter) != SQLITE_OK) {
+      throw lastError();
+    }
+  }
+  return loan;
+}
+
+SqliteStatement SqliteDatabase::takeKept(std::string_view text) {
+  const auto found = keptByText_.find(text);
+  if (found == keptByText_.end()) {
+    return nullptr;
+  }
+  const Kept::iterator place = found->second;
+  SqliteStatement prepared = std::move(*place);
+  keptByText_.erase(found);
+  kept_.erase(place);
+  return prepared;
+}
+
+SqliteStatement SqliteDatabase::compile(const PlainStatement& statement) {
+  const std::string& text = statement.text;
   sqlite3_stmt* raw = nullptr;
   const char* rest = nullptr;
   const unsigned flags = statement.reusable ? SQLITE_PREPARE_PERSISTENT : 0;
-  const int result =
-      sqlite3_prepare_v3(handle(), statement.text.data(), static_cast<int>(statement.text.size()), flags, &raw, &rest);
+  const int result = sqlite3_prepare_v3(handle(), text.data(), static_cast<int>(text.size()), flags, &raw, &rest);
   SqliteStatement prepared(raw);
   if (result != SQLITE_OK) {
-    fail(sql);
+    throw lastError();
   }
   if (!prepared) {
-    throw DataAccessError("The statement is empty.", shownStatement(sql));
+    throw DataAccessError("The statement is empty.", "");
   }
-  const std::string_view behind(rest, static_cast<std::size_t>(statement.text.data() + statement.text.size() - rest));
+  const std::string_view behind(rest, static_cast<std::size_t>(text.data() + text.size() - rest));
   if (behind.find_first_not_of("; \t\r\n") != std::string_view::npos) {
-    throw DataAccessError("Only one statement can be run at a time.", shownStatement(sql));
+    throw DataAccessError("Only one statement can be run at a time.", "");
   }
-  return {*this, std::move(prepared), statement.reusable};
+  return prepared;
 }
 
-void SqliteDatabase::bind(sqlite3_stmt* prepared, const PlainStatement& statement, std::vector<std::string>& room,
-                          std::string_view sql) const {
-  // A statement without rows has run to its end before the caller's text goes away; rows are read later.
-  const auto lifetime = sqlite3_column_count(prepared) == 0 ? SQLITE_STATIC : SQLITE_TRANSIENT;
-  const auto bindText = [&](int number, std::string_view text) {
-    return sqlite3_bind_text64(prepared, number, text.data(), text.size(), lifetime, SQLITE_UTF8);
-  };
-  room.reserve(statement.parameters.size());
-  int number = 0;
-  for (const SqlParameter& parameter : statement.parameters) {
-    ++number;
-    int result = SQLITE_OK;
-    if (const auto* token = std::get_if<SqlToken>(&parameter)) {
-      result = bindText(number, holdsQuotes(*token) ? room.emplace_back(textIn(*token)) : quotedPart(*token));
-    } else if (const auto* whole = std::get_if<std::int64_t>(&parameter)) {
-      result = sqlite3_bind_int64(prepared, number, *whole);
-    } else {
-      result = bindText(number, room.emplace_back(dateTimeText(clock_.localNow())));
-    }
-    if (result != SQLITE_OK) {
-      fail(sql);
-    }
-  }
-}
-
-void SqliteDatabase::bind(sqlite3_stmt* prepared, std::span<const SqlValue> values, std::string_view sql) const {
-  if (static_cast<std::size_t>(sqlite3_bind_parameter_count(prepared)) != values.size()) {
-    throw sqliteError(SQLITE_RANGE, sqlite3_errstr(SQLITE_RANGE), path_, sql);
-  }
-  int number = 0;
-  for (const SqlValue& value : values) {
-    if (bindValue(prepared, ++number, value) != SQLITE_OK) {
-      fail(sql);
-    }
-  }
-}
-
-bool SqliteDatabase::step(sqlite3_stmt* prepared, std::string_view sql) const {
+bool SqliteDatabase::step(sqlite3_stmt* prepared) {
   const int result = sqlite3_step(prepared);
   if (result != SQLITE_ROW && result != SQLITE_DONE) {
-    fail(sql);
+    throw lastError();
   }
   return result == SQLITE_ROW;
 }
 
-void SqliteDatabase::run(const PlainStatement& statement, std::string_view sql) {
-  std::vector<std::string> room;
-  const StatementLoan loan = prepare(statement, sql);
-  bind(loan.get(), statement, room, sql);
-  while (step(loan.get(), sql)) {
+void SqliteDatabase::run(const PlainStatement& statement) {
+  const StatementLoan loan = prepare(statement);
+  while (step(loan.get())) {
   }
 }
 
-std::vector<std::vector<std::string>> SqliteDatabase::rows(const std::string& text, const std::string& argument) {
-  const StatementLoan loan = prepare({text, {}, false}, text);
-  if (sqlite3_bind_parameter_count(loan.get()) > 0) {
-    sqlite3_bind_text64(loan.get(), 1, argument.data(), argument.size(), SQLITE_STATIC, SQLITE_UTF8);
-  }
+std::vector<std::vector<std::string>> SqliteDatabase::rows(const std::string& text,
+                                                           std::vector<SqlParameter> parameters) {
+  const StatementLoan loan = prepare({text, std::move(parameters)});
   std::vector<std::vector<std::string>> all;
-  while (step(loan.get(), text)) {
+  while (step(loan.get())) {
     auto& row = all.emplace_back();
     for (int column = 0; column < sqlite3_column_count(loan.get()); ++column) {
       const bool isNull = sqlite3_column_type(loan.get(), column) == SQLITE_NULL;
       const auto* field = reinterpret_cast<const char*>(sqlite3_column_text(loan.get(), column));
       if (field == nullptr && !isNull) {
-        fail(text);  // there is no memory for it
+        throw lastError();  // there is no memory for it
       }
       row.emplace_back(isNull ? "" : field);
     }
@@ -282,8 +271,8 @@ std::vector<std::vector<std::string>> SqliteDatabase::rows(const std::string& te
   return all;
 }
 
-void SqliteDatabase::fail(std::string_view sql) const {
-  const DataAccessError error = lastSqliteError(handle(), path_, sql);
+DataAccessError SqliteDatabase::lastError() {
+  DataAccessError error = lastSqliteError(handle(), path_);
   // With no room or a broken disk nothing that follows in the transaction can be relied on, so all of it is taken back;
   // SQLite leaves that to its caller when the statement could be undone alone.
   const int code = sqlite3_errcode(handle()) & 0xff;
@@ -298,7 +287,7 @@ void SqliteDatabase::fail(std::string_view sql) const {
     default:
       break;
   }
-  throw DataAccessError(error);
+  return error;
 }
 
 void SqliteDatabase::keep(SqliteStatement statement) noexcept {

@@ -5,14 +5,12 @@
 #include <list>
 #include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
-#include "base/sql_value.h"
-#include "platform/clock.h"
+#include "base/errors.h"
 #include "platform/sqlite/sql_dialect.h"
 #include "platform/sqlite/sqlite_file_watch.h"
 
@@ -50,12 +48,16 @@ class StatementLoan {
   bool reusable_ = false;
 };
 
-/// An open SQLite file and the statements prepared on it. Every failure raises DataAccessError; `sql` is always the
-/// statement as the caller wrote it, for the message.
+/// Opens the file at `path` (UTF-8), which must exist, as sqlite3_open_v2 does with `flags`; another program's lock
+/// will be waited for. Raises DataAccessError.
+SqliteHandle openDatabase(const std::string& path, int flags);
+
+/// An open SQLite file and the statements prepared on it. Every failure raises DataAccessError, which does not know
+/// the statement: whoever was handed it adds it.
 class SqliteDatabase {
  public:
   /// Opens the file at `path` (UTF-8), which must exist and be a sound database.
-  SqliteDatabase(std::string path, const Clock& clock);
+  explicit SqliteDatabase(std::string path);
   /// Closes the recordsets still open, and the file; nothing stays beside it.
   ~SqliteDatabase();
   SqliteDatabase(const SqliteDatabase&) = delete;
@@ -63,29 +65,26 @@ class SqliteDatabase {
 
   sqlite3* handle() const { return handle_.get(); }
 
-  /// Prepares the statement, or takes it from the ones kept.
-  StatementLoan prepare(const PlainStatement& statement, std::string_view sql);
+  /// Fits the cache to a statement of that length, pages in it included.
+  void fitCache(std::size_t statementLength) noexcept;
 
-  /// Sets the parameters of a prepared statement. Texts with doubled quotes are put right in `room`. What the
-  /// statement does not copy must stay in place until it is given back: `room`, and the text the parameters refer to.
-  void bind(sqlite3_stmt* prepared, const PlainStatement& statement, std::vector<std::string>& room,
-            std::string_view sql) const;
-
-  /// The same with values in the statement's order, as many as it has places for.
-  void bind(sqlite3_stmt* prepared, std::span<const SqlValue> values, std::string_view sql) const;
+  /// Prepares the statement, or takes it from the ones kept, and gives it its values. What it does not copy must stay
+  /// in place until it is given back: `statement`, and the text that its values refer to.
+  StatementLoan prepare(const PlainStatement& statement);
 
   /// Goes to the next row; false at the end.
-  bool step(sqlite3_stmt* prepared, std::string_view sql) const;
+  bool step(sqlite3_stmt* prepared);
 
   /// Runs a statement to its end, rows do not matter.
-  void run(const PlainStatement& statement, std::string_view sql);
-  void run(const std::string& text) { run({text, {}, false}, text); }
+  void run(const PlainStatement& statement);
+  void run(const std::string& text) { run(PlainStatement{text}); }
 
-  /// The rows of a question about the database itself, in which `?1` is `argument`; every field as text, Null as an
-  /// empty one.
-  std::vector<std::vector<std::string>> rows(const std::string& text, const std::string& argument = {});
+  /// The rows of a question about the database itself; every field as text, Null as an empty one.
+  std::vector<std::vector<std::string>> rows(const std::string& text, std::vector<SqlParameter> parameters = {});
 
-  [[noreturn]] void fail(std::string_view sql) const;
+  /// The error of the call that has failed last. Where nothing that follows could be relied on, the transaction has
+  /// been taken back.
+  DataAccessError lastError();
 
   /// True when the file should be opened afresh before its next use, and nobody is at work on it: damage was met, of
   /// which the pages in memory may be all there is once a good copy is put back, or it could not be changed, which an
@@ -103,17 +102,16 @@ class SqliteDatabase {
 
  private:
   friend class StatementLoan;
+  SqliteStatement compile(const PlainStatement& statement);
+  SqliteStatement takeKept(std::string_view text);
   void keep(SqliteStatement statement) noexcept;
-  void openFile();
   void setForeignLogAside();
   void refuseDamage();
   void chooseJournal() noexcept;
-  void fitCache(const PlainStatement& statement) noexcept;
 
   using Kept = std::list<SqliteStatement>;
 
   std::string path_;
-  const Clock& clock_;
   SqliteHandle handle_;
   std::optional<SqliteFileWatch> watch_;
   /// The prepared statements not on loan, the one used last in front; found by the text they hold themselves.
@@ -121,7 +119,7 @@ class SqliteDatabase {
   std::unordered_map<std::string_view, Kept::iterator> keptByText_;
   std::vector<SqliteRecordset*> open_;
   bool cachesLargePage_ = false;
-  mutable bool outdated_ = false;
+  bool outdated_ = false;
 };
 
 }  // namespace tarnwick

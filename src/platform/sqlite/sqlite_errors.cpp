@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::size_t kShownValueLength = 40;
 constexpr int kPrimaryCodeMask = 0xff;
+constexpr std::string_view kNothingStored = ". Nothing was stored.";
 
 /// A slip of the fingers is short and plain; anything else may be what was meant for another place.
 bool isFitToShow(std::string_view value) {
@@ -21,23 +22,15 @@ bool isFitToShow(std::string_view value) {
 }
 
 /// A failed check names its rule, which the schema words as a sentence about a column: "timeout takes a whole number".
-std::string brokenRule(const std::string& message, std::string_view sql) {
+std::string brokenRule(const std::string& message) {
   static constexpr std::string_view kPrefix = "CHECK constraint failed: ";
-  if (!message.starts_with(kPrefix)) {
-    return message + ". Nothing was stored.";
-  }
-  const std::string rule = message.substr(kPrefix.size());
-  const std::optional<std::string_view> value = assignedText(sql, rule.substr(0, rule.find(' ')));
-  if (!value) {
-    return rule + ". Nothing was stored.";
-  }
-  return rule + "; " + (isFitToShow(*value) ? std::string(*value) : "'...'") + " was not stored.";
+  return message.substr(message.starts_with(kPrefix) ? kPrefix.size() : 0).append(kNothingStored);
 }
 
-std::string constraintCause(int code, const std::string& message, std::string_view sql) {
+std::string constraintCause(int code, const std::string& message) {
   switch (code) {
     case SQLITE_CONSTRAINT_CHECK:
-      return brokenRule(message, sql);
+      return brokenRule(message);
     case SQLITE_CONSTRAINT_PRIMARYKEY:
     case SQLITE_CONSTRAINT_ROWID:
     case SQLITE_CONSTRAINT_UNIQUE:
@@ -47,7 +40,7 @@ std::string constraintCause(int code, const std::string& message, std::string_vi
   }
 }
 
-std::string cause(int code, const std::string& message, const std::string& path, std::string_view sql) {
+std::string cause(int code, const std::string& message, const std::string& path) {
   const std::string detail = " (" + message + ")";
   switch (code & kPrimaryCodeMask) {
     case SQLITE_BUSY:
@@ -83,7 +76,7 @@ std::string cause(int code, const std::string& message, const std::string& path,
     case SQLITE_MISMATCH:
       return "The record's number must be a whole number; nothing was stored." + detail;
     case SQLITE_CONSTRAINT:
-      return constraintCause(code, message, sql);
+      return constraintCause(code, message);
     default:
       return "The database refused the statement: " + message;
   }
@@ -91,24 +84,36 @@ std::string cause(int code, const std::string& message, const std::string& path,
 
 }  // namespace
 
-DataAccessError damagedDatabase(const std::string& path, const std::string& message, std::string_view sql) {
+DataAccessError damagedDatabase(const std::string& path, const std::string& message) {
   return {"The file " + path + " is damaged or is no database. Put back a good copy, for instance backup.mdb. (" +
               message + ")",
-          shownStatement(sql)};
+          ""};
 }
 
-DataAccessError lastSqliteError(sqlite3* database, const std::string& path, std::string_view sql) {
+DataAccessError lastSqliteError(sqlite3* database, const std::string& path) {
   const int told = sqlite3_extended_errcode(database);
   const int code = causeBehind(told, database);
-  return sqliteError(code, code == told ? sqlite3_errmsg(database) : sqlite3_errstr(code), path, sql);
+  return sqliteError(code, code == told ? sqlite3_errmsg(database) : sqlite3_errstr(code), path);
 }
 
-DataAccessError sqliteError(int code, const std::string& message, const std::string& path, std::string_view sql) {
+DataAccessError sqliteError(int code, const std::string& message, const std::string& path) {
   const int primary = code & kPrimaryCodeMask;
   if (primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB) {
-    return damagedDatabase(path, message, sql);
+    return damagedDatabase(path, message);
   }
-  return {cause(code, message, path, sql), shownStatement(sql)};
+  return {cause(code, message, path), ""};
+}
+
+DataAccessError inStatement(const DataAccessError& error, std::string_view sql) {
+  std::string cause = error.cause();
+  if (cause.ends_with(kNothingStored)) {
+    const std::string_view column = std::string_view(cause).substr(0, cause.find(' '));
+    if (const std::optional<std::string_view> value = assignedText(sql, column)) {
+      cause.resize(cause.size() - kNothingStored.size());
+      cause.append("; ").append(isFitToShow(*value) ? *value : "'...'").append(" was not stored.");
+    }
+  }
+  return {cause, shownStatement(sql)};
 }
 
 }  // namespace tarnwick

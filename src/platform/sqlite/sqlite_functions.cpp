@@ -1,18 +1,17 @@
 #include "platform/sqlite/sqlite_functions.h"
 
+#include <array>
 #include <chrono>
 #include <optional>
-#include <string>
 #include <string_view>
 
-#include "platform/sqlite/sql_table_definition.h"
+#include "base/text.h"
+#include "platform/clock.h"
 
 namespace tarnwick {
 namespace {
 
 using namespace std::chrono;
-
-constexpr std::size_t kDateTimeLength = 19;
 
 std::string_view bytesOf(sqlite3_value* value) {
   const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(value));
@@ -20,137 +19,62 @@ std::string_view bytesOf(sqlite3_value* value) {
                           : std::string_view(bytes, static_cast<std::size_t>(sqlite3_value_bytes(value)));
 }
 
-/// The decimal digits of `text` from `begin` on; -1 when one of them is no digit.
-int digits(std::string_view text, std::size_t begin, std::size_t count) {
-  int number = 0;
-  for (const char c : text.substr(begin, count)) {
-    if (c < '0' || c > '9') {
-      return -1;
-    }
-    number = number * 10 + (c - '0');
-  }
-  return number;
-}
-
-/// The full form, read without detours: a report or a due query reads one date or two from every row.
+/// The full form, read without detours: the due query reads a date from every row.
 std::optional<LocalTime> readFullForm(std::string_view text) {
-  const bool whole = text.size() == kDateTimeLength && text[4] == '-' && text[7] == '-' && text[10] == ' ' &&
-                     text[13] == ':' && text[16] == ':';
-  if (!whole) {
-    return std::nullopt;
+  static constexpr std::string_view kForm = "0000-00-00 00:00:00";
+  std::array<unsigned, 6> parts{};
+  std::size_t part = 0;
+  for (std::size_t i = 0; i < kForm.size(); ++i) {
+    if (kForm[i] == '0' ? !isDigit(text[i]) : text[i] != kForm[i]) {
+      return std::nullopt;
+    }
+    if (kForm[i] == '0') {
+      parts[part] = parts[part] * 10 + static_cast<unsigned>(text[i] - '0');
+    } else {
+      ++part;
+    }
   }
-  const int year = digits(text, 0, 4);
-  const int month = digits(text, 5, 2);
-  const int dayOfMonth = digits(text, 8, 2);
-  const int hour = digits(text, 11, 2);
-  const int minute = digits(text, 14, 2);
-  const int second = digits(text, 17, 2);
-  if (year < 0 || month < 0 || dayOfMonth < 0 || hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 ||
-      second > 59) {
-    return std::nullopt;
-  }
-  const year_month_day date{std::chrono::year{year}, std::chrono::month{static_cast<unsigned>(month)},
-                            day{static_cast<unsigned>(dayOfMonth)}};
-  if (!date.ok()) {
+  const auto [year, month, day, hour, minute, second] = parts;
+  const year_month_day date{std::chrono::year{static_cast<int>(year)}, std::chrono::month{month},
+                            std::chrono::day{day}};
+  if (!date.ok() || hour > 23 || minute > 59 || second > 59) {
     return std::nullopt;
   }
   return local_days{date} + hours{hour} + minutes{minute} + seconds{second};
 }
 
 std::optional<LocalTime> dateOf(sqlite3_value* value) {
-  if (sqlite3_value_type(value) != SQLITE_TEXT) {
-    return std::nullopt;
-  }
-  const std::string_view text = bytesOf(value);
-  if (text.size() > kDateTimeLength) {
-    return std::nullopt;
-  }
-  const std::optional<LocalTime> time = readFullForm(text);
-  return time ? time : parseDateTime(text);
-}
-
-year_month_day calendarDay(LocalTime time) { return year_month_day{floor<days>(time)}; }
-
-std::int64_t monthsSinceYearZero(LocalTime time) {
-  const year_month_day date = calendarDay(time);
-  return static_cast<int>(date.year()) * std::int64_t{12} + static_cast<unsigned>(date.month()) - 1;
+  constexpr std::size_t kDateTimeLength = 19;
+  const std::string_view text = sqlite3_value_type(value) == SQLITE_TEXT ? bytesOf(value) : std::string_view();
+  const std::optional<LocalTime> time = text.size() == kDateTimeLength ? readFullForm(text) : std::nullopt;
+  return time || text.size() > kDateTimeLength ? time : parseDateTime(text);
 }
 
 template <typename Unit>
-std::int64_t boundaries(LocalTime from, LocalTime to) {
-  return floor<Unit>(to).time_since_epoch().count() - floor<Unit>(from).time_since_epoch().count();
-}
-
-std::optional<std::int64_t> difference(std::string_view unit, LocalTime from, LocalTime to) {
-  if (sameName(unit, "n")) {
-    return boundaries<minutes>(from, to);
-  }
-  if (sameName(unit, "s")) {
-    return boundaries<seconds>(from, to);
-  }
-  if (sameName(unit, "h")) {
-    return boundaries<hours>(from, to);
-  }
-  if (sameName(unit, "d")) {
-    return boundaries<days>(from, to);
-  }
-  if (sameName(unit, "m")) {
-    return monthsSinceYearZero(to) - monthsSinceYearZero(from);
-  }
-  if (sameName(unit, "q")) {
-    return monthsSinceYearZero(to) / 3 - monthsSinceYearZero(from) / 3;
-  }
-  if (sameName(unit, "yyyy")) {
-    return monthsSinceYearZero(to) / 12 - monthsSinceYearZero(from) / 12;
-  }
-  return std::nullopt;
-}
-
-void returnText(sqlite3_context* context, std::string_view text) {
-  sqlite3_result_text64(context, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+void returnBoundaries(sqlite3_context* context, LocalTime from, LocalTime to) {
+  sqlite3_result_int64(context, (floor<Unit>(to) - floor<Unit>(from)).count());
 }
 
 void dateDiff(sqlite3_context* context, int, sqlite3_value** arguments) {
+  const std::string_view unit = bytesOf(arguments[0]);
   const auto from = dateOf(arguments[1]);
   const auto to = dateOf(arguments[2]);
   if (!from || !to) {
-    return sqlite3_result_null(context);
+    sqlite3_result_null(context);
+  } else if (equalsIgnoringCase(unit, "n")) {
+    returnBoundaries<minutes>(context, *from, *to);
+  } else if (equalsIgnoringCase(unit, "s")) {
+    returnBoundaries<seconds>(context, *from, *to);
+  } else {
+    sqlite3_result_error(context, "datediff knows the units n and s", -1);
   }
-  if (const auto count = difference(bytesOf(arguments[0]), *from, *to)) {
-    return sqlite3_result_int64(context, *count);
-  }
-  sqlite3_result_error(context, "datediff knows the units yyyy, q, m, d, h, n and s", -1);
-}
-
-void dateValue(sqlite3_context* context, int, sqlite3_value** arguments) {
-  if (const auto time = dateOf(arguments[0])) {
-    return returnText(context, dateText(*time));
-  }
-  sqlite3_result_null(context);
-}
-
-void now(sqlite3_context* context, int, sqlite3_value**) {
-  returnText(context, dateTimeText(static_cast<const Clock*>(sqlite3_user_data(context))->localNow()));
 }
 
 }  // namespace
 
-int registerDateFunctions(sqlite3* database, const Clock& clock) {
-  // Deterministic functions may stand in an index; the clock's time may not.
-  constexpr int kPure = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
-  constexpr int kChanging = SQLITE_UTF8 | SQLITE_INNOCUOUS;
-  void* const time = const_cast<Clock*>(&clock);
-  const int results[] = {
-      sqlite3_create_function(database, "datediff", 3, kPure, nullptr, &dateDiff, nullptr, nullptr),
-      sqlite3_create_function(database, "datevalue", 1, kPure, nullptr, &dateValue, nullptr, nullptr),
-      sqlite3_create_function(database, "now", 0, kChanging, time, &now, nullptr, nullptr),
-  };
-  for (const int result : results) {
-    if (result != SQLITE_OK) {
-      return result;
-    }
-  }
-  return SQLITE_OK;
+int registerDateFunctions(sqlite3* database) {
+  return sqlite3_create_function(database, "datediff", 3, SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS,
+                                 nullptr, &dateDiff, nullptr, nullptr);
 }
 
 }  // namespace tarnwick

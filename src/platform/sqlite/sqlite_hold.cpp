@@ -13,20 +13,7 @@
 namespace tarnwick {
 namespace {
 
-constexpr int kBusyPatienceMs = 2000;
 constexpr int kPieceSize = 1 << 20;
-
-SqliteHandle openFile(const std::string& path, int flags) {
-  sqlite3* raw = nullptr;
-  const int result = openSqliteFile(path, flags, &raw);
-  SqliteHandle handle(raw);
-  if (result != SQLITE_OK) {
-    throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path, "");
-  }
-  sqlite3_extended_result_codes(raw, 1);
-  sqlite3_busy_timeout(raw, kBusyPatienceMs);
-  return handle;
-}
 
 /// Makes an empty file that may be read by those who may read the file `like`.
 void makeEmpty(const std::string& path, const std::string& like) {
@@ -43,7 +30,7 @@ void makeEmpty(const std::string& path, const std::string& like) {
 
 }  // namespace
 
-SqliteHold::SqliteHold(std::string path) : path_(std::move(path)), handle_(openFile(path_, SQLITE_OPEN_READWRITE)) {
+SqliteHold::SqliteHold(std::string path) : path_(std::move(path)), handle_(openDatabase(path_, SQLITE_OPEN_READWRITE)) {
   lock();
 }
 
@@ -57,7 +44,7 @@ void SqliteHold::lock() {
   run(database, "commit");
   // Between the two another program may have come and begun a log again.
   if (!alone || run(database, "pragma journal_mode") != "delete") {
-    throw sqliteError(SQLITE_BUSY, "the write-ahead log is in use", path_, "");
+    throw sqliteError(SQLITE_BUSY, "the write-ahead log is in use", path_);
   }
 }
 
@@ -96,7 +83,7 @@ void SqliteHold::read(const ByteSink& sink) {
     done += length;
   }
   if (result != SQLITE_OK) {
-    throw sqliteError(result, sqlite3_errstr(result), path_, "");
+    throw sqliteError(result, sqlite3_errstr(result), path_);
   }
 }
 
@@ -122,13 +109,15 @@ void SqliteHold::vacuumInto(const std::string& path) {
 }
 
 void SqliteHold::check(const std::string& path) const {
-  const SqliteHandle made = openFile(path, SQLITE_OPEN_READONLY);
+  const SqliteHandle made = openDatabase(path, SQLITE_OPEN_READONLY);
   const std::string finding = run(made.get(), "pragma quick_check(1)");
   if (finding != "ok") {
-    throw damagedDatabase(path, finding, "");
+    throw damagedDatabase(path, finding);
   }
 }
 
-void SqliteHold::fail(sqlite3* database, std::string_view sql) const { throw lastSqliteError(database, path_, sql); }
+void SqliteHold::fail(sqlite3* database, std::string_view sql) const {
+  throw inStatement(lastSqliteError(database, path_), sql);
+}
 
 }  // namespace tarnwick

@@ -67,7 +67,11 @@ void SqliteRecordset::moveNext() {
 
 void SqliteRecordset::advance() {
   onRow_ = false;
-  onRow_ = database_->step(loan_.get(), sql_);
+  try {
+    onRow_ = database_->step(loan_.get());
+  } catch (const DataAccessError& error) {
+    throw DataAccessError(error.cause(), sql_);
+  }
   if (!onRow_) {
     // Lets go of the read lock, though the recordset may stay open.
     sqlite3_reset(loan_.get());
@@ -87,7 +91,7 @@ SqlValue SqliteRecordset::field(std::size_t index) const {
   const int column = checkedColumn(index);
   std::optional<SqlValue> value = plainValue(loan_.get(), column);
   if (!value) {
-    database_->fail(sql_);
+    throw DataAccessError(database_->lastError().cause(), sql_);
   }
   return !value->isNull() && holdsYesNo(index) ? SqlValue(value->toBool()) : *std::move(value);
 }

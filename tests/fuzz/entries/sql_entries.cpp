@@ -10,9 +10,9 @@
 #include "fuzz/entries/sql_scratch.h"
 #include "platform/clock.h"
 #include "platform/sqlite/sql_dialect.h"
-#include "platform/sqlite/sql_table_definition.h"
 #include "platform/sqlite/sql_tokens.h"
 #include "store/sql_quote.h"
+#include "support/hand_clock.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -21,8 +21,7 @@ namespace {
 std::ptrdiff_t textsForParameters(const std::vector<SqlToken>& tokens) {
   std::ptrdiff_t texts = 0;
   for (std::size_t i = 0; i < tokens.size(); ++i) {
-    const bool unit = i >= 2 && tokens[i - 1].isSymbol("(") && tokens[i - 2].isWord("datediff") &&
-                      tokens[i].source.find('\0') == std::string_view::npos;
+    const bool unit = i >= 2 && tokens[i - 1].is("(") && tokens[i - 2].is("datediff");
     texts += tokens[i].kind == SqlTokenKind::text && !unit ? 1 : 0;
   }
   return texts;
@@ -31,21 +30,20 @@ std::ptrdiff_t textsForParameters(const std::vector<SqlToken>& tokens) {
 void requireParameters(const PlainStatement& statement, std::string_view sql) {
   std::ptrdiff_t texts = 0;
   for (const SqlParameter& parameter : statement.parameters) {
-    const auto* token = std::get_if<SqlToken>(&parameter);
-    if (token == nullptr) {
-      continue;
-    }
-    ++texts;
-    require(
-        token->source.data() >= sql.data() && token->source.data() + token->source.size() <= sql.data() + sql.size(),
-        "a parameter is not in the statement");
+    const auto* text = std::get_if<std::string_view>(&parameter);
+    const bool isText = text != nullptr || std::holds_alternative<std::string>(std::get<SqlValue>(parameter).held());
+    texts += isText ? 1 : 0;
+    require(text == nullptr || (text->data() >= sql.data() && text->data() + text->size() <= sql.data() + sql.size()),
+            "a parameter is not in the statement");
   }
-  require(texts == textsForParameters(sqlTokens(sql)), "a quoted text is no parameter, or a parameter is none");
+  // The time is one text more.
+  require(texts - textsForParameters(sqlTokens(sql)) <= 1, "a parameter is no quoted text");
+  require(texts >= textsForParameters(sqlTokens(sql)), "a quoted text is no parameter");
 }
 
 std::optional<SqlCommand> translated(std::string_view sql) {
   try {
-    return translateSql(sql);
+    return translateSql(sql, HandClock());
   } catch (const DataAccessError&) {
     return std::nullopt;
   }
@@ -69,8 +67,6 @@ void fuzzSqlStatement(std::string_view input) {
   const auto* plain = command ? std::get_if<PlainStatement>(&*command) : nullptr;
   if (plain != nullptr && plain->reusable) {
     requireParameters(*plain, input);
-  } else if (const auto* into = command ? std::get_if<SelectInto>(&*command) : nullptr) {
-    requireParameters(into->select, input);
   }
   SqlScratch::Trial trial(sqlScratch());
   bool ran = true;
@@ -87,11 +83,11 @@ void fuzzSqlValue(std::string_view input) {
   const std::string value(input);
   const std::string quoted = joinSql("'", sqlQuote(input), "'");
   const std::vector<SqlToken> texts = sqlTokens(quoted);
-  require(texts.size() == 1 && texts[0].kind == SqlTokenKind::text && textIn(texts[0]) == value,
+  require(texts.size() == 1 && texts[0].kind == SqlTokenKind::text && unquoted(texts[0]) == value,
           "the quoted value is another text");
   const std::string nameOfIt = quotedName(input);
   const std::vector<SqlToken> names = sqlTokens(nameOfIt);
-  require(names.size() == 1 && names[0].kind == SqlTokenKind::name && nameIn(names[0]) == value,
+  require(names.size() == 1 && names[0].kind == SqlTokenKind::name && unquoted(names[0]) == value,
           "the quoted name is another name");
 
   SqlScratch::Trial trial(sqlScratch());
@@ -111,7 +107,6 @@ void fuzzSqlTable(std::string_view input) {
   SqlScratch::Trial trial(sqlScratch());
   const std::int64_t before = trial.value("select count(*) from sqlite_master").toInt64();
   try {
-    parseTableDefinition(input);
     trial.run(input);
   } catch (const DataAccessError&) {
     return;
@@ -120,12 +115,18 @@ void fuzzSqlTable(std::string_view input) {
     return;
   }
   const std::string name = trial.value(joinSql("select name", kNewestTable)).toText();
-  const std::string sql = trial.value(joinSql("select sql", kNewestTable)).toText();
-  const TableDefinition definition = parseTableDefinition(sql);
-  const std::string copy = definition.createStatement("a copy of it");
-  trial.run(copy);
-  require(columnsOf(trial, name) == columnsOf(trial, "a copy of it"), "the table that is made again has other columns");
-  require(parseTableDefinition(copy).createStatement("a copy of it") == copy, "the definition is read otherwise");
+  const std::string columns = columnsOf(trial, name);
+  bool counted = true;
+  try {
+    trial.run(joinSql("alter table ", quotedName(name), " add column [a number] counter not null"));
+  } catch (const DataAccessError&) {
+    counted = false;
+  }
+  const std::string after = columnsOf(trial, name);
+  require(counted ? after.starts_with(columns + "\n") &&
+                        after.find("|a number|INTEGER|", columns.size()) != std::string::npos
+                  : after == columns,
+          "the table that is made again has other columns");
 }
 
 void fuzzSqlDate(std::string_view input) {
@@ -144,9 +145,7 @@ void fuzzSqlDate(std::string_view input) {
   const std::string a = joinSql("'", sqlQuote(one), "'");
   const std::string b = joinSql("'", sqlQuote(other), "'");
   SqlScratch::Trial trial(sqlScratch());
-  require(trial.value(joinSql("select datevalue(", a, ")")) == (from ? SqlValue(dateText(*from)) : SqlValue()),
-          "a date has another day in a statement");
-  for (const char* unit : {"yyyy", "q", "m", "d", "h", "n", "s"}) {
+  for (const char* unit : {"n", "s"}) {
     const SqlValue forwards = trial.value(joinSql("select datediff('", unit, "', ", a, ", ", b, ")"));
     const SqlValue backwards = trial.value(joinSql("select datediff('", unit, "', ", b, ", ", a, ")"));
     require(forwards.isNull() == (!from || !to), "a difference of what is no date, or none of dates");

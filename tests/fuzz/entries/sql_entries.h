@@ -13,7 +13,7 @@ namespace tarnwick::testing {
 void fuzzSqlStatement(std::string_view input);
 // Any value comes back from the statements that it is quoted in, which it does not change.
 void fuzzSqlValue(std::string_view input);
-// Any table that the database accepts is read from its definition so that the same can be made again.
+// Any table that the database accepts takes a counter behind its columns, or stays as it is.
 void fuzzSqlTable(std::string_view input);
 // Any text is a date in statements exactly when it is one elsewhere, and differences are what they are called.
 void fuzzSqlDate(std::string_view input);

@@ -48,7 +48,7 @@ int allow(void*, int action, const char* first, const char* second, const char*,
     case SQLITE_SAVEPOINT:
       return second != nullptr && std::string_view(second) == "atomic_change" ? SQLITE_OK : SQLITE_DENY;
     case SQLITE_PRAGMA: {
-      static constexpr std::array<std::string_view, 3> kHarmless{"table_info", "index_list", "index_xinfo"};
+      static constexpr std::array<std::string_view, 2> kHarmless{"index_info", "index_list"};
       return std::ranges::find(kHarmless, std::string_view(first == nullptr ? "" : first)) != kHarmless.end()
                  ? SQLITE_OK
                  : SQLITE_DENY;

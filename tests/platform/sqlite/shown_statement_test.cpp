@@ -51,6 +51,7 @@ TEST(ShownStatement, NoErrorHoldsAPassword) {
                                  errorOf(database, "update sites" + set + "1; select 1"),
                                  errorOf(database, "update sites" + set + "?"),
                                  errorOf(database, "update sites" + set + "'"),
+                                 errorOf(database, "update sites set sPassWord = 'PwFromFile7"),
                                  errorOf(database, "alter table nosuch add constraint c primary key (a) 'PwFromFile7'"),
                                  errorOf(database, "insert into sites (idSite, sPassWord) values ('x', 'PwFromFile7')"),
                                  errorOf(database, "update control set timeout = 'PwFromFile7\x1b[31m'")};

@@ -74,17 +74,12 @@ TEST_F(SqliteDates, DifferencesCountTheBoundariesCrossed) {
   EXPECT_EQ(difference("n", "2024-05-17 12:00:59", "2024-05-17 12:01:00"), "1;");
   EXPECT_EQ(difference("n", "2024-05-17 12:00:00", "2024-05-17 12:00:59"), "0;");
   EXPECT_EQ(difference("s", "2024-05-17 12:00:59", "2024-05-17 12:01:01"), "2;");
-  EXPECT_EQ(difference("h", "2024-05-17 12:59:59", "2024-05-17 13:00:00"), "1;");
-  EXPECT_EQ(difference("D", "2024-05-17 23:59:59", "2024-05-18"), "1;");
-  EXPECT_EQ(difference("m", "2024-01-31", "2024-03-01"), "2;");
-  EXPECT_EQ(difference("q", "2024-03-31", "2024-04-01"), "1;");
 }
 
 TEST_F(SqliteDates, DifferencesCrossYearsAndLeapDays) {
   EXPECT_EQ(difference("n", "2023-12-31 23:59:59", "2024-01-01 00:00:00"), "1;");
-  EXPECT_EQ(difference("yyyy", "2023-12-31", "2024-01-01"), "1;");
   EXPECT_EQ(difference("s", "2024-02-28", "2024-03-01"), "172800;");
-  EXPECT_EQ(difference("d", "1969-12-31 23:00:00", "1970-01-01 01:00:00"), "1;");
+  EXPECT_EQ(difference("N", "1969-12-31 23:59:59", "1970-01-01"), "1;");
 }
 
 TEST_F(SqliteDates, DifferencesAreThoseOfTheWallClockWhenDaylightSavingSets) {
@@ -123,9 +118,6 @@ TEST_F(SqliteDates, NowIsTheGivenClocksTime) {
   EXPECT_EQ(database_.rows("select now()"), "2024-05-17 12:00:00;");
   database_.clock.setLocal(HandClock::at("2031-01-02 03:04:05"));
   EXPECT_EQ(database_.rows("select now()"), "2031-01-02 03:04:05;");
-  database_.run("create table stamps (id integer primary key, made text default (now()))");
-  database_.run("insert into stamps (id) values (1)");
-  EXPECT_EQ(database_.rows("select made from stamps"), "2031-01-02 03:04:05;");
 }
 
 TEST_F(SqliteDates, NowStandsStillWhileAStatementsRowsAreRead) {
