@@ -5,12 +5,13 @@
 #include <utility>
 
 #include "base/errors.h"
+#include "base/product.h"
 #include "platform/file_access.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr std::string_view kLiveName = "tarnwick.mdb";
+constexpr std::string_view kLiveName = kDatabaseFile;
 constexpr std::string_view kTempName = "temp.mdb";
 constexpr const char* kBackupName = "backup.mdb";
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/product.h"
 #include "platform/file_access.h"
 #include "store/migrations.h"
 
@@ -9,7 +10,7 @@ namespace tarnwick {
 
 Database::Database(const std::string& programFolder, SqlConnectionMaker& databases)
     : conn_(databases.makeSqlConnection()),
-      dbPath_(textOf(pathOf(programFolder) / "tarnwick.mdb")),
+      dbPath_(textOf(pathOf(programFolder) / kDatabaseFile)),
       programFolder_(programFolder) {
   connString_ =
       "Provider=Microsoft.Jet.OLEDB.4.0;"

@@ -9,8 +9,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::size_t kUsualWidth = 80;
-
 std::string_view environment(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? std::string_view() : value;
@@ -34,7 +32,7 @@ void prepareStandardStreams() {
 
 std::size_t terminalWidth() {
   winsize size{};
-  return ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kUsualWidth;
+  return ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kUsualTerminalWidth;
 }
 
 }  // namespace tarnwick

@@ -14,8 +14,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::size_t kUsualWidth = 80;
-
 struct LocalEnd {
   void operator()(wchar_t** list) const { LocalFree(list); }
 };
@@ -63,7 +61,7 @@ std::size_t terminalWidth() {
   CONSOLE_SCREEN_BUFFER_INFO facts{};
   return GetConsoleScreenBufferInfo(GetStdHandle(STD_OUTPUT_HANDLE), &facts) != FALSE && facts.dwSize.X > 0
              ? static_cast<std::size_t>(facts.dwSize.X)
-             : kUsualWidth;
+             : kUsualTerminalWidth;
 }
 
 }  // namespace tarnwick
