@@ -25,8 +25,11 @@ endif()
 
 if(LUPDATE_PROGRAM)
   # Without line numbers: a text that moves in its source changes nothing for the translator.
+  find_program(PYTHON_PROGRAM python3 REQUIRED)
+  set(option_texts ${CMAKE_BINARY_DIR}/option_texts.cpp)
   add_custom_target(update_translations
-    COMMAND ${LUPDATE_PROGRAM} -silent -locations none -no-obsolete -I src src/ui src/platform/desktop
+    COMMAND ${PYTHON_PROGRAM} cmake/option_texts.py src/store/option_table.cpp ${option_texts}
+    COMMAND ${LUPDATE_PROGRAM} -silent -locations none -no-obsolete -I src src/ui src/platform/desktop ${option_texts}
       -ts translations/tarnwick.ts ${translation_files}
     WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
     VERBATIM)

@@ -48,6 +48,7 @@ NO_MESSAGES = {
     "src/base/base64.cpp": ("who decodes says what is wrong in words of his own", ()),
     "src/engine/inet_pool.cpp": ("the states of a request, kept for callers of the pool and shown nowhere", ()),
     "src/ui/*_layout.cpp": ("labels and hints of the window; the guide explains the controls", ()),
+    "src/ui/controls/option_form.cpp": ("what a page of options says of a value; the guide explains it", ()),
     "src/ui/site/new_post_var.cpp": ("hints in the fields", ()),
     "src/ui/main_window/site_*.cpp": ("heads and hints of the list", ()),
     "src/ui/main_window/master.cpp": ("the foot of the window, and hints", ()),

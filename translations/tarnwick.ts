@@ -479,6 +479,94 @@
         <source>All Files (*)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Defaults for all sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options of this site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First baseline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mail exchange at most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The longest time that handing over one mail may take, connecting included</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What becomes the baseline of a site that has none; with &quot;pages only&quot; a fetch that failed does not</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When a run takes on a site that was never checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a mail server that stays silent is waited for without end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a site that was never checked is not taken on before the next Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>anything</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at the next start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pages only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first answer becomes the baseline, also the text of a fetch that failed</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>
@@ -682,6 +770,37 @@ The database says: %1</source>
         <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>This variable was changed or removed by another program. Press Cancel, and look at the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::OptionForm</name>
+    <message>
+        <source>on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As the original</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As in Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing to be chosen here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. As the original: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::PostVarModel</name>
@@ -729,6 +848,26 @@ The database says: %1</source>
     </message>
     <message>
         <source>not tested yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time Of Last Test</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

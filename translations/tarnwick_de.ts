@@ -479,6 +479,94 @@
         <source>All Files (*)</source>
         <translation>Alle Dateien (*)</translation>
     </message>
+    <message>
+        <source>Pages</source>
+        <translation>Register</translation>
+    </message>
+    <message>
+        <source>Defaults for all sites</source>
+        <translation>Vorgaben für alle Seiten</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Vorgaben</translation>
+    </message>
+    <message>
+        <source>Options of this site</source>
+        <translation>Optionen dieser Seite</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>First baseline</source>
+        <translation>Erste Basis</translation>
+    </message>
+    <message>
+        <source>Mail exchange at most</source>
+        <translation>Mail-Austausch höchstens</translation>
+    </message>
+    <message>
+        <source>New sites</source>
+        <translation>Neue Seiten</translation>
+    </message>
+    <message>
+        <source>The longest time that handing over one mail may take, connecting included</source>
+        <translation>Wie lange die Übergabe einer Mail höchstens dauern darf, mit dem Verbindungsaufbau</translation>
+    </message>
+    <message>
+        <source>What becomes the baseline of a site that has none; with &quot;pages only&quot; a fetch that failed does not</source>
+        <translation>Was zur Basis einer Seite ohne Basis wird; mit „nur gute Seiten“ nicht der Text eines gescheiterten Holens</translation>
+    </message>
+    <message>
+        <source>When a run takes on a site that was never checked</source>
+        <translation>Wann ein Lauf eine Seite aufnimmt, die noch nie geprüft wurde</translation>
+    </message>
+    <message>
+        <source>a mail server that stays silent is waited for without end</source>
+        <translation>auf einen Mail-Server, der schweigt, wird ohne Ende gewartet</translation>
+    </message>
+    <message>
+        <source>a site that was never checked is not taken on before the next Start</source>
+        <translation>eine Seite, die noch nie geprüft wurde, wird erst beim nächsten Start aufgenommen</translation>
+    </message>
+    <message>
+        <source>anything</source>
+        <translation>alles</translation>
+    </message>
+    <message>
+        <source>at once</source>
+        <translation>sofort</translation>
+    </message>
+    <message>
+        <source>at the next start</source>
+        <translation>beim nächsten Start</translation>
+    </message>
+    <message>
+        <source>pages only</source>
+        <translation>nur gute Seiten</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>the first answer becomes the baseline, also the text of a fetch that failed</source>
+        <translation>die erste Antwort wird zur Basis, auch der Text eines gescheiterten Holens</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>
@@ -684,6 +772,37 @@ Die Datenbank sagt: %1</translation>
         <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>This variable was changed or removed by another program. Press Cancel, and look at the list.</source>
+        <translation>Diese Variable wurde von einem anderen Programm geändert oder entfernt. Drücken Sie Cancel und sehen Sie sich die Liste an.</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::OptionForm</name>
+    <message>
+        <source>on</source>
+        <translation>an</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>As the original</source>
+        <translation>Wie im Original</translation>
+    </message>
+    <message>
+        <source>As in Defaults</source>
+        <translation>Wie in Vorgaben</translation>
+    </message>
+    <message>
+        <source>There is nothing to be chosen here.</source>
+        <translation>Hier gibt es nichts zu wählen.</translation>
+    </message>
+    <message>
+        <source>%1. As the original: %2.</source>
+        <translation>%1. Wie im Original: %2.</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::PostVarModel</name>
@@ -732,6 +851,26 @@ Die Datenbank sagt: %1</translation>
     <message>
         <source>not tested yet</source>
         <translation>noch nicht geprüft</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time Of Last Test</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

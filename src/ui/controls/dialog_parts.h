@@ -1,10 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <vector>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QString>
+#include <QTabWidget>
 #include <QWidget>
 
 #include "program/fault_box.h"
@@ -32,6 +35,18 @@ LineEdit* addText(QWidget& parent, const char* name, const QString& accessibleNa
   text->setMinimumWidth(text->fontMetrics().averageCharWidth() * characters);
   return text;
 }
+
+/// A page of a dialog, under its tab.
+struct Page {
+  QString caption;
+  QWidget* content;
+};
+
+/// Makes the pages of a dialog. Ctrl+1, Ctrl+2 and so on turn to them.
+QTabWidget* addPages(QDialog& dialog, const std::vector<Page>& pages);
+
+/// Turns to the page that `control` is on and gives it the focus.
+void turnTo(QWidget& control);
 
 /// Makes a button of a dialog; `caption` may hold a mnemonic. It is not pressed by Enter unless it has the focus or is
 /// the dialog's default button.

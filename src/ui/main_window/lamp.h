@@ -39,7 +39,6 @@ class Lamp final : public QWidget {
 
   /// Lights the lamp, both bars bright, or puts it out, both dim.
   void setLit(bool lit);
-  bool isLit() const { return lit_; }
 
   /// Of a lit lamp: one bar is bright and one is dim, and they change places with each call.
   void blink();

@@ -33,8 +33,8 @@ QString briefly(const QString& folder) {
 
 }  // namespace
 
-Master::Master(std::string programFolder, const Services& services)
-    : program_(std::move(programFolder), services, *this) {
+Master::Master(std::string programFolder, const Services& services, const Fields& fields)
+    : program_(std::move(programFolder), services, *this, fields) {
   auto* canvas = new QWidget(this);
   controls_ = layOutMaster(*canvas, sites_);
   setCentralWidget(canvas);

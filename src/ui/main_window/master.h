@@ -28,8 +28,8 @@ class Master final : public QMainWindow, public RunView {
   Q_OBJECT
 
  public:
-  /// Opens nothing yet; what `services` refers to outlives the window.
-  Master(std::string programFolder, const Services& services);
+  /// Opens nothing yet; what `services` refers to outlives the window, and so does `fields`, what can be set.
+  Master(std::string programFolder, const Services& services, const Fields& fields = programFields());
   ~Master() override;
 
   /// Starts the program; a failure is shown in one box. False when it failed: there is nothing to show then.

@@ -58,8 +58,8 @@ class BusyPointer {
 
 }  // namespace
 
-ControlDialog::ControlDialog(Program& program, QWidget* parent, const Fields& fields)
-    : QDialog(parent), program_(program), controls_(layOutControlDialog(*this, fields.settings)) {
+ControlDialog::ControlDialog(Program& program, QWidget* parent)
+    : QDialog(parent), program_(program), controls_(layOutControlDialog(*this, program)) {
   setObjectName(QStringLiteral("frmControl"));
   setWindowTitle(tr("Settings"));
   connectButtons();
@@ -78,6 +78,10 @@ void ControlDialog::connectButtons() {
   onClick(*controls_.Command7, program_.faults(), [this] { Command7_Click(); });
   onClick(*controls_.Command8, program_.faults(), [this] { Command8_Click(); });
   onClick(*controls_.Command9, program_.faults(), [this] { Command9_Click(); });
+  onClick(*controls_.btnOk, program_.faults(), [this] { Command1_Click(); });
+  onClick(*controls_.btnCancel, program_.faults(), [this] { Command2_Click(); });
+  connect(controls_.pages, &QTabWidget::currentChanged, this,
+          [this](int page) { (page == 0 ? controls_.Command1 : controls_.btnOk)->setDefault(true); });
 }
 
 void ControlDialog::populateMe() {
@@ -111,7 +115,7 @@ void ControlDialog::storeSettings() {
     program_.data().storeSettings(settings);
   } catch (const SettingRefused& refused) {
     const auto control = std::ranges::find(controls_.settings, refused.key(), &FieldControl::field);
-    control->widget->setFocus();
+    turnTo(*control->widget);
     if (refused.key() == kTimeoutKey && !control->value()) {
       const QString remedy =
           tr("No TCP Timeout is selected. Select one in the list, then press OK again; nothing was stored yet.\n\nThe "
@@ -123,7 +127,10 @@ void ControlDialog::storeSettings() {
 }
 
 void ControlDialog::Command1_Click() {
+  Transaction whole(program_.data().database());
   storeSettings();
+  controls_.defaults->store();
+  whole.commit();
   unload(Accepted);
 }
 
@@ -213,11 +220,11 @@ void ControlDialog::unload(DialogCode result) {
   }
 }
 
-std::function<void()> settingsDialogOf(Program& program, QWidget& parent, const Fields& fields) {
-  return [&program, &parent, &fields, dialog = QPointer<ControlDialog>()]() mutable {
+std::function<void()> settingsDialogOf(Program& program, QWidget& parent) {
+  return [&program, &parent, dialog = QPointer<ControlDialog>()]() mutable {
     // One that has been closed may not have been taken down yet.
     if (dialog == nullptr || !dialog->isVisible()) {
-      dialog = new ControlDialog(program, &parent, fields);
+      dialog = new ControlDialog(program, &parent);
     }
     dialog->bringUp();
   };

@@ -17,8 +17,8 @@ class ControlDialog final : public QDialog {
 
  public:
   /// Fills the controls from the stored settings; raises DataAccessError. `program` outlives the dialog. `parent` is
-  /// the main window. `fields` says which settings there are.
-  ControlDialog(Program& program, QWidget* parent, const Fields& fields = programFields());
+  /// the main window.
+  ControlDialog(Program& program, QWidget* parent);
 
   /// Fills the controls from the stored settings. Raises DataAccessError.
   void populateMe();
@@ -52,8 +52,7 @@ class ControlDialog final : public QDialog {
   ControlDialogControls controls_;
 };
 
-/// Opens the one settings dialog of `program`, above `parent`; made when it is first needed. `fields`,
-/// which outlives it, says which settings there are.
-std::function<void()> settingsDialogOf(Program& program, QWidget& parent, const Fields& fields = programFields());
+/// Opens the one settings dialog of `program`, above `parent`; made when it is first needed.
+std::function<void()> settingsDialogOf(Program& program, QWidget& parent);
 
 }  // namespace tarnwick

@@ -177,16 +177,34 @@ void makeAdministration(QGroupBox& frame, ControlDialogControls& controls) {
 
 }  // namespace
 
-ControlDialogControls layOutControlDialog(QDialog& dialog, const std::vector<SettingField>& settings) {
+ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program) {
   // Made in the order in which the eye reads them, which is the order of the Tab key.
   ControlDialogControls controls{};
-  QGroupBox* configuration = addFrame(dialog, "Frame1", QObject::tr("Configuration Data"));
-  makeConfiguration(*configuration, settings, controls);
-  QGroupBox* administration = addFrame(dialog, "Frame2", QObject::tr("Administration Functions"));
+  auto* general = new QWidget;
+  QGroupBox* configuration = addFrame(*general, "Frame1", QObject::tr("Configuration Data"));
+  makeConfiguration(*configuration, program.data().fields().settings, controls);
+  QGroupBox* administration = addFrame(*general, "Frame2", QObject::tr("Administration Functions"));
   makeAdministration(*administration, controls);
+  auto* lines = new QVBoxLayout(general);
+  lines->addWidget(configuration, 1);
+  lines->addWidget(administration);
+
+  auto* defaults = new QWidget;
+  controls.defaults = named(new OptionForm(program, defaults), "defaults", QObject::tr("Defaults for all sites"));
+  // The first page has the letters.
+  controls.btnOk = addButton(*defaults, "btnOk", QObject::tr("OK"), controls.Command1->toolTip());
+  controls.btnCancel = addButton(*defaults, "btnCancel", QObject::tr("Cancel"), controls.Command2->toolTip());
+  auto* foot = new QHBoxLayout;
+  foot->addStretch();
+  foot->addWidget(controls.btnOk);
+  foot->addWidget(controls.btnCancel);
+  auto* below = new QVBoxLayout(defaults);
+  below->addWidget(controls.defaults, 1);
+  below->addLayout(foot);
+
+  controls.pages = addPages(dialog, {{QObject::tr("General"), general}, {QObject::tr("Defaults"), defaults}});
   auto* all = new QVBoxLayout(&dialog);
-  all->addWidget(configuration, 1);
-  all->addWidget(administration);
+  all->addWidget(controls.pages);
   return controls;
 }
 

@@ -5,8 +5,10 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTabWidget>
 
 #include "ui/controls/field_control.h"
+#include "ui/controls/option_form.h"
 
 namespace tarnwick {
 
@@ -25,6 +27,11 @@ struct ControlDialogControls {
   QPushButton* Command1;  ///< OK
   QPushButton* Command2;  ///< Cancel
 
+  QTabWidget* pages;  ///< General, Defaults
+  OptionForm* defaults;
+  QPushButton* btnOk;
+  QPushButton* btnCancel;
+
   QPushButton* Command3;  ///< Clear Logs
   QLabel* lblLogs;
   QPushButton* Command4;  ///< Compact Database
@@ -33,8 +40,8 @@ struct ControlDialogControls {
   QLabel* lblReport;
 };
 
-/// Makes the controls of the settings dialog and lays them out: on the first page `settings` with OK and Cancel at the
-/// top, the administration functions below; on the second one the options for all sites.
-ControlDialogControls layOutControlDialog(QDialog& dialog, const std::vector<SettingField>& settings);
+/// Makes the controls of the settings dialog and lays them out: on the first page the settings with OK and Cancel at
+/// the top, the administration functions below; on the second one the options for all sites.
+ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program);
 
 }  // namespace tarnwick

@@ -15,8 +15,8 @@
 
 namespace tarnwick {
 
-SiteEditor::SiteEditor(Program& program, QWidget* parent, const Fields& fields)
-    : QDialog(parent), program_(program), fields_(fields), controls_(layOutSiteEditor(*this, postVars_, fields.site)) {
+SiteEditor::SiteEditor(Program& program, QWidget* parent)
+    : QDialog(parent), program_(program), controls_(layOutSiteEditor(*this, postVars_, program)) {
   setObjectName(QStringLiteral("site"));
   setWindowTitle(tr("Site"));
   connectButtons();
@@ -76,10 +76,12 @@ void SiteEditor::populateMe(std::int16_t idSite) {
   const SiteDraft site = readSite(program_.data(), idSite);
   std::vector<PostVar> vars = readPostVars(program_.data(), idSite);
   idSite_ = idSite;
+  controls_.pages->setCurrentIndex(0);
+  controls_.options->setSite(idSite);
   controls_.Frame1->setTitle(tr("Site ID: %1").arg(idSite));
-  showSite(controls_, fields_.site, site);
+  showSite(controls_, program_.data().fields().site, site);
   stored_ = site;
-  loaded_ = shownSite(controls_, fields_.site, stored_);
+  loaded_ = shownSite(controls_, program_.data().fields().site, stored_);
   showPostVars(std::move(vars));
 }
 
@@ -99,17 +101,20 @@ bool SiteEditor::validate() {
   const auto there = stillThere();
   program_.services().prompts.inform("You must enter a valid email address.");
   if (there()) {
-    controls_.tEmail->setFocus();
+    turnTo(*controls_.tEmail);
   }
   return false;
 }
 
 bool SiteEditor::save() {
-  const SiteDraft site = shownSite(controls_, fields_.site, stored_);
+  const SiteDraft site = shownSite(controls_, program_.data().fields().site, stored_);
   if (!validate()) {
     return false;
   }
+  Transaction whole(program_.data().database());
   storeSite(program_.data(), idSite_, site, postVars_.vars());
+  controls_.options->store();
+  whole.commit();
   stored_ = loaded_ = site;
   loadedVars_ = postVars_.vars();
   return true;
@@ -122,7 +127,8 @@ std::function<bool()> SiteEditor::stillThere() {
 }
 
 bool SiteEditor::changed() const {
-  return shownSite(controls_, fields_.site, stored_) != loaded_ || postVars_.vars() != loadedVars_;
+  return shownSite(controls_, program_.data().fields().site, stored_) != loaded_ || postVars_.vars() != loadedVars_ ||
+         controls_.options->isChanged();
 }
 
 bool SiteEditor::mayLeave() {
@@ -271,13 +277,13 @@ void SiteEditor::unload() {
   }
 }
 
-std::function<void(std::int16_t)> siteEditorOf(Program& program, QWidget& parent, const Fields& fields) {
-  return [&program, &parent, &fields, editor = QPointer<SiteEditor>()](std::int16_t idSite) mutable {
+std::function<void(std::int16_t)> siteEditorOf(Program& program, QWidget& parent) {
+  return [&program, &parent, editor = QPointer<SiteEditor>()](std::int16_t idSite) mutable {
     if (editor != nullptr && editor->isVisible()) {
       editor->editSite(idSite);
       return;
     }
-    auto fresh = std::make_unique<SiteEditor>(program, &parent, fields);
+    auto fresh = std::make_unique<SiteEditor>(program, &parent);
     fresh->editSite(idSite);
     editor = fresh.release();
   };

@@ -18,8 +18,8 @@ class SiteEditor final : public QDialog {
   Q_OBJECT
 
  public:
-  /// `program` outlives the editor. `parent` is the main window. `fields` says what there is to be set of a site.
-  SiteEditor(Program& program, QWidget* parent, const Fields& fields = programFields());
+  /// `program` outlives the editor. `parent` is the main window.
+  SiteEditor(Program& program, QWidget* parent);
 
   /// Shows the editor on a site. When it shows another one with changes that are not saved, the user is asked; while a
   /// dialog of the editor is open, that one comes to the front and nothing else happens.
@@ -66,7 +66,6 @@ class SiteEditor final : public QDialog {
   void unload();
 
   Program& program_;
-  const Fields& fields_;
   PostVarModel postVars_;
   SiteEditorControls controls_;
   std::int16_t idSite_ = 0;
@@ -78,8 +77,6 @@ class SiteEditor final : public QDialog {
 };
 
 /// Opens the one site editor of `program` on the site given, above `parent`; made when it is first needed.
-/// `fields`, which outlives it, says what there is to be set of a site.
-std::function<void(std::int16_t idSite)> siteEditorOf(Program& program, QWidget& parent,
-                                                      const Fields& fields = programFields());
+std::function<void(std::int16_t idSite)> siteEditorOf(Program& program, QWidget& parent);
 
 }  // namespace tarnwick

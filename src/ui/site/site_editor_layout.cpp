@@ -131,30 +131,35 @@ void makeButtons(QGroupBox& frame, SiteEditorControls& controls) {
 
 }  // namespace
 
-SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, const std::vector<SiteField>& fields) {
+SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, Program& program) {
   // Made in the order in which the eye reads them, which is the order of the Tab key.
   SiteEditorControls controls{};
-  controls.Frame1 = addFrame(dialog, "Frame1", QObject::tr("Site ID:"));
+  auto* site = new QWidget;
+  controls.Frame1 = addFrame(*site, "Frame1", QObject::tr("Site ID:"));
   makeSite(*controls.Frame1, controls);
-  QGroupBox* alerts = addFrame(dialog, "Frame4", QObject::tr("Alerts"));
+  QGroupBox* alerts = addFrame(*site, "Frame4", QObject::tr("Alerts"));
   makeAlerts(*alerts, controls);
-  QGroupBox* post = addFrame(dialog, "Frame2", QObject::tr("HTTP Post Variables"));
+  QGroupBox* post = addFrame(*site, "Frame2", QObject::tr("HTTP Post Variables"));
   makePostVars(*post, controls, postVars);
+  QGridLayout* lines = layOutSite(controls);
+  controls.Frame1->setLayout(lines);
+  bindFields(controls, program.data().fields().site, *lines);
+  post->setLayout(layOutPostVars(controls));
+  auto* frames = new QGridLayout(site);
+  frames->addWidget(controls.Frame1, 0, 0);
+  frames->addWidget(alerts, 1, 0);
+  frames->addWidget(post, 0, 1, 2, 1);
+  frames->setColumnStretch(0, 1);
+  frames->setColumnStretch(1, 1);
+  frames->setRowStretch(0, 1);
+
+  controls.options = named(new OptionForm(program), "options", QObject::tr("Options of this site"));
+  controls.pages = addPages(dialog, {{QObject::tr("Site"), site}, {QObject::tr("Options"), controls.options}});
   QGroupBox* control = addFrame(dialog, "Frame3", QObject::tr("Control"));
   makeButtons(*control, controls);
-
-  QGridLayout* site = layOutSite(controls);
-  controls.Frame1->setLayout(site);
-  bindFields(controls, fields, *site);
-  post->setLayout(layOutPostVars(controls));
-  auto* all = new QGridLayout(&dialog);
-  all->addWidget(controls.Frame1, 0, 0);
-  all->addWidget(alerts, 1, 0);
-  all->addWidget(post, 0, 1, 2, 1);
-  all->addWidget(control, 2, 0, 1, 2);
-  all->setColumnStretch(0, 1);
-  all->setColumnStretch(1, 1);
-  all->setRowStretch(0, 1);
+  auto* all = new QVBoxLayout(&dialog);
+  all->addWidget(controls.pages, 1);
+  all->addWidget(control);
   return controls;
 }
 

@@ -7,9 +7,11 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <QTableView>
 
 #include "ui/controls/field_control.h"
+#include "ui/controls/option_form.h"
 #include "ui/site/post_var_model.h"
 
 namespace tarnwick {
@@ -39,6 +41,9 @@ struct SiteEditorControls {
   QCheckBox* cPager;
   QLineEdit* tPager;
 
+  QTabWidget* pages;  ///< Site, Options
+  OptionForm* options;
+
   QPushButton* Command1;  ///< OK
   QPushButton* Command3;  ///< Apply
   QPushButton* Command2;  ///< Content
@@ -47,8 +52,8 @@ struct SiteEditorControls {
   QPushButton* Command8;  ///< Cancel
 };
 
-/// Makes the controls of the site editor, with one for each of `fields`, and lays them out: the site and its alerts on
-/// the left, the POST variables on the right, the buttons below.
-SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, const std::vector<SiteField>& fields);
+/// Makes the controls of the site editor and lays them out: on the first page the site with its alerts on the left, the
+/// POST variables on the right; on the second one its options; the buttons below both.
+SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, Program& program);
 
 }  // namespace tarnwick

@@ -5,7 +5,8 @@
 
 namespace tarnwick {
 
-/// The form `vars`: a button and a picture under the product's name.
+/// Vocabulary: the form `vars`, a button and a picture under the product's name. Nothing opens it; it stands here
+/// because the forms of the design are all there under their names, for whoever builds on them.
 class VarsForm final : public QDialog {
   Q_OBJECT
 

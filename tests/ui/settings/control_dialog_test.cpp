@@ -226,6 +226,26 @@ TEST_F(ControlDialogTest, SettingsThatCannotBeReadAreToldAndNoDialogOpens) {
   EXPECT_EQ(shown<ControlDialog>(), nullptr);
 }
 
+TEST_F(ControlDialogTest, ASettingOfTheTableStandsInTheDialog) {
+  folder.execute("alter table control add column proxy TEXT");
+  folder.execute("alter table control add column cQuiet YESNO default 0");
+  static Fields more = programFields();
+  more.settings.push_back({"proxy", FieldKind::text, "Proxy", "the server that pages are asked through"});
+  more.settings.push_back({"cQuiet", FieldKind::flag, "Quiet", "no alerts at night"});
+  fields = &more;
+  auto& dialog = openSettings();
+  EXPECT_EQ(in<QWidget>(dialog, "proxy").accessibleName().toStdString(), "Proxy");
+  EXPECT_EQ(in<QWidget>(dialog, "proxy").toolTip().toStdString(), "the server that pages are asked through");
+  type(dialog, "proxy", "proxy.example.org");
+  tick(dialog, "cQuiet");
+  press(dialog, "Command1");
+  EXPECT_TRUE(machine.prompts.shown().empty());
+  EXPECT_EQ(folder.queryRows("select proxy, cQuiet from control"), "proxy.example.org|1\n");
+  click("btnSetup");
+  EXPECT_EQ(text(opened<ControlDialog>(), "proxy"), "proxy.example.org");
+  EXPECT_TRUE(ticked(opened<ControlDialog>(), "cQuiet"));
+}
+
 TEST_F(ControlDialogTest, CancelEscapeAndTheCloseButtonStoreNothing) {
   const std::string before = stored();
   const std::vector<std::function<void(ControlDialog&)>> ways = {

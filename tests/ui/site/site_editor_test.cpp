@@ -114,6 +114,24 @@ TEST_F(SiteEditorTest, IsReachedByTheKeyboardInTheOrderOfTheEye) {
   }
 }
 
+TEST_F(SiteEditorTest, AFieldOfTheTableStandsInTheForm) {
+  folder.execute("alter table sites add column note TEXT");
+  folder.execute("alter table sites add column watched YESNO default 0");
+  static Fields more = programFields();
+  more.site.push_back({"note", FieldKind::text, {}, "Note", "what is to be known of it"});
+  more.site.push_back({"watched", FieldKind::flag, {}, "Watched", "whether somebody looks"});
+  fields = &more;
+  addSite(1, "http://one.test/", ",note", ",'old'");
+  auto& editor = openEditor();
+  EXPECT_EQ(text(editor, "note"), "old");
+  EXPECT_EQ(in<QWidget>(editor, "note").accessibleName().toStdString(), "Note");
+  type(editor, "note", "new");
+  QTest::mouseClick(&in<QWidget>(editor, "watched"), Qt::LeftButton, {}, QPoint(8, 8));
+  press(editor, "Command1");
+  EXPECT_TRUE(machine.prompts.shown().empty());
+  EXPECT_EQ(folder.queryRows("select note, watched from sites"), "new|1\n");
+}
+
 TEST_F(SiteEditorTest, DoesNotShowThePassword) {
   addSite(1, "http://one.test/", ",sPassWord", ",'secret'");
   auto& editor = openEditor();

@@ -18,7 +18,7 @@ void MasterTest::layImages() {
 }
 
 void MasterTest::open() {
-  master = std::make_unique<Master>(folder.path(), machine.services());
+  master = std::make_unique<Master>(folder.path(), machine.services(), *fields);
   ASSERT_TRUE(master->load());
   master->show();
   // Shortcuts belong to the active window.

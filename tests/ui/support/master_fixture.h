@@ -43,6 +43,8 @@ class MasterTest : public ::testing::Test {
 
   ProgramFolder folder;
   TestServices machine;
+  /// What can be set; to be chosen before the window is opened.
+  const Fields* fields = &programFields();
   std::unique_ptr<Master> master;
 };
 
