@@ -10,6 +10,10 @@
 namespace tarnwick {
 namespace {
 
+constexpr const char* kLastChecked = "lastChecked";
+
+using FieldMember = decltype(SiteField::member);
+
 SiteDraft draftOfRow(const TextTable& sites, std::size_t row) {
   const auto flag = [&](std::size_t column) { return SqlValue(sites.at(column, row)).toBool(); };
   const auto text = [&](std::size_t column) { return textOrEmpty(sites.at(column, row)); };
@@ -26,6 +30,12 @@ bool isUnclear(const TextTable& sites, std::size_t row) {
       [&](std::size_t column) { return sites.at(column, row) == kNullText; });
 }
 
+// Those are no columns of the program's own table of sites.
+bool hasFurtherFields(const Fields& fields) {
+  return std::ranges::any_of(
+      fields.site, [](const SiteField& field) { return std::holds_alternative<std::monostate>(field.member); });
+}
+
 bool fits16Bits(std::int64_t id) {
   return id >= std::numeric_limits<std::int16_t>::min() && id <= std::numeric_limits<std::int16_t>::max();
 }
@@ -34,7 +44,7 @@ SiteFacts factsOfRow(m& data, const TextTable& sites, std::size_t row) {
   const auto number = [&](std::size_t column) { return SqlValue(sites.at(column, row)).toInt64(); };
   SiteFacts facts;
   facts.idSite = number(site_column::idSite);
-  facts.site = isUnclear(sites, row) && fits16Bits(facts.idSite)
+  facts.site = (isUnclear(sites, row) || hasFurtherFields(data.fields())) && fits16Bits(facts.idSite)
                    ? readSite(data, static_cast<std::int16_t>(facts.idSite))
                    : draftOfRow(sites, row);
   facts.lastChecked = textOrEmpty(sites.at(site_column::lastChecked, row));
@@ -80,25 +90,48 @@ StateText stateOf(const SiteFacts& facts) {
   return state;
 }
 
-JsonValue siteJson(const SiteFacts& facts, bool showPassword) {
-  const SiteDraft& site = facts.site;
-  JsonValue json{{"idSite", facts.idSite},
-                 {"url", jsonText(site.url)},
-                 {"method", jsonText(site.method)},
-                 {"active", site.active},
-                 {"tInterval", numberJson(site.tInterval)},
-                 {"lastChecked", facts.lastChecked.empty() ? JsonValue() : jsonText(facts.lastChecked)},
-                 {"alertEmail", site.alertEmail},
-                 {"email", jsonText(site.email)},
-                 {"sUserName", jsonText(site.sUserName)},
-                 {"hasPassword", !site.sPassWord.empty()}};
-  if (showPassword) {
-    json["sPassWord"] = jsonText(site.sPassWord);
+JsonValue siteJson(const Fields& fields, const SiteFacts& facts, bool showPassword) {
+  JsonValue json{{"idSite", facts.idSite}};
+  for (const SiteField& field : fields.site) {
+    const FieldValue value = valueOf(field, facts.site);
+    const auto* const text = std::get_if<std::string>(&value);
+    if (text == nullptr) {
+      json[field.name] = std::get<bool>(value);
+    } else if (field.kind != FieldKind::secret) {
+      json[field.name] = field.kind == FieldKind::minutes ? numberJson(*text) : jsonText(*text);
+    } else {
+      if (field.member == FieldMember(&SiteDraft::sPassWord)) {
+        json["hasPassword"] = !text->empty();
+      }
+      if (showPassword) {
+        json[field.name] = jsonText(*text);
+      }
+    }
+    if (field.kind == FieldKind::minutes && json.find(kLastChecked) == nullptr) {
+      json[kLastChecked] = facts.lastChecked.empty() ? JsonValue() : jsonText(facts.lastChecked);
+    }
   }
   json["status"] = facts.status ? JsonValue(*facts.status) : JsonValue();
   json["success"] = facts.success;
   json["failure"] = facts.failure;
   return json;
+}
+
+JsonValue optionsJson(const OptionValues& options) {
+  JsonValue json = JsonValue::object();
+  for (const auto& [name, value] : options) {
+    json[name] = jsonText(value);
+  }
+  return json;
+}
+
+OptionValues knownOptions(m& data, std::int16_t idSite) {
+  OptionValues values = data.options(idSite);
+  std::erase_if(values, [&](const auto& value) {
+    return std::ranges::none_of(data.optionFields(),
+                                [&](const OptionField& option) { return option.name == value.first; });
+  });
+  return values;
 }
 
 JsonValue postVarsJson(const std::vector<PostVar>& vars) {

@@ -34,7 +34,12 @@ struct StateText {
 StateText stateOf(const SiteFacts& facts);
 
 /// A site as JSON, its members named as the database's columns; the password only when it is to be shown.
-JsonValue siteJson(const SiteFacts& facts, bool showPassword = false);
+JsonValue siteJson(const Fields& fields, const SiteFacts& facts, bool showPassword = false);
+
+/// Options as JSON, an object of texts.
+JsonValue optionsJson(const OptionValues& options);
+/// What is set of the options that there are, for a site or for all.
+OptionValues knownOptions(m& data, std::int16_t idSite);
 
 /// POST variables as JSON, in their order.
 JsonValue postVarsJson(const std::vector<PostVar>& vars);

@@ -21,11 +21,11 @@ class Merge {
   Merge(const ListFields& given, ListFields& changed) : given_(given), changed_(changed) {}
 
   template <typename Value>
-  void take(ListField field, Value& listed, Value stored) {
-    if (!given_.has(field)) {
+  void take(std::string_view name, Value& listed, Value stored) {
+    if (!given_.has(name)) {
       listed = std::move(stored);
     } else if (listed != stored) {
-      changed_.set(field);
+      changed_.set(name);
     }
   }
 
@@ -53,6 +53,10 @@ class Planner {
       check(site);
       return;
     }
+    if (site.idSite == kAllSites) {
+      planOptionsOfAll(std::move(site));
+      return;
+    }
     const auto stored = site.idSite ? stored_.find(*site.idSite) : stored_.end();
     if (stored == stored_.end()) {
       planNew(std::move(site));
@@ -70,8 +74,14 @@ class Planner {
   }
 
  private:
+  void planOptionsOfAll(ListedSite all) {
+    if (all.options != knownOptions(data_, kAllSites)) {
+      plan_.optionsOfAll = std::move(all.options);
+    }
+  }
+
   void planNew(ListedSite site) {
-    if (!site.given.has(ListField::method) && !site.postVars.empty()) {
+    if (!site.given.has(list_name::method) && !site.postVars.empty()) {
       site.site.method = "post";
     }
     check(site);
@@ -83,17 +93,17 @@ class Planner {
   void planChange(ListedSite site, const SiteDraft& stored) {
     ImportStep step{Action::change, *site.idSite, {}, {}};
     Merge merge(site.given, step.fields);
-    merge.take(ListField::url, site.site.url, stored.url);
-    merge.take(ListField::method, site.site.method, stored.method);
-    merge.take(ListField::active, site.site.active, stored.active);
-    merge.take(ListField::tInterval, site.site.tInterval, stored.tInterval);
-    merge.take(ListField::alertEmail, site.site.alertEmail, stored.alertEmail);
-    merge.take(ListField::email, site.site.email, stored.email);
-    merge.take(ListField::sUserName, site.site.sUserName, stored.sUserName);
-    merge.take(ListField::sPassWord, site.site.sPassWord, stored.sPassWord);
-    merge.take(ListField::postVars, site.postVars, readPostVars(data_, step.idSite));
-    if (site.given.has(ListField::baseline)) {
-      merge.take(ListField::baseline, site.baseline, data_.getContentCompare(step.idSite));
+    for (const SiteField& field : data_.fields().site) {
+      FieldValue value = valueOf(field, site.site);
+      merge.take(field.name, value, valueOf(field, stored));
+      setValue(field, site.site, value);
+    }
+    merge.take(list_name::postVars, site.postVars, readPostVars(data_, step.idSite));
+    if (site.given.has(list_name::baseline)) {
+      merge.take(list_name::baseline, site.baseline, data_.getContentCompare(step.idSite));
+    }
+    if (site.given.has(list_name::options)) {
+      merge.take(list_name::options, site.options, knownOptions(data_, step.idSite));
     }
     check(site);
     if (step.fields.none()) {
@@ -106,6 +116,11 @@ class Planner {
 
   void check(const ListedSite& site) {
     ListValues values(site.line, faults_);
+    for (const auto& [name, value] : site.options) {
+      if (!data_.optionField(name).ofSite) {
+        values.fault("the option " + name + " holds for all sites, and none has a value of its own: set it for all");
+      }
+    }
     if (site.site.url.empty() && !site.idSite) {
       values.fault("the url is empty: give the site's address");
     }
@@ -161,7 +176,10 @@ class Planner {
 
 void storeListed(m& data, const ImportStep& step) {
   storeSite(data, step.idSite, step.listed.site, step.listed.postVars);
-  if (!step.fields.has(ListField::baseline)) {
+  if (step.fields.has(list_name::options)) {
+    data.storeOptions(step.idSite, step.listed.options);
+  }
+  if (!step.fields.has(list_name::baseline)) {
     return;
   }
   if (step.listed.baseline.empty()) {
@@ -186,6 +204,9 @@ ImportPlan planImport(m& data, std::vector<ListedSite> sites, const ImportOption
 }
 
 void carryOut(m& data, const ImportPlan& plan) {
+  if (plan.optionsOfAll) {
+    data.storeOptions(kAllSites, *plan.optionsOfAll);
+  }
   for (const ImportStep& step : plan.steps) {
     if (step.action == Action::remove) {
       data.deleteSite(step.idSite);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,8 @@ struct ImportPlan {
   /// The sites of the file in its order, without those that stay as they are, and then those that are deleted.
   std::vector<ImportStep> steps;
   std::size_t unchanged = 0;
+  /// What is to be set for all sites in place of what is; nothing when that stays.
+  std::optional<OptionValues> optionsOfAll;
 
   std::size_t count(ImportStep::Action action) const;
 };

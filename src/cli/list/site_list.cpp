@@ -25,18 +25,27 @@ std::string summaryOf(const ListFaults& faults) {
 
 }  // namespace
 
-std::optional<ListField> listFieldOf(std::string_view name) {
-  const auto* const found =
-      std::ranges::find_if(kListFieldNames, [&](std::string_view known) { return equalsIgnoringCase(known, name); });
-  return found == kListFieldNames.end()
-             ? std::nullopt
-             : std::optional(static_cast<ListField>(std::distance(kListFieldNames.begin(), found)));
+ListForm::ListForm(const Fields& fields) : fields_(fields) {
+  using enum ListField::Role;
+  all_.push_back({std::string(list_name::idSite), idSite});
+  for (const SiteField& field : fields.site) {
+    all_.push_back({field.name, siteField, &field});
+  }
+  all_.push_back({std::string(list_name::postVars), postVars});
+  all_.push_back({std::string(list_name::baseline), baseline});
+  all_.push_back({std::string(list_name::options), options});
 }
 
-std::string listFieldNames() {
+const ListField* ListForm::find(std::string_view name) const {
+  const auto found =
+      std::ranges::find_if(all_, [&](const ListField& known) { return equalsIgnoringCase(known.name, name); });
+  return found == all_.end() ? nullptr : &*found;
+}
+
+std::string ListForm::names() const {
   std::string names;
-  for (const std::string_view name : kListFieldNames) {
-    names += (names.empty() ? "" : ", ") + std::string(name);
+  for (const ListField& field : all_) {
+    names += (names.empty() ? "" : ", ") + field.name;
   }
   return names;
 }
@@ -56,8 +65,9 @@ std::vector<ListFaults::Fault> ListFaults::kept() const {
 
 SiteListError::SiteListError(const ListFaults& faults) : std::runtime_error(summaryOf(faults)), faults_(faults) {}
 
-std::optional<std::int16_t> ListValues::number(std::string_view text, ListField field, const std::string& remedy) {
-  const std::string name(nameOf(field));
+std::optional<std::int16_t> ListValues::number(std::string_view text, std::string_view field,
+                                               const std::string& remedy) {
+  const std::string name(field);
   const std::string_view digits = withoutBlanks(text);
   const std::string_view unsignedPart = digits.starts_with('-') ? digits.substr(1) : digits;
   if (unsignedPart.empty() || unsignedPart.find_first_not_of("0123456789") != std::string_view::npos) {
@@ -74,15 +84,15 @@ std::optional<std::int16_t> ListValues::number(std::string_view text, ListField 
 }
 
 std::optional<std::int16_t> ListValues::id(std::string_view text) {
-  return number(text, ListField::idSite, "give the site's id, or leave it out to add the site as a new one");
+  return number(text, list_name::idSite, "give the site's id, or leave it out to add the site as a new one");
 }
 
-std::optional<std::string> ListValues::interval(std::string_view text) {
-  const auto minutes = number(text, ListField::tInterval, "give the whole minutes between two checks");
+std::optional<std::string> ListValues::interval(const std::string& name, std::string_view text) {
+  const auto minutes = number(text, name, "give the whole minutes between two checks");
   return minutes ? std::optional(std::to_string(*minutes)) : std::nullopt;
 }
 
-std::optional<bool> ListValues::yesNo(ListField field, std::string_view text) {
+std::optional<bool> ListValues::yesNo(const std::string& name, std::string_view text) {
   const std::string_view word = withoutBlanks(text);
   if (isOneOf(word, {"true", "yes", "on", "1"})) {
     return true;
@@ -90,16 +100,43 @@ std::optional<bool> ListValues::yesNo(ListField field, std::string_view text) {
   if (isOneOf(word, {"false", "no", "off", "0"})) {
     return false;
   }
-  fault(std::string(nameOf(field)) + " " + quotedForMessage(text) + " is neither yes nor no: give True or False");
+  fault(name + " " + quotedForMessage(text) + " is neither yes nor no: give True or False");
   return std::nullopt;
 }
 
-std::optional<std::string> ListValues::method(std::string_view text) {
+std::optional<std::string> ListValues::method(const std::string& name, std::string_view text) {
   if (isOneOf(text, {"get", "post"})) {
     return std::string(text);
   }
-  fault("method " + quotedForMessage(text) + " is none that is sent: give get or post");
+  fault(name + " " + quotedForMessage(text) + " is none that is sent: give get or post");
   return std::nullopt;
+}
+
+std::optional<FieldValue> ListValues::value(const SiteField& field, std::string text) {
+  switch (field.kind) {
+    case FieldKind::flag:
+      return yesNo(field.name, text);
+    case FieldKind::method:
+      return method(field.name, text);
+    case FieldKind::minutes:
+      return interval(field.name, text);
+    default:
+      return text;
+  }
+}
+
+void ListValues::option(const Fields& fields, OptionValues& options, std::string_view name, std::string_view text) {
+  const auto option = std::ranges::find_if(
+      fields.options, [&](const OptionField& known) { return equalsIgnoringCase(known.name, name); });
+  if (option == fields.options.end()) {
+    fault("there is no option " + quotedForMessage(name) + ": they are listed by tarnwickctl option --help");
+    return;
+  }
+  try {
+    options[option->name] = option->checked(text);
+  } catch (const std::runtime_error&) {
+    fault("the option " + option->name + " does not take " + quotedForMessage(text) + ": give " + option->values());
+  }
 }
 
 std::optional<std::string> ListValues::baseline(std::string bytes) {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <array>
-#include <bitset>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -13,49 +13,63 @@
 #include <vector>
 
 #include "platform/file_system.h"
-#include "program/site_draft.h"
+#include "store/fields.h"
+#include "store/site_options.h"
 
 namespace tarnwick {
 
-/// What a file of the list of sites tells of a site: columns of CSV, members of a JSON object. What checks have found
+/// What a file of the list of sites tells of a site: a column of CSV, a member of a JSON object. What checks have found
 /// is no part of it.
-enum class ListField : std::size_t {
-  idSite,
-  url,
-  method,
-  active,
-  tInterval,
-  alertEmail,
-  email,
-  sUserName,
-  sPassWord,
-  postVars,
-  baseline
+struct ListField {
+  enum class Role { idSite, siteField, postVars, baseline, options };
+
+  std::string name;
+  Role role = Role::siteField;
+  /// The field of a site, of that role.
+  const SiteField* field = nullptr;
 };
-inline constexpr std::size_t kListFieldCount = 11;
-/// Their names, in the order in which they are written.
-inline constexpr std::array<std::string_view, kListFieldCount> kListFieldNames{
-    "idSite", "url",       "method",    "active",   "tInterval", "alertEmail",
-    "email",  "sUserName", "sPassWord", "postVars", "baseline"};
 
-inline constexpr std::string_view nameOf(ListField field) { return kListFieldNames[static_cast<std::size_t>(field)]; }
-/// The field of that name, in any letter case; nothing when there is none.
-std::optional<ListField> listFieldOf(std::string_view name);
-/// All names, for a message.
-std::string listFieldNames();
-
-/// Fields of a site.
-class ListFields {
+/// What such files are made of: the fields of a site, and what stands around them.
+class ListForm {
  public:
-  bool has(ListField field) const { return bits_[static_cast<std::size_t>(field)]; }
-  void set(ListField field, bool value = true) { bits_[static_cast<std::size_t>(field)] = value; }
-  bool none() const { return bits_.none(); }
+  /// `fields` outlives this object.
+  explicit ListForm(const Fields& fields);
+
+  /// In the order in which they are written.
+  const std::vector<ListField>& all() const { return all_; }
+  /// The one of that name, in any letter case; nothing when there is none.
+  const ListField* find(std::string_view name) const;
+  /// All names, for a message.
+  std::string names() const;
+  const Fields& fields() const { return fields_; }
 
  private:
-  std::bitset<kListFieldCount> bits_;
+  const Fields& fields_;
+  std::vector<ListField> all_;
 };
 
-/// A site of the file.
+/// Names of those that stand beside the fields of a site.
+namespace list_name {
+inline constexpr std::string_view idSite = "idSite";
+inline constexpr std::string_view url = "url";
+inline constexpr std::string_view method = "method";
+inline constexpr std::string_view postVars = "postVars";
+inline constexpr std::string_view baseline = "baseline";
+inline constexpr std::string_view options = "options";
+}  // namespace list_name
+
+/// Fields of a file, by their names.
+class ListFields {
+ public:
+  bool has(std::string_view name) const { return names_.contains(name); }
+  void set(std::string_view name) { names_.emplace(name); }
+  bool none() const { return names_.empty(); }
+
+ private:
+  std::set<std::string, std::less<>> names_;
+};
+
+/// A site of the file; with the id 0 what is set for all of them, which is options alone.
 struct ListedSite {
   /// Where it begins in the file, from 1.
   std::size_t line = 0;
@@ -64,6 +78,7 @@ struct ListedSite {
   SiteDraft site{"", "get", true, "10", false, "", "", ""};
   std::vector<PostVar> postVars;
   std::string baseline;
+  OptionValues options;
   /// What the file tells of the site.
   ListFields given;
 };
@@ -108,16 +123,20 @@ class ListValues {
   /// From 1 to 32767.
   std::optional<std::int16_t> id(std::string_view text);
   /// From 1 to 32767 minutes, as it is stored.
-  std::optional<std::string> interval(std::string_view text);
-  std::optional<bool> yesNo(ListField field, std::string_view text);
+  std::optional<std::string> interval(const std::string& name, std::string_view text);
+  std::optional<bool> yesNo(const std::string& name, std::string_view text);
   /// "get" or "post" in any letter case, as it is written.
-  std::optional<std::string> method(std::string_view text);
+  std::optional<std::string> method(const std::string& name, std::string_view text);
+  /// What a field of a site holds, by its kind.
+  std::optional<FieldValue> value(const SiteField& field, std::string text);
+  /// Takes an option into `options`.
+  void option(const Fields& fields, OptionValues& options, std::string_view name, std::string_view text);
   std::optional<std::string> baseline(std::string bytes);
 
   void fault(std::string text) { faults_.add(line_, std::move(text)); }
 
  private:
-  std::optional<std::int16_t> number(std::string_view text, ListField field, const std::string& remedy);
+  std::optional<std::int16_t> number(std::string_view text, std::string_view name, const std::string& remedy);
 
   std::size_t line_;
   ListFaults& faults_;
@@ -132,8 +151,13 @@ std::string_view withoutBlanks(std::string_view text);
 struct ListColumns {
   bool passwords = true;
   bool baselines = false;
-  bool has(ListField field) const {
-    return (field != ListField::sPassWord || passwords) && (field != ListField::baseline || baselines);
+  /// Options are written when any is set: without one a file is as it always was.
+  bool options = false;
+
+  bool has(const ListField& field) const {
+    return (field.field == nullptr || field.field->kind != FieldKind::secret || passwords) &&
+           (field.role != ListField::Role::baseline || baselines) &&
+           (field.role != ListField::Role::options || options);
   }
 };
 
@@ -141,7 +165,8 @@ struct ListColumns {
 class SiteListWriter {
  public:
   virtual ~SiteListWriter() = default;
-  virtual void begin() = 0;
+  /// `ofAll` is set for all sites.
+  virtual void begin(const OptionValues& ofAll = {}) = 0;
   virtual void add(const ListedSite& site) = 0;
   virtual void end() = 0;
 };

@@ -15,19 +15,19 @@ namespace {
 constexpr std::string_view kUtf8Mark = "\xef\xbb\xbf";
 constexpr std::string_view kUtf16Marks[] = {"\xff\xfe", "\xfe\xff"};
 
-using Columns = std::vector<ListField>;
+using Columns = std::vector<const ListField*>;
 
 /// The columns that the first line names; nothing when it cannot be used.
 class CsvHeader {
  public:
-  explicit CsvHeader(ListFaults& faults) : faults_(faults) {}
+  CsvHeader(const ListForm& form, ListFaults& faults) : form_(form), faults_(faults) {}
 
   Columns read(const CsvRecord& record) {
     const std::size_t before = faults_.count();
     for (const CsvRecord::Field& field : record.fields) {
       readName(record.line, field.text);
     }
-    if (faults_.count() == before && !seen_.has(ListField::url)) {
+    if (faults_.count() == before && !seen_.has(list_name::url)) {
       faults_.add(record.line, "the column url is missing: the first line names the columns, of which url must be one");
     }
     return faults_.count() == before ? std::move(columns_) : Columns();
@@ -36,22 +36,23 @@ class CsvHeader {
  private:
   void readName(std::size_t line, std::string_view text) {
     const std::string_view name = withoutBlanks(text);
-    const auto field = listFieldOf(name);
-    if (!field && text.find_first_of(";\t") != std::string_view::npos) {
+    const ListField* const field = form_.find(name);
+    if (field == nullptr && text.find_first_of(";\t") != std::string_view::npos) {
       faults_.add(line, std::string("the fields are separated by ") +
                             (text.find(';') != std::string_view::npos ? "semicolons" : "tabs") +
                             ": save the file with commas between the fields");
-    } else if (!field) {
+    } else if (field == nullptr) {
       faults_.add(line, "there is no column " + quotedForMessage(name) +
-                            ": the first line names the columns, which are " + listFieldNames());
-    } else if (seen_.has(*field)) {
-      faults_.add(line, "the column " + std::string(nameOf(*field)) + " is named twice: leave one of them out");
+                            ": the first line names the columns, which are " + form_.names());
+    } else if (seen_.has(field->name)) {
+      faults_.add(line, "the column " + field->name + " is named twice: leave one of them out");
     } else {
-      seen_.set(*field);
-      columns_.push_back(*field);
+      seen_.set(field->name);
+      columns_.push_back(field);
     }
   }
 
+  const ListForm& form_;
   ListFaults& faults_;
   ListFields seen_;
   Columns columns_;
@@ -60,66 +61,84 @@ class CsvHeader {
 /// Reads the fields of one record into a site.
 class CsvSite {
  public:
-  CsvSite(ListedSite& site, ListFaults& faults) : site_(site), values_(site.line, faults) {}
+  CsvSite(ListedSite& site, const Fields& fields, ListFaults& faults)
+      : site_(site), fields_(fields), values_(site.line, faults) {}
 
-  void read(ListField field, std::string& text) {
-    switch (field) {
-      case ListField::url:
-        keep(field, site_.site.url, std::move(text));
-        break;
-      case ListField::email:
-        keep(field, site_.site.email, std::move(text));
-        break;
-      case ListField::sUserName:
-        keep(field, site_.site.sUserName, std::move(text));
-        break;
-      case ListField::sPassWord:
-        keep(field, site_.site.sPassWord, std::move(text));
-        break;
-      case ListField::postVars:
-        readPostVars(text);
-        break;
-      case ListField::baseline:
-        readBaseline(text);
-        break;
-      default:
-        if (!withoutBlanks(text).empty()) {
-          readValue(field, text);
-        }
+  void read(const ListField& field, std::string& text) {
+    switch (field.role) {
+      case ListField::Role::idSite:
+        return readId(text);
+      case ListField::Role::postVars:
+        return readPostVars(text);
+      case ListField::Role::baseline:
+        return readBaseline(text);
+      case ListField::Role::options:
+        return readOptions(text);
+      case ListField::Role::siteField:
+        return readValue(*field.field, text);
+    }
+  }
+
+  /// The row of the site 0 tells what is set for all.
+  void finish() {
+    if (isForAll_) {
+      if (!site_.given.has(list_name::options)) {
+        values_.id("0");  // which tells that no site has it
+        return;
+      }
+      site_.idSite = kAllSites;
+      if (hasMore_) {
+        values_.fault(
+            "idSite 0 stands for all sites, which have options and nothing else: leave the other fields "
+            "empty, or give a site's id");
+      }
     }
   }
 
  private:
-  template <typename Place, typename Value>
-  void keep(ListField field, Place& place, Value&& value) {
-    place = std::forward<Value>(value);
-    site_.given.set(field);
-  }
-  template <typename Place, typename Value>
-  void keepRead(ListField field, Place& place, std::optional<Value> value) {
-    if (value) {
-      keep(field, place, std::move(*value));
+  void readId(std::string_view text) {
+    isForAll_ = withoutBlanks(text) == "0";
+    if (!isForAll_ && !withoutBlanks(text).empty()) {
+      keepRead(list_name::idSite, site_.idSite, values_.id(text));
     }
   }
 
-  void readValue(ListField field, const std::string& text) {
-    switch (field) {
-      case ListField::idSite:
-        return keepRead(field, site_.idSite, values_.id(text));
-      case ListField::method:
-        return keepRead(field, site_.site.method, values_.method(text));
-      case ListField::active:
-        return keepRead(field, site_.site.active, values_.yesNo(field, text));
-      case ListField::tInterval:
-        return keepRead(field, site_.site.tInterval, values_.interval(text));
-      default:
-        return keepRead(field, site_.site.alertEmail, values_.yesNo(field, text));
+  template <typename Place, typename Value>
+  void keepRead(std::string_view name, Place& place, std::optional<Value> value) {
+    if (value) {
+      place = std::move(*value);
+      site_.given.set(name);
+    }
+  }
+
+  void readValue(const SiteField& field, std::string& text) {
+    const bool isText = field.kind != FieldKind::flag && field.kind != FieldKind::method &&
+                        field.kind != FieldKind::minutes && field.kind != FieldKind::seconds;
+    hasMore_ = hasMore_ || !text.empty();
+    if (!isText && withoutBlanks(text).empty()) {
+      return;
+    }
+    if (const auto value = values_.value(field, std::move(text))) {
+      setValue(field, site_.site, *value);
+      site_.given.set(field.name);
+    }
+  }
+
+  void readOptions(std::string_view text) {
+    site_.given.set(list_name::options);
+    try {
+      for (const PostVar& pair : decodePostVars(text)) {
+        values_.option(fields_, site_.options, pair.name, pair.value);
+      }
+    } catch (const std::invalid_argument& error) {
+      values_.fault(std::string("options: ") + error.what());
     }
   }
 
   void readPostVars(std::string_view text) {
     try {
-      keep(ListField::postVars, site_.postVars, decodePostVars(text));
+      keepRead(list_name::postVars, site_.postVars, std::optional(decodePostVars(text)));
+      hasMore_ = hasMore_ || !text.empty();
     } catch (const std::invalid_argument& error) {
       values_.fault(std::string("postVars: ") + error.what());
     }
@@ -127,19 +146,25 @@ class CsvSite {
 
   void readBaseline(std::string_view text) {
     try {
-      keepRead(ListField::baseline, site_.baseline, values_.baseline(decodeBase64(text)));
+      hasMore_ = hasMore_ || !text.empty();
+      keepRead(list_name::baseline, site_.baseline, values_.baseline(decodeBase64(text)));
     } catch (const DecodeError&) {
       values_.fault("the baseline is no base64 text: export it anew, or leave its column out");
     }
   }
 
   ListedSite& site_;
+  const Fields& fields_;
   ListValues values_;
+  bool isForAll_ = false;
+  /// Something else than an id and options.
+  bool hasMore_ = false;
 };
 
 }  // namespace
 
-std::vector<ListedSite> readSiteListCsv(std::string_view text, ListFaults& faults) {
+std::vector<ListedSite> readSiteListCsv(std::string_view text, ListFaults& faults, const Fields& fields) {
+  const ListForm form(fields);
   std::vector<ListedSite> sites;
   if (std::ranges::any_of(kUtf16Marks, [&](std::string_view mark) { return text.starts_with(mark); })) {
     faults.add(1, "the file is UTF-16: save it as UTF-8");
@@ -148,10 +173,10 @@ std::vector<ListedSite> readSiteListCsv(std::string_view text, ListFaults& fault
   CsvRecords records(text.starts_with(kUtf8Mark) ? text.substr(kUtf8Mark.size()) : text, faults);
   CsvRecord record;
   if (!records.next(record)) {
-    faults.add(1, "the file is empty: its first line names the columns, which are " + listFieldNames());
+    faults.add(1, "the file is empty: its first line names the columns, which are " + form.names());
     return sites;
   }
-  const Columns columns = record.damaged ? Columns() : CsvHeader(faults).read(record);
+  const Columns columns = record.damaged ? Columns() : CsvHeader(form, faults).read(record);
   while (!columns.empty() && records.next(record)) {
     if (record.damaged || record.isEmptyRow()) {
       continue;
@@ -165,10 +190,11 @@ std::vector<ListedSite> readSiteListCsv(std::string_view text, ListFaults& fault
     const std::size_t before = faults.count();
     ListedSite site;
     site.line = record.line;
-    CsvSite reader(site, faults);
+    CsvSite reader(site, fields, faults);
     for (std::size_t i = 0; i < columns.size(); ++i) {
-      reader.read(columns[i], record.fields[i].text);
+      reader.read(*columns[i], record.fields[i].text);
     }
+    reader.finish();
     if (faults.count() == before) {
       sites.push_back(std::move(site));
     }

@@ -9,29 +9,28 @@ namespace {
 
 class CsvWriter final : public SiteListWriter {
  public:
-  CsvWriter(ListColumns columns, ByteSink sink) : columns_(columns), sink_(std::move(sink)) {}
+  CsvWriter(ListColumns columns, ByteSink sink, const Fields& fields)
+      : columns_(columns), sink_(std::move(sink)), form_(fields) {}
 
-  void begin() override {
-    for (const std::string_view name : kListFieldNames) {
-      addField(*listFieldOf(name), std::string(name));
+  void begin(const OptionValues& ofAll) override {
+    for (const ListField& field : form_.all()) {
+      addField(field, field.name);
     }
     endLine();
+    if (columns_.options) {
+      for (const ListField& field : form_.all()) {
+        const bool isOptions = field.role == ListField::Role::options;
+        addField(field, field.role == ListField::Role::idSite ? "0" : isOptions ? encodePostVars(pairsOf(ofAll)) : "");
+      }
+      endLine();
+    }
   }
 
   void add(const ListedSite& site) override {
-    const auto yesNo = [](bool flag) { return flag ? "True" : "False"; };
-    addField(ListField::idSite, site.idSite ? std::to_string(*site.idSite) : "");
-    addField(ListField::url, site.site.url);
-    addField(ListField::method, site.site.method);
-    addField(ListField::active, yesNo(site.site.active));
-    addField(ListField::tInterval, site.site.tInterval);
-    addField(ListField::alertEmail, yesNo(site.site.alertEmail));
-    addField(ListField::email, site.site.email);
-    addField(ListField::sUserName, site.site.sUserName);
-    addField(ListField::sPassWord, site.site.sPassWord);
-    addField(ListField::postVars, encodePostVars(site.postVars));
-    if (columns_.has(ListField::baseline)) {
-      addField(ListField::baseline, encodeBase64(site.baseline));
+    for (const ListField& field : form_.all()) {
+      if (columns_.has(field)) {
+        addField(field, textOf(field, site));
+      }
     }
     endLine();
   }
@@ -39,11 +38,37 @@ class CsvWriter final : public SiteListWriter {
   void end() override {}
 
  private:
-  void addField(ListField field, std::string_view text) {
+  static std::vector<PostVar> pairsOf(const OptionValues& options) {
+    std::vector<PostVar> pairs;
+    for (const auto& [name, value] : options) {
+      pairs.push_back({name, value});
+    }
+    return pairs;
+  }
+
+  static std::string textOf(const ListField& field, const ListedSite& site) {
+    switch (field.role) {
+      case ListField::Role::idSite:
+        return site.idSite ? std::to_string(*site.idSite) : "";
+      case ListField::Role::postVars:
+        return encodePostVars(site.postVars);
+      case ListField::Role::baseline:
+        return encodeBase64(site.baseline);
+      case ListField::Role::options:
+        return encodePostVars(pairsOf(site.options));
+      case ListField::Role::siteField:
+        break;
+    }
+    const FieldValue value = valueOf(*field.field, site.site);
+    const bool* const flag = std::get_if<bool>(&value);
+    return flag == nullptr ? std::get<std::string>(value) : *flag ? "True" : "False";
+  }
+
+  void addField(const ListField& field, std::string_view text) {
     if (!columns_.has(field)) {
       return;
     }
-    if (field != ListField::idSite) {
+    if (field.role != ListField::Role::idSite) {
       line_ += ',';
     }
     if (!needsQuotes(text)) {
@@ -71,13 +96,14 @@ class CsvWriter final : public SiteListWriter {
 
   ListColumns columns_;
   ByteSink sink_;
+  ListForm form_;
   std::string line_;
 };
 
 }  // namespace
 
-std::unique_ptr<SiteListWriter> makeCsvWriter(ListColumns columns, ByteSink sink) {
-  return std::make_unique<CsvWriter>(columns, std::move(sink));
+std::unique_ptr<SiteListWriter> makeCsvWriter(ListColumns columns, ByteSink sink, const Fields& fields) {
+  return std::make_unique<CsvWriter>(columns, std::move(sink), fields);
 }
 
 }  // namespace tarnwick

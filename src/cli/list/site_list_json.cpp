@@ -80,8 +80,8 @@ class ValueBuilder {
 /// Takes the sites out of the file, one after the other.
 class ListHandler final : public nlohmann::json_sax<Json> {
  public:
-  ListHandler(std::string_view text, const std::size_t& line, ListFaults& faults)
-      : text_(text), line_(line), faults_(faults) {}
+  ListHandler(std::string_view text, const ListForm& form, const std::size_t& line, ListFaults& faults)
+      : text_(text), form_(form), line_(line), faults_(faults) {}
 
   std::vector<ListedSite> sites() && { return std::move(sites_); }
 
@@ -114,9 +114,15 @@ class ListHandler final : public nlohmann::json_sax<Json> {
         siteFaults_ = faults_.count();
         break;
       case Place::site:
+      case Place::options:
         break;
-      default:
-        return misplaced();
+      case Place::list:
+        if (key_ != list_name::options) {
+          return misplaced();
+        }
+        place_ = Place::options;
+        siteLine_ = line_;
+        break;
     }
     return begin(JsonValue::object());
   }
@@ -126,7 +132,7 @@ class ListHandler final : public nlohmann::json_sax<Json> {
       place_ = Place::sites;
       return true;
     }
-    return place_ == Place::site ? begin(JsonValue::array()) : misplaced();
+    return inValue() ? begin(JsonValue::array()) : misplaced();
   }
 
   bool key(std::string& name) override {
@@ -146,8 +152,11 @@ class ListHandler final : public nlohmann::json_sax<Json> {
     }
     builder_.end();
     if (!builder_.isOpen()) {
-      place_ = Place::sites;
-      takeSite();
+      if (std::exchange(place_, place_ == Place::options ? Place::list : Place::sites) == Place::options) {
+        takeOptions();
+      } else {
+        takeSite();
+      }
     }
     return true;
   }
@@ -170,13 +179,13 @@ class ListHandler final : public nlohmann::json_sax<Json> {
   }
 
  private:
-  enum class Place { outside, list, sites, site };
+  enum class Place { outside, list, sites, site, options };
 
   bool listKey(const std::string& name) {
-    bool& seen = name == kSitesName ? hasSites_ : hasVersion_;
-    if (name != kSitesName && name != kVersionName) {
+    bool& seen = name == kSitesName ? hasSites_ : name == list_name::options ? hasOptions_ : hasVersion_;
+    if (name != kSitesName && name != kVersionName && name != list_name::options) {
       faults_.add(line_, "there is no member " + quotedForMessage(name) +
-                             R"( beside the sites: the members are "tarnwick" and "sites")");
+                             R"( beside the sites: the members are "tarnwick", "options" and "sites")");
       return false;
     }
     if (std::exchange(seen, true)) {
@@ -189,7 +198,7 @@ class ListHandler final : public nlohmann::json_sax<Json> {
 
   template <typename Value>
   bool value(Value value) {
-    if (place_ == Place::site) {
+    if (inValue()) {
       builder_.put(JsonValue(std::move(value)));
       return true;
     }
@@ -222,9 +231,22 @@ class ListHandler final : public nlohmann::json_sax<Json> {
     return false;
   }
 
+  bool inValue() const { return place_ == Place::site || place_ == Place::options; }
+
+  // They stand in the list as what is set for the site 0.
+  void takeOptions() {
+    ListedSite all;
+    all.line = siteLine_;
+    all.idSite = kAllSites;
+    all.given.set(list_name::options);
+    ListValues values(siteLine_, faults_);
+    readOptionsOfJson(builder_.root(), form_.fields(), all.options, values);
+    sites_.push_back(std::move(all));
+  }
+
   void takeSite() {
     if (faults_.count() == siteFaults_) {
-      if (auto site = siteOfJson(builder_.root(), siteLine_, faults_)) {
+      if (auto site = siteOfJson(builder_.root(), form_, siteLine_, faults_)) {
         sites_.push_back(std::move(*site));
       }
     }
@@ -241,12 +263,14 @@ class ListHandler final : public nlohmann::json_sax<Json> {
   }
 
   std::string_view text_;
+  const ListForm& form_;
   const std::size_t& line_;
   ListFaults& faults_;
   Place place_ = Place::outside;
   std::string key_;
   bool hasVersion_ = false;
   bool hasSites_ = false;
+  bool hasOptions_ = false;
   ValueBuilder builder_;
   std::size_t siteLine_ = 0;
   std::size_t siteFaults_ = 0;
@@ -255,9 +279,10 @@ class ListHandler final : public nlohmann::json_sax<Json> {
 
 }  // namespace
 
-std::vector<ListedSite> readSiteListJson(std::string_view text, ListFaults& faults) {
+std::vector<ListedSite> readSiteListJson(std::string_view text, ListFaults& faults, const Fields& fields) {
+  const ListForm form(fields);
   std::size_t line = 1;
-  ListHandler handler(text, line, faults);
+  ListHandler handler(text, form, line, faults);
   const bool whole = Json::sax_parse(LineCounter(text.data(), line), LineCounter(text.data() + text.size(), line),
                                      &handler, Json::input_format_t::json);
   if (whole) {

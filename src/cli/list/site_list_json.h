@@ -12,9 +12,11 @@ namespace tarnwick {
 /// {"base64": ...} for bytes that are no UTF-8; POST variables are an array of {"pname": ..., "pvalue": ...}. A member
 /// that is left out or null is not told. What is wrong is added to `faults`, on the line where its site begins, and
 /// the sites concerned are left out. Raises nothing.
-std::vector<ListedSite> readSiteListJson(std::string_view text, ListFaults& faults);
+std::vector<ListedSite> readSiteListJson(std::string_view text, ListFaults& faults,
+                                         const Fields& fields = programFields());
 
 /// Writes it, a line for each site.
-std::unique_ptr<SiteListWriter> makeJsonWriter(ListColumns columns, ByteSink sink);
+std::unique_ptr<SiteListWriter> makeJsonWriter(ListColumns columns, ByteSink sink,
+                                               const Fields& fields = programFields());
 
 }  // namespace tarnwick

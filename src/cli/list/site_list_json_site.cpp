@@ -11,80 +11,77 @@ constexpr const char* kValue = "pvalue";
 
 class JsonSite {
  public:
-  JsonSite(ListedSite& site, ListFaults& faults) : site_(site), values_(site.line, faults) {}
+  JsonSite(ListedSite& site, const ListForm& form, ListFaults& faults)
+      : site_(site), form_(form), values_(site.line, faults) {}
 
   void read(const std::string& name, JsonValue& value) {
-    const auto field = listFieldOf(name);
-    if (!field) {
-      values_.fault("there is no member " + quotedForMessage(name) + ": the members are " + listFieldNames());
-    } else if (site_.given.has(*field)) {
-      values_.fault("the member " + std::string(nameOf(*field)) + " is given twice: leave one of them out");
+    const ListField* const field = form_.find(name);
+    if (field == nullptr) {
+      values_.fault("there is no member " + quotedForMessage(name) + ": the members are " + form_.names());
+    } else if (site_.given.has(field->name)) {
+      values_.fault("the member " + field->name + " is given twice: leave one of them out");
     } else if (!value.isNull()) {
       readField(*field, value);
     }
   }
 
  private:
-  void readField(ListField field, JsonValue& value) {
-    switch (field) {
-      case ListField::idSite:
+  void readField(const ListField& field, const JsonValue& value) {
+    switch (field.role) {
+      case ListField::Role::idSite:
         return keep(field, site_.idSite, isNumber(field, value) ? values_.id(jsonLine(value)) : std::nullopt);
-      case ListField::tInterval:
-        return keep(field, site_.site.tInterval,
-                    isNumber(field, value) ? values_.interval(jsonLine(value)) : std::nullopt);
-      case ListField::active:
-        return keep(field, site_.site.active, flag(field, value));
-      case ListField::alertEmail:
-        return keep(field, site_.site.alertEmail, flag(field, value));
-      case ListField::postVars:
+      case ListField::Role::postVars:
         return keep(field, site_.postVars, postVars(value));
-      default:
-        readText(field, value);
+      case ListField::Role::options:
+        readOptionsOfJson(value, form_.fields(), site_.options, values_);
+        return site_.given.set(field.name);
+      case ListField::Role::baseline:
+        if (auto bytes = text(field.name, value)) {
+          keep(field, site_.baseline, values_.baseline(std::move(*bytes)));
+        }
+        return;
+      case ListField::Role::siteField:
+        if (const auto read = valueOfField(field, value)) {
+          setValue(*field.field, site_.site, *read);
+          site_.given.set(field.name);
+        }
     }
   }
 
-  void readText(ListField field, const JsonValue& value) {
-    std::optional<std::string> bytes = text(nameOf(field), value);
-    if (!bytes) {
-      return;
-    }
-    switch (field) {
-      case ListField::url:
-        return keep(field, site_.site.url, std::move(bytes));
-      case ListField::method:
-        return keep(field, site_.site.method, values_.method(*bytes));
-      case ListField::email:
-        return keep(field, site_.site.email, std::move(bytes));
-      case ListField::sUserName:
-        return keep(field, site_.site.sUserName, std::move(bytes));
-      case ListField::sPassWord:
-        return keep(field, site_.site.sPassWord, std::move(bytes));
+  std::optional<FieldValue> valueOfField(const ListField& field, const JsonValue& value) {
+    switch (field.field->kind) {
+      case FieldKind::flag:
+        return flag(field, value);
+      case FieldKind::minutes:
+      case FieldKind::seconds:
+        return isNumber(field, value) ? values_.value(*field.field, jsonLine(value)) : std::nullopt;
       default:
-        return keep(field, site_.baseline, values_.baseline(std::move(*bytes)));
+        break;
     }
+    auto bytes = text(field.name, value);
+    return bytes ? values_.value(*field.field, std::move(*bytes)) : std::nullopt;
   }
 
   template <typename Place, typename Value>
-  void keep(ListField field, Place& place, std::optional<Value> value) {
+  void keep(const ListField& field, Place& place, std::optional<Value> value) {
     if (value) {
       place = std::move(*value);
-      site_.given.set(field);
+      site_.given.set(field.name);
     }
   }
 
-  bool isNumber(ListField field, const JsonValue& value) {
+  bool isNumber(const ListField& field, const JsonValue& value) {
     if (!value.isInteger()) {
-      values_.fault(std::string(nameOf(field)) + " " + shown(value) +
+      values_.fault(field.name + " " + shown(value) +
                     " is no whole number: give one without quotes, a point or an exponent");
     }
     return value.isInteger();
   }
 
-  std::optional<bool> flag(ListField field, const JsonValue& value) {
+  std::optional<FieldValue> flag(const ListField& field, const JsonValue& value) {
     const bool* const flag = value.as<bool>();
     if (flag == nullptr) {
-      values_.fault(std::string(nameOf(field)) + " " + shown(value) +
-                    " is neither yes nor no: give true or false, without quotes");
+      values_.fault(field.name + " " + shown(value) + " is neither yes nor no: give true or false, without quotes");
       return std::nullopt;
     }
     return *flag;
@@ -133,20 +130,33 @@ class JsonSite {
   }
 
   ListedSite& site_;
+  const ListForm& form_;
   ListValues values_;
 };
 
 }  // namespace
 
-std::optional<ListedSite> siteOfJson(JsonValue& object, std::size_t line, ListFaults& faults) {
+void readOptionsOfJson(const JsonValue& object, const Fields& fields, OptionValues& options, ListValues& values) {
+  const auto* const members = object.as<JsonValue::Object>();
+  if (members == nullptr) {
+    values.fault(R"(options is no object: give {"NAME": "VALUE", ...})");
+    return;
+  }
+  for (const auto& [name, value] : *members) {
+    const std::string* const text = value.asText();
+    values.option(fields, options, name, text != nullptr ? *text : jsonLine(value));
+  }
+}
+
+std::optional<ListedSite> siteOfJson(JsonValue& object, const ListForm& form, std::size_t line, ListFaults& faults) {
   const std::size_t before = faults.count();
   ListedSite site;
   site.line = line;
-  JsonSite reader(site, faults);
+  JsonSite reader(site, form, faults);
   for (auto& [name, value] : std::get<JsonValue::Object>(object.content())) {
     reader.read(name, value);
   }
-  if (faults.count() == before && !site.given.has(ListField::url)) {
+  if (faults.count() == before && !site.given.has(list_name::url)) {
     faults.add(line, "the member url is missing: give the site's address");
   }
   return faults.count() == before ? std::optional(std::move(site)) : std::nullopt;

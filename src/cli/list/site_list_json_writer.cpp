@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "cli/list/site_facts.h"
 #include "cli/list/site_list_json.h"
 #include "cli/terminal/json_text.h"
 
@@ -8,27 +9,20 @@ namespace {
 
 class JsonWriter final : public SiteListWriter {
  public:
-  JsonWriter(ListColumns columns, ByteSink sink) : columns_(columns), sink_(std::move(sink)) {}
+  JsonWriter(ListColumns columns, ByteSink sink, const Fields& fields)
+      : columns_(columns), sink_(std::move(sink)), form_(fields) {}
 
-  void begin() override { sink_(R"({"tarnwick": 1, "sites": [)"); }
+  void begin(const OptionValues& ofAll) override {
+    sink_(R"({"tarnwick": 1, )" + (columns_.options ? R"("options": )" + jsonLine(optionsJson(ofAll)) + ", " : "") +
+          R"("sites": [)");
+  }
 
   void add(const ListedSite& site) override {
     JsonValue object = JsonValue::object();
-    const auto put = [&](ListField field, JsonValue value) { object[std::string(nameOf(field))] = std::move(value); };
-    put(ListField::idSite, site.idSite ? JsonValue(*site.idSite) : JsonValue());
-    put(ListField::url, jsonText(site.site.url));
-    put(ListField::method, jsonText(site.site.method));
-    put(ListField::active, site.site.active);
-    put(ListField::tInterval, jsonNumber(site.site.tInterval));
-    put(ListField::alertEmail, site.site.alertEmail);
-    put(ListField::email, jsonText(site.site.email));
-    put(ListField::sUserName, jsonText(site.site.sUserName));
-    if (columns_.has(ListField::sPassWord)) {
-      put(ListField::sPassWord, jsonText(site.site.sPassWord));
-    }
-    put(ListField::postVars, postVars(site.postVars));
-    if (columns_.has(ListField::baseline)) {
-      put(ListField::baseline, jsonText(site.baseline));
+    for (const ListField& field : form_.all()) {
+      if (columns_.has(field)) {
+        object[field.name] = valueOfField(field, site);
+      }
     }
     sink_(std::exchange(separator_, ",\n") + jsonLine(std::move(object)));
   }
@@ -36,23 +30,39 @@ class JsonWriter final : public SiteListWriter {
   void end() override { sink_("\n]}\n"); }
 
  private:
-  static JsonValue postVars(const std::vector<PostVar>& vars) {
-    JsonValue json = JsonValue::array();
-    for (const PostVar& var : vars) {
-      json.add({{"pname", jsonText(var.name)}, {"pvalue", jsonText(var.value)}});
+  static JsonValue valueOfField(const ListField& field, const ListedSite& site) {
+    switch (field.role) {
+      case ListField::Role::idSite:
+        return site.idSite ? JsonValue(*site.idSite) : JsonValue();
+      case ListField::Role::postVars:
+        return postVarsJson(site.postVars);
+      case ListField::Role::baseline:
+        return jsonText(site.baseline);
+      case ListField::Role::options:
+        return optionsJson(site.options);
+      case ListField::Role::siteField:
+        break;
     }
-    return json;
+    const FieldValue value = valueOf(*field.field, site.site);
+    if (const bool* const flag = std::get_if<bool>(&value)) {
+      return *flag;
+    }
+    const auto& text = std::get<std::string>(value);
+    // The interval is a whole number in every list that the program keeps.
+    const bool number = field.field->kind == FieldKind::minutes || field.field->kind == FieldKind::seconds;
+    return number ? jsonNumber(text) : jsonText(text);
   }
 
   ListColumns columns_;
   ByteSink sink_;
+  ListForm form_;
   std::string separator_ = "\n";
 };
 
 }  // namespace
 
-std::unique_ptr<SiteListWriter> makeJsonWriter(ListColumns columns, ByteSink sink) {
-  return std::make_unique<JsonWriter>(columns, std::move(sink));
+std::unique_ptr<SiteListWriter> makeJsonWriter(ListColumns columns, ByteSink sink, const Fields& fields) {
+  return std::make_unique<JsonWriter>(columns, std::move(sink), fields);
 }
 
 }  // namespace tarnwick

@@ -28,11 +28,22 @@ void readListedSites(m& data, ListColumns columns, const std::function<void(cons
     site.idSite = id;
     site.site = listedForm(std::move(facts.site));
     site.postVars = readPostVars(data, id);
+    if (columns.options) {
+      site.options = knownOptions(data, id);
+    }
     if (columns.baselines) {
       site.baseline = data.getContentCompare(id);
     }
     take(site);
   }
+}
+
+bool hasOptions(m& data) {
+  if (!knownOptions(data, kAllSites).empty()) {
+    return true;
+  }
+  return std::ranges::any_of(readSiteFacts(data),
+                             [&](const SiteFacts& facts) { return !knownOptions(data, idOf(facts)).empty(); });
 }
 
 std::int16_t idOf(const SiteFacts& facts) {

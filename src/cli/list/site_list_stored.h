@@ -15,6 +15,9 @@ SiteDraft listedForm(SiteDraft stored);
 /// are read one at a time, and only when they are columns. Raises DataAccessError.
 void readListedSites(m& data, ListColumns columns, const std::function<void(const ListedSite& site)>& take);
 
+/// Whether an option is set, for a site or for all.
+bool hasOptions(m& data);
+
 /// The stored id; raises OverflowError, which names it, when it does not fit 16 bits.
 std::int16_t idOf(const SiteFacts& facts);
 

@@ -56,14 +56,18 @@ std::string countText(std::size_t count) { return std::to_string(count) + (count
 /// Tells which of the sites that are exported an import would refuse, since the list has not only been edited here.
 class ImportWarnings {
  public:
-  explicit ImportWarnings(Console& console) : console_(console) {}
+  ImportWarnings(Console& console, const Fields& fields) : console_(console), fields_(fields) {}
 
   void look(const ListedSite& site) {
     ListFaults faults;
     ListValues values(0, faults);
     values.id(std::to_string(site.idSite.value_or(0)));
-    values.method(site.site.method);
-    values.interval(site.site.tInterval);
+    for (const SiteField& field : fields_.site) {
+      const FieldValue value = valueOf(field, site.site);
+      if (const auto* const text = std::get_if<std::string>(&value)) {
+        values.value(field, *text);
+      }
+    }
     checkTexts(site.site, values);
     if (!faults.none() && ++count_ <= ListFaults::kMostKept) {
       console_.complain("An import will refuse site " + std::to_string(site.idSite.value_or(0)) + ": " +
@@ -80,15 +84,19 @@ class ImportWarnings {
 
  private:
   Console& console_;
+  const Fields& fields_;
   std::size_t count_ = 0;
 };
 
 std::size_t writeList(Tool& tool, Format format, ListColumns columns, const ByteSink& sink) {
-  const auto writer = format == Format::csv ? makeCsvWriter(columns, sink) : makeJsonWriter(columns, sink);
-  ImportWarnings warnings(tool.console());
+  m& data = tool.data();
+  columns.options = hasOptions(data);
+  const auto writer = format == Format::csv ? makeCsvWriter(columns, sink, tool.fields())
+                                            : makeJsonWriter(columns, sink, tool.fields());
+  ImportWarnings warnings(tool.console(), tool.fields());
   std::size_t count = 0;
-  writer->begin();
-  readListedSites(tool.data(), columns, [&](const ListedSite& site) {
+  writer->begin(columns.options ? knownOptions(data, kAllSites) : OptionValues());
+  readListedSites(data, columns, [&](const ListedSite& site) {
     writer->add(site);
     warnings.look(site);
     ++count;
@@ -117,28 +125,29 @@ int exportList(Tool& tool, const ExportOptions& options) {
   return exit_status::ok;
 }
 
-std::vector<ListedSite> readList(const ImportVerbOptions& options, ListFaults& faults) {
+std::vector<ListedSite> readList(const ImportVerbOptions& options, const Fields& fields, ListFaults& faults) {
   const Format format = formatOf(options.file, options.format);
   const std::string text = readInput(options.file);
-  return format == Format::csv ? readSiteListCsv(text, faults) : readSiteListJson(text, faults);
+  return format == Format::csv ? readSiteListCsv(text, faults, fields) : readSiteListJson(text, faults, fields);
 }
 
-std::vector<std::string> fieldNamesOf(const ImportStep& step) {
+std::vector<std::string> fieldNamesOf(const Fields& fields, const ImportStep& step) {
   std::vector<std::string> names;
-  for (const std::string_view name : kListFieldNames) {
-    if (step.fields.has(*listFieldOf(name)) && name != nameOf(ListField::idSite)) {
-      names.emplace_back(name);
+  const ListForm form(fields);
+  for (const ListField& field : form.all()) {
+    if (step.fields.has(field.name) && field.role != ListField::Role::idSite) {
+      names.push_back(field.name);
     }
   }
   return names;
 }
 
-std::string lineOf(const ImportStep& step) {
+std::string lineOf(const Fields& fields, const ImportStep& step) {
   std::string line =
       std::string(wordOf(step.action)) + " " + std::to_string(step.idSite) + " " + visibleText(step.listed.site.url);
   if (step.action == ImportStep::Action::change) {
     std::string names;
-    for (const std::string& name : fieldNamesOf(step)) {
+    for (const std::string& name : fieldNamesOf(fields, step)) {
       names += (names.empty() ? "" : ", ") + name;
     }
     line += " (" + names + ")";
@@ -146,13 +155,13 @@ std::string lineOf(const ImportStep& step) {
   return line;
 }
 
-JsonValue jsonOf(const ImportPlan& plan, bool dryRun) {
+JsonValue jsonOf(const Fields& fields, const ImportPlan& plan, bool dryRun) {
   using enum ImportStep::Action;
   JsonValue sites = JsonValue::array();
   for (const ImportStep& step : plan.steps) {
     JsonValue site{{"action", wordOf(step.action)}, {"idSite", step.idSite}, {"url", jsonText(step.listed.site.url)}};
     if (step.action == change) {
-      site["fields"] = JsonValue::array(fieldNamesOf(step));
+      site["fields"] = JsonValue::array(fieldNamesOf(fields, step));
     }
     sites.add(std::move(site));
   }
@@ -164,20 +173,30 @@ JsonValue jsonOf(const ImportPlan& plan, bool dryRun) {
           {"sites", std::move(sites)}};
 }
 
-void tell(Console& console, const ImportPlan& plan, const ImportVerbOptions& options) {
+void tell(Console& console, const Fields& fields, const ImportPlan& plan, const ImportVerbOptions& options) {
   using enum ImportStep::Action;
   if (options.json) {
-    sayJson(console, jsonOf(plan, options.dryRun));
+    JsonValue json = jsonOf(fields, plan, options.dryRun);
+    if (plan.optionsOfAll) {
+      json["optionsOfAll"] = optionsJson(*plan.optionsOfAll);
+    }
+    sayJson(console, std::move(json));
     return;
   }
   const auto count = [&](ImportStep::Action action) { return std::to_string(plan.count(action)); };
   const std::string unchanged = std::to_string(plan.unchanged) + " unchanged.";
   if (options.dryRun) {
+    if (plan.optionsOfAll) {
+      console.out() << "change the options of all sites\n";
+    }
     for (const ImportStep& step : plan.steps) {
-      console.out() << lineOf(step) << '\n';
+      console.out() << lineOf(fields, step) << '\n';
     }
     console.say(count(add) + " to add, " + count(change) + " to change, " + count(remove) + " to delete, " + unchanged);
     return;
+  }
+  if (plan.optionsOfAll) {
+    console.say("The options of all sites are changed.");
   }
   console.say(count(add) + " added, " + count(change) + " changed, " + count(remove) + " deleted, " + unchanged);
 }
@@ -202,7 +221,8 @@ ImportPlan planOrRaise(m& data, std::vector<ListedSite> sites, const ImportOptio
 
 // A file without a site is more often a slip than the wish to have none.
 bool mayReplace(Tool& tool, const ImportVerbOptions& options, const std::vector<ListedSite>& sites) {
-  const std::size_t stored = sites.empty() && options.how.replace ? tool.data().getArraySites(0).lastRow() : 0;
+  const bool none = std::ranges::all_of(sites, [](const ListedSite& site) { return site.idSite == kAllSites; });
+  const std::size_t stored = none && options.how.replace ? tool.data().getArraySites(0).lastRow() : 0;
   return stored == 0 || consents(tool.console(), options.yes,
                                  "The file has no site. Delete all that are in the list (" + std::to_string(stored) +
                                      ") with their POST variables and baselines?");
@@ -210,7 +230,7 @@ bool mayReplace(Tool& tool, const ImportVerbOptions& options, const std::vector<
 
 int importList(Tool& tool, const ImportVerbOptions& options) {
   ListFaults faults;
-  std::vector<ListedSite> sites = readList(options, faults);
+  std::vector<ListedSite> sites = readList(options, tool.fields(), faults);
   m& data = tool.data();
   if (!options.dryRun && faults.none() && !mayReplace(tool, options, sites)) {
     return exit_status::failed;
@@ -218,14 +238,14 @@ int importList(Tool& tool, const ImportVerbOptions& options) {
   try {
     if (options.dryRun) {
       const Snapshot oneState(data.database());
-      tell(tool.console(), planOrRaise(data, std::move(sites), options.how, faults), options);
+      tell(tool.console(), tool.fields(), planOrRaise(data, std::move(sites), options.how, faults), options);
       return exit_status::ok;
     }
     Transaction whole(data.database());
     const ImportPlan plan = planOrRaise(data, std::move(sites), options.how, faults);
     carryOut(data, plan);
     whole.commit();
-    tell(tool.console(), plan, options);
+    tell(tool.console(), tool.fields(), plan, options);
     return exit_status::ok;
   } catch (const SiteListError& error) {
     complainOf(tool.console(), options.file, error.faults());

@@ -4,10 +4,12 @@
 #include <charconv>
 #include <iterator>
 #include <limits>
+#include <map>
 #include <optional>
 #include <vector>
 
 #include "base/text.h"
+#include "cli/list/site_list.h"
 #include "cli/terminal/input_file.h"
 #include "cli/terminal/json_text.h"
 #include "cli/verbs/verbs.h"
@@ -31,11 +33,14 @@ struct SiteEdit {
   std::optional<std::string> password;
   std::optional<std::string> passwordFile;
   std::vector<std::string> posts;
+  /// Of the fields that have no option of their own here, by name.
+  std::map<std::string, std::optional<std::string>> further;
   bool json = false;
 
   bool saysNothing() const {
     return !url && !method && !interval && !active && !inactive && !alertEmail && !noAlertEmail && !user && !password &&
-           !passwordFile && posts.empty();
+           !passwordFile && posts.empty() &&
+           std::ranges::none_of(further, [](const auto& given) { return given.second.has_value(); });
   }
 };
 
@@ -59,7 +64,21 @@ PostVar varOf(const std::string& text) {
   return {text.substr(0, sign), text.substr(sign + 1)};
 }
 
-void apply(const SiteEdit& edit, SiteDraft& site) {
+FieldValue valueOfText(const SiteField& field, const std::string& text) {
+  ListFaults faults;
+  auto value = ListValues(0, faults).value(field, text);
+  if (!value) {
+    throw std::runtime_error(faults.kept().front().text + ".");
+  }
+  return *std::move(value);
+}
+
+void apply(const Fields& fields, const SiteEdit& edit, SiteDraft& site) {
+  for (const SiteField& field : fields.site) {
+    if (const auto given = edit.further.find(field.name); given != edit.further.end() && given->second) {
+      setValue(field, site, valueOfText(field, *given->second));
+    }
+  }
   if (edit.url) {
     requireFetchable(*edit.url);
     site.url = *edit.url;
@@ -100,7 +119,7 @@ int addSite(Tool& tool, const SiteEdit& edit) {
   site.method = vars.empty() ? "get" : "post";
   site.active = true;
   site.tInterval = "10";
-  apply(edit, site);
+  apply(tool.fields(), edit, site);
   m& data = tool.data();
   Transaction whole(data.database());
   const std::int16_t id = data.addSite();
@@ -131,7 +150,7 @@ int setSite(Tool& tool, const SiteEdit& edit) {
   }
   // What is read from standard input may take its time; nothing is locked meanwhile.
   SiteDraft given;
-  apply(edit, given);
+  apply(tool.fields(), edit, given);
   SiteEdit known = edit;
   if (known.passwordFile) {
     known.passwordFile.reset();
@@ -141,7 +160,7 @@ int setSite(Tool& tool, const SiteEdit& edit) {
   Transaction whole(data.database());
   requireListed(tool, edit.idSite);
   SiteDraft site = readSite(data, edit.idSite);
-  apply(known, site);
+  apply(tool.fields(), known, site);
   storeSite(data, edit.idSite, site, newVars.empty() ? readPostVars(data, edit.idSite) : newVars);
   whole.commit();
   tool.console().say("Site " + id + " is changed.");
@@ -151,7 +170,7 @@ int setSite(Tool& tool, const SiteEdit& edit) {
   return exit_status::ok;
 }
 
-void addFields(std::vector<VerbOption>& options, SiteEdit& edit) {
+void addFields(std::vector<VerbOption>& options, const Fields& fields, SiteEdit& edit) {
   options.insert(
       options.end(),
       {{.name = "--method", .target = &edit.method, .meaning = "How the page is fetched", .type = "get|post"},
@@ -175,6 +194,11 @@ void addFields(std::vector<VerbOption>& options, SiteEdit& edit) {
         .target = &edit.posts,
         .meaning = "A POST variable; may be given several times",
         .type = "NAME=VALUE"}});
+  for (const SiteField& field : fields.site) {
+    if (std::holds_alternative<std::monostate>(field.member)) {
+      options.push_back({.name = "--" + field.name, .target = &edit.further[field.name], .meaning = field.meaning});
+    }
+  }
 }
 
 VerbOption alertOption(SiteEdit& edit) {
@@ -184,13 +208,13 @@ VerbOption alertOption(SiteEdit& edit) {
           .type = "ADDRESS"};
 }
 
-Verb addVerb() {
+Verb addVerb(const Fields& fields) {
   auto edit = std::make_shared<SiteEdit>();
   std::vector<VerbOption> options{{.name = "URL",
                                    .target = &edit->url,
                                    .meaning = "The address of the page: http, https, ftp or ftps",
                                    .required = true}};
-  addFields(options, *edit);
+  addFields(options, fields, *edit);
   options.insert(options.end(), {VerbOption{"--inactive", &edit->inactive, "Leave it out of runs"}, alertOption(*edit),
                                  jsonOption(edit->json)});
   return Verb{
@@ -206,13 +230,13 @@ Verb addVerb() {
       [edit](Tool& tool) { return addSite(tool, *edit); }};
 }
 
-Verb setVerb() {
+Verb setVerb(const Fields& fields) {
   auto edit = std::make_shared<SiteEdit>();
   std::vector<VerbOption> options{
       siteIdOption(edit->idSite),
       VerbOption{"--url", &edit->url, "The address of the page: http, https, ftp or ftps"},
   };
-  addFields(options, *edit);
+  addFields(options, fields, *edit);
   options.insert(
       options.end(),
       {VerbOption{"--active", &edit->active, "Let runs check it"},
@@ -280,6 +304,6 @@ std::string intervalOf(const std::string& text) {
   return std::to_string(minutes);
 }
 
-std::vector<Verb> siteEditVerbs() { return {addVerb(), setVerb()}; }
+std::vector<Verb> siteEditVerbs(const Fields& fields) { return {addVerb(fields), setVerb(fields)}; }
 
 }  // namespace tarnwick

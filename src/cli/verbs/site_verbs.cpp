@@ -71,7 +71,7 @@ int listSites(Tool& tool, const SitesOptions& options) {
   if (options.json) {
     JsonArray array(console);
     for (const SiteFacts& facts : sites) {
-      array.add(siteJson(facts));
+      array.add(siteJson(tool.fields(), facts));
     }
     array.end();
   } else if (!sites.empty()) {
@@ -101,11 +101,11 @@ std::string alertText(const SiteDraft& site) {
   return yesNo(site.alertEmail) + (site.email.empty() ? "" : ", " + visibleText(site.email));
 }
 
-void printSite(Console& console, const SiteFacts& facts, const std::vector<PostVar>& vars, std::size_t baselineSize,
-               bool showPassword) {
+void printSite(Console& console, const Fields& fields, const SiteFacts& facts, const std::vector<PostVar>& vars,
+               std::size_t baselineSize, bool showPassword) {
   const SiteDraft& site = facts.site;
   const StateText state = stateOf(facts);
-  const std::vector<std::pair<std::string, std::string>> lines = {
+  std::vector<std::pair<std::string, std::string>> lines = {
       {"Site", std::to_string(facts.idSite)},
       {"URL", visibleText(site.url)},
       {"State", console.coloured(state.colour, state.text)},
@@ -120,6 +120,15 @@ void printSite(Console& console, const SiteFacts& facts, const std::vector<PostV
       {"Password", passwordText(site.sPassWord, showPassword)},
       {"Baseline", baselineText(baselineSize)},
       {"Variables", vars.empty() ? "none" : std::to_string(vars.size())}};
+  for (const SiteField& field : fields.site) {
+    if (std::holds_alternative<std::monostate>(field.member)) {
+      const FieldValue value = valueOf(field, site);
+      const auto* const text = std::get_if<std::string>(&value);
+      lines.emplace_back(field.label, text == nullptr                   ? yesNo(std::get<bool>(value))
+                                      : field.kind == FieldKind::secret ? passwordText(*text, showPassword)
+                                                                        : orNone(*text));
+    }
+  }
   const std::size_t width = std::ranges::max(lines | std::views::keys | std::views::transform(&std::string::size));
   std::ostream& out = console.out();
   for (const auto& [label, text] : lines) {
@@ -141,13 +150,16 @@ int showSite(Tool& tool, const ShowOptions& options) {
   const std::vector<PostVar> vars = readPostVars(data, options.idSite);
   const std::size_t baselineSize = data.getContentCompare(options.idSite).size();
   if (!options.json) {
-    printSite(tool.console(), *facts, vars, baselineSize, options.showPassword);
+    printSite(tool.console(), tool.fields(), *facts, vars, baselineSize, options.showPassword);
     return exit_status::ok;
   }
-  JsonValue json = siteJson(*facts, options.showPassword);
+  JsonValue json = siteJson(tool.fields(), *facts, options.showPassword);
   json["postVars"] = postVarsJson(vars);
   json["hasBaseline"] = baselineSize != 0;
   json["baselineSize"] = baselineSize;
+  if (const OptionValues set = knownOptions(data, options.idSite); !set.empty()) {
+    json["options"] = optionsJson(set);
+  }
   sayJson(tool.console(), std::move(json));
   return exit_status::ok;
 }

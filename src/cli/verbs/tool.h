@@ -33,7 +33,7 @@ class Tool {
   /// The data of the program folder, opened on first use; raises DataAccessError when that fails.
   m& data() {
     if (!data_) {
-      data_.emplace(folder_, services_);
+      data_.emplace(folder_, services_, fields_);
     }
     return *data_;
   }

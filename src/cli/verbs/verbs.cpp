@@ -9,7 +9,7 @@ std::vector<Verb> allVerbs(const Fields& fields) {
   std::vector<Verb> all;
   const auto add = [&all](std::vector<Verb> verbs) { std::ranges::move(verbs, std::back_inserter(all)); };
   add(siteVerbs());
-  add(siteEditVerbs());
+  add(siteEditVerbs(fields));
   all.push_back(deleteVerb());
   all.push_back(postVerb());
   add(pageVerbs());
@@ -17,6 +17,7 @@ std::vector<Verb> allVerbs(const Fields& fields) {
   all.push_back(checkVerb());
   all.push_back(runVerb());
   all.push_back(settingsVerb(fields));
+  all.push_back(optionVerb(fields));
   all.push_back(logVerb());
   add(upkeepVerbs());
   add(exchangeVerbs());

@@ -10,7 +10,7 @@ namespace tarnwick {
 /// sites, site
 std::vector<Verb> siteVerbs();
 /// add, set
-std::vector<Verb> siteEditVerbs();
+std::vector<Verb> siteEditVerbs(const Fields& fields);
 Verb deleteVerb();
 Verb postVerb();
 /// baseline, diff
@@ -20,6 +20,8 @@ Verb checkVerb();
 Verb runVerb();
 /// The verb with the names and meanings of the settings in its help.
 Verb settingsVerb(const Fields& fields);
+/// The verb with all options in its help.
+Verb optionVerb(const Fields& fields);
 Verb logVerb();
 /// report, compact
 std::vector<Verb> upkeepVerbs();

@@ -51,7 +51,7 @@ TEST_F(SiteListCsv, ReadsColumnsInAnyOrderAndLeavesOutTheOthers) {
   EXPECT_EQ(sites[0].site.url, "http://a/");
   EXPECT_FALSE(sites[0].site.active);
   EXPECT_EQ(sites[0].line, 2U);
-  EXPECT_FALSE(sites[0].given.has(ListField::method));
+  EXPECT_FALSE(sites[0].given.has("method"));
   EXPECT_EQ(sites[1].idSite, std::nullopt);
   EXPECT_TRUE(sites[1].site.active);
   EXPECT_EQ(sites[1].site.tInterval, "10");
@@ -65,7 +65,7 @@ TEST_F(SiteListCsv, TakesWhatASpreadsheetWrites) {
   const auto sites = read("\xef\xbb\xbfidSite,url,tInterval\n1,http://a/,\n,,\n\n2,http://b/, 5 ");
   ASSERT_EQ(sites.size(), 2U);
   EXPECT_TRUE(faults_.none());
-  EXPECT_FALSE(sites[0].given.has(ListField::tInterval));
+  EXPECT_FALSE(sites[0].given.has("tInterval"));
   EXPECT_EQ(sites[1].site.tInterval, "5");
   EXPECT_EQ(sites[1].line, 5U);
 }

@@ -51,7 +51,7 @@ TEST_F(SiteListJson, ReadsWhatIsThereAndLeavesOutTheRest) {
   EXPECT_TRUE(faults_.none());
   EXPECT_EQ(sites[0].idSite, 7);
   EXPECT_FALSE(sites[0].site.active);
-  EXPECT_FALSE(sites[0].given.has(ListField::method));
+  EXPECT_FALSE(sites[0].given.has("method"));
   EXPECT_EQ(sites[1].idSite, std::nullopt);
   EXPECT_EQ(sites[1].line, 2U);
   EXPECT_EQ(sites[1].postVars, (std::vector<PostVar>{{"n", "v"}}));

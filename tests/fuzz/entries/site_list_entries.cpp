@@ -11,26 +11,34 @@
 namespace tarnwick::testing {
 namespace {
 
-using Reader = std::vector<ListedSite> (*)(std::string_view text, ListFaults& faults);
-using WriterMaker = std::unique_ptr<SiteListWriter> (*)(ListColumns columns, ByteSink sink);
+using Reader = std::vector<ListedSite> (*)(std::string_view text, ListFaults& faults, const Fields& fields);
+using WriterMaker = std::unique_ptr<SiteListWriter> (*)(ListColumns columns, ByteSink sink, const Fields& fields);
 
 std::string written(WriterMaker make, const std::vector<ListedSite>& sites) {
   std::string text;
-  const auto writer = make({.passwords = true, .baselines = true}, [&](std::string_view bytes) { text += bytes; });
-  writer->begin();
-  std::ranges::for_each(sites, [&](const ListedSite& site) { writer->add(site); });
+  const auto writer = make(
+      {.passwords = true, .baselines = true, .options = true}, [&](std::string_view bytes) { text += bytes; },
+      programFields());
+  const auto isForAll = [](const ListedSite& site) { return site.idSite == kAllSites; };
+  const auto all = std::ranges::find_if(sites, isForAll);
+  writer->begin(all == sites.end() ? OptionValues() : all->options);
+  for (const ListedSite& site : sites) {
+    if (!isForAll(site)) {
+      writer->add(site);
+    }
+  }
   writer->end();
   return text;
 }
 
 bool isSame(const ListedSite& one, const ListedSite& other) {
   return one.idSite == other.idSite && one.site == other.site && one.postVars == other.postVars &&
-         one.baseline == other.baseline;
+         one.baseline == other.baseline && one.options == other.options;
 }
 
 void readAndWrite(std::string_view input, Reader read, WriterMaker make) {
   ListFaults faults;
-  const std::vector<ListedSite> sites = read(input, faults);
+  std::vector<ListedSite> sites = read(input, faults, programFields());
   const auto lines = 1 + static_cast<std::size_t>(std::ranges::count(input, '\n'));
   for (const ListFaults::Fault& fault : faults.kept()) {
     require(fault.line >= 1 && fault.line <= lines, "a fault stands on a line that is not there");
@@ -38,10 +46,13 @@ void readAndWrite(std::string_view input, Reader read, WriterMaker make) {
   }
   ListFaults none;
   const std::string text = written(make, sites);
-  const std::vector<ListedSite> back = read(text, none);
+  std::vector<ListedSite> back = read(text, none, programFields());
   require(none.none(), "what was written has faults");
-  require(std::ranges::equal(sites, back, isSame), "what was written does not come back");
   require(written(make, back) == text, "what was read is written otherwise");
+  for (std::vector<ListedSite>* list : {&sites, &back}) {
+    std::erase_if(*list, [](const ListedSite& site) { return site.idSite == kAllSites; });
+  }
+  require(std::ranges::equal(sites, back, isSame), "what was written does not come back");
 }
 
 }  // namespace
