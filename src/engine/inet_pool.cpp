@@ -2,19 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <new>
 #include <utility>
 
-#include "base/errors.h"
-#include "engine/response_body.h"
 #include "store/settings_and_log.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr std::chrono::milliseconds kSweepInterval{1000};
-// All of it at once: a page of many megabytes is handed over, not copied.
-constexpr std::size_t kPieceSize = kLargestPage;
 
 constexpr std::array<std::string_view, 13> kStateDescriptions{
     "No state to report.",
@@ -49,18 +44,17 @@ void InetPool::initSockets(std::span<const std::string> items) {
   rows_.assign(items.size() + 1, Row{});
   slots_.resize(std::min(itemCount_, static_cast<std::size_t>(largestPool_)));
   if (!slots_.empty()) {
-    const std::chrono::seconds timeout = settings_.requestTimeout();
+    timeout_ = settings_.requestTimeout();
     for (Slot& slot : slots_) {
-      loadSlot(slot, timeout);
+      loadSlot(slot);
     }
   }
   tmrInet_->setEnabled(false);
   tmrInet_->setInterval(kSweepInterval);
 }
 
-void InetPool::loadSlot(Slot& slot, std::chrono::seconds timeout) {
+void InetPool::loadSlot(Slot& slot) {
   slot.inet = transfers_.makeTransferControl();
-  slot.inet->setRequestTimeout(timeout);
   slot.inet->onStateChanged([&slot](int state) { stateChanged(slot, state); });
   slot.inet->onIdle([this] {
     if (tmrInet_->enabled()) {
@@ -76,19 +70,8 @@ void InetPool::killAllSockets() {
 
 void InetPool::stateChanged(Slot& slot, int state) {
   slot.lastState = state;
-  if (state == transfer_state::error) {
-    slot.errCode = slot.inet->responseCode();
-    slot.errDescription = slot.inet->responseInfo();
-    slot.text = "11:" + slot.errDescription;
-    slot.done = true;
-  } else if (state == transfer_state::responseCompleted) {
-    try {
-      slot.text = readResponseBody(*slot.inet, kPieceSize);
-    } catch (const std::bad_alloc&) {
-      // No exception may cross the event loop that calls this.
-      slot.errCode = static_cast<long>(TransferFault::shortage);
-      slot.errDescription = kNotEnoughMemory;
-    }
+  if (transfer_state::isLast(state)) {
+    slot.result = slot.inet->takeResult();
     slot.done = true;
   }
 }
@@ -111,20 +94,23 @@ void InetPool::testInetConnection() {
   }
 }
 
-void InetPool::assignRow(std::int16_t slot, std::size_t row) {
-  Slot& assigned = at(slot);
-  assigned.row = row;
-  assigned.errCode = 0;
-  assigned.errDescription.clear();
-  assigned.done = false;
+void InetPool::send(std::int16_t slot, std::size_t row, Request request) {
+  Slot& sending = at(slot);
+  sending.row = row;
+  sending.result = {};
+  sending.done = false;
+  request.timeout = timeout_;
+  sending.inet->execute(std::move(request));
 }
 
 void InetPool::saveSocketData(std::int16_t slot) {
   Slot& finished = at(slot);
+  TransferResult result = std::exchange(finished.result, {});
+  const bool failed = result.fault != TransferFault::none;
   Row& row = rows_.at(finished.row);
-  row.content = std::exchange(finished.text, {});
-  row.errCode = static_cast<std::int32_t>(finished.errCode);
-  row.errDescription = finished.errDescription;
+  row.content = failed ? "11:" + result.cause : std::move(result.page);
+  row.errCode = static_cast<std::int32_t>(result.code());
+  row.errDescription = std::move(result.cause);
 }
 
 void InetPool::releaseSiteContent(std::size_t row) { std::string().swap(rows_.at(row).content); }

@@ -48,8 +48,9 @@ class InetPool {
 
   /// The control of a slot.
   TransferControl& inet(std::int16_t slot) { return *at(slot).inet; }
-  /// Gives the slot to a row for its next request: its text, error and done flag are cleared.
-  void assignRow(std::int16_t slot, std::size_t row);
+  /// Gives the slot to a row and starts its request, within the settings' time-out as it was when the pool was set up.
+  /// Nothing is left of the slot's request before.
+  void send(std::int16_t slot, std::size_t row, Request request);
   /// The row whose item the slot fetches or has fetched; 0 before its first.
   std::size_t socketRow(std::int16_t slot) const { return at(slot).row; }
   /// True when the slot's request has finished, successfully or not, and has not been dealt with.
@@ -64,7 +65,7 @@ class InetPool {
   const std::string& siteContent(std::size_t row) const { return rows_.at(row).content; }
   std::int32_t siteErrCode(std::size_t row) const { return rows_.at(row).errCode; }
   const std::string& siteErrDescription(std::size_t row) const { return rows_.at(row).errDescription; }
-  /// Frees the memory of a row's page text once it has been judged.
+  /// Frees the memory of a row's page text once it has been recorded.
   void releaseSiteContent(std::size_t row);
 
   /// Vocabulary: no front end calls it.
@@ -75,9 +76,7 @@ class InetPool {
   struct Slot {
     std::unique_ptr<TransferControl> inet;
     int lastState = 0;
-    std::string text;
-    long errCode = 0;
-    std::string errDescription;
+    TransferResult result;
     bool done = false;
     std::size_t row = 0;
   };
@@ -89,7 +88,7 @@ class InetPool {
 
   Slot& at(std::int16_t slot) { return slots_.at(static_cast<std::size_t>(slot) - 1); }
   const Slot& at(std::int16_t slot) const { return slots_.at(static_cast<std::size_t>(slot) - 1); }
-  void loadSlot(Slot& slot, std::chrono::seconds timeout);
+  void loadSlot(Slot& slot);
   static void stateChanged(Slot& slot, int state);
 
   SettingsAndLog& settings_;
@@ -97,6 +96,7 @@ class InetPool {
   std::int16_t largestPool_;
   std::unique_ptr<Timer> tmrInet_;
   std::size_t itemCount_ = 0;
+  std::chrono::seconds timeout_{0};
   std::vector<Slot> slots_;
   std::vector<Row> rows_;
 };

@@ -8,6 +8,7 @@
 #include "store/sql_quote.h"
 
 namespace tarnwick {
+
 PageFetch::PageFetch(Database& database, SettingsAndLog& settings, SingleControl& single, EventPump& pump)
     : database_(database), settings_(settings), single_(single), pump_(pump) {}
 
@@ -35,8 +36,8 @@ std::string PageFetch::getPostVarsAsString(std::int16_t idSite) {
   return body;
 }
 
-PageRequest PageFetch::requestFor(std::int16_t idSite, std::string_view method) {
-  PageRequest request{upperCase(std::string(method)), {}, {}};
+Request PageFetch::requestFor(std::int16_t idSite, std::string_view method) {
+  Request request{.method = upperCase(std::string(method))};
   if (request.method == "POST") {
     request.headers = kPostHeader;
     request.body = getPostVarsAsString(idSite);
@@ -50,18 +51,20 @@ std::string PageFetch::getHtmlFromSite(std::int16_t idSite) {
     return {};
   }
   auto rs = database_.query("select url,method,sUserName,sPassWord from sites where idsite = " + sqlQuote(idSite));
-  std::string method;
-  sInet.setRequestTimeout(settings_.requestTimeout());
-  const bool found = !rs->eof();
-  sInet.setUrl(found ? rs->field("url").toText() : "");
-  sInet.setUserName(found ? rs->field("sUserName").toText() : "");
-  sInet.setPassword(found ? rs->field("sPassWord").toText() : "");
-  method = found ? rs->field("method").toText() : "";
+  const std::chrono::seconds timeout = settings_.requestTimeout();
+  const auto text = [&rs](const char* name) { return rs->eof() ? "" : rs->field(name).toText(); };
+  const std::string url = text("url");
+  const std::string userName = text("sUserName");
+  const std::string password = text("sPassWord");
+  const std::string method = text("method");
   rs->close();
 
-  const PageRequest request = requestFor(idSite, method);
-  single_.sInetContent.clear();
-  sInet.execute(request.method, request.body, request.headers);
+  Request request = requestFor(idSite, method);
+  request.url = url;
+  request.userName = userName;
+  request.password = password;
+  request.timeout = timeout;
+  single_.execute(std::move(request));
   while (sInet.stillExecuting() && single_.sInetContent.empty() && !pump_.closing()) {
     pump_.waitForEvent();
   }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/event_pump.h"
+#include "platform/transfer_control.h"
 
 namespace tarnwick {
 
@@ -15,13 +16,6 @@ class SingleControl;
 /// The header of every POST request.
 inline constexpr const char* kPostHeader = "Content-Type: application/x-www-form-urlencoded";
 
-/// How a site is asked for its page: its method, and for "POST" the header and the body of its POST variables.
-struct PageRequest {
-  std::string method;   ///< in upper case, as it is sent
-  std::string headers;  ///< empty but for "POST"
-  std::string body;     ///< empty but for "POST"
-};
-
 /// What every fetch of a monitored page shares, and the single fetch that waits for its page.
 class PageFetch {
  public:
@@ -31,8 +25,9 @@ class PageFetch {
   /// site has none.
   std::string getPostVarsAsString(std::int16_t idSite);
 
-  /// The request of a site whose `method` column is `method`, in any letter case.
-  PageRequest requestFor(std::int16_t idSite, std::string_view method);
+  /// How a site whose `method` column is `method`, in any letter case, is asked for its page: the method in upper case
+  /// and, for "POST", the header and the body of its POST variables.
+  Request requestFor(std::int16_t idSite, std::string_view method);
 
   /// Fetches the site's page now and returns it, pumping events meanwhile. For a failed request the failure's number,
   /// " : " and its cause; the empty text when the control is busy with another fetch, when the request ended without

@@ -1,6 +1,6 @@
 #include "engine/single_control.h"
 
-#include "engine/response_body.h"
+#include <utility>
 
 namespace tarnwick {
 
@@ -8,11 +8,17 @@ SingleControl::SingleControl(TransferMaker& transfers) : sInet_(transfers.makeTr
   sInet_->onStateChanged([this](int state) { stateChanged(state); });
 }
 
+void SingleControl::execute(Request request) {
+  sInetContent.clear();
+  result_ = {};
+  sInet_->execute(std::move(request));
+}
+
 void SingleControl::stateChanged(int state) {
-  if (state == transfer_state::error) {
-    sInetContent = std::to_string(sInet_->responseCode()) + " : " + sInet_->responseInfo();
-  } else if (state == transfer_state::responseCompleted) {
-    sInetContent = readResponseBody(*sInet_, 1024);
+  if (transfer_state::isLast(state)) {
+    result_ = sInet_->takeResult();
+    const bool failed = result_.fault != TransferFault::none;
+    sInetContent = failed ? std::to_string(result_.code()) + " : " + result_.cause : std::move(result_.page);
   }
 }
 

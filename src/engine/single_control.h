@@ -13,14 +13,19 @@ class SingleControl {
   explicit SingleControl(TransferMaker& transfers);
 
   TransferControl& sInet() { return *sInet_; }
+  /// Starts a request on `sInet`; nothing is left of the one before. REQUIRES: it is not executing.
+  void execute(Request request);
 
-  /// The page of the last request that completed, or of one that failed its response code, " : " and its cause.
+  /// The page of the last request that completed, or of one that failed its fault's number, " : " and its cause.
   std::string sInetContent;
+  /// What the last request came to, but for its page, which has been moved to `sInetContent`.
+  const TransferResult& result() const { return result_; }
 
  private:
   void stateChanged(int state);
 
   std::unique_ptr<TransferControl> sInet_;
+  TransferResult result_;
 };
 
 }  // namespace tarnwick

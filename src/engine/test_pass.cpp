@@ -149,14 +149,12 @@ bool TestPass::hasUsableId(std::size_t row) {
 void TestPass::sendRequest(std::int16_t slot) {
   const std::size_t row = next_;
   const std::int16_t id = idSite(row);
-  needs_.pool.assignRow(slot, row);
-  const PageRequest request = needs_.pages.requestFor(id, cell(kMethod, row));
+  Request request = needs_.pages.requestFor(id, cell(kMethod, row));
+  request.url = url(row);
+  request.userName = cell(kUserName, row);
+  request.password = cell(kPassword, row);
   needs_.view.showStatus("Testing: " + url(row));
-  TransferControl& inet = needs_.pool.inet(slot);
-  inet.setUrl(url(row));
-  inet.setUserName(cell(kUserName, row));
-  inet.setPassword(cell(kPassword, row));
-  inet.execute(request.method, request.body, request.headers);
+  needs_.pool.send(slot, row, std::move(request));
   needs_.view.brighten(id, kTestingBrightness);
   brightened_.push_back(id);
 }

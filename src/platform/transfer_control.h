@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -22,9 +23,12 @@ inline constexpr int disconnecting = 9;
 inline constexpr int disconnected = 10;
 inline constexpr int error = 11;
 inline constexpr int responseCompleted = 12;
+
+/// True for a state that ends a request.
+constexpr bool isLast(int state) { return state == error || state == responseCompleted; }
 }  // namespace transfer_state
 
-/// What a transfer that failed reports as its `responseCode`.
+/// Why a transfer failed, by number.
 enum class TransferFault : long {
   none = 0,
   other = 1,
@@ -49,6 +53,36 @@ inline constexpr std::size_t kLargestPage = std::size_t{64} * 1024 * 1024;
 /// The time-out of a request for which none is set, or one of zero or less.
 inline constexpr std::chrono::seconds kDefaultRequestTimeout{60};
 
+/// What one request asks for.
+struct Request {
+  /// Blanks around it do not count; without a scheme it is http.
+  std::string url{};
+  /// The credentials that answer the server's challenge; they never leave for another host on a redirect.
+  std::string userName{};
+  std::string password{};
+  /// The most time the whole request may take; zero or less means `kDefaultRequestTimeout`.
+  std::chrono::seconds timeout{kDefaultRequestTimeout};
+  /// "GET", "POST", or any other method text; empty means "GET".
+  std::string method{};
+  /// Sent with "POST" only.
+  std::string body{};
+  /// Further header lines, separated by CR LF; empty for none.
+  std::string headers{};
+};
+
+/// What a request came to: a page, or a fault and its cause.
+struct TransferResult {
+  TransferFault fault = TransferFault::none;
+  /// In words that are the same each time the same thing fails, since a check's text is compared with that of the next
+  /// check: no times, byte counts or local ports.
+  std::string cause{};
+  /// Every byte as it came, decoded.
+  std::string page{};
+
+  /// The fault as it is stored and shown; 0 for none.
+  long code() const { return static_cast<long>(fault); }
+};
+
 /// Fetches one page at a time, without blocking: http, https, ftp and ftps, redirects within those followed,
 /// certificates verified, compressed answers decoded, nothing cached. An HTTP error page is a page.
 ///
@@ -57,19 +91,8 @@ class TransferControl {
  public:
   virtual ~TransferControl() = default;
 
-  /// The address fetched by the next `execute`. Blanks around it do not count; without a scheme it is http.
-  virtual void setUrl(const std::string& url) = 0;
-  /// The credentials that answer the server's challenge; they never leave for another host on a redirect.
-  virtual void setUserName(const std::string& userName) = 0;
-  virtual void setPassword(const std::string& password) = 0;
-  /// The most time the whole request may take; zero or less means `kDefaultRequestTimeout`.
-  virtual void setRequestTimeout(std::chrono::seconds timeout) = 0;
-  virtual std::chrono::seconds requestTimeout() const = 0;
-
-  /// Starts the request. `operation` is the method ("GET", "POST", or any other method text; empty means "GET"),
-  /// `data` the body, `headers` further request header lines, separated by CR LF, empty for none.
-  /// REQUIRES: not `stillExecuting()`.
-  virtual void execute(const std::string& operation, const std::string& data, const std::string& headers) = 0;
+  /// Starts the request. REQUIRES: not `stillExecuting()`.
+  virtual void execute(Request request) = 0;
 
   /// True from `execute` until after the last state (11 or 12) has been reported.
   virtual bool stillExecuting() const = 0;
@@ -77,12 +100,9 @@ class TransferControl {
   /// Ends a request in progress at once; no further event of it arrives.
   virtual void cancel() = 0;
 
-  /// After state 11: the fault's number (see `TransferFault`) and its cause in words; after state 12: 0 and empty.
-  virtual long responseCode() const = 0;
-  virtual const std::string& responseInfo() const = 0;
-
-  /// Takes up to `size` further bytes of the page; empty when all has been taken. After state 12 only.
-  virtual std::string getChunk(std::size_t size) = 0;
+  /// Hands over what the request came to, once, from its last state until the next `execute`; otherwise no fault and an
+  /// empty page.
+  virtual TransferResult takeResult() = 0;
 
   /// Called with each state that the request reaches, in rising order; 11 or 12 is the last.
   virtual void onStateChanged(std::function<void(int state)> handler) = 0;

@@ -23,9 +23,7 @@ class InetPoolTest : public ::testing::Test {
   std::vector<std::string> urls(std::size_t number) const { return std::vector<std::string>(number, server.url("/a")); }
 
   void request(std::int16_t slot, std::size_t row, const std::string& path) {
-    pool.assignRow(slot, row);
-    pool.inet(slot).setUrl(server.url(path));
-    pool.inet(slot).execute("GET", "", "");
+    pool.send(slot, row, {.url = server.url(path)});
   }
 
   ProgramFolder folder;
@@ -80,18 +78,38 @@ TEST_F(InetPoolTest, AFreshPoolIsFreeAndItsTimerSetButOff) {
   EXPECT_FALSE(pool.socketDone(1));
 }
 
-TEST_F(InetPoolTest, TheControlsTakeTheTimeoutOfTheSettings) {
-  settings.setControl("timeout", std::string("45"));
-  pool.initSockets(urls(1));
-  EXPECT_EQ(pool.inet(1).requestTimeout(), seconds(45));
-}
+// Notes the time-out of each request that is sent.
+class TimeoutRecorder final : public TransferMaker {
+ public:
+  std::unique_ptr<TransferControl> makeTransferControl() override { return std::make_unique<Control>(timeouts); }
 
-TEST_F(InetPoolTest, ANullOrZeroTimeoutIsTheDefaultOfAMinute) {
-  for (const char* value : {"null", "0", "-5"}) {
+  std::vector<seconds> timeouts;
+
+ private:
+  class Control final : public TransferControl {
+   public:
+    explicit Control(std::vector<seconds>& timeouts) : timeouts_(timeouts) {}
+    void execute(Request request) override { timeouts_.push_back(request.timeout); }
+    bool stillExecuting() const override { return false; }
+    void cancel() override {}
+    TransferResult takeResult() override { return {}; }
+    void onStateChanged(std::function<void(int)>) override {}
+    void onIdle(std::function<void()>) override {}
+
+   private:
+    std::vector<seconds>& timeouts_;
+  };
+};
+
+TEST_F(InetPoolTest, RequestsTakeTheTimeoutOfTheSettings) {
+  TimeoutRecorder recorder;
+  InetPool sending(settings, recorder, machine.timers());
+  for (const char* value : {"45", "null", "0", "-5"}) {
     folder.execute(std::string("update control set timeout = ") + value);
-    pool.initSockets(urls(1));
-    EXPECT_EQ(pool.inet(1).requestTimeout(), seconds(60)) << value;
+    sending.initSockets(urls(1));
+    sending.send(1, 1, {.url = server.url("/a")});
   }
+  EXPECT_THAT(recorder.timeouts, ElementsAre(seconds(45), seconds(60), seconds(60), seconds(60)));
 }
 
 TEST_F(InetPoolTest, ACompletedSlotStaysBusyUntilTheNextSweep) {
@@ -151,8 +169,7 @@ TEST_F(InetPoolTest, TheNextRowOfASlotHasNothingOfTheOneBefore) {
   pool.initSockets(urls(2));
   request(1, 1, "/a");
   pool.inet(1).cancel();
-  pool.inet(1).setUrl("no such kind://host/");
-  pool.inet(1).execute("GET", "", "");
+  pool.send(1, 1, {.url = "no such kind://host/"});
   ASSERT_TRUE(waitUntil([&] { return pool.socketDone(1); }));
   pool.saveSocketData(1);
   EXPECT_NE(pool.siteErrDescription(1), "");

@@ -65,12 +65,12 @@ TEST_F(PageFetchTest, ASiteWithoutVariablesHasAnEmptyBody) {
 TEST_F(PageFetchTest, OnlyPostCarriesABodyAndAHeader) {
   const std::int16_t id = addSite("http://127.0.0.1/");
   data().addPostVars(id, "a", "b");
-  const PageRequest post = data().requestFor(id, "pOsT");
+  const Request post = data().requestFor(id, "pOsT");
   EXPECT_EQ(post.method, "POST");
   EXPECT_EQ(post.headers, "Content-Type: application/x-www-form-urlencoded");
   EXPECT_EQ(post.body, "a=b");
   for (const char* method : {"get", "put", "NULL", ""}) {
-    const PageRequest other = data().requestFor(id, method);
+    const Request other = data().requestFor(id, method);
     EXPECT_EQ(other.headers, "");
     EXPECT_EQ(other.body, "");
   }

@@ -69,10 +69,10 @@ int loadBaseline(Tool& tool, const BaselineOptions& options) {
     tool.console().complain("Interrupted; the baseline is as it was.");
     return exit_status::failed;
   }
-  const TransferControl& inet = tool.data().single().sInet();
-  if (inet.responseCode() != 0) {
+  const TransferResult& result = tool.data().single().result();
+  if (result.fault != TransferFault::none) {
     throw std::runtime_error("The page of site " + std::to_string(options.idSite) +
-                             " could not be fetched; the baseline is as it was. " + visibleText(inet.responseInfo()));
+                             " could not be fetched; the baseline is as it was. " + visibleText(result.cause));
   }
   if (page.empty()) {
     throw std::runtime_error("The page of site " + std::to_string(options.idSite) +

@@ -5,9 +5,9 @@
 namespace tarnwick {
 
 /// A program started as an alert must not inherit the connection and keep it open. `socket` is the system's handle.
-void keepFromPrograms(std::uintptr_t socket);
+void setCloseOnExec(std::uintptr_t socket);
 
 /// The same for all that this process has open beyond its standard streams, also what libraries have opened.
-void keepAllFromPrograms();
+void setCloseOnExecOnAll();
 
 }  // namespace tarnwick

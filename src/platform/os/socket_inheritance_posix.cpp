@@ -9,9 +9,9 @@
 
 namespace tarnwick {
 
-void keepFromPrograms(std::uintptr_t socket) { ::fcntl(static_cast<int>(socket), F_SETFD, FD_CLOEXEC); }
+void setCloseOnExec(std::uintptr_t socket) { ::fcntl(static_cast<int>(socket), F_SETFD, FD_CLOEXEC); }
 
-void keepAllFromPrograms() {
+void setCloseOnExecOnAll() {
   std::error_code unreadable;
   for (std::filesystem::directory_iterator entry("/dev/fd", unreadable), end; !unreadable && entry != end;
        entry.increment(unreadable)) {

@@ -4,11 +4,11 @@
 
 namespace tarnwick {
 
-void keepFromPrograms(std::uintptr_t socket) {
+void setCloseOnExec(std::uintptr_t socket) {
   SetHandleInformation(reinterpret_cast<HANDLE>(socket), HANDLE_FLAG_INHERIT, 0);
 }
 
 // A program that is started there inherits what is named to it, and nothing else.
-void keepAllFromPrograms() {}
+void setCloseOnExecOnAll() {}
 
 }  // namespace tarnwick

@@ -24,7 +24,7 @@ bool DetachedPrograms::start(const std::vector<std::string>& arguments) {
   process.setStandardInputFile(QProcess::nullDevice());
   process.setStandardOutputFile(QProcess::nullDevice());
   process.setStandardErrorFile(QProcess::nullDevice());
-  keepAllFromPrograms();
+  setCloseOnExecOnAll();
   return process.startDetached();
 }
 

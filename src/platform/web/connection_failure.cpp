@@ -29,7 +29,7 @@ std::string unreachedProxy(const std::string& detail) {
   return {};
 }
 
-TransferFailure notConnected(const TransferEnd& end, const AskedServer& server) {
+TransferResult notConnected(const TransferEnd& end, const ServerName& server) {
   if (const std::string proxy = unreachedProxy(end.detail); !proxy.empty()) {
     return {TransferFault::refused, "No connection to the proxy server " + quotable(proxy) + " could be made."};
   }
@@ -55,93 +55,92 @@ TransferFailure notConnected(const TransferEnd& end, const AskedServer& server) 
   }
 }
 
-TransferFailure untrusted(const AskedServer& server, const std::string& detail) {
-  const std::string start = "The certificate of the server " + server.place + " could not be verified: ";
-  constexpr std::string_view kProblem = "SSL certificate problem: ";
-  const auto problem = detail.find(kProblem);
-  if (problem != std::string::npos) {
-    return {TransferFault::certificate, start + quotable(detail.substr(problem + kProblem.size())) + "."};
+TransferResult untrusted(const TransferEnd& end, const ServerName& server) {
+  const auto because = [&server](const std::string& reason) {
+    return TransferResult{TransferFault::certificate,
+                          "The certificate of the server " + server.place + " could not be verified: " + reason + "."};
+  };
+  if (end.certificateError > 1) {
+    const auto colon = end.detail.find(": ");
+    return because(colon == std::string::npos ? "it is not valid" : quotable(end.detail.substr(colon + 2)));
   }
-  // The first two in the words of OpenSSL's side of libcurl, the others in those of Windows' own.
-  for (const std::string_view otherHost :
-       {"subject name", "subjectAltName", "check failed", "match connection hostname"}) {
-    if (detail.find(otherHost) != std::string::npos) {
-      return {TransferFault::certificate, start + "it was issued for another host."};
-    }
+  // Windows' own library has one result for both; this is its name for the other.
+  if (end.detail.find("UNTRUSTED_ROOT") != std::string::npos) {
+    return because("nobody whom this machine trusts has issued it");
   }
-  if (detail.find("UNTRUSTED_ROOT") != std::string::npos) {
-    return {TransferFault::certificate, start + "nobody whom this machine trusts has issued it."};
-  }
-  return {TransferFault::certificate, start + "it is not valid."};
+  return because(end.result == CURLE_PEER_FAILED_VERIFICATION ? "it was issued for another host" : "it is not valid");
 }
 
-TransferFailure malformed(const TransferEnd& end) {
+TransferResult malformed(const TransferEnd& end) {
   if (end.redirectedBy.empty()) {
     return badAddress(end.url);
   }
   return {TransferFault::badUrl,
-          "The server " + AskedServer(end.redirectedBy).place + " redirected to an address that is not valid."};
+          "The server " + ServerName(end.redirectedBy).place + " redirected to an address that is not valid."};
 }
 
 }  // namespace
 
-std::optional<TransferFailure> lackOfThisMachine(int error) {
+std::optional<TransferResult> resourceShortage(int error) {
   switch (error) {
     case EMFILE:
     case ENFILE:
-      return TransferFailure{TransferFault::shortage, "This machine has no more file handles for Tarnwick."};
+      return TransferResult{TransferFault::shortage, "This machine has no more file handles for Tarnwick."};
     case ENOBUFS:
     case ENOMEM:
-      return TransferFailure{TransferFault::shortage, "This machine has not enough memory for another connection."};
+      return TransferResult{TransferFault::shortage, "This machine has not enough memory for another connection."};
     default:
       return std::nullopt;
   }
 }
 
-TransferFailure withoutAnswer(const AskedServer& server) {
+TransferResult withoutAnswer(const ServerName& server) {
   return {TransferFault::dropped, "The server " + server.place + " closed the connection without an answer."};
 }
 
-TransferFailure unsecured(const AskedServer& server, const std::string& detail) {
-  const std::string start = "No secure connection to " + server.place + " could be made";
-  // What OpenSSL and the system say of a server that hangs up instead of going on with the handshake.
-  for (const std::string_view hungUp : {"SSL_ERROR_SYSCALL", "reset by peer", "unexpected eof"}) {
-    if (detail.find(hungUp) != std::string::npos) {
-      return {TransferFault::secureConnection, start + ": the server closed the connection."};
-    }
-  }
-  // "error:0A00010B:SSL routines::wrong version number": only the last piece says something to a reader.
+// "error:0A00010B:SSL routines::wrong version number, errno 0": only the last piece says something to a reader.
+std::string tlsReason(const std::string& detail) {
   const auto last = detail.rfind("::");
-  const std::string reason =
-      last == std::string::npos ? "" : detail.substr(last + 2, detail.find(',', last) - last - 2);
-  const bool isWord = !reason.empty() && !reason.starts_with("reason(");  // it has no word for this number
-  return {TransferFault::secureConnection, start + (isWord ? ": " + quotable(reason) + "." : ".")};
+  return last == std::string::npos ? "" : detail.substr(last + 2, detail.find(',', last) - last - 2);
 }
 
-std::optional<TransferFailure> failureToConnect(const TransferEnd& end, const AskedServer& server) {
+bool isHangUp(const std::string& tlsReason) { return tlsReason.starts_with("unexpected eof"); }
+
+TransferResult unsecured(const TransferEnd& end, const ServerName& server) {
+  const std::string reason = tlsReason(end.detail);
+  std::string words;
+  if (reason.empty() ? end.handshaking || end.systemError == ECONNRESET : isHangUp(reason)) {
+    words = ": the server closed the connection";
+  } else if (!reason.empty() && !reason.starts_with("reason(")) {  // OpenSSL has no word for this number
+    words = ": " + quotable(reason);
+  }
+  return {TransferFault::secureConnection, "No secure connection to " + server.place + " could be made" + words + "."};
+}
+
+std::optional<TransferResult> failureToConnect(const TransferEnd& end, const ServerName& server) {
   switch (end.result) {
     case CURLE_URL_MALFORMAT:
       return malformed(end);
     case CURLE_COULDNT_RESOLVE_HOST:
-      return TransferFailure{TransferFault::nameLookup, "The name of the host " + server.host + " could not be found."};
+      return TransferResult{TransferFault::nameLookup, "The name of the host " + server.host + " could not be found."};
     case CURLE_COULDNT_RESOLVE_PROXY:
-      return TransferFailure{TransferFault::nameLookup, "The name of the proxy server could not be found."};
+      return TransferResult{TransferFault::nameLookup, "The name of the proxy server could not be found."};
     case CURLE_COULDNT_CONNECT:
       return notConnected(end, server);
     case CURLE_PEER_FAILED_VERIFICATION:
     case CURLE_SSL_ISSUER_ERROR:
     case CURLE_SSL_INVALIDCERTSTATUS:
-      return untrusted(server, end.detail);
+      return untrusted(end, server);
     case CURLE_SSL_CACERT_BADFILE:
-      return TransferFailure{TransferFault::certificate,
-                             end.caFile.empty()
-                                 ? "The system's file of trusted certificates could not be read."
-                                 : "The file of trusted certificates " + quotable(end.caFile) + " could not be read."};
+      return TransferResult{TransferFault::certificate,
+                            end.caFile.empty()
+                                ? "The system's file of trusted certificates could not be read."
+                                : "The file of trusted certificates " + quotable(end.caFile) + " could not be read."};
     case CURLE_SSL_CONNECT_ERROR:
     case CURLE_SSL_CIPHER:
     case CURLE_SSL_CERTPROBLEM:
     case CURLE_USE_SSL_FAILED:
-      return unsecured(server, end.detail);
+      return unsecured(end, server);
     default:
       return std::nullopt;
   }

@@ -10,7 +10,7 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::size_t kLargestHeader = std::size_t{256} * 1024;
+constexpr int kLargestHeader = 256 * 1024;
 /// libcurl waits inside itself for the last replies of an FTP server; longer than this the window would seem frozen.
 constexpr std::chrono::milliseconds kLongestWaitInside{900};
 /// The same for a server that says something all the time, and thereby keeps libcurl from asking us; in seconds.
@@ -31,25 +31,25 @@ int numberOf(CURL* easy, CURLINFO what) {
   return static_cast<int>(number);
 }
 
-BrokenBound brokenBy(HeadFault fault) {
+AbortReason reasonOf(HeaderFault fault) {
   switch (fault) {
-    case HeadFault::unclearLength:
-      return BrokenBound::length;
-    case HeadFault::endlessPage:
-      return BrokenBound::page;
-    case HeadFault::otherProtocol:
-      return BrokenBound::protocol;
-    case HeadFault::none:
+    case HeaderFault::unclearLength:
+      return AbortReason::length;
+    case HeaderFault::endlessPage:
+      return AbortReason::page;
+    case HeaderFault::otherProtocol:
+      return AbortReason::protocol;
+    case HeaderFault::none:
       break;
   }
-  return BrokenBound::none;
+  return AbortReason::none;
 }
 
 }  // namespace
 
-CurlRequest::CurlRequest(RequestOrder order, const CurlTransfers::Options& options, CurlEventLoop& loop,
+CurlRequest::CurlRequest(Request request, const CurlTransfers::Options& options, CurlEventLoop& loop,
                          std::function<void(int)> onState)
-    : order_(std::move(order)),
+    : request_(std::move(request)),
       options_(options),
       loop_(loop),
       onState_(std::move(onState)),
@@ -89,20 +89,25 @@ curl_socket_t CurlRequest::onOpen(void* self, curlsocktype, curl_sockaddr* addre
 }
 
 int CurlRequest::onSocket(void* self, curl_socket_t socket, curlsocktype) {
-  keepFromPrograms(static_cast<std::uintptr_t>(socket));
+  setCloseOnExec(static_cast<std::uintptr_t>(socket));
   auto* const request = static_cast<CurlRequest*>(self);
-  request->answering_ = false;
+  request->connection_ = {};
   request->reach(transfer_state::connecting);
   return CURL_SOCKOPT_OK;
 }
 
 CURLcode CurlRequest::onHandshake(CURL*, void*, void* self) {
-  static_cast<CurlRequest*>(self)->reach(transfer_state::connected);
+  auto* const request = static_cast<CurlRequest*>(self);
+  request->connection_.handshaking = true;
+  request->reach(transfer_state::connected);
   return CURLE_OK;
 }
 
 int CurlRequest::onReady(void* self, char*, char*, int, int) {
-  static_cast<CurlRequest*>(self)->reach(transfer_state::requesting);
+  auto* const request = static_cast<CurlRequest*>(self);
+  request->connection_.ready = true;
+  request->connection_.earlierError = request->systemError();
+  request->reach(transfer_state::requesting);
   return CURL_PREREQFUNC_OK;
 }
 
@@ -128,7 +133,7 @@ bool CurlRequest::take(bool (CurlRequest::*add)(std::string_view), std::string_v
     return (this->*add)(piece);
   } catch (const std::exception&) {
     // No exception may cross libcurl.
-    bound_ = BrokenBound::memory;
+    aborted_ = AbortReason::memory;
     return false;
   }
 }
@@ -145,17 +150,17 @@ void CurlRequest::noteSent(curl_off_t bodyBytes) {
   }
   long requestBytes = 0;
   curl_easy_getinfo(easy_.get(), CURLINFO_REQUEST_SIZE, &requestBytes);
-  const auto wanted = order_.method == "POST" ? static_cast<curl_off_t>(order_.body.size()) : curl_off_t{0};
+  const auto wanted = request_.method == "POST" ? static_cast<curl_off_t>(request_.body.size()) : curl_off_t{0};
   if (requestBytes > 0 && bodyBytes >= wanted) {
     reach(transfer_state::requestSent);
   }
 }
 
 bool CurlRequest::addHeader(std::string_view line) {
-  answering_ = true;
+  connection_.answered = true;
   headerBytes_ += line.size();
-  bound_ = headerBytes_ > kLargestHeader ? BrokenBound::header : brokenBy(head_.add(line));
-  if (bound_ != BrokenBound::none) {
+  aborted_ = headerBytes_ > std::size_t{kLargestHeader} ? AbortReason::header : reasonOf(header_.add(line));
+  if (aborted_ != AbortReason::none) {
     return false;
   }
   // The lines of an FTP server come here too, its greeting before anything was asked.
@@ -179,7 +184,7 @@ bool CurlRequest::addHeader(std::string_view line) {
 bool CurlRequest::addPage(std::string_view piece) {
   reach(transfer_state::receivingResponse);
   if (piece.size() > options_.largestPage - page_.size() || (page_.empty() && announcedTooLarge())) {
-    bound_ = BrokenBound::page;
+    aborted_ = AbortReason::page;
     return false;
   }
   page_.append(piece);
@@ -200,8 +205,11 @@ bool CurlRequest::overFtp() const {
   return scheme != nullptr && lowerCase(scheme[0]) == 'f';
 }
 
-CURLcode CurlRequest::judged(CURLcode result) const {
-  return result == CURLE_OK && head_.open() ? CURLE_PARTIAL_FILE : result;
+TransferResult CurlRequest::finish(CURLcode reported) {
+  // libcurl takes an answer that breaks off inside its header for a whole one.
+  const CURLcode result = reported == CURLE_OK && header_.open() ? CURLE_PARTIAL_FILE : reported;
+  completeStates(result);
+  return result == CURLE_OK ? TransferResult{.page = std::move(page_)} : failure(result);
 }
 
 void CurlRequest::completeStates(CURLcode result) {
@@ -225,23 +233,41 @@ int CurlRequest::refusedSocket(CURLcode result) const {
   return refusedSocket_ == 0 && neededMore ? shortageOfSockets() : refusedSocket_;
 }
 
-TransferFailure CurlRequest::failure(CURLcode result) const {
+int CurlRequest::systemError() const {
+  const int error = errnoOfSocket(numberOf(easy_.get(), CURLINFO_OS_ERRNO));
+  return error == connection_.earlierError ? 0 : error;
+}
+
+// libcurl has bounds of its own for headers. What breaks them does not come to us; it is counted, or told as a lack of
+// memory when it is a single line.
+AbortReason CurlRequest::abortReason(CURLcode result) const {
+  if (aborted_ != AbortReason::none) {
+    return aborted_;
+  }
+  const bool longLine = result == CURLE_OUT_OF_MEMORY && state_ >= transfer_state::requesting && page_.empty();
+  const bool manyBytes = numberOf(easy_.get(), CURLINFO_HEADER_SIZE) > kLargestHeader;
+  return longLine || manyBytes ? AbortReason::header : AbortReason::none;
+}
+
+TransferResult CurlRequest::failure(CURLcode result) const {
   CURL* const easy = easy_.get();
   const std::string url = textOf(easy, CURLINFO_EFFECTIVE_URL);
   const std::string peer = textOf(easy, CURLINFO_PRIMARY_IP);
-  // A header line longer than libcurl's own bound is reported as a lack of memory.
-  const bool headerRefused = result == CURLE_OUT_OF_MEMORY && state_ >= transfer_state::requesting && page_.empty();
   return failureOf({.result = result,
                     .detail = detail_.data(),
-                    .url = url.empty() ? order_.url : url,
+                    .url = url.empty() ? request_.url : url,
                     .peer = peer.empty() ? "" : peer + " port " + std::to_string(numberOf(easy, CURLINFO_PRIMARY_PORT)),
-                    .systemError = errnoOfSocket(numberOf(easy, CURLINFO_OS_ERRNO)),
+                    .systemError = systemError(),
                     .refusedSocket = refusedSocket(result),
+                    .certificateError = numberOf(easy, CURLINFO_SSL_VERIFYRESULT),
                     .status = numberOf(easy, CURLINFO_RESPONSE_CODE),
                     .redirectedBy = redirectedBy_,
-                    .answered = answering_,
-                    .bound = headerRefused ? BrokenBound::header : bound_,
-                    .timeout = order_.timeout,
+                    .handshaking = connection_.handshaking,
+                    .ready = connection_.ready,
+                    .answered = connection_.answered,
+                    .chunked = header_.chunked(),
+                    .aborted = abortReason(result),
+                    .timeout = request_.timeout,
                     .largestPage = options_.largestPage,
                     .mostRedirects = kMostRedirects,
                     .caFile = options_.caFile});

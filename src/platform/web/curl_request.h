@@ -9,34 +9,22 @@
 #include <optional>
 #include <string>
 
-#include "platform/web/answer_head.h"
 #include "platform/web/curl_event_loop.h"
 #include "platform/web/curl_transfers.h"
+#include "platform/web/response_header.h"
 #include "platform/web/transfer_failure.h"
 
 namespace tarnwick {
 
-/// What one request asks for.
-struct RequestOrder {
-  std::string url{};
-  std::string userName{};
-  std::string password{};
-  std::chrono::seconds timeout{kDefaultRequestTimeout};
-  std::string method{};
-  std::string body{};
-  /// Header lines separated by CR LF.
-  std::string headers{};
-};
-
-/// Why `order` cannot be sent at all; nothing when it can.
-std::optional<TransferFailure> refusalOf(const RequestOrder& order);
+/// Why `request` cannot be sent at all; nothing when it can.
+std::optional<TransferResult> refusalOf(const Request& request);
 
 /// One request, its redirects and challenges included: an easy handle with its cookies, and the page so far.
 class CurlRequest {
  public:
   /// `onState` is called from inside libcurl with each state that is reached, in rising order without gaps; it must
-  /// not touch any transfer. REQUIRES: `refusalOf(order)` is nothing. `loop` outlives the request.
-  CurlRequest(RequestOrder order, const CurlTransfers::Options& options, CurlEventLoop& loop,
+  /// not touch any transfer. REQUIRES: `refusalOf(request)` is nothing. `loop` outlives the request.
+  CurlRequest(Request request, const CurlTransfers::Options& options, CurlEventLoop& loop,
               std::function<void(int)> onState);
   ~CurlRequest();
   CurlRequest(const CurlRequest&) = delete;
@@ -45,14 +33,9 @@ class CurlRequest {
   /// Starts it; `done` is called from the event loop with libcurl's result. False when there is no memory for it.
   bool start(std::function<void(CURLcode)> done);
 
-  /// What a transfer that ended with `result` really came to: libcurl takes an answer that breaks off inside its
-  /// header for a whole one.
-  CURLcode judged(CURLcode result) const;
-  /// Reports the states that had been reached when it ended but were not seen on the way.
-  void completeStates(CURLcode result);
-  /// Why it ended with `result`.
-  TransferFailure failure(CURLcode result) const;
-  std::string takePage() { return std::move(page_); }
+  /// Hands over what a transfer that libcurl ended with `reported` came to, after the states that it had reached but
+  /// that were not seen on the way have been reported.
+  TransferResult finish(CURLcode reported);
 
  private:
   static constexpr int kMostRedirects = 20;
@@ -60,6 +43,16 @@ class CurlRequest {
   using EasyHandle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
   using Caches = std::unique_ptr<CURLSH, decltype(&curl_share_cleanup)>;
   using LineList = std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)>;
+
+  struct Connection {
+    bool handshaking = false;
+    /// It takes requests.
+    bool ready = false;
+    /// Something has come back.
+    bool answered = false;
+    /// The system's error from before it was ready, as from another address of the host.
+    int earlierError = 0;
+  };
 
   void setCallbacks();
   std::chrono::milliseconds timeLimit() const;
@@ -79,6 +72,9 @@ class CurlRequest {
   static std::size_t onHeader(char* data, std::size_t size, std::size_t count, void* self);
   static std::size_t onPage(char* data, std::size_t size, std::size_t count, void* self);
 
+  void completeStates(CURLcode result);
+  TransferResult failure(CURLcode result) const;
+  AbortReason abortReason(CURLcode result) const;
   void reach(int state);
   void noteSent(curl_off_t bodyBytes);
   bool take(bool (CurlRequest::*add)(std::string_view), std::string_view piece);
@@ -88,8 +84,9 @@ class CurlRequest {
   bool waitsInside() const;
   bool overFtp() const;
   int refusedSocket(CURLcode result) const;
+  int systemError() const;
 
-  RequestOrder order_;
+  Request request_;
   CurlTransfers::Options options_;
   CurlEventLoop& loop_;
   std::function<void(int)> onState_;
@@ -99,14 +96,14 @@ class CurlRequest {
   std::array<char, CURL_ERROR_SIZE> detail_{};
   std::string page_;
   std::size_t headerBytes_ = 0;
-  AnswerHead head_;
+  ResponseHeader header_;
   // Where an answer has led elsewhere last.
   std::string redirectedBy_;
-  // Something has come back over the connection that was made last.
-  bool answering_ = false;
+  // The connection that was made last.
+  Connection connection_;
   // Why the system has refused the socket that was asked for last; 0 when it has not.
   int refusedSocket_ = 0;
-  BrokenBound bound_ = BrokenBound::none;
+  AbortReason aborted_ = AbortReason::none;
   int state_ = transfer_state::none;
 };
 

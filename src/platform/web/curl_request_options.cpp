@@ -18,7 +18,7 @@ constexpr std::chrono::seconds kLongestWait{INT_MAX / 1000};
 bool isToken(std::string_view text) {
   constexpr std::string_view kMarks = "!#$%&'*+-.^_`|~";
   return !text.empty() && std::ranges::all_of(text, [&](char c) {
-    return isLetter(c) || isDigit(c) || kMarks.find(c) != std::string_view::npos;
+    return isDigit(c) || isLetter(c) || kMarks.find(c) != std::string_view::npos;
   });
 }
 
@@ -29,16 +29,16 @@ void set(CURL* easy, CURLoption option, Value value) {
 
 }  // namespace
 
-std::optional<TransferFailure> refusalOf(const RequestOrder& order) {
-  const auto address = parseAddress(order.url);
+std::optional<TransferResult> refusalOf(const Request& request) {
+  const auto address = parseAddress(request.url);
   if (!address) {
-    return badAddress(order.url);
+    return badAddress(request.url);
   }
   if (!isFetchedScheme(address->scheme)) {
     return unfetchedScheme(address->scheme);
   }
-  if (!order.method.empty() && !isToken(order.method)) {
-    return badMethod(order.method);
+  if (!request.method.empty() && !isToken(request.method)) {
+    return badMethod(request.method);
   }
   return std::nullopt;
 }
@@ -67,7 +67,7 @@ void CurlRequest::setCallbacks() {
   set(easy, CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
 }
 
-std::chrono::milliseconds CurlRequest::timeLimit() const { return std::min(order_.timeout, kLongestWait); }
+std::chrono::milliseconds CurlRequest::timeLimit() const { return std::min(request_.timeout, kLongestWait); }
 
 void CurlRequest::setBounds() {
   CURL* const easy = easy_.get();
@@ -96,7 +96,7 @@ void CurlRequest::setCaches() {
 
 void CurlRequest::setTarget() {
   CURL* const easy = easy_.get();
-  const auto address = parseAddress(order_.url);
+  const auto address = parseAddress(request_.url);
   set(easy, CURLOPT_URL, address ? address->url.c_str() : "");
   set(easy, CURLOPT_PROTOCOLS_STR, kFetchedSchemes);
   set(easy, CURLOPT_REDIR_PROTOCOLS_STR, kFetchedSchemes);
@@ -112,13 +112,13 @@ void CurlRequest::setTarget() {
 
 void CurlRequest::setMethod() {
   CURL* const easy = easy_.get();
-  const std::string& method = order_.method;
+  const std::string& method = request_.method;
   if (method.empty() || method == "GET") {
     set(easy, CURLOPT_HTTPGET, 1L);
   } else if (method == "POST") {
     set(easy, CURLOPT_POST, 1L);
-    set(easy, CURLOPT_POSTFIELDS, order_.body.c_str());
-    set(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(order_.body.size()));
+    set(easy, CURLOPT_POSTFIELDS, request_.body.c_str());
+    set(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request_.body.size()));
   } else if (method == "HEAD") {
     set(easy, CURLOPT_NOBODY, 1L);
   } else {
@@ -137,7 +137,7 @@ void CurlRequest::setHeaders() {
   };
   // Without this a large body waits a second for a "100 Continue" that many servers never send.
   add("Expect:");
-  std::string_view rest = order_.headers;
+  std::string_view rest = request_.headers;
   while (!rest.empty()) {
     const auto end = std::min(rest.find_first_of("\r\n"), rest.size());
     if (end > 0) {
@@ -157,9 +157,9 @@ void CurlRequest::setCredentials() {
   CURL* const easy = easy_.get();
   // With more than one kind allowed nothing is sent before the server has asked and named its kinds.
   set(easy, CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_BASIC | CURLAUTH_DIGEST | CURLAUTH_NTLM));
-  if (!order_.userName.empty() || !order_.password.empty()) {
-    set(easy, CURLOPT_USERNAME, order_.userName.c_str());
-    set(easy, CURLOPT_PASSWORD, order_.password.c_str());
+  if (!request_.userName.empty() || !request_.password.empty()) {
+    set(easy, CURLOPT_USERNAME, request_.userName.c_str());
+    set(easy, CURLOPT_PASSWORD, request_.password.c_str());
   }
 }
 

@@ -9,8 +9,7 @@ struct CurlTransferControl::Run {
   /// Set when no further event of it may arrive. The control may be gone then.
   bool over = false;
   std::unique_ptr<CurlRequest> request;
-  TransferFailure failure{};
-  std::string page{};
+  TransferResult result{};
 };
 
 CurlTransferControl::CurlTransferControl(std::shared_ptr<CurlEventLoop> loop, CurlTransfers::Options options)
@@ -18,45 +17,38 @@ CurlTransferControl::CurlTransferControl(std::shared_ptr<CurlEventLoop> loop, Cu
 
 CurlTransferControl::~CurlTransferControl() { endRun(); }
 
-void CurlTransferControl::setRequestTimeout(std::chrono::seconds timeout) {
-  order_.timeout = timeout.count() > 0 ? timeout : kDefaultRequestTimeout;
-}
-
-void CurlTransferControl::execute(const std::string& operation, const std::string& data, const std::string& headers) {
+void CurlTransferControl::execute(Request request) {
   endRun();
-  forgetResult();
-  order_.method = operation;
-  order_.body = data;
-  order_.headers = headers;
+  result_ = {};
+  if (request.timeout <= std::chrono::seconds::zero()) {
+    request.timeout = kDefaultRequestTimeout;
+  }
   run_ = std::make_shared<Run>();
-  begin(run_);
+  start(std::move(request));
 }
 
-void CurlTransferControl::begin(const std::shared_ptr<Run>& run) {
-  if (auto refusal = refusalOf(order_)) {
-    run->failure = std::move(*refusal);
-    report(transfer_state::error);
+void CurlTransferControl::start(Request request) {
+  Run& run = *run_;
+  if (auto refusal = refusalOf(request)) {
+    finishWith(run, std::move(*refusal));
     return;
   }
-  run->request = std::make_unique<CurlRequest>(order_, options_, *loop_, [this](int state) { report(state); });
+  run.request =
+      std::make_unique<CurlRequest>(std::move(request), options_, *loop_, [this](int state) { report(state); });
   // The request ends its transfer when it goes, so `run` and `this` are there when it is called.
-  if (!run->request->start([this, one = run.get()](CURLcode result) { ended(*one, result); })) {
-    run->failure = noMemory();
-    report(transfer_state::error);
+  if (!run.request->start([this, &run](CURLcode result) { finish(run, result); })) {
+    finishWith(run, noMemory());
   }
 }
 
-void CurlTransferControl::ended(Run& run, CURLcode reported) {
-  const CURLcode result = run.request->judged(reported);
-  run.request->completeStates(result);
-  if (result == CURLE_OK) {
-    run.page = run.request->takePage();
-    report(transfer_state::responseCompleted);
-  } else {
-    run.failure = run.request->failure(result);
-    report(transfer_state::error);
-  }
+void CurlTransferControl::finish(Run& run, CURLcode reported) {
+  finishWith(run, run.request->finish(reported));
   run.request.reset();
+}
+
+void CurlTransferControl::finishWith(Run& run, TransferResult result) {
+  run.result = std::move(result);
+  report(run.result.fault == TransferFault::none ? transfer_state::responseCompleted : transfer_state::error);
 }
 
 void CurlTransferControl::report(int state) {
@@ -70,10 +62,9 @@ void CurlTransferControl::report(int state) {
 }
 
 void CurlTransferControl::deliver(const std::shared_ptr<Run>& run, int state) {
-  const bool last = state == transfer_state::error || state == transfer_state::responseCompleted;
+  const bool last = transfer_state::isLast(state);
   if (last) {
-    failure_ = std::move(run->failure);
-    page_ = std::move(run->page);
+    result_ = std::move(run->result);
   }
   // A copy, since the handler may set another one or destroy the control.
   const auto stateHandler = stateHandler_;
@@ -93,7 +84,7 @@ void CurlTransferControl::deliver(const std::shared_ptr<Run>& run, int state) {
 void CurlTransferControl::cancel() {
   if (run_) {
     endRun();
-    forgetResult();
+    result_ = {};
   }
 }
 
@@ -103,25 +94,6 @@ void CurlTransferControl::endRun() {
     run_->request.reset();
     run_.reset();
   }
-}
-
-void CurlTransferControl::forgetResult() {
-  failure_ = {};
-  page_ = {};
-  taken_ = 0;
-}
-
-std::string CurlTransferControl::getChunk(std::size_t size) {
-  if (taken_ == 0 && size >= page_.size()) {
-    return std::exchange(page_, {});
-  }
-  std::string chunk = page_.substr(taken_, size);
-  taken_ += chunk.size();
-  if (taken_ == page_.size()) {
-    page_ = {};
-    taken_ = 0;
-  }
-  return chunk;
 }
 
 }  // namespace tarnwick

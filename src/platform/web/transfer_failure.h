@@ -10,20 +10,13 @@
 
 namespace tarnwick {
 
-/// Why a transfer failed: the number and the words. The words name the thing and are the same each time the same
-/// thing fails, since a check's text is compared with that of the next check: no times, byte counts or local ports.
-struct TransferFailure {
-  TransferFault fault = TransferFault::none;
-  std::string cause{};
-};
-
-/// A bound of ours that ended a transfer, where libcurl only knows that a callback refused to go on.
-enum class BrokenBound { none, page, header, memory, length, protocol };
+/// Why we ended a transfer ourselves, where libcurl only knows that a callback refused to go on.
+enum class AbortReason { none, page, header, memory, length, protocol };
 
 /// What is known of a transfer that libcurl ended with an error.
 struct TransferEnd {
   CURLcode result = CURLE_OK;
-  /// libcurl's own words; may be empty.
+  /// libcurl's own words; empty when it has none, as for a transfer that the event loop has ended.
   std::string detail{};
   /// The address that was asked last: after a redirect the new one.
   std::string url{};
@@ -33,14 +26,22 @@ struct TransferEnd {
   int systemError = 0;
   /// That with which it has refused to give out a socket.
   int refusedSocket = 0;
+  /// OpenSSL's number for what is wrong with the certificate's chain; 0 and 1 name nothing.
+  int certificateError = 0;
   /// The status of the last HTTP answer or FTP reply; 0 for none.
   int status = 0;
   /// The address whose server has led to the one that was asked last, or to one that could not be asked; empty when
   /// none has.
   std::string redirectedBy{};
+  /// Its handshake had begun, which only a TLS library tells that also names its reasons.
+  bool handshaking = false;
+  /// The last connection had got as far as taking a request: through the proxy server, the handshake, the log-in.
+  bool ready = true;
   /// Something had come back over the last connection.
   bool answered = false;
-  BrokenBound bound = BrokenBound::none;
+  /// Its page came in chunks.
+  bool chunked = false;
+  AbortReason aborted = AbortReason::none;
   std::chrono::seconds timeout{0};
   std::size_t largestPage = 0;
   int mostRedirects = 0;
@@ -48,12 +49,13 @@ struct TransferEnd {
   std::string caFile{};
 };
 
-TransferFailure failureOf(const TransferEnd& end);
+/// The fault and the words for it, which name the thing.
+TransferResult failureOf(const TransferEnd& end);
 
 /// The failures that are found before anything is sent.
-TransferFailure badAddress(const std::string& text);
-TransferFailure unfetchedScheme(const std::string& scheme);
-TransferFailure badMethod(const std::string& method);
-TransferFailure noMemory();
+TransferResult badAddress(const std::string& text);
+TransferResult unfetchedScheme(const std::string& scheme);
+TransferResult badMethod(const std::string& method);
+TransferResult noMemory();
 
 }  // namespace tarnwick

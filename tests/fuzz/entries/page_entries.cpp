@@ -11,7 +11,7 @@
 #include "base/windows_1252.h"
 #include "engine/page_fetch.h"
 #include "platform/address.h"
-#include "platform/web/answer_head.h"
+#include "platform/web/response_header.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -73,14 +73,14 @@ struct Fields {
     }
   }
 
-  HeadFault fault() const {
+  HeaderFault fault() const {
     if (chunked) {
-      return HeadFault::none;
+      return HeaderFault::none;
     }
     if (unclear || lengths.size() > 1) {
-      return HeadFault::unclearLength;
+      return HeaderFault::unclearLength;
     }
-    return endless ? HeadFault::endlessPage : HeadFault::none;
+    return endless ? HeaderFault::endlessPage : HeaderFault::none;
   }
 };
 
@@ -126,19 +126,19 @@ void fuzzAddress(std::string_view input) {
           "the address does not mean itself");
 }
 
-void fuzzAnswerHead(std::string_view input) {
-  AnswerHead head;
+void fuzzResponseHeader(std::string_view input) {
+  ResponseHeader head;
   Fields fields;
   bool open = false;
   while (!input.empty()) {
     const std::size_t end = std::min(input.find('\n'), input.size() - 1);
     const std::string line(input.substr(0, end + 1));
     input.remove_prefix(end + 1);
-    HeadFault expected = HeadFault::none;
+    HeaderFault expected = HeaderFault::none;
     if (!open && line.starts_with("HTTP/")) {
       open = true;
       fields = {};
-      expected = statusOf(line) == 101 ? HeadFault::otherProtocol : HeadFault::none;
+      expected = statusOf(line) == 101 ? HeaderFault::otherProtocol : HeaderFault::none;
     } else if (open && trimmed(line).empty()) {
       open = false;
       expected = fields.fault();

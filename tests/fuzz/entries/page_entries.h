@@ -12,9 +12,9 @@ void fuzzUrlEncode(std::string_view input);
 // Any text is refused, or gives an address that names one host, can stand in a request, and means itself.
 void fuzzAddress(std::string_view input);
 // The header of any answer is judged as its fields, taken one by one, say.
-void fuzzAnswerHead(std::string_view input);
+void fuzzResponseHeader(std::string_view input);
 
 inline constexpr std::array<FuzzTarget, 3> kPageFuzzTargets{
-    {{"url_encode", fuzzUrlEncode}, {"address", fuzzAddress}, {"answer_head", fuzzAnswerHead}}};
+    {{"url_encode", fuzzUrlEncode}, {"address", fuzzAddress}, {"response_header", fuzzResponseHeader}}};
 
 }  // namespace tarnwick::testing

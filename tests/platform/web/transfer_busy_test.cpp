@@ -29,7 +29,7 @@ class TransferWhileBusy : public ::testing::Test {
     server_.respond("/a", {.body = "hello"});
     server_.respond("/slow", {.body = "hello", .delay = milliseconds{1200}});
     server_.respond("/silent", {.hold = true});
-    probe_.control->setRequestTimeout(kTimeout);
+    probe_.request.timeout = kTimeout;
   }
 
   std::string fetchWithBusyTimes(const std::string& path, int state, int times, milliseconds time) {

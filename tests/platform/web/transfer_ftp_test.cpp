@@ -27,8 +27,8 @@ TEST_F(TransferFtp, FileIsFetchedUnchanged) {
 TEST_F(TransferFtp, CredentialsAreUsed) {
   server_.userName = "me";
   server_.password = "secret";
-  probe_.control->setUserName("me");
-  probe_.control->setPassword("secret");
+  probe_.request.userName = "me";
+  probe_.request.password = "secret";
   EXPECT_EQ(probe_.fetch(server_.url("/page.txt")), server_.files["page.txt"]);
 }
 

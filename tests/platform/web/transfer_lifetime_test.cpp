@@ -31,7 +31,7 @@ TEST_F(TransferLifetime, CancelEndsTheRequestAtOnceAndSilently) {
   EXPECT_TRUE(waitUntil([&] { return server_.openConnections() == 0; })) << "the connection is closed";
   EXPECT_EQ(probe_.states, states);
   EXPECT_EQ(probe_.idles, 0);
-  EXPECT_EQ(probe_.control->getChunk(100), "");
+  EXPECT_EQ(probe_.control->takeResult().page, "");
 }
 
 TEST_F(TransferLifetime, CancelledControlCanBeUsedAgain) {
@@ -84,7 +84,6 @@ TEST_F(TransferLifetime, HandlerMayCancelItsOwnRequest) {
 TEST_F(TransferLifetime, HandlerMayDestroyTheControl) {
   for (const int when : kAllStates) {
     auto control = transfers_.makeTransferControl();
-    control->setUrl(server_.url("/a"));
     bool idle = false;
     control->onIdle([&] { idle = true; });
     control->onStateChanged([&](int state) {
@@ -92,7 +91,7 @@ TEST_F(TransferLifetime, HandlerMayDestroyTheControl) {
         control.reset();
       }
     });
-    control->execute("GET", "", "");
+    control->execute({.url = server_.url("/a")});
     EXPECT_TRUE(waitUntil([&] { return !control; })) << when;
     EXPECT_FALSE(idle);
   }
@@ -101,7 +100,6 @@ TEST_F(TransferLifetime, HandlerMayDestroyTheControl) {
 
 TEST_F(TransferLifetime, HandlerMayDestroyTheControlAndWait) {
   auto control = transfers_.makeTransferControl();
-  control->setUrl(server_.url("/a"));
   bool done = false;
   control->onStateChanged([&](int state) {
     if (state == transfer_state::connecting) {
@@ -110,15 +108,14 @@ TEST_F(TransferLifetime, HandlerMayDestroyTheControlAndWait) {
       done = true;
     }
   });
-  control->execute("GET", "", "");
+  control->execute({.url = server_.url("/a")});
   EXPECT_TRUE(waitUntil([&] { return done; }));
 }
 
 TEST_F(TransferLifetime, IdleHandlerMayDestroyTheControl) {
   auto control = transfers_.makeTransferControl();
-  control->setUrl(server_.url("/a"));
   control->onIdle([&] { control.reset(); });
-  control->execute("GET", "", "");
+  control->execute({.url = server_.url("/a")});
   EXPECT_TRUE(waitUntil([&] { return !control; }));
 }
 
@@ -150,21 +147,19 @@ TEST_F(TransferLifetime, HandlerMayCancelAnotherControl) {
 TEST_F(TransferLifetime, HandlerMayDestroyEverything) {
   auto transfers = std::make_unique<CurlTransfers>();
   auto control = transfers->makeTransferControl();
-  control->setUrl(server_.url("/a"));
   control->onStateChanged([&](int state) {
     if (state == transfer_state::receivingResponse) {
       control.reset();
       transfers.reset();
     }
   });
-  control->execute("GET", "", "");
+  control->execute({.url = server_.url("/a")});
   EXPECT_TRUE(waitUntil([&] { return !transfers; }));
 }
 
 TEST_F(TransferLifetime, DestroyingARunningControlClosesItsConnection) {
   auto control = transfers_.makeTransferControl();
-  control->setUrl(server_.url("/silent"));
-  control->execute("GET", "", "");
+  control->execute({.url = server_.url("/silent")});
   ASSERT_TRUE(waitUntil([&] { return server_.inFlight() == 1; }));
   control.reset();
   EXPECT_TRUE(waitUntil([&] { return server_.openConnections() == 0; }));

@@ -50,15 +50,12 @@ TEST_F(TransferPage, AnswerThatEndsWithTheConnectionIsWhole) {
   EXPECT_TRUE(probe_.succeeded());
 }
 
-TEST_F(TransferPage, PiecesHaveTheWantedSizeAndEndEmpty) {
+TEST_F(TransferPage, ResultIsHandedOverOnce) {
   server_.respond("/a", {.body = "0123456789"});
   probe_.start(server_.url("/a"));
   ASSERT_TRUE(waitUntil([&] { return probe_.ended(); }));
-  EXPECT_EQ(probe_.control->getChunk(4), "0123");
-  EXPECT_EQ(probe_.control->getChunk(4), "4567");
-  EXPECT_EQ(probe_.control->getChunk(4), "89");
-  EXPECT_EQ(probe_.control->getChunk(4), "");
-  EXPECT_EQ(probe_.control->getChunk(4), "");
+  EXPECT_EQ(probe_.control->takeResult().page, "0123456789");
+  EXPECT_EQ(probe_.control->takeResult().page, "");
 }
 
 TEST_F(TransferPage, UntakenPageIsGoneAtTheNextRequest) {
@@ -67,7 +64,7 @@ TEST_F(TransferPage, UntakenPageIsGoneAtTheNextRequest) {
   probe_.start(server_.url("/a"));
   ASSERT_TRUE(waitUntil([&] { return probe_.ended(); }));
   probe_.start(server_.url("/silent"));
-  EXPECT_EQ(probe_.control->getChunk(100), "");
+  EXPECT_EQ(probe_.control->takeResult().page, "");
 }
 
 TEST_F(TransferPage, PageOfTheLargestSizeIsTaken) {
@@ -112,7 +109,7 @@ TEST_F(TransferPage, HeaderWithoutEndIsTooLarge) {
   }
 }
 
-TEST_F(TransferPage, PageOf64MebibytesIsTakenAndGivenOutInSmallPieces) {
+TEST_F(TransferPage, PageOf64MebibytesIsTaken) {
   server_.respond("/large", {.body = std::string(kLargestPage, 'x')});
   EXPECT_EQ(probe_.fetch(server_.url("/large")).size(), kLargestPage);
 }

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/transfer_control.h"
@@ -24,8 +25,12 @@ class TransferProbe {
              const std::string& headers = {}) {
     states.clear();
     idles = 0;
-    control->setUrl(url);
-    control->execute(method, body, headers);
+    result_ = {};
+    request.url = url;
+    request.method = method;
+    request.body = body;
+    request.headers = headers;
+    control->execute(request);
   }
 
   bool ended() const { return !control->stillExecuting(); }
@@ -39,23 +44,29 @@ class TransferProbe {
     return page();
   }
 
-  /// All of the page that has not been taken yet.
-  std::string page() const {
-    std::string whole;
-    for (std::string piece = control->getChunk(1024); !piece.empty(); piece = control->getChunk(1024)) {
-      whole += piece;
-    }
-    return whole;
-  }
+  const std::string& page() { return result().page; }
 
   bool succeeded() const { return !states.empty() && states.back() == transfer_state::responseCompleted; }
   bool failed() const { return !states.empty() && states.back() == transfer_state::error; }
-  TransferFault fault() const { return static_cast<TransferFault>(control->responseCode()); }
-  const std::string& cause() const { return control->responseInfo(); }
+  TransferFault fault() { return result().fault; }
+  const std::string& cause() { return result().cause; }
 
+  /// Its credentials and its time-out are those of all requests.
+  Request request;
   std::unique_ptr<TransferControl> control;
   std::vector<int> states;
   int idles = 0;
+
+ private:
+  const TransferResult& result() {
+    TransferResult fresh = control->takeResult();
+    if (fresh.fault != TransferFault::none || !fresh.page.empty()) {
+      result_ = std::move(fresh);
+    }
+    return result_;
+  }
+
+  TransferResult result_;
 };
 
 }  // namespace tarnwick::testing

@@ -19,8 +19,8 @@ class TransferRequest : public ::testing::Test {
   const HttpRequest& sent(std::size_t index = 0) const { return server_.requests().at(index); }
 
   void setCredentials(const std::string& userName, const std::string& password) {
-    probe_.control->setUserName(userName);
-    probe_.control->setPassword(password);
+    probe_.request.userName = userName;
+    probe_.request.password = password;
   }
 
   HttpServer server_;
@@ -117,7 +117,7 @@ TEST_F(TransferRequest, HttpErrorPageIsAPage) {
   server_.respond("/broken", {.status = 500, .body = "broken"});
   EXPECT_EQ(probe_.fetch(server_.url("/gone")), "gone");
   EXPECT_TRUE(probe_.succeeded());
-  EXPECT_EQ(probe_.control->responseCode(), 0);
+  EXPECT_EQ(probe_.fault(), TransferFault::none);
   EXPECT_EQ(probe_.cause(), "");
   EXPECT_EQ(probe_.fetch(server_.url("/broken")), "broken");
 }

@@ -73,7 +73,7 @@ TEST_F(TransferStates, AnswerUnderWayIsReceivingResponse) {
   probe_.start(server_.url("/drip"));
   EXPECT_TRUE(waitUntil([&] { return probe_.reached(transfer_state::receivingResponse); }));
   EXPECT_EQ(probe_.states.back(), transfer_state::receivingResponse);
-  EXPECT_EQ(probe_.control->getChunk(10), "") << "the page is given out after the last state only";
+  EXPECT_EQ(probe_.control->takeResult().page, "") << "the page is given out after the last state only";
   EXPECT_TRUE(waitUntil([&] { return probe_.ended(); }));
   EXPECT_EQ(probe_.page(), "slowly");
 }

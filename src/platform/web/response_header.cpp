@@ -1,4 +1,4 @@
-#include "platform/web/answer_head.h"
+#include "platform/web/response_header.h"
 
 #include <algorithm>
 #include <charconv>
@@ -24,9 +24,9 @@ int statusOf(std::string_view firstLine) {
   return std::max(status, 0);
 }
 
-HeadFault AnswerHead::add(std::string_view line) {
+HeaderFault ResponseHeader::add(std::string_view line) {
   if (!open_) {
-    return line.starts_with("HTTP/") ? begin(line) : HeadFault::none;
+    return line.starts_with("HTTP/") ? begin(line) : HeaderFault::none;
   }
   if (trimmed(line).empty()) {
     return end();
@@ -38,28 +38,28 @@ HeadFault AnswerHead::add(std::string_view line) {
   } else if (equalsIgnoringCase(name, "transfer-encoding")) {
     chunked_ = true;
   }
-  return HeadFault::none;
+  return HeaderFault::none;
 }
 
-HeadFault AnswerHead::begin(std::string_view line) {
+HeaderFault ResponseHeader::begin(std::string_view line) {
   *this = {};
   open_ = true;
-  return statusOf(line) == kSwitchingProtocols ? HeadFault::otherProtocol : HeadFault::none;
+  return statusOf(line) == kSwitchingProtocols ? HeaderFault::otherProtocol : HeaderFault::none;
 }
 
-HeadFault AnswerHead::end() {
+HeaderFault ResponseHeader::end() {
   open_ = false;
   if (chunked_) {
-    return HeadFault::none;
+    return HeaderFault::none;
   }
   if (unclear_) {
-    return HeadFault::unclearLength;
+    return HeaderFault::unclearLength;
   }
-  return endless_ ? HeadFault::endlessPage : HeadFault::none;
+  return endless_ ? HeaderFault::endlessPage : HeaderFault::none;
 }
 
 // Several of the same value are as good as one (RFC 9110, section 8.6).
-void AnswerHead::addLengths(std::string_view values) {
+void ResponseHeader::addLengths(std::string_view values) {
   for (;;) {
     const auto comma = std::min(values.find(','), values.size());
     addLength(trimmed(values.substr(0, comma)));
@@ -70,7 +70,7 @@ void AnswerHead::addLengths(std::string_view values) {
   }
 }
 
-void AnswerHead::addLength(std::string_view value) {
+void ResponseHeader::addLength(std::string_view value) {
   std::size_t length = 0;
   const auto [rest, error] = std::from_chars(value.data(), value.data() + value.size(), length);
   if (rest != value.data() + value.size() || error == std::errc::invalid_argument) {

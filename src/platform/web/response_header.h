@@ -8,7 +8,7 @@
 namespace tarnwick {
 
 /// What is wrong with the header of an HTTP answer.
-enum class HeadFault {
+enum class HeaderFault {
   none,
   /// It announces no length that can be relied on: several that differ, or none in decimal digits.
   unclearLength,
@@ -19,18 +19,20 @@ enum class HeadFault {
 };
 
 /// Follows the header lines of one answer after the other, and finds what the transfer library lets pass.
-class AnswerHead {
+class ResponseHeader {
  public:
   /// Takes the next line, its line end included. Lines outside of a header (trailers, the replies of an FTP server) do
   /// not count. A fault of lengths is found at the header's end: chunks overrule every length (RFC 9112, section 6.3).
-  HeadFault add(std::string_view line);
+  HeaderFault add(std::string_view line);
 
+  /// The page comes in chunks, without a length of the whole.
+  bool chunked() const { return chunked_; }
   /// True from an answer's first line until its empty line: a connection that ends here ends inside a header.
   bool open() const { return open_; }
 
  private:
-  HeadFault begin(std::string_view line);
-  HeadFault end();
+  HeaderFault begin(std::string_view line);
+  HeaderFault end();
   void addLengths(std::string_view values);
   void addLength(std::string_view value);
 

@@ -1,4 +1,4 @@
-#include "platform/web/asked_server.h"
+#include "platform/web/server_name.h"
 
 #include <algorithm>
 
@@ -14,7 +14,7 @@ std::string quotable(std::string_view text) {
   return text.size() > kLongest ? result + "..." : result;
 }
 
-AskedServer::AskedServer(const std::string& url) {
+ServerName::ServerName(const std::string& url) {
   if (const auto address = parseAddress(url)) {
     scheme = address->scheme;
     host = quotable(address->host);

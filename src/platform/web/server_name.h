@@ -9,8 +9,8 @@ namespace tarnwick {
 std::string quotable(std::string_view text);
 
 /// The server that an address leads to, as the sentences name it.
-struct AskedServer {
-  explicit AskedServer(const std::string& url);
+struct ServerName {
+  explicit ServerName(const std::string& url);
 
   /// In small letters; empty when the address cannot be understood.
   std::string scheme;
