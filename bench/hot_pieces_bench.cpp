@@ -128,7 +128,7 @@ void recordResult(benchmark::State& state) {
   const std::string content = page(static_cast<std::size_t>(state.range(0)));
   OneSite site(content);
   for (auto _ : state) {
-    Transaction whole = site.results.oneRecord();
+    Transaction whole = site.results.beginTransaction();
     benchmark::DoNotOptimize(site.results.testSite(1, content, 0, {}));
     site.results.setStatus(1, true);
     site.results.updateStatusCounter(1, true);

@@ -26,7 +26,7 @@ class ResultRecording {
 
   /// Makes what is recorded during the returned object's life one whole, kept when it is committed. REQUIRES: no wait
   /// for the network meanwhile, since the database is locked for writing.
-  Transaction oneRecord() { return Transaction(db_); }
+  Transaction beginTransaction() { return Transaction(db_); }
 
   /// Raises DataAccessError when no result could be stored just now.
   void proveRecording() { db_.conn().proveWritable(); }

@@ -70,13 +70,13 @@ void TestPass::test(TextTable sites) {
   awaitAllSlots();
   drain();
   if (!stopped()) {
-    raisePutOff();
+    raiseDeferred();
   }
 }
 
 // A full counter costs nothing that has to be done again; a result that could not be recorded must not hide behind it.
-void TestPass::raisePutOff() const {
-  for (const std::exception_ptr& fault : {putOff_, overflow_}) {
+void TestPass::raiseDeferred() const {
+  for (const std::exception_ptr& fault : {deferred_, overflow_}) {
     if (fault) {
       std::rethrow_exception(fault);
     }
@@ -95,7 +95,7 @@ void TestPass::setUpPool() {
 void TestPass::dispatchAll() {
   while (next_ <= count() && !stopped()) {
     needs_.pump.pump();
-    settleRowsWithoutRequest();
+    recordRowsWithoutAddress();
     const std::vector<std::int16_t> freeSlots = needs_.pool.getAryFreeSockets();
     if (freeSlots.empty() && next_ <= count() && !stopped()) {
       needs_.pump.waitForEvent();
@@ -110,8 +110,8 @@ void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
     if (stopped()) {
       return;
     }
-    judge(slot);
-    settleRowsWithoutRequest();
+    finishSlot(slot);
+    recordRowsWithoutAddress();
     if (stopped() || next_ > count()) {
       return;
     }
@@ -122,7 +122,7 @@ void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
 
 // A row without an address needs no slot: it fails on the spot, as a failed request of its own site. One whose id the
 // program cannot use is left out, and told when the others have been tested.
-void TestPass::settleRowsWithoutRequest() {
+void TestPass::recordRowsWithoutAddress() {
   while (!stopped() && next_ <= count()) {
     if (hasUsableId(next_)) {
       if (!url(next_).empty()) {
@@ -141,7 +141,7 @@ bool TestPass::hasUsableId(std::size_t row) {
     idSite(row);
     return true;
   } catch (const OverflowError&) {
-    putOff(overflow_, std::current_exception());
+    deferFault(overflow_, std::current_exception());
     return false;
   }
 }
@@ -170,12 +170,12 @@ void TestPass::drain() {
     // Five large pages in a row would hold up the window for the time of all of them.
     needs_.pump.pump();
     if (!stopped()) {
-      judge(slot);
+      finishSlot(slot);
     }
   }
 }
 
-void TestPass::judge(std::int16_t slot) {
+void TestPass::finishSlot(std::int16_t slot) {
   InetPool& pool = needs_.pool;
   if (!pool.socketDone(slot)) {
     return;
@@ -184,7 +184,7 @@ void TestPass::judge(std::int16_t slot) {
   const std::size_t row = pool.socketRow(slot);
   if (pool.siteErrCode(row) == static_cast<std::int32_t>(TransferFault::shortage)) {
     // The request was not even made, so nothing is known of the site. It is due as before.
-    putOff(putOff_, std::make_exception_ptr(std::runtime_error(pool.siteErrDescription(row))));
+    deferFault(deferred_, std::make_exception_ptr(std::runtime_error(pool.siteErrDescription(row))));
   } else {
     record(row, pool.siteContent(row), pool.siteErrCode(row), pool.siteErrDescription(row));
   }
@@ -197,30 +197,30 @@ void TestPass::record(std::size_t row, const std::string& content, std::int32_t 
   try {
     recordResult(row, content, errCode, errDescription);
   } catch (const DataAccessError&) {
-    putOffUnlessGeneral();
+    deferUnlessGeneral();
   } catch (const std::bad_alloc&) {
-    putOffUnlessGeneral();
+    deferUnlessGeneral();
   }
 }
 
 // A page too large for what is left of the disk or of the memory must not keep the other sites from being watched, as
 // long as theirs can be recorded. REQUIRES: called from a handler of an exception.
-void TestPass::putOffUnlessGeneral() {
+void TestPass::deferUnlessGeneral() {
   const std::exception_ptr fault = std::current_exception();
   try {
     needs_.results.proveRecording();
   } catch (const std::exception&) {
     std::rethrow_exception(fault);
   }
-  putOff(putOff_, fault);
+  deferFault(deferred_, fault);
 }
 
-void TestPass::putOff(std::exception_ptr& first, const std::exception_ptr& fault) { first = first ? first : fault; }
+void TestPass::deferFault(std::exception_ptr& first, const std::exception_ptr& fault) { first = first ? first : fault; }
 
 void TestPass::recordResult(std::size_t row, const std::string& content, std::int32_t errCode,
                             const std::string& errDescription) {
   const std::int16_t id = idSite(row);
-  Transaction whole = needs_.results.oneRecord();
+  Transaction whole = needs_.results.beginTransaction();
   if (!stillAsSelected(row)) {
     return;
   }
@@ -251,7 +251,7 @@ void TestPass::countResult(std::int16_t id, bool passed) {
   try {
     run_.countResult(id, passed);
   } catch (const OverflowError&) {
-    putOff(overflow_, std::current_exception());
+    deferFault(overflow_, std::current_exception());
   }
 }
 

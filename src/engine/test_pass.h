@@ -36,20 +36,20 @@ class TestPass {
   void setUpPool();
   void dispatchAll();
   void offerSlots(const std::vector<std::int16_t>& freeSlots);
-  void settleRowsWithoutRequest();
+  void recordRowsWithoutAddress();
   bool hasUsableId(std::size_t row);
   void sendRequest(std::int16_t slot);
   void awaitAllSlots();
   void drain();
-  void judge(std::int16_t slot);
+  void finishSlot(std::int16_t slot);
   void record(std::size_t row, const std::string& content, std::int32_t errCode, const std::string& errDescription);
   void recordResult(std::size_t row, const std::string& content, std::int32_t errCode,
                     const std::string& errDescription);
-  void putOffUnlessGeneral();
+  void deferUnlessGeneral();
   FirstBaseline firstBaselineOf(std::int16_t id) const;
   void countResult(std::int16_t id, bool passed);
-  static void putOff(std::exception_ptr& first, const std::exception_ptr& fault);
-  void raisePutOff() const;
+  static void deferFault(std::exception_ptr& first, const std::exception_ptr& fault);
+  void raiseDeferred() const;
   bool stillAsSelected(std::size_t row) const;
   void nextRow();
   void showProgress();
@@ -67,7 +67,7 @@ class TestPass {
   std::vector<std::int16_t> brightened_;
   // The first faults that concern one site alone, told when the others have been tested: one that left its check to be
   // done again, and one that did not.
-  std::exception_ptr putOff_;
+  std::exception_ptr deferred_;
   std::exception_ptr overflow_;
   std::size_t next_ = 1;
   std::int64_t progressStep_ = 0;

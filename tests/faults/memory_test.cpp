@@ -38,7 +38,7 @@ class MemorySweep : public ::testing::TestWithParam<Allocator> {
 
   static void record(m& data) {
     constexpr std::int16_t kLarge = 2;
-    Transaction whole = data.oneRecord();
+    Transaction whole = data.beginTransaction();
     EXPECT_TRUE(data.testSite(kLarge, UsedFolder::largePage(), 0, "")) << "the baseline was misread";
     data.setStatus(kLarge, true);
     data.updateStatusCounter(kLarge, true);

@@ -100,8 +100,13 @@ TransferResult withoutAnswer(const ServerName& server) {
 
 // "error:0A00010B:SSL routines::wrong version number, errno 0": only the last piece says something to a reader.
 std::string tlsReason(const std::string& detail) {
-  const auto last = detail.rfind("::");
-  return last == std::string::npos ? "" : detail.substr(last + 2, detail.find(',', last) - last - 2);
+  constexpr std::string_view kMark = " routines::";
+  const auto mark = detail.rfind(kMark);
+  if (mark == std::string::npos) {
+    return {};
+  }
+  const auto start = mark + kMark.size();
+  return detail.substr(start, detail.find(',', start) - start);
 }
 
 bool isHangUp(const std::string& tlsReason) { return tlsReason.starts_with("unexpected eof"); }

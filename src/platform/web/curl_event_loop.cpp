@@ -63,7 +63,7 @@ CurlEventLoop::~CurlEventLoop() {
 
 bool CurlEventLoop::start(CURL* easy, milliseconds timeout, std::function<void(CURLcode)> done) {
   // What the program has done before is not for this transfer.
-  giveBackTimeAway();
+  extendDeadlines();
   boundWaitsInside(easy, timeout);
   enteredAt_ = steady_clock::now();
   if (curl_multi_add_handle(multi_, easy) != CURLM_OK) {
@@ -148,7 +148,7 @@ void CurlEventLoop::unwatch(curl_socket_t socket) {
 }
 
 void CurlEventLoop::act(curl_socket_t socket, int events) {
-  giveBackTimeAway();
+  extendDeadlines();
   enteredAt_ = steady_clock::now();
   int running = 0;
   curl_multi_socket_action(multi_, socket, events, &running);
@@ -182,16 +182,16 @@ void CurlEventLoop::endWith(CURL* easy, CURLcode result) {
 
 void CurlEventLoop::beat() {
   const auto now = steady_clock::now();
-  giveBackTimeAway();
-  lookAfterConnecting();
-  endOverdue(now);
+  extendDeadlines();
+  pollConnecting();
+  expireOverdue(now);
   if (!transfers_.empty()) {
     armBeat(steady_clock::now());
   }
 }
 
 // Windows tells nobody of a connection that was refused before it was watched, as one to this machine is.
-void CurlEventLoop::lookAfterConnecting() {
+void CurlEventLoop::pollConnecting() {
   std::vector<curl_socket_t> connecting;
   for (const auto& [socket, watch] : watches_) {
     if (watch.writing && watch.writing->isEnabled()) {
@@ -207,20 +207,20 @@ void CurlEventLoop::lookAfterConnecting() {
 
 // The program may have stored a large page, or libcurl waited inside itself for an FTP server. Answers that came
 // meanwhile lie unread, and requests were not sent.
-void CurlEventLoop::giveBackTimeAway() {
+void CurlEventLoop::extendDeadlines() {
   const auto now = steady_clock::now();
   const auto away = std::chrono::duration_cast<milliseconds>(now - beatDue_);
   if (transfers_.empty() || away <= kUsualLateness) {
     return;
   }
   for (auto& [easy, transfer] : transfers_) {
-    transfer.clock.giveBack(away, now);
+    transfer.clock.extend(away, now);
     boundWaitsInside(easy, transfer.clock.allowed());
   }
   armBeat(now);
 }
 
-void CurlEventLoop::endOverdue(steady_clock::time_point now) {
+void CurlEventLoop::expireOverdue(steady_clock::time_point now) {
   std::vector<CURL*> overdue;
   for (auto& [easy, transfer] : transfers_) {
     if (!transfer.clock.overdueAt(now)) {

@@ -64,9 +64,9 @@ class CurlEventLoop {
   void collectEnded();
   void endWith(CURL* easy, CURLcode result);
   void beat();
-  void lookAfterConnecting();
-  void giveBackTimeAway();
-  void endOverdue(std::chrono::steady_clock::time_point now);
+  void pollConnecting();
+  void extendDeadlines();
+  void expireOverdue(std::chrono::steady_clock::time_point now);
   void armBeat(std::chrono::steady_clock::time_point now);
   void wake();
   void dispatch();

@@ -269,7 +269,7 @@ TransferResult CurlRequest::failure(CURLcode result) const {
                     .aborted = abortReason(result),
                     .timeout = request_.timeout,
                     .largestPage = options_.largestPage,
-                    .mostRedirects = kMostRedirects,
+                    .maxRedirects = kMaxRedirects,
                     .caFile = options_.caFile});
 }
 

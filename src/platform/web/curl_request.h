@@ -38,7 +38,7 @@ class CurlRequest {
   TransferResult finish(CURLcode reported);
 
  private:
-  static constexpr int kMostRedirects = 20;
+  static constexpr int kMaxRedirects = 20;
 
   using EasyHandle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
   using Caches = std::unique_ptr<CURLSH, decltype(&curl_share_cleanup)>;

@@ -101,7 +101,7 @@ void CurlRequest::setTarget() {
   set(easy, CURLOPT_PROTOCOLS_STR, kFetchedSchemes);
   set(easy, CURLOPT_REDIR_PROTOCOLS_STR, kFetchedSchemes);
   set(easy, CURLOPT_FOLLOWLOCATION, 1L);
-  set(easy, CURLOPT_MAXREDIRS, static_cast<long>(kMostRedirects));
+  set(easy, CURLOPT_MAXREDIRS, static_cast<long>(kMaxRedirects));
   set(easy, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
   set(easy, CURLOPT_SSL_VERIFYPEER, 1L);
   set(easy, CURLOPT_SSL_VERIFYHOST, 2L);

@@ -17,7 +17,7 @@ class TransferClock {
   TransferClock(Moment start, Span timeout) : timeout_(timeout), deadline_(start + timeout) {}
 
   /// The program has been `away` until `now`.
-  void giveBack(Span away, Moment now) {
+  void extend(Span away, Moment now) {
     constexpr Span kToReadWhatHasCome{300};
     const Span more = std::clamp(timeout_ - given_, Span{0}, away);
     const Moment before = std::exchange(deadline_, std::max(deadline_ + more, now + kToReadWhatHasCome));

@@ -95,7 +95,7 @@ TransferResult tooManyRounds(const ServerName& server, const TransferEnd& end) {
             "The server " + server.place + " asked for the user name and the password again and again."};
   }
   return {TransferFault::tooManyRedirects,
-          "The server redirected more than " + std::to_string(end.mostRedirects) + " times."};
+          "The server redirected more than " + std::to_string(end.maxRedirects) + " times."};
 }
 
 TransferResult notConfirmed(const ServerName& server) {

@@ -44,7 +44,7 @@ struct TransferEnd {
   AbortReason aborted = AbortReason::none;
   std::chrono::seconds timeout{0};
   std::size_t largestPage = 0;
-  int mostRedirects = 0;
+  int maxRedirects = 0;
   /// The file of trusted certificates; empty for the system's.
   std::string caFile{};
 };

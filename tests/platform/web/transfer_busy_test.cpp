@@ -87,10 +87,10 @@ TEST(TransferClock, GivesBackAtMostTheTimeOutAgain) {
   TransferClock clock(start, seconds{3});
   EXPECT_FALSE(clock.overdueAt(start + milliseconds{2999}));
   EXPECT_TRUE(clock.overdueAt(start + seconds{3}));
-  clock.giveBack(seconds{2}, start + seconds{2});
+  clock.extend(seconds{2}, start + seconds{2});
   EXPECT_EQ(clock.deadline(), start + seconds{5});
-  clock.giveBack(seconds{2}, start + seconds{4});
-  clock.giveBack(seconds{1}, start + seconds{5});
+  clock.extend(seconds{2}, start + seconds{4});
+  clock.extend(seconds{1}, start + seconds{5});
   EXPECT_EQ(clock.deadline(), start + seconds{6});
   EXPECT_EQ(clock.allowed(), seconds{6});
 }
@@ -99,7 +99,7 @@ TEST(TransferClock, LeavesTimeToReadWhatHasComeAfterAnAbsenceOfAnyLength) {
   const TransferClock::Moment start{};
   TransferClock clock(start, seconds{3});
   const TransferClock::Moment back = start + seconds{100};
-  clock.giveBack(seconds{99}, back);
+  clock.extend(seconds{99}, back);
   EXPECT_FALSE(clock.overdueAt(back + milliseconds{200}));
   EXPECT_TRUE(clock.overdueAt(back + milliseconds{500}));
   EXPECT_GE(start + clock.allowed(), clock.deadline());
