@@ -11,7 +11,6 @@
 #include "base/product.h"
 #include "base/text.h"
 #include "mail/smtp.h"
-#include "platform/file_access.h"
 #include "store/site_options.h"
 #include "store/sql_quote.h"
 
@@ -24,7 +23,9 @@ constexpr const char* kTemplateFile = "email.txt";
 /// The site id of a test alert.
 constexpr const char* kSampleSite = "27";
 
-bool isFile(const std::string& path) { return path.find('\0') == std::string::npos && kindOf(path) == FileKind::file; }
+bool isFile(FileSystem& files, const std::string& path) {
+  return path.find('\0') == std::string::npos && files.kindOf(path) == FileKind::file;
+}
 
 /// A mail without its text is still an alert.
 std::string textOrNothing(TextFiles& files, const std::string& path) {
@@ -113,7 +114,7 @@ void AlertDispatch::shellProgram(const std::string& command) {
   const std::string line(trimmed(command, " "));
   std::vector<std::string> arguments = splitCommandLine(line);
   // A path chosen in the settings dialog stands there as it is, and folders with blanks in their names are common.
-  if (arguments.size() > 1 && isFile(line)) {
+  if (arguments.size() > 1 && isFile(services_.files, line)) {
     arguments = {line};
   }
   services_.programs.start(arguments);

@@ -4,6 +4,7 @@
 
 #include "platform/events/qt_event_loop.h"
 #include "platform/events/qt_tcp_socket.h"
+#include "platform/local_files.h"
 #include "platform/process/detached_programs.h"
 #include "platform/process/file_run_lock.h"
 #include "platform/process/unwanted_signals.h"
@@ -35,6 +36,7 @@ class NoOpener final : public DesktopOpener {
 
 struct HeadlessPlatform::Machine {
   SystemClock clock;
+  LocalFiles files;
   QtEventPump pump;
   QtTimers timers;
   SqliteConnections databases{clock};
@@ -53,6 +55,7 @@ HeadlessPlatform::~HeadlessPlatform() = default;
 Services HeadlessPlatform::services() {
   Machine& machine = *machine_;
   return {.clock = machine.clock,
+          .files = machine.files,
           .pump = machine.pump,
           .timers = machine.timers,
           .databases = machine.databases,

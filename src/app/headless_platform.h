@@ -6,8 +6,8 @@
 
 namespace tarnwick {
 
-/// The real machine without a desktop: clock, event loop, database, network, sounds and programs are real; boxes are
-/// written to standard error and answered No, and nothing can be opened. A QCoreApplication must exist.
+/// The real machine without a desktop: clock, files, event loop, database, network, sounds and programs are real; boxes
+/// are written to standard error and answered No, and nothing can be opened. A QCoreApplication must exist.
 class HeadlessPlatform {
  public:
   HeadlessPlatform();

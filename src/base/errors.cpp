@@ -25,6 +25,6 @@ DataAccessError::DataAccessError(const std::string& cause, const std::string& st
     : std::runtime_error(withStatement(cause, statement)), cause_(cause), statement_(shortened(statement)) {}
 
 FileError::FileError(const std::string& path, const std::string& cause)
-    : std::runtime_error(path + ": " + cause), path_(path) {}
+    : std::runtime_error(path + ": " + cause), path_(path), cause_(cause) {}
 
 }  // namespace tarnwick

@@ -33,9 +33,12 @@ class FileError : public std::runtime_error {
 
   /// The path of the file that could not be read or written.
   const std::string& path() const noexcept { return path_; }
+  /// The reason alone.
+  const std::string& cause() const noexcept { return cause_; }
 
  private:
   std::string path_;
+  std::string cause_;
 };
 
 /// A number that does not fit the 16 or 32 bits that its place allows. Nothing has been written.

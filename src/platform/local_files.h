@@ -4,15 +4,22 @@
 
 namespace tarnwick {
 
-/// The files of this machine.
-class LocalFiles final : public FileSystem {
+/// The files of this machine. It holds nothing, so one can be made wherever it is used.
+class LocalFiles : public FileSystem {
  public:
-  void write(const std::string& path, const std::string& like,
-             const std::function<void(const ByteSink& sink)>& fill) override;
-  void copy(const std::string& from, const std::string& to) override;
+  FileKind kindOf(const std::string& path) override;
+  bool exists(const std::string& path) override;
+  std::string resolveLinks(const std::string& path) override;
+  std::uint64_t sizeOf(const std::string& path) override;
+  bool isSameFile(const std::string& one, const std::string& other) override;
+  std::unique_ptr<OpenedFile> open(const std::string& path) override;
+  void write(const std::string& path, const std::string& like, const FileFill& fill) override;
+  void overwrite(const std::string& path, FileRest rest, const FileFill& fill) override;
   void rename(const std::string& from, const std::string& to) override;
   void remove(const std::string& path) override;
-  bool replacesOpenFiles() const override;
+  bool replacesOpenFiles() override;
+  bool makeFolder(const std::string& path) override;
+  bool holdsVisibleFile(const std::string& folder) override;
 };
 
 }  // namespace tarnwick

@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/event_pump.h"
+#include "platform/file_system.h"
 #include "platform/prompts.h"
 #include "platform/run_lock.h"
 #include "platform/sql_connection.h"
@@ -17,6 +18,7 @@ namespace tarnwick {
 ///     return {.clock = clock, .pump = pump, ...};
 struct Services {
   const Clock& clock;
+  FileSystem& files;
   EventPump& pump;
   TimerMaker& timers;
   SqlConnectionMaker& databases;
@@ -30,6 +32,7 @@ struct Services {
 
   /// What takes the place of a part; null leaves the part as it is.
   struct Exchanged {
+    FileSystem* files = nullptr;
     SqlConnectionMaker* databases = nullptr;
     Prompts* prompts = nullptr;
     SoundPlayer* sound = nullptr;
@@ -39,6 +42,7 @@ struct Services {
   /// The same machine with some parts exchanged: `services.with({.prompts = &others})`.
   Services with(const Exchanged& other) const {
     return {.clock = clock,
+            .files = other.files != nullptr ? *other.files : files,
             .pump = pump,
             .timers = timers,
             .databases = other.databases != nullptr ? *other.databases : databases,

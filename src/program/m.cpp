@@ -9,13 +9,13 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       SettingsAndLog(ownedDatabase_, fields),
       SiteOptions(ownedDatabase_, fields.options),
       ResultLog(ownedDatabase_),
-      TextFiles(services.opener),
+      TextFiles(services.files, services.opener),
       DueSites(ownedDatabase_),
       PageFetch(ownedDatabase_, *this, ownedControl_, services.pump),
       ResultRecording(ownedDatabase_, *this, services.clock),
       AlertDispatch(ownedDatabase_, *this, *this, ownedMail_, services),
-      DailyReport(ownedDatabase_, services.clock),
-      Compaction(ownedDatabase_, services.databases, ownedFiles_, services.prompts),
+      DailyReport(ownedDatabase_, services.files, services.clock),
+      Compaction(ownedDatabase_, services.databases, services.files, services.prompts),
       fields_(fields) {}
 
 }  // namespace tarnwick

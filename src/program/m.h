@@ -8,7 +8,6 @@
 #include "engine/result_recording.h"
 #include "engine/single_control.h"
 #include "mail/mail_socket.h"
-#include "platform/local_files.h"
 #include "platform/services.h"
 #include "report/daily_report.h"
 #include "store/compaction.h"
@@ -34,7 +33,6 @@ class MembersOfM {
   Database ownedDatabase_;
   SingleControl ownedControl_;
   MailSocket ownedMail_;
-  LocalFiles ownedFiles_;
 };
 
 /// Everything the program can do with its data, in one object: the sum of the groups of procedures below, each of

@@ -4,11 +4,9 @@
 #include <cstdint>
 
 #include "base/errors.h"
-#include "platform/file_access.h"
 #include "platform/long_date.h"
 #include "report/html_tables.h"
 #include "store/sql_quote.h"
-#include "store/text_files.h"
 
 namespace tarnwick {
 namespace {
@@ -39,8 +37,8 @@ class BarCells {
 
 /// Makes the folder unless a file shows that it is there. An empty one cannot be told from a missing one that way,
 /// and making it again fails: a reports folder without its bar images is not in order.
-void requireReportsFolder(const std::string& folder) {
-  if (!holdsVisibleFile(folder) && !makeFolder(folder)) {
+void requireReportsFolder(FileSystem& files, const std::string& folder) {
+  if (!files.holdsVisibleFile(folder) && !files.makeFolder(folder)) {
     throw FileError(folder,
                     "The reports folder is there but holds no file. Put green.jpg and red.jpg into it, or remove it.");
   }
@@ -83,9 +81,9 @@ std::string DailyReport::reportSummary() {
 std::string DailyReport::createReport() {
   const std::string text = reportSummary();
   const std::string folder = db_.programFolder() + "/reports/";
-  requireReportsFolder(folder);
+  requireReportsFolder(files_, folder);
   std::string path = folder + "report.html";
-  TextFiles::saveFile(path, text);
+  files_.overwrite(path, FileRest::removed, [&](const ByteSink& sink) { sink(text + "\r\n"); });
   return path;
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/clock.h"
+#include "platform/file_system.h"
 #include "store/database.h"
 
 namespace tarnwick {
@@ -12,7 +13,8 @@ namespace tarnwick {
 class DailyReport {
  public:
   /// `clock` says which day today is.
-  DailyReport(Database& database, const Clock& clock) : db_(database), clock_(clock) {}
+  DailyReport(Database& database, FileSystem& files, const Clock& clock)
+      : db_(database), files_(files), clock_(clock) {}
 
   /// Writes the page to "reports/report.html" in the program folder, in place of an earlier one, and returns its full
   /// path. A missing reports folder is made. The page shows "green.jpg" and "red.jpg" of that folder, which are not
@@ -30,6 +32,7 @@ class DailyReport {
   std::string countTable(const std::string& sql);
 
   Database& db_;
+  FileSystem& files_;
   const Clock& clock_;
 };
 

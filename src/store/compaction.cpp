@@ -6,7 +6,6 @@
 
 #include "base/errors.h"
 #include "base/product.h"
-#include "platform/file_access.h"
 
 namespace tarnwick {
 namespace {
@@ -107,7 +106,7 @@ bool Compaction::compactToTemp(HeldDatabase& held) {
 
 void Compaction::putInPlace(std::unique_ptr<HeldDatabase> held) {
   // A link stays one: what it leads to is replaced, in its own folder.
-  const std::string live = behindLinks(db_.dbPath());
+  const std::string live = files_.resolveLinks(db_.dbPath());
   const std::string unfinished = live + kUnfinished;
   files_.copy(inFolder(std::string(kTempName)), unfinished);
   if (!files_.replacesOpenFiles()) {

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "base/product.h"
-#include "platform/file_access.h"
+#include "platform/file_system.h"
 #include "store/migrations.h"
 
 namespace tarnwick {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/desktop.h"
+#include "platform/file_system.h"
 
 namespace tarnwick {
 
@@ -10,23 +11,24 @@ namespace tarnwick {
 /// that cannot be opened, read or written raises FileError, which names it and the cause.
 class TextFiles {
  public:
-  explicit TextFiles(DesktopOpener& opener) : opener_(opener) {}
+  TextFiles(FileSystem& files, DesktopOpener& opener) : files_(files), opener_(opener) {}
 
   /// Vocabulary: no front end calls it.
   /// Writes `data` over the start of the file, which is made when it is missing. What an existing file holds beyond
   /// the data stays.
-  static void saveFileB(const std::string& path, const std::string& data);
+  void saveFileB(const std::string& path, const std::string& data);
 
   /// Replaces the file by `text` and one CR LF.
-  static void saveFile(const std::string& path, const std::string& text);
+  void saveFile(const std::string& path, const std::string& text);
 
   /// The whole file.
-  static std::string getFile(const std::string& path);
+  std::string getFile(const std::string& path);
 
   /// Asks the desktop to open the file; whether it did is not reported.
   void openFileFromSystem(const std::string& path);
 
  private:
+  FileSystem& files_;
   DesktopOpener& opener_;
 };
 

@@ -31,9 +31,9 @@ std::string headerLine(const std::string& InFile) {
   return "begin " + uuLowerCase(name) + "\r\n";
 }
 
-/// Encodes up to `most` bytes of what is left of a file as a complete encoded file; the bytes taken.
-std::uint64_t encodeInto(const ByteSink& sink, InputFile& input, std::uint64_t most) {
-  std::string text = headerLine(input.path());
+/// Encodes up to `most` bytes of what is left of a file as a complete encoded file that begins with the line `text`;
+/// the bytes taken.
+std::uint64_t encodeInto(const ByteSink& sink, OpenedFile& input, std::string text, std::uint64_t most) {
   std::string block;
   std::string lines;
   std::uint64_t taken = 0;
@@ -55,8 +55,8 @@ std::uint64_t encodeInto(const ByteSink& sink, InputFile& input, std::uint64_t m
 }
 
 /// Decodes a file; the bytes it gave.
-std::uint64_t decodeInto(const ByteSink& sink, const std::string& path) {
-  InputFile input(path);
+std::uint64_t decodeInto(const ByteSink& sink, FileSystem& files, const std::string& path) {
+  const auto input = files.open(path);
   UuDecoder decoder(UuDecoder::Form::file, path);
   std::string text;
   std::string bytes;
@@ -66,7 +66,7 @@ std::uint64_t decodeInto(const ByteSink& sink, const std::string& path) {
     given += bytes.size();
     bytes.clear();
   };
-  for (input.read(text, kPieceSize); !text.empty(); input.read(text, kPieceSize)) {
+  for (input->read(text, kPieceSize); !text.empty(); input->read(text, kPieceSize)) {
     decoder.feed(text, bytes);
     pass();
   }
@@ -75,13 +75,13 @@ std::uint64_t decodeInto(const ByteSink& sink, const std::string& path) {
   return given;
 }
 
-UuPart partOf(const std::string& path) {
-  InputFile input(path);
+UuPart partOf(FileSystem& files, const std::string& path) {
+  const auto input = files.open(path);
   UuDecoder decoder(UuDecoder::Form::file, path);
   std::string text;
   std::string ignored;
   do {
-    input.read(text, kPieceSize);
+    input->read(text, kPieceSize);
     decoder.feed(text, ignored);
   } while (!decoder.headerFound() && !text.empty());
   if (!decoder.headerFound()) {
@@ -100,8 +100,8 @@ std::string missingParts(const UuOrder& order) {
   return one ? "Part " + numbers + " is missing!" : "Parts " + numbers + " are missing!";
 }
 
-void refuseOwnInput(const std::string& InFile, const std::string& OutFile) {
-  if (isSameFile(InFile, OutFile)) {
+void refuseOwnInput(FileSystem& files, const std::string& InFile, const std::string& OutFile) {
+  if (files.isSameFile(InFile, OutFile)) {
     throw FileError(OutFile, "This is the input file itself; choose another name for the output.");
   }
 }
@@ -124,15 +124,18 @@ class PartSizes {
   std::optional<std::uint64_t> previous_;
 };
 
-UuPlan planFor(const InputFile& input, std::int64_t most) {
+UuPlan planFor(std::uint64_t size, std::int64_t most, const std::string& InFile) {
   try {
-    return planUuParts(input.size(), most);
+    return planUuParts(size, most);
   } catch (const std::length_error& tooMany) {
-    throw FileError(input.path(), tooMany.what());
+    throw FileError(InFile, tooMany.what());
   }
 }
 
 }  // namespace
+
+/// Hidden ones included; a folder is none.
+bool UUCode::isFile(const std::string& path) { return files_.exists(path) && files_.kindOf(path) != FileKind::folder; }
 
 bool UUCode::hasInput(const std::string& InFile) {
   if (isFile(InFile)) {
@@ -152,13 +155,13 @@ bool UUCode::UUEncodeFile(const std::string& InFile, const std::string& OutFile)
   if (!hasInput(InFile)) {
     return false;
   }
-  refuseOwnInput(InFile, OutFile);
+  refuseOwnInput(files_, InFile, OutFile);
   if (!mayWrite(OutFile)) {
     return false;
   }
-  InputFile input(InFile);
+  const auto input = files_.open(InFile);
   OutputFiles output(files_);
-  output.write(OutFile, InFile, [&](const ByteSink& sink) { encodeInto(sink, input, kToTheEnd); });
+  output.write(OutFile, InFile, [&](const ByteSink& sink) { encodeInto(sink, *input, headerLine(InFile), kToTheEnd); });
   output.finish();
   return true;
 }
@@ -171,24 +174,24 @@ bool UUCode::UUEncodeFiles(const std::string& InFile, const std::string& OutPath
   if (base.empty()) {
     throw FileError(InFile, "The name has nothing before its first dot to name the output after. Rename the file.");
   }
-  InputFile input(InFile);
-  const UuPlan plan = planFor(input, MaxFileSize);
+  const auto input = files_.open(InFile);
+  std::uint64_t left = files_.sizeOf(InFile);
+  const UuPlan plan = planFor(left, MaxFileSize, InFile);
   const auto pathOfPart = [&](std::uint64_t number) { return inFolder(OutPath, uuPartName(base, plan, number)); };
   if (plan.digits == 0) {
     return UUEncodeFile(InFile, pathOfPart(1));
   }
   for (std::uint64_t number = 1; number <= plan.count; ++number) {
-    refuseOwnInput(InFile, pathOfPart(number));
+    refuseOwnInput(files_, InFile, pathOfPart(number));
     if (!mayWrite(pathOfPart(number))) {
       return false;
     }
   }
   OutputFiles output(files_);
-  std::uint64_t left = input.size();
   for (std::uint64_t number = 1; number <= plan.count; ++number) {
     const std::uint64_t most = std::min(plan.bytesEach, left);
     output.write(pathOfPart(number), InFile, [&](const ByteSink& sink) {
-      if (encodeInto(sink, input, most) != most) {
+      if (encodeInto(sink, *input, headerLine(InFile), most) != most) {
         throw FileError(InFile, "The file has become shorter while it was read. Try again.");
       }
     });
@@ -202,12 +205,12 @@ bool UUCode::UUDecodeFile(const std::string& InFile, const std::string& OutFile)
   if (!hasInput(InFile)) {
     return false;
   }
-  refuseOwnInput(InFile, OutFile);
+  refuseOwnInput(files_, InFile, OutFile);
   if (!mayWrite(OutFile)) {
     return false;
   }
   OutputFiles output(files_);
-  output.write(OutFile, InFile, [&](const ByteSink& sink) { decodeInto(sink, InFile); });
+  output.write(OutFile, InFile, [&](const ByteSink& sink) { decodeInto(sink, files_, InFile); });
   output.finish();
   return true;
 }
@@ -217,14 +220,15 @@ bool UUCode::UUDecodeFiles(const std::vector<std::string>& InFiles, const std::s
     return false;
   }
   std::vector<UuPart> parts;
-  std::transform(InFiles.begin(), InFiles.end(), std::back_inserter(parts), partOf);
+  std::transform(InFiles.begin(), InFiles.end(), std::back_inserter(parts),
+                 [&](const std::string& file) { return partOf(files_, file); });
   const UuOrder order = orderUuParts(parts);
   if (!order.missing.empty()) {
     prompts_.inform(missingParts(order), "Part is missing...", PromptIcon::exclamation);
     return false;
   }
   for (const std::string& file : InFiles) {
-    refuseOwnInput(file, OutFile);
+    refuseOwnInput(files_, file, OutFile);
   }
   if (!mayWrite(OutFile)) {
     return false;
@@ -233,7 +237,7 @@ bool UUCode::UUDecodeFiles(const std::vector<std::string>& InFiles, const std::s
   output.write(OutFile, InFiles.front(), [&](const ByteSink& sink) {
     PartSizes sizes;
     for (const std::size_t index : order.indexes) {
-      sizes.take(InFiles[index], decodeInto(sink, InFiles[index]));
+      sizes.take(InFiles[index], decodeInto(sink, files_, InFiles[index]));
     }
   });
   output.finish();
@@ -241,9 +245,8 @@ bool UUCode::UUDecodeFiles(const std::vector<std::string>& InFiles, const std::s
 }
 
 bool UUCode::GetHeaderInfo(const std::string& InFile, std::string& Name) {
-  InputFile input(InFile);
   std::string text;
-  input.read(text, kHeaderSearchSize);
+  files_.open(InFile)->read(text, kHeaderSearchSize);
   return GetHeaderInfoFromStream(text, Name);
 }
 

@@ -47,7 +47,7 @@ class UUCode {
 
   /// Reads the name from the header within the first 512 bytes of a file: the text between "begin " and the next CR LF.
   /// False, and `Name` as it was, when there is no such text.
-  static bool GetHeaderInfo(const std::string& InFile, std::string& Name);
+  bool GetHeaderInfo(const std::string& InFile, std::string& Name);
   /// The same for a text in memory.
   static bool GetHeaderInfoFromStream(const std::string& Text, std::string& Name);
 
@@ -89,6 +89,7 @@ class UUCode {
  private:
   bool hasInput(const std::string& InFile);
   bool mayWrite(const std::string& OutFile);
+  bool isFile(const std::string& path);
 
   Prompts& prompts_;
   FileSystem& files_;

@@ -1,42 +1,20 @@
 #pragma once
 
-#include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
-#include "platform/file_access.h"
 #include "platform/file_system.h"
 
 namespace tarnwick {
 
 /// Paths are UTF-8 everywhere. A path that holds a NUL character raises FileError.
 
-/// Whether there is a file, hidden ones included; a folder is none.
-bool isFile(const std::string& path);
 /// The name without its folders.
 std::string fileName(const std::string& path);
 /// The name without its folders and without its last dot and what follows that.
 std::string fileStem(const std::string& path);
 /// A file's path in a folder, whether or not the folder's ends with a separator; empty is the current folder.
 std::string inFolder(const std::string& folder, const std::string& name);
-
-/// A file that is read from its start. Raises FileError when it cannot be opened or read.
-class InputFile {
- public:
-  explicit InputFile(const std::string& path);
-
-  /// Replaces `bytes` by the next `size` bytes, fewer at the end of the file.
-  void read(std::string& bytes, std::size_t size);
-
-  const std::string& path() const { return path_; }
-  /// In bytes.
-  std::uint64_t size() const;
-
- private:
-  std::string path_;
-  FileHandle file_;
-};
 
 /// Files none of which comes into being before all are written: each is written beside its place under a name of no
 /// meaning, and gets its own name in the end.
@@ -50,7 +28,7 @@ class OutputFiles {
 
   /// Writes what shall become the file `path`, with the permissions of the file `like`. Raises FileError, and whatever
   /// `fill` raises.
-  void write(const std::string& path, const std::string& like, const std::function<void(const ByteSink& sink)>& fill);
+  void write(const std::string& path, const std::string& like, const FileFill& fill);
 
   /// Gives every file its name, in place of a file that has it, the last one first. Raises FileError when that fails;
   /// the files that have their names then stay.

@@ -7,7 +7,7 @@
 
 #include "base/errors.h"
 #include "faults/faults_fixture.h"
-#include "store/text_files.h"
+#include "support/file_bytes.h"
 #include "support/system.h"
 
 namespace tarnwick::testing {
@@ -22,8 +22,8 @@ constexpr std::size_t kPage = 4096;
 class Damage : public ::testing::Test {
  protected:
   std::string live() const { return used.folder.databasePath(); }
-  static std::string bytesOf(const std::string& path) { return TextFiles::getFile(path); }
-  static void write(const std::string& path, const std::string& bytes) { TextFiles::saveFileB(path, bytes); }
+  static std::string bytesOf(const std::string& path) { return bytesOfFile(path); }
+  static void write(const std::string& path, const std::string& bytes) { writeFile(path, bytes, FileRest::kept); }
 
   /// The number of the page on which the table's rows begin.
   std::size_t rootOf(const std::string& table) const {

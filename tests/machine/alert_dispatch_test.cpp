@@ -75,7 +75,7 @@ class Alerts : public ::testing::Test {
   SmtpServer server;
   Database database{folder.path(), machine.databases};
   SettingsAndLog settings{database};
-  TextFiles files{machine.opener};
+  TextFiles files{machine.files, machine.opener};
   MailSocket mail{machine.sockets};
   AlertDispatch alerts{database, settings, files, mail, machine.services(), server.port16()};
 };
@@ -352,7 +352,7 @@ class StartedPrograms : public Alerts {
     looks->setInterval(std::chrono::milliseconds(10));
     looks->setEnabled(true);
     EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(result); })) << "The program was not started.";
-    std::string text = TextFiles::getFile(result);
+    std::string text = files.getFile(result);
     std::filesystem::remove(result);
     return text;
   }

@@ -130,7 +130,7 @@ TEST_F(DailyReportTest, PageReplacesTheEarlierOne) {
 TEST_F(DailyReportTest, ReportsFolderWithoutAVisibleFileIsRefused) {
   fs::create_directory(folder.file("reports"));
   fs::create_directory(folder.file("reports/images"));
-  TextFiles::saveFile(folder.file("reports/.hidden"), "");
+  writeFile(folder.file("reports/.hidden"), "");
   const std::string error = errorOf<FileError>([&] { report.createReport(); });
   EXPECT_THAT(error, HasSubstr(folder.path() + "/reports/"));
   EXPECT_THAT(error, HasSubstr("green.jpg"));
@@ -139,18 +139,18 @@ TEST_F(DailyReportTest, ReportsFolderWithoutAVisibleFileIsRefused) {
 
 TEST_F(DailyReportTest, ReportsFolderWithAnyVisibleFileIsUsed) {
   fs::create_directory(folder.file("reports"));
-  TextFiles::saveFile(folder.file("reports/green.jpg"), "");
+  writeFile(folder.file("reports/green.jpg"), "");
   EXPECT_EQ(report.createReport(), reportFile());
 }
 
 TEST_F(DailyReportTest, FileInPlaceOfTheReportsFolderIsAnError) {
-  TextFiles::saveFile(folder.file("reports"), "");
+  writeFile(folder.file("reports"), "");
   EXPECT_THROW(report.createReport(), FileError);
 }
 
 TEST_F(DailyReportTest, PageThatCannotBeWrittenIsAnError) {
   fs::create_directories(reportFile() + "/in the way");
-  TextFiles::saveFile(folder.file("reports/green.jpg"), "");
+  writeFile(folder.file("reports/green.jpg"), "");
   EXPECT_THAT(errorOf<FileError>([&] { report.createReport(); }), HasSubstr("report.html"));
 }
 
@@ -158,7 +158,7 @@ TEST_F(DailyReportTest, FailedQueryTravelsAndLeavesTheEarlierPage) {
   const std::string earlier = page();
   watch().failAt("select count(*) as [Total Success]");
   EXPECT_THROW(report.createReport(), DataAccessError);
-  EXPECT_EQ(TextFiles::getFile(reportFile()), earlier);
+  EXPECT_EQ(bytesOfFile(reportFile()), earlier);
 }
 
 TEST_F(DailyReportTest, StatementsAreTheProgramsOwn) {

@@ -4,8 +4,8 @@
 
 #include "report/daily_report.h"
 #include "store/sql_quote.h"
-#include "store/text_files.h"
 #include "support/data_fixture.h"
+#include "support/file_bytes.h"
 
 namespace tarnwick::testing {
 
@@ -20,11 +20,12 @@ class ReportFixture : public DataFixture {
   }
 
   /// The page that a new report wrote.
-  std::string page() { return TextFiles::getFile(report.createReport()); }
+  std::string page() { return bytesOfFile(report.createReport()); }
 
   std::string reportFile() const { return folder.path() + "/reports/report.html"; }
 
-  DailyReport report{database, clock};
+  LocalFiles files;
+  DailyReport report{database, files, clock};
 };
 
 }  // namespace tarnwick::testing

@@ -8,6 +8,7 @@
 #include "base/errors.h"
 #include "store/compaction_fixture.h"
 #include "store/first_field.h"
+#include "support/file_bytes.h"
 #include "support/system.h"
 
 namespace tarnwick::testing {
@@ -19,7 +20,7 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 /// The machine's files, with one operation on one of them that fails.
-class FaultyFiles final : public FileSystem {
+class FaultyFiles final : public LocalFiles {
  public:
   /// Called with each operation ("write backup.mdb.new", "rename tarnwick.mdb") before it is carried out.
   std::function<void(const std::string& operation)> before = [](const std::string&) {};
@@ -35,29 +36,21 @@ class FaultyFiles final : public FileSystem {
     };
   }
 
-  void write(const std::string& path, const std::string& like,
-             const std::function<void(const ByteSink& sink)>& fill) override {
+  void write(const std::string& path, const std::string& like, const FileFill& fill) override {
     before("write " + nameOf(path));
-    real_.write(path, like, fill);
-  }
-  void copy(const std::string& from, const std::string& to) override {
-    before("copy " + nameOf(to));
-    real_.copy(from, to);
+    LocalFiles::write(path, like, fill);
   }
   void rename(const std::string& from, const std::string& to) override {
     before("rename " + nameOf(to));
-    real_.rename(from, to);
+    LocalFiles::rename(from, to);
   }
   void remove(const std::string& path) override {
     before("remove " + nameOf(path));
-    real_.remove(path);
+    LocalFiles::remove(path);
   }
-  bool replacesOpenFiles() const override { return real_.replacesOpenFiles(); }
 
  private:
   static std::string nameOf(const std::string& path) { return fs::path(path).filename().string(); }
-
-  LocalFiles real_;
 };
 
 class CompactionFaultsTest : public CompactionFixture {
@@ -118,7 +111,7 @@ TEST_F(CompactionFaultsTest, DamagedDatabaseFailsSilentlyAndStaysAsItIs) {
   for (std::size_t page = 20; page < 60; ++page) {
     damaged.replace(page * 4096, 512, std::string(512, '\xEE'));
   }
-  TextFiles::saveFileB(folder.databasePath(), damaged);
+  writeFile(folder.databasePath(), damaged, FileRest::kept);
   EXPECT_FALSE(compaction.compact());
   EXPECT_THAT(prompts.shown(), IsEmpty());
   database.close();
@@ -136,7 +129,7 @@ TEST_F(CompactionFaultsTest, OldWorkFileThatCannotBeDeletedFailsTheCompaction) {
 
 TEST_F(CompactionFaultsTest, FailedCopyIntoPlaceIsNotReportedAndLosesNothing) {
   const std::string before = contents();
-  faulty.failAt("copy tarnwick.mdb.new");
+  faulty.failAt("write tarnwick.mdb.new");
   EXPECT_TRUE(compaction.compact());
   EXPECT_THAT(prompts.shown(), IsEmpty());
   EXPECT_EQ(contents(), before);
@@ -204,19 +197,9 @@ TEST_F(CompactionFaultsTest, NobodyElseComesInWhileTheFilesAreMade) {
 }
 
 TEST_F(CompactionFaultsTest, WholeCompactionWorksWhereOpenFilesCannotBeReplaced) {
-  class ClosedFilesOnly final : public FileSystem {
+  class ClosedFilesOnly final : public LocalFiles {
    public:
-    void write(const std::string& path, const std::string& like,
-               const std::function<void(const ByteSink& sink)>& fill) override {
-      real_.write(path, like, fill);
-    }
-    void copy(const std::string& from, const std::string& to) override { real_.copy(from, to); }
-    void rename(const std::string& from, const std::string& to) override { real_.rename(from, to); }
-    void remove(const std::string& path) override { real_.remove(path); }
-    bool replacesOpenFiles() const override { return false; }
-
-   private:
-    LocalFiles real_;
+    bool replacesOpenFiles() override { return false; }
   } closedFiles;
   const std::string before = contents();
   EXPECT_TRUE(Compaction(database, connections, closedFiles, prompts).compact());

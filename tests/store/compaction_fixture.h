@@ -7,8 +7,8 @@
 
 #include "platform/local_files.h"
 #include "store/compaction.h"
-#include "store/text_files.h"
 #include "support/data_fixture.h"
+#include "support/file_bytes.h"
 #include "support/recording_desktop.h"
 
 namespace tarnwick::testing {
@@ -38,7 +38,7 @@ class CompactionFixture : public DataFixture {
     return all + reader.rows("pragma integrity_check");
   }
 
-  std::string bytes(const std::string& name) const { return TextFiles::getFile(folder.file(name)); }
+  std::string bytes(const std::string& name) const { return bytesOfFile(folder.file(name)); }
   bool exists(const std::string& name) const { return std::filesystem::exists(folder.file(name)); }
 
   /// The names of all files in the program folder but the database's own three, open or closed, joined with blanks.

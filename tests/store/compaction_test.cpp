@@ -9,6 +9,7 @@
 #include "store/compaction_fixture.h"
 #include "store/first_field.h"
 #include "store/sql_quote.h"
+#include "support/file_bytes.h"
 #include "support/system.h"
 
 namespace tarnwick::testing {
@@ -120,9 +121,9 @@ TEST_F(CompactionTest, ConnectionIsOpenAgainAndWrites) {
 }
 
 TEST_F(CompactionTest, LeftoversOfADeadCompactionAreOverwritten) {
-  TextFiles::saveFile(folder.file("backup.mdb.new"), "half a copy");
-  TextFiles::saveFile(folder.file("tarnwick.mdb.new"), "half a copy");
-  TextFiles::saveFile(folder.file("temp.mdb"), "half a database");
+  writeFile(folder.file("backup.mdb.new"), "half a copy");
+  writeFile(folder.file("tarnwick.mdb.new"), "half a copy");
+  writeFile(folder.file("temp.mdb"), "half a database");
   EXPECT_TRUE(compaction.compact());
   EXPECT_EQ(others(), "backup.mdb temp.mdb");
 }
@@ -130,7 +131,7 @@ TEST_F(CompactionTest, LeftoversOfADeadCompactionAreOverwritten) {
 TEST_F(CompactionTest, SideFilesOfAnEarlierBackupAreNotMarriedToTheNewOne) {
   const std::string before = contents();
   for (const char* name : {"backup.mdb-wal", "backup.mdb-journal", "temp.mdb-wal", "temp.mdb-shm"}) {
-    TextFiles::saveFile(folder.file(name), "stale");
+    writeFile(folder.file(name), "stale");
   }
   ASSERT_TRUE(compaction.compact());
   EXPECT_EQ(others(), "backup.mdb temp.mdb");

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "base/errors.h"
+#include "platform/local_files.h"
 #include "support/data_fixture.h"
 #include "support/program_folder.h"
 #include "support/recording_desktop.h"
@@ -21,7 +22,8 @@ class TextFilesTest : public ::testing::Test {
  protected:
   ProgramFolder folder;
   RecordingOpener opener;
-  TextFiles files{opener};
+  LocalFiles disk;
+  TextFiles files{disk, opener};
 };
 
 TEST_F(TextFilesTest, SavedTextEndsWithOneLineEnd) {

@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/events/qt_event_loop.h"
 #include "platform/events/qt_tcp_socket.h"
+#include "platform/local_files.h"
 #include "platform/process/file_run_lock.h"
 #include "platform/services.h"
 #include "platform/sqlite/sqlite_connection.h"
@@ -36,6 +37,7 @@ struct TestServices {
 
   Services services() {
     return {.clock = clock(),
+            .files = files,
             .pump = pump,
             .timers = timers(),
             .databases = databases,
@@ -50,6 +52,7 @@ struct TestServices {
 
   const Time time;
   SystemClock systemClock;
+  LocalFiles files;
   HandClock handClock;
   HandTimers handTimers{handClock};
   QtEventPump pump;

@@ -36,6 +36,7 @@ void World::start() {
   pump_ = std::make_unique<QtEventPump>();
   events_ = std::make_unique<LedEvents>(*pump_, web, recordedSockets);
   const Services services{.clock = clock,
+                          .files = files,
                           .pump = *events_,
                           .timers = timers,
                           .databases = recordedDatabases,

@@ -8,6 +8,7 @@
 
 #include "platform/events/qt_event_loop.h"
 #include "platform/events/qt_tcp_socket.h"
+#include "platform/local_files.h"
 #include "platform/process/file_run_lock.h"
 #include "platform/sqlite/sqlite_connection.h"
 #include "platform/web/curl_transfers.h"
@@ -59,6 +60,7 @@ struct World {
   SqliteConnections databases{clock};
   WatchedConnections watched{databases};
   RecordedConnections recordedDatabases{watched, transcript};
+  LocalFiles files;
   FileRunLocks runLocks;
   CurlTransfers transfers{{}};
   QtTcpSockets sockets;

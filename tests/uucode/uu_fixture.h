@@ -14,7 +14,6 @@
 
 #include "base/decode_error.h"
 #include "base/errors.h"
-#include "platform/file_access.h"
 #include "platform/local_files.h"
 #include "support/recording_desktop.h"
 #include "uucode/uu_code.h"
@@ -42,13 +41,12 @@ inline std::string padded(std::string bytes) {
 }
 
 /// A disk that takes only so many bytes.
-class FullDisk final : public FileSystem {
+class FullDisk final : public LocalFiles {
  public:
   explicit FullDisk(std::size_t room) : room_(room) {}
 
-  void write(const std::string& path, const std::string& like,
-             const std::function<void(const ByteSink& sink)>& fill) override {
-    disk_.write(path, like, [&](const ByteSink& sink) {
+  void write(const std::string& path, const std::string& like, const FileFill& fill) override {
+    LocalFiles::write(path, like, [&](const ByteSink& sink) {
       fill([&](std::string_view bytes) {
         if (bytes.size() > room_) {
           throw FileError(path, "No space left on device");
@@ -58,37 +56,24 @@ class FullDisk final : public FileSystem {
       });
     });
   }
-  void copy(const std::string& from, const std::string& to) override { disk_.copy(from, to); }
-  void rename(const std::string& from, const std::string& to) override { disk_.rename(from, to); }
-  void remove(const std::string& path) override { disk_.remove(path); }
-  bool replacesOpenFiles() const override { return true; }
 
  private:
-  LocalFiles disk_;
   std::size_t room_;
 };
 
 /// A disk on which one name can be given to no file.
-class TakenName final : public FileSystem {
+class TakenName final : public LocalFiles {
  public:
   explicit TakenName(std::string name) : name_(std::move(name)) {}
 
-  void write(const std::string& path, const std::string& like,
-             const std::function<void(const ByteSink& sink)>& fill) override {
-    disk_.write(path, like, fill);
-  }
-  void copy(const std::string& from, const std::string& to) override { disk_.copy(from, to); }
   void rename(const std::string& from, const std::string& to) override {
     if (to == name_) {
       throw FileError(to, "Operation not permitted");
     }
-    disk_.rename(from, to);
+    LocalFiles::rename(from, to);
   }
-  void remove(const std::string& path) override { disk_.remove(path); }
-  bool replacesOpenFiles() const override { return true; }
 
  private:
-  LocalFiles disk_;
   std::string name_;
 };
 

@@ -2,10 +2,12 @@
 
 #include <string>
 
+#include "platform/file_system.h"
+
 namespace tarnwick {
 
 /// The bytes of a file that the command line names: "-" is standard input, and a pipe that the shell lays in place of a
 /// file is read to its end. Raises FileError.
-std::string readInput(const std::string& file);
+std::string readInput(FileSystem& files, const std::string& file);
 
 }  // namespace tarnwick

@@ -11,7 +11,6 @@
 #include "cli/terminal/json_text.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
-#include "platform/private_file.h"
 
 namespace tarnwick {
 namespace {
@@ -120,14 +119,16 @@ int exportList(Tool& tool, const ExportOptions& options) {
   }
   tool.data();  // a folder without a list is told before anything is made
   std::size_t count = 0;
-  writePrivateFile(options.file, [&](const ByteSink& sink) { count = writeList(tool, format, columns, sink); });
+  tool.services().files.writePrivately(options.file,
+                                       [&](const ByteSink& sink) { count = writeList(tool, format, columns, sink); });
   console.say("Exported " + countText(count) + " to " + shownName(options.file) + ".");
   return exit_status::ok;
 }
 
-std::vector<ListedSite> readList(const ImportVerbOptions& options, const Fields& fields, ListFaults& faults) {
+std::vector<ListedSite> readList(FileSystem& files, const ImportVerbOptions& options, const Fields& fields,
+                                 ListFaults& faults) {
   const Format format = formatOf(options.file, options.format);
-  const std::string text = readInput(options.file);
+  const std::string text = readInput(files, options.file);
   return format == Format::csv ? readSiteListCsv(text, faults, fields) : readSiteListJson(text, faults, fields);
 }
 
@@ -230,7 +231,7 @@ bool mayReplace(Tool& tool, const ImportVerbOptions& options, const std::vector<
 
 int importList(Tool& tool, const ImportVerbOptions& options) {
   ListFaults faults;
-  std::vector<ListedSite> sites = readList(options, tool.fields(), faults);
+  std::vector<ListedSite> sites = readList(tool.services().files, options, tool.fields(), faults);
   m& data = tool.data();
   if (!options.dryRun && faults.none() && !mayReplace(tool, options, sites)) {
     return exit_status::failed;

@@ -83,7 +83,7 @@ int loadBaseline(Tool& tool, const BaselineOptions& options) {
 }
 
 int setBaseline(Tool& tool, const BaselineOptions& options) {
-  const std::string page = readInput(options.file);
+  const std::string page = readInput(tool.services().files, options.file);
   if (page.empty()) {
     throw std::runtime_error(options.file + " is empty. To remove the baseline, use: tarnwickctl baseline " +
                              std::to_string(options.idSite) + " clear");

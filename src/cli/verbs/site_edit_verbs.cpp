@@ -45,8 +45,8 @@ struct SiteEdit {
 };
 
 // A password is a line: editors end it, and `echo` does.
-std::string readPassword(const std::string& file) {
-  std::string password = readInput(file);
+std::string readPassword(FileSystem& files, const std::string& file) {
+  std::string password = readInput(files, file);
   if (password.ends_with('\n')) {
     password.pop_back();
     if (password.ends_with('\r')) {
@@ -73,7 +73,7 @@ FieldValue valueOfText(const SiteField& field, const std::string& text) {
   return *std::move(value);
 }
 
-void apply(const Fields& fields, const SiteEdit& edit, SiteDraft& site) {
+void apply(FileSystem& files, const Fields& fields, const SiteEdit& edit, SiteDraft& site) {
   for (const SiteField& field : fields.site) {
     if (const auto given = edit.further.find(field.name); given != edit.further.end() && given->second) {
       setValue(field, site, valueOfText(field, *given->second));
@@ -103,7 +103,7 @@ void apply(const Fields& fields, const SiteEdit& edit, SiteDraft& site) {
   site.sUserName = edit.user.value_or(site.sUserName);
   site.sPassWord = edit.password.value_or(site.sPassWord);
   if (edit.passwordFile) {
-    site.sPassWord = readPassword(*edit.passwordFile);
+    site.sPassWord = readPassword(files, *edit.passwordFile);
   }
 }
 
@@ -119,7 +119,7 @@ int addSite(Tool& tool, const SiteEdit& edit) {
   site.method = vars.empty() ? "get" : "post";
   site.active = true;
   site.tInterval = "10";
-  apply(tool.fields(), edit, site);
+  apply(tool.services().files, tool.fields(), edit, site);
   m& data = tool.data();
   Transaction whole(data.database());
   const std::int16_t id = data.addSite();
@@ -150,7 +150,7 @@ int setSite(Tool& tool, const SiteEdit& edit) {
   }
   // What is read from standard input may take its time; nothing is locked meanwhile.
   SiteDraft given;
-  apply(tool.fields(), edit, given);
+  apply(tool.services().files, tool.fields(), edit, given);
   SiteEdit known = edit;
   if (known.passwordFile) {
     known.passwordFile.reset();
@@ -160,7 +160,7 @@ int setSite(Tool& tool, const SiteEdit& edit) {
   Transaction whole(data.database());
   requireListed(tool, edit.idSite);
   SiteDraft site = readSite(data, edit.idSite);
-  apply(tool.fields(), known, site);
+  apply(tool.services().files, tool.fields(), known, site);
   storeSite(data, edit.idSite, site, newVars.empty() ? readPostVars(data, edit.idSite) : newVars);
   whole.commit();
   tool.console().say("Site " + id + " is changed.");

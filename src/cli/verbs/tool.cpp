@@ -9,7 +9,6 @@
 #include "cli/terminal/tool_prompts.h"
 #include "cli/verbs/command_line.h"
 #include "cli/verbs/verbs.h"
-#include "platform/file_access.h"
 #include "platform/program_folder.h"
 
 namespace tarnwick {
@@ -43,8 +42,8 @@ int statusWithOutput(Console& console, int status) {
 }
 
 // A folder that is named wrongly looks like one whose database is gone.
-std::string adviceOn(const std::string& folder) {
-  return !folder.empty() && kindOf(folder + "/tarnwick.mdb") == FileKind::none
+std::string adviceOn(FileSystem& files, const std::string& folder) {
+  return !folder.empty() && files.kindOf(folder + "/tarnwick.mdb") == FileKind::none
              ? " Or name the right folder with --folder."
              : "";
 }
@@ -81,7 +80,7 @@ int runTool(const std::vector<std::string>& arguments, const std::string& progra
     Tool tool(folder, services.with({.prompts = &prompts}), console, fields);
     return statusWithOutput(console, line.action(tool));
   } catch (const DataAccessError& error) {
-    console.complain(error.what() + adviceOn(folder));
+    console.complain(error.what() + adviceOn(services.files, folder));
     return exit_status::failed;
   } catch (const std::bad_alloc&) {
     console.complain(kNotEnoughMemory);

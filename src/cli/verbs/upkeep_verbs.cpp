@@ -1,7 +1,5 @@
 #include <array>
 #include <cstdint>
-#include <filesystem>
-#include <system_error>
 
 #include "cli/terminal/json_text.h"
 #include "cli/verbs/tool.h"
@@ -10,21 +8,15 @@
 namespace tarnwick {
 namespace {
 
-namespace fs = std::filesystem;
-
 struct UpkeepOptions {
   bool json = false;
 };
 
-fs::path pathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
-
 // A database's file, and what has not been brought over into it yet.
-std::uintmax_t sizeOf(const std::string& database) {
-  std::uintmax_t size = 0;
+std::uint64_t sizeOf(FileSystem& files, const std::string& database) {
+  std::uint64_t size = 0;
   for (const char* ending : {"", "-wal"}) {
-    std::error_code none;
-    const std::uintmax_t part = fs::file_size(pathOf(database + ending), none);
-    size += none ? 0 : part;
+    size += files.exists(database + ending) ? files.sizeOf(database + ending) : 0;
   }
   return size;
 }
@@ -41,16 +33,17 @@ int report(Tool& tool, const UpkeepOptions& options) {
 
 int compact(Tool& tool, const UpkeepOptions& options) {
   m& data = tool.data();
+  FileSystem& files = tool.services().files;
   const std::string database = data.database().dbPath();
-  const std::uintmax_t before = sizeOf(database);
+  const std::uint64_t before = sizeOf(files, database);
   if (!data.compact()) {
     if (tool.console().hasComplained()) {
       return exit_status::failed;  // why no copy could be made has been told
     }
     throw std::runtime_error("Compact Failed. The database is as it was: " + database);
   }
-  const std::uintmax_t after = sizeOf(database);
-  if (sizeOf(data.programFolder() + "/temp.mdb") != after) {
+  const std::uint64_t after = sizeOf(files, database);
+  if (sizeOf(files, data.programFolder() + "/temp.mdb") != after) {
     throw std::runtime_error("Compact Failed. There is no room for the compacted copy; the database is as it was: " +
                              database);
   }

@@ -2,42 +2,68 @@
 
 #include <cerrno>
 #include <system_error>
-#include <vector>
 
 #include "base/errors.h"
-#include "platform/file_access.h"
-#include "platform/private_file.h"
+#include "platform/os/open_file.h"
 
 namespace tarnwick {
 namespace {
-
-constexpr std::size_t kPieceSize = 1 << 20;
 
 [[noreturn]] void fail(const std::string& path, int cause) {
   throw FileError(path, std::generic_category().message(cause));
 }
 
+void fillFile(std::FILE* file, const std::string& path, const FileFill& fill) {
+  fill([&](std::string_view bytes) {
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size()) {
+      fail(path, errno);
+    }
+  });
+}
+
+class OpenedLocalFile final : public OpenedFile {
+ public:
+  explicit OpenedLocalFile(const std::string& path) : path_(path), file_(openFile(path, FileUse::read)) {
+    std::setvbuf(file_.get(), nullptr, _IOFBF, 1 << 16);
+  }
+
+  void read(std::string& bytes, std::size_t size) override {
+    bytes.resize(size);
+    const std::size_t got = std::fread(bytes.data(), 1, size, file_.get());
+    if (std::ferror(file_.get()) != 0) {
+      fail(path_, errno);
+    }
+    bytes.resize(got);
+  }
+
+ private:
+  std::string path_;
+  FileHandle file_;
+};
+
 }  // namespace
 
-void LocalFiles::write(const std::string& path, const std::string& like,
-                       const std::function<void(const ByteSink& sink)>& fill) {
+std::string LocalFiles::resolveLinks(const std::string& path) {
+  std::error_code fault;
+  const std::filesystem::path place = std::filesystem::canonical(pathOf(path), fault);
+  return fault ? path : textOf(place);
+}
+
+std::unique_ptr<OpenedFile> LocalFiles::open(const std::string& path) {
+  return std::make_unique<OpenedLocalFile>(path);
+}
+
+void LocalFiles::write(const std::string& path, const std::string& like, const FileFill& fill) {
   // Not over what stands there: who has that open, or has put a link there, would get at what only its owner may read.
-  removeFile(path);
-  FileHandle file = openNewFileLike(path, like);
-  if (!file) {
-    fail(path, EEXIST);
-  }
+  LocalFiles::remove(path);
+  FileHandle file = openNewFile(path, like);
   try {
-    fill([&](std::string_view bytes) {
-      if (std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) {
-        fail(path, errno);
-      }
-    });
-    settle(file.get(), path);
+    fillFile(file.get(), path, fill);
+    syncToDisk(file.get(), path);
   } catch (...) {
     file.reset();
     try {
-      removeFile(path);
+      LocalFiles::remove(path);
     } catch (const FileError&) {
       // What made the file useless is the more important news.
     }
@@ -45,23 +71,13 @@ void LocalFiles::write(const std::string& path, const std::string& like,
   }
 }
 
-void LocalFiles::copy(const std::string& from, const std::string& to) {
-  const FileHandle source = openFile(from, FileUse::read);
-  write(to, from, [&](const ByteSink& sink) {
-    std::vector<char> piece(kPieceSize);
-    while (const std::size_t size = std::fread(piece.data(), 1, piece.size(), source.get())) {
-      sink({piece.data(), size});
-    }
-    if (std::ferror(source.get()) != 0) {
-      fail(from, errno);
-    }
-  });
+void LocalFiles::overwrite(const std::string& path, FileRest rest, const FileFill& fill) {
+  FileHandle file = openFile(path, rest == FileRest::kept ? FileUse::update : FileUse::write);
+  fillFile(file.get(), path, fill);
+  // A full disk may show only here.
+  if (std::fclose(file.release()) != 0) {
+    fail(path, errno);
+  }
 }
-
-void LocalFiles::rename(const std::string& from, const std::string& to) { replaceFile(from, to); }
-
-void LocalFiles::remove(const std::string& path) { removeFile(path); }
-
-bool LocalFiles::replacesOpenFiles() const { return canReplaceOpenFiles(); }
 
 }  // namespace tarnwick

@@ -1,6 +1,6 @@
 #include <windows.h>
 
-#include "platform/file_access.h"
+#include "platform/file_system.h"
 #include "platform/os/windows_text.h"
 
 namespace tarnwick {

@@ -11,7 +11,7 @@
 
 #include "base/text.h"
 #include "base/windows_command_line.h"
-#include "platform/file_access.h"
+#include "platform/local_files.h"
 #include "platform/os/windows_text.h"
 #include "platform/process/detached_programs.h"
 
@@ -45,7 +45,7 @@ std::string findProgram(const std::string& name) {
   for (const std::string_view ending : kTriedEndings) {
     const std::string tried = name + std::string(ending);
     const std::string path = inFolder ? textOf(pathOf(programFolder()) / pathOf(tried)) : searched(tried);
-    if (!path.empty() && kindOf(path) == FileKind::file) {
+    if (!path.empty() && LocalFiles().kindOf(path) == FileKind::file) {
       // Interpreters take a slash for the start of an option.
       return QDir::toNativeSeparators(QString::fromStdString(path)).toStdString();
     }

@@ -1,102 +1,107 @@
 #include "platform/process/file_run_lock.h"
 
+#include <sstream>
 #include <stdexcept>
 #include <utility>
-#include <QFile>
-#include <QLockFile>
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <QString>
+#include <QSysInfo>
 
 #include "base/errors.h"
+#include "platform/local_files.h"
+#include "platform/os/open_file.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr const char* kLockFile = "/tarnwick.lock";
-/// Within this time whoever makes the file has written its name into it.
-constexpr int kNamingMs = 300;
+std::string thisProcess() {
+  return std::to_string(QCoreApplication::applicationPid()) + "\n" +
+         QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName().toStdString() + "\n" +
+         QSysInfo::machineHostName().toStdString() + "\n";
+}
 
-std::string holderOf(const QLockFile& lock) {
-  qint64 process = 0;
-  QString host;
-  QString program;
-  if (!lock.getLockInfo(&process, &host, &program)) {
+/// Who has the lock, as far as its file tells.
+std::string holderIn(const std::string& path) {
+  constexpr std::size_t kMostBytes = 1000;
+  std::string text;
+  try {
+    LocalFiles().open(path)->read(text, kMostBytes);
+  } catch (const FileError&) {
     return "another program";
   }
-  return (program.isEmpty() ? std::string("a program") : program.toStdString()) + " (process " +
-         std::to_string(process) + (host.isEmpty() ? "" : " on " + host.toStdString()) + ")";
+  std::istringstream lines(text);
+  std::string process;
+  std::string program;
+  std::string host;
+  if (!std::getline(lines, process) || !std::getline(lines, program) || !std::getline(lines, host)) {
+    return "another program";
+  }
+  return (program.empty() ? "a program" : program) + " (process " + process + (host.empty() ? "" : " on " + host) + ")";
 }
 
-/// Tries to take the lock. A file without a name in it, as a process leaves that was killed between making the file and
-/// writing to it, would otherwise stand in the way for ever.
-bool tryToTake(QLockFile& lock) {
-  qint64 process = 0;
-  QString host;
-  QString program;
-  if (lock.tryLock(0)) {
-    return true;
-  }
-  if (lock.error() != QLockFile::LockFailedError || lock.getLockInfo(&process, &host, &program)) {
-    return false;
-  }
-  if (lock.tryLock(kNamingMs)) {
-    return true;
-  }
-  // Fails while a process has the file open as its own.
-  return lock.error() == QLockFile::LockFailedError && !lock.getLockInfo(&process, &host, &program) &&
-         lock.removeStaleLockFile() && lock.tryLock(0);
-}
+class FileRunLock final : public RunLock {
+ public:
+  explicit FileRunLock(const std::string& programFolder)
+      : folder_(programFolder), path_(programFolder + "/tarnwick.lock") {}
+  ~FileRunLock() override { release(); }
+  FileRunLock(const FileRunLock&) = delete;
+  FileRunLock& operator=(const FileRunLock&) = delete;
 
-/// Removes what a process leaves that is killed while it takes over the lock of another one that was killed.
-void removeLeftTakeOvers(const QString& path) {
-  for (const char* ending : {".rmlock.rmlock", ".rmlock"}) {
-    const QString left = path + QLatin1String(ending);
-    if (QFile::exists(left)) {
-      QLockFile takeOver(left);
-      tryToTake(takeOver);  // and removed at the end of its life, unless a living process is just at it
+  void take() override {
+    if (file_) {
+      return;
     }
-  }
-}
-
-}  // namespace
-
-struct FileRunLock::File {
-  explicit File(const std::string& path) : lock(QString::fromStdString(path)) {
-    // A run may last for years: only a process that is gone loses its right.
-    lock.setStaleLockTime(0);
-  }
-  QLockFile lock;
-};
-
-FileRunLock::FileRunLock(std::string programFolder) : folder_(std::move(programFolder)) {}
-FileRunLock::~FileRunLock() = default;
-
-void FileRunLock::take() {
-  if (file_) {
-    return;
-  }
-  const std::string path = folder_ + kLockFile;
-  auto file = std::make_unique<File>(path);
-  if (tryToTake(file->lock)) {
-    // Whoever could write it could let a second run in.
-    QFile::setPermissions(QString::fromStdString(path), QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-    removeLeftTakeOvers(QString::fromStdString(path));
-    file_ = std::move(file);
-    return;
-  }
-  switch (file->lock.error()) {
-    case QLockFile::LockFailedError:
-      throw std::runtime_error("A run is on in this folder already: " + holderOf(file->lock) + " checks the sites of " +
+    FileHandle file = open();
+    if (!file) {
+      throw std::runtime_error("A run is on in this folder already: " + holderIn(path_) + " checks the sites of " +
                                folder_ +
                                ", and a second run would check each of them twice. Stop that run first; when no such "
                                "process exists on that machine any more, remove " +
-                               path + ".");
-    case QLockFile::PermissionError:
-      throw FileError(path, "The folder cannot be written, so no run can be started in it.");
-    default:
-      throw FileError(path, "The file could not be written, so no run can be started. The disk may be full.");
+                               path_ + ".");
+    }
+    file_ = std::move(file);
+    if (std::fputs(thisProcess().c_str(), file_.get()) < 0 || std::fflush(file_.get()) != 0) {
+      release();
+      throw FileError(path_, "The file could not be written, so no run can be started. The disk may be full.");
+    }
   }
-}
 
-void FileRunLock::release() noexcept { file_.reset(); }
+  void release() noexcept override {
+    LocalFiles files;
+    if (file_ && files.replacesOpenFiles()) {
+      try {
+        // While it is still locked: afterwards it may be another one's.
+        files.remove(path_);
+      } catch (const std::exception&) {
+        // One that is left does not count.
+      }
+    }
+    file_.reset();
+  }
+
+ private:
+  /// Nothing when another process has it. So it is taken for a file that this user may not open: it may be in use.
+  FileHandle open() const {
+    try {
+      return openAlone(path_);
+    } catch (const FileError&) {
+      if (LocalFiles().exists(path_)) {
+        return nullptr;
+      }
+      throw FileError(path_, "The folder cannot be written, so no run can be started in it.");
+    }
+  }
+
+  std::string folder_;
+  std::string path_;
+  FileHandle file_;
+};
+
+}  // namespace
+
+std::unique_ptr<RunLock> FileRunLocks::makeRunLock(const std::string& programFolder) {
+  return std::make_unique<FileRunLock>(programFolder);
+}
 
 }  // namespace tarnwick

@@ -7,28 +7,12 @@
 
 namespace tarnwick {
 
-/// The lock as the file "tarnwick.lock" in the folder; what a killed process left there does not count.
-class FileRunLock final : public RunLock {
- public:
-  explicit FileRunLock(std::string programFolder);
-  ~FileRunLock() override;
-  FileRunLock(const FileRunLock&) = delete;
-  FileRunLock& operator=(const FileRunLock&) = delete;
-
-  void take() override;
-  void release() noexcept override;
-
- private:
-  struct File;
-  std::string folder_;
-  std::unique_ptr<File> file_;
-};
-
+/// The lock as the file "tarnwick.lock" in the folder, which the system keeps for this process and lets go at its end,
+/// however that comes: a file that was left does not count. It holds who has it: process, program and machine, a line
+/// each.
 class FileRunLocks final : public RunLockMaker {
  public:
-  std::unique_ptr<RunLock> makeRunLock(const std::string& programFolder) override {
-    return std::make_unique<FileRunLock>(programFolder);
-  }
+  std::unique_ptr<RunLock> makeRunLock(const std::string& programFolder) override;
 };
 
 }  // namespace tarnwick

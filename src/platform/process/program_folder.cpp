@@ -10,9 +10,10 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 
 #include "base/errors.h"
-#include "platform/file_access.h"
+#include "platform/local_files.h"
 
 namespace tarnwick {
 namespace {
@@ -50,7 +51,7 @@ void makePrivateFolder(const fs::path& folder) {
     return;
   }
   makePrivateFolder(folder.parent_path());
-  if (makeFolder(textOf(folder))) {
+  if (LocalFiles().makeFolder(textOf(folder))) {
     fs::permissions(folder, fs::perms::owner_all);
   }
 }
@@ -101,7 +102,7 @@ void layNewFolder(const std::string& installation, const std::string& folder) {
   fs::rename(pathOf(fresh.path().toStdString()), pathOf(folder), fault);
   if (!fault) {
     fresh.setAutoRemove(false);
-  } else if (!isTaken(folder)) {
+  } else if (!LocalFiles().exists(folder)) {
     throw FileError(folder, fault.message());
   }
 }
@@ -126,7 +127,9 @@ std::string userFolder(const UserEnvironment& environment) {
 }
 
 ExecutableFolder lookAt(const std::string& executableFolder) {
-  return {executableFolder, isTaken(executableFolder + kSharedMark), isWritableFolder(executableFolder),
+  // Who may do what follows from lists of many kinds; the one sure way is to try.
+  const bool isWritable = QTemporaryFile(qt(executableFolder + "/XXXXXX.tmp")).open();
+  return {executableFolder, LocalFiles().exists(executableFolder + kSharedMark), isWritable,
           QFileInfo(qt(executableFolder + kDatabase)).isReadable()};
 }
 
@@ -139,7 +142,7 @@ std::string chooseFolder(const ExecutableFolder& executable, const UserEnvironme
 }
 
 void layUserFolder(const std::string& installation, const std::string& folder) {
-  if (isTaken(folder)) {
+  if (LocalFiles().exists(folder)) {
     try {
       layProgramFiles(QDir(qt(installation)), QDir(qt(folder)));
     } catch (const FileError&) {

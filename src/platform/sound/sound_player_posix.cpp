@@ -2,7 +2,7 @@
 #include <array>
 #include <filesystem>
 
-#include "platform/file_access.h"
+#include "platform/file_system.h"
 #include "platform/sound/sound_player.h"
 #include "platform/sound/wave_file.h"
 

@@ -7,7 +7,7 @@
 #include <system_error>
 
 #include "base/errors.h"
-#include "platform/file_access.h"
+#include "platform/file_system.h"
 
 namespace tarnwick {
 

@@ -7,7 +7,7 @@
 #include <variant>
 
 #include "base/errors.h"
-#include "platform/file_access.h"
+#include "platform/local_files.h"
 #include "platform/sqlite/sqlite_errors.h"
 #include "platform/sqlite/sqlite_file.h"
 #include "platform/sqlite/sqlite_functions.h"
@@ -49,7 +49,7 @@ class Binder {
 /// Nothing for a file that is missing or cannot be looked at.
 std::optional<std::uint64_t> bytesIn(const std::string& path) {
   try {
-    return sizeOf(path);
+    return LocalFiles().sizeOf(path);
   } catch (const FileError&) {
     return std::nullopt;
   }
@@ -125,7 +125,7 @@ void SqliteDatabase::setForeignLogAside() {
       file->pMethods->xRead(file, versions.data(), static_cast<int>(versions.size()), kVersions) == SQLITE_OK &&
       versions == kWithoutLog) {
     try {
-      replaceFile(log, log + ".old");
+      LocalFiles().rename(log, log + ".old");
     } catch (const FileError& error) {
       throw DataAccessError(
           "The file " + log + " belongs to another database than " + path_ + ". Remove it. (" + error.what() + ")", "");

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "platform/file_access.h"
+#include "platform/local_files.h"
 
 namespace tarnwick {
 namespace {
@@ -18,7 +18,7 @@ std::string realName(sqlite3* database) {
 /// What cannot be looked at may hold something.
 bool holdsNothing(const std::string& path) noexcept {
   try {
-    return !isTaken(path) || sizeOf(path) == 0;
+    return !LocalFiles().exists(path) || LocalFiles().sizeOf(path) == 0;
   } catch (const std::exception&) {
     return false;
   }
@@ -72,9 +72,9 @@ void SqliteFileWatch::afterClosing() const noexcept {
     return;
   }
   try {
-    replaceFile(log_.path, log_.path + ".old");
+    LocalFiles().rename(log_.path, log_.path + ".old");
     if (sharedMemory_.isInPlace()) {
-      removeFile(sharedMemory_.path);
+      LocalFiles().remove(sharedMemory_.path);
     }
   } catch (const std::exception&) {
     // Who may not change the folder cannot open the database either.
@@ -82,7 +82,7 @@ void SqliteFileWatch::afterClosing() const noexcept {
 }
 
 void requireFile(const std::string& path) {
-  const FileKind kind = kindOf(path);
+  const FileKind kind = LocalFiles().kindOf(path);
   if (kind == FileKind::none) {
     throw DataAccessError(
         "The database " + path + " is missing. Put the file back, for instance by copying backup.mdb to its name.", "");
@@ -91,7 +91,7 @@ void requireFile(const std::string& path) {
     throw DataAccessError("The database " + path + " is a folder. Put the database file in its place.", "");
   }
   // Where the folder may not be looked into, SQLite says so.
-  if (kind == FileKind::other && isTaken(path)) {
+  if (kind == FileKind::pipe || (kind == FileKind::other && LocalFiles().exists(path))) {
     throw DataAccessError("The database " + path +
                               " is no file: a device, a pipe or a link that leads in a circle has its name. Put the "
                               "database file in its place.",

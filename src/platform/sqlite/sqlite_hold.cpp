@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/errors.h"
-#include "platform/private_file.h"
+#include "platform/local_files.h"
 #include "platform/sqlite/sqlite_connection.h"
 #include "platform/sqlite/sqlite_errors.h"
 #include "platform/sqlite/sqlite_file.h"
@@ -17,14 +17,14 @@ constexpr int kPieceSize = 1 << 20;
 
 /// Makes an empty file that may be read by those who may read the file `like`.
 void makeEmpty(const std::string& path, const std::string& like) {
-  bool isMade = false;
+  LocalFiles files;
+  if (files.exists(path)) {
+    throw DataAccessError("The file " + path + " is there already and would be overwritten. Remove it.", "");
+  }
   try {
-    isMade = openNewFileLike(path, like) != nullptr;
+    files.write(path, like, [](const ByteSink&) {});
   } catch (const FileError&) {
     throw DataAccessError("The file " + path + " cannot be written. Allow writing to its folder.", "");
-  }
-  if (!isMade) {
-    throw DataAccessError("The file " + path + " is there already and would be overwritten. Remove it.", "");
   }
 }
 

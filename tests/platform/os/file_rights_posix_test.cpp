@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "platform/private_file.h"
+#include "platform/local_files.h"
 #include "support/program_folder.h"
 
 namespace tarnwick::testing {
@@ -14,9 +14,9 @@ namespace {
 TEST(FileRights, OthersNeverWriteAFileThatIsMadeHere) {
   const ProgramFolder folder;
   const mode_t before = umask(0);
-  for (const FileUse use : {FileUse::write, FileUse::update}) {
-    const std::string name = folder.file(use == FileUse::write ? "written" : "updated");
-    openFile(name, use);
+  for (const FileRest rest : {FileRest::removed, FileRest::kept}) {
+    const std::string name = folder.file(rest == FileRest::removed ? "written" : "updated");
+    LocalFiles().overwrite(name, rest, [](const ByteSink&) {});
     EXPECT_EQ(static_cast<int>(std::filesystem::status(name).permissions()), 0644);
   }
   umask(before);
@@ -31,7 +31,7 @@ TEST(FileRights, ACopyBelongsToWhomTheModelBelongs) {
   const ProgramFolder folder;
   ASSERT_EQ(::chown(folder.databasePath().c_str(), kOwner, kGroup), 0);
   ASSERT_EQ(::chmod(folder.databasePath().c_str(), 0640), 0);
-  ASSERT_NE(openNewFileLike(folder.file("copy"), folder.databasePath()), nullptr);
+  LocalFiles().copy(folder.databasePath(), folder.file("copy"));
   struct stat made {};
   ASSERT_EQ(::stat(folder.file("copy").c_str(), &made), 0);
   EXPECT_EQ(made.st_uid, kOwner);

@@ -1,14 +1,13 @@
-#include "platform/private_file.h"
-
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 #include <string>
 
 #include "base/errors.h"
+#include "platform/local_files.h"
 #include "support/files_fixture.h"
 #include "support/system.h"
 
@@ -17,64 +16,53 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr fs::perms kOwnerOnly = fs::perms::owner_read | fs::perms::owner_write;
+
 class PrivateFile : public FilesFixture {
  protected:
-  /// Takes every name that a list's unfinished copy could have.
-  void takeAllNames() const {
-    make("list.csv.new", "the user's");
-    for (int number = 2; number <= 100; ++number) {
-      make("list.csv.new" + std::to_string(number), "left over");
-    }
+  std::size_t filesInFolder() const {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(fs::path(at("x")).parent_path()), {}));
   }
-  void age(const std::string& name) const {
-    fs::last_write_time(at(name), fs::file_time_type::clock::now() - std::chrono::hours(25));
-  }
-  void writeList() const {
-    writePrivateFile(at("list.csv"), [](const ByteSink& sink) { sink("complete"); });
-  }
+  LocalFiles files;
 };
 
-TEST_F(PrivateFile, TakesTheNameOfAnOldUnfinishedFileWhenAllAreTaken) {
-  takeAllNames();
-  age("list.csv.new");
-  age("list.csv.new7");
-  writeList();
-  EXPECT_EQ(read("list.csv"), "complete");
-  EXPECT_FALSE(fs::exists(at("list.csv.new7")));
-  EXPECT_EQ(read("list.csv.new"), "the user's");
-  EXPECT_EQ(read("list.csv.new8"), "left over");
+TEST_F(PrivateFile, IsItsOwnersAloneFromTheFirstMomentOn) {
+  SKIP_ON_WINDOWS("There is no file mode there: the list of who may read the file is another one.");
+  make("list.csv", "old");
+  fs::permissions(at("list.csv"), fs::perms::all);
+  files.writePrivately(at("list.csv"), [&](const ByteSink& sink) {
+    sink("new");
+    EXPECT_EQ(read("list.csv"), "old");
+    for (const auto& entry : fs::directory_iterator(fs::path(at("x")).parent_path())) {
+      if (entry.path().extension() == ".tmp") {
+        EXPECT_EQ(entry.status().permissions(), kOwnerOnly);
+      }
+    }
+  });
+  EXPECT_EQ(read("list.csv"), "new");
+  EXPECT_EQ(fs::status(at("list.csv")).permissions(), kOwnerOnly);
 }
 
-TEST_F(PrivateFile, LetsFilesAloneThatMayBeInTheMaking) {
-  takeAllNames();
-  EXPECT_THROW(writeList(), FileError);
-  EXPECT_EQ(read("list.csv.new100"), "left over");
-  EXPECT_FALSE(fs::exists(at("list.csv")));
+TEST_F(PrivateFile, ThatCannotBeCompletedLeavesWhatStoodThereAndNothingElse) {
+  make("list.csv", "old");
+  const std::size_t before = filesInFolder();
+  EXPECT_THROW(files.writePrivately(at("list.csv"),
+                                    [](const ByteSink& sink) {
+                                      sink("half");
+                                      throw std::runtime_error("the source ended");
+                                    }),
+               std::runtime_error);
+  EXPECT_EQ(read("list.csv"), "old");
+  EXPECT_EQ(filesInFolder(), before);
 }
 
-TEST_F(PrivateFile, LetsOldFilesAloneWhileThereAreOtherNames) {
-  make("list.csv.new", "the user's");
-  make("list.csv.new2", "the user's");
-  age("list.csv.new");
-  age("list.csv.new2");
-  writeList();
-  EXPECT_EQ(read("list.csv"), "complete");
-  EXPECT_EQ(read("list.csv.new2"), "the user's");
-}
-
-TEST_F(PrivateFile, NewFileLikeAnotherHasItsRightsFromTheStartAndNoOther) {
-  SKIP_ON_WINDOWS("There a file takes its rights from its folder.");
-  const fs::perms shared = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
-  make("like", "");
-  fs::permissions(at("like"), shared);
-  EXPECT_TRUE(openNewFileLike(at("a"), at("like")));
-  EXPECT_EQ(fs::status(at("a")).permissions(), shared);
-  EXPECT_FALSE(openNewFileLike(at("a"), at("like")));
-  fs::create_symlink(at("nowhere"), at("link"));
-  EXPECT_FALSE(openNewFileLike(at("link"), at("like")));
-  EXPECT_FALSE(fs::exists(at("nowhere")));
-  EXPECT_THROW(openNewFileLike(at("b"), at("none")), FileError);
-  EXPECT_FALSE(fs::exists(at("b")));
+TEST_F(PrivateFile, InAMissingFolderIsAnErrorThatNamesTheFile) {
+  try {
+    files.writePrivately(at("none/list.csv"), [](const ByteSink&) {});
+    FAIL() << "No error was raised.";
+  } catch (const FileError& error) {
+    EXPECT_EQ(error.path(), at("none/list.csv"));
+  }
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 
 #include <fstream>
 
-#include "platform/file_access.h"
+#include "platform/local_files.h"
 #include "platform/os/windows_text.h"
 #include "platform/terminal.h"
 
@@ -22,6 +22,6 @@ int main(int argc, char** argv) {
       out << '[' << arguments[i] << ']';
     }
   }
-  tarnwick::replaceFile(part, arguments.front());
+  tarnwick::LocalFiles().rename(part, arguments.front());
   return 0;
 }

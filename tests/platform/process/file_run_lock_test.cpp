@@ -6,7 +6,11 @@
 
 #include <filesystem>
 #include <fstream>
+#include <memory>
+#include <string>
 
+#include "base/errors.h"
+#include "support/file_bytes.h"
 #include "support/program_folder.h"
 #include "support/system.h"
 
@@ -17,8 +21,10 @@ using ::testing::HasSubstr;
 
 struct RunLockTest : ::testing::Test {
   ProgramFolder folder;
-  FileRunLock first{folder.path()};
-  FileRunLock second{folder.path()};
+  std::unique_ptr<RunLock> one = FileRunLocks().makeRunLock(folder.path());
+  std::unique_ptr<RunLock> other = FileRunLocks().makeRunLock(folder.path());
+  RunLock& first = *one;
+  RunLock& second = *other;
 
   std::string refusalOfSecond() {
     try {
@@ -64,34 +70,33 @@ TEST_F(RunLockTest, IsAFileOfItsOwnerAlone) {
   EXPECT_EQ(fs::status(folder.file("tarnwick.lock")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
-TEST_F(RunLockTest, DoesNotCountWhatAProcessThatIsGoneLeft) {
-  // The form in which the lock keeps its holder: process, program, host, which Windows knows by another name.
-  const QString host =
-      tarnwick::testing::kOnWindows ? qEnvironmentVariable("COMPUTERNAME") : QSysInfo::machineHostName();
-  std::ofstream(folder.file("tarnwick.lock"), std::ios::binary) << "99999999\ntarnwick\n" << host.toStdString() << "\n";
-  EXPECT_EQ(refusalOfSecond(), "taken");
-}
-
-TEST_F(RunLockTest, RemovesWhatAProcessLeavesThatIsKilledWhileItTakesOverALock) {
-  for (const char* left : {"tarnwick.lock.rmlock", "tarnwick.lock.rmlock.rmlock"}) {
-    std::ofstream(folder.file(left)).flush();
-    first.take();
-    EXPECT_FALSE(std::filesystem::exists(folder.file(left))) << left;
-    EXPECT_THROW(second.take(), std::runtime_error);
-    first.release();
+TEST_F(RunLockTest, DoesNotCountAFileThatWasLeftWhateverIsInIt) {
+  const std::string livingProcess = std::to_string(QCoreApplication::applicationPid()) + "\ntarnwick\nthis-machine\n";
+  for (const std::string& left : {std::string(), std::string("99999999\ntarnwick\n"), livingProcess}) {
+    std::ofstream(folder.file("tarnwick.lock"), std::ios::binary) << left;
+    EXPECT_EQ(refusalOfSecond(), "taken");
+    EXPECT_THROW(first.take(), std::runtime_error) << "it has become a lock like any other";
+    second.release();
   }
 }
 
-TEST_F(RunLockTest, DoesNotCountAFileWithoutANameAsAProcessLeavesThatIsKilledWhileItMakesIt) {
-  std::ofstream(folder.file("tarnwick.lock")).flush();
-  EXPECT_EQ(refusalOfSecond(), "taken");
-  FileRunLock third(folder.path());
-  EXPECT_THROW(third.take(), std::runtime_error) << "it has become a lock like any other";
+TEST_F(RunLockTest, NamesAnotherProgramWhileTheFileTellsNoName) {
+  SKIP_ON_WINDOWS("There nobody else can write the file.");
+  first.take();
+  std::filesystem::resize_file(folder.file("tarnwick.lock"), 0);
+  EXPECT_THAT(refusalOfSecond(), HasSubstr("another program checks"));
+}
+
+TEST_F(RunLockTest, WritesBehindNoLink) {
+  SKIP_ON_WINDOWS("There a link takes a right of its own.");
+  std::ofstream(folder.file("other")) << "untouched";
+  std::filesystem::create_symlink(folder.file("other"), folder.file("tarnwick.lock"));
+  EXPECT_THROW(first.take(), std::runtime_error);
+  EXPECT_EQ(bytesOfFile(folder.file("other")), "untouched");
 }
 
 TEST_F(RunLockTest, SaysThatAFolderIsMissing) {
-  FileRunLock nowhere(folder.file("nowhere"));
-  EXPECT_THROW(nowhere.take(), std::runtime_error);
+  EXPECT_THROW(FileRunLocks().makeRunLock(folder.file("nowhere"))->take(), FileError);
 }
 
 }  // namespace

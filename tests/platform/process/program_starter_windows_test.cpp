@@ -6,7 +6,7 @@
 #include <QDir>
 #include <QTimer>
 
-#include "platform/file_access.h"
+#include "platform/local_files.h"
 #include "platform/process/detached_programs.h"
 #include "support/program_folder.h"
 #include "support/wait_until.h"
@@ -29,7 +29,8 @@ class ProgramStart : public ::testing::Test {
   std::string written() const {
     QTimer looks;
     looks.start(10);
-    EXPECT_TRUE(waitUntil([&] { return kindOf(at("out")) == FileKind::file; })) << "The program was not started.";
+    EXPECT_TRUE(waitUntil([&] { return LocalFiles().kindOf(at("out")) == FileKind::file; }))
+        << "The program was not started.";
     std::ifstream file(pathOf(at("out")), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }

@@ -7,7 +7,7 @@
 
 #include "base/errors.h"
 #include "open_database.h"
-#include "platform/file_access.h"
+#include "platform/file_system.h"
 #include "support/system.h"
 
 namespace tarnwick::testing {

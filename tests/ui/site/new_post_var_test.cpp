@@ -5,7 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 
-#include "platform/file_access.h"
+#include "platform/local_files.h"
 #include "support/wait_until.h"
 #include "ui/support/dialog_fixture.h"
 
@@ -93,7 +93,7 @@ TEST_F(NewPostVarTest, AVariableThatIsGoneIsToldAndNothingElseIsTouched) {
 }
 
 TEST_F(NewPostVarTest, AListThatCannotBeReadForAMomentIsNotStoredAsAnEmptyOne) {
-  if (!canReplaceOpenFiles()) {
+  if (!LocalFiles().replacesOpenFiles()) {
     GTEST_SKIP() << "Here nobody can move a file that is open.";
   }
   auto& form = openVar(0);

@@ -2,13 +2,18 @@
 
 #include <fcntl.h>
 #include <io.h>
+#include <sddl.h>
 
+#include <array>
 #include <cerrno>
+#include <cstddef>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 #include "base/errors.h"
-#include "platform/file_access.h"
+#include "platform/local_files.h"
+#include "platform/os/open_file.h"
 #include "platform/os/windows_text.h"
 
 namespace tarnwick {
@@ -94,9 +99,62 @@ DWORD moveOver(const std::wstring& from, const std::wstring& to) {
   return error;
 }
 
+/// Full access for the owner, whoever that becomes, and nothing taken over from the folder.
+const std::wstring kOwnerOnly = L"D:P(A;;FA;;;OW)";
+
+struct LocalFreer {
+  void operator()(void* memory) const { LocalFree(memory); }
+};
+
+/// The user that this process works for, in the words of an access list; empty when that cannot be told.
+std::wstring accessOfThisUser() {
+  HANDLE raw = nullptr;
+  if (OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &raw) == FALSE) {
+    return {};
+  }
+  std::array<std::byte, sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE> room{};
+  DWORD size = 0;
+  const BOOL known = GetTokenInformation(raw, TokenUser, room.data(), static_cast<DWORD>(room.size()), &size);
+  CloseHandle(raw);
+  wchar_t* name = nullptr;
+  if (known == FALSE ||
+      ConvertSidToStringSidW(reinterpret_cast<const TOKEN_USER*>(room.data())->User.Sid, &name) == FALSE) {
+    return {};
+  }
+  const std::unique_ptr<void, LocalFreer> owner(name);
+  return L"(A;;FA;;;" + std::wstring(name) + L")";
+}
+
+/// An access list with the owner alone.
+std::unique_ptr<void, LocalFreer> ownerOnly(const std::string& path) {
+  // A member of the administrators makes files that belong to all of these.
+  const std::wstring list = kOwnerOnly + accessOfThisUser();
+  PSECURITY_DESCRIPTOR descriptor = nullptr;
+  if (ConvertStringSecurityDescriptorToSecurityDescriptorW(list.c_str(), SDDL_REVISION_1, &descriptor, nullptr) ==
+      FALSE) {
+    throw FileError(path, systemMessage(GetLastError()));
+  }
+  return std::unique_ptr<void, LocalFreer>(descriptor);
+}
+
+FileHandle fileOf(Handle handle, const std::string& path, const char* manner) {
+  const int descriptor = _open_osfhandle(reinterpret_cast<intptr_t>(handle.get()), _O_BINARY | _O_NOINHERIT);
+  if (descriptor < 0) {
+    throw FileError(path, std::generic_category().message(errno));
+  }
+  static_cast<void>(handle.release());
+  FileHandle file(_fdopen(descriptor, manner));
+  if (!file) {
+    const int cause = errno;
+    _close(descriptor);
+    throw FileError(path, std::generic_category().message(cause));
+  }
+  return file;
+}
+
 }  // namespace
 
-FileKind kindOf(const std::string& path) {
+FileKind LocalFiles::kindOf(const std::string& path) {
   const DWORD attributes = GetFileAttributesW(systemPath(path).c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) {
     return isNothingThere(GetLastError()) ? FileKind::none : FileKind::other;
@@ -107,11 +165,11 @@ FileKind kindOf(const std::string& path) {
   return (attributes & FILE_ATTRIBUTE_DEVICE) != 0 ? FileKind::other : FileKind::file;
 }
 
-bool isTaken(const std::string& path) {
+bool LocalFiles::exists(const std::string& path) {
   return GetFileAttributesW(systemPath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
-std::uint64_t sizeOf(const std::string& path) {
+std::uint64_t LocalFiles::sizeOf(const std::string& path) {
   const Handle handle = lookAt(path);
   LARGE_INTEGER size{};
   if (handle.get() == INVALID_HANDLE_VALUE || GetFileSizeEx(handle.get(), &size) == FALSE) {
@@ -123,7 +181,7 @@ std::uint64_t sizeOf(const std::string& path) {
   return static_cast<std::uint64_t>(size.QuadPart);
 }
 
-bool isSameFile(const std::string& one, const std::string& other) {
+bool LocalFiles::isSameFile(const std::string& one, const std::string& other) {
   const auto first = factsOf(one);
   const auto second = factsOf(other);
   return first && second && first->dwVolumeSerialNumber == second->dwVolumeSerialNumber &&
@@ -145,27 +203,43 @@ FileHandle openFile(const std::string& path, FileUse use) {
   if (error != ERROR_SUCCESS) {
     fail(path, error);
   }
-  const int descriptor = _open_osfhandle(reinterpret_cast<intptr_t>(handle.get()), _O_BINARY | _O_NOINHERIT);
-  if (descriptor < 0) {
-    throw FileError(path, std::generic_category().message(errno));
-  }
-  static_cast<void>(handle.release());
-  FileHandle file(_fdopen(descriptor, use == FileUse::read ? "rb" : "wb"));
-  if (!file) {
-    const int cause = errno;
-    _close(descriptor);
-    throw FileError(path, std::generic_category().message(cause));
-  }
-  return file;
+  return fileOf(std::move(handle), path, use == FileUse::read ? "rb" : "wb");
 }
 
-void settle(std::FILE* file, const std::string& path) {
+FileHandle openNewFile(const std::string& path, const std::string& like) {
+  // Without a list of its own a file has that of its folder from the moment it is made.
+  const auto descriptor = like.empty() ? ownerOnly(path) : nullptr;
+  SECURITY_ATTRIBUTES attributes{sizeof(SECURITY_ATTRIBUTES), descriptor.get(), FALSE};
+  Handle handle(CreateFileW(systemPath(path).c_str(), GENERIC_WRITE, like.empty() ? FILE_SHARE_DELETE : kShareAll,
+                            &attributes, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (handle.get() == INVALID_HANDLE_VALUE) {
+    fail(path, GetLastError());
+  }
+  return fileOf(std::move(handle), path, "wb");
+}
+
+FileHandle openAlone(const std::string& path) {
+  const auto descriptor = ownerOnly(path);
+  SECURITY_ATTRIBUTES attributes{sizeof(SECURITY_ATTRIBUTES), descriptor.get(), FALSE};
+  // Others may read who has it, and nothing else; the system removes it with its last handle.
+  Handle handle(CreateFileW(systemPath(path).c_str(), GENERIC_WRITE | DELETE, FILE_SHARE_READ, &attributes,
+                            CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+  if (handle.get() != INVALID_HANDLE_VALUE) {
+    return fileOf(std::move(handle), path, "wb");
+  }
+  if (const DWORD error = GetLastError(); !isHeldByOthers(error)) {
+    fail(path, error);
+  }
+  return nullptr;
+}
+
+void syncToDisk(std::FILE* file, const std::string& path) {
   if (std::fflush(file) != 0 || _commit(_fileno(file)) != 0) {
     throw FileError(path, std::generic_category().message(errno));
   }
 }
 
-void replaceFile(const std::string& from, const std::string& to) {
+void LocalFiles::rename(const std::string& from, const std::string& to) {
   const std::wstring source = systemPath(from);
   const std::wstring target = systemPath(to);
   refuseFolder(target, to);
@@ -175,9 +249,9 @@ void replaceFile(const std::string& from, const std::string& to) {
   }
 }
 
-bool canReplaceOpenFiles() { return false; }
+bool LocalFiles::replacesOpenFiles() { return false; }
 
-void removeFile(const std::string& path) {
+void LocalFiles::remove(const std::string& path) {
   const std::wstring place = systemPath(path);
   refuseFolder(place, path);
   const DWORD error = patiently([&] { return errorUnless(DeleteFileW(place.c_str())); }, true);
@@ -186,15 +260,7 @@ void removeFile(const std::string& path) {
   }
 }
 
-bool isWritableFolder(const std::string& path) {
-  // Who may do what follows from lists of many kinds; the one sure way is to try. The file goes with its handle.
-  const std::string name = path + "/tarnwick-" + std::to_string(GetCurrentProcessId()) + ".tmp";
-  const Handle handle(CreateFileW(systemPath(name).c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
-                                  FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
-  return handle.get() != INVALID_HANDLE_VALUE;
-}
-
-bool makeFolder(const std::string& path) {
+bool LocalFiles::makeFolder(const std::string& path) {
   const DWORD error = errorUnless(CreateDirectoryW(systemPath(path).c_str(), nullptr));
   if (error == ERROR_ALREADY_EXISTS && kindOf(path) == FileKind::folder) {
     return false;
@@ -205,7 +271,7 @@ bool makeFolder(const std::string& path) {
   return true;
 }
 
-bool holdsVisibleFile(const std::string& folder) {
+bool LocalFiles::holdsVisibleFile(const std::string& folder) {
   constexpr DWORD kNotShown = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
   WIN32_FIND_DATAW entry{};
   const HANDLE search = FindFirstFileW(systemPath(folder + "/*").c_str(), &entry);

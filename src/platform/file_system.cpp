@@ -1,0 +1,81 @@
+#include "platform/file_system.h"
+
+#include <array>
+#include <random>
+#include <system_error>
+
+#include "base/errors.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kPieceSize = 1 << 20;
+
+}  // namespace
+
+std::filesystem::path pathOf(const std::string& utf8) {
+  if (const auto nul = utf8.find('\0'); nul != std::string::npos) {
+    throw FileError(utf8.substr(0, nul), "A file's name cannot hold a NUL character.");
+  }
+  try {
+    return std::u8string(utf8.begin(), utf8.end());
+  } catch (const std::system_error& error) {
+    throw FileError(utf8, error.code().message());
+  }
+}
+
+std::string textOf(const std::filesystem::path& path) {
+  const std::u8string text = path.generic_u8string();
+  return {text.begin(), text.end()};
+}
+
+void FileSystem::readAll(OpenedFile& file, const ByteSink& sink) {
+  std::string piece;
+  for (file.read(piece, kPieceSize); !piece.empty(); file.read(piece, kPieceSize)) {
+    sink(piece);
+  }
+}
+
+void FileSystem::copy(const std::string& from, const std::string& to) {
+  const auto source = open(from);
+  write(to, from, [&](const ByteSink& sink) { readAll(*source, sink); });
+}
+
+std::string FileSystem::unusedNameBeside(const std::string& path) {
+  constexpr std::string_view kDigits = "0123456789abcdefghijklmnopqrstuv";
+  std::random_device random;
+  std::string name;
+  do {
+    std::array<char, 8> letters{};
+    for (char& letter : letters) {
+      letter = kDigits[random() % kDigits.size()];
+    }
+    name = textOf(pathOf(path).parent_path() / (std::string(letters.data(), letters.size()) + ".tmp"));
+  } while (exists(name));
+  return name;
+}
+
+void FileSystem::writePrivately(const std::string& path, const FileFill& fill) {
+  switch (kindOf(path)) {
+    case FileKind::folder:
+      throw FileError(path, "This is a folder, where a file was expected.");
+    case FileKind::pipe:
+    case FileKind::other:
+      overwrite(path, FileRest::removed, fill);
+      return;
+    default:
+      break;
+  }
+  // Beside the file, since a file can be renamed within its folder only.
+  const std::string place = resolveLinks(path);
+  const std::string unfinished = unusedNameBeside(place);
+  try {
+    write(unfinished, {}, fill);
+    rename(unfinished, place);
+  } catch (const FileError& error) {
+    remove(unfinished);
+    throw FileError(error.path() == unfinished ? place : error.path(), error.cause());
+  }
+}
+
+}  // namespace tarnwick
