@@ -30,7 +30,7 @@ ROOMS = {
     "report": DATA,
     "engine": (*DATA, "alerts", "report"),
     "program": RUN,
-    "cli/terminal": DATA,
+    "cli/terminal": MACHINE,
     "cli/pages": (*RUN, "cli/terminal"),
     "cli/list": TOOL,
     "cli/verbs": (*TOOL, "cli/pages", "cli/list"),
