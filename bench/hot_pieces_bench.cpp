@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The pieces of a check that run once for each site or once for each byte of its page, one by one.
 //
 //   cmake -S . -B build/bench -G Ninja -DTARNWICK_BENCH=ON

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The floor of recording: the statements that a check needs, and nothing else, on a database of the program.
 //
 //   sql_floor DATABASE [CHANGED-EVERY]

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How fast 100 MB are encoded and decoded, on one core and through files as a user does it.
 //
 //   cmake -S . -B build/bench -G Ninja -DTARNWICK_BENCH=ON

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the window fares with a long list: how soon it is ready, how smoothly its event loop runs while a pass goes on,
 // and what it costs in memory and at rest.
 //

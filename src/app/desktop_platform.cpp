@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/desktop_platform.h"
 
 #include "app/headless_platform.h"

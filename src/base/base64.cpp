@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "base/base64.h"
 
 #include <algorithm>

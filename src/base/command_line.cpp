@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "base/command_line.h"
 
 #include <utility>

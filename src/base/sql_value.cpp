@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "base/sql_value.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "base/windows_1252.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/due_sites.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/inet_pool.h"
 
 #include <algorithm>

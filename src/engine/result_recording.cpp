@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/result_recording.h"
 
 #include <limits>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/single_control.h"
 
 #include <utility>

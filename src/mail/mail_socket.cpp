@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "mail/mail_socket.h"
 
 #include <cmath>

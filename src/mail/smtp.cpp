@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "mail/smtp.h"
 
 #include <algorithm>

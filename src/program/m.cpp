@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "program/m.h"
 
 namespace tarnwick {

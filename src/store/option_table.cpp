@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/option_table.h"
 
 #include <algorithm>

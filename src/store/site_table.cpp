@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/site_table.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/sql_quote.h"
 
 namespace tarnwick {

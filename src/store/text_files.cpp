@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/text_files.h"
 
 namespace tarnwick {

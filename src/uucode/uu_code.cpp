@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "uucode/uu_code.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The operations of UUCode on texts in memory.
 
 #include <algorithm>

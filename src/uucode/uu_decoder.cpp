@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "uucode/uu_decoder.h"
 
 #include <algorithm>

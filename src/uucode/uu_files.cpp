@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "uucode/uu_files.h"
 
 #include <filesystem>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "uucode/uu_record.h"
 
 #include <algorithm>

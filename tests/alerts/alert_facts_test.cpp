@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "alerts/alert_facts.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Plays sounds one after the other, for the sound test: sound_probe FILE MILLISECONDS [FILE MILLISECONDS]...
 // Prints what starting each has returned and handles events for that long after it.
 #include <iostream>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "base/windows_command_line.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/failing_memory.h"
 
 #include <sqlite3.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzz/core_targets.h"
 #include "fuzz/replay.h"
 

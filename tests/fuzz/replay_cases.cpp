@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Gives each target the inputs that the fuzzers start from and what they have found, then some that are made of these
 // as a fuzzer makes them, but the same ones every time.
 

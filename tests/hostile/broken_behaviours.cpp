@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Connections that end at the wrong moment.
 #include "behaviours.h"
 

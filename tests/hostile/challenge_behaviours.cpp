@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Servers that ask for a name and a password, and what comes of it.
 #include "behaviours.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Compressed answers: damaged, cut, nested, and bombs that are small on the wire.
 #include "behaviours.h"
 #include "support/http_message.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // FTP servers that do not keep to their side of the talk.
 #include "behaviours.h"
 

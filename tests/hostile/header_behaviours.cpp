@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Header lines with what does not belong in them.
 #include "behaviours.h"
 

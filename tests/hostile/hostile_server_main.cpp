@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A server of bad behaviours: hostile_server [NAME CERTIFICATE KEY]...
 //
 // It prints each behaviour's name and address, then "ready", and serves until its standard input ends.

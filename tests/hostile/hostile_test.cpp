@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every bad behaviour of a server, met by a real pass among steady neighbours: it ends in time, is judged and logged in
 // words that a person understands, takes bounded memory, leaks no connection and harms no other site.
 #include <gtest/gtest.h>

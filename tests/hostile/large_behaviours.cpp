@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pages at the bound of what is taken, and beyond.
 #include "behaviours.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Bodies whose length is not what was announced, and chunks that are none.
 #include "behaviours.h"
 

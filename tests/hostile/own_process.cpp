@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "own_process.h"
 
 #include <algorithm>

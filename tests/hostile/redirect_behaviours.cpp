@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Redirects: in circles, to nowhere, to what is not fetched, and to other hosts that ask for the password.
 #include "behaviours.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // TLS that goes wrong: certificates that prove nothing, and ends at every stage.
 #include "behaviours.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Servers that keep a visitor waiting.
 #include "behaviours.h"
 

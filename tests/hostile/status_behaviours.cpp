@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // First lines that are odd, and answers that come at the wrong time.
 #include "behaviours.h"
 

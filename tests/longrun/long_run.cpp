@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Checks sites over and over again in one process, as a monitor that nobody restarts does.
 //
 //     long_run FOLDER CHECKS

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "alerts/alert_dispatch.h"
 
 #include <gmock/gmock.h>

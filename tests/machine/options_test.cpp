@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a run does otherwise when its user wants it to.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/page_fetch.h"
 
 #include <gmock/gmock.h>

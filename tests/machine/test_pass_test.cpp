@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/test_pass.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "program/fault_box.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "report/daily_report.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "report/report_timer.h"
 
 #include <gmock/gmock.h>

@@ -68,5 +68,14 @@ def headers_are_included_once(tree: Tree):
             yield name, 1, "has no include guard: begin it with #pragma once."
 
 
+def sources_name_their_licence(tree: Tree):
+    """Whoever finds one file alone can tell what he may do with it. https://spdx.dev/learn/handling-license-info/"""
+    if not (tree.root / "LICENSE").is_file():
+        return
+    for name, lines in tree.lines.items():
+        if lines[:1] != ["// SPDX-License-Identifier: MIT"]:
+            yield name, 1, "does not name its licence: begin it with // SPDX-License-Identifier: MIT"
+
+
 RULES = (front_ends_write_no_sql, files_are_short, tests_do_not_sleep, only_the_platform_knows_the_system,
-         nothing_is_unfinished, headers_are_included_once)
+         nothing_is_unfinished, headers_are_included_once, sources_name_their_licence)

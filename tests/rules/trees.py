@@ -87,6 +87,8 @@ TREES = {
         "src/base/a.h": HEADER, "tests/store/CMakeLists.txt": "tarnwick_test(store MACHINE SOURCES a_test.cpp)\n"}),
     "Qt in the tests of a room without": ("tests/store/a_test.h:1: includes <QTimer>, itself or through a header", {
         "tests/store/a_test.h": HEADER + '#include "support/b.h"\n', "tests/support/b.h": HEADER + "#include <QTimer>\n"}),
+    "a source without a licence": ("src/store/a.h:1: does not name its licence", {
+        "LICENSE": "", "src/store/a.h": HEADER, "src/store/b.h": "// SPDX-License-Identifier: MIT\n" + HEADER}),
     "a header without a guard": ("has no include guard", {"src/store/a.h": "int a();\n"}),
     "no sources at all": ("no sources found", {"README.md": "\n"}),
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/compaction.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/post_vars.h"
 
 #include <gmock/gmock.h>

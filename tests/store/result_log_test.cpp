@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/result_log.h"
 
 #include "store/sql_quote.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/settings_and_log.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/site_options.h"
 
 #include <gmock/gmock.h>

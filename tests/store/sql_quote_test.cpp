@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/sql_quote.h"
 
 #include <gtest/gtest.h>

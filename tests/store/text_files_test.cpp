@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/text_files.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/faulty_disk.h"
 
 #include <sqlite3.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/ftp_server.h"
 
 #include <stdexcept>

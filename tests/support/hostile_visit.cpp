@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/hostile_visit.h"
 
 #include <arpa/inet.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/http_message.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The entry point of a test executable that needs an event loop, and no desktop.
 #include <gtest/gtest.h>
 

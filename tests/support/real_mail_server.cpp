@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/real_mail_server.h"
 
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/smtp_server.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The entry point of a test executable of a room that knows no Qt.
 #include <gtest/gtest.h>
 

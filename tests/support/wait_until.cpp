@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/wait_until.h"
 
 #include <QCoreApplication>

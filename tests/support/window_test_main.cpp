@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The entry point of a test executable with windows: one application object for all cases, on the offscreen platform.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transcript/golden.h"
 
 #include <gtest/gtest.h>

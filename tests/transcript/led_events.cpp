@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transcript/led_events.h"
 
 #include <gtest/gtest.h>

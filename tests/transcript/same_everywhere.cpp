@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transcript/same_everywhere.h"
 
 #include <sqlite3.h>

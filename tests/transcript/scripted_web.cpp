@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transcript/scripted_web.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transcript/table_rows.h"
 
 #include <filesystem>

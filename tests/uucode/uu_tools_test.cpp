@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Proof against encoders and decoders that nobody here wrote: sharutils and coreutils.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/list/site_facts.h"
 
 #include <algorithm>

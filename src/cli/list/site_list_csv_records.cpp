@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/list/site_list_csv_records.h"
 
 #include <algorithm>

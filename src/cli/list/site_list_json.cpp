@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/list/site_list_json.h"
 
 #include <algorithm>

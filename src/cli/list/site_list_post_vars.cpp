@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/list/site_list_post_vars.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/pages/differing_lines.h"
 
 #include <algorithm>

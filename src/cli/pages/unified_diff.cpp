@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/pages/unified_diff.h"
 
 #include <algorithm>

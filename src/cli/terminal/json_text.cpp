@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/terminal/json_text.h"
 
 #include <nlohmann/json.hpp>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/terminal/json_value.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/terminal/text_grid.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/verbs/command_line.h"
 
 #include <CLI/CLI.hpp>

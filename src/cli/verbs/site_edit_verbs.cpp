@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/verbs/site_edit_verbs.h"
 
 #include <algorithm>

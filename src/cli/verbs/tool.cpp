@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/verbs/tool.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/desktop/exclusive_dialog.h"
 
 #include <QEventLoop>

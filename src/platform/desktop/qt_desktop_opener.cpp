@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/desktop/qt_desktop_opener.h"
 
 #include <QDesktopServices>

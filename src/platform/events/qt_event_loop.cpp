@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/events/qt_event_loop.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QCoreApplication>
 
 #include "platform/events/qt_event_wait.h"

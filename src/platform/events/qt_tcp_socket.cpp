@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/events/qt_tcp_socket.h"
 
 #include <optional>

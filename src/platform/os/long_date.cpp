@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/long_date.h"
 
 #include "platform/os/calendar_names.h"

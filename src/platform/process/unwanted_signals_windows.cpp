@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/process/unwanted_signals.h"
 
 namespace tarnwick {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/sqlite/sql_tokens.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/sqlite/sqlite_errors.h"
 
 #include <sqlite3.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/sqlite/sqlite_tables.h"
 
 #include <algorithm>

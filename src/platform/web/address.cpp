@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/address.h"
 
 #include <curl/curl.h>

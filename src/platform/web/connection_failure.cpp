@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/web/connection_failure.h"
 
 #include <cerrno>

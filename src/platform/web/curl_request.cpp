@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/web/curl_request.h"
 
 #include <algorithm>

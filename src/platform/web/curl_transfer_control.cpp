@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/web/curl_transfer_control.h"
 
 #include <utility>

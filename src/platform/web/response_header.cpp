@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/web/response_header.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/web/server_name.h"
 
 #include <algorithm>

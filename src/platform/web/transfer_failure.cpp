@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/web/transfer_failure.h"
 
 #include <optional>

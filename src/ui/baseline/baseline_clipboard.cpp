@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How a page's text goes over the clipboard and is dragged, and the menu that offers it.
 #include <memory>
 #include <QAction>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/baseline/baseline_edit.h"
 
 #include <algorithm>

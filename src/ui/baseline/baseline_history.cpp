@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the pieces of a baseline change, and how the changes are taken back.
 #include <algorithm>
 #include <iterator>

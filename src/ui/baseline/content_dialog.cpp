@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/baseline/content_dialog.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/controls/byte_line_edit.h"
 
 #include <limits>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/controls/dialog_parts.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/controls/field_control.h"
 
 #include "ui/controls/dialog_parts.h"

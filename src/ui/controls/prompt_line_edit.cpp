@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/controls/prompt_line_edit.h"
 
 #include <limits>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/main_window/master_layout.h"
 
 #include <QHBoxLayout>

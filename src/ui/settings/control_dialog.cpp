@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/settings/control_dialog.h"
 
 #include <algorithm>

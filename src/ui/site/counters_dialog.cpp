@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/site/counters_dialog.h"
 
 #include <QCloseEvent>

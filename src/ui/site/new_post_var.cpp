@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/site/new_post_var.h"
 
 #include <stdexcept>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/site/post_var_model.h"
 
 #include <utility>

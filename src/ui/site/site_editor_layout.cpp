@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/site/site_editor_layout.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/site/vars_form.h"
 
 #include <QLabel>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <fstream>
 
 #include "cli/support/tool_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/terminal/console.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/terminal/help_text.h"
 
 #include <gtest/gtest.h>

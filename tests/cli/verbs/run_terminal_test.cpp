@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/verbs/run_terminal.h"
 
 #include <cerrno>

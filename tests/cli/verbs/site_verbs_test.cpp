@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/support/tool_fixture.h"
 
 namespace tarnwick::testing {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzz/entries/command_entries.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzz/entries/mail_entries.h"
 
 #include <cmath>

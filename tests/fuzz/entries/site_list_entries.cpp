@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzz/entries/site_list_entries.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzz/entries/sql_scratch.h"
 
 #include <sqlite3.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzz/entries/text_entries.h"
 
 #include <algorithm>

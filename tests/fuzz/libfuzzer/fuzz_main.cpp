@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The fuzzer of one target; the build names it.
 
 #include <cstddef>

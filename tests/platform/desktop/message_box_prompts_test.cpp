@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/desktop/message_box_prompts.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes the folder it runs in, and every further argument in brackets, to the file that its first argument names.
 #include <windows.h>
 

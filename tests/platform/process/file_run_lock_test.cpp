@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/process/file_run_lock.h"
 
 #include <gmock/gmock.h>

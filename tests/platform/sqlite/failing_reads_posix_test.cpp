@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A disk that refuses a read and goes on: what the system says of it must not be taken for damage.
 #include <gtest/gtest.h>
 #include <sqlite3.h>

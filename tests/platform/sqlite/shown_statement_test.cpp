@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/sqlite/shown_statement.h"
 
 #include <gtest/gtest.h>

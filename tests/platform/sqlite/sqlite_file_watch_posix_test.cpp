@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The files of an open database, taken away or exchanged by others.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every kind of statement that the program writes, as it writes it, on a fresh database.
 #include <gtest/gtest.h>
 

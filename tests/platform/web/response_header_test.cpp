@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The header lines of HTTP answers: where one ends, and the lengths that it announces.
 #include "platform/web/response_header.h"
 

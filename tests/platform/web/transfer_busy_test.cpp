@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A program that is busy elsewhere while its requests are under way: that is no fault of the servers.
 #include <gtest/gtest.h>
 

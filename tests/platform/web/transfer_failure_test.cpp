@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Each way in which a transfer fails: its number, its words, and the states that had been reached.
 #include "platform/web/transfer_failure.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files of FTP servers.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Cancelling, reusing and destroying transfer controls, several at once, and what waiting costs.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The page that a transfer control gives out: every byte, decoded, bounded.
 #include <gtest/gtest.h>
 

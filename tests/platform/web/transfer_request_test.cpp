@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a transfer control sends: method, body, headers, redirects, credentials, cookies.
 #include <gtest/gtest.h>
 

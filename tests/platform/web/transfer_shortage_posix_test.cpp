@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A machine that gives the program no more files: no fault of any server.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The order and the timing of a transfer control's events.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Secure transfers: the chain and the host of the certificate are verified.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The text box of a page, driven by keyboard, mouse and clipboard.
 #include "ui/baseline/baseline_edit.h"
 

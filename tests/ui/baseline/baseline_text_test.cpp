@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/baseline/baseline_text.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The content baseline dialog.
 #include "ui/baseline/content_dialog.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/controls/colour_text.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/controls/display_text.h"
 
 #include <gtest/gtest.h>

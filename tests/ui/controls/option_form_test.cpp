@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The pages of options: made from the table, read when they are seen, stored with the rest of their dialog.
 #include "ui/controls/option_form.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/controls/picture_button.h"
 
 #include <gtest/gtest.h>

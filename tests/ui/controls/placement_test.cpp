@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/controls/placement.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/main_window/lamp.h"
 
 #include <gtest/gtest.h>

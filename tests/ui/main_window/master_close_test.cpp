@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Closing the main window from every state.
 #include <chrono>
 #include <QDialog>

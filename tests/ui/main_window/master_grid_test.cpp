@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The main window's grid on a real database.
 #include <chrono>
 #include <stdexcept>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs started with the mouse, against a real web server.
 #include <functional>
 #include <QTimer>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/main_window/pass_bar.h"
 
 #include <gtest/gtest.h>

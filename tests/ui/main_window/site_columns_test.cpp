@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The columns of the list are lines of one table: each stands in the list with all that its line says.
 #include "ui/main_window/site_columns.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/main_window/site_grid_model.h"
 
 #include <gtest/gtest.h>

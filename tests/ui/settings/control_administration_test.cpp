@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The settings dialog: the administration functions, and the buttons that choose and test files.
 #include <gmock/gmock.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The settings dialog: what it shows, what it stores.
 #include "ui/settings/control_dialog.h"
 

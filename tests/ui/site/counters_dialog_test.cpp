@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The counters dialog.
 #include "ui/site/counters_dialog.h"
 

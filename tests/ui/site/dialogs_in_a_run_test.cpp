@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dialogs while a run is on, also on the very site that is being fetched.
 #include <functional>
 #include <QTimer>

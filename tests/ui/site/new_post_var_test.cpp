@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The POST variable editor.
 #include "ui/site/new_post_var.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A question that is answered while a pass is on which began behind it: the answer reaches the form that asked only
 // when the pass ends, and the form may have been closed, or show another site by then.
 #include <functional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The site editor: what it shows, what it stores.
 #include "ui/site/site_editor.h"
 

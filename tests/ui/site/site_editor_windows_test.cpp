@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One editor at a time, and the end of the program while its windows are open.
 #include <chrono>
 #include <QTimer>

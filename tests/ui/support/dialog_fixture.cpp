@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/support/dialog_fixture.h"
 
 #include <QAbstractButton>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/support/master_fixture.h"
 
 #include <filesystem>

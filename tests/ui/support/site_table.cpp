@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/support/site_table.h"
 
 #include "store/site_table.h"
