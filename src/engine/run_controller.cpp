@@ -76,7 +76,8 @@ void RunController::runTestPass(std::int16_t mode) {
   const bool takesWhatWasLeft = std::exchange(somethingWasLeft_, false) && mode == kDueSites;
   try {
     TestPass pass(*this, needs_, busy_);
-    if (takesWhatWasLeft || (mode == kDueSites && takesNewSitesAtOnce())) {
+    readOptions();
+    if (takesWhatWasLeft || (mode == kDueSites && newSitesAtOnce_)) {
       pass.test(needs_.dueSites.getSitesDueOrNeverChecked());
     } else {
       pass.test(mode);
@@ -92,8 +93,8 @@ void RunController::runTestPass(std::int16_t mode) {
   }
 }
 
-bool RunController::takesNewSitesAtOnce() {
-  return needs_.options.optionsInForce().valueOf(kAllSites, option_name::newSites) == "at once";
+void RunController::readOptions() {
+  newSitesAtOnce_ = needs_.options.optionsInForce().valueOf(kAllSites, option_name::newSites) == "at once";
 }
 
 void RunController::BackOff::passFailed() {
@@ -161,13 +162,14 @@ void RunController::tmrCheckSites_Timer() {
 bool RunController::countDown() {
   inTimerPass_ = false;
   --secondsToNext_;
-  if (secondsToNext_ > 0 && needs_.dueSites.changedByOthers() && takesNewSitesAtOnce()) {
+  if (secondsToNext_ > 0 && newSitesAtOnce_ && needs_.dueSites.changedByOthers()) {
     secondsToNext_ = -1;  // there may be a site that nobody has counted
   }
   if (wallClockWasSet() || secondsToNext_ < 0) {
     // Due at once, should this fail.
     secondsToNext_ = 0;
     secondsToNext_ = needs_.dueSites.getMinWaitTime().mlc;
+    readOptions();
   }
   if (secondsToNext_ > 0) {
     if (!busy_) {

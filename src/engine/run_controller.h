@@ -105,7 +105,7 @@ class RunController {
   };
 
   void guardedTick();
-  bool takesNewSitesAtOnce();
+  void readOptions();
   /// Counts one second down; true when a pass is to begin.
   bool countDown();
   void timerPass();
@@ -120,6 +120,9 @@ class RunController {
   bool busy_ = false;
   bool inTimerPass_ = false;
   std::int32_t secondsToNext_ = 0;
+  // The option `newSites`, as it was when the sites were asked last. Between that and the next time the countdown asks
+  // the database nothing, unless the option wants it.
+  bool newSitesAtOnce_ = false;
   std::chrono::milliseconds runStart_{0};
   // The wall clock less the one that only goes forward.
   std::chrono::seconds clockOffset_{0};

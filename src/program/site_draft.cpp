@@ -95,9 +95,11 @@ void storeSite(m& data, std::int16_t idSite, const SiteDraft& site, const std::v
                    site.sPassWord);
   for (const SiteField& field : data.fields().site) {
     if (const auto value = site.further.find(field.name); value != site.further.end()) {
-      const char* const quote = field.kind == FieldKind::flag ? "" : "'";
-      data.database().execute(joinSql("update sites set ", field.name, " = ", quote, sqlQuote(value->second), quote,
-                                      " where idSite = ", sqlQuote(idSite)));
+      // A flag that was never set is none.
+      const std::string stored = field.kind == FieldKind::flag ? sqlQuote(std::get<bool>(valueOf(field, site)))
+                                                               : "'" + sqlQuote(value->second) + "'";
+      data.database().execute(
+          joinSql("update sites set ", field.name, " = ", stored, " where idSite = ", sqlQuote(idSite)));
     }
   }
   data.clearPostVars(idSite);

@@ -75,7 +75,10 @@ JsonValue jsonNumber(std::string_view text) {
 
 std::string jsonLine(JsonValue value) { return libraryForm(std::move(value)).dump(); }
 
-void sayJson(Console& console, JsonValue value) { console.say(libraryForm(std::move(value)).dump(kIndent)); }
+void sayJson(Console& console, JsonValue value) {
+  const Json json = libraryForm(std::move(value));
+  console.say(json.dump(kIndent));
+}
 
 void JsonArray::add(JsonValue value) {
   console_.out() << (begun_ ? ",\n " : "[\n ") << jsonLine(std::move(value));
