@@ -3,14 +3,27 @@
 
 #include <array>
 #include <random>
+#include <string_view>
 #include <system_error>
 
 #include "base/errors.h"
+#include "base/text.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr std::size_t kPieceSize = 1 << 20;
+
+/// The text with the replacement character in place of each byte that is no UTF-8.
+std::u8string wellFormed(std::string_view text) {
+  std::string repaired;
+  while (!text.empty()) {
+    const auto character = decodeUtf8(text);
+    appendUtf8(repaired, character ? character->character : U'\uFFFD');
+    text.remove_prefix(character ? character->length : 1);
+  }
+  return {repaired.begin(), repaired.end()};
+}
 
 }  // namespace
 
@@ -20,8 +33,9 @@ std::filesystem::path pathOf(const std::string& utf8) {
   }
   try {
     return std::u8string(utf8.begin(), utf8.end());
-  } catch (const std::system_error& error) {
-    throw FileError(utf8, error.code().message());
+  } catch (const std::system_error&) {
+    // Where names are UTF-16 no file has such a name; the nearest one that there can be is looked for, and told.
+    return wellFormed(utf8);
   }
 }
 
