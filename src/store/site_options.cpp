@@ -73,15 +73,23 @@ OptionValues SiteOptions::options(std::int16_t idSite) {
   return values;
 }
 
-OptionsInForce readOptions(Database& database) {
+OptionsInForce readOptions(Database& database, const std::vector<OptionField>& fields) {
   std::map<std::int64_t, OptionValues> values;
   if (!hasTable(database)) {
     return OptionsInForce();
   }
   const auto rows = database.conn().execute("select idSite, name, value from siteOptions", Parameters());
   for (; !rows->eof(); rows->moveNext()) {
-    values[rows->field(std::size_t{0}).toInt64()].emplace(rows->field(std::size_t{1}).toText(),
-                                                          rows->field(std::size_t{2}).toText());
+    const std::int64_t idSite = rows->field(std::size_t{0}).toInt64();
+    const auto field = std::ranges::find(fields, rows->field(std::size_t{1}).toText(), &OptionField::name);
+    const std::string value = rows->field(std::size_t{2}).toText();
+    try {
+      if (field != fields.end()) {
+        values[idSite].emplace(field->name, field->checked(value));
+      }
+    } catch (const std::runtime_error&) {
+      continue;  // shown as it stands where options are listed
+    }
   }
   return OptionsInForce(std::move(values));
 }

@@ -33,8 +33,9 @@ class OptionsInForce {
   std::map<std::int64_t, OptionValues> values_;
 };
 
-/// What is set for each site and for all; nothing in a list without the table. Raises DataAccessError.
-OptionsInForce readOptions(Database& database);
+/// What is set for each site and for all, as far as the options take it: what another tool may have left under a name,
+/// or as a value, that there is not, counts as not set. Nothing in a list without the table. Raises DataAccessError.
+OptionsInForce readOptions(Database& database, const std::vector<OptionField>& fields = programOptions());
 
 /// Table `siteOptions`: what a site, or all of them, does otherwise than originally. A list without the table, as an
 /// older one that cannot be written, reads as if it were empty. Every failed statement raises DataAccessError.
@@ -50,7 +51,7 @@ class SiteOptions {
   /// What is set for one site alone, or for all (`kAllSites`); also what this program has no field for.
   OptionValues options(std::int16_t idSite);
   /// What is set for each site and for all.
-  OptionsInForce optionsInForce() { return readOptions(db_); }
+  OptionsInForce optionsInForce() { return readOptions(db_, fields_); }
 
   /// Sets an option of a site, or of all. Raises std::runtime_error for a value that it does not take, and for an
   /// option of a site that there is for all sites only.

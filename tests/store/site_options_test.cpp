@@ -116,6 +116,17 @@ TEST_F(SiteOptionsTest, ANewSiteInheritsNoneOfAnEarlierOneOfItsId) {
   EXPECT_EQ(rows(), "");
 }
 
+TEST_F(SiteOptionsTest, WhatAnotherToolHasLeftAndNoOptionTakesCountsAsNotSet) {
+  folder.execute(
+      "insert into siteOptions values (0, 'limit', 'abc'), (0, 'way', 'RIGHT'), (3, 'way', 'up'), (3, 'loud', ''), "
+      "(4, 'ofTomorrow', 'x')");
+  const OptionsInForce inForce = options.optionsInForce();
+  EXPECT_EQ(inForce.valueOf(kAllSites, "limit"), std::nullopt);
+  EXPECT_EQ(inForce.valueOf(3, "way"), "right") << "The one for all holds.";
+  EXPECT_EQ(inForce.valueOf(3, "loud"), std::nullopt);
+  EXPECT_EQ(inForce.valueOf(4, "ofTomorrow"), std::nullopt);
+}
+
 TEST_F(SiteOptionsTest, AListWithoutTheTableReadsAsEmptyAndDeletesItsSites) {
   folder.execute("drop table siteOptions; insert into sites (idSite) values (3)");
   EXPECT_TRUE(options.options(3).empty());
