@@ -39,6 +39,7 @@ class AlertDispatch {
   /// Starts to play a .wav file and returns at once: 1 when it plays, 0 when it cannot.
   long playWave(const std::string& fileName);
 
+  /// Vocabulary: no front end calls it.
   /// Suspends the whole program for `ms` milliseconds; no events are handled meanwhile. Nothing for 0 or less.
   static void wait(long ms);
 

@@ -21,7 +21,6 @@ class SqlValue {
   explicit SqlValue(std::string value) : value_(std::move(value)) {}
 
   bool isNull() const { return std::holds_alternative<std::monostate>(value_); }
-  bool isBool() const { return std::holds_alternative<bool>(value_); }
 
   /// The value as the program writes it: "True" or "False", a decimal number, the bytes of a text; empty for Null.
   std::string toText() const&;

@@ -92,7 +92,7 @@ TEST_F(SqliteValues, YesNoColumnsGiveYesOrNoWhateverTheirNumber) {
     database_.run(std::string("update sites set status = ") + stored + " where idSite = 1");
     EXPECT_EQ(database_.rows("select status from sites"), expected) << stored;
   }
-  EXPECT_TRUE(database_.conn->execute("select clogs from control")->field("CLOGS").isBool());
+  EXPECT_EQ(database_.conn->execute("select clogs from control")->field("CLOGS"), SqlValue(true));
 }
 
 TEST_F(SqliteValues, AnyNumberButZeroIsTrueInACondition) {
