@@ -93,9 +93,7 @@ void RunController::runTestPass(std::int16_t mode) {
   }
 }
 
-void RunController::readOptions() {
-  newSitesAtOnce_ = needs_.options.optionsInForce().valueOf(kAllSites, option_name::newSites) == "at once";
-}
+void RunController::readOptions() { newSitesAtOnce_ = needs_.options.optionsInForce().newSitesAtOnce(); }
 
 void RunController::BackOff::passFailed() {
   constexpr int kLongestWait = 60;

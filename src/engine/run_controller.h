@@ -59,6 +59,7 @@ class RunController {
   /// Tests the sites of a site table once, without a run: no countdown follows. Stop ends it as it ends a run's pass;
   /// false then. REQUIRES: no run is on and no pass in progress.
   bool testOnce(TextTable sites);
+  /// Vocabulary: no front end calls it.
   /// Stores one judged result, raises the alerts of a failure and repaints the site's row.
   void recordResult(std::int16_t idSite, bool result);
   /// The end of that: counts a result and repaints the site's row. Raises OverflowError, with the row repainted, when

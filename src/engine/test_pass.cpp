@@ -244,7 +244,8 @@ void TestPass::recordResult(std::size_t row, const std::string& content, std::in
 }
 
 FirstBaseline TestPass::firstBaselineOf(std::int16_t id) const {
-  return options_.valueOf(id, option_name::adopt) == "pages only" ? FirstBaseline::pagesOnly : FirstBaseline::anything;
+  return options_.valueOf(id, option_name::adopt) == option_value::pagesOnly ? FirstBaseline::pagesOnly
+                                                                             : FirstBaseline::anything;
 }
 
 // A full counter is no reason to forget the check itself, or the sites behind this one.

@@ -46,6 +46,12 @@ inline constexpr std::string_view adopt = "adopt";
 inline constexpr std::string_view mailLimit = "mailLimit";
 }  // namespace option_name
 
+/// Values that it asks for.
+namespace option_value {
+inline constexpr std::string_view atOnce = "at once";
+inline constexpr std::string_view pagesOnly = "pages only";
+}  // namespace option_value
+
 /// The options of this program, in the order in which they are shown.
 const std::vector<OptionField>& programOptions();
 

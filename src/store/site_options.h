@@ -29,6 +29,9 @@ class OptionsInForce {
   /// for all.
   std::optional<std::string> valueOf(std::int64_t idSite, std::string_view name) const;
 
+  /// Whether a site that was never checked is taken on with those that are due.
+  bool newSitesAtOnce() const { return valueOf(kAllSites, option_name::newSites) == option_value::atOnce; }
+
  private:
   std::map<std::int64_t, OptionValues> values_;
 };

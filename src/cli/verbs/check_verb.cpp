@@ -84,7 +84,10 @@ class CheckView final : public SilentView {
   std::size_t down_ = 0;
 };
 
-TextTable chosenSites(m& data, const CheckOptions& options) {
+TextTable chosenSites(m& data, const CheckOptions& options, bool newSitesAtOnce) {
+  if (options.due && newSitesAtOnce) {
+    return data.getSitesDueOrNeverChecked();
+  }
   if (options.ids.empty()) {
     return data.getArraySitesActiveTrue(options.due ? site_choice::due : site_choice::active);
   }
@@ -102,7 +105,8 @@ TextTable chosenSites(m& data, const CheckOptions& options) {
   return chosen;
 }
 
-// A site that was never checked is never due, and who only ever asks for those that are would never hear of it.
+// Originally a site that was never checked is never due, and who only ever asks for those that are would never hear of
+// it.
 void tellWhatIsNeverDue(Console& console, m& data) {
   const TextTable sites = data.getArraySitesActiveTrue(site_choice::active);
   std::size_t count = 0;
@@ -125,13 +129,14 @@ int check(Tool& tool, const CheckOptions& options) {
   view.readBaselinesFrom(program.data());
   const Interrupts interrupts([&program] { program.close(); });
 
-  TextTable sites = chosenSites(program.data(), options);
+  const bool newSitesAtOnce = program.data().optionsInForce().newSitesAtOnce();
+  TextTable sites = chosenSites(program.data(), options, newSitesAtOnce);
   const std::size_t count = sites.lastRow();
   if (count == 0) {
     console.complain(options.due ? "No site is due."
                                  : "There is no active site to check. Add one with: tarnwickctl add URL");
   }
-  if (options.due) {
+  if (options.due && !newSitesAtOnce) {
     tellWhatIsNeverDue(console, program.data());
   }
   bool whole = true;

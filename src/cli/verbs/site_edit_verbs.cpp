@@ -130,8 +130,7 @@ int addSite(Tool& tool, const SiteEdit& edit) {
     sayJson(tool.console(), {{"idSite", id}});
   } else {
     tool.console().say(std::to_string(id));
-    const bool waits = data.optionsInForce().valueOf(kAllSites, option_name::newSites) != "at once";
-    if (tool.console().isTerminal() && site.active && waits) {
+    if (tool.console().isTerminal() && site.active && !data.optionsInForce().newSitesAtOnce()) {
       tool.console().complain(
           "A run that is on takes the site on once it was checked. Check it with: tarnwickctl check " +
           std::to_string(id));

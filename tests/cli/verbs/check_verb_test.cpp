@@ -153,6 +153,16 @@ TEST_F(CheckVerb, ShowsWhereThePassStandsOnATerminal) {
   EXPECT_TRUE(out.ends_with("\r\x1b[K")) << out;
 }
 
+TEST_F(CheckVerb, TakesNewSitesWithThoseThatAreDueWhenTheyAreTakenOnAtOnce) {
+  EXPECT_EQ(run({"option", "all", "newSites=at once"}), exit_status::ok);
+  addPage("/new", "hello");
+  EXPECT_EQ(run({"check", "--due"}), exit_status::ok);
+  EXPECT_EQ(err, "");
+  EXPECT_EQ(column(1, "status"), "1");
+  EXPECT_EQ(run({"check", "--due"}), exit_status::ok);
+  EXPECT_EQ(err, "tarnwickctl: No site is due.\n");
+}
+
 TEST_F(CheckVerb, NamesWhatIsNeverDueSinceItWasNeverChecked) {
   addPage("/a", "alpha");
   ASSERT_EQ(run({"check"}), exit_status::ok);
