@@ -14,6 +14,7 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       DueSites(ownedDatabase_),
       PageFetch(ownedDatabase_, *this, ownedControl_, services.pump),
       ResultRecording(ownedDatabase_, *this, services.clock),
+      SiteReasons(ownedDatabase_),
       AlertDispatch(ownedDatabase_, *this, *this, ownedMail_, services),
       DailyReport(ownedDatabase_, services.files, services.clock),
       Compaction(ownedDatabase_, services.databases, services.files, services.prompts),

@@ -8,6 +8,7 @@
 #include "engine/page_fetch.h"
 #include "engine/result_recording.h"
 #include "engine/single_control.h"
+#include "engine/site_reasons.h"
 #include "mail/mail_socket.h"
 #include "platform/services.h"
 #include "report/daily_report.h"
@@ -54,6 +55,7 @@ class m : private MembersOfM,
           public DueSites,
           public PageFetch,
           public ResultRecording,
+          public SiteReasons,
           public AlertDispatch,
           public DailyReport,
           public Compaction {

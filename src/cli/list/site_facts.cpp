@@ -80,10 +80,20 @@ std::vector<SiteFacts> readSiteFacts(m& data, std::int16_t idSite) {
   return list;
 }
 
+void markThoseWithoutPage(m& data, std::vector<SiteFacts>& sites) {
+  const std::set<std::int64_t> without = data.sitesUpByFailure();
+  for (SiteFacts& facts : sites) {
+    facts.notAPage = without.contains(facts.idSite);
+  }
+}
+
 StateText stateOf(const SiteFacts& facts) {
   StateText state{"-", Console::Colour::plain};
   if (facts.status) {
     state = *facts.status ? StateText{"up", Console::Colour::green} : StateText{"down", Console::Colour::red};
+  }
+  if (facts.notAPage) {
+    state.text = "not a page";
   }
   if (!facts.site.active) {
     state.text += " (inactive)";
@@ -113,6 +123,9 @@ JsonValue siteJson(const Fields& fields, const SiteFacts& facts, bool showPasswo
     }
   }
   json["status"] = facts.status ? JsonValue(*facts.status) : JsonValue();
+  if (facts.notAPage) {
+    json["notAPage"] = true;
+  }
   json["success"] = facts.success;
   json["failure"] = facts.failure;
   return json;

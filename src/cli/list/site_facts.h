@@ -21,13 +21,18 @@ struct SiteFacts {
   std::int64_t success = 0;
   std::int64_t failure = 0;
 
+  bool notAPage = false;  ///< up only because the text of a fetch that fails is the baseline
+
   bool down() const { return status == false; }
 };
 
 /// The sites, or the one of an id greater than 0, in the order of the database.
 std::vector<SiteFacts> readSiteFacts(m& data, std::int16_t idSite = 0);
 
-/// "up", "down" or "-", in its colour, and whether the site is left out of runs.
+/// Fills in `notAPage`.
+void markThoseWithoutPage(m& data, std::vector<SiteFacts>& sites);
+
+/// "up", "not a page", "down" or "-", in its colour, and whether the site is left out of runs.
 struct StateText {
   std::string text;
   Console::Colour colour = Console::Colour::plain;

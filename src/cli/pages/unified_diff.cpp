@@ -186,22 +186,6 @@ class HunkWriter {
 
 }  // namespace
 
-FirstDifference firstDifference(std::string_view before, std::string_view after) {
-  if (before == after) {
-    return {};
-  }
-  const auto place = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
-  const auto equal = static_cast<std::size_t>(place.first - before.begin());
-  const std::string_view same = before.substr(0, equal);
-  const std::size_t feed = same.rfind('\n');
-  const std::size_t begin = feed == std::string_view::npos ? 0 : feed + 1;
-  const auto lineAt = [&](std::string_view text) {
-    text.remove_prefix(std::min(begin, text.size()));
-    return text.substr(0, text.find('\n'));
-  };
-  return {static_cast<std::size_t>(std::count(same.begin(), same.end(), '\n')) + 1, lineAt(before), lineAt(after)};
-}
-
 void unifiedDiff(std::string_view before, std::string_view after, const DiffSink& sink) {
   if (before == after) {
     return;

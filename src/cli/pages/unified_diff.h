@@ -9,14 +9,6 @@
 
 namespace tarnwick {
 
-/// The first place where two texts differ, line by line.
-struct FirstDifference {
-  std::size_t line = 0;  ///< counted from 1; 0 when the texts are equal
-  std::string_view before;
-  std::string_view after;  ///< the line of each text without its line feed; empty past the end of a text
-};
-FirstDifference firstDifference(std::string_view before, std::string_view after);
-
 /// One line of a unified diff: its mark (' ', '-', '+', '@' for a hunk's head, '\\' for the note that a last line has
 /// no line feed) and its text without the mark and the line feed.
 struct DiffLine {

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/visible_text.h"
 #include "platform/terminal.h"
 
 namespace tarnwick {
@@ -67,10 +68,6 @@ class Console {
   /// The system's number of the first failure to write; 0 before it.
   int cause_ = 0;
 };
-
-/// Bytes as they may be shown in a line of text: what would move the cursor, change the terminal or break the line is
-/// written as an escape like "\n" or "\x1b", and so are bytes that are no UTF-8. Cut to `longest` characters.
-std::string visibleText(std::string_view bytes, std::size_t longest = std::string_view::npos);
 
 /// How many characters a UTF-8 text has.
 std::size_t characterCount(std::string_view text);

@@ -2,10 +2,10 @@
 #include <algorithm>
 #include <set>
 
-#include "cli/pages/cause.h"
 #include "cli/terminal/json_text.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
+#include "engine/cause.h"
 #include "platform/interrupts.h"
 #include "program/program.h"
 #include "store/site_table.h"
@@ -38,6 +38,7 @@ class CheckView final : public SilentView {
 
   void showResult(const CheckResult& result) override {
     ++(result.passed ? up_ : down_);
+    notAPage_ += hasFailureAsBaseline(result) ? 1U : 0U;
     if (json_) {
       array_.add(asJson(result));
       return;
@@ -59,6 +60,8 @@ class CheckView final : public SilentView {
 
   std::size_t up() const { return up_; }
   std::size_t down() const { return down_; }
+  /// How many of those that are up are so without a page.
+  std::size_t notAPage() const { return notAPage_; }
 
  private:
   JsonValue asJson(const CheckResult& result) {
@@ -69,6 +72,9 @@ class CheckView final : public SilentView {
                    {"errDescription", jsonText(result.errDescription)}};
     const std::string why = reasonOf(result);
     json["cause"] = why.empty() ? JsonValue() : JsonValue(why);
+    if (hasFailureAsBaseline(result)) {
+      json["notAPage"] = true;
+    }
     return json;
   }
 
@@ -82,6 +88,7 @@ class CheckView final : public SilentView {
   m* data_ = nullptr;
   std::size_t up_ = 0;
   std::size_t down_ = 0;
+  std::size_t notAPage_ = 0;
 };
 
 TextTable chosenSites(m& data, const CheckOptions& options, bool newSitesAtOnce) {
@@ -152,7 +159,10 @@ int check(Tool& tool, const CheckOptions& options) {
                      " sites were checked.");
     return exit_status::failed;
   }
-  return view.down() == 0 ? exit_status::ok : exit_status::down;
+  if (view.down() > 0) {
+    return exit_status::down;
+  }
+  return view.notAPage() > 0 ? exit_status::notAPage : exit_status::ok;
 }
 
 }  // namespace
@@ -169,7 +179,8 @@ Verb checkVerb() {
         .excludes = "ID"},
        jsonOption(options->json)},
       "Each result is recorded, and each failure raises the alerts that the settings switch on, as in a run.\n"
-      "Exit status: 0 when every site is up, 1 when one is down, 2 when the check could not be made.\n" +
+      "Exit status: 0 when every site is up, 1 when one is down, 2 when the check could not be made,\n"
+      "4 when none is down, but one is up only because its baseline is the text of a fetch that fails.\n" +
           examples({{"check", "every active site, a line each"},
                     {"check 3 7", "two sites"},
                     {"check --due --json", "what is due, for a script"}}),

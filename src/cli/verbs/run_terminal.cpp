@@ -6,7 +6,7 @@
 #include <set>
 #include <utility>
 
-#include "cli/pages/cause.h"
+#include "engine/cause.h"
 #include "store/site_table.h"
 
 namespace tarnwick {
@@ -98,15 +98,18 @@ void RunTerminal::showResult(const CheckResult& result) {
   const std::string cause = result.passed ? noteOf(result) : causeOf(result, data_->getContentCompare(result.idSite));
   const std::string state = result.passed ? console_.coloured(Console::Colour::green, "up  ")
                                           : console_.coloured(Console::Colour::red, "down");
+  JsonValue json{{"idSite", result.idSite},
+                 {"url", jsonText(result.url)},
+                 {"status", result.passed},
+                 {"errCode", result.errCode},
+                 {"errDescription", jsonText(result.errDescription)},
+                 {"cause", cause.empty() ? JsonValue() : JsonValue(cause)}};
+  if (hasFailureAsBaseline(result)) {
+    json["notAPage"] = true;
+  }
   tell(state + " " + std::to_string(result.idSite) + " " + visibleText(result.url) + (recovered ? " (was down)" : "") +
            (cause.empty() ? "" : ": " + cause),
-       "result",
-       {{"idSite", result.idSite},
-        {"url", jsonText(result.url)},
-        {"status", result.passed},
-        {"errCode", result.errCode},
-        {"errDescription", jsonText(result.errDescription)},
-        {"cause", cause.empty() ? JsonValue() : JsonValue(cause)}});
+       "result", std::move(json));
 }
 
 void RunTerminal::endPass() {

@@ -67,6 +67,7 @@ void printSites(Console& console, const std::vector<SiteFacts>& sites) {
 int listSites(Tool& tool, const SitesOptions& options) {
   Console& console = tool.console();
   std::vector<SiteFacts> sites = readSiteFacts(tool.data());
+  markThoseWithoutPage(tool.data(), sites);
   const bool empty = sites.empty();
   std::erase_if(sites, [&](const SiteFacts& facts) { return !isWanted(facts, options); });
   if (options.json) {
@@ -143,7 +144,8 @@ void printSite(Console& console, const Fields& fields, const SiteFacts& facts, c
 int showSite(Tool& tool, const ShowOptions& options) {
   m& data = tool.data();
   requireListed(tool, options.idSite);
-  const std::vector<SiteFacts> sites = readSiteFacts(data, options.idSite);
+  std::vector<SiteFacts> sites = readSiteFacts(data, options.idSite);
+  markThoseWithoutPage(data, sites);
   const auto facts = std::ranges::find(sites, options.idSite, &SiteFacts::idSite);
   if (facts == sites.end()) {
     throw noSuchSite(options.idSite);
@@ -215,7 +217,8 @@ Verb sitesVerb() {
         .meaning = "Only those that a run leaves out",
         .excludes = "--active"},
        jsonOption(options->json)},
-      "STATE is \"up\" or \"down\" as the last check found, and \"-\" where none has been made.\n" +
+      "STATE is \"up\" or \"down\" as the last check found, and \"-\" where none has been made. It is \"not a page\"\n"
+      "where a site is up only because the text of a fetch that fails is its baseline, which the log tells.\n" +
           examples({{"sites", "all of them"},
                     {"sites --down --active", "what needs a look"},
                     {"sites --json | jq -r '.[] | select(.status == false) | .url'", "the addresses that are down"}}),

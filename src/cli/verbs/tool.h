@@ -23,6 +23,8 @@ inline constexpr int ok = 0;
 inline constexpr int down = 1;
 /// The tool could not do what it was asked for.
 inline constexpr int failed = 2;
+/// No site is down, but one is up only because the text of a fetch that fails is its baseline.
+inline constexpr int notAPage = 4;
 }  // namespace exit_status
 
 /// What every verb has at hand.

@@ -191,28 +191,5 @@ TEST(UnifiedDiff, OfMillionsOfLinesThatDifferIsTheWholeOfThemWithoutContext) {
   EXPECT_EQ(summary(feeds + "a", feeds + "b"), "@@ -2999998,4 +2999998,4 @@");
 }
 
-TEST(FirstDifference, NamesTheLineAndWhatStandsThere) {
-  const FirstDifference difference = firstDifference("a\nb\nc\n", "a\nB\nc\n");
-  EXPECT_EQ(difference.line, 2U);
-  EXPECT_EQ(difference.before, "b");
-  EXPECT_EQ(difference.after, "B");
-}
-
-TEST(FirstDifference, IsLineZeroForEqualTexts) { EXPECT_EQ(firstDifference("a\n", "a\n").line, 0U); }
-
-TEST(FirstDifference, LiesBehindTheEndOfAShorterText) {
-  const FirstDifference difference = firstDifference("a\n", "a\nb\n");
-  EXPECT_EQ(difference.line, 2U);
-  EXPECT_EQ(difference.before, "");
-  EXPECT_EQ(difference.after, "b");
-}
-
-TEST(FirstDifference, MayBeAMissingLineFeedOnly) {
-  const FirstDifference difference = firstDifference("a\nb", "a\nb\n");
-  EXPECT_EQ(difference.line, 2U);
-  EXPECT_EQ(difference.before, "b");
-  EXPECT_EQ(difference.after, "b");
-}
-
 }  // namespace
 }  // namespace tarnwick

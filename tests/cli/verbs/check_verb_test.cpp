@@ -126,6 +126,22 @@ TEST_F(CheckVerb, PrintsJson) {
                                     {"cause", R"(line 1: expected "beta", found "other")"}}})));
 }
 
+TEST_F(CheckVerb, EndsWithAStatusOfItsOwnWhenAFailureIsTheBaseline) {
+  addPage("/a", "11:05");
+  addSite("http://127.0.0.1:1/");
+  EXPECT_EQ(run({"check", "1"}), exit_status::ok);
+  for (int i = 0; i < 2; ++i) {  // when it becomes the baseline, and ever after
+    EXPECT_EQ(run({"check"}), exit_status::notAPage);
+    EXPECT_THAT(out, HasSubstr("up   2 http://127.0.0.1:1/: the fetch fails, and its text is the baseline: "));
+    EXPECT_EQ(run({"check", "--json"}), exit_status::notAPage);
+    for (const Json& result : Json::parse(out)) {
+      EXPECT_EQ(result.contains("notAPage") && result["notAPage"] == true, result["idSite"] == 2) << result;
+    }
+  }
+  server.respond("/a", {.body = "11:06"});
+  EXPECT_EQ(run({"check"}), exit_status::down);
+}
+
 TEST_F(CheckVerb, PrintsAnEmptyJsonArrayWhenNothingIsChecked) {
   EXPECT_EQ(run({"check", "--json"}), exit_status::ok);
   EXPECT_EQ(out, "[]\n");

@@ -42,6 +42,23 @@ TEST_F(SitesVerb, ListsEachSiteWithItsState) {
   EXPECT_EQ(err, "");
 }
 
+TEST_F(SitesVerb, TellsASiteThatIsUpWithoutAPage) {
+  addSite("http://127.0.0.1:1/");
+  addSite("http://up/");
+  ASSERT_EQ(run({"check", "1"}), exit_status::notAPage);
+  setResult(2, "1");
+  folder.execute("update sites set content_compare = '11:05', content_runtime = '11:05' where idSite = 2");
+  folder.execute("update log set dateStamp = (select lastChecked from sites where idSite = 1)");
+  EXPECT_EQ(run({"sites"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr(" 1  not a page "));
+  EXPECT_THAT(out, HasSubstr(" 2  up "));
+  const Json list = runJson({"sites", "--json"});
+  EXPECT_EQ(list[0]["notAPage"], true);
+  EXPECT_EQ(list[0]["status"], true);
+  EXPECT_FALSE(list[1].contains("notAPage"));
+  EXPECT_EQ(runJson({"site", "1", "--json"})["notAPage"], true);
+}
+
 TEST_F(SitesVerb, ColoursTheStateOnATerminal) {
   addSite("http://up/");
   addSite("http://down/");

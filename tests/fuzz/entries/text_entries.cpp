@@ -12,6 +12,7 @@
 #include "cli/pages/unified_diff.h"
 #include "cli/terminal/console.h"
 #include "cli/terminal/moment.h"
+#include "engine/first_difference.h"
 #include "support/hand_clock.h"
 
 namespace tarnwick::testing {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "cli/pages/cause.h"
+#include "engine/cause.h"
 
 #include <algorithm>
 
 #include "base/text.h"
-#include "cli/pages/unified_diff.h"
-#include "cli/terminal/console.h"
+#include "base/visible_text.h"
+#include "engine/first_difference.h"
 
 namespace tarnwick {
 namespace {
@@ -33,9 +33,7 @@ std::string causeOf(const CheckResult& failed, std::string_view baseline) {
   if (difference.line == 0) {
     return "the baseline was changed meanwhile";
   }
-  const auto place = std::mismatch(difference.before.begin(), difference.before.end(), difference.after.begin(),
-                                   difference.after.end());
-  const auto column = static_cast<std::size_t>(place.first - difference.before.begin());
+  const std::size_t column = commonBytes(difference.before, difference.after);
   const std::string line = "line " + std::to_string(difference.line);
   if (difference.before == difference.after) {
     return line + ": the page " + (baseline.size() < failed.page.size() ? "goes on behind" : "ends with") +
@@ -44,11 +42,14 @@ std::string causeOf(const CheckResult& failed, std::string_view baseline) {
   return line + ": expected " + excerpt(difference.before, column) + ", found " + excerpt(difference.after, column);
 }
 
+bool hasFailureAsBaseline(const CheckResult& result) {
+  return result.passed && (result.errCode != 0 || !result.errDescription.empty());
+}
+
 std::string noteOf(const CheckResult& passed) {
-  if (passed.errCode == 0 && passed.errDescription.empty()) {
-    return {};
-  }
-  return "the fetch fails, and its text is the baseline: " + visibleText(passed.errDescription);
+  return hasFailureAsBaseline(passed)
+             ? "the fetch fails, and its text is the baseline: " + visibleText(passed.errDescription)
+             : std::string();
 }
 
 }  // namespace tarnwick

@@ -12,6 +12,10 @@ namespace tarnwick {
 /// baseline, cut to what is around the difference.
 std::string causeOf(const CheckResult& failed, std::string_view baseline);
 
+/// Whether the site is up without being there: the text of a fetch that failed became its baseline, and the fetch still
+/// fails so. It is never told by the page, which may begin with "11:" of its own.
+bool hasFailureAsBaseline(const CheckResult& result);
+
 /// What is worth telling of a site that is up: that its baseline is the text of a fetch that fails. Empty otherwise.
 std::string noteOf(const CheckResult& passed);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/pages/cause.h"
+#include "engine/cause.h"
 
 #include <gtest/gtest.h>
 

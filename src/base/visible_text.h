@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarnwick {
+
+/// Bytes as they may be shown in a line of text: what would move the cursor, change the terminal or break the line is
+/// written as an escape like "\n" or "\x1b", and so are bytes that are no UTF-8. Cut to `longest` characters.
+std::string visibleText(std::string_view bytes, std::size_t longest = std::string_view::npos);
+
+}  // namespace tarnwick

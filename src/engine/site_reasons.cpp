@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "engine/site_reasons.h"
+
+#include <utility>
+
+#include "engine/cause.h"
+#include "store/first_field.h"
+#include "store/sql_quote.h"
+
+namespace tarnwick {
+namespace {
+
+// The newest row of the log for what stands in `site`; Null where the day has none. By day, address, result and moment,
+// as the index of the log has them, so that neither a long log nor its pages are read.
+std::string newestOfDay(std::string_view what, std::string_view day, std::string_view url, std::string_view status,
+                        std::string_view idSite) {
+  return joinSql("(select ", what, " from log where datevalue(dateStamp) = ", day, " and url = ", url,
+                 " and status = ", status, " and idSite = ", idSite, " order by dateStamp desc, rowid desc limit 1)");
+}
+
+// A check that ends in the first moments of a day may have been logged on the day before.
+std::string newestOf(std::string_view what, const std::string& lastChecked, std::string_view url,
+                     std::string_view status, std::string_view idSite) {
+  return joinSql("coalesce(", newestOfDay(what, "datevalue(" + lastChecked + ")", url, status, idSite), ",",
+                 newestOfDay(what, "datevalue(datetime(" + lastChecked + ",'-1 minute'))", url, status, idSite), ")");
+}
+
+std::string inQuotes(const std::string& text) { return "'" + sqlQuote(text) + "'"; }
+
+}  // namespace
+
+std::optional<SiteReasons::Stand> SiteReasons::standOf(std::int16_t idSite) {
+  const auto rows = db_.query("select url,active,status,lastChecked from sites where idSite = " + sqlQuote(idSite));
+  std::optional<Stand> stand;
+  if (!rows->eof() && rows->field("active").toBool() && !rows->field("status").isNull()) {
+    stand = Stand{rows->field("url").toText(), rows->field("status").toBool(), rows->field("lastChecked").toText()};
+  }
+  rows->close();
+  return stand;
+}
+
+// Why the fetch of the last check failed; nothing when it brought a page, or when that is not known.
+std::optional<std::string> SiteReasons::failedFetch(std::int16_t idSite, const Stand& stand) {
+  const std::string id = sqlQuote(idSite);
+  const auto cause = firstField(
+      db_, joinSql("select ", newestOf("case when errCode <> 0 then errDescription end", inQuotes(stand.lastChecked),
+                                       inQuotes(stand.url), stand.up ? "1" : "0", id)));
+  if (!cause || cause->isNull()) {
+    return std::nullopt;
+  }
+  std::string text = cause->toText();
+  // The log may have been switched off since.
+  const bool last =
+      firstFlag(db_, joinSql("select content_runtime = ", inQuotes("11:" + text), " from sites where idSite = ", id));
+  return last ? std::optional(std::move(text)) : std::nullopt;
+}
+
+std::string SiteReasons::reasonOf(std::int16_t idSite) {
+  const auto stand = standOf(idSite);
+  if (!stand) {
+    return {};
+  }
+  CheckResult result{.idSite = idSite, .url = stand->url, .passed = stand->up};
+  const auto fetch = failedFetch(idSite, *stand);
+  if (fetch) {
+    result.errCode = -1;
+    result.errDescription = *fetch;
+  }
+  if (stand->up) {
+    const std::string note = noteOf(result);
+    return note.empty() ? note : "up: " + note;
+  }
+  if (fetch) {
+    return causeOf(result, {});
+  }
+  std::string baseline;
+  std::string page;
+  const auto rows = db_.query("select content_compare,content_runtime from sites where idSite = " + sqlQuote(idSite));
+  if (!rows->eof()) {
+    baseline = rows->field("content_compare").toText();
+    page = rows->field("content_runtime").toText();
+  }
+  rows->close();
+  result.page = page;
+  return causeOf(result, baseline);
+}
+
+std::set<std::int64_t> SiteReasons::sitesUpByFailure(std::int16_t idSite) {
+  const std::string failed =
+      "case when errCode <> 0 then "
+      "(select content_runtime = '11:' || log.errDescription from sites as page where page.idSite = log.idSite) end";
+  std::string sql = joinSql("select idSite from sites where status and lastChecked is not null and ",
+                            newestOf(failed, "lastChecked", "sites.url", "1", "sites.idSite"));
+  if (idSite > 0) {
+    sql += " and idSite = " + sqlQuote(idSite);
+  }
+  const auto rows = db_.query(sql);
+  std::set<std::int64_t> sites;
+  for (; !rows->eof(); rows->moveNext()) {
+    sites.insert(rows->field("idSite").toInt64());
+  }
+  rows->close();
+  return sites;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+
+#include "store/database.h"
+
+namespace tarnwick {
+
+/// Why the sites stand as they do, from what is stored of their last checks. Every failed statement raises
+/// DataAccessError.
+class SiteReasons {
+ public:
+  explicit SiteReasons(Database& database) : db_(database) {}
+
+  /// Why an active site is down, in the words of a check (see `causeOf`); of one that is up only because the text of a
+  /// fetch that fails is its baseline, that it is so. Empty for all others. Reads the pages of a site that is down,
+  /// which takes some tenths of a second for the largest ones: to be asked for a site that somebody looks at.
+  std::string reasonOf(std::int16_t idSite);
+
+  /// The sites that are up only because the text of a fetch that fails is their baseline: by the log, so there are none
+  /// where none is kept. Reads no page of any other site; only site `idSite` when that is greater than 0.
+  std::set<std::int64_t> sitesUpByFailure(std::int16_t idSite = 0);
+
+ private:
+  struct Stand {
+    std::string url;
+    bool up = false;
+    std::string lastChecked;
+  };
+  std::optional<Stand> standOf(std::int16_t idSite);
+  std::optional<std::string> failedFetch(std::int16_t idSite, const Stand& stand);
+
+  Database& db_;
+};
+
+}  // namespace tarnwick
