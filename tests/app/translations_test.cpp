@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
 #include <QDir>
 #include <QLocale>
 #include <QTranslator>
 
+#include "store/option_table.h"
 #include "ui/main_window/master.h"
 
 namespace tarnwick::testing {
@@ -41,6 +44,20 @@ TEST_F(TranslationsTest, TheUsersLanguageIsTakenWhereThereIsATranslation) {
   load(QLocale::German);
   EXPECT_EQ(QObject::tr("Open the help page (F1)"), QStringLiteral("Die Hilfeseite öffnen (F1)"));
   EXPECT_EQ(Master::tr("Change the settings"), QStringLiteral("Die Einstellungen ändern"));
+}
+
+TEST_F(TranslationsTest, EveryTextOfTheOptionsIsTranslated) {
+  if (!areCompiled()) {
+    GTEST_SKIP() << "the tool that compiles translations is not installed";
+  }
+  load(QLocale::German);
+  for (const OptionField& option : programOptions()) {
+    std::vector<std::string> texts = option.choices;
+    texts.insert(texts.end(), {option.label, option.meaning, option.original, option.unit});
+    for (const std::string& text : texts) {
+      EXPECT_TRUE(text.empty() || QObject::tr(text.c_str()) != QString::fromStdString(text)) << text;
+    }
+  }
 }
 
 TEST_F(TranslationsTest, CaptionsThatAreNamesStayAsTheyAre) {

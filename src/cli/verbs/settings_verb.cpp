@@ -24,6 +24,11 @@ const SettingField& settingOf(const Fields& fields, const std::string& name) {
   const auto setting = std::ranges::find(fields.settings, lowerCase(name),
                                          [](const SettingField& known) { return lowerCase(known.name); });
   if (setting == fields.settings.end()) {
+    const auto isIt = [&](const OptionField& option) { return equalsIgnoringCase(option.name, name); };
+    if (const auto option = std::ranges::find_if(fields.options, isIt); option != fields.options.end()) {
+      throw std::runtime_error(option->name + " is an option, and no setting. See: tarnwickctl option all " +
+                               option->name);
+    }
     std::string list;
     for (const SettingField& known : fields.settings) {
       list += (list.empty() ? "" : ", ") + known.name;

@@ -108,6 +108,11 @@ TEST_F(SettingsVerb, RefusesATimeOutThatIsNone) {
   EXPECT_EQ(stored("timeout"), "30");
 }
 
+TEST_F(SettingsVerb, LeadsToTheOptionsWhereTheKeyIsOne) {
+  EXPECT_EQ(run({"settings", "MAILlimit", "30"}), exit_status::failed);
+  EXPECT_EQ(err, "tarnwickctl: mailLimit is an option, and no setting. See: tarnwickctl option all mailLimit\n");
+}
+
 TEST_F(SettingsVerb, ListsTheKeysWhenOneIsUnknown) {
   for (const char* key : {"bla", "id", "email,smtp", ""}) {
     EXPECT_EQ(run({"settings", key, "1"}), exit_status::failed) << key;
