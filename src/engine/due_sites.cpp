@@ -51,6 +51,33 @@ bool DueSites::changedByOthers() {
   return std::exchange(version_, version) != version;
 }
 
+bool DueSites::changedByAnyone() {
+  const auto rows = db_.conn().execute("select total_changes()", {});
+  const std::int64_t changes = rows->eof() ? 0 : rows->field(std::size_t{0}).toInt64();
+  const bool byUs = std::exchange(ownChanges_, changes) != changes;
+  return changedByOthers() || byUs;
+}
+
+TextTable DueSites::asStored(std::int16_t idSite) {
+  const SqlValue id(std::int64_t{idSite});
+  const auto rows = db_.conn().execute(joinSql("select ", kSiteFields, " from sites where idSite = ?1"), {&id, 1});
+  return siteTableOf(*rows);
+}
+
+NeverChecked DueSites::neverChecked() {
+  const auto rows =
+      db_.conn().execute("select count(*), min(idSite) from sites where lastChecked is null and active <> 0", {});
+  if (rows->eof()) {
+    return {};
+  }
+  return {rows->field(std::size_t{0}).toInt64(), rows->field(std::size_t{1}).toInt64()};
+}
+
+bool DueSites::wasChecked(std::int16_t idSite) {
+  const TextTable site = asStored(idSite);
+  return site.lastRow() > 0 && !site.isNull(site_column::lastChecked, 1);
+}
+
 MinWaitTime DueSites::getMinWaitTime() {
   const auto rows =
       db_.query(joinSql("SELECT TOP 1 idsite,url,tInterval*60 AS tlc, "

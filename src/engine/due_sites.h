@@ -26,6 +26,12 @@ struct MinWaitTime {
   std::int32_t mlc = 0;
 };
 
+/// The active sites that were never checked.
+struct NeverChecked {
+  std::int64_t count = 0;
+  std::int64_t first = 0;  ///< the lowest of their ids; 0 when there are none
+};
+
 /// Chooses what is tested and when. The database alone decides by its clock which sites are due: those whose last check
 /// lies at least `tInterval` changes of the clock's minute back. A failed statement raises DataAccessError.
 class DueSites {
@@ -42,8 +48,17 @@ class DueSites {
   /// The soonest-due active site. Raises OverflowError when its id does not fit 16 bits, or its check interval 32.
   MinWaitTime getMinWaitTime();
 
+  /// The record of a site, columns as above; no row when there is none.
+  TextTable asStored(std::int16_t idSite);
+
+  NeverChecked neverChecked();
+  /// Whether there is such a site and it has ever been checked.
+  bool wasChecked(std::int16_t idSite);
+
   /// Whether another program has changed the database since this was asked last.
   bool changedByOthers();
+  /// Whether anything has been changed, by this program or another one, since this was asked last.
+  bool changedByAnyone();
 
   /// Vocabulary: no front end calls them.
   /// The ids of the active sites that are due, rising. Raise OverflowError for an id that does not fit 16 bits.
@@ -55,6 +70,7 @@ class DueSites {
 
   Database& db_;
   std::int64_t version_ = 0;
+  std::int64_t ownChanges_ = -1;
 };
 
 }  // namespace tarnwick

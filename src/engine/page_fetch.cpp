@@ -9,6 +9,21 @@
 #include "store/sql_quote.h"
 
 namespace tarnwick {
+namespace {
+
+std::string formOf(Recordset& vars) {
+  std::string body;
+  for (; !vars.eof(); vars.moveNext()) {
+    body += PageFetch::urlEncode(vars.field("pname").toText()) + "=" +
+            PageFetch::urlEncode(vars.field("pvalue").toText()) + "&";
+  }
+  if (!body.empty()) {
+    body.pop_back();
+  }
+  return body;
+}
+
+}  // namespace
 
 PageFetch::PageFetch(Database& database, SettingsAndLog& settings, SingleControl& single, EventPump& pump)
     : database_(database), settings_(settings), single_(single), pump_(pump) {}
@@ -26,15 +41,12 @@ std::string PageFetch::urlEncode(std::string_view text) {
 }
 
 std::string PageFetch::getPostVarsAsString(std::int16_t idSite) {
-  std::string body;
-  const auto rs = database_.query("select pname,pvalue from postvars where idsite = " + sqlQuote(idSite));
-  for (; !rs->eof(); rs->moveNext()) {
-    body += urlEncode(rs->field("pname").toText()) + "=" + urlEncode(rs->field("pvalue").toText()) + "&";
-  }
-  if (!body.empty()) {
-    body.pop_back();
-  }
-  return body;
+  return formOf(*database_.query("select pname,pvalue from postvars where idsite = " + sqlQuote(idSite)));
+}
+
+std::string PageFetch::postVarsAsStored(std::int16_t idSite) {
+  const SqlValue id(std::int64_t{idSite});
+  return formOf(*database_.conn().execute("select pname,pvalue from postvars where idsite = ?1", {&id, 1}));
 }
 
 Request PageFetch::requestFor(std::int16_t idSite, std::string_view method) {

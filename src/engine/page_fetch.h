@@ -26,6 +26,9 @@ class PageFetch {
   /// site has none.
   std::string getPostVarsAsString(std::int16_t idSite);
 
+  /// The same, to tell whether the site would still be sent what it was sent.
+  std::string postVarsAsStored(std::int16_t idSite);
+
   /// How a site whose `method` column is `method`, in any letter case, is asked for its page: the method in upper case
   /// and, for "POST", the header and the body of its POST variables.
   Request requestFor(std::int16_t idSite, std::string_view method);

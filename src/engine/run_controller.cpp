@@ -27,13 +27,24 @@ constexpr milliseconds kBlinkInterval{500};
 constexpr std::int16_t kDueSites = 0;
 constexpr std::int16_t kAllActiveSites = 1;
 
+std::chrono::minutes minuteOf(const Clock& clock) {
+  return std::chrono::floor<std::chrono::minutes>(clock.localNow().time_since_epoch());
+}
+
 }  // namespace
 
 RunController::RunController(const Needs& needs, TimerMaker& timers, Guard guard)
     : needs_(needs),
       guard_(std::move(guard)),
       tmrCheckSites_(timers.makeTimer([this] { guardedTick(); })),
-      timer2_(timers.makeTimer([this] { guard_("lamps", [this] { Timer2_Timer(); }); })) {}
+      timer2_(timers.makeTimer([this] {
+        guard_("lamps", [this] { Timer2_Timer(); });
+        guard_("counters", [this] { uncounted_.tick(); });
+      })),
+      sites_(needs.dueSites),
+      uncounted_(needs.results, needs.dueSites, needs.view) {}
+
+RunController::~RunController() { uncounted_.end(); }
 
 void RunController::prepare() {
   tmrCheckSites_->setEnabled(false);
@@ -55,7 +66,14 @@ void RunController::startChecking() {
   running_ = true;
   // What was left of the countdown at the last Stop says nothing about the sites that are tested now.
   secondsToNext_ = 0;
-  backOff_ = {};
+  backOff_.succeeded();
+  standstill_.reset();
+  if (busy_) {
+    // The pass that Stop had not ended yet goes on, and is that of this run. What it does not take is taken next.
+    needs_.view.indicators(RunState::start);
+    somethingWasLeft_ = true;
+    return;
+  }
   somethingWasLeft_ = false;
   runTestPass(kAllActiveSites);
 }
@@ -73,21 +91,20 @@ void RunController::runTestPass(std::int16_t mode) {
   if (busy_) {
     return;
   }
-  const bool takesWhatWasLeft = std::exchange(somethingWasLeft_, false) && mode == kDueSites;
+  const bool takesWhatWasLeft = std::exchange(somethingWasLeft_, false);
+  standstill_.reset();
   try {
-    TestPass pass(*this, needs_, busy_);
+    TestPass pass(*this, needs_, busy_, {sites_, uncounted_});
     readOptions();
-    if (takesWhatWasLeft || (mode == kDueSites && newSitesAtOnce_)) {
-      pass.test(needs_.dueSites.getSitesDueOrNeverChecked());
-    } else {
-      pass.test(mode);
-    }
-    backOff_ = {};
+    TextTable sites = sites_.choose(mode, mode == kDueSites && (takesWhatWasLeft || newSitesAtOnce_));
+    foundNothing_ = sites.lastRow() == 0;
+    pass.test(std::move(sites));
+    backOff_.succeeded();
   } catch (const OverflowError&) {
-    backOff_ = {};  // the checks themselves have been recorded
+    backOff_.succeeded();  // the checks themselves have been recorded
     throw;
   } catch (...) {
-    backOff_.passFailed();
+    backOff_.failed();
     somethingWasLeft_ = true;
     throw;
   }
@@ -95,15 +112,8 @@ void RunController::runTestPass(std::int16_t mode) {
 
 void RunController::readOptions() { newSitesAtOnce_ = needs_.options.optionsInForce().newSitesAtOnce(); }
 
-void RunController::BackOff::passFailed() {
-  constexpr int kLongestWait = 60;
-  ticksToWait = failedPasses == 0 ? 0 : std::min(kLongestWait, 2 * ticksToWait + 1);
-  ticksLeft = ticksToWait;
-  ++failedPasses;
-}
-
 bool RunController::testOnce(TextTable sites) {
-  TestPass pass(*this, needs_, busy_);
+  TestPass pass(*this, needs_, busy_, {sites_, uncounted_});
   // The pass looks at this flag; it is lowered before the pass puts the lamps right.
   const struct Running {
     explicit Running(bool& flag) : flag_(flag) { flag_ = true; }
@@ -159,6 +169,10 @@ void RunController::tmrCheckSites_Timer() {
 
 bool RunController::countDown() {
   inTimerPass_ = false;
+  if (standsStill()) {
+    needs_.view.showStatus(standstill_->why);
+    return false;
+  }
   --secondsToNext_;
   if (secondsToNext_ > 0 && newSitesAtOnce_ && needs_.dueSites.changedByOthers()) {
     secondsToNext_ = -1;  // there may be a site that nobody has counted
@@ -169,6 +183,9 @@ bool RunController::countDown() {
     secondsToNext_ = needs_.dueSites.getMinWaitTime().mlc;
     readOptions();
   }
+  if (sites_.owesAny()) {
+    secondsToNext_ = 0;
+  }
   if (secondsToNext_ > 0) {
     if (!busy_) {
       needs_.view.showStatus("Time Until Next Check: " + formatSeconds(secondsToNext_));
@@ -178,7 +195,7 @@ bool RunController::countDown() {
   if (busy_ || !running_) {
     return false;
   }
-  return backOff_.ticksLeft-- <= 0;
+  return backOff_.tick();
 }
 
 // What is due is a matter of the wall clock: set back or forward, by a person, by daylight saving or after the machine
@@ -195,7 +212,7 @@ void RunController::timerPass() {
   if (busy_ || !running_) {
     return;  // a box was open meanwhile
   }
-  if (backOff_.failedPasses > 0) {
+  if (backOff_.isFailing()) {
     // The pages of a pass that cannot be recorded would be fetched for nothing, every second again.
     needs_.results.proveRecording();
   }
@@ -205,6 +222,25 @@ void RunController::timerPass() {
     bool& flag_;
   } inPass(inTimerPass_);
   runTestPass(kDueSites);
+  if (foundNothing_ && running_) {
+    needs_.dueSites.changedByAnyone();
+    if (std::string why = sites_.whatWaits(); !why.empty()) {
+      standstill_ = {minuteOf(needs_.clock), std::move(why)};
+    }
+  }
+}
+
+bool RunController::standsStill() {
+  if (standstill_ && (standstill_->since != minuteOf(needs_.clock) || needs_.dueSites.changedByAnyone())) {
+    standstill_.reset();
+  }
+  return standstill_.has_value();
+}
+
+void RunController::beingTyped(std::optional<std::int16_t> idSite) {
+  sites_.beingTyped(idSite);
+  secondsToNext_ = 0;
+  standstill_.reset();
 }
 
 void RunController::Timer2_Timer() {
@@ -219,6 +255,7 @@ void RunController::init() {
   needs_.view.fillGrid();
   // An edit may have made a site due sooner than the countdown says.
   secondsToNext_ = 0;
+  standstill_.reset();
 }
 
 void RunController::resetClock() {

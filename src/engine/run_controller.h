@@ -5,11 +5,15 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "engine/back_off.h"
 #include "engine/inet_pool.h"
 #include "engine/run_view.h"
+#include "engine/sites_to_test.h"
+#include "engine/uncounted_failures.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
 #include "platform/timer.h"
@@ -49,6 +53,9 @@ class RunController {
 
   /// The timers are made disabled; `prepare` sets them up. `guard` is where the errors of their handlers end.
   RunController(const Needs& needs, TimerMaker& timers, Guard guard);
+  ~RunController();
+  RunController(const RunController&) = delete;
+  RunController& operator=(const RunController&) = delete;
 
   /// Starts a run: tests every active site at once and returns when that pass ends. Nothing when a run is on.
   void startChecking();
@@ -70,6 +77,9 @@ class RunController {
   void init();
   /// Sets the run clock's start to now and shows it.
   void resetClock();
+  /// Names the site whose record somebody is still typing, or nothing when that has ended: no pass takes it meanwhile.
+  /// One that a pass has left out for it is due at once afterwards; a new one else follows the option `newSites`.
+  void beingTyped(std::optional<std::int16_t> idSite);
   /// Vocabulary: no front end calls it.
   /// Shows the time of a site's last check in the grid.
   void UpdateLastChecked(std::int16_t idSite);
@@ -95,21 +105,12 @@ class RunController {
   static std::string clockText(std::chrono::seconds elapsed);
 
  private:
-  /// How long a run waits after passes that failed. The first is followed by another at the next tick; the longer they
-  /// fail, the rarer they get, so that a fault here does not have every due site fetched each second.
-  struct BackOff {
-    void passFailed();
-
-    int failedPasses = 0;  ///< one after the other
-    int ticksToWait = 0;
-    int ticksLeft = 0;
-  };
-
   void guardedTick();
   void readOptions();
   /// Counts one second down; true when a pass is to begin.
   bool countDown();
   void timerPass();
+  bool standsStill();
   bool wallClockWasSet();
   void updateClock();
 
@@ -120,6 +121,7 @@ class RunController {
   bool running_ = false;
   bool busy_ = false;
   bool inTimerPass_ = false;
+  bool foundNothing_ = false;  // the last pass
   std::int32_t secondsToNext_ = 0;
   // The option `newSites`, as it was when the sites were asked last. Between that and the next time the countdown asks
   // the database nothing, unless the option wants it.
@@ -127,10 +129,21 @@ class RunController {
   std::chrono::milliseconds runStart_{0};
   // The wall clock less the one that only goes forward.
   std::chrono::seconds clockOffset_{0};
+  SitesToTest sites_;
+  UncountedFailures uncounted_;
+  // How long the run waits after passes that failed, so that a fault here does not have every due site fetched each
+  // second.
   BackOff backOff_;
   // A fault has ended a pass, perhaps that of Start: sites may be left that were never checked. Those are never due,
   // and would not be watched before the next Start.
   bool somethingWasLeft_ = false;
+  // Set when the countdown has ended and yet nothing is due, since there are sites that were never checked. What is due
+  // changes with the minute or by an edit, so nothing is asked before.
+  struct Standstill {
+    std::chrono::minutes since{};
+    std::string why;
+  };
+  std::optional<Standstill> standstill_;
 };
 
 }  // namespace tarnwick

@@ -57,6 +57,10 @@ class RunView {
   virtual void updateGridRow(std::int16_t idSite, bool passed) = 0;
   /// Tells a result in full, after it has been recorded. A view that has a grid needs none of it.
   virtual void showResult(const CheckResult&) {}
+  /// Tells that the page of a site was dropped, neither judged nor recorded: the site was changed, switched off or
+  /// deleted after its request had been chosen. One that is still active is due at once. `url` is the address that was
+  /// asked. A view that shows the list anyhow needs none of it.
+  virtual void showDropped(std::int16_t /*idSite*/, const std::string& /*url*/) {}
   /// Writes a site's "Time Of Last Test" cell.
   virtual void setLastChecked(std::int16_t idSite, const std::string& dateTime) = 0;
 };

@@ -13,16 +13,12 @@
 #include "engine/due_sites.h"
 #include "engine/page_fetch.h"
 #include "engine/result_recording.h"
+#include "engine/sites_to_test.h"
+#include "engine/uncounted_failures.h"
+#include "store/site_table.h"
 
 namespace tarnwick {
 namespace {
-
-// Columns of the site table.
-constexpr std::size_t kIdSite = 1;
-constexpr std::size_t kUrl = 2;
-constexpr std::size_t kMethod = 3;
-constexpr std::size_t kUserName = 9;
-constexpr std::size_t kPassword = 10;
 
 // How much lighter the row of a site is while its request is under way.
 constexpr int kTestingBrightness = 36;
@@ -31,8 +27,8 @@ constexpr const char* kNoAddress = "The address of the site is empty.";
 
 }  // namespace
 
-TestPass::TestPass(RunController& run, const RunController::Needs& needs, bool& busy)
-    : run_(run), needs_(needs), busy_(busy) {
+TestPass::TestPass(RunController& run, const RunController::Needs& needs, bool& busy, const Debts& debts)
+    : run_(run), needs_(needs), busy_(busy), debts_(debts) {
   needs_.view.indicators(RunState::start);
   busy_ = true;
 }
@@ -55,8 +51,6 @@ TestPass::~TestPass() {
     // As above: who shows that the pass has ended may read what there is to tell of it.
   }
 }
-
-void TestPass::test(std::int16_t mode) { test(needs_.dueSites.getArraySitesActiveTrue(mode)); }
 
 void TestPass::test(TextTable sites) {
   sites_ = std::move(sites);
@@ -87,7 +81,7 @@ void TestPass::raiseDeferred() const {
 void TestPass::setUpPool() {
   urls_.reserve(sites_.lastRow());
   for (std::size_t row = 1; row <= sites_.lastRow(); ++row) {
-    urls_.push_back(cell(kUrl, row));
+    urls_.push_back(cell(site_column::url, row));
   }
   needs_.pool.initSockets(urls_);
   needs_.pool.tmrInet().setEnabled(true);
@@ -150,10 +144,13 @@ bool TestPass::hasUsableId(std::size_t row) {
 void TestPass::sendRequest(std::int16_t slot) {
   const std::size_t row = next_;
   const std::int16_t id = idSite(row);
-  Request request = needs_.pages.requestFor(id, cell(kMethod, row));
+  Request request = needs_.pages.requestFor(id, cell(site_column::method, row));
   request.url = url(row);
-  request.userName = cell(kUserName, row);
-  request.password = cell(kPassword, row);
+  request.userName = cell(site_column::sUserName, row);
+  request.password = cell(site_column::sPassWord, row);
+  if (!request.headers.empty()) {
+    forms_[row] = request.body;
+  }
   needs_.view.showStatus("Testing: " + url(row));
   needs_.pool.send(slot, row, std::move(request));
   needs_.view.brighten(id, kTestingBrightness);
@@ -190,6 +187,7 @@ void TestPass::finishSlot(std::int16_t slot) {
     record(row, pool.siteContent(row), pool.siteErrCode(row), pool.siteErrDescription(row));
   }
   pool.releaseSiteContent(row);
+  forms_.erase(row);
   pool.setSocketDone(slot, false);
 }
 
@@ -222,25 +220,44 @@ void TestPass::recordResult(std::size_t row, const std::string& content, std::in
                             const std::string& errDescription) {
   const std::int16_t id = idSite(row);
   Transaction whole = needs_.results.beginTransaction();
-  if (!stillAsSelected(row)) {
+  if (const Standing standing = standingOf(row); standing != Standing::asSelected) {
+    dropPage(row, standing);
     return;
   }
   const bool passed = needs_.results.testSite(id, content, errCode, errDescription, firstBaselineOf(id));
   needs_.results.setStatus(id, passed);
   if (passed) {
-    countResult(id, true);
+    countSuccess(id);
     whole.commit();
+    debts_.checks.settle(id);
   } else {
     // The alerts of a failure wait for the network, so they cannot be part of the transaction. The site is down from
     // here on, whatever becomes of them; and nothing is written before them that could fail and leave them out.
     whole.commit();
-    needs_.alerts.sendAlerts(id);
-    if (stillAsSelected(row)) {  // they take events in, too
-      countResult(id, false);
-    }
+    debts_.checks.settle(id);
+    alertAndCount(row);
   }
   std::erase(brightened_, id);
   needs_.view.showResult({id, url(row), passed, errCode, errDescription, content});
+}
+
+// The alerts take events in: meanwhile the site may be edited, switched off or deleted, the database be locked or taken
+// away. The failure is recorded, so it is counted all the same, now or later, unless its site is gone.
+void TestPass::alertAndCount(std::size_t row) {
+  const std::int16_t id = idSite(row);
+  UncountedFailures::Pending failure(debts_.failures, id);
+  needs_.alerts.sendAlerts(id);
+  if (!hasAddressAsSelected(row) && !needs_.dueSites.wasChecked(id)) {
+    failure.counted();
+    return;
+  }
+  try {
+    needs_.results.updateStatusCounter(id, false);
+  } catch (const OverflowError&) {
+    deferFault(overflow_, std::current_exception());
+  }
+  failure.counted();
+  needs_.view.updateGridRow(id, false);
 }
 
 FirstBaseline TestPass::firstBaselineOf(std::int16_t id) const {
@@ -249,19 +266,43 @@ FirstBaseline TestPass::firstBaselineOf(std::int16_t id) const {
 }
 
 // A full counter is no reason to forget the check itself, or the sites behind this one.
-void TestPass::countResult(std::int16_t id, bool passed) {
+void TestPass::countSuccess(std::int16_t id) {
   try {
-    run_.countResult(id, passed);
+    run_.countResult(id, true);
   } catch (const OverflowError&) {
     deferFault(overflow_, std::current_exception());
   }
 }
 
-// While it was fetched a site may have been deleted, its id given to a new one, or its address been changed: the page
-// is not that site's, and must not become its baseline. What is due by then is fetched by the next pass.
-bool TestPass::stillAsSelected(std::size_t row) const {
+bool TestPass::hasAddressAsSelected(std::size_t row) const {
   const std::string stored = needs_.results.getUrl(idSite(row));
   return stored == url(row) || (stored.empty() && url(row) == kNullText);
+}
+
+// While it was fetched a site may have been deleted, its id given to a new one, its request been changed or the site
+// been switched off: the page is not that site's, and must not become its baseline or raise its alert.
+TestPass::Standing TestPass::standingOf(std::size_t row) const {
+  const bool sameAddress = hasAddressAsSelected(row);
+  const TextTable stored = needs_.dueSites.asStored(idSite(row));
+  if (stored.lastRow() == 0) {
+    return Standing::gone;
+  }
+  const auto isAsSelected = [&](std::size_t column) { return stored.at(column, 1) == cell(column, row); };
+  const auto form = forms_.find(row);
+  if (sameAddress && isAsSelected(site_column::method) && isAsSelected(site_column::active) &&
+      isAsSelected(site_column::sUserName) && isAsSelected(site_column::sPassWord) &&
+      (form == forms_.end() || form->second == needs_.pages.postVarsAsStored(idSite(row)))) {
+    return Standing::asSelected;
+  }
+  // A new site under the id has not been checked when the one that was selected had.
+  return isAsSelected(site_column::lastChecked) ? Standing::changed : Standing::gone;
+}
+
+void TestPass::dropPage(std::size_t row, Standing standing) {
+  if (standing == Standing::changed) {
+    debts_.checks.owe(idSite(row));
+  }
+  needs_.view.showDropped(idSite(row), url(row));
 }
 
 void TestPass::nextRow() {
@@ -279,6 +320,6 @@ void TestPass::showProgress() {
   }
 }
 
-std::int16_t TestPass::idSite(std::size_t row) const { return siteIdFromText(cell(kIdSite, row)); }
+std::int16_t TestPass::idSite(std::size_t row) const { return siteIdFromText(cell(site_column::idSite, row)); }
 
 }  // namespace tarnwick

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -13,24 +14,39 @@
 
 namespace tarnwick {
 
+class SitesToTest;
+class UncountedFailures;
+
 /// One test pass: fetches every selected site through the pool and has each result judged and recorded. Its life is the
 /// time in which the run is `busy`: however it ends, by its last row, by Stop or by an error, the pool is closed and
 /// the lamps are put right.
 class TestPass {
  public:
+  /// What a pass leaves to those that follow.
+  struct Debts {
+    SitesToTest& checks;
+    UncountedFailures& failures;
+  };
+
   /// `busy` is true from here until this object ends.
-  TestPass(RunController& run, const RunController::Needs& needs, bool& busy);
+  TestPass(RunController& run, const RunController::Needs& needs, bool& busy, const Debts& debts);
   ~TestPass();
   TestPass(const TestPass&) = delete;
   TestPass& operator=(const TestPass&) = delete;
 
-  /// Tests the sites of `mode`, or those of a site table; returns early when the run is stopped. Raises,
-  /// after all others have been tested, the fault that kept one site from being fetched, or its result from being
-  /// recorded, while others could be; else OverflowError when an id does not fit 16 bits or a counter was full.
-  void test(std::int16_t mode);
+  /// Tests the sites of a site table; returns early when the run is stopped. Raises, after all others have been tested,
+  /// the fault that kept one site from being fetched, or its result from being recorded, while others could be; else
+  /// OverflowError when an id does not fit 16 bits or a counter was full.
   void test(TextTable sites);
 
  private:
+  /// What has become of a site since it was selected.
+  enum class Standing {
+    asSelected,
+    changed,  ///< it would be asked for its page otherwise than it was
+    gone,     ///< deleted; there may be another one under its id
+  };
+
   std::size_t count() const { return urls_.size(); }
   bool stopped() const { return !run_.running() || needs_.pump.closing(); }
 
@@ -48,10 +64,13 @@ class TestPass {
                     const std::string& errDescription);
   void deferUnlessGeneral();
   FirstBaseline firstBaselineOf(std::int16_t id) const;
-  void countResult(std::int16_t id, bool passed);
+  void countSuccess(std::int16_t id);
   static void deferFault(std::exception_ptr& first, const std::exception_ptr& fault);
   void raiseDeferred() const;
-  bool stillAsSelected(std::size_t row) const;
+  bool hasAddressAsSelected(std::size_t row) const;
+  Standing standingOf(std::size_t row) const;
+  void dropPage(std::size_t row, Standing standing);
+  void alertAndCount(std::size_t row);
   void nextRow();
   void showProgress();
 
@@ -62,9 +81,12 @@ class TestPass {
   RunController& run_;
   const RunController::Needs& needs_;
   bool& busy_;
+  Debts debts_;
   TextTable sites_;
   OptionsInForce options_;
   std::vector<std::string> urls_;
+  // The form that was sent, of the rows that are being fetched.
+  std::map<std::size_t, std::string> forms_;
   std::vector<std::int16_t> brightened_;
   // The first faults that concern one site alone, told when the others have been tested: one that left its check to be
   // done again, and one that did not.

@@ -31,6 +31,9 @@ inline constexpr std::size_t failure = 13;
 inline constexpr std::size_t last = failure;
 }  // namespace site_column
 
+/// The rows left of `rows`, whose fields are `kSiteFields`, in the order they come. Raises DataAccessError.
+TextTable siteTableOf(Recordset& rows);
+
 /// Runs `sql`, whose select list is `kSiteFields`, and returns its rows in the order they come. Raises DataAccessError.
 TextTable readSiteTable(Database& database, std::string sql);
 

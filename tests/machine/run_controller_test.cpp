@@ -199,5 +199,158 @@ TEST_F(RunControllerTest, AnInactiveSiteIsNeverTested) {
   EXPECT_THAT(server.requests(), IsEmpty());
 }
 
+/// A run with a site that is up, and another one that was added while it was on.
+class NewSiteInARun : public RunControllerTest {
+ protected:
+  void SetUp() override {
+    known = addPage("/a", "hello");
+    program.startRun();
+    tick();
+    fresh = addPage("/new", "new");
+  }
+  std::size_t passes() const { return static_cast<std::size_t>(std::ranges::count(view.lamps, RunState::start)); }
+
+  std::int16_t known = 0;
+  std::int16_t fresh = 0;
+};
+
+TEST_F(NewSiteInARun, StopsTheCountdownAndTheStatusSaysWhy) {
+  run().init();
+  view.lamps.clear();
+  tick();
+  tick();
+  EXPECT_EQ(view.status(),
+            "Not counting down: site " + std::to_string(fresh) + " was never checked, and the next Start takes it on.");
+  addPage("/newer", "newer");
+  tick();
+  tick();
+  EXPECT_EQ(view.status(), "Not counting down: 2 sites were never checked, and the next Start takes them on.");
+  EXPECT_EQ(column(fresh, "lastChecked"), "NULL");
+}
+
+TEST_F(NewSiteInARun, HasNoPassBegunEverySecond) {
+  run().init();
+  tick();
+  view.lamps.clear();
+  machine.handTimers.advance(seconds(120));
+  EXPECT_LE(passes(), 3U);
+}
+
+TEST_F(NewSiteInARun, KeepsNoOtherSiteWaiting) {
+  run().init();
+  machine.handTimers.advance(seconds(599));
+  EXPECT_EQ(column(known, "success"), "2");
+  folder.execute("update sites set lastChecked = '2001-01-01 00:00:00' where idSite = " + std::to_string(known));
+  tick();
+  EXPECT_EQ(column(known, "success"), "3") << "what another program changes counts at once";
+  program.data().updateSites(known, server.url("/a"), "get", true, 0, false, "", "", "");
+  tick();
+  EXPECT_EQ(column(known, "success"), "4") << "and what this one changes";
+}
+
+TEST_F(NewSiteInARun, IsTakenOnByTheNextStart) {
+  run().init();
+  machine.handTimers.advance(seconds(3));
+  program.stopRun();
+  program.startRun();
+  EXPECT_EQ(column(fresh, "success"), "1");
+  tick();
+  EXPECT_THAT(view.status(), ::testing::HasSubstr("Time Until Next Check: "));
+}
+
+/// As above, while the new site is still being typed.
+class SiteBeingTyped : public NewSiteInARun {
+ protected:
+  void SetUp() override {
+    NewSiteInARun::SetUp();
+    run().beingTyped(fresh);
+  }
+  void takeNewSitesAtOnce() { program.data().setOption(kAllSites, "newSites", "at once"); }
+};
+
+TEST_F(SiteBeingTyped, IsNotTakenByAPassOfNewSitesAndIsDueWhenItIsComplete) {
+  takeNewSitesAtOnce();
+  machine.handTimers.advance(seconds(700));
+  EXPECT_EQ(column(fresh, "lastChecked"), "NULL");
+  EXPECT_EQ(column(known, "success"), "2");
+  run().beingTyped(std::nullopt);
+  tick();
+  EXPECT_EQ(column(fresh, "success"), "1");
+}
+
+TEST_F(SiteBeingTyped, IsNotTakenByStartAndIsDueWhenItIsComplete) {
+  program.stopRun();
+  program.startRun();
+  EXPECT_EQ(column(fresh, "lastChecked"), "NULL");
+  EXPECT_EQ(column(known, "success"), "2");
+  run().beingTyped(std::nullopt);
+  tick();
+  EXPECT_EQ(column(fresh, "success"), "1");
+}
+
+TEST_F(SiteBeingTyped, IsNotTakenByThePassThatFollowsAFault) {
+  folder.execute("update sites set lastChecked = '2001-01-01 00:00:00' where idSite = " + std::to_string(known));
+  folder.execute("create trigger no before update on sites begin select raise(abort, 'not now'); end");
+  tick();
+  tick();
+  EXPECT_THAT(machine.prompts.texts(), ElementsAre(::testing::HasSubstr("not now")));
+  folder.execute("drop trigger no");
+  machine.handTimers.advance(seconds(30));
+  EXPECT_EQ(column(fresh, "lastChecked"), "NULL");
+  run().beingTyped(std::nullopt);
+  tick();
+  EXPECT_EQ(column(fresh, "success"), "1") << "that pass would have taken it";
+}
+
+TEST_F(SiteBeingTyped, WaitsForTheNextStartAsOriginallyWhenNoPassHasLeftItOut) {
+  machine.handTimers.advance(seconds(3));
+  EXPECT_EQ(view.status(), "Not counting down: site " + std::to_string(fresh) + " is still being entered.");
+  run().beingTyped(std::nullopt);
+  machine.handTimers.advance(seconds(3));
+  EXPECT_EQ(column(fresh, "lastChecked"), "NULL");
+  EXPECT_THAT(view.status(), ::testing::HasSubstr("was never checked"));
+}
+
+TEST_F(SiteBeingTyped, IsForgottenWhenItIsGivenUp) {
+  program.stopRun();
+  program.startRun();
+  program.data().deleteSite(fresh);
+  run().beingTyped(std::nullopt);
+  server.clearRecords();
+  machine.handTimers.advance(seconds(5));
+  EXPECT_THAT(server.requests(), IsEmpty());
+  EXPECT_THAT(view.status(), ::testing::HasSubstr("Time Until Next Check: "));
+}
+
+TEST_F(RunControllerTest, AStartBeforeTheStoppedPassHasEndedShowsThatItGoesOn) {
+  const std::int16_t first = addPage("/a", "hello");
+  addPage("/b", "hello");
+  view.onJudged = [&](std::int16_t id) {
+    if (id == first) {
+      run().stopChecking();
+      run().startChecking();
+      EXPECT_EQ(view.lamps.back(), RunState::start);
+      EXPECT_EQ(view.status(), "Running.");
+    }
+  };
+  run().startChecking();
+  EXPECT_EQ(view.lamps.back(), RunState::pause);
+}
+
+TEST_F(RunControllerTest, AStartBeforeTheStoppedPassHasEndedTakesNewSitesOn) {
+  const std::int16_t first = addPage("/a", "hello");
+  std::int16_t fresh = 0;
+  view.onJudged = [&](std::int16_t id) {
+    if (id == first && fresh == 0) {
+      run().stopChecking();
+      fresh = addPage("/new", "new");
+      run().startChecking();
+    }
+  };
+  run().startChecking();
+  tick();
+  EXPECT_EQ(column(fresh, "success"), "1");
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

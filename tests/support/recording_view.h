@@ -36,6 +36,7 @@ class RecordingView final : public RunView {
     }
   }
   void showResult(const CheckResult& result) override { results.emplace_back(result.idSite, result.passed); }
+  void showDropped(std::int16_t idSite, const std::string&) override { dropped.push_back(idSite); }
   void setLastChecked(std::int16_t idSite, const std::string& dateTime) override {
     lastChecked.emplace_back(idSite, dateTime);
   }
@@ -57,6 +58,7 @@ class RecordingView final : public RunView {
   std::vector<std::int16_t> unbrightened;
   std::vector<std::pair<std::int16_t, bool>> judged;
   std::vector<std::pair<std::int16_t, bool>> results;
+  std::vector<std::int16_t> dropped;
   std::vector<std::pair<std::int16_t, std::string>> lastChecked;
 
   /// Run inside the call that shows a status or a judged row, for tests of what happens in mid-pass.

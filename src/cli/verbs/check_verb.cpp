@@ -16,6 +16,9 @@ namespace {
 // A command that names more is none to be typed.
 constexpr std::size_t kMostNamed = 10;
 
+constexpr const char* kDropped =
+    "the site was changed, switched off or deleted while it was checked, so its page was dropped; check it again";
+
 struct CheckOptions {
   std::vector<std::int16_t> ids;
   bool due = false;
@@ -51,6 +54,21 @@ class CheckView final : public SilentView {
     console_.say(line);
   }
 
+  void showDropped(std::int16_t idSite, const std::string& url) override {
+    ++dropped_;
+    if (json_) {
+      array_.add({{"idSite", idSite},
+                  {"url", jsonText(url)},
+                  {"status", JsonValue()},
+                  {"errCode", 0},
+                  {"errDescription", ""},
+                  {"cause", kDropped},
+                  {"dropped", true}});
+    } else {
+      console_.say("drop " + std::to_string(idSite) + " " + visibleText(url) + ": " + kDropped);
+    }
+  }
+
   void end() {
     if (json_) {
       array_.end();
@@ -60,6 +78,7 @@ class CheckView final : public SilentView {
 
   std::size_t up() const { return up_; }
   std::size_t down() const { return down_; }
+  std::size_t dropped() const { return dropped_; }
   /// How many of those that are up are so without a page.
   std::size_t notAPage() const { return notAPage_; }
 
@@ -88,6 +107,7 @@ class CheckView final : public SilentView {
   m* data_ = nullptr;
   std::size_t up_ = 0;
   std::size_t down_ = 0;
+  std::size_t dropped_ = 0;
   std::size_t notAPage_ = 0;
 };
 
@@ -162,6 +182,9 @@ int check(Tool& tool, const CheckOptions& options) {
   if (view.down() > 0) {
     return exit_status::down;
   }
+  if (view.dropped() > 0) {
+    return exit_status::dropped;
+  }
   return view.notAPage() > 0 ? exit_status::notAPage : exit_status::ok;
 }
 
@@ -180,7 +203,8 @@ Verb checkVerb() {
        jsonOption(options->json)},
       "Each result is recorded, and each failure raises the alerts that the settings switch on, as in a run.\n"
       "Exit status: 0 when every site is up, 1 when one is down, 2 when the check could not be made,\n"
-      "4 when none is down, but one is up only because its baseline is the text of a fetch that fails.\n" +
+      "3 when none is down, but one was changed, switched off or deleted meanwhile and its page was dropped,\n"
+      "4 when neither is so, but one is up only because its baseline is the text of a fetch that fails.\n" +
           examples({{"check", "every active site, a line each"},
                     {"check 3 7", "two sites"},
                     {"check --due --json", "what is due, for a script"}}),

@@ -112,6 +112,13 @@ void RunTerminal::showResult(const CheckResult& result) {
        "result", std::move(json));
 }
 
+void RunTerminal::showDropped(std::int16_t idSite, const std::string& url) {
+  if (style_.verbose || style_.json) {
+    tell("drop " + std::to_string(idSite) + " " + visibleText(url) + ": changed while it was checked", "dropped",
+         {{"idSite", idSite}, {"url", jsonText(url)}});
+  }
+}
+
 void RunTerminal::endPass() {
   const Count pass = std::exchange(pass_, {});
   const std::size_t count = pass.up + pass.down;

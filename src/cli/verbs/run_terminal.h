@@ -40,6 +40,7 @@ class RunTerminal final : public SilentView {
   std::int64_t fullProgressWidth() override;
   void setProgressWidth(std::int64_t width) override;
   void showResult(const CheckResult& result) override;
+  void showDropped(std::int16_t idSite, const std::string& url) override;
 
  private:
   struct Count {

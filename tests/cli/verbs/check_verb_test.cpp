@@ -142,6 +142,30 @@ TEST_F(CheckVerb, EndsWithAStatusOfItsOwnWhenAFailureIsTheBaseline) {
   EXPECT_EQ(run({"check"}), exit_status::down);
 }
 
+TEST_F(CheckVerb, SaysThatThePageOfASiteThatWasChangedMeanwhileIsDropped) {
+  addPage("/b", "beta");
+  addPage("/a", "alpha");
+  server.handle("/a", [this](const HttpRequest&) {
+    folder.execute("update sites set url = url || '?new' where idSite = 2");
+    return HttpResponse{.body = "alpha"};
+  });
+  EXPECT_EQ(run({"check"}), exit_status::dropped);
+  EXPECT_THAT(out, HasSubstr(line("drop", 2, "/a") + ": the site was changed, switched off or deleted while"));
+  EXPECT_THAT(out, HasSubstr(line("up  ", 1, "/b") + "\n"));
+  EXPECT_EQ(column(2, "lastChecked"), "NULL");
+
+  folder.execute("update sites set url = '" + server.url("/a") + "' where idSite = 2");
+  EXPECT_EQ(run({"check", "2", "--json"}), exit_status::dropped);
+  const Json result = Json::parse(out).at(0);
+  EXPECT_EQ(result["idSite"], 2);
+  EXPECT_EQ(result["status"], nullptr);
+  EXPECT_EQ(result["dropped"], true);
+
+  folder.execute("update sites set url = '" + server.url("/a") + "' where idSite = 2");
+  server.respond("/b", {.body = "other"});
+  EXPECT_EQ(run({"check"}), exit_status::down) << "which counts more";
+}
+
 TEST_F(CheckVerb, PrintsAnEmptyJsonArrayWhenNothingIsChecked) {
   EXPECT_EQ(run({"check", "--json"}), exit_status::ok);
   EXPECT_EQ(out, "[]\n");

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "engine/sites_to_test.h"
+
+#include <utility>
+
+#include "store/site_table.h"
+
+namespace tarnwick {
+namespace {
+
+void copyRow(const TextTable& from, std::size_t row, TextTable& to) {
+  const std::size_t added = to.addRow();
+  for (std::size_t column = site_column::idSite; column <= site_column::last; ++column) {
+    to.at(column, added) = from.at(column, row);
+  }
+}
+
+/// The row of a site; 0 when it is not in the table.
+std::size_t rowOf(const TextTable& sites, std::int16_t idSite) {
+  const std::string id = std::to_string(idSite);
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    if (sites.at(site_column::idSite, row) == id) {
+      return row;
+    }
+  }
+  return 0;
+}
+
+TextTable withoutRow(const TextTable& sites, std::size_t left) {
+  TextTable others(site_column::last);
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    if (row != left) {
+      copyRow(sites, row, others);
+    }
+  }
+  return others;
+}
+
+}  // namespace
+
+TextTable SitesToTest::choose(std::int16_t mode, bool neverCheckedToo) {
+  TextTable sites = neverCheckedToo ? dueSites_.getSitesDueOrNeverChecked() : dueSites_.getArraySitesActiveTrue(mode);
+  addOwed(sites);
+  if (const std::size_t row = typed_ ? rowOf(sites, *typed_) : 0; row > 0) {
+    owe(*typed_);
+    sites = withoutRow(sites, row);
+  }
+  return sites;
+}
+
+void SitesToTest::addOwed(TextTable& sites) {
+  std::erase_if(owed_, [&](std::int16_t id) {
+    if (rowOf(sites, id) > 0) {
+      return false;
+    }
+    const TextTable stored = dueSites_.asStored(id);
+    const bool active = stored.lastRow() == 1 && SqlValue(stored.at(site_column::active, 1)).toBool();
+    if (active) {
+      copyRow(stored, 1, sites);
+    }
+    return !active;
+  });
+}
+
+std::string SitesToTest::whatWaits() {
+  const NeverChecked waiting = dueSites_.neverChecked();
+  if (waiting.count == 0) {
+    return {};
+  }
+  if (waiting.count == 1 && typed_ && waiting.first == *typed_) {
+    return "Not counting down: site " + std::to_string(waiting.first) + " is still being entered.";
+  }
+  return "Not counting down: " +
+         (waiting.count == 1 ? "site " + std::to_string(waiting.first) + " was"
+                             : std::to_string(waiting.count) + " sites were") +
+         " never checked, and the next Start takes " + (waiting.count == 1 ? "it" : "them") + " on.";
+}
+
+}  // namespace tarnwick

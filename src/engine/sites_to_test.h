@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+
+#include "engine/due_sites.h"
+#include "store/text_table.h"
+
+namespace tarnwick {
+
+/// The sites of the next pass: those that the database chooses, those that an earlier pass of the same run still owes a
+/// check, without the one that is being typed.
+class SitesToTest {
+ public:
+  explicit SitesToTest(DueSites& dueSites) : dueSites_(dueSites) {}
+
+  /// The sites of a pass of `mode` (see `DueSites::getArraySitesActiveTrue`); `neverCheckedToo` adds to the due ones
+  /// those that were never checked. Raises DataAccessError.
+  TextTable choose(std::int16_t mode, bool neverCheckedToo);
+
+  /// The page of a site was dropped, or a pass left it out: it is due at once, whatever the time of its last check.
+  void owe(std::int16_t idSite) { owed_.insert(idSite); }
+  /// It has been checked.
+  void settle(std::int16_t idSite) { owed_.erase(idSite); }
+  void settleAll() { owed_.clear(); }
+  /// Whether a check is owed that can be made now.
+  bool owesAny() const { return owed_.size() > (typed_ && owed_.contains(*typed_) ? 1U : 0U); }
+
+  /// Which site is a record that somebody is still typing, if any.
+  void beingTyped(std::optional<std::int16_t> idSite) { typed_ = idSite; }
+  bool isBeingTyped(std::int16_t idSite) const { return typed_ == idSite; }
+
+  /// Why nothing is due although the countdown has ended, for people: there are active sites that were never checked.
+  /// Empty when there are none.
+  std::string whatWaits();
+
+ private:
+  void addOwed(TextTable& sites);
+
+  DueSites& dueSites_;
+  std::set<std::int16_t> owed_;
+  std::optional<std::int16_t> typed_;
+};
+
+}  // namespace tarnwick
