@@ -49,9 +49,9 @@ std::optional<std::string> SiteReasons::failedFetch(std::int16_t idSite, const S
     return std::nullopt;
   }
   std::string text = cause->toText();
-  // The log may have been switched off since.
-  const bool last =
-      firstFlag(db_, joinSql("select content_runtime = ", inQuotes("11:" + text), " from sites where idSite = ", id));
+  // The log may have been switched off since, or the baseline been changed.
+  const bool last = firstFlag(db_, joinSql("select ", stand.up ? "content_compare" : "content_runtime", " = ",
+                                           inQuotes("11:" + text), " from sites where idSite = ", id));
   return last ? std::optional(std::move(text)) : std::nullopt;
 }
 
@@ -85,12 +85,13 @@ std::string SiteReasons::reasonOf(std::int16_t idSite) {
   return causeOf(result, baseline);
 }
 
-std::set<std::int64_t> SiteReasons::sitesUpByFailure(std::int16_t idSite) {
+std::set<std::int64_t> SiteReasons::sitesNotFetched(std::int16_t idSite) {
   const std::string failed =
       "case when errCode <> 0 then "
-      "(select content_runtime = '11:' || log.errDescription from sites as page where page.idSite = log.idSite) end";
-  std::string sql = joinSql("select idSite from sites where status and lastChecked is not null and ",
-                            newestOf(failed, "lastChecked", "sites.url", "1", "sites.idSite"));
+      "(select case when status then content_compare else content_runtime end = '11:' || log.errDescription from sites "
+      "as page where page.idSite = log.idSite) end";
+  std::string sql = joinSql("select idSite from sites where lastChecked is not null and ",
+                            newestOf(failed, "lastChecked", "sites.url", "sites.status", "sites.idSite"));
   if (idSite > 0) {
     sql += " and idSite = " + sqlQuote(idSite);
   }

@@ -21,9 +21,10 @@ class SiteReasons {
   /// which takes some tenths of a second for the largest ones: to be asked for a site that somebody looks at.
   std::string reasonOf(std::int16_t idSite);
 
-  /// The sites that are up only because the text of a fetch that fails is their baseline: by the log, so there are none
-  /// where none is kept. Reads no page of any other site; only site `idSite` when that is greater than 0.
-  std::set<std::int64_t> sitesUpByFailure(std::int16_t idSite = 0);
+  /// The sites whose last check brought no page: those that are down for want of an answer, and those that are up only
+  /// because the text of such a failure is their baseline. By the log, so there are none where none is kept; no page is
+  /// read. Only site `idSite` when that is greater than 0.
+  std::set<std::int64_t> sitesNotFetched(std::int16_t idSite = 0);
 
  private:
   struct Stand {

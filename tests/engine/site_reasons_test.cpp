@@ -55,11 +55,14 @@ TEST_F(SiteReasonsTest, AFailedFetchIsToldByTheLog) {
   check(1, "page");
   checkFails(1);
   EXPECT_EQ(reasons.reasonOf(1), kRefused);
+  EXPECT_THAT(reasons.sitesNotFetched(), ElementsAre(1));
+  check(1, "other");
+  EXPECT_THAT(reasons.sitesNotFetched(), IsEmpty());
 }
 
 TEST_F(SiteReasonsTest, APageThatBeginsLikeAFailureIsNone) {
   check(1, "11:05");
-  EXPECT_THAT(reasons.sitesUpByFailure(), IsEmpty());
+  EXPECT_THAT(reasons.sitesNotFetched(), IsEmpty());
   check(1, "11:06");
   EXPECT_EQ(reasons.reasonOf(1), R"(line 1: expected "11:05", found "11:06")");
 }
@@ -83,9 +86,9 @@ TEST_F(SiteReasonsTest, AFailureThatBecameTheBaselineIsFound) {
   check(2, "page");
   ASSERT_TRUE(results.getStatus(1));
   EXPECT_EQ(reasons.reasonOf(1), "up: the fetch fails, and its text is the baseline: Refused.");
-  EXPECT_THAT(reasons.sitesUpByFailure(), ElementsAre(1));
-  EXPECT_THAT(reasons.sitesUpByFailure(1), ElementsAre(1));
-  EXPECT_THAT(reasons.sitesUpByFailure(2), IsEmpty());
+  EXPECT_THAT(reasons.sitesNotFetched(), ElementsAre(1));
+  EXPECT_THAT(reasons.sitesNotFetched(1), ElementsAre(1));
+  EXPECT_THAT(reasons.sitesNotFetched(2), IsEmpty());
 }
 
 TEST_F(SiteReasonsTest, AnOlderFailureOfTheLogCountsNoMore) {
@@ -93,7 +96,14 @@ TEST_F(SiteReasonsTest, AnOlderFailureOfTheLogCountsNoMore) {
   folder.execute("update control set clogs = 0");
   results.clearContentCompare(1);
   check(1, "page");
-  EXPECT_THAT(reasons.sitesUpByFailure(), IsEmpty());
+  EXPECT_THAT(reasons.sitesNotFetched(), IsEmpty());
+  EXPECT_EQ(reasons.reasonOf(1), "");
+}
+
+TEST_F(SiteReasonsTest, ABaselineThatWasChangedMeanwhileIsNoFailure) {
+  checkFails(1);
+  results.updateContentCompare(1, "page");
+  EXPECT_THAT(reasons.sitesNotFetched(), IsEmpty());
   EXPECT_EQ(reasons.reasonOf(1), "");
 }
 
@@ -102,18 +112,18 @@ TEST_F(SiteReasonsTest, TheNewestOfADayCounts) {
   results.clearContentCompare(1);
   clock.advance(std::chrono::minutes(10));
   check(1, "page");
-  EXPECT_THAT(reasons.sitesUpByFailure(), IsEmpty());
+  EXPECT_THAT(reasons.sitesNotFetched(), IsEmpty());
   results.clearContentCompare(1);
   clock.advance(std::chrono::minutes(10));
   checkFails(1);
-  EXPECT_THAT(reasons.sitesUpByFailure(), ElementsAre(1));
+  EXPECT_THAT(reasons.sitesNotFetched(), ElementsAre(1));
 }
 
 TEST_F(SiteReasonsTest, ACheckThatEndsAfterMidnightIsFoundToo) {
   clock.setLocal(HandClock::at("2024-05-18 00:00:01"));
   checkFails(1);
   folder.execute("update log set dateStamp = '2024-05-17 23:59:59'");
-  EXPECT_THAT(reasons.sitesUpByFailure(), ElementsAre(1));
+  EXPECT_THAT(reasons.sitesNotFetched(), ElementsAre(1));
   EXPECT_EQ(reasons.reasonOf(1), "up: the fetch fails, and its text is the baseline: Refused.");
 }
 
@@ -129,7 +139,7 @@ TEST_F(SiteReasonsTest, AreReadByTheIndexOfTheDays) {
       "(idSite,url,status,errCode,errDescription,dateStamp) select i % 32767,'http://localhost/' || (i % 32767),1,0,'',"
       "'2024-05-17 11:00:00' from n");
   const auto start = std::chrono::steady_clock::now();
-  EXPECT_THAT(reasons.sitesUpByFailure(), ElementsAre(1));
+  EXPECT_THAT(reasons.sitesNotFetched(), ElementsAre(1));
   const auto time = std::chrono::steady_clock::now() - start;
   EXPECT_LT(time, std::chrono::seconds(3));
 }

@@ -81,9 +81,9 @@ std::vector<SiteFacts> readSiteFacts(m& data, std::int16_t idSite) {
 }
 
 void markThoseWithoutPage(m& data, std::vector<SiteFacts>& sites) {
-  const std::set<std::int64_t> without = data.sitesUpByFailure();
+  const std::set<std::int64_t> without = data.sitesNotFetched();
   for (SiteFacts& facts : sites) {
-    facts.notAPage = without.contains(facts.idSite);
+    facts.notAPage = facts.status == true && without.contains(facts.idSite);
   }
 }
 

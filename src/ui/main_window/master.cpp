@@ -46,6 +46,7 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   resize(kDefaultSize.boundedTo(screen()->availableSize()));
   connectControls();
   setEditors({});
+  controls_.grid1->setReasons([this](std::int16_t idSite) { return reasonOf(idSite); });
   controls_.grid1->setFocus();
 }
 
@@ -178,7 +179,17 @@ void Master::closeEvent(QCloseEvent* event) {
 
 void Master::setCaption(const std::string& caption) { setWindowTitle(QString::fromStdString(caption)); }
 
-void Master::fillGrid() { controls_.grid1->setSites(program_.data().getArraySites(0)); }
+void Master::fillGrid() {
+  controls_.grid1->setSites(program_.data().getArraySites(0), program_.data().sitesNotFetched());
+}
+
+QString Master::reasonOf(std::int16_t idSite) {
+  try {
+    return displayText(program_.data().reasonOf(idSite));
+  } catch (const std::exception&) {
+    return {};
+  }
+}
 
 void Master::showStatus(const std::string& text) { controls_.lStatus->showText(displayText(text)); }
 
@@ -219,6 +230,10 @@ void Master::unbrighten(std::int16_t idSite) {
 void Master::updateGridRow(std::int16_t idSite, bool passed) {
   sites_.updateSite(program_.data().getArraySites(idSite));
   sites_.setResult(idSite, passed);
+}
+
+void Master::showResult(const CheckResult& result) {
+  sites_.setFetched(result.idSite, result.errCode == 0 && result.errDescription.empty());
 }
 
 void Master::setLastChecked(std::int16_t idSite, const std::string& dateTime) {

@@ -52,6 +52,7 @@ class Master final : public QMainWindow, public RunView {
   void brighten(std::int16_t idSite, int amount) override;
   void unbrighten(std::int16_t idSite) override;
   void updateGridRow(std::int16_t idSite, bool passed) override;
+  void showResult(const CheckResult& result) override;
   void setLastChecked(std::int16_t idSite, const std::string& dateTime) override;
 
  protected:
@@ -77,6 +78,8 @@ class Master final : public QMainWindow, public RunView {
   void Label1_Click();
   void imgLogoSmall_Click();
 
+  /// Why a site is down; empty where that cannot be read, which is told elsewhere.
+  QString reasonOf(std::int16_t idSite);
   /// Selects a site and opens its editor.
   void editSite(std::int16_t idSite);
 

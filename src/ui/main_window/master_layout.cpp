@@ -118,6 +118,8 @@ MasterControls layOutMaster(QWidget& canvas, SiteGridModel& sites) {
   // Room for the clock from the start, so that nothing moves when it first shows.
   controls.lClock->setMinimumHeight(controls.lClock->fontMetrics().height());
   controls.lStatus = named(new StatusLine(&canvas), "lStatus", QObject::tr("Status"));
+  controls.lReason = named(new SiteReason(&canvas), "lReason", QString());
+  controls.lReason->follow(*controls.grid1);
   controls.pb1 = named(new PassBar(&canvas), "pb1", QObject::tr("Progress of the test pass"));
   controls.copyright = named(plainLabel(canvas), "copyright", QString());
   controls.copyright->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -129,7 +131,11 @@ MasterControls layOutMaster(QWidget& canvas, SiteGridModel& sites) {
   layout->addLayout(headerOf(controls));
   layout->addLayout(buttonsOf(controls));
   layout->addWidget(controls.grid1, 1);
-  layout->addWidget(controls.lStatus);
+  auto* status = new QHBoxLayout;
+  status->setSpacing(kGroupGap);
+  status->addWidget(controls.lStatus, 1);
+  status->addWidget(controls.lReason);
+  layout->addLayout(status);
   layout->addWidget(controls.pb1);
   layout->addLayout(footOf(controls));
   return controls;

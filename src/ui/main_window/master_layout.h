@@ -11,6 +11,7 @@
 #include "ui/main_window/lamp.h"
 #include "ui/main_window/pass_bar.h"
 #include "ui/main_window/site_grid_view.h"
+#include "ui/main_window/site_reason.h"
 
 namespace tarnwick {
 
@@ -32,6 +33,7 @@ struct MasterControls {
   ActionControls setup;
   SiteGridView* grid1;
   StatusLine* lStatus;
+  SiteReason* lReason;
   PassBar* pb1;
   QLabel* copyright;
   LinkButton* Label1;

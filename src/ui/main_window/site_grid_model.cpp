@@ -35,7 +35,7 @@ SiteGridModel::Row SiteGridModel::readRow(const TextTable& sites, std::size_t ro
   } else if (!status.empty()) {
     shade = status == "True" ? Shade::up : Shade::down;
   }
-  Row read{{}, shade};
+  Row read{{}, shade, true};
   read.cells.reserve(columns_.size());
   for (const SiteColumn& column : columns_) {
     read.cells.push_back(cellOf(sites, column.field, row));
@@ -43,9 +43,16 @@ SiteGridModel::Row SiteGridModel::readRow(const TextTable& sites, std::size_t ro
   return read;
 }
 
-void SiteGridModel::setSites(const TextTable& sites) {
+void SiteGridModel::setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched) {
   beginResetModel();
   const std::size_t count = sites.lastRow();
+  std::unordered_map<std::int16_t, std::string> failed;  // known from the check itself, by its time
+  for (const auto& [id, row] : rowsOfSite_) {
+    Row& before = rows_[static_cast<std::size_t>(row)];
+    if (stateOf(before) == SiteState::noAnswer) {
+      failed.emplace(id, std::move(before.cells[timeColumn]));
+    }
+  }
   rows_.clear();
   rows_.reserve(count);
   rowsOfSite_.clear();
@@ -54,6 +61,9 @@ void SiteGridModel::setSites(const TextTable& sites) {
     rows_.push_back(readRow(sites, row));
     if (const auto id = idOf(rows_.back().cells[idColumn])) {
       rowsOfSite_.emplace(*id, static_cast<int>(row - 1));
+      const auto known = failed.find(*id);
+      rows_.back().fetched =
+          !notFetched.contains(*id) && (known == failed.end() || known->second != rows_.back().cells[timeColumn]);
     }
   }
   endResetModel();
@@ -74,8 +84,16 @@ void SiteGridModel::updateSite(const TextTable& sites) {
   }
   const Row site = readRow(sites, 1);
   if (const auto id = idOf(site.cells[idColumn])) {
-    changeRows(*id, [&](Row& row) { row = site; });
+    changeRows(*id, [&](Row& row) {
+      const bool fetched = row.fetched;
+      row = site;
+      row.fetched = fetched;
+    });
   }
+}
+
+void SiteGridModel::setFetched(std::int16_t idSite, bool fetched) {
+  changeRows(idSite, [&](Row& row) { row.fetched = fetched; });
 }
 
 void SiteGridModel::setResult(std::int16_t idSite, bool passed) {
@@ -154,6 +172,26 @@ QString SiteGridModel::stateText(Shade shade) {
   }
 }
 
+SiteState SiteGridModel::stateOf(const Row& row) {
+  switch (row.shade) {
+    case Shade::up:
+      return row.fetched ? SiteState::up : SiteState::notAPage;
+    case Shade::down:
+      return row.fetched ? SiteState::changed : SiteState::noAnswer;
+    case Shade::inactive:
+      return SiteState::inactive;
+    default:
+      return SiteState::never;
+  }
+}
+
+SiteState SiteGridModel::stateOfRow(int row) const { return stateOf(rows_.at(static_cast<std::size_t>(row))); }
+
+bool SiteGridModel::isMarked(const Row& row) const {
+  const auto id = marks_.empty() ? std::nullopt : idOf(row.cells[idColumn]);
+  return id && marks_.contains(*id);
+}
+
 QColor SiteGridModel::background(const QModelIndex& index) const {
   const Row& row = rows_[static_cast<std::size_t>(index.row())];
   if (!marks_.empty() && index.column() <= urlColumn) {
@@ -182,7 +220,14 @@ QVariant SiteGridModel::data(const QModelIndex& index, int role) const {
       return readableOn(background(index));
     case Qt::TextAlignmentRole:
       return alignmentOf(columns_[static_cast<std::size_t>(index.column())]);
+    case stateRole:
+      return static_cast<int>(stateOf(row));
+    case testingRole:
+      return isMarked(row);
     case Qt::AccessibleTextRole:
+      if (index.column() == idColumn) {
+        return QStringLiteral("%1, %2").arg(displayText(text), wordOf(stateOf(row), isMarked(row)));
+      }
       // The colour's meaning in words, for those who do not see it.
       return index.column() == urlColumn ? QStringLiteral("%1, %2").arg(displayText(text), stateText(row.shade))
                                          : displayText(text);

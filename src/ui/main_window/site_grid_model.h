@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -11,6 +12,7 @@
 
 #include "store/text_table.h"
 #include "ui/main_window/site_columns.h"
+#include "ui/main_window/site_state.h"
 
 namespace tarnwick {
 
@@ -28,10 +30,17 @@ class SiteGridModel final : public QAbstractTableModel {
 
   SiteColumns columns() const { return columns_; }
 
+  /// The roles of the "ID" cell beside the usual ones: a `SiteState`, and whether the site is being tested.
+  enum Role { stateRole = Qt::UserRole, testingRole };
+
   /// Shows the sites of a whole site list in place of what was shown. Marks of sites that are still there stay.
-  void setSites(const TextTable& sites);
+  /// `notFetched` are those whose last check brought no page, as far as that is stored; what `setFetched` told of a
+  /// failed check that is still the last one stays.
+  void setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched = {});
   /// Writes the record of one site, the first of `sites`, into the rows of its id. Nothing when `sites` is empty.
   void updateSite(const TextTable& sites);
+  /// Tells whether the last check of a site brought a page.
+  void setFetched(std::int16_t idSite, bool fetched);
   /// Paints the site's rows for a result; a site that is not active stays grey. Ends its mark.
   void setResult(std::int16_t idSite, bool passed);
   void setLastChecked(std::int16_t idSite, const std::string& dateTime);
@@ -46,6 +55,8 @@ class SiteGridModel final : public QAbstractTableModel {
   std::optional<std::int16_t> siteOfRow(int row) const;
   /// The first row of a site, -1 when it has none.
   int rowOfSite(std::int16_t idSite) const;
+  /// How the site of a row stands.
+  SiteState stateOfRow(int row) const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -58,11 +69,14 @@ class SiteGridModel final : public QAbstractTableModel {
   struct Row {
     std::vector<std::string> cells;  // one a column
     Shade shade = Shade::unjudged;
+    bool fetched = true;  // the last check brought a page
   };
 
   Row readRow(const TextTable& sites, std::size_t row) const;
   static QColor colourOf(Shade shade);
   static QString stateText(Shade shade);
+  static SiteState stateOf(const Row& row);
+  bool isMarked(const Row& row) const;
   QColor background(const QModelIndex& index) const;
   void repaintRow(int row);
   /// Calls `change` with each row of the site and has it painted again.

@@ -1,57 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main_window/site_grid_view.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <QToolTip>
 
 #include "ui/controls/colour_text.h"
+#include "ui/controls/display_text.h"
+#include "ui/main_window/site_row_delegate.h"
 
 namespace tarnwick {
-namespace {
-
-// A selected row keeps the colour of its state: selection is shown by a frame around the row.
-class StateColourDelegate final : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    QStyleOptionViewItem plain = option;
-    plain.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver);
-    QStyledItemDelegate::paint(painter, plain, index);
-    if (option.state.testFlag(QStyle::State_Selected)) {
-      paintFrame(*painter, option, index);
-    }
-  }
-
- private:
-  static void paintFrame(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
-    constexpr int kThickness = 2;
-    const QRect& cell = option.rect;
-    // The grid is white in every theme, so the frame is dark in every theme.
-    const QColor frame = QColor(Qt::black);
-    painter.fillRect(cell.left(), cell.top(), cell.width(), kThickness, frame);
-    painter.fillRect(cell.left(), cell.bottom() + 1 - kThickness, cell.width(), kThickness, frame);
-    if (index.column() == 0) {
-      painter.fillRect(cell.left(), cell.top(), kThickness, cell.height(), frame);
-    }
-    if (index.column() == index.model()->columnCount() - 1) {
-      painter.fillRect(cell.right() + 1 - kThickness, cell.top(), kThickness, cell.height(), frame);
-    }
-  }
-};
-
-}  // namespace
-
 SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(parent), sites_(model) {
   setModel(&model);
-  setItemDelegate(new StateColourDelegate(this));
+  setItemDelegate(new SiteRowDelegate(this));
   setSelectionBehavior(SelectRows);
   setSelectionMode(SingleSelection);
   setEditTriggers(NoEditTriggers);
@@ -130,17 +96,24 @@ void SiteGridView::selectSite(std::int16_t idSite) {
 
 std::optional<std::int16_t> SiteGridView::currentSite() const { return sites_.siteOfRow(currentIndex().row()); }
 
-void SiteGridView::setSites(const TextTable& sites) {
+void SiteGridView::setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched) {
   const auto current = currentSite();
+  const int place = std::max(currentIndex().row(), 0);
   const int scrolled = verticalScrollBar()->value();
-  sites_.setSites(sites);
+  sites_.setSites(sites, notFetched);
   const int row = current ? sites_.rowOfSite(*current) : -1;
-  if (row >= 0) {
-    selectRow(row);
+  if (sites_.rowCount() > 0) {
+    // There is always a row that the keys begin at; where its site is gone, the one that has moved up.
+    selectRow(row >= 0 ? row : std::min(place, sites_.rowCount() - 1));
   }
   // The scroll bar learns of the new rows with the next layout, which must come first.
   updateGeometries();
   verticalScrollBar()->setValue(scrolled);
+}
+
+QString SiteGridView::reasonOf(int row) const {
+  const auto idSite = sites_.siteOfRow(row);
+  return idSite && reasons_ && needsReason(sites_.stateOfRow(row)) ? reasons_(*idSite) : QString();
 }
 
 void SiteGridView::keyPressEvent(QKeyEvent* event) {
@@ -157,7 +130,15 @@ bool SiteGridView::viewportEvent(QEvent* event) {
   if (event->type() == QEvent::MouseMove) {
     followMouse(static_cast<QMouseEvent*>(event)->pos().x());
   } else if (event->type() == QEvent::ToolTip) {
-    showColumnToolTip(static_cast<QHelpEvent*>(event)->globalPos());
+    const auto& help = static_cast<QHelpEvent&>(*event);
+    const QModelIndex cell = indexAt(help.pos());
+    const QString reason =
+        cell.isValid() && cell.column() == SiteGridModel::idColumn ? reasonOf(cell.row()) : QString();
+    if (reason.isEmpty()) {
+      showColumnToolTip(help.globalPos());
+    } else {
+      QToolTip::showText(help.globalPos(), plainToolTip(reason), viewport(), visualRect(cell));
+    }
     return true;
   }
   return QTableView::viewportEvent(event);

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <set>
 #include <QTableView>
 
 #include "ui/main_window/site_grid_model.h"
@@ -26,8 +28,14 @@ class SiteGridView final : public QTableView {
   /// The site whose row is the current one.
   std::optional<std::int16_t> currentSite() const;
 
-  /// Shows `sites` in place of what is shown; the current row and the scroll position stay with their site.
-  void setSites(const TextTable& sites);
+  /// Shows `sites` in place of what is shown (see `SiteGridModel::setSites`); the current row and the scroll position
+  /// stay with their site. Where there is a row, one is current.
+  void setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched = {});
+
+  /// Sets what tells why a site is down; it is asked for the site that somebody looks at, and may take its time.
+  void setReasons(std::function<QString(std::int16_t idSite)> reasons) { reasons_ = std::move(reasons); }
+  /// Why the site of a row is down, or up without a page; empty for all others.
+  QString reasonOf(int row) const;
 
   QSize sizeHint() const override;
 
@@ -48,6 +56,7 @@ class SiteGridView final : public QTableView {
   void showColumnToolTip(const QPoint& globalPosition);
 
   SiteGridModel& sites_;
+  std::function<QString(std::int16_t)> reasons_;
 };
 
 }  // namespace tarnwick

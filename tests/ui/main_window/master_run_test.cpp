@@ -123,6 +123,33 @@ TEST_F(MasterRunTest, NewInAPassLeavesThePassAlone) {
   EXPECT_TRUE(master->program().run().running());
 }
 
+TEST_F(MasterRunTest, TheStatusRowTellsWhyTheSiteOfTheCurrentRowIsDown) {
+  server.respond("/down", {.body = "one\nchanged"});
+  addSite(1, server.url("/down"), ",content_compare", ",'one\noriginal'");
+  folder.execute("update sites set content_compare = 'one' || char(10) || 'original'");
+  addSite(2, "http://127.0.0.1:1/", ",content_compare", ",'page'");
+  addSite(3, "http://127.0.0.1:1/");
+  open();
+  const auto& reason = find<QLabel>("lReason");
+  EXPECT_FALSE(reason.isVisible());
+  click("btnStart");
+  click("btnStop");
+  auto& grid = find<SiteGridView>("grid1");
+  const auto told = [&](std::int16_t idSite, const QString& text) {
+    grid.selectSite(idSite);
+    return waitUntil([&] { return reason.isVisible() && reason.text().startsWith(text); });
+  };
+  EXPECT_TRUE(told(1, QStringLiteral("Site 1: line 2: expected \"original\", found \"changed\"")));
+  EXPECT_EQ(reason.accessibleName(), reason.text());
+  EXPECT_TRUE(told(2, QStringLiteral("Site 2: The connection to 127.0.0.1 port 1 was refused.")));
+  EXPECT_TRUE(told(3, QStringLiteral("Site 3: up: the fetch fails, and its text is the baseline: The connection to")));
+  EXPECT_EQ(colour(2, 0), colourFromText(colours::kUp));
+  EXPECT_EQ(grid.model()->index(2, 0).data(Qt::AccessibleTextRole).toString(), QStringLiteral("3, not a page"));
+  master->fillGrid();  // from what is stored, as after a new start
+  EXPECT_EQ(grid.model()->index(2, 0).data(Qt::AccessibleTextRole).toString(), QStringLiteral("3, not a page"));
+  EXPECT_EQ(grid.model()->index(1, 0).data(Qt::AccessibleTextRole).toString(), QStringLiteral("2, no answer"));
+}
+
 TEST_F(MasterRunTest, ARunWithoutSitesWaits) {
   open();
   click("btnStart");

@@ -102,6 +102,41 @@ TEST_F(SiteGridModelTest, TheStateIsToldInWordsToo) {
   EXPECT_TRUE(model.index(1, 1).data(Qt::AccessibleTextRole).toString().endsWith(QStringLiteral("down")));
 }
 
+TEST_F(SiteGridModelTest, TheNumberOfASiteBearsItsState) {
+  model.setSites(siteTable({{.id = "1", .status = "True"},
+                            {.id = "2", .status = "False"},
+                            {.id = "3", .status = "False"},
+                            {.id = "4", .status = "True"},
+                            {.id = "5", .active = "False", .status = "False"},
+                            {.id = "6"}}),
+                 {3, 4, 5});
+  model.brighten(6, 10);
+  QStringList words;
+  for (int row = 0; row < model.rowCount(); ++row) {
+    EXPECT_EQ(text(row, 0), QString::number(row + 1));
+    words << model.index(row, 0).data(Qt::AccessibleTextRole).toString();
+  }
+  EXPECT_EQ(words.join(QLatin1Char('|')),
+            QStringLiteral("1, up|2, changed|3, no answer|4, not a page|5, not active|6, testing …"));
+  model.unbrighten(6);
+  EXPECT_EQ(model.index(5, 0).data(Qt::AccessibleTextRole).toString(), QStringLiteral("6, never"));
+  // A baseline that is no page keeps its green.
+  expectRowColour(3, kUp);
+}
+
+TEST_F(SiteGridModelTest, WhatACheckToldOfItsFetchStaysUntilTheNextOne) {
+  const SiteCells down{.id = "1", .status = "False", .lastChecked = "2024-02-03 04:05:06"};
+  show({down});
+  EXPECT_EQ(model.stateOfRow(0), SiteState::changed);
+  model.setFetched(1, false);
+  EXPECT_EQ(model.stateOfRow(0), SiteState::noAnswer);
+  model.updateSite(siteTable({down}));
+  show({{.id = "7"}, down});
+  EXPECT_EQ(model.stateOfRow(1), SiteState::noAnswer);
+  show({{.id = "1", .status = "False", .lastChecked = "2024-02-03 04:15:06"}});
+  EXPECT_EQ(model.stateOfRow(0), SiteState::changed);
+}
+
 TEST_F(SiteGridModelTest, BrightenPaintsIdAndUrlOnly) {
   show({{.id = "1", .status = "True"}, {.id = "2", .status = "True"}});
   model.brighten(2, 16);

@@ -4,10 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <QApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 #include "ui/controls/colour_text.h"
 #include "ui/support/site_table.h"
@@ -124,6 +129,77 @@ TEST_F(SiteGridViewTest, ASelectedRowKeepsTheColourOfItsState) {
   // The frame around it tells that it is selected.
   const QRect cell = grid.visualRect(model.index(1, 2));
   EXPECT_NE(picture.pixelColor(cell.center().x(), cell.top()), up);
+}
+
+TEST_F(SiteGridViewTest, AFrameShowsTheCurrentRowFromTheStartAndDashesThatTheFocusIsElsewhere) {
+  show(3);
+  EXPECT_EQ(grid.currentSite(), std::int16_t{1});
+  QLineEdit other;
+  other.show();
+  const auto darkOnTop = [&] {
+    const QImage picture = grid.viewport()->grab().toImage();
+    const QRect cell = grid.visualRect(model.index(0, SiteGridModel::urlColumn));
+    int dark = 0;
+    for (int x = cell.left(); x <= cell.right(); ++x) {
+      dark += picture.pixelColor(x, cell.top()) == QColor(Qt::black) ? 1 : 0;
+    }
+    return 100 * dark / cell.width();
+  };
+  other.activateWindow();
+  other.setFocus();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  EXPECT_GT(darkOnTop(), 40);
+  EXPECT_LT(darkOnTop(), 80);
+  grid.activateWindow();
+  grid.setFocus();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&grid));
+  EXPECT_EQ(darkOnTop(), 100);
+}
+
+TEST_F(SiteGridViewTest, WhereTheCurrentSiteIsGoneTheRowInItsPlaceIsCurrent) {
+  show(3);
+  grid.selectSite(3);
+  show(2);
+  EXPECT_EQ(grid.currentSite(), std::int16_t{2});
+}
+
+TEST_F(SiteGridViewTest, EachStateHasAShapeOfItsOwn) {
+  std::vector<QImage> icons;
+  for (const SiteState state : {SiteState::up, SiteState::changed, SiteState::noAnswer, SiteState::inactive,
+                                SiteState::never, SiteState::notAPage}) {
+    QImage icon(28, 28, QImage::Format_RGB32);
+    icon.fill(Qt::white);
+    QPainter painter(&icon);
+    paintIcon(painter, QRectF(0, 0, 28, 28), state, Qt::black);
+    painter.end();
+    for (const QImage& other : icons) {
+      EXPECT_NE(icon, other);
+    }
+    icons.push_back(icon);
+  }
+}
+
+TEST_F(SiteGridViewTest, TheReasonIsAskedOnlyForTheSiteThatIsLookedAt) {
+  std::vector<int> asked;
+  grid.setReasons([&](std::int16_t idSite) {
+    asked.push_back(idSite);
+    return QStringLiteral("line 6: <b> \"x\"");
+  });
+  grid.setSites(siteTable({{.id = "1", .status = "True"}, {.id = "2", .status = "False"}, {.id = "3"}}));
+  grid.repaint();
+  const auto toolTip = [&](int row, int column) {
+    QHelpEvent help(QEvent::ToolTip, cellCentre(row, column), grid.viewport()->mapToGlobal(cellCentre(row, column)));
+    QApplication::sendEvent(grid.viewport(), &help);
+    return QToolTip::text();
+  };
+  EXPECT_EQ(toolTip(0, 0), QString());
+  EXPECT_EQ(toolTip(2, 0), QString());
+  EXPECT_EQ(asked, std::vector<int>());
+  EXPECT_EQ(toolTip(1, 0), QStringLiteral("<span>line 6: &lt;b&gt; &quot;x&quot;</span>"));
+  EXPECT_EQ(asked, std::vector<int>{2});
+  QTest::mouseMove(grid.viewport(), cellCentre(1, 2));
+  EXPECT_EQ(toolTip(1, 2), QStringLiteral("Method ( get,post )"));
+  EXPECT_EQ(grid.reasonOf(0), QString());
 }
 
 TEST_F(SiteGridViewTest, ARefillKeepsTheCurrentRowAndTheScrollPosition) {

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "ui/main_window/site_reason.h"
+
+#include <QEvent>
+#include <QItemSelectionModel>
+#include <QPainter>
+#include <QStyle>
+
+#include "ui/controls/display_text.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kPause = 80;  // milliseconds
+constexpr int kVerticalPadding = 4;
+
+bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
+
+}  // namespace
+
+SiteReason::SiteReason(QWidget* parent) : QLabel(parent) {
+  setTextFormat(Qt::PlainText);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  setInk();
+  hide();
+  pause_.setSingleShot(true);
+  pause_.setInterval(kPause);
+}
+
+void SiteReason::setInk() {
+  QPalette muted;
+  muted.setColor(QPalette::WindowText, isDark(QGuiApplication::palette()) ? QColor(0xA9AEB4) : QColor(0x555555));
+  setPalette(muted);
+}
+
+void SiteReason::changeEvent(QEvent* event) {
+  QLabel::changeEvent(event);
+  if (event->type() == QEvent::ApplicationPaletteChange) {
+    setInk();
+  }
+}
+
+void SiteReason::follow(SiteGridView& grid) {
+  const auto later = [this] { pause_.start(); };
+  connect(grid.selectionModel(), &QItemSelectionModel::currentRowChanged, this, later);
+  connect(grid.model(), &QAbstractItemModel::modelReset, this, later);
+  connect(grid.model(), &QAbstractItemModel::dataChanged, this,
+          [this, &grid](const QModelIndex& first, const QModelIndex& last) {
+            const int row = grid.currentIndex().row();
+            if (first.row() <= row && row <= last.row()) {
+              pause_.start();
+            }
+          });
+  connect(&pause_, &QTimer::timeout, this, [this, &grid] {
+    const int row = grid.currentIndex().row();
+    const QString reason = row < 0 ? QString() : grid.reasonOf(row);
+    tell(reason.isEmpty()
+             ? reason
+             : tr("Site %1: %2").arg(grid.model()->index(row, SiteGridModel::idColumn).data().toString(), reason));
+  });
+}
+
+void SiteReason::tell(const QString& reason) {
+  if (reason != text()) {
+    setText(reason);
+    setAccessibleName(reason);
+    setToolTip(plainToolTip(reason));
+    setAccessibleDescription(reason);
+    updateGeometry();
+  }
+  setVisible(!reason.isEmpty());
+}
+
+QSize SiteReason::sizeHint() const {
+  // The status stays readable beside it.
+  const int most = parentWidget() == nullptr ? 400 : parentWidget()->width() * 6 / 10;
+  return {std::min(fontMetrics().horizontalAdvance(text()) + 2, most), minimumSizeHint().height()};
+}
+
+QSize SiteReason::minimumSizeHint() const {
+  return {fontMetrics().averageCharWidth() * 20, fontMetrics().height() + kVerticalPadding};
+}
+
+void SiteReason::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+  style()->drawItemText(&painter, contentsRect(), Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, palette(),
+                        isEnabled(), shown, foregroundRole());
+}
+
+}  // namespace tarnwick
