@@ -904,4 +904,42 @@ The database says: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>tarnwick::SiteState</name>
+    <message>
+        <source>testing …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not a page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteReason</name>
+    <message>
+        <source>Site %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

@@ -906,4 +906,42 @@ Die Datenbank sagt: %1</translation>
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>tarnwick::SiteState</name>
+    <message>
+        <source>testing …</source>
+        <translation>prüft …</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>gut</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>k. Antwort</translation>
+    </message>
+    <message>
+        <source>not active</source>
+        <translation>nicht aktiv</translation>
+    </message>
+    <message>
+        <source>not a page</source>
+        <translation>keine Seite</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteReason</name>
+    <message>
+        <source>Site %1: %2</source>
+        <translation>Site %1: %2</translation>
+    </message>
+</context>
 </TS>

@@ -60,7 +60,9 @@ void SiteEditor::editSite(std::int16_t idSite) {
   if (other) {
     populateMe(idSite);
     controls_.tUrl->setFocus();
-    controls_.tUrl->selectAll();
+    // All of it, ready to be typed over, and its beginning to be seen.
+    const auto length = static_cast<int>(controls_.tUrl->text().size());
+    controls_.tUrl->setSelection(length, -length);
   }
   if (isVisible()) {
     bringToFront(*this);
@@ -76,6 +78,7 @@ void SiteEditor::populateMe(std::int16_t idSite) {
   // All that may fail comes first: a form that shows an empty list would store it so.
   const SiteDraft site = readSite(program_.data(), idSite);
   std::vector<PostVar> vars = readPostVars(program_.data(), idSite);
+  showReason(*this, program_.data().reasonOf(idSite));
   idSite_ = idSite;
   controls_.pages->setCurrentIndex(0);
   controls_.options->setSite(idSite);

@@ -8,7 +8,9 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "ui/controls/colour_text.h"
 #include "ui/controls/dialog_parts.h"
+#include "ui/controls/display_text.h"
 #include "ui/controls/prompt_line_edit.h"
 #include "ui/site/site_editor_fields.h"
 
@@ -19,7 +21,7 @@ constexpr std::array<int, 9> kIntervals = {1, 5, 10, 15, 30, 45, 60, 90, 120};
 
 void makeSite(QGroupBox& frame, SiteEditorControls& controls) {
   constexpr int kNarrow = 18;
-  controls.tUrl = addText<ByteLineEdit>(frame, "tUrl", QObject::tr("Url"), 2 * kNarrow);
+  controls.tUrl = addText<ByteLineEdit>(frame, "tUrl", QObject::tr("Url"), 3 * kNarrow);
   controls.tUrl->setText(QStringLiteral("http://"));
   controls.Command9 = addButton(frame, "Command9", QObject::tr("&Visit"), QObject::tr("Open the site in the browser"));
   controls.tUsername = addText<ByteLineEdit>(frame, "tUsername", QObject::tr("Username"), kNarrow);
@@ -79,7 +81,7 @@ void makePostVars(QGroupBox& frame, SiteEditorControls& controls, PostVarModel& 
   grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   grid->horizontalHeader()->setHighlightSections(false);
   grid->setMinimumHeight(grid->fontMetrics().height() * 7);
-  grid->setMinimumWidth(grid->fontMetrics().averageCharWidth() * 44);
+  grid->setMinimumWidth(grid->fontMetrics().averageCharWidth() * 34);
   controls.grid1 = grid;
   auto* name = addText<PromptLineEdit>(frame, "pvName", QObject::tr("Name of the new variable"), 14);
   name->setPrompt(QObject::tr("enter name here"));
@@ -130,6 +132,21 @@ void makeButtons(QGroupBox& frame, SiteEditorControls& controls) {
   }
 }
 
+QLabel* makeReason(QDialog& dialog) {
+  auto* reason = named(new QLabel(&dialog), "lReason", QString());
+  reason->setTextFormat(Qt::PlainText);
+  reason->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  reason->setWordWrap(true);
+  // The red of a row, where it can be read on the window.
+  const QColor red = colourFromText(colours::kDown);
+  const QColor window = reason->palette().color(QPalette::Window);
+  constexpr double kReadable = 4.5;
+  QPalette ink = reason->palette();
+  ink.setColor(QPalette::WindowText, contrastRatio(red, window) >= kReadable ? red : red.lighter(190));
+  reason->setPalette(ink);
+  return reason;
+}
+
 }  // namespace
 
 SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, Program& program) {
@@ -150,7 +167,8 @@ SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, Pro
   frames->addWidget(controls.Frame1, 0, 0);
   frames->addWidget(alerts, 1, 0);
   frames->addWidget(post, 0, 1, 2, 1);
-  frames->setColumnStretch(0, 1);
+  // An address needs more room than the variables, which only some sites have.
+  frames->setColumnStretch(0, 3);
   frames->setColumnStretch(1, 1);
   frames->setRowStretch(0, 1);
 
@@ -162,6 +180,21 @@ SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, Pro
   all->addWidget(controls.pages, 1);
   all->addWidget(control);
   return controls;
+}
+
+void showReason(QDialog& dialog, const std::string& reason) {
+  auto* label = dialog.findChild<QLabel*>(QStringLiteral("lReason"));
+  if (reason.empty()) {
+    delete label;
+    return;
+  }
+  if (label == nullptr) {
+    label = makeReason(dialog);
+    // Below all else, so that nothing moves.
+    dialog.layout()->addWidget(label);
+  }
+  label->setText(displayText(reason));
+  label->setAccessibleName(label->text());
 }
 
 }  // namespace tarnwick

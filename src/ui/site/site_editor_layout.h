@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
 #include <vector>
 #include <QCheckBox>
 #include <QDialog>
@@ -56,5 +57,8 @@ struct SiteEditorControls {
 /// Makes the controls of the site editor and lays them out: on the first page the site with its alerts on the left, the
 /// POST variables on the right; on the second one its options; the buttons below both.
 SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, Program& program);
+
+/// Tells below the editor's controls why its site is down, in a label `lReason`; an empty text takes that away.
+void showReason(QDialog& dialog, const std::string& reason);
 
 }  // namespace tarnwick

@@ -43,6 +43,30 @@ TEST_F(SiteEditorTest, AClickOnARowOpensTheEditorOnThatSite) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return in<QLineEdit>(editor, "tUrl").hasFocus(); }));
 }
 
+TEST_F(SiteEditorTest, ShowsTheBeginningOfALongAddressAndGivesItTheRoom) {
+  addSite(1, "http://one.test/" + std::string(400, 'x'));
+  auto& editor = openEditor();
+  auto& url = in<QLineEdit>(editor, "tUrl");
+  EXPECT_EQ(url.selectedText(), url.text());
+  EXPECT_EQ(url.cursorPosition(), 0);
+  EXPECT_GT(url.width(), 320);
+  EXPECT_LT(in<QTableView>(editor, "grid1").width(), editor.width() * 4 / 10);
+}
+
+TEST_F(SiteEditorTest, TellsWhyTheSiteIsDownWhereItCanBeCopied) {
+  addSite(1, "http://one.test/", ",content_compare,content_runtime,status,lastChecked",
+          ",'old','new',0,'2024-02-03 04:05:06'");
+  addSite(2, "http://two.test/");
+  auto& editor = openEditor();
+  auto& reason = in<QLabel>(editor, "lReason");
+  EXPECT_TRUE(reason.isVisible());
+  EXPECT_EQ(reason.text(), QStringLiteral(R"(line 1: expected "old", found "new")"));
+  EXPECT_EQ(reason.accessibleName(), reason.text());
+  EXPECT_TRUE(reason.textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+  editor.editSite(2);
+  EXPECT_EQ(editor.findChild<QLabel*>(QStringLiteral("lReason")), nullptr);
+}
+
 TEST_F(SiteEditorTest, NewOpensTheEditorOnAFreshRecordWithEmptyFields) {
   openProgram();
   click("btnNew");
