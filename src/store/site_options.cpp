@@ -73,6 +73,19 @@ OptionValues SiteOptions::options(std::int16_t idSite) {
   return values;
 }
 
+std::optional<std::string> takenOption(const std::vector<OptionField>& fields, std::int64_t idSite,
+                                       std::string_view name, std::string_view value) {
+  const auto field = std::ranges::find(fields, name, &OptionField::name);
+  if (field == fields.end() || (idSite != kAllSites && !field->ofSite)) {
+    return std::nullopt;
+  }
+  try {
+    return field->checked(value);
+  } catch (const std::runtime_error&) {
+    return std::nullopt;  // shown as it stands where options are listed
+  }
+}
+
 OptionsInForce readOptions(Database& database, const std::vector<OptionField>& fields) {
   std::map<std::int64_t, OptionValues> values;
   if (!hasTable(database)) {
@@ -81,14 +94,9 @@ OptionsInForce readOptions(Database& database, const std::vector<OptionField>& f
   const auto rows = database.conn().execute("select idSite, name, value from siteOptions", Parameters());
   for (; !rows->eof(); rows->moveNext()) {
     const std::int64_t idSite = rows->field(std::size_t{0}).toInt64();
-    const auto field = std::ranges::find(fields, rows->field(std::size_t{1}).toText(), &OptionField::name);
-    const std::string value = rows->field(std::size_t{2}).toText();
-    try {
-      if (field != fields.end()) {
-        values[idSite].emplace(field->name, field->checked(value));
-      }
-    } catch (const std::runtime_error&) {
-      continue;  // shown as it stands where options are listed
+    const std::string name = rows->field(std::size_t{1}).toText();
+    if (const auto value = takenOption(fields, idSite, name, rows->field(std::size_t{2}).toText())) {
+      values[idSite].emplace(name, *value);
     }
   }
   return OptionsInForce(std::move(values));
@@ -123,7 +131,8 @@ void SiteOptions::storeOptions(std::int16_t idSite, const OptionValues& values) 
 }
 
 void removeOptionsOf(Database& database, std::int16_t idSite) {
-  if (hasTable(database)) {
+  // No site has those for all, also not one that another tool has given this id.
+  if (idSite != kAllSites && hasTable(database)) {
     const std::array<SqlValue, 1> id{SqlValue(std::int64_t{idSite})};
     run(database, "delete from siteOptions where idSite = ?1", id);
   }

@@ -36,8 +36,13 @@ class OptionsInForce {
   std::map<std::int64_t, OptionValues> values_;
 };
 
-/// What is set for each site and for all, as far as the options take it: what another tool may have left under a name,
-/// or as a value, that there is not, counts as not set. Nothing in a list without the table. Raises DataAccessError.
+/// A row of the table as far as the options take it: the value as they write it. Nothing for what another tool may have
+/// left: a name, or a value, that there is not, or a site's own value of an option that there is for all only.
+std::optional<std::string> takenOption(const std::vector<OptionField>& fields, std::int64_t idSite,
+                                       std::string_view name, std::string_view value);
+
+/// What is set for each site and for all, as far as the options take it; all else counts as not set. Nothing in a list
+/// without the table. Raises DataAccessError.
 OptionsInForce readOptions(Database& database, const std::vector<OptionField>& fields = programOptions());
 
 /// Table `siteOptions`: what a site, or all of them, does otherwise than originally. A list without the table, as an

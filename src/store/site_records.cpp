@@ -46,11 +46,11 @@ std::int16_t SiteRecords::addSite() {
 }
 
 void SiteRecords::addSite(std::int16_t idSite) {
-  // Left behind by a program that deleted a site and knew no options.
-  removeOptionsOf(db_, idSite);
   std::string sql(kInsertTemplate);
   sql.replace(sql.find(kIdToken), kIdToken.size(), sqlQuote(idSite));
   db_.execute(std::move(sql));
+  // Left behind by a program that deleted a site and knew no options. Not before the id has turned out to be free.
+  removeOptionsOf(db_, idSite);
 }
 
 void SiteRecords::updateSites(std::int16_t idSite, const std::string& url, const std::string& method, bool active,

@@ -116,14 +116,32 @@ TEST_F(SiteOptionsTest, ANewSiteInheritsNoneOfAnEarlierOneOfItsId) {
   EXPECT_EQ(rows(), "");
 }
 
+TEST_F(SiteOptionsTest, ASiteWhoseIdIsTakenLeavesThatOneItsOptions) {
+  SiteRecords sites(database);
+  sites.addSite(3);
+  options.setOption(3, "loud", "on");
+  EXPECT_THROW(sites.addSite(3), DataAccessError);
+  EXPECT_EQ(rows(), "3|loud|on\n");
+}
+
+TEST_F(SiteOptionsTest, WhatIsSetForAllIsNotThatOfASiteOfTheId0) {
+  options.setOption(kAllSites, "way", "right");
+  SiteRecords sites(database);
+  sites.addSite(0);
+  sites.deleteSite(0);
+  EXPECT_EQ(rows(), "0|way|right\n");
+}
+
 TEST_F(SiteOptionsTest, WhatAnotherToolHasLeftAndNoOptionTakesCountsAsNotSet) {
   folder.execute(
-      "insert into siteOptions values (0, 'limit', 'abc'), (0, 'way', 'RIGHT'), (3, 'way', 'up'), (3, 'loud', ''), "
+      "insert into siteOptions values (0, 'limit', 'abc'), (0, 'way', 'RIGHT'), (3, 'way', 'up'), (3, 'loud', ''), (3, "
+      "'limit', '5'), "
       "(4, 'ofTomorrow', 'x')");
   const OptionsInForce inForce = options.optionsInForce();
   EXPECT_EQ(inForce.valueOf(kAllSites, "limit"), std::nullopt);
   EXPECT_EQ(inForce.valueOf(3, "way"), "right") << "The one for all holds.";
   EXPECT_EQ(inForce.valueOf(3, "loud"), std::nullopt);
+  EXPECT_EQ(inForce.valueOf(3, "limit"), std::nullopt) << "It is for all only.";
   EXPECT_EQ(inForce.valueOf(4, "ofTomorrow"), std::nullopt);
 }
 

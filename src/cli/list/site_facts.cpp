@@ -140,12 +140,13 @@ JsonValue optionsJson(const OptionValues& options) {
 }
 
 OptionValues knownOptions(m& data, std::int16_t idSite) {
-  OptionValues values = data.options(idSite);
-  std::erase_if(values, [&](const auto& value) {
-    return std::ranges::none_of(data.optionFields(),
-                                [&](const OptionField& option) { return option.name == value.first; });
-  });
-  return values;
+  OptionValues known;
+  for (const auto& [name, stored] : data.options(idSite)) {
+    if (auto value = takenOption(data.optionFields(), idSite, name, stored)) {
+      known.emplace(name, std::move(*value));
+    }
+  }
+  return known;
 }
 
 JsonValue postVarsJson(const std::vector<PostVar>& vars) {

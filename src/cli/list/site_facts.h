@@ -44,7 +44,7 @@ JsonValue siteJson(const Fields& fields, const SiteFacts& facts, bool showPasswo
 
 /// Options as JSON, an object of texts.
 JsonValue optionsJson(const OptionValues& options);
-/// What is set of the options that there are, for a site or for all.
+/// What is set for a site, or for all, as far as the options take it: what an import would take.
 OptionValues knownOptions(m& data, std::int16_t idSite);
 
 /// POST variables as JSON, in their order.

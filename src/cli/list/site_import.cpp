@@ -45,6 +45,9 @@ class Planner {
 
   void add(ListedSite site) {
     if (options_.asNew) {
+      if (site.idSite == kAllSites) {
+        return;  // what holds for all sites is no site, and here it holds for those that were there before
+      }
       site.idSite.reset();
     }
     if (site.idSite && !named_.emplace(*site.idSite, site.line).second) {

@@ -13,7 +13,7 @@
 namespace tarnwick {
 
 struct ImportOptions {
-  /// Adds every site of the file as a new one, whatever id it has there.
+  /// Adds every site of the file as a new one, whatever id it has there. What is set for all sites stays.
   bool asNew = false;
   /// Deletes the sites that the file does not name.
   bool replace = false;

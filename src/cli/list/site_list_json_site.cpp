@@ -135,6 +135,23 @@ class JsonSite {
   ListValues values_;
 };
 
+/// Nothing for null, which leaves the option unset, and for what is no value.
+std::optional<std::string> optionText(const std::string& name, const JsonValue& value, ListValues& values) {
+  if (value.isNull()) {
+    return std::nullopt;
+  }
+  if (value.as<JsonValue::Object>() == nullptr && value.asText() == nullptr) {
+    return jsonLine(value);
+  }
+  try {
+    return bytesOfJson(value);
+  } catch (const std::runtime_error&) {
+    values.fault("the option " + quotedForMessage(name) +
+                 R"( is no text: give a string, or {"base64": "..."} for bytes that are no UTF-8)");
+    return std::nullopt;
+  }
+}
+
 }  // namespace
 
 void readOptionsOfJson(const JsonValue& object, const Fields& fields, OptionValues& options, ListValues& values) {
@@ -144,8 +161,9 @@ void readOptionsOfJson(const JsonValue& object, const Fields& fields, OptionValu
     return;
   }
   for (const auto& [name, value] : *members) {
-    const std::string* const text = value.asText();
-    values.option(fields, options, name, text != nullptr ? *text : jsonLine(value));
+    if (const auto text = optionText(name, value, values)) {
+      values.option(fields, options, name, *text);
+    }
   }
 }
 

@@ -75,6 +75,58 @@ TEST_F(OptionVerb, GoesIntoEveryExportAndBack) {
   }
 }
 
+TEST_F(OptionVerb, OfAllStaysWhenTheSitesOfAFileAreAddedAsNewOnes) {
+  for (const std::string format : {"csv", "json"}) {
+    ASSERT_EQ(run({"option", "all", "mailLimit=30"}), exit_status::ok) << err;
+    ASSERT_EQ(run({"option", "1", "adopt=anything"}), exit_status::ok) << err;
+    ASSERT_EQ(run({"export", "-", "--format", format}), exit_status::ok);
+    input = out;
+    ASSERT_EQ(run({"option", "all", "mailLimit=7"}), exit_status::ok) << err;
+    ASSERT_EQ(run({"import", "-", "--format", format, "--as-new"}), exit_status::ok) << err;
+    EXPECT_EQ(out, "1 added, 0 changed, 0 deleted, 0 unchanged.\n");
+    EXPECT_EQ(folder.queryRows("select idSite, name, value from siteOptions order by 1"),
+              "0|mailLimit|7\n1|adopt|anything\n2|adopt|anything\n");
+    folder.execute("delete from sites where idSite > 1; delete from siteOptions");
+  }
+}
+
+TEST_F(OptionVerb, IsExportedOnlyAsAnImportTakesIt) {
+  folder.execute(
+      "insert into siteOptions values (0, 'mailLimit', 'long'), (1, 'mailLimit', '5'), (1, 'adopt', 'what'), "
+      "(0, 'adopt', 'ANYTHING')");
+  for (const std::string format : {"csv", "json"}) {
+    ASSERT_EQ(run({"export", "-", "--format", format}), exit_status::ok);
+    EXPECT_EQ(err, "");
+    input = out;
+    EXPECT_EQ(run({"import", "-", "--format", format}), exit_status::ok) << err;
+    EXPECT_EQ(out, "0 added, 0 changed, 0 deleted, 1 unchanged.\n");
+  }
+}
+
+TEST_F(OptionVerb, KeepsEveryByteOfATextOnItsWayThroughAFile) {
+  fields.options.push_back(
+      {.name = "note", .kind = OptionKind::text, .ofSite = true, .original = "o", .label = "Note", .meaning = "m"});
+  for (const std::string format : {"csv", "json"}) {
+    folder.execute("insert or replace into siteOptions values (1, 'note', cast(x'66fc72' as text))");
+    ASSERT_EQ(run({"export", "-", "--format", format}), exit_status::ok);
+    folder.execute("delete from siteOptions");
+    input = out;
+    EXPECT_EQ(run({"import", "-", "--format", format}), exit_status::ok) << err;
+    EXPECT_EQ(folder.queryText("select hex(value) from siteOptions"), "66FC72") << format;
+  }
+}
+
+TEST_F(OptionVerb, IsATextOrNothingInAnImport) {
+  fields.options.push_back(
+      {.name = "note", .kind = OptionKind::text, .ofSite = true, .original = "o", .label = "Note", .meaning = "m"});
+  input = R"({"tarnwick": 1, "options": {"note": {"base64": "?"}}, "sites": []})";
+  EXPECT_EQ(run({"import", "-", "--format", "json"}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("the option \"note\" is no text"));
+  input = R"({"tarnwick": 1, "options": {"note": null, "mailLimit": 30}, "sites": []})";
+  EXPECT_EQ(run({"import", "-", "--format", "json"}), exit_status::ok) << err;
+  EXPECT_EQ(folder.queryRows("select * from siteOptions"), "0|mailLimit|30\n");
+}
+
 TEST_F(OptionVerb, IsCheckedByAnImport) {
   input = "url,options\nhttp://b/,mailLimit=5\nhttp://c/,adopt=none\nhttp://d/,what=1\n";
   EXPECT_EQ(run({"import", "-", "--format", "csv"}), exit_status::failed);
