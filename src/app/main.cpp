@@ -32,6 +32,5 @@ int main(int argc, char** argv) {
   }
   window.setEditors({.site = tarnwick::siteEditorOf(window.program(), window),
                      .settings = tarnwick::settingsDialogOf(window.program(), window)});
-  window.show();
   return QApplication::exec();
 }

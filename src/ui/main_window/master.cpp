@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main_window/master.h"
 
+#include <chrono>
 #include <exception>
 #include <utility>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDeadlineTimer>
 #include <QDialog>
 #include <QDir>
 #include <QIcon>
 #include <QScreen>
 #include <QShortcut>
+#include <QWindow>
 
 #include "base/product.h"
 #include "ui/controls/display_text.h"
@@ -30,6 +33,17 @@ QString versionText() {
 QString briefly(const QString& folder) {
   const QString home = QDir::toNativeSeparators(QDir::homePath()) + QDir::separator();
   return folder.startsWith(home) ? QLatin1Char('~') + folder.mid(home.size() - 1) : folder;
+}
+
+/// Lets the window appear with what it shows now; nothing is typed or clicked meanwhile. A desktop that does not show
+/// it is not waited for.
+void awaitFirstSight(const QWindow& window) {
+  constexpr std::chrono::milliseconds kLongest{500};
+  const QDeadlineTimer end(kLongest);
+  while (!window.isExposed() && !end.hasExpired()) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 20);
+  }
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 }  // namespace
@@ -53,11 +67,17 @@ Master::Master(std::string programFolder, const Services& services, const Fields
 Master::~Master() = default;
 
 bool Master::load() {
-  return program_.faults().run([this] { Form_Load(); });
+  if (program_.faults().run([this] { Form_Load(); })) {
+    return true;
+  }
+  hide();
+  return false;
 }
 
 void Master::Form_Load() {
   showStatus("Loading ...");
+  show();
+  awaitFirstSight(*windowHandle());
   fullInit();
   tellNotice();
 }
@@ -198,6 +218,12 @@ void Master::indicators(RunState state) {
   controls_.lamps[0]->setLit(state == RunState::stop);
   controls_.lamps[1]->setLit(state == RunState::pause);
   controls_.lamps[2]->setLit(state == RunState::start);
+  if (state == RunState::stop) {
+    // The pass may not come to its end for a long time, when a mail server keeps it waiting.
+    for (const std::int16_t idSite : sites_.marked()) {
+      unbrighten(idSite);
+    }
+  }
 }
 
 void Master::blinkLamps() {

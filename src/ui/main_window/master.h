@@ -33,7 +33,8 @@ class Master final : public QMainWindow, public RunView {
   Master(std::string programFolder, const Services& services, const Fields& fields = programFields());
   ~Master() override;
 
-  /// Starts the program; a failure is shown in one box. False when it failed: there is nothing to show then.
+  /// Shows the window and starts the program; a failure is shown in one box. False when it failed: the window is hidden
+  /// again then.
   bool load();
 
   Program& program() { return program_; }

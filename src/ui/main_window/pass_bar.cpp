@@ -10,7 +10,7 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::int64_t kUnitsPerPixel = 1000;
+constexpr std::int64_t kTwipsPerPixel = 15;
 constexpr int kThickness = 9;
 constexpr int kSmallestWidth = 100;
 
@@ -23,7 +23,7 @@ PassBar::PassBar(QWidget* parent) : QProgressBar(parent) {
 }
 
 std::int64_t PassBar::takeFullWidth() {
-  fullWidth_ = std::max(width(), 1) * kUnitsPerPixel;
+  fullWidth_ = std::max(width(), 1) * kTwipsPerPixel;
   return fullWidth_;
 }
 

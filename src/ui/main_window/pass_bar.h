@@ -6,8 +6,8 @@
 
 namespace tarnwick {
 
-/// The bar under the grid: how much of a pass has been sent. It is measured in thousandths of a pixel, so that a pass
-/// over more sites than the bar has pixels still moves in equal steps.
+/// The bar under the grid: how much of a pass has been sent. It is measured in twips, fifteen to a pixel at
+/// 96 dots per inch: a site's step is a whole number of them, so the bar of a pass over many sites ends before its end.
 class PassBar final : public QProgressBar {
   Q_OBJECT
 

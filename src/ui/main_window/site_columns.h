@@ -13,10 +13,10 @@ struct SiteColumn {
   /// What is told where the mouse stands on the column; null for nothing.
   const char* hint;
   Qt::AlignmentFlag alignment;
-  /// The text that the column is as wide as, when it is first shown; null: it takes the room that the others leave.
+  /// The text that the column is as wide as, when it is first shown; null: it shares the room that the others leave.
   const char* widest;
-  /// How much of that width it gets.
-  int percent;
+  /// Its part of that room, among those who share it; the widest of them takes what a wider window gives. Else 0.
+  int part;
   /// The field of a site table that it shows, one of `site_column`.
   std::size_t field;
 };

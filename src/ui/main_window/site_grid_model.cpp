@@ -122,6 +122,14 @@ void SiteGridModel::unbrighten(std::int16_t idSite) {
   changeRows(idSite, [](Row&) {});
 }
 
+std::vector<std::int16_t> SiteGridModel::marked() const {
+  std::vector<std::int16_t> ids;
+  for (const auto& [id, colour] : marks_) {
+    ids.push_back(id);
+  }
+  return ids;
+}
+
 std::optional<std::int16_t> SiteGridModel::siteOfRow(int row) const {
   if (row < 0 || row >= rowCount()) {
     return std::nullopt;

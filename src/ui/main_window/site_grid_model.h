@@ -51,6 +51,9 @@ class SiteGridModel final : public QAbstractTableModel {
   /// Paints the site's rows in the colour of its status again.
   void unbrighten(std::int16_t idSite);
 
+  /// The sites that are marked.
+  std::vector<std::int16_t> marked() const;
+
   /// The site of a row; nothing beyond the rows, or when the "ID" cell holds no number of 16 bits.
   std::optional<std::int16_t> siteOfRow(int row) const;
   /// The first row of a site, -1 when it has none.

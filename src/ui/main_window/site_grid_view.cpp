@@ -2,6 +2,7 @@
 #include "ui/main_window/site_grid_view.h"
 
 #include <algorithm>
+#include <cmath>
 #include <QApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -51,15 +52,48 @@ void SiteGridView::setUpColumns() {
 
   constexpr int kPadding = 20;
   int section = 0;
+  int widestPart = 0;
   for (const SiteColumn& column : sites_.columns()) {
-    if (column.widest == nullptr) {
-      header.setSectionResizeMode(section, QHeaderView::Stretch);
-    } else {
-      const int width = fontMetrics().horizontalAdvance(QLatin1String(column.widest)) + kPadding;
-      header.resizeSection(section, width * column.percent / 100);
+    if (column.widest != nullptr) {
+      header.resizeSection(section, fontMetrics().horizontalAdvance(QLatin1String(column.widest)) + kPadding);
+    } else if (column.part > widestPart) {
+      widestPart = column.part;
+      stretched_ = section;
     }
     ++section;
   }
+  header.setSectionResizeMode(stretched_, QHeaderView::Stretch);
+  isShared_ = false;
+}
+
+// The room is known when the list is filled and laid out in its window for the first time; from then on one column
+// follows the window.
+void SiteGridView::shareRoom() {
+  if (isShared_ || !isFilled_ || !isVisible()) {
+    return;
+  }
+  QHeaderView& header = *horizontalHeader();
+  int room = viewport()->width();
+  int parts = 0;
+  int section = 0;
+  for (const SiteColumn& column : sites_.columns()) {
+    room -= column.widest != nullptr ? header.sectionSize(section) : 0;
+    parts += column.part;
+    ++section;
+  }
+  section = 0;
+  for (const SiteColumn& column : sites_.columns()) {
+    if (column.widest == nullptr && section != stretched_) {
+      header.resizeSection(section, static_cast<int>(std::lround(static_cast<double>(room) * column.part / parts)));
+    }
+    ++section;
+  }
+  isShared_ = true;
+}
+
+void SiteGridView::showEvent(QShowEvent* event) {
+  QTableView::showEvent(event);
+  shareRoom();
 }
 
 void SiteGridView::setRowHeight() {
@@ -109,6 +143,8 @@ void SiteGridView::setSites(const TextTable& sites, const std::set<std::int64_t>
   // The scroll bar learns of the new rows with the next layout, which must come first.
   updateGeometries();
   verticalScrollBar()->setValue(scrolled);
+  isFilled_ = true;
+  shareRoom();
 }
 
 QString SiteGridView::reasonOf(int row) const {
@@ -162,6 +198,7 @@ void SiteGridView::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange) {
     setUpColumns();
     setRowHeight();
+    shareRoom();
   }
 }
 

@@ -48,15 +48,20 @@ class SiteGridView final : public QTableView {
   bool viewportEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void setUpColumns();
+  void shareRoom();
   void setRowHeight();
   void followMouse(int x);
   void showColumnToolTip(const QPoint& globalPosition);
 
   SiteGridModel& sites_;
   std::function<QString(std::int16_t)> reasons_;
+  int stretched_ = 0;
+  bool isFilled_ = false;
+  bool isShared_ = false;
 };
 
 }  // namespace tarnwick

@@ -19,9 +19,12 @@ namespace {
 
 constexpr std::array<int, 9> kIntervals = {1, 5, 10, 15, 30, 45, 60, 90, 120};
 
+constexpr int kRoomOfAddress = 300;
+
 void makeSite(QGroupBox& frame, SiteEditorControls& controls) {
   constexpr int kNarrow = 18;
-  controls.tUrl = addText<ByteLineEdit>(frame, "tUrl", QObject::tr("Url"), 3 * kNarrow);
+  controls.tUrl = addText<ByteLineEdit>(frame, "tUrl", QObject::tr("Url"), 2 * kNarrow);
+  controls.tUrl->setMinimumWidth(kRoomOfAddress);
   controls.tUrl->setText(QStringLiteral("http://"));
   controls.Command9 = addButton(frame, "Command9", QObject::tr("&Visit"), QObject::tr("Open the site in the browser"));
   controls.tUsername = addText<ByteLineEdit>(frame, "tUsername", QObject::tr("Username"), kNarrow);

@@ -122,6 +122,21 @@ TEST_F(MasterGridTest, ACutRequestPaintsTheStoredStatusAgain) {
   EXPECT_EQ(colour(0, 1), kUp);
 }
 
+// A mail server that keeps silent holds the pass up long after Stop.
+TEST_F(MasterGridTest, StopPaintsEveryMarkedRowAgainBeforeThePassHasEnded) {
+  addSite(3, "http://localhost/a", ",status", ",0");
+  addSite(4, "http://localhost/b", ",status", ",1");
+  open();
+  master->brighten(3, 30);
+  master->brighten(4, 30);
+  folder.execute("update sites set status = 0");
+  master->indicators(RunState::pause);
+  EXPECT_NE(colour(0, 1), kDown);
+  master->indicators(RunState::stop);
+  EXPECT_EQ(colour(0, 1), kDown);
+  EXPECT_EQ(colour(1, 1), kDown);
+}
+
 TEST_F(MasterGridTest, TheTimeOfTheLastTestIsUpdatedAlone) {
   addSite(3, "http://localhost/a");
   open();

@@ -5,6 +5,8 @@
 
 #include <filesystem>
 #include <QDir>
+#include <QEvent>
+#include <QHeaderView>
 #include <QRegularExpression>
 
 #include "ui/controls/colour_text.h"
@@ -42,6 +44,29 @@ TEST_F(MasterTest, AFolderThatIsNotTheProgramsOwnIsNamedAtTheFoot) {
   EXPECT_EQ(master->windowTitle(), QStringLiteral("Tarnwick"));
 }
 
+/// What a label shows whenever it is painted.
+class PaintedTexts final : public QObject {
+ public:
+  explicit PaintedTexts(QLabel& label) { label.installEventFilter(this); }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) {
+      texts << static_cast<QLabel*>(watched)->text();
+    }
+    return false;
+  }
+  QStringList texts;
+};
+
+TEST_F(MasterTest, LoadingIsToBeSeen) {
+  master = std::make_unique<Master>(folder.path(), machine.services());
+  PaintedTexts painted(find<QLabel>("lStatus"));
+  ASSERT_TRUE(master->load());
+  EXPECT_TRUE(master->isVisible());
+  ASSERT_FALSE(painted.texts.isEmpty());
+  EXPECT_EQ(painted.texts.first(), QStringLiteral("Loading ..."));
+  EXPECT_EQ(status(), QStringLiteral("Ready ..."));
+}
+
 TEST_F(MasterTest, TheBarIsFullAtStart) {
   open();
   EXPECT_DOUBLE_EQ(find<PassBar>("pb1").part(), 1.0);
@@ -51,6 +76,7 @@ TEST_F(MasterTest, AMissingDatabaseIsToldInOneBoxAndNotCreated) {
   std::filesystem::remove(folder.databasePath());
   master = std::make_unique<Master>(folder.path(), machine.services());
   EXPECT_FALSE(master->load());
+  EXPECT_FALSE(master->isVisible());
   ASSERT_EQ(machine.prompts.shown().size(), 1U);
   EXPECT_NE(machine.prompts.shown()[0].text.find("tarnwick.mdb"), std::string::npos);
   EXPECT_FALSE(std::filesystem::exists(folder.databasePath()));
@@ -201,6 +227,19 @@ TEST_F(MasterTest, TheGridGrowsWithTheWindow) {
   master->resize(master->size() + QSize(200, 100));
   testing::waitUntil([&] { return find<QWidget>("grid1").size() != before; });
   EXPECT_EQ(find<QWidget>("grid1").size(), before + QSize(200, 100));
+}
+
+TEST_F(MasterTest, TheColumnsHaveTheirSharesOfTheWindow) {
+  addSite(1, "http://localhost/");
+  open();
+  auto& grid = find<SiteGridView>("grid1");
+  const double url = grid.columnWidth(SiteGridModel::urlColumn);
+  EXPECT_NEAR(url / grid.columnWidth(SiteGridModel::upColumn), 7, 0.1);
+  EXPECT_NEAR(
+      static_cast<double>(grid.columnWidth(SiteGridModel::downColumn)) / grid.columnWidth(SiteGridModel::upColumn),
+      1.08, 0.02);
+  EXPECT_EQ(grid.columnWidth(SiteGridModel::idColumn), grid.columnWidth(SiteGridModel::timeColumn));
+  EXPECT_EQ(grid.horizontalHeader()->length(), grid.viewport()->width());
 }
 
 }  // namespace

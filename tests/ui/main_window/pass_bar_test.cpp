@@ -8,10 +8,10 @@
 namespace tarnwick {
 namespace {
 
-TEST(PassBar, IsMeasuredFinerThanPixels) {
+TEST(PassBar, IsMeasuredInTwips) {
   PassBar bar;
-  bar.resize(200, 9);
-  EXPECT_EQ(bar.takeFullWidth(), 200000);
+  bar.resize(489, 9);
+  EXPECT_EQ(bar.takeFullWidth(), 7335);
 }
 
 TEST(PassBar, ShowsThePartOfItsWidth) {
