@@ -34,6 +34,31 @@ FileHandle openWith(const std::string& path, int flags, mode_t rights) {
   return file;
 }
 
+/// Whether the file is that of this opening alone now.
+bool lockAlone(const std::string& path, int descriptor) {
+  if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
+    return true;
+  }
+  if (errno == EWOULDBLOCK) {
+    return false;
+  }
+#ifdef F_OFD_SETLK
+  // A file system that knows none of those may know the locks by which a database is guarded.
+  struct flock whole {};
+  whole.l_type = F_WRLCK;
+  whole.l_whence = SEEK_SET;
+  if (::fcntl(descriptor, F_OFD_SETLK, &whole) == 0) {
+    return true;
+  }
+  if (errno == EAGAIN || errno == EACCES) {
+    return false;
+  }
+#endif
+  const int cause = errno;
+  LocalFiles().remove(path);
+  throw NoFileLocks(path, std::generic_category().message(cause));
+}
+
 /// Whether the open file still has this name.
 bool isAt(const std::string& path, int descriptor) {
   struct stat opened {};
@@ -135,10 +160,7 @@ FileHandle openAlone(const std::string& path) {
   for (;;) {
     FileHandle file = openWith(path, O_RDWR | O_CREAT | O_NOFOLLOW, S_IRUSR | S_IWUSR);
     const int descriptor = fileno(file.get());
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-      if (errno != EWOULDBLOCK) {
-        fail(path, errno);
-      }
+    if (!lockAlone(path, descriptor)) {
       return nullptr;
     }
     // Who had it may have removed it before it was let go.

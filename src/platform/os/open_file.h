@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 
+#include "base/errors.h"
+
 /// Files as the system opens them. The programs that are started meanwhile do not inherit them. Every failure raises
 /// FileError.
 namespace tarnwick {
@@ -27,8 +29,15 @@ FileHandle openFile(const std::string& path, FileUse use);
 /// empty, and nobody else at any moment. A name that is taken, be it by a link, is an error.
 FileHandle openNewFile(const std::string& path, const std::string& like);
 
+/// The file system has no locks.
+class NoFileLocks : public FileError {
+ public:
+  using FileError::FileError;
+};
+
 /// Opens the file, emptied or newly made, for this process and its owner alone, until it is closed or the process ends;
-/// nothing while another one has it so. Where an open file cannot be removed it goes when it is closed.
+/// nothing while another one has it so. Raises NoFileLocks where nobody could be kept out. Where an open file cannot be
+/// removed it goes when it is closed.
 FileHandle openAlone(const std::string& path);
 
 /// Waits until the disk holds what has been written. `path` is for the error.

@@ -86,6 +86,9 @@ class FileRunLock final : public RunLock {
   FileHandle open() const {
     try {
       return openAlone(path_);
+    } catch (const NoFileLocks& error) {
+      throw FileError(path_, "The file system of this folder has no locks (" + error.cause() +
+                                 "), so no run can be started in it. Move the folder to another disk.");
     } catch (const FileError&) {
       if (LocalFiles().exists(path_)) {
         return nullptr;
