@@ -60,9 +60,7 @@ void AlertDispatch::sendAlerts(std::int16_t idSite) {
   const Site site = readSite(idSite);
   const AlertFacts facts = factsOf(site.url, std::to_string(idSite), site.email);
 
-  if (byMail && site.alertEmail) {
-    sendMail(facts, server, from);
-  }
+  mailOutcome_ = byMail && site.alertEmail ? sendMail(facts, server, from) : MailOutcome{};
   // The mail may have taken long: what follows is read as it stands now.
   if (bySound) {
     playWave(settings_.getControl("audio").toText());
@@ -97,18 +95,53 @@ AlertFacts AlertDispatch::factsOf(const std::string& url, const std::string& idS
   return {url, idSite, email, socket.localHostName(), socket.localIP()};
 }
 
-void AlertDispatch::sendMail(const AlertFacts& facts, const std::string& server, const std::string& from) {
+MailOutcome AlertDispatch::sendMail(const AlertFacts& facts, const std::string& server, const std::string& from) {
   const std::string path = db_.programFolder() + "/" + kTemplateFile;
   const std::string body = fillTemplate(textOrNothing(files_, path), facts, services_.clock);
   std::int16_t port = smtpPort_;
   const auto limit = readOptions(db_).valueOf(kAllSites, option_name::mailLimit);
-  const std::unique_ptr<Timer> end = services_.timers.makeTimer([this] { giveUpMail(); });
+  if (limit && tooSlow_.contains(server)) {
+    return {true, true, server,
+            "The mail is left out, since the mail server " + server + " has not taken an earlier one in time."};
+  }
+  bool tookTooLong = false;
+  const std::unique_ptr<Timer> end = services_.timers.makeTimer([this, &tookTooLong] {
+    tookTooLong = true;
+    giveUpMail();
+  });
   mailSocket_.bounded = limit.has_value();
   if (limit) {
     end->setInterval(std::chrono::seconds(std::stoi(*limit)));
     end->setEnabled(true);
   }
-  smtp(mailSocket_, services_.pump).sendEmail(server, facts.email, from, kSubject, body, port);
+  if (smtp(mailSocket_, services_.pump).sendEmail(server, facts.email, from, kSubject, body, port)) {
+    return {};
+  }
+  if (!tookTooLong) {
+    return {true, false, server, whyLost(server)};
+  }
+  if (inPass_) {
+    tooSlow_.insert(server);
+  }
+  return {true, false, server,
+          "The mail server " + server + " has not taken the mail within " + *limit +
+              (*limit == "1" ? " second" : " seconds") +
+              (inPass_ ? "; the other mails of this pass to it are left out." : ".")};
+}
+
+std::string AlertDispatch::whyLost(const std::string& server) const {
+  if (trimmed(server).empty()) {
+    return "No mail server is set, so the mail could not be sent.";
+  }
+  if (services_.pump.closing() || (mailSocket_.bounded && mailSocket_.givenUp)) {
+    return "The mail was given up when the run was stopped.";
+  }
+  return "The mail server " + server + " could not be reached or refused the mail.";
+}
+
+void AlertDispatch::endPass() {
+  inPass_ = false;
+  tooSlow_.clear();
 }
 
 void AlertDispatch::shellProgram(const std::string& command) {

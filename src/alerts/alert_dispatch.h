@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <set>
 #include <string>
 
 #include "alerts/alert_facts.h"
@@ -12,6 +13,14 @@
 #include "store/text_files.h"
 
 namespace tarnwick {
+
+/// What became of the mail of an alert.
+struct MailOutcome {
+  bool lost = false;     ///< there was to be one, and no server has taken it
+  bool leftOut = false;  ///< it was not even tried, since an earlier one of the same pass has lasted too long
+  std::string server{};
+  std::string why{};  ///< for people, when it is lost: a sentence
+};
 
 /// The alerts of a failed site: a mail, a sound, a started program, in this order, as far as the settings switch them
 /// on. Settings, site and template are read afresh for each. What goes wrong with one alert is not reported and does
@@ -33,6 +42,14 @@ class AlertDispatch {
   /// does not want to wait for it.
   void giveUpMail() { mailSocket_.givenUp = true; }
 
+  /// What became of the mail of the latest alert; nothing is lost when it was to send none.
+  const MailOutcome& mailOutcome() const { return mailOutcome_; }
+
+  /// Between these two a mail server that has not taken a mail within `mailLimit` is not asked again: in a pass of many
+  /// failures each would wait as long as the first one.
+  void beginPass() { inPass_ = true; }
+  void endPass();
+
   /// Fills sample facts into `command` and starts it as the program alert would.
   void testShellExecuteAlert(const std::string& command);
 
@@ -48,7 +65,8 @@ class AlertDispatch {
 
   Site readSite(std::int16_t idSite);
   AlertFacts factsOf(const std::string& url, const std::string& idSite, const std::string& email);
-  void sendMail(const AlertFacts& facts, const std::string& server, const std::string& from);
+  MailOutcome sendMail(const AlertFacts& facts, const std::string& server, const std::string& from);
+  std::string whyLost(const std::string& server) const;
   void shellProgram(const std::string& command);
 
   Database& db_;
@@ -57,6 +75,9 @@ class AlertDispatch {
   MailSocket& mailSocket_;
   Services services_;
   std::int16_t smtpPort_;
+  MailOutcome mailOutcome_;
+  bool inPass_ = false;
+  std::set<std::string> tooSlow_;  // mail servers
 };
 
 }  // namespace tarnwick

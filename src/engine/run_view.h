@@ -24,6 +24,16 @@ struct CheckResult {
   std::string_view page{};            ///< the page; of a failed transfer "11:" and the cause
 };
 
+/// The mail of an alert that no server has taken. The texts last for the call that hands them over.
+struct LostMail {
+  std::int16_t idSite = 0;
+  std::string_view url{};
+  std::string_view server{};
+  std::string_view why{};  ///< a sentence
+  /// Not even tried, since the server has not taken an earlier mail of this pass in time, which was told then.
+  bool leftOut = false;
+};
+
 /// What a run shows while it goes on. The main window implements it; so can a terminal, or a test.
 /// All texts are UTF-8. Unless stated otherwise a call is cheap and does not pump events.
 class RunView {
@@ -61,6 +71,8 @@ class RunView {
   /// deleted after its request had been chosen. One that is still active is due at once. `url` is the address that was
   /// asked. A view that shows the list anyhow needs none of it.
   virtual void showDropped(std::int16_t /*idSite*/, const std::string& /*url*/) {}
+  /// Tells that the mail of a site's alert was lost; its result follows.
+  virtual void showLostMail(const LostMail&) {}
   /// Writes a site's "Time Of Last Test" cell.
   virtual void setLastChecked(std::int16_t idSite, const std::string& dateTime) = 0;
 };

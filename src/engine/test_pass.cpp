@@ -30,12 +30,14 @@ constexpr const char* kNoAddress = "The address of the site is empty.";
 TestPass::TestPass(RunController& run, const RunController::Needs& needs, bool& busy, const Debts& debts)
     : run_(run), needs_(needs), busy_(busy), debts_(debts) {
   needs_.view.indicators(RunState::start);
+  needs_.alerts.beginPass();
   busy_ = true;
 }
 
 TestPass::~TestPass() {
   needs_.pool.killAllSockets();
   needs_.pool.tmrInet().setEnabled(false);
+  needs_.alerts.endPass();
   busy_ = false;
   for (const std::int16_t id : brightened_) {
     try {
@@ -247,6 +249,9 @@ void TestPass::alertAndCount(std::size_t row) {
   const std::int16_t id = idSite(row);
   UncountedFailures::Pending failure(debts_.failures, id);
   needs_.alerts.sendAlerts(id);
+  if (const MailOutcome& mail = needs_.alerts.mailOutcome(); mail.lost) {
+    needs_.view.showLostMail({id, url(row), mail.server, mail.why, mail.leftOut});
+  }
   if (!hasAddressAsSelected(row) && !needs_.dueSites.wasChecked(id)) {
     failure.counted();
     return;

@@ -35,6 +35,7 @@ struct Services {
   struct Exchanged {
     FileSystem* files = nullptr;
     SqlConnectionMaker* databases = nullptr;
+    TcpSocketMaker* sockets = nullptr;
     Prompts* prompts = nullptr;
     SoundPlayer* sound = nullptr;
     ProgramStarter* programs = nullptr;
@@ -48,7 +49,7 @@ struct Services {
             .timers = timers,
             .databases = other.databases != nullptr ? *other.databases : databases,
             .transfers = transfers,
-            .sockets = sockets,
+            .sockets = other.sockets != nullptr ? *other.sockets : sockets,
             .prompts = other.prompts != nullptr ? *other.prompts : prompts,
             .sound = other.sound != nullptr ? *other.sound : sound,
             .programs = other.programs != nullptr ? *other.programs : programs,

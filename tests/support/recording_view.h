@@ -36,6 +36,10 @@ class RecordingView final : public RunView {
     }
   }
   void showResult(const CheckResult& result) override { results.emplace_back(result.idSite, result.passed); }
+  void showLostMail(const LostMail& mail) override {
+    lostMails.emplace_back(mail.idSite, mail.leftOut);
+    whyLost.emplace_back(mail.why);
+  }
   void showDropped(std::int16_t idSite, const std::string&) override { dropped.push_back(idSite); }
   void setLastChecked(std::int16_t idSite, const std::string& dateTime) override {
     lastChecked.emplace_back(idSite, dateTime);
@@ -59,6 +63,8 @@ class RecordingView final : public RunView {
   std::vector<std::pair<std::int16_t, bool>> judged;
   std::vector<std::pair<std::int16_t, bool>> results;
   std::vector<std::int16_t> dropped;
+  std::vector<std::pair<std::int16_t, bool>> lostMails;
+  std::vector<std::string> whyLost;
   std::vector<std::pair<std::int16_t, std::string>> lastChecked;
 
   /// Run inside the call that shows a status or a judged row, for tests of what happens in mid-pass.

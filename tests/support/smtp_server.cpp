@@ -62,7 +62,8 @@ class SmtpServer::Impl {
     const std::optional<std::string>& line = script[indexOf(stage)];
     if (line) {
       client->write(line->data(), static_cast<qint64>(line->size()));
-    } else {
+    }
+    if (!line || lastStage == stage) {
       client->disconnectFromHost();
     }
   }
@@ -73,6 +74,7 @@ class SmtpServer::Impl {
   std::array<std::optional<std::string>, kStages> script = {
       "220 mail.example ready\r\n",    "250 sender ok\r\n", "250 recipient ok\r\n",
       "354 go on, end with a dot\r\n", "250 taken\r\n",     "221 bye\r\n"};
+  std::optional<SmtpStage> lastStage;
   std::vector<std::string> commands;
   std::string all;
   std::size_t taken = 0;
@@ -86,6 +88,8 @@ std::uint16_t SmtpServer::port() const { return impl_->server.serverPort(); }
 
 void SmtpServer::reply(SmtpStage stage, const std::string& bytes) { impl_->script[indexOf(stage)] = bytes; }
 void SmtpServer::drop(SmtpStage stage) { impl_->script[indexOf(stage)].reset(); }
+
+void SmtpServer::hangUpAfter(SmtpStage stage) { impl_->lastStage = stage; }
 
 void SmtpServer::say(const std::string& bytes) {
   impl_->client->write(bytes.data(), static_cast<qint64>(bytes.size()));

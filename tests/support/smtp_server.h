@@ -34,6 +34,8 @@ class SmtpServer {
   void reply(SmtpStage stage, const std::string& bytes);
   /// Hangs up at that moment instead of answering.
   void drop(SmtpStage stage);
+  /// Answers as scripted at that moment and hangs up in the same breath.
+  void hangUpAfter(SmtpStage stage);
   /// Sends `bytes` to the client of the latest connection now.
   void say(const std::string& bytes);
 

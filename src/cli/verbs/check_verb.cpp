@@ -69,6 +69,10 @@ class CheckView final : public SilentView {
     }
   }
 
+  void showLostMail(const LostMail& mail) override {
+    console_.complain("Site " + std::to_string(mail.idSite) + ": " + visibleText(mail.why));
+  }
+
   void end() {
     if (json_) {
       array_.end();

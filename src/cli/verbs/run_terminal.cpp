@@ -28,6 +28,10 @@ std::optional<std::int16_t> idOf(const std::string& text) {
   }
 }
 
+std::string leftOutText(std::size_t mails) {
+  return mails == 0 ? "" : "; " + std::to_string(mails) + (mails == 1 ? " mail" : " mails") + " left out";
+}
+
 std::string sitesText(std::size_t count) { return std::to_string(count) + (count == 1 ? " site" : " sites"); }
 
 }  // namespace
@@ -112,6 +116,19 @@ void RunTerminal::showResult(const CheckResult& result) {
        "result", std::move(json));
 }
 
+// A server that takes no mail would be told of with every failure; that others are left out is told with the first.
+void RunTerminal::showLostMail(const LostMail& mail) {
+  pass_.leftOutMails += mail.leftOut ? 1U : 0U;
+  if (!mail.leftOut || style_.verbose || style_.json) {
+    tell("mail " + std::to_string(mail.idSite) + " " + visibleText(mail.url) + ": " + visibleText(mail.why), "lostMail",
+         {{"idSite", mail.idSite},
+          {"url", jsonText(mail.url)},
+          {"server", jsonText(mail.server)},
+          {"leftOut", mail.leftOut},
+          {"cause", jsonText(mail.why)}});
+  }
+}
+
 void RunTerminal::showDropped(std::int16_t idSite, const std::string& url) {
   if (style_.verbose || style_.json) {
     tell("drop " + std::to_string(idSite) + " " + visibleText(url) + ": changed while it was checked", "dropped",
@@ -123,8 +140,8 @@ void RunTerminal::endPass() {
   const Count pass = std::exchange(pass_, {});
   const std::size_t count = pass.up + pass.down;
   if (count > 0) {
-    tell("Checked " + sitesText(count) + ": " + countText(pass.up, pass.down) + ".", "pass",
-         {{"up", pass.up}, {"down", pass.down}});
+    tell("Checked " + sitesText(count) + ": " + countText(pass.up, pass.down) + leftOutText(pass.leftOutMails) + ".",
+         "pass", {{"up", pass.up}, {"down", pass.down}});
     forgetWhatIsNotWatched();
   }
 }

@@ -40,12 +40,14 @@ class RunTerminal final : public SilentView {
   std::int64_t fullProgressWidth() override;
   void setProgressWidth(std::int64_t width) override;
   void showResult(const CheckResult& result) override;
+  void showLostMail(const LostMail& mail) override;
   void showDropped(std::int16_t idSite, const std::string& url) override;
 
  private:
   struct Count {
     std::size_t up = 0;
     std::size_t down = 0;
+    std::size_t leftOutMails = 0;
   };
 
   void begin();

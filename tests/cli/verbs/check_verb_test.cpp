@@ -166,6 +166,14 @@ TEST_F(CheckVerb, SaysThatThePageOfASiteThatWasChangedMeanwhileIsDropped) {
   EXPECT_EQ(run({"check"}), exit_status::down) << "which counts more";
 }
 
+TEST_F(CheckVerb, SaysThatAMailWasLost) {
+  addPage("/a", "alpha");
+  folder.execute("update sites set content_compare = 'other', alertEmail = 1, email = 'a@b.cd'");
+  folder.execute("update control set cemail = 1, smtp = 'no such name'");
+  EXPECT_EQ(run({"check"}), exit_status::down);
+  EXPECT_THAT(err, HasSubstr("Site 1: The mail server no such name could not be reached or refused the mail."));
+}
+
 TEST_F(CheckVerb, PrintsAnEmptyJsonArrayWhenNothingIsChecked) {
   EXPECT_EQ(run({"check", "--json"}), exit_status::ok);
   EXPECT_EQ(out, "[]\n");

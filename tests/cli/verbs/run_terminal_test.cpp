@@ -62,6 +62,21 @@ TEST_F(RunTerminalTest, ForgetsSitesThatAreDeletedOrSwitchedOffMeanwhile) {
   EXPECT_EQ(live(), "1 up, 0 down  Ready");
 }
 
+TEST_F(RunTerminalTest, TellsOfAMailServerThatTakesNoMailOnceInAPass) {
+  m data(folder.path(), machine.services());
+  shown.prepare(data);
+  shown.indicators(RunState::start);
+  for (const std::int16_t id : {std::int16_t{1}, std::int16_t{2}, std::int16_t{3}}) {
+    shown.showLostMail({.idSite = id, .url = "http://a/", .why = "The mail server is dead.", .leftOut = id > 1});
+    shown.showResult({.idSite = id, .url = "http://a/", .errCode = 7, .errDescription = "gone", .page = "11:gone"});
+  }
+  shown.indicators(RunState::pause);
+  const std::string text = written.str();
+  EXPECT_THAT(text, HasSubstr("mail 1 http://a/: The mail server is dead."));
+  EXPECT_EQ(text.find("The mail server is dead."), text.rfind("The mail server is dead."));
+  EXPECT_THAT(text, HasSubstr("Checked 3 sites: 0 up, 3 down; 2 mails left out."));
+}
+
 TEST_F(RunTerminalTest, LeavesOutAnIdThatTheProgramCannotUse) {
   addSite("http://a/");
   folder.execute("insert into sites (idSite,url,active,status) values (70000,'http://b/',1,1)");
