@@ -11,6 +11,7 @@
 #include "cli/terminal/input_file.h"
 #include "cli/terminal/json_text.h"
 #include "cli/verbs/tool.h"
+#include "cli/verbs/unwatched.h"
 #include "cli/verbs/verbs.h"
 
 namespace tarnwick {
@@ -230,6 +231,18 @@ bool mayReplace(Tool& tool, const ImportVerbOptions& options, const std::vector<
                                      ") with their POST variables and baselines?");
 }
 
+/// The sites that it adds, switches on or gives another address.
+std::vector<std::int16_t> takenIn(const ImportPlan& plan) {
+  std::vector<std::int16_t> ids;
+  for (const ImportStep& step : plan.steps) {
+    if (step.action == ImportStep::Action::add ||
+        (step.action == ImportStep::Action::change && (step.fields.has(list_name::url) || step.fields.has("active")))) {
+      ids.push_back(step.idSite);
+    }
+  }
+  return ids;
+}
+
 int importList(Tool& tool, const ImportVerbOptions& options) {
   ListFaults faults;
   std::vector<ListedSite> sites = readList(tool.services().files, options, tool.fields(), faults);
@@ -248,6 +261,7 @@ int importList(Tool& tool, const ImportVerbOptions& options) {
     carryOut(data, plan);
     whole.commit();
     tell(tool.console(), tool.fields(), plan, options);
+    hintAtUnwatched(tool, takenIn(plan));
     return exit_status::ok;
   } catch (const SiteListError& error) {
     complainOf(tool.console(), options.file, error.faults());

@@ -13,6 +13,7 @@
 #include "cli/list/site_list.h"
 #include "cli/terminal/input_file.h"
 #include "cli/terminal/json_text.h"
+#include "cli/verbs/unwatched.h"
 #include "cli/verbs/verbs.h"
 #include "platform/address.h"
 #include "program/site_draft.h"
@@ -130,11 +131,7 @@ int addSite(Tool& tool, const SiteEdit& edit) {
     sayJson(tool.console(), {{"idSite", id}});
   } else {
     tool.console().say(std::to_string(id));
-    if (tool.console().isTerminal() && site.active && !data.optionsInForce().newSitesAtOnce()) {
-      tool.console().complain(
-          "A run that is on takes the site on once it was checked. Check it with: tarnwickctl check " +
-          std::to_string(id));
-    }
+    hintAtUnwatched(tool, {id});
   }
   if (!vars.empty()) {
     hintAtMethod(tool, id);
@@ -165,6 +162,9 @@ int setSite(Tool& tool, const SiteEdit& edit) {
   storeSite(data, edit.idSite, site, newVars.empty() ? readPostVars(data, edit.idSite) : newVars);
   whole.commit();
   tool.console().say("Site " + id + " is changed.");
+  if (edit.active || edit.url) {
+    hintAtUnwatched(tool, {edit.idSite});
+  }
   if (!newVars.empty()) {
     hintAtMethod(tool, edit.idSite);
   }

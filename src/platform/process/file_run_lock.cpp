@@ -12,6 +12,7 @@
 #include "base/errors.h"
 #include "platform/local_files.h"
 #include "platform/os/open_file.h"
+#include "platform/run_lock_file.h"
 
 namespace tarnwick {
 namespace {
@@ -44,7 +45,7 @@ std::string holderIn(const std::string& path) {
 class FileRunLock final : public RunLock {
  public:
   explicit FileRunLock(const std::string& programFolder)
-      : folder_(programFolder), path_(programFolder + "/tarnwick.lock") {}
+      : folder_(programFolder), path_(programFolder + "/" + kRunLockFile) {}
   ~FileRunLock() override { release(); }
   FileRunLock(const FileRunLock&) = delete;
   FileRunLock& operator=(const FileRunLock&) = delete;

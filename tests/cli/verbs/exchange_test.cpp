@@ -191,5 +191,21 @@ TEST_F(ExchangeVerbs, AFileWithoutASiteReplacesTheListOnlyWithConsent) {
   EXPECT_EQ(out, "0 added, 0 changed, 1 deleted, 0 unchanged.\n");
 }
 
+TEST_F(ExchangeVerbs, AnImportTellsWhichSitesARunThatIsOnDoesNotTakeOn) {
+  terminal.isTerminal = true;
+  input = "url,active\nhttp://a/,True\nhttp://b/,True\nhttp://c/,False\n";
+  EXPECT_EQ(run({"import", "-", "--format", "csv"}), exit_status::ok) << err;
+  EXPECT_EQ(err,
+            "tarnwickctl: A run that is on takes 2 of the sites on once they were checked. Check them with: "
+            "tarnwickctl check 1 2\n");
+  input = "idSite,url,tInterval\n1,http://a/,5\n";
+  EXPECT_EQ(run({"import", "-", "--format", "csv"}), exit_status::ok) << err;
+  EXPECT_EQ(err, "") << "as unwatched as before";
+  folder.execute("update sites set lastChecked = '2024-05-17 12:00:00'");
+  input = "url\nhttp://d/\n";
+  EXPECT_EQ(run({"import", "-", "--format", "csv"}), exit_status::ok) << err;
+  EXPECT_THAT(err, HasSubstr("takes the site on once it was checked. Check it with: tarnwickctl check 4\n"));
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

@@ -258,5 +258,34 @@ TEST_F(AddVerb, TellsOnATerminalHowARunTakesTheSiteOn) {
   EXPECT_EQ(err, "");
 }
 
+TEST_F(SetVerb, TellsHowARunTakesOnASiteThatIsSwitchedOnOrMovedAndWasNeverChecked) {
+  const std::string hint =
+      "tarnwickctl: A run that is on takes the site on once it was checked. Check it with: tarnwickctl check 1\n";
+  terminal.isTerminal = true;
+  addSite("http://a/");
+  EXPECT_EQ(run({"set", "1", "--active"}), exit_status::ok);
+  EXPECT_EQ(err, hint);
+  EXPECT_EQ(run({"set", "1", "--url", "http://b/"}), exit_status::ok);
+  EXPECT_EQ(err, hint);
+  EXPECT_EQ(run({"set", "1", "--url", "http://b/", "--inactive"}), exit_status::ok);
+  EXPECT_EQ(err, "");
+  folder.execute("update sites set lastChecked = '2024-05-17 12:00:00'");
+  EXPECT_EQ(run({"set", "1", "--active"}), exit_status::ok);
+  EXPECT_EQ(err, "") << "its time tells when it is due";
+}
+
+TEST_F(SetVerb, TellsItWhereNobodyReadsAlongOnlyWhileARunIsOn) {
+  addSite("http://a/");
+  EXPECT_EQ(run({"set", "1", "--active"}), exit_status::ok);
+  EXPECT_EQ(err, "");
+  const auto lock = machine.runLocks.makeRunLock(folder.path());
+  lock->take();
+  EXPECT_EQ(run({"set", "1", "--active"}), exit_status::ok);
+  EXPECT_THAT(err, HasSubstr("Check it with: tarnwickctl check 1\n"));
+  ASSERT_EQ(run({"option", "all", "newSites=at once"}), exit_status::ok);
+  EXPECT_EQ(run({"set", "1", "--active"}), exit_status::ok);
+  EXPECT_EQ(err, "");
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

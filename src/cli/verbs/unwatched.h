@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "cli/verbs/tool.h"
+
+namespace tarnwick {
+
+/// Complains when a run that is on would not take on some of the sites that have just been added or changed: the active
+/// ones that were never checked, unless the option `newSites` lets it. Where nobody reads along, on no terminal, it does
+/// so only while a run seems to be on.
+void hintAtUnwatched(Tool& tool, const std::vector<std::int16_t>& changed);
+
+}  // namespace tarnwick
