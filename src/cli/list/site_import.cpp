@@ -54,7 +54,9 @@ class Planner {
       faults_.add(site.line, "idSite " + std::to_string(*site.idSite) + " stands on line " +
                                  std::to_string(named_.at(*site.idSite)) +
                                  " already: give each site an id of its own, or none to add it as a new one");
-      check(site);
+      if (site.idSite != kAllSites) {
+        check(site);
+      }
       return;
     }
     if (site.idSite == kAllSites) {

@@ -133,6 +133,10 @@ void ListValues::option(const Fields& fields, OptionValues& options, std::string
     fault("there is no option " + quotedForMessage(name) + ": they are listed by tarnwickctl option --help");
     return;
   }
+  if (options.contains(option->name)) {
+    fault("the option " + option->name + " is given twice: leave one of them out");
+    return;
+  }
   try {
     options[option->name] = option->checked(text);
   } catch (const std::runtime_error&) {

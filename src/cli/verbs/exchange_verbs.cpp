@@ -119,7 +119,11 @@ int exportList(Tool& tool, const ExportOptions& options) {
     }
     return exit_status::ok;
   }
-  tool.data();  // a folder without a list is told before anything is made
+  // Also a folder without a list is told before anything is made.
+  if (tool.services().files.isSameFile(options.file, tool.data().database().dbPath())) {
+    throw std::runtime_error("The file \"" + visibleText(options.file) +
+                             "\" is the list itself. Export to a file of another name.");
+  }
   std::size_t count = 0;
   tool.services().files.writePrivately(options.file,
                                        [&](const ByteSink& sink) { count = writeList(tool, format, columns, sink); });

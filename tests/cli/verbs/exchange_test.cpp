@@ -100,6 +100,16 @@ TEST_F(ExchangeVerbs, OnlyTheOwnerMayReadTheFile) {
   EXPECT_THAT(read(path), HasSubstr("http://a/"));
 }
 
+TEST_F(ExchangeVerbs, TheListItselfIsNoFileToExportTo) {
+  addSite("http://a/");
+  std::filesystem::create_hard_link(folder.databasePath(), folder.file("list.json"));
+  for (const std::string& path : {folder.databasePath(), folder.file("list.json"), folder.file("./tarnwick.mdb")}) {
+    EXPECT_EQ(run({"export", path, "--format", "json"}), exit_status::failed) << path;
+    EXPECT_THAT(err, HasSubstr("is the list itself"));
+  }
+  EXPECT_EQ(folder.queryText("select url from sites"), "http://a/");
+}
+
 TEST_F(ExchangeVerbs, AFileBehindALinkIsReplacedWhereItLies) {
   SKIP_ON_WINDOWS("There a link needs rights that a tester seldom has.");
   addSite("http://a/");

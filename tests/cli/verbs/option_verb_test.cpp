@@ -127,6 +127,21 @@ TEST_F(OptionVerb, IsATextOrNothingInAnImport) {
   EXPECT_EQ(folder.queryRows("select * from siteOptions"), "0|mailLimit|30\n");
 }
 
+TEST_F(OptionVerb, IsGivenOnceInAnImport) {
+  input = "idSite,url,options\n0,,mailLimit=5&MAILLIMIT=6\n";
+  EXPECT_EQ(run({"import", "-", "--format", "csv"}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("line 2: the option mailLimit is given twice"));
+  input = R"({"tarnwick": 1, "options": {"mailLimit": 5, "MailLimit": 6}, "sites": []})";
+  EXPECT_EQ(run({"import", "-", "--format", "json"}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("line 1: the option mailLimit is given twice"));
+  input = "idSite,url,options\n0,,mailLimit=5\n0,,mailLimit=6\n";
+  EXPECT_EQ(run({"import", "-", "--format", "csv"}), exit_status::failed);
+  EXPECT_EQ(err,
+            "tarnwickctl: standard input, line 3: idSite 0 stands on line 2 already: give each site an id of its own, "
+            "or none to add it as a new one.\ntarnwickctl: Nothing was imported.\n");
+  EXPECT_EQ(folder.queryRows("select * from siteOptions"), "");
+}
+
 TEST_F(OptionVerb, IsCheckedByAnImport) {
   input = "url,options\nhttp://b/,mailLimit=5\nhttp://c/,adopt=none\nhttp://d/,what=1\n";
   EXPECT_EQ(run({"import", "-", "--format", "csv"}), exit_status::failed);
