@@ -52,7 +52,7 @@ CREATE TABLE control (
   smtp TEXT,
   audio TEXT,
   program TEXT,
-  timeout INTEGER CONSTRAINT "timeout takes a whole number" CHECK (typeof(timeout) IN ('integer', 'null')),
+  timeout INTEGER CONSTRAINT "timeout takes a whole number" CHECK (typeof(timeout) IN ('integer', 'null') OR timeout = ''),
   clogs YESNO,
   creports YESNO,
   cemail YESNO,

@@ -4,6 +4,22 @@
 <context>
     <name>QObject</name>
     <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s stored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stored TCP Timeout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK stores no time-out while none is selected; a fetch may then take %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This page is stored in the Windows-1252 character set, which has no &quot;%1&quot;. Delete the character that is selected now or type another one, then press OK again.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -642,12 +658,6 @@
     <name>tarnwick::ControlDialog</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No TCP Timeout is selected. Select one in the list, then press OK again; nothing was stored yet.
-
-The database says: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -4,6 +4,22 @@
 <context>
     <name>QObject</name>
     <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 s stored</source>
+        <translation>%1 s gespeichert</translation>
+    </message>
+    <message>
+        <source>Stored TCP Timeout</source>
+        <translation>Gespeicherter TCP Timeout</translation>
+    </message>
+    <message>
+        <source>OK stores no time-out while none is selected; a fetch may then take %1</source>
+        <translation>OK speichert kein Zeitlimit, solange keines ausgewählt ist; ein Abruf darf dann %1 dauern</translation>
+    </message>
+    <message>
         <source>This page is stored in the Windows-1252 character set, which has no &quot;%1&quot;. Delete the character that is selected now or type another one, then press OK again.</source>
         <translation>Diese Seite ist im Zeichensatz Windows-1252 gespeichert, in dem es „%1“ nicht gibt. Löschen Sie das jetzt markierte Zeichen oder geben Sie ein anderes ein und drücken Sie noch einmal OK.</translation>
     </message>
@@ -643,14 +659,6 @@
     <message>
         <source>Settings</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No TCP Timeout is selected. Select one in the list, then press OK again; nothing was stored yet.
-
-The database says: %1</source>
-        <translation>Es ist kein TCP Timeout ausgewählt. Wählen Sie einen in der Liste aus und drücken Sie noch einmal OK; gespeichert wurde noch nichts.
-
-Die Datenbank sagt: %1</translation>
     </message>
     <message>
         <source>In Progress ...</source>

@@ -32,5 +32,6 @@ int main(int argc, char** argv) {
   }
   window.setEditors({.site = tarnwick::siteEditorOf(window.program(), window),
                      .settings = tarnwick::settingsDialogOf(window.program(), window)});
-  return QApplication::exec();
+  // It may have been closed while it loaded.
+  return window.isVisible() ? QApplication::exec() : EXIT_SUCCESS;
 }

@@ -11,11 +11,11 @@
 namespace tarnwick {
 namespace {
 
-/// Yes/no settings go into the statement bare, all others quoted; the database makes a number of a quoted number.
-std::string_view delimiterOf(const Fields& fields, const std::string& key) {
+/// What kind of setting `key` is; a text where it is none of the program's own.
+FieldKind kindOf(const Fields& fields, const std::string& key) {
   const auto field = std::ranges::find_if(
       fields.settings, [&](const SettingField& setting) { return equalsIgnoringCase(setting.name, key); });
-  return field != fields.settings.end() && field->kind == FieldKind::flag ? "" : "'";
+  return field != fields.settings.end() ? field->kind : FieldKind::text;
 }
 
 }  // namespace
@@ -26,8 +26,21 @@ SqlValue SettingsAndLog::getControl(const std::string& key) {
 }
 
 void SettingsAndLog::writeControl(const std::string& key, const std::string& quotedValue) {
-  const std::string_view delimiter = delimiterOf(fields_, key);
-  db_.execute(joinSql("update control set ", sqlQuote(key), " = ", delimiter, quotedValue, delimiter, " where id = 1"));
+  const FieldKind kind = kindOf(fields_, key);
+  // Yes/no settings go into the statement bare, all others quoted; the database makes a number of a quoted number.
+  const std::string_view delimiter = kind == FieldKind::flag ? "" : "'";
+  const auto write = [&](std::string_view around, std::string_view value) {
+    db_.execute(joinSql("update control set ", sqlQuote(key), " = ", around, value, around, " where id = 1"));
+  };
+  try {
+    write(delimiter, quotedValue);
+  } catch (const DataAccessError&) {
+    if (kind != FieldKind::seconds || !quotedValue.empty()) {
+      throw;
+    }
+    // A list that was laid down by an older program takes no empty text for a number; a Null counts for the same.
+    write("", "null");
+  }
 }
 
 void SettingsAndLog::storeSettings(const std::vector<Setting>& settings) {

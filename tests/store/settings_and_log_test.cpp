@@ -84,11 +84,28 @@ TEST_F(SettingsTest, MissingColumnIsADataAccessError) {
 
 TEST_F(SettingsTest, TimeoutThatIsNoNumberIsRefusedAndTheStoredOneKept) {
   settings.setControl("timeout", "45");
-  for (const std::string text : {"", "soon", "4 5"}) {
+  for (const std::string text : {"soon", "4 5"}) {
     EXPECT_THAT(errorOf<DataAccessError>([&] { settings.setControl("timeout", text); }),
                 HasSubstr("timeout takes a whole"));
     EXPECT_EQ(settings.requestTimeout(), 45s) << text;
   }
+}
+
+TEST_F(SettingsTest, AnEmptyTimeoutIsStoredAndCountsAs60Seconds) {
+  arrange("email = 'old', timeout = 25");
+  settings.storeSettings({{"email", "new"}, {"timeout", ""}});
+  EXPECT_EQ(folder.queryRows("select email, typeof(timeout), timeout from control"), "new|text|\n");
+  EXPECT_EQ(settings.getControl("timeout"), SqlValue(std::string()));
+  EXPECT_EQ(settings.requestTimeout(), 60s);
+}
+
+TEST_F(SettingsTest, AnOlderListKeepsANullForAnEmptyTimeout) {
+  folder.execute("alter table control drop column timeout");
+  folder.execute("alter table control add column timeout INTEGER check (typeof(timeout) in ('integer', 'null'))");
+  arrange("timeout = 25");
+  settings.storeSettings({{"email", "new"}, {"timeout", ""}});
+  EXPECT_EQ(folder.queryRows("select email, timeout is null from control"), "new|1\n");
+  EXPECT_EQ(settings.requestTimeout(), 60s);
 }
 
 TEST_F(SettingsTest, SeveralSettingsAreWrittenInTheirOrderAsOneWhole) {
@@ -103,8 +120,8 @@ TEST_F(SettingsTest, SeveralSettingsAreWrittenInTheirOrderAsOneWhole) {
 
 TEST_F(SettingsTest, ARefusedSettingIsNamedAndKeepsAllOthersFromBeingStored) {
   arrange("email = 'old', timeout = 45, cemail = 0");
-  const auto store = [&] { settings.storeSettings({{"email", "new"}, {"timeout", ""}, {"cEmail", true}}); };
-  EXPECT_THAT(errorOf<DataAccessError>(store), HasSubstr("timeout takes a whole number; '' was not stored"));
+  const auto store = [&] { settings.storeSettings({{"email", "new"}, {"timeout", "soon"}, {"cEmail", true}}); };
+  EXPECT_THAT(errorOf<DataAccessError>(store), HasSubstr("timeout takes a whole number; 'soon' was not stored"));
   try {
     store();
   } catch (const SettingRefused& refused) {

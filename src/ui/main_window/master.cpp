@@ -67,15 +67,19 @@ Master::Master(std::string programFolder, const Services& services, const Fields
 Master::~Master() = default;
 
 bool Master::load() {
-  if (program_.faults().run([this] { Form_Load(); })) {
-    return true;
-  }
-  hide();
-  return false;
+  return program_.faults().run([this] {
+    try {
+      Form_Load();
+    } catch (...) {
+      hide();
+      throw;
+    }
+  });
 }
 
 void Master::Form_Load() {
   showStatus("Loading ...");
+  program_.data();  // without which there is nothing to show
   show();
   awaitFirstSight(*windowHandle());
   fullInit();

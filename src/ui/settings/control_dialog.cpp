@@ -15,8 +15,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr const char* kTimeoutKey = "timeout";
-
 constexpr const char* kAudioFiles = "Audio Files (*.wav)|*.wav";
 constexpr const char* kProgramFiles = "Program Files (*.exe;*.bat;*.vbs)|*.exe;*.bat;*.vbs";
 
@@ -91,6 +89,7 @@ void ControlDialog::populateMe() {
     const bool flag = qobject_cast<QCheckBox*>(setting.widget) != nullptr;
     setting.show(flag ? FieldValue(stored.toBool()) : FieldValue(stored.toText()));
   }
+  tellStoredTimeout(controls_, displayText(program_.data().getControl("timeout").toText()));
 }
 
 void ControlDialog::bringUp() {
@@ -117,12 +116,6 @@ void ControlDialog::storeSettings() {
   } catch (const SettingRefused& refused) {
     const auto control = std::ranges::find(controls_.settings, refused.key(), &FieldControl::field);
     turnTo(*control->widget);
-    if (refused.key() == kTimeoutKey && !control->value()) {
-      const QString remedy =
-          tr("No TCP Timeout is selected. Select one in the list, then press OK again; nothing was stored yet.\n\nThe "
-             "database says: %1");
-      throw std::runtime_error(remedy.arg(displayText(refused.cause())).toStdString());
-    }
     throw;
   }
 }

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "platform/transfer_control.h"
 #include "ui/controls/dialog_parts.h"
 
 namespace tarnwick {
@@ -92,6 +93,12 @@ std::vector<QPushButton*> makeFileButtons(QGroupBox& frame, const FieldLook& loo
   return {};
 }
 
+QLabel* makeStatus(QGroupBox& frame, const char* name, const QString& caption, const QString& accessibleName) {
+  auto* status = named(new QLabel(caption, &frame), name, accessibleName);
+  status->setTextFormat(Qt::PlainText);
+  return status;
+}
+
 // Texts one below the other, and the list of time-outs on their right; the flags go into `foot`.
 QLayout* makeSettings(QGroupBox& frame, const std::vector<SettingField>& settings, ControlDialogControls& controls,
                       QLayout& foot) {
@@ -122,6 +129,9 @@ QLayout* makeSettings(QGroupBox& frame, const std::vector<SettingField>& setting
     ++row;
   }
   fields->addWidget(controls.lbInterval, 1, kColumnOfList, row, 1);
+  controls.lblTimeout = makeStatus(frame, "lblTimeout", QString(), QObject::tr("Stored TCP Timeout"));
+  controls.lblTimeout->hide();
+  fields->addWidget(controls.lblTimeout, row + 1, kColumnOfList);
   fields->setColumnMinimumWidth(kColumnOfList - 1, kGap);
   fields->setColumnStretch(1, 1);
   fields->setRowStretch(row, 1);
@@ -145,12 +155,6 @@ void makeConfiguration(QGroupBox& frame, const std::vector<SettingField>& settin
   foot->addWidget(controls.Command2);
   // The list stands on the right of all texts, and so comes after them.
   QWidget::setTabOrder(controls.Command8, controls.lbInterval);
-}
-
-QLabel* makeStatus(QGroupBox& frame, const char* name, const QString& caption, const QString& accessibleName) {
-  auto* status = named(new QLabel(caption, &frame), name, accessibleName);
-  status->setTextFormat(Qt::PlainText);
-  return status;
 }
 
 void makeAdministration(QGroupBox& frame, ControlDialogControls& controls) {
@@ -207,6 +211,18 @@ ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program) {
   auto* all = new QVBoxLayout(&dialog);
   all->addWidget(controls.pages);
   return controls;
+}
+
+void tellStoredTimeout(const ControlDialogControls& controls, const QString& stored) {
+  QListWidget& list = *controls.lbInterval;
+  QLabel& label = *controls.lblTimeout;
+  const QString holds = QObject::tr("%1 s").arg(kDefaultRequestTimeout.count());
+  label.setText(stored.isEmpty() ? holds : QObject::tr("%1 s stored").arg(stored));
+  label.setAccessibleName(label.text());
+  label.setToolTip(QObject::tr("OK stores no time-out while none is selected; a fetch may then take %1").arg(holds));
+  const auto tell = [&list, &label] { label.setVisible(list.selectedItems().isEmpty()); };
+  QObject::connect(&list, &QListWidget::itemSelectionChanged, &label, tell);
+  tell();
 }
 
 }  // namespace tarnwick

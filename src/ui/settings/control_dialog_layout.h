@@ -25,6 +25,7 @@ struct ControlDialogControls {
   QPushButton* Command9;  ///< Browse for a program
   QPushButton* Command8;  ///< Test the program
   QListWidget* lbInterval;
+  QLabel* lblTimeout;     ///< what is stored, or holds, while no time-out is selected
   QPushButton* Command1;  ///< OK
   QPushButton* Command2;  ///< Cancel
 
@@ -44,5 +45,8 @@ struct ControlDialogControls {
 /// Makes the controls of the settings dialog and lays them out: on the first page the settings with OK and Cancel at
 /// the top, the administration functions below; on the second one the options for all sites.
 ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program);
+
+/// Tells under the list of time-outs, while none is selected, what is stored; where that is nothing, what holds.
+void tellStoredTimeout(const ControlDialogControls& controls, const QString& stored);
 
 }  // namespace tarnwick

@@ -64,10 +64,10 @@ TEST_F(SqliteValues, AQuotedNumberIsANumberInANumberColumn) {
 
 TEST_F(SqliteValues, AnEmptyTextIsNoNumberAndIsNotStored) {
   try {
-    database_.run("update control set timeout = '' where id = 1");
+    database_.run("update sites set tInterval = '' where idSite = 1");
     FAIL() << "stored";
   } catch (const DataAccessError& error) {
-    EXPECT_EQ(error.cause(), "timeout takes a whole number; '' was not stored.");
+    EXPECT_EQ(error.cause(), "tInterval takes a whole number; '' was not stored.");
   }
   EXPECT_EQ(database_.value("select timeout from control"), SqlValue(std::int64_t{30}));
 }

@@ -161,24 +161,24 @@ TEST_F(ControlDialogTest, WhatWasNotEditedIsStoredByteForByte) {
   EXPECT_EQ(folder.queryText("select hex(email) || '/' || audio from control"), "66FC72/ 007 ");
 }
 
-TEST_F(ControlDialogTest, ATimeoutWithoutASelectionIsRefusedAndNothingIsStored) {
+TEST_F(ControlDialogTest, ATimeoutThatIsNotInTheListIsToldBesideItAndStoredAsNone) {
   arrange("email = 'old', timeout = 25");
-  const std::string before = stored();
-  auto& dialog = openSettings();
-  type(dialog, "tEmail", "new");
-  tick(dialog, "cEmail");
-  press(dialog, "Command1");
-  EXPECT_EQ(stored(), before);
-  ASSERT_EQ(machine.prompts.shown().size(), 1U);
-  EXPECT_THAT(machine.prompts.shown()[0].text, HasSubstr("TCP Timeout"));
-  EXPECT_THAT(machine.prompts.shown()[0].text, HasSubstr("timeout takes a whole number; '' was not stored"));
-  ASSERT_TRUE(dialog.isVisible());
-  EXPECT_EQ(text(dialog, "tEmail"), "new");
-  EXPECT_TRUE(ticked(dialog, "cEmail"));
-  EXPECT_EQ(dialog.focusWidget(), &timeouts(dialog));
-  chooseTimeout(dialog, 0);
-  press(dialog, "Command1");
-  EXPECT_EQ(folder.queryRows("select email, timeout, cemail from control"), "new|1|1\n");
+  {
+    auto& dialog = openSettings();
+    EXPECT_TRUE(in<QLabel>(dialog, "lblTimeout").isVisible());
+    EXPECT_EQ(in<QLabel>(dialog, "lblTimeout").text(), QStringLiteral("25 s stored"));
+    type(dialog, "tEmail", "new");
+    press(dialog, "Command1");
+    EXPECT_FALSE(dialog.isVisible());
+  }
+  EXPECT_TRUE(machine.prompts.shown().empty());
+  EXPECT_EQ(folder.queryRows("select email, timeout = '' from control"), "new|1\n");
+  EXPECT_EQ(master->program().data().requestTimeout(), std::chrono::seconds(60));
+  click("btnSetup");
+  auto& again = opened<ControlDialog>();
+  EXPECT_EQ(in<QLabel>(again, "lblTimeout").text(), QStringLiteral("60 s"));
+  chooseTimeout(again, 0);
+  EXPECT_FALSE(in<QLabel>(again, "lblTimeout").isVisible());
 }
 
 TEST_F(ControlDialogTest, PassingTheListWithTheTabKeySelectsNothing) {
@@ -189,7 +189,7 @@ TEST_F(ControlDialogTest, PassingTheListWithTheTabKeySelectsNothing) {
   }
   EXPECT_EQ(timeout(dialog), "");
   press(dialog, "Command1");
-  EXPECT_EQ(folder.queryText("select timeout from control"), "25");
+  EXPECT_EQ(folder.queryText("select timeout from control"), "");
 }
 
 TEST_F(ControlDialogTest, ARefusedSettingIsToldAndBroughtToTheUser) {
