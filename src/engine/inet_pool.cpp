@@ -43,13 +43,15 @@ void InetPool::initSockets(std::span<const std::string> items) {
   itemCount_ = static_cast<std::size_t>(
       std::count_if(items.begin(), items.end(), [](const std::string& item) { return !item.empty(); }));
   rows_.assign(items.size() + 1, Row{});
-  slots_.resize(std::min(itemCount_, static_cast<std::size_t>(largestPool_)));
-  if (!slots_.empty()) {
+  // Either each of them has its control or there is none, also when something is raised here.
+  std::vector<Slot> slots(std::min(itemCount_, static_cast<std::size_t>(largestPool_)));
+  if (!slots.empty()) {
     timeout_ = settings_.requestTimeout();
-    for (Slot& slot : slots_) {
+    for (Slot& slot : slots) {
       loadSlot(slot);
     }
   }
+  slots_ = std::move(slots);
   tmrInet_->setEnabled(false);
   tmrInet_->setInterval(kSweepInterval);
 }

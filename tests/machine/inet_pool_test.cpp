@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "base/errors.h"
 #include "store/database.h"
 #include "store/settings_and_log.h"
 #include "support/http_server.h"
@@ -69,6 +70,15 @@ TEST_F(InetPoolTest, NothingButEmptyItemsGivesNoSlotAtAll) {
   EXPECT_EQ(pool.poolSize(), 0);
   EXPECT_EQ(pool.itemCount(), 0U);
   EXPECT_THAT(pool.getAryFreeSockets(), IsEmpty());
+}
+
+TEST_F(InetPoolTest, ATimeoutThatCannotBeReadLeavesNoSlot) {
+  pool.initSockets(urls(3));
+  settings.setControl("timeout", "99999999999");
+  EXPECT_THROW(pool.initSockets(urls(3)), OverflowError);
+  EXPECT_EQ(pool.poolSize(), 0);
+  EXPECT_THAT(pool.getAryFreeSockets(), IsEmpty());
+  pool.testInetConnection();
 }
 
 TEST_F(InetPoolTest, AFreshPoolIsFreeAndItsTimerSetButOff) {
