@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/sites_to_test.h"
 
-#include <utility>
+#include <string>
+#include <unordered_set>
 
 #include "store/site_table.h"
 
@@ -49,8 +50,15 @@ TextTable SitesToTest::choose(std::int16_t mode, bool neverCheckedToo) {
 }
 
 void SitesToTest::addOwed(TextTable& sites) {
+  if (owed_.empty()) {
+    return;
+  }
+  std::unordered_set<std::string> chosen;
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    chosen.insert(sites.at(site_column::idSite, row));
+  }
   std::erase_if(owed_, [&](std::int16_t id) {
-    if (rowOf(sites, id) > 0) {
+    if (chosen.contains(std::to_string(id))) {
       return false;
     }
     const TextTable stored = dueSites_.asStored(id);

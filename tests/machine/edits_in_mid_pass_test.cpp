@@ -166,6 +166,31 @@ TEST_F(EditsInMidPass, AnEditOfWhatIsNotSentDropsNothing) {
   EXPECT_EQ(column(id, "success"), "1");
 }
 
+TEST_F(EditsInMidPass, ManySitesThatAreMovedAtOnceAreAllCheckedInTheNextPass) {
+  constexpr int kSites = 40;
+  for (int i = 0; i < kSites; ++i) {
+    addPage("/" + std::to_string(i), "page");
+  }
+  for (const char* path : {"/0x", "/1x", "/2x", "/39x"}) {
+    server.respond(path, {.body = "moved"});
+  }
+  bool moved = false;
+  view.onStatus = [&](const std::string& text) {
+    if (text.starts_with("Testing: ") && !std::exchange(moved, true)) {
+      folder.execute("update sites set url = url || 'x'");
+    }
+  };
+  program.startRun();
+  EXPECT_THAT(view.dropped, SizeIs(kSites));
+  server.clearRecords();
+  tick();
+  EXPECT_THAT(server.requests(), SizeIs(kSites));
+  EXPECT_EQ(column(40, "content_compare"), "moved");
+  server.clearRecords();
+  tick(60);
+  EXPECT_THAT(server.requests(), IsEmpty()) << "nothing is owed any more";
+}
+
 /// What happens while the program alert of a failure is started, which is when its mail has been sent.
 class CountOfAFailure : public EditsInMidPass {
  protected:
@@ -249,6 +274,15 @@ TEST_F(CountOfAFailure, IsMadeUpAtTheLatestWhenTheProgramEnds) {
     other.close();
   }
   EXPECT_EQ(failures(id), 1);
+}
+
+TEST_F(CountOfAFailure, StaysInTheLogWhenTheSiteIsDeletedWhileItsAlertIsSent) {
+  const std::int16_t id = addChanging("/a");
+  meanwhile.action = [&] { alerted.data().deleteSite(id); };
+  alerted.start();
+  EXPECT_TRUE(alerted.startRun());
+  EXPECT_EQ(logged(), 1);
+  EXPECT_EQ(folder.queryText("select count(*) from sites"), "0");
 }
 
 TEST_F(CountOfAFailure, IsNotMadeForANewSiteThatGotTheIdMeanwhile) {
