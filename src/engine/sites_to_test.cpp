@@ -76,12 +76,11 @@ std::string SitesToTest::whatWaits() {
     return {};
   }
   if (waiting.count == 1 && typed_ && waiting.first == *typed_) {
-    return "Not counting down: site " + std::to_string(waiting.first) + " is still being entered.";
+    return "No countdown: site " + std::to_string(waiting.first) + " is still being entered.";
   }
-  return "Not counting down: " +
-         (waiting.count == 1 ? "site " + std::to_string(waiting.first) + " was"
-                             : std::to_string(waiting.count) + " sites were") +
-         " never checked, and the next Start takes " + (waiting.count == 1 ? "it" : "them") + " on.";
+  return waiting.count == 1
+             ? "No countdown: site " + std::to_string(waiting.first) + ", never checked, waits for the next Start."
+             : "No countdown: " + std::to_string(waiting.count) + " sites, never checked, wait for the next Start.";
 }
 
 }  // namespace tarnwick

@@ -220,11 +220,11 @@ TEST_F(NewSiteInARun, StopsTheCountdownAndTheStatusSaysWhy) {
   tick();
   tick();
   EXPECT_EQ(view.status(),
-            "Not counting down: site " + std::to_string(fresh) + " was never checked, and the next Start takes it on.");
+            "No countdown: site " + std::to_string(fresh) + ", never checked, waits for the next Start.");
   addPage("/newer", "newer");
   tick();
   tick();
-  EXPECT_EQ(view.status(), "Not counting down: 2 sites were never checked, and the next Start takes them on.");
+  EXPECT_EQ(view.status(), "No countdown: 2 sites, never checked, wait for the next Start.");
   EXPECT_EQ(column(fresh, "lastChecked"), "NULL");
 }
 
@@ -304,11 +304,11 @@ TEST_F(SiteBeingTyped, IsNotTakenByThePassThatFollowsAFault) {
 
 TEST_F(SiteBeingTyped, WaitsForTheNextStartAsOriginallyWhenNoPassHasLeftItOut) {
   machine.handTimers.advance(seconds(3));
-  EXPECT_EQ(view.status(), "Not counting down: site " + std::to_string(fresh) + " is still being entered.");
+  EXPECT_EQ(view.status(), "No countdown: site " + std::to_string(fresh) + " is still being entered.");
   run().beingTyped(std::nullopt);
   machine.handTimers.advance(seconds(3));
   EXPECT_EQ(column(fresh, "lastChecked"), "NULL");
-  EXPECT_THAT(view.status(), ::testing::HasSubstr("was never checked"));
+  EXPECT_THAT(view.status(), ::testing::HasSubstr(", never checked, waits"));
 }
 
 TEST_F(SiteBeingTyped, IsForgottenWhenItIsGivenUp) {
