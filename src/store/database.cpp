@@ -67,7 +67,8 @@ void Transaction::commit() {
   }
 }
 
-// A connection sees one state of the database for as long as one of its recordsets stands on a row.
-Snapshot::Snapshot(Database& database) : held_(database.query("select id from control")) {}
+// A connection sees one state of the database for as long as one of its recordsets stands on a row. This one has one in
+// any database.
+Snapshot::Snapshot(Database& database) : held_(database.query("select count(*) from sqlite_master")) {}
 
 }  // namespace tarnwick

@@ -26,5 +26,16 @@ TEST(SnapshotTest, ShowsOneStateWhileOthersWrite) {
   EXPECT_EQ(count(), "1");
 }
 
+TEST(SnapshotTest, NeedsNoSettings) {
+  const ProgramFolder folder;
+  const SystemClock clock;
+  SqliteConnections databases{clock};
+  Database database(folder.path(), databases);
+  folder.execute("delete from control");
+  const Snapshot before(database);
+  folder.execute("insert into sites (idSite) values (1)");
+  EXPECT_EQ(firstText(database, "select count(*) from sites"), "0");
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

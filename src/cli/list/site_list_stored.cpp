@@ -20,7 +20,6 @@ SiteDraft listedForm(SiteDraft stored) {
 }
 
 void readListedSites(m& data, ListColumns columns, const std::function<void(const ListedSite& site)>& take) {
-  const Snapshot oneState(data.database());
   std::vector<SiteFacts> stored = readSiteFacts(data);
   std::ranges::stable_sort(stored, {}, &SiteFacts::idSite);
   for (SiteFacts& facts : stored) {

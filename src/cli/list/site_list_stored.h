@@ -12,8 +12,8 @@ namespace tarnwick {
 /// A stored site as a file tells of it: with the method and the interval that take effect where none is stored.
 SiteDraft listedForm(SiteDraft stored);
 
-/// Hands over the stored sites by rising id, all of one state of the database, while others may write to it. Baselines
-/// are read one at a time, and only when they are columns. Raises DataAccessError.
+/// Hands over the stored sites by rising id. Baselines are read one at a time, and only when they are columns: with a
+/// `Snapshot` all of it is of one state of the database. Raises DataAccessError.
 void readListedSites(m& data, ListColumns columns, const std::function<void(const ListedSite& site)>& take);
 
 /// Whether an option is set, for a site or for all.

@@ -91,6 +91,8 @@ class ImportWarnings {
 
 std::size_t writeList(Tool& tool, Format format, ListColumns columns, const ByteSink& sink) {
   m& data = tool.data();
+  // Whether options are columns is of the same state as the options, whoever sets one meanwhile.
+  const Snapshot oneState(data.database());
   columns.options = hasOptions(data);
   const auto writer = format == Format::csv ? makeCsvWriter(columns, sink, tool.fields())
                                             : makeJsonWriter(columns, sink, tool.fields());
