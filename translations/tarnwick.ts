@@ -4,6 +4,18 @@
 <context>
     <name>QObject</name>
     <message>
+        <source>Email address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <translation type="unfinished"></translation>
     </message>
@@ -897,13 +909,6 @@
     </message>
     <message>
         <source>Date Last Checked</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>tarnwick::StatusLine</name>
-    <message>
-        <source>Status: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -4,6 +4,18 @@
 <context>
     <name>QObject</name>
     <message>
+        <source>Email address</source>
+        <translation>Email-Adresse</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>Audio-Datei</translation>
+    </message>
+    <message>
+        <source>Program file</source>
+        <translation>Program-Datei</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
     </message>
@@ -898,13 +910,6 @@
     <message>
         <source>Date Last Checked</source>
         <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>tarnwick::StatusLine</name>
-    <message>
-        <source>Status: %1</source>
-        <translation>Status: %1</translation>
     </message>
 </context>
 <context>

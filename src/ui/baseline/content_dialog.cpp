@@ -40,7 +40,7 @@ void ContentDialog::layOut() {
   auto* contentLines = new QVBoxLayout(content);
   contentLines->addWidget(tContent_);
 
-  auto* frame = named(new QGroupBox(tr("Url: "), this), "Frame1", tr("Url"));
+  auto* frame = addFrame(*this, "Frame1", tr("Url: "));
   address_ = named(new StatusLine(frame), "lblUrl", tr("Url"));
   btnLoad_ = addButton(*frame, "btnLoad", tr("&Load From Url"), tr("Fetch the page now; nothing is stored yet"));
   btnOk_ = addButton(*frame, "btnOk", tr("O&K"), tr("Store this content and close"));

@@ -27,7 +27,7 @@ class PressedByEnter final : public QPushButton {
 }  // namespace
 
 QGroupBox* addFrame(QWidget& parent, const char* name, const QString& caption) {
-  return named(new QGroupBox(caption, &parent), name, caption);
+  return named(new QGroupBox(caption, &parent), name);
 }
 
 QLabel* addLabel(const QString& caption, QWidget& control) {

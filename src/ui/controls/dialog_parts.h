@@ -23,6 +23,12 @@ Control* named(Control* control, const char* name, const QString& accessibleName
   return control;
 }
 
+/// The same for one that shows its own text, which a screen reader speaks, also when it changes.
+template <typename Control>
+Control* named(Control* control, const char* name) {
+  return named(control, name, QString());
+}
+
 /// Makes a frame with a caption, which is its accessible name too.
 QGroupBox* addFrame(QWidget& parent, const char* name, const QString& caption);
 

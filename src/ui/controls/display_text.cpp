@@ -30,4 +30,9 @@ QString plainToolTip(const QString& text) {
   return text.isEmpty() ? text : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
 }
 
+void explain(QWidget& control, const QString& text) {
+  control.setToolTip(plainToolTip(text));
+  control.setAccessibleDescription(text);
+}
+
 }  // namespace tarnwick

@@ -3,6 +3,7 @@
 
 #include <string_view>
 #include <QString>
+#include <QWidget>
 
 namespace tarnwick {
 
@@ -11,5 +12,8 @@ QString displayText(std::string_view bytes);
 
 /// A tooltip that shows `text` as it stands: a tooltip would take a text that looks like HTML for a page.
 QString plainToolTip(const QString& text);
+
+/// Gives `control` that tooltip; a screen reader speaks the text itself. An empty text takes both away.
+void explain(QWidget& control, const QString& text);
 
 }  // namespace tarnwick

@@ -194,8 +194,7 @@ void OptionForm::addRow(const OptionField& option) {
   const QString hint = tr("%1. As the original: %2.").arg(translated(option.meaning), translated(option.original));
   rows_.push_back({&option, makeControl(option), {}});
   QWidget* control = named(rows_.back().control.widget, ("option_" + option.name).c_str(), label);
-  control->setAccessibleDescription(hint);
-  control->setToolTip(plainToolTip(hint));
+  explain(*control, hint);
   control->setFocusPolicy(Qt::StrongFocus);
   control->installEventFilter(this);
 

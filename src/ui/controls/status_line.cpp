@@ -22,8 +22,11 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
 }
 
 void StatusLine::showText(const QString& text) {
+  if (what_.isNull()) {
+    what_ = accessibleName();
+  }
   setText(text);
-  setAccessibleName(tr("Status: %1").arg(text));
+  setAccessibleName(what_.isEmpty() ? text : QStringLiteral("%1: %2").arg(what_, text));
   updateToolTip();
   repaint();
 }
@@ -51,7 +54,7 @@ void StatusLine::resizeEvent(QResizeEvent* event) {
 
 void StatusLine::updateToolTip() {
   const bool shortened = shownText() != text();
-  setToolTip(shortened ? plainToolTip(text().left(kLongestMeasured)) : QString());
+  explain(*this, shortened ? text().left(kLongestMeasured) : QString());
 }
 
 }  // namespace tarnwick

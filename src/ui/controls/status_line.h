@@ -6,7 +6,7 @@
 namespace tarnwick {
 
 /// A line of plain text of any length: what does not fit is left out in its middle and told by the tooltip. A text
-/// that looks like HTML is shown as it stands.
+/// that looks like HTML is shown as it stands. Its accessible name is what it was given at first, and the text.
 class StatusLine final : public QLabel {
   Q_OBJECT
 
@@ -27,6 +27,8 @@ class StatusLine final : public QLabel {
 
  private:
   void updateToolTip();
+
+  QString what_;
 };
 
 }  // namespace tarnwick

@@ -96,7 +96,7 @@ void Master::tellNotice() {
   const QString about = tr("%1 %2 keeps your sites and settings in the folder %3")
                             .arg(QString::fromLatin1(kProductName), QStringLiteral(TARNWICK_VERSION), folder);
   for (QLabel* label : {controls_.copyright, controls_.lblVersion}) {
-    label->setToolTip(plainToolTip(about));
+    explain(*label, about);
   }
 }
 

@@ -63,9 +63,7 @@ void SiteReason::follow(SiteGridView& grid) {
 void SiteReason::tell(const QString& reason) {
   if (reason != text()) {
     setText(reason);
-    setAccessibleName(reason);
-    setToolTip(plainToolTip(reason));
-    setAccessibleDescription(reason);
+    explain(*this, reason);
     updateGeometry();
   }
   setVisible(!reason.isEmpty());

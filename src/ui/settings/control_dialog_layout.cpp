@@ -24,17 +24,17 @@ constexpr int kGap = 12;
 std::vector<FieldLook> knownLooks() {
   using Kind = FieldKind;
   const auto flag = [](const char* name, const QString& caption, const QString& purpose) {
-    return FieldLook{name, Kind::flag, name, caption, purpose, purpose};
+    return FieldLook{name, Kind::flag, name, caption, QString(caption).remove(QLatin1Char('&')), purpose};
   };
-  return {{"email", Kind::text, "tEmail", QObject::tr("E&mail"), QObject::tr("Email"),
+  return {{"email", Kind::text, "tEmail", QObject::tr("E&mail"), QObject::tr("Email address"),
            QObject::tr("The sender of the alert mails")},
           {"smtp", Kind::text, "tSmtp", QObject::tr("&SMTP"), QObject::tr("SMTP"),
            QObject::tr("The mail server; it takes mail on port 25 without a log-in")},
-          {"audio", Kind::file, "tAudio", QObject::tr("&Audio"), QObject::tr("Audio"),
+          {"audio", Kind::file, "tAudio", QObject::tr("&Audio"), QObject::tr("Audio file"),
            QObject::tr("The .wav file of the alert sound")},
           {"timeout", Kind::seconds, "lbInterval", QObject::tr("TCP T&imeout"), QObject::tr("TCP Timeout in seconds"),
            QObject::tr("How many seconds the fetch of a page may take")},
-          {"program", Kind::file, "tProgram", QObject::tr("&Program"), QObject::tr("Program"),
+          {"program", Kind::file, "tProgram", QObject::tr("&Program"), QObject::tr("Program file"),
            QObject::tr("The alert program; ~1~ to ~6~ stand for what happened where")},
           flag("cLogs", QObject::tr("Lo&gs"), QObject::tr("Keep a log of all checks")),
           flag("cReports", QObject::tr("&Reports"), QObject::tr("Write the report of the day during a run")),
@@ -60,7 +60,7 @@ std::vector<FieldLook> looksOf(const std::vector<SettingField>& settings) {
 // Buttons of one caption are told apart by the name that a screen reader speaks.
 QPushButton* makeFileButton(QGroupBox& frame, const char* name, const QString& caption, const QString& purpose) {
   QPushButton* button = addButton(frame, name, caption, purpose);
-  button->setAccessibleName(purpose);
+  button->setAccessibleName(QStringLiteral("%1: %2").arg(button->accessibleName(), purpose));
   return button;
 }
 
@@ -93,8 +93,9 @@ std::vector<QPushButton*> makeFileButtons(QGroupBox& frame, const FieldLook& loo
   return {};
 }
 
-QLabel* makeStatus(QGroupBox& frame, const char* name, const QString& caption, const QString& accessibleName) {
-  auto* status = named(new QLabel(caption, &frame), name, accessibleName);
+QLabel* makeStatus(QGroupBox& frame, const char* name, const QString& caption, const QString& purpose) {
+  auto* status = named(new QLabel(caption, &frame), name);
+  status->setAccessibleDescription(purpose);
   status->setTextFormat(Qt::PlainText);
   return status;
 }
@@ -218,7 +219,6 @@ void tellStoredTimeout(const ControlDialogControls& controls, const QString& sto
   QLabel& label = *controls.lblTimeout;
   const QString holds = QObject::tr("%1 s").arg(kDefaultRequestTimeout.count());
   label.setText(stored.isEmpty() ? holds : QObject::tr("%1 s stored").arg(stored));
-  label.setAccessibleName(label.text());
   label.setToolTip(QObject::tr("OK stores no time-out while none is selected; a fetch may then take %1").arg(holds));
   const auto tell = [&list, &label] { label.setVisible(list.selectedItems().isEmpty()); };
   QObject::connect(&list, &QListWidget::itemSelectionChanged, &label, tell);

@@ -19,6 +19,14 @@ namespace {
 
 constexpr std::array<int, 9> kIntervals = {1, 5, 10, 15, 30, 45, 60, 90, 120};
 
+// A button that is spoken as it is captioned; what it is about is told after that.
+template <typename Button>
+Button* makeCaptioned(QGroupBox& frame, const char* name, const QString& caption, const QString& purpose) {
+  auto* button = named(new Button(caption, &frame), name);
+  button->setAccessibleDescription(purpose);
+  return button;
+}
+
 constexpr int kRoomOfAddress = 300;
 
 void makeSite(QGroupBox& frame, SiteEditorControls& controls) {
@@ -30,8 +38,8 @@ void makeSite(QGroupBox& frame, SiteEditorControls& controls) {
   controls.tUsername = addText<ByteLineEdit>(frame, "tUsername", QObject::tr("Username"), kNarrow);
   controls.tPassword = addText<ByteLineEdit>(frame, "tPassword", QObject::tr("Password"), kNarrow);
   controls.tPassword->setEchoMode(QLineEdit::Password);
-  controls.tGet = named(new QRadioButton(QObject::tr("&Get"), &frame), "tGet", QObject::tr("Method: Get"));
-  controls.tPost = named(new QRadioButton(QObject::tr("P&ost"), &frame), "tPost", QObject::tr("Method: Post"));
+  controls.tGet = makeCaptioned<QRadioButton>(frame, "tGet", QObject::tr("&Get"), QObject::tr("Method: Get"));
+  controls.tPost = makeCaptioned<QRadioButton>(frame, "tPost", QObject::tr("P&ost"), QObject::tr("Method: Post"));
   controls.tActive = named(new QCheckBox(QObject::tr("&Active"), &frame), "tActive", QObject::tr("Active"));
   controls.lbInterval = named(new QListWidget(&frame), "lbInterval", QObject::tr("Interval in minutes"));
   for (const int minutes : kIntervals) {
@@ -108,9 +116,9 @@ QLayout* layOutPostVars(const SiteEditorControls& controls) {
 }
 
 void makeAlerts(QGroupBox& frame, SiteEditorControls& controls) {
-  controls.cEmail = named(new QCheckBox(QObject::tr("&Email"), &frame), "cEmail", QObject::tr("Alert by e-mail"));
+  controls.cEmail = makeCaptioned<QCheckBox>(frame, "cEmail", QObject::tr("&Email"), QObject::tr("Alert by e-mail"));
   controls.tEmail = addText<ByteLineEdit>(frame, "tEmail", QObject::tr("E-mail address"), 24);
-  controls.cPager = named(new QCheckBox(QObject::tr("Page&r"), &frame), "cPager", QObject::tr("Alert by pager"));
+  controls.cPager = makeCaptioned<QCheckBox>(frame, "cPager", QObject::tr("Page&r"), QObject::tr("Alert by pager"));
   controls.tPager = addText<QLineEdit>(frame, "tPager", QObject::tr("Pager"), 24);
   auto* lines = new QGridLayout(&frame);
   lines->addWidget(controls.cEmail, 0, 0);
@@ -136,7 +144,7 @@ void makeButtons(QGroupBox& frame, SiteEditorControls& controls) {
 }
 
 QLabel* makeReason(QDialog& dialog) {
-  auto* reason = named(new QLabel(&dialog), "lReason", QString());
+  auto* reason = named(new QLabel(&dialog), "lReason");
   reason->setTextFormat(Qt::PlainText);
   reason->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   reason->setWordWrap(true);
@@ -197,7 +205,6 @@ void showReason(QDialog& dialog, const std::string& reason) {
     dialog.layout()->addWidget(label);
   }
   label->setText(displayText(reason));
-  label->setAccessibleName(label->text());
 }
 
 }  // namespace tarnwick

@@ -235,7 +235,7 @@ TEST_F(ControlDialogTest, ASettingOfTheTableStandsInTheDialog) {
   more.settings.push_back({"cQuiet", FieldKind::flag, "Quiet", "no alerts at night"});
   fields = &more;
   auto& dialog = openSettings();
-  EXPECT_EQ(in<QWidget>(dialog, "proxy").accessibleName().toStdString(), "Proxy");
+  EXPECT_EQ(spoken(in<QWidget>(dialog, "proxy")).toStdString(), "Proxy");
   EXPECT_EQ(in<QWidget>(dialog, "proxy").toolTip().toStdString(), "the server that pages are asked through");
   type(dialog, "proxy", "proxy.example.org");
   tick(dialog, "cQuiet");
@@ -314,7 +314,7 @@ TEST_F(ControlDialogTest, IsReachedByTheKeyboardInTheOrderOfTheEye) {
   EXPECT_TRUE(std::ranges::adjacent_find(keys) == keys.end()) << "two controls share a mnemonic";
   Strings names;
   for (const std::string& control : tabOrder(dialog, in<QWidget>(dialog, "tEmail"))) {
-    names.push_back(in<QWidget>(dialog, control.c_str()).accessibleName().toStdString());
+    names.push_back(spoken(in<QWidget>(dialog, control.c_str())).toStdString());
     EXPECT_FALSE(names.back().empty()) << control;
   }
   std::ranges::sort(names);

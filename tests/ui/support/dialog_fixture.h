@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 #include <vector>
+#include <QAccessible>
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -74,6 +75,11 @@ class DialogTest : public MasterTest {
   template <typename Control>
   static std::string caption(QWidget& form, const char* name) {
     return in<Control>(form, name).text().remove(QLatin1Char('&')).toStdString();
+  }
+  /// What a screen reader tells of a control.
+  static QString spoken(QWidget& control, QAccessible::Text what = QAccessible::Name) {
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&control);
+    return spoken == nullptr ? QString() : spoken->text(what);
   }
   /// The names of a form's controls in the order of the Tab key, from the first one.
   static std::vector<std::string> tabOrder(QWidget& form, QWidget& first);
