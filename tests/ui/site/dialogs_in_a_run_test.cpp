@@ -42,6 +42,7 @@ TEST_F(DialogsInARunTest, TheSiteBeingFetchedIsEdited) {
     auto& editor = opened<SiteEditor>();
     type(editor, "tUsername", "me");
     press(editor, "Command1");
+    server.respond("/slow", {.body = "slow page"});
   });
   EXPECT_EQ(column(1, "sUserName"), "me");
   // What was on its way was asked for without that name: the site is asked again at once.
