@@ -576,15 +576,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>at once</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>at the next start</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>pages only</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -593,6 +585,10 @@
     </message>
     <message>
         <source>the first answer becomes the baseline, also the text of a fetch that failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Programs (*)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -665,6 +661,10 @@
         <source>LOADING: Please Wait ...</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>the content of site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::ControlDialog</name>
@@ -682,6 +682,10 @@
     </message>
     <message>
         <source>Complete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the settings</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -745,6 +749,12 @@
         <source>The settings are kept in the table &quot;control&quot; of the database; this window cannot change them</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>These changes are not stored: %1.
+
+Do You Want To Discard Them And Close %2?</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::NewPostVar</name>
@@ -794,6 +804,10 @@
     </message>
     <message>
         <source>This variable was changed or removed by another program. Press Cancel, and look at the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a variable of site %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -851,6 +865,14 @@
     </message>
     <message>
         <source>This variable is not stored as it is shown. Press Apply to store the list, then click the variable again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1: %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

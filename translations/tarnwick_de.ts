@@ -576,16 +576,8 @@
         <translation>alles</translation>
     </message>
     <message>
-        <source>at once</source>
-        <translation>sofort</translation>
-    </message>
-    <message>
         <source>at the next start</source>
         <translation>beim nächsten Start</translation>
-    </message>
-    <message>
-        <source>pages only</source>
-        <translation>nur gute Seiten</translation>
     </message>
     <message>
         <source>seconds</source>
@@ -594,6 +586,10 @@
     <message>
         <source>the first answer becomes the baseline, also the text of a fetch that failed</source>
         <translation>die erste Antwort wird zur Basis, auch der Text eines gescheiterten Holens</translation>
+    </message>
+    <message>
+        <source>Programs (*)</source>
+        <translation>Programme (*)</translation>
     </message>
 </context>
 <context>
@@ -665,6 +661,10 @@
         <source>LOADING: Please Wait ...</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>the content of site %1</source>
+        <translation>der Inhalt von Seite %1</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::ControlDialog</name>
@@ -683,6 +683,10 @@
     <message>
         <source>Complete</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the settings</source>
+        <translation>die Einstellungen</translation>
     </message>
 </context>
 <context>
@@ -745,6 +749,14 @@
         <source>The settings are kept in the table &quot;control&quot; of the database; this window cannot change them</source>
         <translation>Die Einstellungen stehen in der Tabelle „control“ der Datenbank; dieses Fenster kann sie nicht ändern</translation>
     </message>
+    <message>
+        <source>These changes are not stored: %1.
+
+Do You Want To Discard Them And Close %2?</source>
+        <translation>Diese Änderungen sind nicht gespeichert: %1.
+
+Möchten Sie sie verwerfen und %2 schließen?</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::NewPostVar</name>
@@ -795,6 +807,10 @@
     <message>
         <source>This variable was changed or removed by another program. Press Cancel, and look at the list.</source>
         <translation>Diese Variable wurde von einem anderen Programm geändert oder entfernt. Drücken Sie Cancel und sehen Sie sich die Liste an.</translation>
+    </message>
+    <message>
+        <source>a variable of site %1</source>
+        <translation>eine Variable von Seite %1</translation>
     </message>
 </context>
 <context>
@@ -852,6 +868,14 @@
     <message>
         <source>This variable is not stored as it is shown. Press Apply to store the list, then click the variable again.</source>
         <translation>Diese Variable ist nicht so gespeichert, wie sie gezeigt wird. Drücken Sie Apply, um die Liste zu speichern, und klicken Sie die Variable dann noch einmal an.</translation>
+    </message>
+    <message>
+        <source>site %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>Site %1: %2</source>
+        <translation>Seite %1: %2</translation>
     </message>
 </context>
 <context>

@@ -18,14 +18,17 @@ namespace {
 
 class StandardErrorPrompts final : public Prompts {
  public:
-  void inform(const std::string& text, const std::string& title, PromptIcon) override {
-    std::cerr << title << ": " << text << '\n';
+  void inform(const Message& message, std::function<void()> closed) override {
+    std::cerr << message.title << ": " << message.text << '\n';
+    if (closed) {
+      closed();
+    }
   }
-  bool confirm(const std::string& text, const std::string& title, PromptIcon) override {
-    std::cerr << title << ": " << text << " No\n";
-    return false;
+  void confirm(const Message& message, std::function<void(bool yes)> answered) override {
+    std::cerr << message.title << ": " << message.text << " No\n";
+    answered(false);
   }
-  std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
+  void chooseFile(const FileChoice&, std::function<void(const std::string& path)>) override {}
 };
 
 class NoOpener final : public DesktopOpener {

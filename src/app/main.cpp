@@ -9,7 +9,7 @@
 #include "program/fault_box.h"
 #include "ui/main_window/master.h"
 #include "ui/settings/control_dialog.h"
-#include "ui/site/site_editor.h"
+#include "ui/site/one_site_editor.h"
 
 int main(int argc, char** argv) {
   tarnwick::ignoreUnwantedSignals();
@@ -22,13 +22,18 @@ int main(int argc, char** argv) {
   const QString executableFolder = QCoreApplication::applicationDirPath();
   std::string folder;
   const auto choose = [&] { folder = tarnwick::programFolderFor(executableFolder.toStdString()); };
-  if (!tarnwick::FaultBox(machine.services().prompts).run(choose)) {
+  // The box tells why, and closing it ends the program.
+  const auto failed = [] {
+    QApplication::exec();
     return EXIT_FAILURE;
+  };
+  if (!tarnwick::FaultBox(machine.services().prompts).run(choose)) {
+    return failed();
   }
   tarnwick::loadTranslations(application, {QString::fromStdString(folder), executableFolder});
   tarnwick::Master window(folder, machine.services());
   if (!window.load()) {
-    return EXIT_FAILURE;
+    return failed();
   }
   window.setEditors({.site = tarnwick::siteEditorOf(window.program(), window),
                      .settings = tarnwick::settingsDialogOf(window.program(), window)});

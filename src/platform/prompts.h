@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
+#include <functional>
 #include <string>
+
+class QWidget;
 
 namespace tarnwick {
 
@@ -12,23 +14,45 @@ inline constexpr const char* kProductName = "Tarnwick";
 /// The sign shown in a message box.
 enum class PromptIcon { none, information, question, exclamation, error };
 
+/// What a box says. All texts are UTF-8.
+struct Message {
+  std::string text;
+  std::string title = kProductName;
+  PromptIcon icon = PromptIcon::none;
+  /// Of a question: something is lost by Yes, so that Enter alone answers No.
+  bool destroys = false;
+  /// The window that takes no input until the box is closed, and that the box goes with; named here only for the front
+  /// end that has windows. Null: the box stands before the main window, and nothing waits for it.
+  QWidget* owner = nullptr;
+};
+
+/// A choice among existing files.
+struct FileChoice {
+  /// Where it begins.
+  std::string folder;
+  /// The kinds of files that are offered: "Name (*.a;*.b)|*.a;*.b".
+  std::string filter;
+  /// As that of a message.
+  QWidget* owner = nullptr;
+};
+
 /// Every box that waits for the user goes through here, so that a test can queue the answer and see the question.
-/// All texts are UTF-8.
+///
+/// Nothing waits for an answer: what is to follow is handed in and called when the user has given it, which may be
+/// before the call returns (a terminal) or long after it (a window), with anything having happened in between. It is
+/// not called any more when the program is being closed, or when the box has gone with its window.
 class Prompts {
  public:
   virtual ~Prompts() = default;
 
-  /// Shows `text` with an OK button and returns when the user has closed the box.
-  virtual void inform(const std::string& text, const std::string& title = kProductName,
-                      PromptIcon icon = PromptIcon::none) = 0;
+  /// Shows `message` with an OK button; `closed`, if given, follows.
+  virtual void inform(const Message& message, std::function<void()> closed = {}) = 0;
 
-  /// Asks `text` with Yes and No buttons; true on Yes only.
-  virtual bool confirm(const std::string& text, const std::string& title = kProductName,
-                       PromptIcon icon = PromptIcon::question) = 0;
+  /// Asks `message` with Yes and No buttons; true on Yes only.
+  virtual void confirm(const Message& message, std::function<void(bool yes)> answered) = 0;
 
-  /// Lets the user choose an existing file, starting in `folder`. `filter` has the form "Name (*.a;*.b)|*.a;*.b".
-  /// The full path, or nothing when the user cancelled.
-  virtual std::optional<std::string> chooseFile(const std::string& folder, const std::string& filter) = 0;
+  /// Lets the user choose a file. `chosen` gets its full path, and is not called when the user cancels.
+  virtual void chooseFile(const FileChoice& choice, std::function<void(const std::string& path)> chosen) = 0;
 };
 
 }  // namespace tarnwick

@@ -69,22 +69,12 @@ bool FaultBox::runRepeated(const std::string& source, const std::function<void()
   } catch (...) {
     succeeded = false;
     const Description description = describeCurrentException();
-    if (open_ == 0 && !isStanding(description.fault)) {
+    if (*open_ == 0 && !isStanding(description.fault)) {
       standing_.insert({description.isLasting ? kNobody : source, description.fault});
-      waiting_.push_back(description.message);
+      show(description.message);
     }
   }
-  showWaiting();
   return succeeded;
-}
-
-// A box that opens inside a pass holds the pass up until somebody closes it, and until then no site is watched.
-void FaultBox::showWaiting() {
-  while (open_ == 0 && !waiting_.empty() && !(busy_ && busy_())) {
-    const std::string message = std::move(waiting_.front());
-    waiting_.pop_front();
-    show(message);
-  }
 }
 
 bool FaultBox::isStanding(const std::string& fault) const {
@@ -93,13 +83,9 @@ bool FaultBox::isStanding(const std::string& fault) const {
 }
 
 void FaultBox::show(const std::string& message) {
-  // A box pumps events; while it is open, timers must not pile further boxes upon it.
-  const struct Open {
-    explicit Open(int& count) : count_(count) { ++count_; }
-    ~Open() { --count_; }
-    int& count_;
-  } open(open_);
-  prompts_.inform(message, kProductName, PromptIcon::error);
+  // While a box is open, timers must not pile further boxes upon it.
+  ++*open_;
+  prompts_.inform({.text = message, .icon = PromptIcon::error}, [open = open_] { --*open; });
 }
 
 }  // namespace tarnwick

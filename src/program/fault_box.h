@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <deque>
 #include <functional>
+#include <memory>
 #include <set>
 #include <string>
-#include <utility>
 
 #include "platform/prompts.h"
 
@@ -14,9 +13,8 @@ namespace tarnwick {
 /// Where an error of an event handler ends: in one box with its cause, after which the program lives on.
 class FaultBox {
  public:
-  /// `busy` tells whether a box would hold up work that must go on with nobody there to close it: the fault of a
-  /// repeated action then waits for the first repeated action after that. Empty for never.
-  explicit FaultBox(Prompts& prompts, std::function<bool()> busy = {}) : prompts_(prompts), busy_(std::move(busy)) {}
+  /// `prompts` outlives this.
+  explicit FaultBox(Prompts& prompts) : prompts_(prompts) {}
 
   /// Runs what the user asked for; a failure is shown every time. False when it failed.
   /// `source` names a repeated action (see `runRepeated`) that goes on with this one's work, and would fail alike.
@@ -32,7 +30,6 @@ class FaultBox {
 
  private:
   bool isStanding(const std::string& fault) const;
-  void showWaiting();
 
   struct Fault {
     std::string source;
@@ -41,11 +38,10 @@ class FaultBox {
   };
 
   Prompts& prompts_;
-  std::function<bool()> busy_;
-  std::deque<std::string> waiting_;
   // What has been shown of the repeated actions and not been followed by a success.
   std::set<Fault> standing_;
-  int open_ = 0;
+  // How many boxes are open; they may outlast this.
+  std::shared_ptr<int> open_ = std::make_shared<int>(0);
 };
 
 }  // namespace tarnwick

@@ -39,7 +39,7 @@ Program::Program(std::string programFolder, const Services& services, RunView& v
       services_(services),
       view_(view),
       fields_(fields),
-      faults_(services.prompts, [this] { return parts_ && parts_->run.busy(); }),
+      faults_(services.prompts),
       lock_(services.runLocks.makeRunLock(programFolder_)) {}
 
 Program::~Program() = default;

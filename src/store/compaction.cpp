@@ -44,7 +44,6 @@ std::string Compaction::destinationOf(std::string connString) {
 bool Compaction::compact() {
   db_.close();
   const Outcome outcome = compactClosed();
-  // The box lets events in, and what they start finds the database open again.
   std::exception_ptr notReopened;
   try {
     db_.reopen();
@@ -52,7 +51,7 @@ bool Compaction::compact() {
     notReopened = std::current_exception();
   }
   if (!outcome.noBackup.empty()) {
-    prompts_.inform("Aborting compact:\r\n" + outcome.noBackup);
+    prompts_.inform({.text = "Aborting compact:\r\n" + outcome.noBackup});
   }
   if (notReopened) {
     std::rethrow_exception(notReopened);

@@ -20,6 +20,7 @@ namespace tarnwick {
 struct Setting {
   std::string key;
   std::variant<std::string, bool> value;
+  bool operator==(const Setting&) const = default;
 };
 
 /// A setting that could not be stored.

@@ -5,6 +5,7 @@
 #include <functional>
 #include <iterator>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string_view>
@@ -142,14 +143,27 @@ bool UUCode::hasInput(const std::string& InFile) {
   if (isFile(InFile)) {
     return true;
   }
-  prompts_.inform("Input file " + InFile + " does not exist!", "Input file does not exist...", PromptIcon::exclamation);
+  prompts_.inform({.text = "Input file " + InFile + " does not exist!",
+                   .title = "Input file does not exist...",
+                   .icon = PromptIcon::exclamation});
   return false;
 }
 
-bool UUCode::mayWrite(const std::string& OutFile) {
-  return !isFile(OutFile) ||
-         prompts_.confirm("Output file " + OutFile + " already exists.\r\nDo you wish to overwrite it?",
-                          "Output Already File Exists...", PromptIcon::question);
+bool UUCode::ifMayWrite(const std::vector<std::string>& outFiles, const std::function<void()>& write) {
+  const auto there = std::ranges::find_if(outFiles, [&](const std::string& file) { return isFile(file); });
+  if (there == outFiles.end()) {
+    write();
+    return true;
+  }
+  const auto written = std::make_shared<bool>(false);
+  const std::vector<std::string> others(there + 1, outFiles.end());
+  prompts_.confirm(
+      {.text = "Output file " + *there + " already exists.\r\nDo you wish to overwrite it?",
+       .title = "Output Already File Exists...",
+       .icon = PromptIcon::question,
+       .destroys = true},
+      [code = *this, others, write, written](bool yes) mutable { *written = yes && code.ifMayWrite(others, write); });
+  return *written;
 }
 
 bool UUCode::UUEncodeFile(const std::string& InFile, const std::string& OutFile) {
@@ -157,14 +171,13 @@ bool UUCode::UUEncodeFile(const std::string& InFile, const std::string& OutFile)
     return false;
   }
   refuseOwnInput(files_, InFile, OutFile);
-  if (!mayWrite(OutFile)) {
-    return false;
-  }
-  const auto input = files_.open(InFile);
-  OutputFiles output(files_);
-  output.write(OutFile, InFile, [&](const ByteSink& sink) { encodeInto(sink, *input, headerLine(InFile), kToTheEnd); });
-  output.finish();
-  return true;
+  return ifMayWrite({OutFile}, [&files = files_, InFile, OutFile] {
+    const auto input = files.open(InFile);
+    OutputFiles output(files);
+    output.write(OutFile, InFile,
+                 [&](const ByteSink& sink) { encodeInto(sink, *input, headerLine(InFile), kToTheEnd); });
+    output.finish();
+  });
 }
 
 bool UUCode::UUEncodeFiles(const std::string& InFile, const std::string& OutPath, std::int64_t MaxFileSize) {
@@ -175,31 +188,32 @@ bool UUCode::UUEncodeFiles(const std::string& InFile, const std::string& OutPath
   if (base.empty()) {
     throw FileError(InFile, "The name has nothing before its first dot to name the output after. Rename the file.");
   }
-  const auto input = files_.open(InFile);
-  std::uint64_t left = files_.sizeOf(InFile);
-  const UuPlan plan = planFor(left, MaxFileSize, InFile);
+  const std::uint64_t size = files_.sizeOf(InFile);
+  const UuPlan plan = planFor(size, MaxFileSize, InFile);
   const auto pathOfPart = [&](std::uint64_t number) { return inFolder(OutPath, uuPartName(base, plan, number)); };
   if (plan.digits == 0) {
     return UUEncodeFile(InFile, pathOfPart(1));
   }
+  std::vector<std::string> parts;
   for (std::uint64_t number = 1; number <= plan.count; ++number) {
-    refuseOwnInput(files_, InFile, pathOfPart(number));
-    if (!mayWrite(pathOfPart(number))) {
-      return false;
+    parts.push_back(pathOfPart(number));
+    refuseOwnInput(files_, InFile, parts.back());
+  }
+  return ifMayWrite(parts, [&files = files_, InFile, parts, size, bytesEach = plan.bytesEach] {
+    const auto input = files.open(InFile);
+    OutputFiles output(files);
+    std::uint64_t left = size;
+    for (const std::string& part : parts) {
+      const std::uint64_t most = std::min(bytesEach, left);
+      output.write(part, InFile, [&](const ByteSink& sink) {
+        if (encodeInto(sink, *input, headerLine(InFile), most) != most) {
+          throw FileError(InFile, "The file has become shorter while it was read. Try again.");
+        }
+      });
+      left -= most;
     }
-  }
-  OutputFiles output(files_);
-  for (std::uint64_t number = 1; number <= plan.count; ++number) {
-    const std::uint64_t most = std::min(plan.bytesEach, left);
-    output.write(pathOfPart(number), InFile, [&](const ByteSink& sink) {
-      if (encodeInto(sink, *input, headerLine(InFile), most) != most) {
-        throw FileError(InFile, "The file has become shorter while it was read. Try again.");
-      }
-    });
-    left -= most;
-  }
-  output.finish();
-  return true;
+    output.finish();
+  });
 }
 
 bool UUCode::UUDecodeFile(const std::string& InFile, const std::string& OutFile) {
@@ -207,13 +221,11 @@ bool UUCode::UUDecodeFile(const std::string& InFile, const std::string& OutFile)
     return false;
   }
   refuseOwnInput(files_, InFile, OutFile);
-  if (!mayWrite(OutFile)) {
-    return false;
-  }
-  OutputFiles output(files_);
-  output.write(OutFile, InFile, [&](const ByteSink& sink) { decodeInto(sink, files_, InFile); });
-  output.finish();
-  return true;
+  return ifMayWrite({OutFile}, [&files = files_, InFile, OutFile] {
+    OutputFiles output(files);
+    output.write(OutFile, InFile, [&](const ByteSink& sink) { decodeInto(sink, files, InFile); });
+    output.finish();
+  });
 }
 
 bool UUCode::UUDecodeFiles(const std::vector<std::string>& InFiles, const std::string& OutFile) {
@@ -225,24 +237,22 @@ bool UUCode::UUDecodeFiles(const std::vector<std::string>& InFiles, const std::s
                  [&](const std::string& file) { return partOf(files_, file); });
   const UuOrder order = orderUuParts(parts);
   if (!order.missing.empty()) {
-    prompts_.inform(missingParts(order), "Part is missing...", PromptIcon::exclamation);
+    prompts_.inform({.text = missingParts(order), .title = "Part is missing...", .icon = PromptIcon::exclamation});
     return false;
   }
   for (const std::string& file : InFiles) {
     refuseOwnInput(files_, file, OutFile);
   }
-  if (!mayWrite(OutFile)) {
-    return false;
-  }
-  OutputFiles output(files_);
-  output.write(OutFile, InFiles.front(), [&](const ByteSink& sink) {
-    PartSizes sizes;
-    for (const std::size_t index : order.indexes) {
-      sizes.take(InFiles[index], decodeInto(sink, files_, InFiles[index]));
-    }
+  return ifMayWrite({OutFile}, [&files = files_, InFiles, OutFile, order] {
+    OutputFiles output(files);
+    output.write(OutFile, InFiles.front(), [&](const ByteSink& sink) {
+      PartSizes sizes;
+      for (const std::size_t index : order.indexes) {
+        sizes.take(InFiles[index], decodeInto(sink, files, InFiles[index]));
+      }
+    });
+    output.finish();
   });
-  output.finish();
-  return true;
 }
 
 bool UUCode::GetHeaderInfo(const std::string& InFile, std::string& Name) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,8 @@ namespace tarnwick {
 /// up to two bytes more at its very end.
 ///
 /// The file operations return false after a message box: an input file that does not exist, an output file that exists
-/// and that the user does not wish to overwrite, a part that is missing. What else goes wrong with a file raises
+/// and that the user does not wish to overwrite, a part that is missing. Where that question is answered later than at
+/// once, they return false too, and do their work when the answer is Yes. What else goes wrong with a file raises
 /// FileError, and a damaged text DecodeError. Whenever an operation does not return true, no output file has been made
 /// and none that was there has changed, with one exception: parts are written under other names, and get theirs one by
 /// one in the end, the last part first. When one of these names cannot be given, the parts that have theirs stay. An
@@ -89,7 +91,8 @@ class UUCode {
 
  private:
   bool hasInput(const std::string& InFile);
-  bool mayWrite(const std::string& OutFile);
+  /// Has the files written, once the user agrees for each that is there already; true when that has been done.
+  bool ifMayWrite(const std::vector<std::string>& outFiles, const std::function<void()>& write);
   bool isFile(const std::string& path);
 
   Prompts& prompts_;

@@ -83,39 +83,35 @@ TEST_F(FaultBoxTest, AnotherFaultOfTheSameTimerIsTold) {
 }
 
 TEST_F(FaultBoxTest, NoTimerAddsABoxToAnOpenOne) {
-  prompts.whileOpen = [&](const RecordingPrompts::Box&) {
-    prompts.whileOpen = nullptr;
-    box.runRepeated("other", [] { fail("another fault"); });
-    box.runRepeated("tick", [] { fail("locked"); });
-  };
+  prompts.stayOpen = true;
+  box.runRepeated("tick", [] { fail("locked"); });
+  box.runRepeated("other", [] { fail("another fault"); });
   box.runRepeated("tick", [] { fail("locked"); });
   EXPECT_THAT(prompts.texts(), ElementsAre(HasSubstr("locked")));
 }
 
 TEST_F(FaultBoxTest, WhatWasHeldBackByAnOpenBoxIsToldAfterItWhenItLasts) {
-  prompts.whileOpen = [&](const RecordingPrompts::Box&) {
-    prompts.whileOpen = nullptr;
-    box.runRepeated("other", [] { fail("another fault"); });
-  };
+  prompts.stayOpen = true;
   box.runRepeated("tick", [] { fail("locked"); });
+  box.runRepeated("other", [] { fail("another fault"); });
+  prompts.closeBoxes();
   box.runRepeated("other", [] { fail("another fault"); });
   box.runRepeated("other", [] { fail("another fault"); });
   EXPECT_THAT(prompts.texts(), ElementsAre(HasSubstr("locked"), HasSubstr("another fault")));
 }
 
-TEST_F(FaultBoxTest, AFaultThatATimerMeetsDuringAPassIsToldOnceAfterIt) {
-  bool busy = true;
-  FaultBox patient(prompts, [&] { return busy; });
-  EXPECT_FALSE(patient.runRepeated("report", [] { fail("no report"); }));
-  EXPECT_FALSE(patient.runRepeated("report", [] { fail("no report"); }));
-  EXPECT_TRUE(patient.runRepeated("lamps", [] {}));
-  EXPECT_THAT(prompts.texts(), IsEmpty());
-  EXPECT_FALSE(patient.run([] { fail("what the user asked for"); }));
-  EXPECT_THAT(prompts.texts(), SizeIs(1));
-  busy = false;
-  EXPECT_TRUE(patient.runRepeated("lamps", [] {}));
-  EXPECT_TRUE(patient.runRepeated("lamps", [] {}));
-  EXPECT_THAT(prompts.texts(), ElementsAre(HasSubstr("what the user asked for"), HasSubstr("no report")));
+TEST_F(FaultBoxTest, WhatTheUserAsksForIsToldBesideAnOpenBox) {
+  prompts.stayOpen = true;
+  box.runRepeated("tick", [] { fail("locked"); });
+  EXPECT_FALSE(box.run([] { fail("no such site"); }));
+  EXPECT_THAT(prompts.texts(), SizeIs(2));
+}
+
+TEST_F(FaultBoxTest, ABoxMayOutlastTheProgramThatShowedIt) {
+  prompts.stayOpen = true;
+  std::make_unique<FaultBox>(prompts)->run([] { fail("no database"); });
+  prompts.closeBoxes();
+  EXPECT_THAT(prompts.texts(), ElementsAre(HasSubstr("no database")));
 }
 
 TEST_F(FaultBoxTest, TheSameFaultMetByTwoTimersIsToldOnce) {

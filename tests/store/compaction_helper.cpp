@@ -18,9 +18,9 @@ namespace {
 
 class NoPrompts final : public Prompts {
  public:
-  void inform(const std::string& text, const std::string&, PromptIcon) override { std::cerr << text << std::endl; }
-  bool confirm(const std::string&, const std::string&, PromptIcon) override { return false; }
-  std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
+  void inform(const Message& message, std::function<void()>) override { std::cerr << message.text << std::endl; }
+  void confirm(const Message&, std::function<void(bool yes)>) override {}
+  void chooseFile(const FileChoice&, std::function<void(const std::string& path)>) override {}
 };
 
 int compactForEver(Database& database, SqlConnectionMaker& databases) {

@@ -7,37 +7,60 @@
 
 namespace tarnwick::testing {
 
-void RecordingPrompts::show(Box box) {
+void RecordingPrompts::show(Box box, std::function<void()> answer) {
   shown_.push_back(box);
   if (whileOpen) {
     whileOpen(box);
   }
-}
-
-void RecordingPrompts::inform(const std::string& text, const std::string& title, PromptIcon icon) {
-  show({Kind::inform, text, title, icon});
-}
-
-bool RecordingPrompts::confirm(const std::string& text, const std::string& title, PromptIcon icon) {
-  show({Kind::confirm, text, title, icon});
-  if (confirmAnswers_.empty()) {
-    ADD_FAILURE() << "No answer is queued for the question: " << text;
-    return false;
+  open_.push_back(std::move(answer));
+  if (!stayOpen) {
+    closeBoxes();
   }
-  const bool yes = confirmAnswers_.front();
-  confirmAnswers_.pop_front();
-  return yes;
 }
 
-std::optional<std::string> RecordingPrompts::chooseFile(const std::string& folder, const std::string& filter) {
-  show({Kind::chooseFile, filter, folder, PromptIcon::none});
-  if (fileAnswers_.empty()) {
-    ADD_FAILURE() << "No answer is queued for the file chooser of: " << filter;
-    return std::nullopt;
+void RecordingPrompts::closeBoxes() {
+  while (!open_.empty()) {
+    const std::function<void()> answer = std::move(open_.front());
+    open_.pop_front();
+    answer();
   }
-  std::optional<std::string> path = std::move(fileAnswers_.front());
-  fileAnswers_.pop_front();
-  return path;
+}
+
+void RecordingPrompts::inform(const Message& message, std::function<void()> closed) {
+  show({Kind::inform, message.text, message.title, message.icon}, [closed = std::move(closed)] {
+    if (closed) {
+      closed();
+    }
+  });
+}
+
+void RecordingPrompts::confirm(const Message& message, std::function<void(bool yes)> answered) {
+  show({Kind::confirm, message.text, message.title, message.icon, message.destroys},
+       [this, text = message.text, answered = std::move(answered)] {
+         if (confirmAnswers_.empty()) {
+           ADD_FAILURE() << "No answer is queued for the question: " << text;
+           answered(false);
+           return;
+         }
+         const bool yes = confirmAnswers_.front();
+         confirmAnswers_.pop_front();
+         answered(yes);
+       });
+}
+
+void RecordingPrompts::chooseFile(const FileChoice& choice, std::function<void(const std::string& path)> chosen) {
+  show({Kind::chooseFile, choice.filter, choice.folder, PromptIcon::none},
+       [this, filter = choice.filter, chosen = std::move(chosen)] {
+         if (fileAnswers_.empty()) {
+           ADD_FAILURE() << "No answer is queued for the file chooser of: " << filter;
+           return;
+         }
+         const std::optional<std::string> path = std::move(fileAnswers_.front());
+         fileAnswers_.pop_front();
+         if (path) {
+           chosen(*path);
+         }
+       });
 }
 
 std::vector<std::string> RecordingPrompts::texts() const {

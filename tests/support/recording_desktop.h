@@ -24,13 +24,14 @@ class RecordingPrompts final : public Prompts {
     std::string text;   ///< of a file chooser: its filter
     std::string title;  ///< of a file chooser: its folder
     PromptIcon icon = PromptIcon::none;
+    bool destroys = false;
   };
 
-  void inform(const std::string& text, const std::string& title, PromptIcon icon) override;
+  void inform(const Message& message, std::function<void()> closed = {}) override;
   /// Fails the test, and answers No, when no answer is queued.
-  bool confirm(const std::string& text, const std::string& title, PromptIcon icon) override;
+  void confirm(const Message& message, std::function<void(bool yes)> answered) override;
   /// Fails the test, and cancels, when no answer is queued.
-  std::optional<std::string> chooseFile(const std::string& folder, const std::string& filter) override;
+  void chooseFile(const FileChoice& choice, std::function<void(const std::string& path)> chosen) override;
 
   /// Queues the answer of the next box of its kind that has none yet; a file of nothing cancels.
   void answerConfirm(bool yes) { confirmAnswers_.push_back(yes); }
@@ -44,13 +45,17 @@ class RecordingPrompts final : public Prompts {
   std::size_t unusedAnswers() const { return confirmAnswers_.size() + fileAnswers_.size(); }
   void clear() { shown_.clear(); }
 
-  /// Runs while each box is open: what happens behind a modal box. Empty for nothing.
+  /// Runs while each box is open: what happens behind it. Empty for nothing.
   std::function<void(const Box&)> whileOpen;
+  /// While set, boxes stay open until `closeBoxes` answers them in their order.
+  bool stayOpen = false;
+  void closeBoxes();
 
  private:
-  void show(Box box);
+  void show(Box box, std::function<void()> answer);
 
   std::vector<Box> shown_;
+  std::deque<std::function<void()>> open_;
   std::deque<bool> confirmAnswers_;
   std::deque<std::optional<std::string>> fileAnswers_;
 };

@@ -17,16 +17,18 @@ class RecordedDesktop final : public Prompts, public SoundPlayer, public Program
  public:
   explicit RecordedDesktop(Transcript& transcript) : transcript_(transcript) {}
 
-  void inform(const std::string& text, const std::string& title, PromptIcon icon) override {
-    transcript_.add("box", title + ", sign " + std::to_string(static_cast<int>(icon)) + ": " + text);
+  void inform(const Message& message, std::function<void()> closed = {}) override {
+    write(message);
+    if (closed) {
+      closed();
+    }
   }
-  bool confirm(const std::string& text, const std::string& title, PromptIcon icon) override {
-    inform(text, title, icon);
-    return false;
+  void confirm(const Message& message, std::function<void(bool yes)> answered) override {
+    write(message);
+    answered(false);
   }
-  std::optional<std::string> chooseFile(const std::string& folder, const std::string& filter) override {
-    inform(filter, folder, PromptIcon::none);
-    return std::nullopt;
+  void chooseFile(const FileChoice& choice, std::function<void(const std::string& path)>) override {
+    write({.text = choice.filter, .title = choice.folder});
   }
 
   long play(const std::string& fileName) override {
@@ -47,6 +49,10 @@ class RecordedDesktop final : public Prompts, public SoundPlayer, public Program
   }
 
  private:
+  void write(const Message& box) {
+    transcript_.add("box", box.title + ", sign " + std::to_string(static_cast<int>(box.icon)) + ": " + box.text);
+  }
+
   Transcript& transcript_;
 };
 

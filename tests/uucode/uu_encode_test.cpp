@@ -100,6 +100,17 @@ TEST_F(UuEncodeTest, YesReplacesTheOutput) {
   EXPECT_EQ(read("out.uue"), "begin in\r\n#0V%T\r\n`\r\nend\r\n");
 }
 
+TEST_F(UuEncodeTest, WhereTheAnswerComesLaterTheWorkIsDoneThen) {
+  make("out.uue", "old");
+  const std::string file = make("in", "Cat");
+  prompts.stayOpen = true;
+  EXPECT_FALSE(UUCode(prompts, files).UUEncodeFile(file, path("out.uue")));
+  EXPECT_EQ(read("out.uue"), "old");
+  prompts.answerConfirm(true);
+  prompts.closeBoxes();
+  EXPECT_EQ(read("out.uue"), "begin in\r\n#0V%T\r\n`\r\nend\r\n");
+}
+
 TEST_F(UuEncodeTest, TheInputIsNeverItsOwnOutput) {
   const std::string file = make("A.UUE", "precious");
   EXPECT_THROW(code.UUEncodeFile(file, file), FileError);

@@ -15,12 +15,17 @@ class ToolPrompts final : public Prompts {
  public:
   explicit ToolPrompts(Console& console) : console_(console) {}
 
-  void inform(const std::string& text, const std::string&, PromptIcon) override { console_.complain(inOneLine(text)); }
-  bool confirm(const std::string& text, const std::string&, PromptIcon) override {
-    console_.complain(inOneLine(text) + " No");
-    return false;
+  void inform(const Message& message, std::function<void()> closed) override {
+    console_.complain(inOneLine(message.text));
+    if (closed) {
+      closed();
+    }
   }
-  std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
+  void confirm(const Message& message, std::function<void(bool yes)> answered) override {
+    console_.complain(inOneLine(message.text) + " No");
+    answered(false);
+  }
+  void chooseFile(const FileChoice&, std::function<void(const std::string& path)>) override {}
 
  private:
   // A box breaks its text into lines as it likes.

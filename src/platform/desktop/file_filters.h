@@ -5,7 +5,7 @@
 
 namespace tarnwick {
 
-/// What a file dialog offers beside the kinds of files that it asks for.
-QStringList furtherNameFilters();
+/// What a file dialog offers on this system when `asked` is asked for: the first one is chosen at first.
+QStringList offeredFilters(const QStringList& asked);
 
 }  // namespace tarnwick

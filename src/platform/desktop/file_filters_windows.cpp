@@ -3,6 +3,6 @@
 
 namespace tarnwick {
 
-QStringList furtherNameFilters() { return {}; }
+QStringList offeredFilters(const QStringList& asked) { return asked; }
 
 }  // namespace tarnwick

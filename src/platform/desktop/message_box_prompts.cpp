@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/message_box_prompts.h"
 
+#include <utility>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPointer>
 
-#include "platform/desktop/exclusive_dialog.h"
 #include "platform/desktop/file_filters.h"
 
 namespace tarnwick {
@@ -28,18 +29,40 @@ QMessageBox::Icon iconOf(PromptIcon icon) {
   }
 }
 
-int ask(const std::string& text, const std::string& title, PromptIcon icon, QMessageBox::StandardButtons buttons) {
-  // Goes with the window before which it stands, should that be closed before the answer gets here.
-  const QPointer<QMessageBox> box(new QMessageBox(QApplication::activeWindow()));
+QWidget* mainWindow() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (qobject_cast<QMainWindow*>(window) != nullptr && window->isVisible()) {
+      return window;
+    }
+  }
+  return nullptr;
+}
+
+/// A box must not be lost behind a window that is in nobody's way any more.
+QWidget* standingOwner(QWidget* owner) { return owner != nullptr && owner->isVisible() ? owner : nullptr; }
+
+QMessageBox& makeBox(const Message& message, QMessageBox::StandardButtons buttons) {
+  QWidget* owner = standingOwner(message.owner);
+  auto* box = new QMessageBox(owner != nullptr ? owner : mainWindow());
   box->setTextFormat(Qt::PlainText);
   box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  box->setIcon(iconOf(icon));
-  box->setWindowTitle(QString::fromStdString(title));
-  box->setText(QString::fromStdString(text));
+  box->setIcon(iconOf(message.icon));
+  box->setWindowTitle(QString::fromStdString(message.title));
+  box->setText(QString::fromStdString(message.text));
   box->setStandardButtons(buttons);
-  const int answer = runExclusively(*box);
-  delete box;
-  return answer;
+  return *box;
+}
+
+void show(QDialog& dialog, QWidget* owner) {
+  dialog.setAttribute(Qt::WA_DeleteOnClose);
+  if (standingOwner(owner) != nullptr) {
+    dialog.open();
+  } else {
+    dialog.setWindowModality(Qt::NonModal);
+    dialog.show();
+  }
+  dialog.raise();
+  dialog.activateWindow();
 }
 
 // "Name (*.a;*.b)|*.a;*.b" as the file dialog wants it: "Name (*.a *.b)".
@@ -51,36 +74,55 @@ QStringList nameFilters(const std::string& filter) {
     QString patterns = pieces[piece + 1];
     filters << QStringLiteral("%1 (%2)").arg(name, patterns.replace(QLatin1Char(';'), QLatin1Char(' ')));
   }
-  return filters + furtherNameFilters();
+  return offeredFilters(filters);
 }
 
 }  // namespace
 
-void MessageBoxPrompts::inform(const std::string& text, const std::string& title, PromptIcon icon) {
-  if (!pump_.closing()) {
-    ask(text, title, icon, QMessageBox::Ok);
-  }
-}
-
-bool MessageBoxPrompts::confirm(const std::string& text, const std::string& title, PromptIcon icon) {
-  return !pump_.closing() && ask(text, title, icon, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
-}
-
-std::optional<std::string> MessageBoxPrompts::chooseFile(const std::string& folder, const std::string& filter) {
+void MessageBoxPrompts::inform(const Message& message, std::function<void()> closed) {
   if (pump_.closing()) {
-    return std::nullopt;
+    return;
   }
-  const QPointer<QFileDialog> dialog(
-      new QFileDialog(QApplication::activeWindow(), QString(), QString::fromStdString(folder)));
+  QMessageBox& box = makeBox(message, QMessageBox::Ok);
+  QObject::connect(&box, &QDialog::finished, &box, [this, closed = std::move(closed)] {
+    if (closed && !pump_.closing()) {
+      closed();
+    }
+  });
+  show(box, message.owner);
+}
+
+void MessageBoxPrompts::confirm(const Message& message, std::function<void(bool yes)> answered) {
+  if (pump_.closing()) {
+    return;
+  }
+  QMessageBox& box = makeBox(message, QMessageBox::Yes | QMessageBox::No);
+  box.setDefaultButton(message.destroys ? QMessageBox::No : QMessageBox::Yes);
+  QObject::connect(&box, &QDialog::finished, &box, [this, answered = std::move(answered)](int answer) {
+    if (!pump_.closing()) {
+      answered(answer == QMessageBox::Yes);
+    }
+  });
+  show(box, message.owner);
+}
+
+void MessageBoxPrompts::chooseFile(const FileChoice& choice, std::function<void(const std::string& path)> chosen) {
+  if (pump_.closing()) {
+    return;
+  }
+  QWidget* owner = standingOwner(choice.owner);
+  auto* dialog =
+      new QFileDialog(owner != nullptr ? owner : mainWindow(), QString(), QString::fromStdString(choice.folder));
   dialog->setFileMode(QFileDialog::ExistingFile);
-  dialog->setNameFilters(nameFilters(filter));
-  const bool accepted = runExclusively(*dialog) == QDialog::Accepted;
-  const QStringList chosen = dialog != nullptr ? dialog->selectedFiles() : QStringList();
-  delete dialog;
-  if (!accepted || chosen.isEmpty()) {
-    return std::nullopt;
-  }
-  return QDir::toNativeSeparators(chosen.constFirst()).toStdString();
+  dialog->setNameFilters(nameFilters(choice.filter));
+  // A file is looked for here, not renamed or deleted.
+  dialog->setOption(QFileDialog::ReadOnly);
+  QObject::connect(dialog, &QFileDialog::fileSelected, dialog, [this, chosen = std::move(chosen)](const QString& path) {
+    if (!pump_.closing()) {
+      chosen(QDir::toNativeSeparators(path).toStdString());
+    }
+  });
+  show(*dialog, choice.owner);
 }
 
 }  // namespace tarnwick

@@ -6,15 +6,16 @@
 
 namespace tarnwick {
 
-/// Boxes on the desktop, in front of the active window. Texts are plain and can be copied. While the program is being
-/// closed no box is shown: it is answered as if the user had cancelled it.
+/// Boxes on the desktop. Texts are plain and can be copied. A box with an owner is modal to that window alone; the main
+/// window, which can always be closed, is never an owner. While the program is being closed no box is shown.
 class MessageBoxPrompts final : public Prompts {
  public:
+  /// `pump` outlives every box.
   explicit MessageBoxPrompts(const EventPump& pump) : pump_(pump) {}
 
-  void inform(const std::string& text, const std::string& title, PromptIcon icon) override;
-  bool confirm(const std::string& text, const std::string& title, PromptIcon icon) override;
-  std::optional<std::string> chooseFile(const std::string& folder, const std::string& filter) override;
+  void inform(const Message& message, std::function<void()> closed) override;
+  void confirm(const Message& message, std::function<void(bool yes)> answered) override;
+  void chooseFile(const FileChoice& choice, std::function<void(const std::string& path)> chosen) override;
 
  private:
   const EventPump& pump_;

@@ -23,6 +23,9 @@ class BaselineEdit final : public QPlainTextEdit {
   /// The page with the edits made since; a notice is not part of it.
   std::string page();
 
+  /// Whether the page that was set has been edited.
+  bool isEdited() const { return text_.canUndo(); }
+
   /// Shows `notice` instead of the page, which cannot be edited meanwhile; `endNotice` shows the page again.
   void showNotice(const QString& notice);
   void endNotice();

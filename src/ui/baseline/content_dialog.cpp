@@ -94,6 +94,7 @@ void ContentDialog::btnLoad_Click() {
   }
   if (fetched) {
     tContent_->setPage(std::move(*page));
+    fetched_ = true;
   } else {
     tContent_->endNotice();
   }
@@ -105,16 +106,16 @@ void ContentDialog::btnLoad_Click() {
 void ContentDialog::btnOk_Click() {
   const std::string page = tContent_->page();
   if (const auto character = tContent_->selectForeign()) {
-    const QPointer<BaselineEdit> content(tContent_);
-    program_.services().prompts.inform(foreignMessage(*character));
-    if (content != nullptr) {
-      content->setFocus();
-    }
+    tell(*this, program_, foreignMessage(*character), [this] { tContent_->setFocus(); });
     return;
   }
   requireSite(program_.data(), idSite_);
   program_.data().updateContentCompare(idSite_, page);
   formExit();
+}
+
+QString ContentDialog::unsavedEdits() const {
+  return fetched_ || tContent_->isEdited() ? tr("the content of site %1").arg(idSite_) : QString();
 }
 
 void ContentDialog::btnCancel_Click() { reject(); }

@@ -8,13 +8,14 @@
 
 #include "program/program.h"
 #include "ui/baseline/baseline_edit.h"
+#include "ui/controls/boxes.h"
 #include "ui/controls/status_line.h"
 
 namespace tarnwick {
 
 /// The form `frmContent`: a site's baseline, the page that every check is compared with, to be seen, edited and fetched
 /// anew. What is not edited is stored byte for byte as it was.
-class ContentDialog final : public QDialog {
+class ContentDialog final : public QDialog, public UnsavedEdits {
   Q_OBJECT
 
  public:
@@ -25,6 +26,8 @@ class ContentDialog final : public QDialog {
   void populateMe(std::int16_t idSite);
   /// Hides the form and has it taken down.
   void formExit();
+
+  QString unsavedEdits() const override;
 
   /// Cancel; a page that is being fetched is given up.
   void reject() override;
@@ -40,6 +43,7 @@ class ContentDialog final : public QDialog {
   Program& program_;
   std::int16_t idSite_ = 0;
   bool loading_ = false;
+  bool fetched_ = false;  // another page is shown than the one that is stored
   BaselineEdit* tContent_ = nullptr;
   StatusLine* address_ = nullptr;
   QPushButton* btnLoad_ = nullptr;

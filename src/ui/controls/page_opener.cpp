@@ -8,7 +8,7 @@ namespace tarnwick {
 void openPage(const Services& services, const std::string& target) {
   if (!services.opener.open(target)) {
     const QString text = QObject::tr("This desktop could not open the page. You find it at:");
-    services.prompts.inform(text.toStdString() + "\n\n" + target, kProductName, PromptIcon::information);
+    services.prompts.inform({.text = text.toStdString() + "\n\n" + target, .icon = PromptIcon::information});
   }
 }
 

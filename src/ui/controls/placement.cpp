@@ -14,12 +14,12 @@ void place(QWidget& window, const QWidget& parent, QPoint wish) {
   const QRect screen = parent.screen()->availableGeometry();
   const QSize frame = frameOf(parent);
   window.resize(window.size().boundedTo(screen.size() - frame));
-  window.move(keptOn(screen, wish, window.size() + frame));
+  window.move(clampedTo(screen, wish, window.size() + frame));
 }
 
 }  // namespace
 
-QPoint keptOn(const QRect& screen, QPoint wish, QSize size) {
+QPoint clampedTo(const QRect& screen, QPoint wish, QSize size) {
   const int left = std::max(screen.left(), std::min(wish.x(), screen.right() + 1 - size.width()));
   const int top = std::max(screen.top(), std::min(wish.y(), screen.bottom() + 1 - size.height()));
   return {left, top};

@@ -13,6 +13,6 @@ void placeAt(QWidget& window, const QWidget& parent, QPoint offset = {});
 void placeOver(QWidget& window, const QWidget& parent);
 
 /// Where a window of `size` that is wished at `wish` lies wholly on `screen`. A larger window keeps its title bar.
-QPoint keptOn(const QRect& screen, QPoint wish, QSize size);
+QPoint clampedTo(const QRect& screen, QPoint wish, QSize size);
 
 }  // namespace tarnwick

@@ -15,6 +15,7 @@
 #include <QWindow>
 
 #include "base/product.h"
+#include "ui/controls/boxes.h"
 #include "ui/controls/display_text.h"
 #include "ui/controls/page_opener.h"
 
@@ -30,7 +31,7 @@ QString versionText() {
 }
 
 /// A folder in the user's home as a shell writes it: the foot line has little room.
-QString briefly(const QString& folder) {
+QString withTilde(const QString& folder) {
   const QString home = QDir::toNativeSeparators(QDir::homePath()) + QDir::separator();
   return folder.startsWith(home) ? QLatin1Char('~') + folder.mid(home.size() - 1) : folder;
 }
@@ -90,7 +91,7 @@ void Master::tellNotice() {
   const QString folder = QDir::toNativeSeparators(QString::fromStdString(program_.programFolder()));
   QString notice = tr("Tarnwick web-site monitor. Copyright © the Tarnwick developers.");
   if (program_.programFolder() != QCoreApplication::applicationDirPath().toStdString()) {
-    notice += QLatin1Char(' ') + tr("Your data: %1").arg(briefly(folder));
+    notice += QLatin1Char(' ') + tr("Your data: %1").arg(withTilde(folder));
   }
   controls_.copyright->setText(notice);
   const QString about = tr("%1 %2 keeps your sites and settings in the folder %3")
@@ -165,24 +166,29 @@ void Master::btnStop_Click() { program_.stopRun(); }
 
 void Master::btnNew_Click() {
   program_.faults().run([this] {
-    const std::int16_t idSite = program_.data().addSite();
-    program_.run().init();
-    editSite(idSite);
+    if (editors_.site.openNew) {
+      editors_.site.openNew([this] { return addSite(); });
+    } else {
+      addSite();
+    }
   });
+}
+
+std::int16_t Master::addSite() {
+  const std::int16_t idSite = program_.data().addSite();
+  program_.run().init();
+  controls_.grid1->selectSite(idSite);
+  return idSite;
 }
 
 void Master::btnSetup_Click() { program_.faults().run(editors_.settings); }
 
 void Master::grid1_Click(int row) {
   if (const auto idSite = sites_.siteOfRow(row)) {
-    program_.faults().run([&] { editSite(*idSite); });
-  }
-}
-
-void Master::editSite(std::int16_t idSite) {
-  controls_.grid1->selectSite(idSite);
-  if (editors_.site) {
-    editors_.site(idSite);
+    controls_.grid1->selectSite(*idSite);
+    if (editors_.site.open) {
+      program_.faults().run([&] { editors_.site.open(*idSite); });
+    }
   }
 }
 
@@ -190,9 +196,36 @@ void Master::Label1_Click() { openPage(program_.services(), program_.programFold
 
 void Master::imgLogoSmall_Click() { openPage(program_.services(), kProductHomePage); }
 
+QString Master::unsavedEdits() const {
+  QStringList all;
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    const auto* form = dynamic_cast<const UnsavedEdits*>(window);
+    if (const QString edits = form != nullptr && window->isVisible() ? form->unsavedEdits() : QString();
+        !edits.isEmpty()) {
+      all.append(edits);
+    }
+  }
+  all.sort();
+  return all.join(QStringLiteral(", "));
+}
+
 void Master::closeEvent(QCloseEvent* event) {
+  const QString unsaved = std::exchange(mayLose_, true) ? QString() : unsavedEdits();
+  if (!unsaved.isEmpty()) {
+    event->ignore();
+    const QString question = tr("These changes are not stored: %1.\n\nDo You Want To Discard Them And Close %2?")
+                                 .arg(unsaved, QString::fromLatin1(kProductName));
+    program_.services().prompts.confirm(
+        {.text = question.toStdString(), .icon = PromptIcon::question, .destroys = true}, [this](bool yes) {
+          mayLose_ = yes;
+          if (yes) {
+            // Not from within the event that asked.
+            QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+          }
+        });
+    return;
+  }
   program_.close();
-  // A box that is still open holds up whoever asked; the program ends without its answer.
   for (QWidget* window : QApplication::topLevelWidgets()) {
     if (auto* dialog = qobject_cast<QDialog*>(window); dialog != nullptr && dialog->isVisible()) {
       dialog->reject();

@@ -10,6 +10,7 @@
 #include "engine/run_view.h"
 #include "platform/services.h"
 #include "program/program.h"
+#include "ui/controls/site_editing.h"
 #include "ui/main_window/master_layout.h"
 #include "ui/main_window/site_grid_model.h"
 
@@ -17,8 +18,7 @@ namespace tarnwick {
 
 /// The windows that edit what the main window shows. What is empty is not offered to the user.
 struct Editors {
-  /// Opens the editor of a site.
-  std::function<void(std::int16_t idSite)> site;
+  SiteEditing site;
   /// Opens the settings.
   std::function<void()> settings;
 };
@@ -81,13 +81,16 @@ class Master final : public QMainWindow, public RunView {
 
   /// Why a site is down; empty where that cannot be read, which is told elsewhere.
   QString reasonOf(std::int16_t idSite);
-  /// Selects a site and opens its editor.
-  void editSite(std::int16_t idSite);
+  std::int16_t addSite();
+  /// What would be lost if the program ended now, in words.
+  QString unsavedEdits() const;
 
   SiteGridModel sites_;
   MasterControls controls_{};
   RunState state_ = RunState::stop;
   Editors editors_;
+  // Whether the user is being asked, or has agreed, to lose what is not stored. Closing the window once more is a Yes.
+  bool mayLose_ = false;
   // The run shows itself in the controls, so it goes before them.
   Program program_;
 };

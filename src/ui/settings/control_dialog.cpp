@@ -5,6 +5,7 @@
 #include <array>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <QPointer>
 
 #include "ui/controls/dialog_parts.h"
@@ -23,14 +24,20 @@ constexpr const char* kAskCompact =
     "Compacting the database may take several minutes and disable this application during that time. Are You Sure You "
     "Want To Compact This DataBase?";
 
-/// Brings a window with all its controls on the screen at once; its own repaint would spare those that cover it.
-void showAnew(QWidget& window) {
+/// Repaints a window with all its controls at once; its own repaint would spare those that cover it.
+void repaintAll(QWidget& window) {
   window.repaint();
   for (QWidget* control : window.findChildren<QWidget*>()) {
     if (control->window() == &window) {
       control->repaint();
     }
   }
+}
+
+void showState(QLabel& status, const QString& text) {
+  status.setText(text);
+  // The window may not come to repaint itself for a long time.
+  status.repaint();
 }
 
 /// While it lives, the pointer over two windows is that of a program that works and takes no input. Boxes keep theirs.
@@ -42,17 +49,15 @@ class BusyPointer {
     }
   }
   ~BusyPointer() {
-    for (const auto& window : windows_) {
-      if (window != nullptr) {
-        window->unsetCursor();
-      }
+    for (QWidget* window : windows_) {
+      window->unsetCursor();
     }
   }
   BusyPointer(const BusyPointer&) = delete;
   BusyPointer& operator=(const BusyPointer&) = delete;
 
  private:
-  std::array<QPointer<QWidget>, 2> windows_;
+  std::array<QWidget*, 2> windows_;
 };
 
 }  // namespace
@@ -90,29 +95,37 @@ void ControlDialog::populateMe() {
     setting.show(flag ? FieldValue(stored.toBool()) : FieldValue(stored.toText()));
   }
   tellStoredTimeout(controls_, displayText(program_.data().getControl("timeout").toText()));
+  loaded_ = shownSettings();
 }
 
-void ControlDialog::bringUp() {
+void ControlDialog::showInFront() {
   if (!isVisible()) {
     controls_.tEmail->setFocus();
     controls_.tEmail->selectAll();
     adjustSize();
     placeOver(*this, *parentWidget());
+    endModalityAt(*this);
     show();
-  } else {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    raise();
   }
-  activateWindow();
+  QDialog* dialog = dialogBefore(*this);
+  bringToFront(dialog != nullptr ? *dialog : *this);
 }
 
-void ControlDialog::storeSettings() {
+std::vector<Setting> ControlDialog::shownSettings() const {
   std::vector<Setting> settings;
   for (const FieldControl& setting : controls_.settings) {
     settings.push_back({setting.field, setting.value().value_or(FieldValue())});
   }
+  return settings;
+}
+
+QString ControlDialog::unsavedEdits() const {
+  return shownSettings() != loaded_ || controls_.defaults->isChanged() ? tr("the settings") : QString();
+}
+
+void ControlDialog::storeSettings() {
   try {
-    program_.data().storeSettings(settings);
+    program_.data().storeSettings(shownSettings());
   } catch (const SettingRefused& refused) {
     const auto control = std::ranges::find(controls_.settings, refused.key(), &FieldControl::field);
     turnTo(*control->widget);
@@ -131,66 +144,61 @@ void ControlDialog::Command1_Click() {
 void ControlDialog::Command2_Click() { reject(); }
 
 void ControlDialog::administrate(QLabel& status, const std::function<void()>& action) {
-  // What is shown counts at once: the window may not come to repaint itself for a long time.
-  const auto show = [status = QPointer<QLabel>(&status)](const QString& text) {
-    if (status != nullptr) {
-      status->setText(text);
-      status->repaint();
-    }
-  };
-  show(tr("In Progress ..."));
+  showState(status, tr("In Progress ..."));
   try {
     action();
   } catch (...) {
-    show(tr("Failed"));
+    showState(status, tr("Failed"));
     throw;
   }
-  show(tr("Complete"));
+}
+
+void ControlDialog::administrateIf(QLabel& status, Message question, const std::function<std::string()>& action) {
+  const auto complete = [&status] { showState(status, tr("Complete")); };
+  showState(status, tr("In Progress ..."));
+  ask(*this, program_, std::move(question), [this, &status, action, complete](bool yes) {
+    if (!yes) {
+      complete();
+      return;
+    }
+    std::string outcome;
+    administrate(status, [&] { outcome = action(); });
+    tell(*this, program_, outcome, complete);
+  });
 }
 
 void ControlDialog::Command3_Click() {
-  // By its own reference: the form may be gone when the answer comes.
-  administrate(*controls_.lblLogs, [&program = program_] {
-    Prompts& prompts = program.services().prompts;
-    if (prompts.confirm(kAskClearLogs)) {
-      program.data().clearLog();
-      prompts.inform("Logs Cleared");
-    }
+  administrateIf(*controls_.lblLogs, {.text = kAskClearLogs, .destroys = true}, [this] {
+    program_.data().clearLog();
+    return std::string("Logs Cleared");
   });
 }
 
 void ControlDialog::Command4_Click() {
-  administrate(*controls_.lblCompact, [this, self = QPointer<ControlDialog>(this), &program = program_] {
-    Prompts& prompts = program.services().prompts;
-    // Who has closed the form before the answer got here looks for no compaction any more.
-    if (!prompts.confirm(kAskCompact) || self == nullptr || !isVisible()) {
-      return;
-    }
-    bool compacted = false;
-    {
-      const BusyPointer busy(*this, *parentWidget());
-      // The question stood before the windows, which now stand still until the end.
-      showAnew(*parentWidget());
-      showAnew(*this);
-      compacted = program_.data().compact();
-    }
-    prompts.inform(compacted ? "Compact Successful" : "Compact Failed - Data May Be Corrupt");
+  administrateIf(*controls_.lblCompact, {.text = kAskCompact}, [this] {
+    const BusyPointer busy(*this, *parentWidget());
+    // The question stood before the windows, which now stand still until the end.
+    repaintAll(*parentWidget());
+    repaintAll(*this);
+    return std::string(program_.data().compact() ? "Compact Successful" : "Compact Failed - Data May Be Corrupt");
   });
 }
 
 void ControlDialog::Command5_Click() {
   std::string page;
   administrate(*controls_.lblReport, [&] { page = program_.data().createReport(); });
+  showState(*controls_.lblReport, tr("Complete"));
   openPage(program_.services(), page);
 }
 
 void ControlDialog::chooseFileInto(ByteLineEdit& text, const std::string& filter) {
-  const QPointer<ByteLineEdit> box(&text);
-  const auto file = program_.services().prompts.chooseFile(program_.programFolder(), filter);
-  if (file && box != nullptr) {
-    box->setBytes(*file);
-    box->setFocus();
-  }
+  program_.services().prompts.chooseFile({.folder = program_.programFolder(), .filter = filter, .owner = this},
+                                         [box = QPointer<ByteLineEdit>(&text)](const std::string& path) {
+                                           if (box != nullptr) {
+                                             box->setBytes(path);
+                                             box->setFocus();
+                                           }
+                                         });
 }
 
 void ControlDialog::Command6_Click() { chooseFileInto(*controls_.tAudio, kAudioFiles); }
@@ -220,7 +228,7 @@ std::function<void()> settingsDialogOf(Program& program, QWidget& parent) {
     if (dialog == nullptr || !dialog->isVisible()) {
       dialog = new ControlDialog(program, &parent);
     }
-    dialog->bringUp();
+    dialog->showInFront();
   };
 }
 

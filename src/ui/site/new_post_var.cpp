@@ -74,6 +74,11 @@ void NewPostVar::populateMe() {
   pvName_->selectAll();
 }
 
+QString NewPostVar::unsavedEdits() const {
+  return pvName_->bytes() != var_.name || pvValue_->bytes() != var_.value ? tr("a variable of site %1").arg(idSite_)
+                                                                          : QString();
+}
+
 std::int16_t NewPostVar::idPostVars() {
   const std::int16_t id = program_.data().getIdPostVars(idSite_, var_.name, var_.value);
   if (id == 0) {

@@ -5,13 +5,14 @@
 #include <QDialog>
 
 #include "program/program.h"
+#include "ui/controls/boxes.h"
 #include "ui/controls/byte_line_edit.h"
 #include "ui/site/post_var_model.h"
 
 namespace tarnwick {
 
 /// The form `newPostVar`: changes or deletes one POST variable of the site that the site editor shows.
-class NewPostVar final : public QDialog {
+class NewPostVar final : public QDialog, public UnsavedEdits {
   Q_OBJECT
 
  public:
@@ -20,6 +21,8 @@ class NewPostVar final : public QDialog {
 
   /// Shows the variable's name and value.
   void populateMe();
+
+  QString unsavedEdits() const override;
 
  private:
   void layOut();

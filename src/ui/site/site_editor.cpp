@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ui/site/site_editor.h"
 
-#include <memory>
 #include <stdexcept>
 #include <utility>
 #include <QKeyEvent>
+#include <QPointer>
 
-#include "platform/desktop/input_block.h"
 #include "ui/baseline/content_dialog.h"
 #include "ui/controls/dialog_parts.h"
+#include "ui/controls/display_text.h"
 #include "ui/controls/placement.h"
 #include "ui/site/counters_dialog.h"
 #include "ui/site/new_post_var.h"
@@ -41,37 +41,48 @@ void SiteEditor::connectButtons() {
 }
 
 void SiteEditor::editSite(std::int16_t idSite) {
-  if (child_ != nullptr && child_->isVisible()) {
-    bringToFront(*child_);
+  if (isVisible() && idSite == idSite_) {
+    bringToFront(dialogBefore(*this) != nullptr ? *dialogBefore(*this) : *this);
     return;
   }
-  const bool other = !isVisible() || idSite != idSite_;
-  if (other && isVisible()) {
-    const auto there = stillThere();
-    const bool leaves = mayLeave();
-    if (!there()) {
-      return;
-    }
-    if (!leaves) {
-      bringToFront(*this);
-      return;
-    }
-  }
-  if (other) {
-    populateMe(idSite);
-    controls_.tUrl->setFocus();
-    // All of it, ready to be typed over, and its beginning to be seen.
-    const auto length = static_cast<int>(controls_.tUrl->text().size());
-    controls_.tUrl->setSelection(length, -length);
-  }
-  if (isVisible()) {
-    bringToFront(*this);
+  leaveSite([this, idSite] { showSiteOf(idSite); });
+}
+
+void SiteEditor::editNew(const std::function<std::int16_t()>& add) {
+  leaveSite([this, add] { showSiteOf(add()); });
+}
+
+void SiteEditor::leaveSite(const std::function<void()>& then) {
+  if (QDialog* dialog = dialogBefore(*this)) {
+    bringToFront(*dialog);
     return;
   }
-  adjustSize();
-  placeOver(*this, *parentWidget());
-  show();
-  activateWindow();
+  if (!isVisible() || !changed()) {
+    then();
+    return;
+  }
+  bringToFront(*this);
+  const QString question = tr("Do You Want To Discard The Changes To Site %1?").arg(idSite_);
+  ask(*this, program_, {.text = question.toStdString(), .destroys = true}, [then](bool yes) {
+    if (yes) {
+      then();
+    }
+  });
+}
+
+void SiteEditor::showSiteOf(std::int16_t idSite) {
+  populateMe(idSite);
+  controls_.tUrl->setFocus();
+  // All of it, ready to be typed over, and its beginning to be seen.
+  const auto length = static_cast<int>(controls_.tUrl->text().size());
+  controls_.tUrl->setSelection(length, -length);
+  if (!isVisible()) {
+    adjustSize();
+    placeOver(*this, *parentWidget());
+    endModalityAt(*this);
+    show();
+  }
+  bringToFront(*this);
 }
 
 void SiteEditor::populateMe(std::int16_t idSite) {
@@ -102,11 +113,7 @@ bool SiteEditor::validate() {
   if (!controls_.cEmail->isChecked() || m::isEmail(controls_.tEmail->bytes())) {
     return true;
   }
-  const auto there = stillThere();
-  program_.services().prompts.inform("You must enter a valid email address.");
-  if (there()) {
-    turnTo(*controls_.tEmail);
-  }
+  tell(*this, program_, "You must enter a valid email address.", [this] { turnTo(*controls_.tEmail); });
   return false;
 }
 
@@ -124,31 +131,16 @@ bool SiteEditor::save() {
   return true;
 }
 
-std::function<bool()> SiteEditor::stillThere() {
-  return [self = QPointer<SiteEditor>(this), idSite = idSite_] {
-    return self != nullptr && self->isVisible() && self->idSite_ == idSite;
-  };
-}
-
 bool SiteEditor::changed() const {
   return shownSite(controls_, program_.data().fields().site, stored_) != loaded_ || postVars_.vars() != loadedVars_ ||
          controls_.options->isChanged();
 }
 
-bool SiteEditor::mayLeave() {
-  if (!changed()) {
-    return true;
-  }
-  // Escape answers No, and must not lose what was typed.
-  const QString question = tr("Do You Want To Discard The Changes To Site %1?").arg(idSite_);
-  const Services& services = program_.services();
-  return services.prompts.confirm(question.toStdString()) && !services.pump.closing();
-}
+QString SiteEditor::unsavedEdits() const { return changed() ? tr("site %1").arg(idSite_) : QString(); }
 
 void SiteEditor::Command1_Click() {
-  const auto there = stillThere();
   save();
-  if (there() && validate()) {
+  if (validate()) {
     unload();
   }
 }
@@ -159,7 +151,7 @@ void SiteEditor::Command2_Click() {
   }
   auto* content = new ContentDialog(program_, this);
   content->populateMe(idSite_);
-  openChild(*content, false);
+  openChild(*content);
 }
 
 void SiteEditor::Command3_Click() { save(); }
@@ -179,24 +171,20 @@ void SiteEditor::Command4_Click() {
 void SiteEditor::Command5_Click() { resetGrid1(); }
 
 void SiteEditor::Command6_Click() {
-  Program& program = program_;
-  const std::int16_t asked = idSite_;
-  const auto there = stillThere();
-  if (!program.services().prompts.confirm("Do You Want To Delete This Site?")) {
-    return;
-  }
-  program.data().deleteSite(asked);
-  if (there()) {
-    unload();
-  } else {
-    program.run().init();
-  }
+  const QString site = tr("Site %1: %2").arg(idSite_).arg(displayText(stored_.url));
+  ask(*this, program_, {.text = "Do You Want To Delete This Site?\n\n" + site.toStdString(), .destroys = true},
+      [this](bool yes) {
+        if (yes) {
+          program_.data().deleteSite(idSite_);
+          unload();
+        }
+      });
 }
 
 void SiteEditor::Command7_Click() {
   auto* counters = new CountersDialog(program_, this);
   counters->idSite = idSite_;
-  openChild(*counters, true);
+  openChild(*counters);
 }
 
 void SiteEditor::Command8_Click() { unload(); }
@@ -221,15 +209,10 @@ void SiteEditor::grid1_Click(int row) {
       program_.faults().run([this] { reloadPostVars(); });
     }
   });
-  openChild(*editor, false);
+  openChild(*editor);
 }
 
-void SiteEditor::openChild(QDialog& dialog, bool alone) {
-  child_ = &dialog;
-  const auto blocked = [this, alone](const QWidget& widget) {
-    return widget.window() == this || (alone && widget.window() == parentWidget()->window());
-  };
-  new InputBlock(dialog, blocked, &dialog);
+void SiteEditor::openChild(QDialog& dialog) {
   connect(&dialog, &QDialog::finished, this, [this, &dialog, focused = QPointer<QWidget>(focusWidget())] {
     if (program_.services().pump.closing()) {
       return;
@@ -240,12 +223,7 @@ void SiteEditor::openChild(QDialog& dialog, bool alone) {
       focused->setFocus();
     }
   });
-  dialog.show();
-  dialog.activateWindow();
-}
-
-void SiteEditor::bringToFront(QDialog& dialog) {
-  dialog.raise();
+  dialog.open();
   dialog.activateWindow();
 }
 
@@ -279,18 +257,6 @@ void SiteEditor::unload() {
     deleteLater();
     program_.run().init();
   }
-}
-
-std::function<void(std::int16_t)> siteEditorOf(Program& program, QWidget& parent) {
-  return [&program, &parent, editor = QPointer<SiteEditor>()](std::int16_t idSite) mutable {
-    if (editor != nullptr && editor->isVisible()) {
-      editor->editSite(idSite);
-      return;
-    }
-    auto fresh = std::make_unique<SiteEditor>(program, &parent);
-    fresh->editSite(idSite);
-    editor = fresh.release();
-  };
 }
 
 }  // namespace tarnwick

@@ -5,9 +5,9 @@
 #include <functional>
 #include <vector>
 #include <QDialog>
-#include <QPointer>
 
 #include "program/program.h"
+#include "ui/controls/boxes.h"
 #include "ui/site/post_var_model.h"
 #include "ui/site/site_editor_layout.h"
 
@@ -15,22 +15,27 @@ namespace tarnwick {
 
 /// The form `site`: one site with its POST variables, to be changed, saved and deleted, and the way to its content, its
 /// counters and the site itself. Not modal; a run goes on behind it. It takes itself down when it is closed.
-class SiteEditor final : public QDialog {
+class SiteEditor final : public QDialog, public UnsavedEdits {
   Q_OBJECT
 
  public:
   /// `program` outlives the editor. `parent` is the main window.
   SiteEditor(Program& program, QWidget* parent);
 
-  /// Shows the editor on a site. When it shows another one with changes that are not saved, the user is asked; while a
-  /// dialog of the editor is open, that one comes to the front and nothing else happens.
+  /// Shows the editor on a site. When it shows another one with changes that are not saved, the user is asked first;
+  /// while a box or dialog of the editor is open, that one comes to the front and nothing else happens.
   /// Raises DataAccessError, and std::runtime_error when there is no such site.
   void editSite(std::int16_t idSite);
+  /// The same for a site that `add` makes, once the editor is free for it. No pass takes that site before it has been
+  /// saved, or is not edited any more.
+  void editNew(const std::function<std::int16_t()>& add);
 
   /// Fills the controls with a site and its variables. Raises as `editSite` does.
   void populateMe(std::int16_t idSite);
   /// Empties the POST grid to its header.
   void resetGrid1();
+
+  QString unsavedEdits() const override;
 
   /// Cancel.
   void reject() override;
@@ -57,13 +62,11 @@ class SiteEditor final : public QDialog {
   bool validate();
   bool save();
   bool changed() const;
-  bool mayLeave();
-  /// What looks after a question whether this form is still there, shown, and on the same site: a pass that begins
-  /// while the question stands can outlast it.
-  std::function<bool()> stillThere();
-  /// Shows a dialog of this editor, which takes no input meanwhile; `alone`, nor does the main window.
-  void openChild(QDialog& dialog, bool alone);
-  void bringToFront(QDialog& dialog);
+  /// Calls `then` when the site shown may be left: nothing to save, or nothing that the user wants to keep.
+  void leaveSite(const std::function<void()>& then);
+  void showSiteOf(std::int16_t idSite);
+  /// Shows a dialog that this editor waits for.
+  void openChild(QDialog& dialog);
   void unload();
 
   Program& program_;
@@ -74,10 +77,6 @@ class SiteEditor final : public QDialog {
   SiteDraft stored_;
   SiteDraft loaded_;
   std::vector<PostVar> loadedVars_;
-  QPointer<QDialog> child_;
 };
-
-/// Opens the one site editor of `program` on the site given, above `parent`; made when it is first needed.
-std::function<void(std::int16_t idSite)> siteEditorOf(Program& program, QWidget& parent);
 
 }  // namespace tarnwick

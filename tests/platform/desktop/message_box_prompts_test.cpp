@@ -3,16 +3,20 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <optional>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
+#include <QMainWindow>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
+#include <QVBoxLayout>
+#include <QWindow>
 
 #include "platform/events/qt_event_loop.h"
 
@@ -21,111 +25,233 @@ namespace {
 
 class MessageBoxPromptsTest : public ::testing::Test {
  protected:
-  /// Calls `act` with the next dialog that stands on the desktop.
-  template <typename Dialog>
-  void whenOpen(const std::function<void(Dialog&)>& act) {
-    watch_.disconnect();
-    QObject::connect(&watch_, &QTimer::timeout, [this, act] {
-      for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (auto* dialog = qobject_cast<Dialog*>(window); dialog != nullptr && dialog->isVisible()) {
-          watch_.stop();
-          act(*dialog);
-          return;
-        }
-      }
-    });
-    watch_.start(5);
+  MessageBoxPromptsTest() {
+    form.setLayout(new QVBoxLayout);
+    form.layout()->addWidget(&button);
+    QObject::connect(&button, &QPushButton::clicked, [this] { ++clicks; });
+    mainWindow.show();
+    form.show();
+  }
+  ~MessageBoxPromptsTest() override {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      window->hide();
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
-  QtEventPump pump;
-  MessageBoxPrompts prompts{pump};
+  /// The dialog that stands on the desktop; fails the test when there is none.
+  template <typename Dialog>
+  static Dialog& standing() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (auto* dialog = qobject_cast<Dialog*>(window); dialog != nullptr && dialog->isVisible()) {
+        return *dialog;
+      }
+    }
+    throw std::runtime_error("No such dialog stands on the desktop.");
+  }
+  static int boxes() {
+    int count = 0;
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+      count += qobject_cast<const QMessageBox*>(window) != nullptr && window->isVisible() ? 1 : 0;
+    }
+    return count;
+  }
+  static void press(QMessageBox& box, QMessageBox::StandardButton button) {
+    QTest::mouseClick(box.button(button), Qt::LeftButton);
+  }
 
- private:
-  QTimer watch_;
+  QMainWindow mainWindow;
+  QWidget form;
+  QPushButton button{QStringLiteral("Delete")};
+  int clicks = 0;
+  QtEventPump pump;
+  MessageBoxPrompts desktop{pump};
+  Prompts& prompts = desktop;
 };
 
 TEST_F(MessageBoxPromptsTest, InformsWithPlainTextThatCanBeCopied) {
-  bool seen = false;
-  whenOpen<QMessageBox>([&](QMessageBox& box) {
-    seen = true;
-    EXPECT_EQ(box.text(), QStringLiteral("<b>no</b> mark-up"));
-    EXPECT_EQ(box.windowTitle(), QStringLiteral("Tarnwick"));
-    EXPECT_EQ(box.textFormat(), Qt::PlainText);
-    EXPECT_TRUE(box.textInteractionFlags() & Qt::TextSelectableByMouse);
-    EXPECT_EQ(box.icon(), QMessageBox::Critical);
-    QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
-  });
-  prompts.inform("<b>no</b> mark-up", kProductName, PromptIcon::error);
-  EXPECT_TRUE(seen);
+  bool closed = false;
+  prompts.inform({.text = "<b>no</b> mark-up", .icon = PromptIcon::error}, [&] { closed = true; });
+  auto& box = standing<QMessageBox>();
+  EXPECT_EQ(box.text(), QStringLiteral("<b>no</b> mark-up"));
+  EXPECT_EQ(box.windowTitle(), QStringLiteral("Tarnwick"));
+  EXPECT_EQ(box.textFormat(), Qt::PlainText);
+  EXPECT_TRUE(box.textInteractionFlags() & Qt::TextSelectableByMouse);
+  EXPECT_EQ(box.icon(), QMessageBox::Critical);
+  EXPECT_FALSE(closed) << "nobody has read it yet";
+  press(box, QMessageBox::Ok);
+  EXPECT_TRUE(closed);
+  EXPECT_EQ(boxes(), 0);
 }
 
 TEST_F(MessageBoxPromptsTest, ConfirmIsTrueOnYesOnly) {
-  whenOpen<QMessageBox>([](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton); });
-  EXPECT_TRUE(prompts.confirm("Sure?", kProductName, PromptIcon::question));
-  whenOpen<QMessageBox>([](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton); });
-  EXPECT_FALSE(prompts.confirm("Sure?", kProductName, PromptIcon::question));
-  whenOpen<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-  EXPECT_FALSE(prompts.confirm("Sure?", kProductName, PromptIcon::question));
+  std::optional<bool> answer;
+  const auto ask = [&] {
+    answer.reset();
+    prompts.confirm({.text = "Sure?"}, [&](bool yes) { answer = yes; });
+  };
+  ask();
+  EXPECT_FALSE(answer.has_value());
+  press(standing<QMessageBox>(), QMessageBox::Yes);
+  EXPECT_EQ(answer, true);
+  ask();
+  press(standing<QMessageBox>(), QMessageBox::No);
+  EXPECT_EQ(answer, false);
+  ask();
+  QTest::keyClick(&standing<QMessageBox>(), Qt::Key_Escape);
+  EXPECT_EQ(answer, false);
 }
 
-TEST_F(MessageBoxPromptsTest, OtherWindowsTakeNoInputMeanwhile) {
-  QPushButton elsewhere(QStringLiteral("Start"));
-  int clicks = 0;
-  QObject::connect(&elsewhere, &QPushButton::clicked, [&] { ++clicks; });
-  elsewhere.show();
-  whenOpen<QMessageBox>([&](QMessageBox& box) {
-    QTest::mouseClick(&elsewhere, Qt::LeftButton);
-    QTest::keyClick(&elsewhere, Qt::Key_Space);
-    box.reject();
-  });
-  prompts.inform("Wait.", kProductName, PromptIcon::none);
+TEST_F(MessageBoxPromptsTest, EnterDestroysNothing) {
+  std::optional<bool> answer;
+  prompts.confirm({.text = "Delete all?", .destroys = true}, [&](bool yes) { answer = yes; });
+  QTest::keyClick(&standing<QMessageBox>(), Qt::Key_Return);
+  EXPECT_EQ(answer, false);
+  prompts.confirm({.text = "Go on?"}, [&](bool yes) { answer = yes; });
+  QTest::keyClick(&standing<QMessageBox>(), Qt::Key_Return);
+  EXPECT_EQ(answer, true);
+}
+
+TEST_F(MessageBoxPromptsTest, TheFormThatAsksTakesNoInputMeanwhile) {
+  prompts.confirm({.text = "Sure?", .owner = &form}, [](bool) {});
+  const auto click = [this] {
+    QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, button.geometry().center());
+  };
+  click();
   EXPECT_EQ(clicks, 0);
-  QTest::mouseClick(&elsewhere, Qt::LeftButton);
+  press(standing<QMessageBox>(), QMessageBox::No);
+  click();
   EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(MessageBoxPromptsTest, TheMainWindowCanStillBeClosed) {
-  QWidget mainWindow;
-  mainWindow.show();
-  whenOpen<QMessageBox>([&](QMessageBox& box) {
-    EXPECT_FALSE(box.isModal());
-    EXPECT_TRUE(mainWindow.close());
-    box.reject();
-  });
-  prompts.inform("Wait.", kProductName, PromptIcon::none);
-  EXPECT_FALSE(mainWindow.isVisible());
+TEST_F(MessageBoxPromptsTest, NoBoxHoldsUpAnother) {
+  bool answered = false;
+  int closed = 0;
+  prompts.confirm({.text = "Clear?", .owner = &form}, [&](bool) { answered = true; });
+  auto& question = standing<QMessageBox>();
+  prompts.inform({.text = "The database is gone."}, [&] { ++closed; });
+  EXPECT_EQ(boxes(), 2);
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (auto* box = qobject_cast<QMessageBox*>(window); box != nullptr && box != &question && box->isVisible()) {
+      press(*box, QMessageBox::Ok);
+    }
+  }
+  EXPECT_EQ(closed, 1);
+  prompts.inform({.text = "It is still gone."}, [&] { ++closed; });
+  press(question, QMessageBox::No);
+  EXPECT_TRUE(answered) << "the other way round, too";
+  press(standing<QMessageBox>(), QMessageBox::Ok);
+  EXPECT_EQ(closed, 2);
+}
+
+TEST_F(MessageBoxPromptsTest, TheMainWindowIsBlockedByNothing) {
+  QPushButton stop(QStringLiteral("Stop"), &mainWindow);
+  int stopped = 0;
+  QObject::connect(&stop, &QPushButton::clicked, [&] { ++stopped; });
+  stop.show();
+  prompts.confirm({.text = "Sure?", .owner = &form}, [](bool) {});
+  prompts.inform({.text = "A fault."});
+  QTest::mouseClick(mainWindow.windowHandle(), Qt::LeftButton, {}, stop.geometry().center());
+  EXPECT_EQ(stopped, 1);
+}
+
+TEST_F(MessageBoxPromptsTest, ABoxGoesWithTheFormThatAskedAndIsNotAnswered) {
+  auto owner = std::make_unique<QWidget>();
+  owner->show();
+  bool answered = false;
+  prompts.confirm({.text = "Sure?", .owner = owner.get()}, [&](bool) { answered = true; });
+  owner.reset();
+  EXPECT_EQ(boxes(), 0);
+  EXPECT_FALSE(answered);
+}
+
+TEST_F(MessageBoxPromptsTest, WhatIsToldByAFormThatHasBeenClosedIsStillTold) {
+  form.hide();
+  prompts.inform({.text = "Too late, but true.", .owner = &form});
+  EXPECT_EQ(boxes(), 1);
+  press(standing<QMessageBox>(), QMessageBox::Ok);
 }
 
 TEST_F(MessageBoxPromptsTest, WhileTheProgramIsClosedNobodyIsAsked) {
+  bool answered = false;
+  prompts.confirm({.text = "Sure?", .owner = &form}, [&](bool) { answered = true; });
+  auto& box = standing<QMessageBox>();
   pump.close();
-  prompts.inform("Too late.", kProductName, PromptIcon::error);
-  EXPECT_FALSE(prompts.confirm("Too late?", kProductName, PromptIcon::question));
-  EXPECT_FALSE(prompts.chooseFile("/", "Audio Files (*.wav)|*.wav").has_value());
+  box.reject();
+  prompts.inform({.text = "Too late."}, [&] { answered = true; });
+  prompts.confirm({.text = "Too late?"}, [&](bool) { answered = true; });
+  prompts.chooseFile({.folder = "/", .filter = "Audio Files (*.wav)|*.wav"}, [&](const auto&) { answered = true; });
+  EXPECT_EQ(boxes(), 0);
+  EXPECT_FALSE(answered);
 }
 
-TEST_F(MessageBoxPromptsTest, AChosenFileIsGivenWithItsFullPath) {
+class FileChoiceTest : public MessageBoxPromptsTest {
+ protected:
+  void SetUp() override {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  }
+  QFileDialog& choose(const std::string& filter) {
+    prompts.chooseFile({.folder = folder.path().toStdString(), .filter = filter, .owner = &form},
+                       [this](const std::string& file) { chosen = file; });
+    return standing<QFileDialog>();
+  }
+
   const QTemporaryDir folder;
-  const QString path = folder.filePath(QStringLiteral("alarm.wav"));
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.close();
-  QStringList filters;
-  whenOpen<QFileDialog>([&](QFileDialog& dialog) {
-    filters = dialog.nameFilters();
-    dialog.selectFile(path);
-    static_cast<QDialog&>(dialog).accept();
-  });
-  EXPECT_EQ(prompts.chooseFile(folder.path().toStdString(), "Audio Files (*.wav;*.au)|*.wav;*.au"),
-            QDir::toNativeSeparators(path).toStdString());
-  EXPECT_EQ(filters.value(0), QStringLiteral("Audio Files (*.wav *.au)"));
+  const QString path = folder.filePath(QStringLiteral("impatient.wav"));
+  std::optional<std::string> chosen;
+};
+
+TEST_F(FileChoiceTest, AChosenFileIsGivenWithItsFullPath) {
+  QFileDialog& dialog = choose("Audio Files (*.wav;*.au)|*.wav;*.au");
+  EXPECT_EQ(dialog.nameFilters().value(0), QStringLiteral("Audio Files (*.wav *.au)"));
 #ifndef Q_OS_WIN
-  EXPECT_EQ(filters.value(1), QStringLiteral("All Files (*)")) << "a program without an ending can be chosen";
+  EXPECT_EQ(dialog.nameFilters().value(1), QStringLiteral("All Files (*)"));
 #endif
+  dialog.selectFile(path);
+  static_cast<QDialog&>(dialog).accept();
+  EXPECT_EQ(chosen, QDir::toNativeSeparators(path).toStdString());
 }
 
-TEST_F(MessageBoxPromptsTest, ACancelledChoiceIsNothing) {
-  whenOpen<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
-  EXPECT_FALSE(prompts.chooseFile("/", "Audio Files (*.wav)|*.wav").has_value());
+// The list that completes a name drops down in a window without a parent, which takes all input of the desktop.
+TEST_F(FileChoiceTest, AFileIsChosenByTypingTheBeginningOfItsName) {
+  QFileDialog& dialog = choose("Audio Files (*.wav)|*.wav");
+  const QPointer<QLineEdit> name(dialog.findChild<QLineEdit*>());
+  ASSERT_NE(name, nullptr);
+  name->setFocus();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  ASSERT_TRUE(QTest::qWaitFor([&] {
+    name->clear();
+    QTest::keyClicks(name, QStringLiteral("im"));
+    return QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }, 200);
+  })) << "no list dropped down";
+  const QPointer<QWidget> list(QApplication::activePopupWidget());
+  QTest::keyClick(list, Qt::Key_Down);
+  ASSERT_NE(list, nullptr);
+  QTest::keyClick(list, Qt::Key_Return);
+  EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() == nullptr; }));
+  if (name != nullptr && name->isVisible()) {
+    QTest::keyClick(name, Qt::Key_Return);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([&] { return chosen.has_value(); }));
+  EXPECT_EQ(chosen, QDir::toNativeSeparators(path).toStdString());
+}
+
+TEST_F(FileChoiceTest, FilesAreLookedForHereNotChanged) {
+  EXPECT_TRUE(choose("Audio Files (*.wav)|*.wav").testOption(QFileDialog::ReadOnly));
+}
+
+#ifndef Q_OS_WIN
+TEST_F(FileChoiceTest, ProgramsAreThoseOfThisSystemFirst) {
+  const QStringList filters = choose("Program Files (*.exe;*.bat;*.vbs)|*.exe;*.bat;*.vbs").nameFilters();
+  EXPECT_EQ(filters,
+            (QStringList{QStringLiteral("Programs (*)"), QStringLiteral("Program Files (*.exe *.bat *.vbs)")}));
+}
+#endif
+
+TEST_F(FileChoiceTest, ACancelledChoiceIsNothing) {
+  choose("Audio Files (*.wav)|*.wav").reject();
+  EXPECT_FALSE(chosen.has_value());
 }
 
 }  // namespace

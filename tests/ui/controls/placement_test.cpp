@@ -11,15 +11,17 @@ namespace {
 // A screen to the left of the main one, so that positions on it are negative.
 const QRect kScreen(-1000, 100, 1000, 800);
 
-TEST(Placement, AWishInsideTheScreenIsKept) { EXPECT_EQ(keptOn(kScreen, {-700, 200}, {300, 200}), QPoint(-700, 200)); }
+TEST(Placement, AWishInsideTheScreenIsKept) {
+  EXPECT_EQ(clampedTo(kScreen, {-700, 200}, {300, 200}), QPoint(-700, 200));
+}
 
 TEST(Placement, AWindowThatWouldReachOverAnEdgeIsMovedBack) {
-  EXPECT_EQ(keptOn(kScreen, {-100, 850}, {300, 200}), QPoint(-300, 700));
-  EXPECT_EQ(keptOn(kScreen, {-2000, -50}, {300, 200}), QPoint(-1000, 100));
+  EXPECT_EQ(clampedTo(kScreen, {-100, 850}, {300, 200}), QPoint(-300, 700));
+  EXPECT_EQ(clampedTo(kScreen, {-2000, -50}, {300, 200}), QPoint(-1000, 100));
 }
 
 TEST(Placement, ALargerWindowKeepsItsTitleBarOnTheScreen) {
-  EXPECT_EQ(keptOn(kScreen, {-500, 300}, {2000, 2000}), QPoint(-1000, 100));
+  EXPECT_EQ(clampedTo(kScreen, {-500, 300}, {2000, 2000}), QPoint(-1000, 100));
 }
 
 TEST(Placement, AWindowIsMadeToFitTheScreenOfItsParent) {

@@ -60,7 +60,8 @@ TEST_F(MasterGridTest, NewAddsASiteAndSelectsIt) {
 TEST_F(MasterGridTest, NewOpensTheEditorOnTheFreshSite) {
   open();
   std::vector<int> edited;
-  master->setEditors({.site = [&](std::int16_t idSite) { edited.push_back(idSite); }, .settings = {}});
+  master->setEditors(
+      {.site = {.open = {}, .openNew = [&](const auto& add) { edited.push_back(add()); }}, .settings = {}});
   click("btnNew");
   click("imgNew");
   EXPECT_EQ(edited, (std::vector<int>{1, 2}));
@@ -79,7 +80,8 @@ TEST_F(MasterGridTest, AClickAndEnterOpenTheEditorOfTheRow) {
   addSite(9, "http://localhost/b");
   open();
   std::vector<int> edited;
-  master->setEditors({.site = [&](std::int16_t idSite) { edited.push_back(idSite); }, .settings = {}});
+  master->setEditors(
+      {.site = {.open = [&](std::int16_t idSite) { edited.push_back(idSite); }, .openNew = {}}, .settings = {}});
   auto& grid = find<SiteGridView>("grid1");
   QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(1, 1)).center());
   QTest::keyClick(&grid, Qt::Key_Up);
@@ -90,7 +92,8 @@ TEST_F(MasterGridTest, AClickAndEnterOpenTheEditorOfTheRow) {
 TEST_F(MasterGridTest, AnEditorThatFailsIsToldInOneBox) {
   addSite(3, "http://localhost/a");
   open();
-  master->setEditors({.site = [](std::int16_t) { throw std::runtime_error("no such luck"); }, .settings = {}});
+  master->setEditors({.site = {.open = [](std::int16_t) { throw std::runtime_error("no such luck"); }, .openNew = {}},
+                      .settings = {}});
   auto& grid = find<SiteGridView>("grid1");
   QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(0, 1)).center());
   EXPECT_EQ(machine.prompts.texts(), (std::vector<std::string>{"no such luck"}));

@@ -1,26 +1,27 @@
 // SPDX-License-Identifier: MIT
-// A question that is answered while a pass is on which began behind it: the answer reaches the form that asked only
-// when the pass ends, and the form may have been closed, or show another site by then.
-#include <functional>
-#include <utility>
+// The real boxes of the desktop while a run is on: none of them holds up a pass, another box, or the end of the
+// program.
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
 
 #include "platform/desktop/message_box_prompts.h"
 #include "support/wait_until.h"
+#include "ui/settings/control_dialog.h"
 #include "ui/support/dialog_fixture.h"
 
 namespace tarnwick {
 namespace {
 
 using testing::DialogTest;
+using testing::waitUntil;
 
 class QuestionsInARunTest : public DialogTest {
  protected:
   void SetUp() override {
-    server.respond("/slow", {.body = "slow page"});
+    server.respond("/slow", {.body = "slow page", .hold = true});
     server.respond("/page", {.body = "a page"});
     addSite(1, server.url("/slow"));
     addSite(7, server.url("/page"));
@@ -28,86 +29,166 @@ class QuestionsInARunTest : public DialogTest {
     ASSERT_TRUE(master->load());
     master->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(master.get()));
-    master->setEditors({siteEditorOf(master->program(), *master), {}});
-    click("btnStart");
-    server.respond("/slow", {.body = "slow page", .hold = true});
-    clickRow(0);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&opened<SiteEditor>()));
+    master->setEditors({siteEditorOf(master->program(), *master), settingsDialogOf(master->program(), *master)});
   }
 
-  /// Presses Delete on site 1. While its box stands a pass begins; then the box is answered, `afterwards` is done, and
-  /// only then the pass can end.
-  void deleteAndAnswerInAPass(QMessageBox::StandardButton answer, const std::function<void()>& afterwards) {
-    QTimer beginPass;
-    QTimer answerBox;
-    QTimer endPass;
-    QObject::connect(&beginPass, &QTimer::timeout, [&] {
-      if (box() != nullptr) {
-        beginPass.stop();
-        folder.execute("update sites set lastChecked = '2020-01-01 00:00:00' where idSite = 1");
-        master->program().run().init();
-        answerBox.start(5);
-      }
-    });
-    QObject::connect(&answerBox, &QTimer::timeout, [&] {
-      if (server.requestsFor("/slow").size() == 2) {
-        answerBox.stop();
-        QTest::mouseClick(box()->button(answer), Qt::LeftButton);
-        endPass.start(5);
-      }
-    });
-    const QPointer<SiteEditor> editor(&opened<SiteEditor>());
-    bool acted = false;
-    QObject::connect(&endPass, &QTimer::timeout, [&] {
-      if (!std::exchange(acted, true)) {
-        EXPECT_EQ(box(), nullptr);
-        afterwards();
-      } else if (editor == nullptr || editor->isVisible()) {
-        // What was closed has been taken down.
-        endPass.stop();
+  /// Starts a run; once the pass waits for site 1, `question` is put and left open. True when the pass has ended all
+  /// the same, with its result recorded.
+  bool passEndsBehind(const std::function<void()>& question) {
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+      if (!server.requestsFor("/slow").empty()) {
+        watch.stop();
+        question();
         server.release();
       }
     });
-    beginPass.start(5);
-    press(opened<SiteEditor>(), "Command6");
-    EXPECT_FALSE(endPass.isActive());
+    watch.start(5);
+    click("btnStart");
+    return !master->program().run().busy() && column(1, "success") == "1";
   }
 
-  static QMessageBox* box() {
+  template <typename Dialog>
+  static Dialog* standing() {
     for (QWidget* window : QApplication::topLevelWidgets()) {
-      if (auto* found = qobject_cast<QMessageBox*>(window); found != nullptr && found->isVisible()) {
+      if (auto* found = qobject_cast<Dialog*>(window); found != nullptr && found->isVisible()) {
         return found;
       }
     }
     return nullptr;
   }
-
+  static void answer(QMessageBox::StandardButton button) {
+    QTest::mouseClick(standing<QMessageBox>()->button(button), Qt::LeftButton);
+  }
   std::string sites() const { return folder.queryText("select group_concat(idSite) from sites"); }
 
  private:
   MessageBoxPrompts prompts_{machine.pump};
 };
 
-TEST_F(QuestionsInARunTest, TheSiteThatWasAskedAboutIsDeletedThoughTheFormShowsAnotherByThen) {
-  deleteAndAnswerInAPass(QMessageBox::Yes, [&] { clickRow(1); });
-  EXPECT_EQ(sites(), "7");
-  EXPECT_EQ(in<QGroupBox>(opened<SiteEditor>(), "Frame1").title().toStdString(), "Site ID: 7");
+TEST_F(QuestionsInARunTest, ThePassEndsBehindAnOpenQuestion) {
+  EXPECT_TRUE(passEndsBehind([&] {
+    clickRow(1);
+    press(opened<SiteEditor>(), "Command6");
+  }));
+  ASSERT_NE(standing<QMessageBox>(), nullptr);
+  EXPECT_EQ(sites(), "1,7") << "nobody has answered yet";
+  answer(QMessageBox::Yes);
+  EXPECT_EQ(sites(), "1");
   EXPECT_EQ(rows(), 1);
+  EXPECT_EQ(shown<SiteEditor>(), nullptr);
 }
 
-TEST_F(QuestionsInARunTest, TheSiteIsDeletedThoughTheFormHasBeenClosed) {
-  const QPointer<SiteEditor> editor(&opened<SiteEditor>());
-  deleteAndAnswerInAPass(QMessageBox::Yes, [&] { press(opened<SiteEditor>(), "Command8"); });
-  EXPECT_TRUE(editor.isNull());
-  EXPECT_EQ(sites(), "7");
-  EXPECT_EQ(rows(), 1);
+TEST_F(QuestionsInARunTest, ThePassEndsBehindAnOpenFileChooser) {
+  EXPECT_TRUE(passEndsBehind([&] {
+    click("btnSetup");
+    press(opened<ControlDialog>(), "Command6");
+  }));
+  ASSERT_NE(standing<QFileDialog>(), nullptr);
+  standing<QFileDialog>()->reject();
 }
 
-TEST_F(QuestionsInARunTest, NothingIsDeletedAfterNoThoughTheFormHasBeenClosed) {
-  const QPointer<SiteEditor> editor(&opened<SiteEditor>());
-  deleteAndAnswerInAPass(QMessageBox::No, [&] { press(opened<SiteEditor>(), "Command8"); });
-  EXPECT_TRUE(editor.isNull());
+TEST_F(QuestionsInARunTest, ThePassEndsBehindTheQuestionOfTheSettings) {
+  EXPECT_TRUE(passEndsBehind([&] {
+    click("btnSetup");
+    press(opened<ControlDialog>(), "Command3");
+  }));
+  EXPECT_EQ(folder.queryText("select count(*) from log"), "2");
+  answer(QMessageBox::Yes);
+  EXPECT_EQ(folder.queryText("select count(*) from log"), "0");
+  answer(QMessageBox::Ok);
+  EXPECT_EQ(in<QLabel>(opened<ControlDialog>(), "lblLogs").text().toStdString(), "Complete");
+}
+
+TEST_F(QuestionsInARunTest, TheSiteThatTheQuestionIsAboutStaysInItsForm) {
+  server.release();
+  clickRow(0);
+  press(opened<SiteEditor>(), "Command6");
+  clickRow(1);
+  EXPECT_EQ(in<QGroupBox>(opened<SiteEditor>(), "Frame1").title().toStdString(), "Site ID: 1");
+  press(opened<SiteEditor>(), "Command8");
+  EXPECT_NE(shown<SiteEditor>(), nullptr) << "it waits for the answer";
+  answer(QMessageBox::Yes);
+  EXPECT_EQ(sites(), "7");
+}
+
+TEST_F(QuestionsInARunTest, NewAddsNothingWhileTheEditorWaitsForAnswerOrDialog) {
+  server.release();
+  clickRow(0);
+  type(opened<SiteEditor>(), "tUrl", "http://typed.test/");
+  click("btnNew");
+  ASSERT_NE(standing<QMessageBox>(), nullptr);
+  click("btnNew");
+  answer(QMessageBox::No);
   EXPECT_EQ(sites(), "1,7");
+  EXPECT_EQ(text(opened<SiteEditor>(), "tUrl"), "http://typed.test/");
+  press(opened<SiteEditor>(), "Command2");
+  click("btnNew");
+  EXPECT_EQ(sites(), "1,7") << "the content of site 1 is being edited";
+  press(opened<ContentDialog>(), "btnCancel");
+  click("btnNew");
+  EXPECT_EQ(sites(), "1,7,8");
+  EXPECT_EQ(in<QGroupBox>(opened<SiteEditor>(), "Frame1").title().toStdString(), "Site ID: 8");
+}
+
+TEST_F(QuestionsInARunTest, AFaultIsToldBesideAnOpenQuestionAndBothCanBeAnswered) {
+  server.release();
+  click("btnSetup");
+  press(opened<ControlDialog>(), "Command3");
+  QPointer<QMessageBox> question(standing<QMessageBox>());
+  folder.execute("alter table sites rename to gone");
+  click("btnStart");
+  QMessageBox* fault = nullptr;
+  for (auto* box : master->findChildren<QMessageBox*>(QString(), Qt::FindDirectChildrenOnly)) {
+    fault = box;
+  }
+  ASSERT_NE(fault, nullptr);
+  QTest::mouseClick(fault->button(QMessageBox::Ok), Qt::LeftButton);
+  EXPECT_FALSE(fault->isVisible());
+  QTest::mouseClick(question->button(QMessageBox::No), Qt::LeftButton);
+  EXPECT_TRUE(question == nullptr || !question->isVisible());
+}
+
+TEST_F(QuestionsInARunTest, TheWindowIsClosedOverEveryBox) {
+  server.release();
+  clickRow(0);
+  press(opened<SiteEditor>(), "Command6");
+  click("btnSetup");
+  press(opened<ControlDialog>(), "Command6");
+  ASSERT_NE(standing<QFileDialog>(), nullptr);
+  EXPECT_TRUE(master->close());
+  EXPECT_EQ(standing<QMessageBox>(), nullptr);
+  EXPECT_EQ(standing<QFileDialog>(), nullptr);
+  EXPECT_EQ(sites(), "1,7");
+}
+
+TEST_F(QuestionsInARunTest, ClosingAsksAboutWhatIsNotStored) {
+  server.release();
+  clickRow(0);
+  type(opened<SiteEditor>(), "tUrl", "http://typed.test/");
+  click("btnSetup");
+  type(opened<ControlDialog>(), "tEmail", "me@example.org");
+  EXPECT_FALSE(master->close());
+  ASSERT_NE(standing<QMessageBox>(), nullptr);
+  EXPECT_EQ(standing<QMessageBox>()->text().toStdString(),
+            "These changes are not stored: site 1, the settings.\n\nDo You Want To Discard Them And Close Tarnwick?");
+  QTest::keyClick(standing<QMessageBox>(), Qt::Key_Return);
+  EXPECT_TRUE(master->isVisible());
+  EXPECT_EQ(text(opened<SiteEditor>(), "tUrl"), "http://typed.test/");
+  EXPECT_FALSE(master->close()) << "asked anew after No";
+  answer(QMessageBox::Yes);
+  EXPECT_TRUE(waitUntil([&] { return !master->isVisible(); }));
+  EXPECT_EQ(column(1, "url"), server.url("/slow"));
+}
+
+TEST_F(QuestionsInARunTest, ClosingOnceMoreIsAnAnswerToo) {
+  server.release();
+  clickRow(0);
+  type(opened<SiteEditor>(), "tUrl", "http://typed.test/");
+  EXPECT_FALSE(master->close());
+  EXPECT_TRUE(master->close());
+  EXPECT_EQ(standing<QMessageBox>(), nullptr);
+  EXPECT_FALSE(master->isVisible());
 }
 
 }  // namespace

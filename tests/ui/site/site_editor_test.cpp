@@ -331,7 +331,8 @@ TEST_F(SiteEditorTest, DeleteAsksFirst) {
   auto& editor = openEditor();
   machine.prompts.answerConfirm(false);
   press(editor, "Command6");
-  EXPECT_EQ(machine.prompts.texts(), Strings{"Do You Want To Delete This Site?"});
+  EXPECT_EQ(machine.prompts.texts(), Strings{"Do You Want To Delete This Site?\n\nSite 1: http://one.test/"});
+  EXPECT_TRUE(machine.prompts.shown()[0].destroys);
   EXPECT_TRUE(editor.isVisible());
   EXPECT_EQ(rows(), 1);
   machine.prompts.answerConfirm(true);

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QKeySequence>
 #include <QLabel>
+#include <QWindow>
 
 namespace tarnwick::testing {
 
@@ -26,6 +27,11 @@ SiteEditor& DialogTest::openEditor() {
     throw std::runtime_error("The editor did not become the active window.");
   }
   return editor;
+}
+
+void DialogTest::clickOn(QWidget& control) {
+  QWidget& window = *control.window();
+  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, control.mapTo(&window, control.rect().center()));
 }
 
 void DialogTest::type(QWidget& form, const char* name, const std::string& text) {

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "ui/controls/boxes.h"
+
+#include <utility>
+#include <QPointer>
+#include <QWindow>
+
+namespace tarnwick {
+
+void tell(QWidget& form, Program& program, const std::string& text, std::function<void()> closed) {
+  program.services().prompts.inform({.text = text, .owner = &form},
+                                    [standing = QPointer<QWidget>(&form), &program, closed = std::move(closed)] {
+                                      if (closed && standing != nullptr && standing->isVisible()) {
+                                        program.faults().run(closed);
+                                      }
+                                    });
+}
+
+void ask(QWidget& form, Program& program, Message question, std::function<void(bool yes)> answered) {
+  question.icon = PromptIcon::question;
+  question.owner = &form;
+  program.services().prompts.confirm(
+      question, [standing = QPointer<QWidget>(&form), &program, answered = std::move(answered)](bool yes) {
+        if (standing != nullptr && standing->isVisible()) {
+          program.faults().run([&] { answered(yes); });
+        }
+      });
+}
+
+QDialog* dialogBefore(const QWidget& form) {
+  for (auto* dialog : form.findChildren<QDialog*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (dialog->isVisible()) {
+      return dialog;
+    }
+  }
+  return nullptr;
+}
+
+void bringToFront(QWidget& window) {
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.raise();
+  window.activateWindow();
+}
+
+void endModalityAt(QDialog& form) {
+  form.winId();
+  form.windowHandle()->setTransientParent(nullptr);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <QDialog>
+#include <QString>
+
+#include "program/program.h"
+
+namespace tarnwick {
+
+/// Shows `text` in a box that `form` waits for; `closed` follows, if the form still stands. Its failure ends in a box.
+void tell(QWidget& form, Program& program, const std::string& text, std::function<void()> closed = {});
+
+/// Asks in the same way. `question` needs no owner and no icon.
+void ask(QWidget& form, Program& program, Message question, std::function<void(bool yes)> answered);
+
+/// The box, file chooser or dialog that `form` waits for; null when there is none.
+QDialog* dialogBefore(const QWidget& form);
+
+/// Puts a window before the others, out of the task bar too.
+void bringToFront(QWidget& window);
+
+/// Leaves the windows above `form` to the user while a box stands before the form: the toolkit's modality, which
+/// follows the chain of owners, would block them all, and with the main window the end of the program. To be called
+/// before the form is shown. It still goes with its parent.
+void endModalityAt(QDialog& form);
+
+/// A form that may hold what is not stored yet.
+class UnsavedEdits {
+ public:
+  virtual ~UnsavedEdits() = default;
+  /// What would be lost, in words; empty for nothing.
+  virtual QString unsavedEdits() const = 0;
+};
+
+}  // namespace tarnwick

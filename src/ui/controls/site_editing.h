@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+namespace tarnwick {
+
+/// The editor of sites, as those know it who open it.
+struct SiteEditing {
+  /// Opens it on a site.
+  std::function<void(std::int16_t idSite)> open;
+  /// Opens it on a site that `add` makes, if and when it is free for that.
+  std::function<void(const std::function<std::int16_t()>& add)> openNew;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "ui/site/one_site_editor.h"
+
+#include <memory>
+#include <QPointer>
+
+#include "ui/site/site_editor.h"
+
+namespace tarnwick {
+
+SiteEditing siteEditorOf(Program& program, QWidget& parent) {
+  // The one that is shown stays until its site may be left; one that has been closed may not have been taken down yet.
+  const auto editing = [&program, &parent, shown = std::make_shared<QPointer<SiteEditor>>()](
+                           const std::function<void(SiteEditor&)>& edit) {
+    if (*shown != nullptr && (*shown)->isVisible()) {
+      edit(**shown);
+      return;
+    }
+    auto fresh = std::make_unique<SiteEditor>(program, &parent);
+    edit(*fresh);
+    *shown = fresh.release();
+  };
+  return {.open = [editing](std::int16_t idSite) { editing([&](SiteEditor& editor) { editor.editSite(idSite); }); },
+          .openNew =
+              [editing](const std::function<std::int16_t()>& add) {
+                editing([&](SiteEditor& editor) { editor.editNew(add); });
+              }};
+}
+
+}  // namespace tarnwick
