@@ -59,14 +59,6 @@ bool lockAlone(const std::string& path, int descriptor) {
   throw NoFileLocks(path, std::generic_category().message(cause));
 }
 
-/// Whether the open file still has this name.
-bool isAt(const std::string& path, int descriptor) {
-  struct stat opened {};
-  struct stat named {};
-  return ::fstat(descriptor, &opened) == 0 && ::lstat(pathOf(path).c_str(), &named) == 0 &&
-         opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
-}
-
 // Gives a file the owner and the group of another one, as far as this user may. False when it has another group then.
 bool takeOwners(int descriptor, const struct stat& model) {
   constexpr uid_t kAsItIs = static_cast<uid_t>(-1);
@@ -156,6 +148,13 @@ FileHandle openNewFile(const std::string& path, const std::string& like) {
   return file;
 }
 
+bool standsAt(std::FILE* file, const std::string& path) {
+  struct stat opened {};
+  struct stat named {};
+  return ::fstat(fileno(file), &opened) == 0 && ::lstat(pathOf(path).c_str(), &named) == 0 &&
+         opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+}
+
 FileHandle openAlone(const std::string& path) {
   for (;;) {
     FileHandle file = openWith(path, O_RDWR | O_CREAT | O_NOFOLLOW, S_IRUSR | S_IWUSR);
@@ -164,7 +163,7 @@ FileHandle openAlone(const std::string& path) {
       return nullptr;
     }
     // Who had it may have removed it before it was let go.
-    if (isAt(path, descriptor)) {
+    if (standsAt(file.get(), path)) {
       if (::fchmod(descriptor, S_IRUSR | S_IWUSR) != 0 || ::ftruncate(descriptor, 0) != 0) {
         fail(path, errno);
       }

@@ -234,6 +234,9 @@ FileHandle openAlone(const std::string& path) {
   return nullptr;
 }
 
+// Who has it so keeps everybody from renaming and removing it.
+bool standsAt(std::FILE* /*file*/, const std::string& path) { return LocalFiles().exists(path); }
+
 void syncToDisk(std::FILE* file, const std::string& path) {
   if (std::fflush(file) != 0 || _commit(_fileno(file)) != 0) {
     throw FileError(path, std::generic_category().message(errno));

@@ -40,6 +40,9 @@ class NoFileLocks : public FileError {
 /// removed it goes when it is closed.
 FileHandle openAlone(const std::string& path);
 
+/// Whether the open file still has this name, and no other one has been given it.
+bool standsAt(std::FILE* file, const std::string& path);
+
 /// Waits until the disk holds what has been written. `path` is for the error.
 void syncToDisk(std::FILE* file, const std::string& path);
 

@@ -73,8 +73,10 @@ class FileRunLock final : public RunLock {
     LocalFiles files;
     if (file_ && files.replacesOpenFiles()) {
       try {
-        // While it is still locked: afterwards it may be another one's.
-        files.remove(path_);
+        // While it is still locked: afterwards it may be another one's. So it is where somebody has taken it away.
+        if (standsAt(file_.get(), path_)) {
+          files.remove(path_);
+        }
       } catch (const std::exception&) {
         // One that is left does not count.
       }

@@ -64,6 +64,15 @@ TEST_F(RunLockTest, LeavesNothingInTheFolder) {
   EXPECT_FALSE(std::filesystem::exists(folder.file("tarnwick.lock")));
 }
 
+TEST_F(RunLockTest, LeavesTheOneOfAnotherRunAloneThatTookItsPlace) {
+  SKIP_ON_WINDOWS("There nobody can remove the file.");
+  first.take();
+  std::filesystem::remove(folder.file("tarnwick.lock"));
+  second.take();
+  first.release();
+  EXPECT_THROW(first.take(), std::runtime_error);
+}
+
 TEST_F(RunLockTest, IsAFileOfItsOwnerAlone) {
   SKIP_ON_WINDOWS("There a file takes its rights from its folder.");
   namespace fs = std::filesystem;
