@@ -591,6 +591,14 @@
         <source>Programs (*)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pages only</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>
@@ -973,9 +981,16 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
 </context>
 <context>
-    <name>tarnwick::SiteReason</name>
+    <name>tarnwick::StatusLine</name>
     <message>
-        <source>Site %1: %2</source>
+        <source>Status: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::VarsForm</name>
+    <message>
+        <source>Command1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -591,6 +591,14 @@
         <source>Programs (*)</source>
         <translation>Programme (*)</translation>
     </message>
+    <message>
+        <source>at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pages only</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>
@@ -975,10 +983,17 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     </message>
 </context>
 <context>
-    <name>tarnwick::SiteReason</name>
+    <name>tarnwick::StatusLine</name>
     <message>
-        <source>Site %1: %2</source>
-        <translation>Site %1: %2</translation>
+        <source>Status: %1</source>
+        <translation>Status: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::VarsForm</name>
+    <message>
+        <source>Command1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

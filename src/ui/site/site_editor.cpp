@@ -49,7 +49,11 @@ void SiteEditor::editSite(std::int16_t idSite) {
 }
 
 void SiteEditor::editNew(const std::function<std::int16_t()>& add) {
-  leaveSite([this, add] { showSiteOf(add()); });
+  leaveSite([this, add] {
+    const std::int16_t idSite = add();
+    showSiteOf(idSite);
+    program_.run().beingTyped(idSite);
+  });
 }
 
 void SiteEditor::leaveSite(const std::function<void()>& then) {
@@ -71,6 +75,7 @@ void SiteEditor::leaveSite(const std::function<void()>& then) {
 }
 
 void SiteEditor::showSiteOf(std::int16_t idSite) {
+  program_.run().beingTyped(std::nullopt);
   populateMe(idSite);
   controls_.tUrl->setFocus();
   // All of it, ready to be typed over, and its beginning to be seen.
@@ -128,6 +133,7 @@ bool SiteEditor::save() {
   whole.commit();
   stored_ = loaded_ = site;
   loadedVars_ = postVars_.vars();
+  program_.run().beingTyped(std::nullopt);
   return true;
 }
 
@@ -255,6 +261,7 @@ void SiteEditor::unload() {
   // While the program is being closed a handler of this form may still be on its way back from a box.
   if (!program_.services().pump.closing()) {
     deleteLater();
+    program_.run().beingTyped(std::nullopt);
     program_.run().init();
   }
 }

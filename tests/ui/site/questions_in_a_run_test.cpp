@@ -131,6 +131,20 @@ TEST_F(QuestionsInARunTest, NewAddsNothingWhileTheEditorWaitsForAnswerOrDialog) 
   EXPECT_EQ(in<QGroupBox>(opened<SiteEditor>(), "Frame1").title().toStdString(), "Site ID: 8");
 }
 
+TEST_F(QuestionsInARunTest, ASiteThatIsBeingTypedIsNotTestedBeforeItIsStored) {
+  server.respond("/slow", {.body = "slow page"});
+  click("btnNew");
+  type(opened<SiteEditor>(), "tUrl", server.url("/page"));
+  click("btnStart");
+  EXPECT_EQ(column(7, "success"), "1");
+  EXPECT_EQ(column(8, "success"), "NULL");
+  press(opened<SiteEditor>(), "Command3");
+  click("btnStop");
+  click("btnStart");
+  EXPECT_EQ(column(8, "success"), "1");
+  EXPECT_EQ(column(8, "content_compare"), "a page");
+}
+
 TEST_F(QuestionsInARunTest, AFaultIsToldBesideAnOpenQuestionAndBothCanBeAnswered) {
   server.release();
   click("btnSetup");

@@ -16,6 +16,7 @@
 #include "ui/baseline/content_dialog.h"
 #include "ui/site/counters_dialog.h"
 #include "ui/site/new_post_var.h"
+#include "ui/site/one_site_editor.h"
 #include "ui/site/site_editor.h"
 #include "ui/support/master_fixture.h"
 
