@@ -2,6 +2,7 @@
 #include "ui/controls/boxes.h"
 
 #include <utility>
+#include <QApplication>
 #include <QPointer>
 #include <QWindow>
 
@@ -40,6 +41,19 @@ void bringToFront(QWidget& window) {
   window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
   window.raise();
   window.activateWindow();
+}
+
+QString everyUnsavedEdit() {
+  QStringList all;
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    const auto* form = dynamic_cast<const UnsavedEdits*>(window);
+    if (const QString edits = form != nullptr && window->isVisible() ? form->unsavedEdits() : QString();
+        !edits.isEmpty()) {
+      all.append(edits);
+    }
+  }
+  all.sort();
+  return all.join(QStringLiteral(", "));
 }
 
 void endModalityAt(QDialog& form) {

@@ -35,4 +35,7 @@ class UnsavedEdits {
   virtual QString unsavedEdits() const = 0;
 };
 
+/// What all forms that are open would lose if the program ended now.
+QString everyUnsavedEdit();
+
 }  // namespace tarnwick

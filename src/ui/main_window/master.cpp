@@ -196,21 +196,8 @@ void Master::Label1_Click() { openPage(program_.services(), program_.programFold
 
 void Master::imgLogoSmall_Click() { openPage(program_.services(), kProductHomePage); }
 
-QString Master::unsavedEdits() const {
-  QStringList all;
-  for (const QWidget* window : QApplication::topLevelWidgets()) {
-    const auto* form = dynamic_cast<const UnsavedEdits*>(window);
-    if (const QString edits = form != nullptr && window->isVisible() ? form->unsavedEdits() : QString();
-        !edits.isEmpty()) {
-      all.append(edits);
-    }
-  }
-  all.sort();
-  return all.join(QStringLiteral(", "));
-}
-
 void Master::closeEvent(QCloseEvent* event) {
-  const QString unsaved = std::exchange(mayLose_, true) ? QString() : unsavedEdits();
+  const QString unsaved = std::exchange(mayLose_, true) ? QString() : everyUnsavedEdit();
   if (!unsaved.isEmpty()) {
     event->ignore();
     const QString question = tr("These changes are not stored: %1.\n\nDo You Want To Discard Them And Close %2?")

@@ -82,8 +82,6 @@ class Master final : public QMainWindow, public RunView {
   /// Why a site is down; empty where that cannot be read, which is told elsewhere.
   QString reasonOf(std::int16_t idSite);
   std::int16_t addSite();
-  /// What would be lost if the program ended now, in words.
-  QString unsavedEdits() const;
 
   SiteGridModel sites_;
   MasterControls controls_{};
