@@ -36,10 +36,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Email</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The sender of the alert mails</source>
         <translation type="unfinished"></translation>
     </message>
@@ -49,10 +45,6 @@
     </message>
     <message>
         <source>The mail server; it takes mail on port 25 without a log-in</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Audio</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -73,10 +65,6 @@
     </message>
     <message>
         <source>Play this sound now</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Program</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -943,9 +931,9 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
 </context>
 <context>
-    <name>tarnwick::VarsForm</name>
+    <name>tarnwick::SiteReason</name>
     <message>
-        <source>Command1</source>
+        <source>Site %1: %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -977,13 +965,6 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>never</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>tarnwick::StatusLine</name>
-    <message>
-        <source>Status: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

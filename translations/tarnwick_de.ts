@@ -36,10 +36,6 @@
         <translation>Diese Seite ist im Zeichensatz Windows-1252 gespeichert, in dem es „%1“ nicht gibt. Löschen Sie das jetzt markierte Zeichen oder geben Sie ein anderes ein und drücken Sie noch einmal OK.</translation>
     </message>
     <message>
-        <source>Email</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The sender of the alert mails</source>
         <translation>Der Absender der Alarm-Mails</translation>
     </message>
@@ -50,10 +46,6 @@
     <message>
         <source>The mail server; it takes mail on port 25 without a log-in</source>
         <translation>Der Mail-Server; er nimmt Mails auf Port 25 ohne Anmeldung an</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The .wav file of the alert sound</source>
@@ -74,10 +66,6 @@
     <message>
         <source>Play this sound now</source>
         <translation>Diesen Ton jetzt abspielen</translation>
-    </message>
-    <message>
-        <source>Program</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The alert program; ~1~ to ~6~ stand for what happened where</source>
@@ -945,10 +933,10 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     </message>
 </context>
 <context>
-    <name>tarnwick::VarsForm</name>
+    <name>tarnwick::SiteReason</name>
     <message>
-        <source>Command1</source>
-        <translation type="unfinished"></translation>
+        <source>Site %1: %2</source>
+        <translation>Seite %1: %2</translation>
     </message>
 </context>
 <context>
@@ -980,13 +968,6 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>never</source>
         <translation>nie</translation>
-    </message>
-</context>
-<context>
-    <name>tarnwick::StatusLine</name>
-    <message>
-        <source>Status: %1</source>
-        <translation>Status: %1</translation>
     </message>
 </context>
 <context>
