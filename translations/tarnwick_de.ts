@@ -581,11 +581,11 @@
     </message>
     <message>
         <source>at once</source>
-        <translation type="unfinished"></translation>
+        <translation>sofort</translation>
     </message>
     <message>
         <source>pages only</source>
-        <translation type="unfinished"></translation>
+        <translation>nur gute Seiten</translation>
     </message>
 </context>
 <context>
