@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/page_fetch.h"
 
+#include <utility>
+
 #include "base/text.h"
 #include "base/windows_1252.h"
 #include "engine/single_control.h"
@@ -58,10 +60,9 @@ Request PageFetch::requestFor(std::int16_t idSite, std::string_view method) {
   return request;
 }
 
-std::string PageFetch::getHtmlFromSite(std::int16_t idSite) {
-  TransferControl& sInet = single_.sInet();
-  if (sInet.stillExecuting()) {
-    return {};
+bool PageFetch::beginFetch(std::int16_t idSite, std::function<void()> ended) {
+  if (single_.sInet().stillExecuting()) {
+    return false;
   }
   auto rs = database_.query("select url,method,sUserName,sPassWord from sites where idsite = " + sqlQuote(idSite));
   const std::chrono::seconds timeout = settings_.requestTimeout();
@@ -77,7 +78,19 @@ std::string PageFetch::getHtmlFromSite(std::int16_t idSite) {
   request.userName = userName;
   request.password = password;
   request.timeout = timeout;
-  single_.execute(std::move(request));
+  single_.execute(std::move(request), std::move(ended));
+  return true;
+}
+
+void PageFetch::fetchPage(std::int16_t idSite, std::function<void(const std::string& page)> fetched) {
+  beginFetch(idSite, [this, fetched = std::move(fetched)] { fetched(single_.sInetContent); });
+}
+
+std::string PageFetch::getHtmlFromSite(std::int16_t idSite) {
+  if (!beginFetch(idSite, {})) {
+    return {};
+  }
+  const TransferControl& sInet = single_.sInet();
   while (sInet.stillExecuting() && single_.sInetContent.empty() && !pump_.closing()) {
     pump_.waitForEvent();
   }

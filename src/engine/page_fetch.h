@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -38,12 +39,19 @@ class PageFetch {
   /// data, or when the program is being closed.
   std::string getHtmlFromSite(std::int16_t idSite);
 
+  /// The same without waiting: `fetched` gets the text through the event loop, and is not called when the control is
+  /// busy or the fetch is cancelled.
+  void fetchPage(std::int16_t idSite, std::function<void(const std::string& page)> fetched);
+
   /// Percent-encodes `text` (UTF-8) for a form: letters a-z, A-Z and digits stand for themselves, every other
   /// character becomes "%" and its two-digit upper-case hexadecimal code in Windows-1252; one outside that set is
   /// sent as "?". Bytes that are not valid UTF-8 are taken as Windows-1252 already.
   static std::string urlEncode(std::string_view text);
 
  private:
+  /// False when the control is busy.
+  bool beginFetch(std::int16_t idSite, std::function<void()> ended);
+
   Database& database_;
   SettingsAndLog& settings_;
   SingleControl& single_;

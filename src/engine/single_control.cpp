@@ -7,9 +7,15 @@ namespace tarnwick {
 
 SingleControl::SingleControl(TransferMaker& transfers) : sInet_(transfers.makeTransferControl()) {
   sInet_->onStateChanged([this](int state) { stateChanged(state); });
+  sInet_->onIdle([this] {
+    if (const auto ended = std::exchange(ended_, {})) {
+      ended();
+    }
+  });
 }
 
-void SingleControl::execute(Request request) {
+void SingleControl::execute(Request request, std::function<void()> ended) {
+  ended_ = std::move(ended);
   sInetContent.clear();
   result_ = {};
   sInet_->execute(std::move(request));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -14,8 +15,9 @@ class SingleControl {
   explicit SingleControl(TransferMaker& transfers);
 
   TransferControl& sInet() { return *sInet_; }
-  /// Starts a request on `sInet`; nothing is left of the one before. REQUIRES: it is not executing.
-  void execute(Request request);
+  /// Starts a request on `sInet`; nothing is left of the one before. `ended`, if given, is called when it has come to
+  /// its end, and not when it was cancelled. REQUIRES: it is not executing.
+  void execute(Request request, std::function<void()> ended = {});
 
   /// The page of the last request that completed, or of one that failed its fault's number, " : " and its cause.
   std::string sInetContent;
@@ -27,6 +29,7 @@ class SingleControl {
 
   std::unique_ptr<TransferControl> sInet_;
   TransferResult result_;
+  std::function<void()> ended_;
 };
 
 }  // namespace tarnwick

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/baseline/content_dialog.h"
 
-#include <optional>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QVBoxLayout>
@@ -82,25 +81,21 @@ void ContentDialog::setLoading(bool loading) {
 }
 
 void ContentDialog::btnLoad_Click() {
+  // A failure to begin leaves everything as it is.
+  program_.data().fetchPage(idSite_, [self = QPointer<ContentDialog>(this)](const std::string& page) {
+    if (self != nullptr && self->isVisible()) {
+      self->showFetched(page);
+    }
+  });
   tContent_->showNotice(tr("LOADING: Please Wait ..."));
   setLoading(true);
-  tContent_->repaint();
-  // The fetch pumps events: the form may be closed and gone when it returns.
-  const QPointer<ContentDialog> self(this);
-  std::optional<std::string> page;
-  const bool fetched = program_.faults().run([&] { page = program_.data().getHtmlFromSite(idSite_); });
-  if (self == nullptr || !isVisible()) {
-    return;
-  }
-  if (fetched) {
-    tContent_->setPage(std::move(*page));
-    fetched_ = true;
-  } else {
-    tContent_->endNotice();
-  }
+}
+
+void ContentDialog::showFetched(const std::string& page) {
+  tContent_->setPage(page);
+  fetched_ = true;
   setLoading(false);
   tContent_->setFocus();
-  tContent_->repaint();
 }
 
 void ContentDialog::btnOk_Click() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
@@ -39,6 +40,7 @@ class ContentDialog final : public QDialog, public UnsavedEdits {
   void btnOk_Click();
   void btnCancel_Click();
   void setLoading(bool loading);
+  void showFetched(const std::string& page);
 
   Program& program_;
   std::int16_t idSite_ = 0;

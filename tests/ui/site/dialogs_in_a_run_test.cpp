@@ -98,7 +98,7 @@ TEST_F(DialogsInARunTest, APageIsLoadedInMidPass) {
   inMidFetch([&] {
     clickRow(1);
     press(opened<SiteEditor>(), "Command2");
-    press(opened<ContentDialog>(), "btnLoad");
+    load(opened<ContentDialog>());
     loaded = in<BaselineEdit>(opened<ContentDialog>(), "tContent").toPlainText().toStdString();
     press(opened<ContentDialog>(), "btnOk");
   });

@@ -34,6 +34,11 @@ void DialogTest::clickOn(QWidget& control) {
   QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, control.mapTo(&window, control.rect().center()));
 }
 
+void DialogTest::load(QWidget& contentDialog) {
+  press(contentDialog, "btnLoad");
+  EXPECT_TRUE(waitUntil([&] { return in<QPushButton>(contentDialog, "btnOk").isEnabled(); }));
+}
+
 void DialogTest::type(QWidget& form, const char* name, const std::string& text) {
   auto& box = in<QLineEdit>(form, name);
   box.setFocus();

@@ -71,6 +71,8 @@ class DialogTest : public MasterTest {
   }
   /// Clicks the middle of a control as the desktop does: a window that waits for another one takes no click.
   static void clickOn(QWidget& control);
+  /// Presses "Load From Url" and waits for the page.
+  static void load(QWidget& contentDialog);
   /// Replaces the text of a text box by typing.
   static void type(QWidget& form, const char* name, const std::string& text);
   static std::string text(QWidget& form, const char* name) { return in<QLineEdit>(form, name).text().toStdString(); }
