@@ -12,13 +12,14 @@ from __future__ import annotations
 import http.server
 import shutil
 import sqlite3
+import subprocess
 import sys
 import tempfile
 import threading
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "support"))
-from desktop_session import DesktopSession, missing_tools, wait_until  # noqa: E402
+from desktop_session import DesktopSession, missing_tools, output_of, wait_until  # noqa: E402
 
 SKIPPED = 77
 ENDS_WITHIN_SECONDS = 15
@@ -131,8 +132,68 @@ def says_that_the_database_is_missing(folder: ProgramFolder, session: DesktopSes
     expect(folder.files() == before, f"the program made {sorted(folder.files() - before)}")
 
 
+def add_site(folder: ProgramFolder) -> None:
+    folder.execute("insert into sites (idSite, url, method, active, tInterval) values (1, 'http://127.0.0.1:9/', 'GET', 1, 1)")
+
+
+def windows(session: DesktopSession) -> list[str]:
+    return output_of(["wmctrl", "-l"], session.env).splitlines()
+
+
+def closes_over_a_question(folder: ProgramFolder, session: DesktopSession, errors: Path) -> None:
+    add_site(folder)
+    process = session.start(folder.path / "tarnwick", errors)
+    window = session.window(TITLE, process)
+    wait_until(lambda: is_ready(folder), "the program to be ready")
+    session.press(window, "F5")
+    wait_until(lambda: folder.execute("select count(*) from log") == [(1,)], "the site to be checked")
+    session.press(window, "Return")
+    editor = session.window("Site", process)
+    session.press(editor, "alt+d")
+    wait_until(lambda: len(windows(session)) == 3, "the question")
+    folder.execute("update sites set lastChecked = '2020-01-01 00:00:00'")
+    wait_until(lambda: folder.execute("select count(*) from log") == [(2,)], "the site to be checked behind the question",
+               70)
+    session.close(window)
+    expect_end(process, 0)
+    expect(folder.execute("select count(*) from sites") == [(1,)], "the site was deleted without an answer")
+    expect_silence(errors)
+    expect_sound_database(folder)
+
+
+def chooses_a_file_by_the_beginning_of_its_name(folder: ProgramFolder, session: DesktopSession, errors: Path) -> None:
+    (folder.path / "impatient.wav").write_bytes(b"RIFF")
+    process = session.start(folder.path / "tarnwick", errors)
+    window = session.window(TITLE, process)
+    wait_until(lambda: is_ready(folder), "the program to be ready")
+    session.press(window, "alt+u")
+    settings = session.window("Settings", process)
+    session.press(settings, "alt+b")
+    chooser = session.window("Open", process)
+    session.press(chooser, "BackSpace")
+    subprocess.run(["xdotool", "type", "--delay", "40", "imp"], env=session.env, check=True)
+    # The list that completes the name has the keyboard now.
+    wait_until(lambda: len(output_of(["xdotool", "search", "--onlyvisible", "--pid", str(process.pid)],
+                                     session.env).splitlines()) > 3, "the list of names")
+    subprocess.run(["xdotool", "key", "Down", "Return"], env=session.env, check=True)
+    wait_until(lambda: len(windows(session)) == 2, "the chooser to take the file")
+    session.press(settings, "alt+k")
+    wait_until(lambda: folder.execute("select audio from control") == [(str(folder.path / "impatient.wav"),)],
+               "the file in the settings")
+    session.press(window, "alt+u")
+    settings = session.window("Settings", process)
+    session.press(settings, "alt+b")
+    chooser = session.window("Open", process)
+    session.press(chooser, "i")
+    session.close(window)
+    expect_end(process, 0)
+    expect_silence(errors)
+    expect_sound_database(folder)
+
+
 CASES = {case.__name__: case for case in
-         (opens_and_closes, checks_a_site_and_closes_while_running, says_that_the_database_is_missing)}
+         (opens_and_closes, checks_a_site_and_closes_while_running, says_that_the_database_is_missing,
+          closes_over_a_question, chooses_a_file_by_the_beginning_of_its_name)}
 
 
 def main() -> int:
