@@ -2,6 +2,7 @@
 #include "platform/desktop/message_box_prompts.h"
 
 #include <utility>
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -117,6 +118,11 @@ void MessageBoxPrompts::chooseFile(const FileChoice& choice, std::function<void(
   dialog->setNameFilters(nameFilters(choice.filter));
   // A file is looked for here, not renamed or deleted.
   dialog->setOption(QFileDialog::ReadOnly);
+  for (const char* action : {"qt_rename_action", "qt_delete_action", "qt_new_folder_action"}) {
+    if (auto* offered = dialog->findChild<QAction*>(QString::fromLatin1(action))) {
+      offered->setVisible(false);
+    }
+  }
   QObject::connect(dialog, &QFileDialog::fileSelected, dialog, [this, chosen = std::move(chosen)](const QString& path) {
     if (!pump_.closing()) {
       chosen(QDir::toNativeSeparators(path).toStdString());

@@ -135,7 +135,10 @@ void Master::connectControls() {
   connectAction(controls_.setup, {}, &Master::btnSetup_Click);
   connect(controls_.grid1, &SiteGridView::rowChosen, this, &Master::grid1_Click);
   connect(controls_.Label1, &LinkButton::clicked, this, &Master::Label1_Click);
-  connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &Master::Label1_Click);
+  // In every window of the program.
+  auto* help = new QShortcut(Qt::Key_F1, this);
+  help->setContext(Qt::ApplicationShortcut);
+  connect(help, &QShortcut::activated, this, &Master::Label1_Click);
   connect(controls_.imgLogoSmall, &PictureButton::clicked, this, &Master::imgLogoSmall_Click);
 }
 

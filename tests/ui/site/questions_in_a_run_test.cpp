@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
+#include <QWindow>
 
 #include "platform/desktop/message_box_prompts.h"
 #include "support/wait_until.h"
@@ -161,6 +162,25 @@ TEST_F(QuestionsInARunTest, AFaultIsToldBesideAnOpenQuestionAndBothCanBeAnswered
   EXPECT_FALSE(fault->isVisible());
   QTest::mouseClick(question->button(QMessageBox::No), Qt::LeftButton);
   EXPECT_TRUE(question == nullptr || !question->isVisible());
+}
+
+TEST_F(QuestionsInARunTest, TheHelpIsOpenedFromEveryWindow) {
+  const auto press = [&](QWidget& window) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const std::size_t before = machine.opener.opened.size();
+    QTest::keyClick(window.windowHandle(), Qt::Key_F1);
+    EXPECT_EQ(machine.opener.opened.size(), before + 1) << window.windowTitle().toStdString();
+  };
+  clickRow(0);
+  press(opened<SiteEditor>());
+  DialogTest::press(opened<SiteEditor>(), "Command2");
+  press(opened<ContentDialog>());
+  DialogTest::press(opened<ContentDialog>(), "btnCancel");
+  DialogTest::press(opened<SiteEditor>(), "Command6");
+  press(*standing<QMessageBox>());
+  answer(QMessageBox::No);
+  click("btnSetup");
+  press(opened<ControlDialog>());
 }
 
 TEST_F(QuestionsInARunTest, TheWindowIsClosedOverEveryBox) {
