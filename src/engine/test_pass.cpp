@@ -10,6 +10,7 @@
 #include "alerts/alert_dispatch.h"
 #include "base/errors.h"
 #include "base/sql_value.h"
+#include "base/text.h"
 #include "engine/due_sites.h"
 #include "engine/page_fetch.h"
 #include "engine/result_recording.h"
@@ -24,6 +25,8 @@ namespace {
 constexpr int kTestingBrightness = 36;
 
 constexpr const char* kNoAddress = "The address of the site is empty.";
+
+std::string methodAsSent(const std::string& stored) { return stored.empty() ? "GET" : upperCase(stored); }
 
 }  // namespace
 
@@ -281,7 +284,7 @@ void TestPass::countSuccess(std::int16_t id) {
 
 bool TestPass::hasAddressAsSelected(std::size_t row) const {
   const std::string stored = needs_.results.getUrl(idSite(row));
-  return stored == url(row) || (stored.empty() && url(row) == kNullText);
+  return trimmed(stored) == trimmed(url(row)) || (stored.empty() && url(row) == kNullText);
 }
 
 // While it was fetched a site may have been deleted, its id given to a new one, its request been changed or the site
@@ -293,9 +296,12 @@ TestPass::Standing TestPass::standingOf(std::size_t row) const {
     return Standing::gone;
   }
   const auto isAsSelected = [&](std::size_t column) { return stored.at(column, 1) == cell(column, row); };
+  // An editor may store the same request in other letters than it found.
+  const bool sameMethod =
+      methodAsSent(stored.at(site_column::method, 1)) == methodAsSent(cell(site_column::method, row));
   const auto form = forms_.find(row);
-  if (sameAddress && isAsSelected(site_column::method) && isAsSelected(site_column::active) &&
-      isAsSelected(site_column::sUserName) && isAsSelected(site_column::sPassWord) &&
+  if (sameAddress && sameMethod && isAsSelected(site_column::active) && isAsSelected(site_column::sUserName) &&
+      isAsSelected(site_column::sPassWord) &&
       (form == forms_.end() || form->second == needs_.pages.postVarsAsStored(idSite(row)))) {
     return Standing::asSelected;
   }

@@ -166,6 +166,29 @@ TEST_F(EditsInMidPass, AnEditOfWhatIsNotSentDropsNothing) {
   EXPECT_EQ(column(id, "success"), "1");
 }
 
+TEST_F(EditsInMidPass, AnEditThatStoresTheSameRequestInOtherLettersDropsNothing) {
+  const std::int16_t id = addSite(server.url("/a"));
+  set(id, server.url("/a") + " ", true, "");
+  for (const char* method : {"GET", "get", "Get", ""}) {
+    during("/a", [&] { set(id, " " + server.url("/a"), true, method); });
+    program.startRun();
+    EXPECT_THAT(view.dropped, IsEmpty()) << method;
+    program.stopRun();
+  }
+  set(id, server.url("/a"), true, "POST");
+  during("/a", [&] { set(id, server.url("/a"), true, "post"); });
+  program.startRun();
+  EXPECT_THAT(view.dropped, IsEmpty());
+  EXPECT_EQ(column(id, "success"), "5");
+}
+
+TEST_F(EditsInMidPass, AnotherYesForActiveDropsNothing) {
+  addSite(server.url("/a"));
+  during("/a", [&] { folder.execute("update sites set active = -1"); });
+  program.startRun();
+  EXPECT_THAT(view.dropped, IsEmpty());
+}
+
 TEST_F(EditsInMidPass, ManySitesThatAreMovedAtOnceAreAllCheckedInTheNextPass) {
   constexpr int kSites = 40;
   for (int i = 0; i < kSites; ++i) {

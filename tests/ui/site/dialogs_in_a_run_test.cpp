@@ -16,7 +16,7 @@ class DialogsInARunTest : public DialogTest {
   void SetUp() override {
     server.respond("/slow", {.body = "slow page", .hold = true});
     server.respond("/page", {.body = "a page"});
-    addSite(1, server.url("/slow"));
+    addSite(1, server.url("/slow"), ",sUserName,sPassWord", ",'',''");
     addSite(2, server.url("/page"));
   }
   /// Starts a run, does `action` while the slow site is being fetched, then lets it answer.
@@ -36,6 +36,22 @@ class DialogsInARunTest : public DialogTest {
 };
 
 TEST_F(DialogsInARunTest, TheSiteBeingFetchedIsEdited) {
+  openProgram();
+  inMidFetch([&] {
+    clickRow(0);
+    auto& editor = opened<SiteEditor>();
+    type(editor, "tEmail", "me@example.org");
+    press(editor, "Command1");
+  });
+  EXPECT_EQ(column(1, "email"), "me@example.org");
+  EXPECT_EQ(column(1, "success"), "1");
+  EXPECT_EQ(column(1, "content_compare"), "slow page");
+  EXPECT_EQ(colour(0, 1), colour(1, 1));
+  EXPECT_EQ(server.requestsFor("/slow").size(), 1U);
+  EXPECT_TRUE(machine.prompts.shown().empty());
+}
+
+TEST_F(DialogsInARunTest, TheRequestOfTheSiteBeingFetchedIsEdited) {
   openProgram();
   inMidFetch([&] {
     clickRow(0);
