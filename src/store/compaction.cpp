@@ -60,6 +60,7 @@ bool Compaction::compact() {
 }
 
 Compaction::Outcome Compaction::compactClosed() {
+  inPlace_ = false;
   std::unique_ptr<HeldDatabase> held;
   try {
     held = databases_.holdDatabase(db_.connString());
@@ -72,7 +73,7 @@ Compaction::Outcome Compaction::compactClosed() {
   const bool compacted = compactToTemp(*held);
   if (compacted) {
     // A failure leaves the database as it was, which is no loss.
-    succeeds([&] { putInPlace(std::move(held)); });
+    inPlace_ = succeeds([&] { putInPlace(std::move(held)); });
   }
   return {compacted, {}};
 }

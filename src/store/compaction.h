@@ -26,6 +26,8 @@ class Compaction {
   /// open -, after a box that tells why; and, without a box, when the compaction fails. True otherwise, even when the
   /// compacted file could not be put in place. Raises DataAccessError only when the database cannot be opened again.
   bool compact();
+  /// Whether the last compaction that succeeded has put its file in place; a full disk may keep it from that.
+  bool compactedInPlace() const { return inPlace_; }
 
   /// The connection string with every "tarnwick.mdb", in these letters, replaced by "temp.mdb".
   static std::string destinationOf(std::string connString);
@@ -49,6 +51,7 @@ class Compaction {
   SqlConnectionMaker& databases_;
   FileSystem& files_;
   Prompts& prompts_;
+  bool inPlace_ = false;
 };
 
 }  // namespace tarnwick

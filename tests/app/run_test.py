@@ -192,6 +192,41 @@ def loses_nothing_when_several_work_on_one_folder():
         expect(rows(place, "select count(*) from sites") == [(15,)], "a site was lost")
 
 
+def begins_beside_others_on_a_list_that_nobody_had_open():
+    for _ in range(40):
+        with folder() as place:
+            both = [start(place, "add", f"http://127.0.0.1:9/{number}") for number in range(2)]
+            for adder in both:
+                _, err = adder.communicate(timeout=LIMIT)
+                expect(adder.returncode == 0, err)
+            expect(rows(place, "select count(*) from sites") == [(2,)], "a site was lost")
+
+
+def changes_the_list_while_it_is_compacted():
+    with folder("http://127.0.0.1:9/") as place:
+        done = threading.Event()
+        refused = []
+
+        def compact():
+            while not done.is_set():
+                ended = ask(place, "compact")
+                if ended.returncode != 0 and "in use" not in ended.stderr:
+                    refused.append(ended.stderr)
+
+        compacting = threading.Thread(target=compact)
+        compacting.start()
+        try:
+            for interval in range(1, 80):
+                ended = ask(place, "set", "1", f"--interval={interval}")
+                expect(ended.returncode == 0, ended.stderr)
+                stored = json.loads(ask(place, "site", "1", "--json").stdout)
+                expect(str(stored["tInterval"]) == str(interval), stored["tInterval"], interval)
+        finally:
+            done.set()
+            compacting.join()
+        expect(not refused, refused)
+
+
 def prints_an_object_a_line():
     with web() as server, folder(f"http://127.0.0.1:{server.server_port}/count") as place:
         process = start(place, "run", "--json")

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <limits>
 #include <utility>
 #include <variant>
 
@@ -83,6 +84,16 @@ SqliteHandle openDatabase(const std::string& path, int flags) {
 }
 
 SqliteDatabase::SqliteDatabase(std::string path) : path_(std::move(path)) {
+  openInPlace(path_, [this] { open(); });
+  if (!liesOnNetwork(path_)) {  // where a file may be known by another number every time
+    watch_.emplace(path_, handle());
+  }
+}
+
+void SqliteDatabase::open() {
+  keptByText_.clear();
+  kept_.clear();
+  handle_.reset();
   requireFile(path_);
   // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
   // Without locks between threads: there is only one.
@@ -93,9 +104,6 @@ SqliteDatabase::SqliteDatabase(std::string path) : path_(std::move(path)) {
   setForeignLogAside();
   refuseDamage();
   chooseJournal();
-  if (!liesOnNetwork(path_)) {  // where a file may be known by another number every time
-    watch_.emplace(path_, handle());
-  }
 }
 
 SqliteDatabase::~SqliteDatabase() {
@@ -135,23 +143,45 @@ void SqliteDatabase::setForeignLogAside() {
 }
 
 void SqliteDatabase::refuseDamage() {
-  const std::optional<std::uint64_t> size = bytesIn(path_);
-  if (size == 0U) {
-    throw damagedDatabase(path_, "the file is empty");
+  // What is not so at a second look was another program at work.
+  const std::string damage = damageSeen();
+  if (!damage.empty() && damageSeen() == damage) {
+    throw damagedDatabase(path_, damage);
   }
-  const bool changesPending = bytesIn(path_ + "-wal") > 0U;
+}
+
+std::string SqliteDatabase::damageSeen() {
+  if (sizeOfFile() == 0) {
+    return "the file is empty";
+  }
   // Reads the file's header and all definitions, which SQLite itself puts off until the first statement.
   static constexpr const char* kReadAll = "select count(*) from sqlite_master";
+  run("begin");
+  const struct Reading {
+    explicit Reading(sqlite3* database) : database_(database) {}
+    ~Reading() { sqlite3_exec(database_, "rollback", nullptr, nullptr, nullptr); }
+    sqlite3* database_;
+  } reading(handle());
   try {
     run(kReadAll);
   } catch (const DataAccessError& error) {
     throw inStatement(error, kReadAll);
   }
   const auto expected = rows("select page_count * page_size from pragma_page_count, pragma_page_size");
-  // SQLite rounds a torn last page up. The file may be short only while changes wait in the log beside it.
-  if (!changesPending && size && *size < std::stoull(expected.at(0).at(0))) {
-    throw damagedDatabase(path_, "the end of the file is missing");
-  }
+  // The file may be short only while changes wait in the log beside it. Both are looked at last, since they grow while
+  // the state that is read here stays as it is.
+  const bool changesPending = bytesIn(path_ + "-wal") > 0U;
+  // SQLite rounds a torn last page up.
+  return !changesPending && sizeOfFile() < std::stoll(expected.at(0).at(0)) ? "the end of the file is missing" : "";
+}
+
+// Of the file that is open, whatever has taken its name since.
+std::int64_t SqliteDatabase::sizeOfFile() const {
+  sqlite3_file* file = nullptr;
+  sqlite3_int64 size = 0;
+  const bool known = sqlite3_file_control(handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK &&
+                     file->pMethods->xFileSize(file, &size) == SQLITE_OK;
+  return known ? size : std::numeric_limits<std::int64_t>::max();
 }
 
 void SqliteDatabase::chooseJournal() noexcept {

@@ -106,8 +106,12 @@ class SqliteDatabase {
   SqliteStatement compile(const PlainStatement& statement);
   SqliteStatement takeKept(std::string_view text);
   void keep(SqliteStatement statement) noexcept;
+  void open();
   void setForeignLogAside();
   void refuseDamage();
+  /// What is wrong with the file; empty for nothing. Raises what keeps it from being read.
+  std::string damageSeen();
+  std::int64_t sizeOfFile() const;
   void chooseJournal() noexcept;
 
   using Kept = std::list<SqliteStatement>;

@@ -82,6 +82,24 @@ void SqliteFileWatch::afterClosing() const noexcept {
   }
 }
 
+void openInPlace(const std::string& path, const std::function<void()>& open) {
+  constexpr int kMostTries = 50;
+  for (int tries = 1;; ++tries) {
+    const auto before = identityOf(path);
+    const bool last = tries == kMostTries;
+    try {
+      open();
+      if (last || identityOf(path) == before) {
+        return;
+      }
+    } catch (const DataAccessError&) {
+      if (last || identityOf(path) == before) {
+        throw;
+      }
+    }
+  }
+}
+
 void requireFile(const std::string& path) {
   const FileKind kind = LocalFiles().kindOf(path);
   if (kind == FileKind::none) {

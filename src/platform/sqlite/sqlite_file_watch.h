@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -54,6 +55,11 @@ class SqliteFileWatch {
   File sharedMemory_;
   std::chrono::steady_clock::time_point nextLook_{};
 };
+
+/// Opens a database by `open`, which locks it at least once, and again while another program has put another file in
+/// its place meanwhile, as a compaction does: `open` had that one's lock to wait for, and then held what nobody else
+/// would ever look into. `open` lets go of what it opened before. Raises what it does for a file that stays.
+void openInPlace(const std::string& path, const std::function<void()>& open);
 
 /// Raises DataAccessError unless `path` is a file, in words plainer than SQLite's "unable to open".
 void requireFile(const std::string& path);

@@ -10,6 +10,7 @@
 #include "platform/sqlite/sqlite_connection.h"
 #include "platform/sqlite/sqlite_errors.h"
 #include "platform/sqlite/sqlite_file.h"
+#include "platform/sqlite/sqlite_file_watch.h"
 
 namespace tarnwick {
 namespace {
@@ -31,8 +32,12 @@ void makeEmpty(const std::string& path, const std::string& like) {
 
 }  // namespace
 
-SqliteHold::SqliteHold(std::string path) : path_(std::move(path)), handle_(openDatabase(path_, SQLITE_OPEN_READWRITE)) {
-  lock();
+SqliteHold::SqliteHold(std::string path) : path_(std::move(path)) {
+  openInPlace(path_, [this] {
+    handle_.reset();
+    handle_ = openDatabase(path_, SQLITE_OPEN_READWRITE);
+    lock();
+  });
 }
 
 void SqliteHold::lock() {
