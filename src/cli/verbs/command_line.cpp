@@ -4,8 +4,12 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
+#include <functional>
+#include <set>
 #include <sstream>
 #include <type_traits>
+#include <utility>
+#include <variant>
 
 #include "cli/terminal/console.h"
 #include "cli/terminal/help_text.h"
@@ -164,6 +168,40 @@ std::string whatStandsForAVerb(const std::vector<std::string>& unknown) {
          "\".";
 }
 
+// The names of the options that take a value.
+std::set<std::string, std::less<>> namesWithValue(const std::vector<Verb>& verbs) {
+  std::set<std::string, std::less<>> names{kFolder};
+  for (const Verb& verb : verbs) {
+    for (const VerbOption& option : verb.options) {
+      if (option.name.starts_with("--") && !std::holds_alternative<bool*>(option.target)) {
+        names.insert(option.name);
+      }
+    }
+  }
+  return names;
+}
+
+// An option that is written "--name=" has an empty value; the library would give it the next argument. As two
+// arguments, the name and an empty one, it understands them.
+std::vector<std::string> withEmptyValues(const std::vector<std::string>& arguments, const std::vector<Verb>& verbs) {
+  const auto names = namesWithValue(verbs);
+  std::vector<std::string> result;
+  bool isValue = false;
+  bool byPlaceOnly = false;
+  for (const std::string& argument : arguments) {
+    const bool isOption = !isValue && !byPlaceOnly;
+    if (isOption && argument.ends_with('=') && names.contains(argument.substr(0, argument.size() - 1))) {
+      result.push_back(argument.substr(0, argument.size() - 1));
+      result.emplace_back();
+    } else {
+      result.push_back(argument);
+    }
+    isValue = isOption && names.contains(argument);
+    byPlaceOnly = byPlaceOnly || (isOption && argument == "--");
+  }
+  return result;
+}
+
 // Arguments that cannot be understood: the library's text, and where to read on.
 std::vector<std::string> complaintsOf(const CLI::App& app, const CLI::ParseError& error) {
   const auto verbs = app.get_subcommands();
@@ -189,7 +227,9 @@ CommandLine understand(const std::vector<std::string>& arguments, const std::vec
     addVerb(app, verb, folder, line.action);
   }
   try {
-    app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    std::vector<std::string> given = withEmptyValues(arguments, verbs);
+    std::ranges::reverse(given);
+    app.parse(std::move(given));
     if (isFolderNamed(app)) {
       line.folder = folder;
     }

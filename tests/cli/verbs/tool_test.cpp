@@ -5,6 +5,8 @@
 #include <streambuf>
 
 #include "cli/support/tool_fixture.h"
+#include "cli/verbs/command_line.h"
+#include "cli/verbs/verbs.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -72,6 +74,49 @@ TEST_F(ToolItself, MindsNoReaderThatHasSeenEnough) {
     EXPECT_EQ(runOnOutputThatFails(EPIPE, {verb}), exit_status::ok) << verb;
     EXPECT_EQ(err, "") << verb;
   }
+}
+
+TEST_F(ToolItself, TakesAnEmptyValueForOneInEveryVerb) {
+  const std::vector<Verb> verbs = allVerbs(fields);
+  std::size_t seen = 0;
+  for (const Verb& verb : verbs) {
+    for (const VerbOption& option : verb.options) {
+      if (!option.name.starts_with("--")) {
+        continue;
+      }
+      ++seen;
+      // The next argument is asked for, or what is wrong is told of the empty value.
+      const CommandLine line = understand({verb.name, option.name + "=", "--help"}, verbs);
+      const bool anyText = option.oneOf.empty() && (std::holds_alternative<std::string*>(option.target) ||
+                                                    std::holds_alternative<std::optional<std::string>*>(option.target));
+      if (anyText) {
+        EXPECT_NE(line.text, "") << verb.name << " " << option.name;
+      } else if (line.text.empty()) {
+        ASSERT_FALSE(line.complaints.empty()) << verb.name << " " << option.name;
+        EXPECT_THAT(line.complaints.front(), Not(HasSubstr("--help"))) << verb.name << " " << option.name;
+        EXPECT_THAT(line.complaints.front(), HasSubstr(option.name)) << verb.name;
+      }
+    }
+    EXPECT_NE(understand({verb.name, "--folder=", "--help"}, verbs).text, "") << verb.name;
+  }
+  EXPECT_GT(seen, 40U);
+}
+
+TEST_F(ToolItself, StoresAnEmptyValueAndNotTheNextArgument) {
+  ASSERT_EQ(run({"add", "http://a/", "--password=", "--inactive"}), exit_status::ok) << err;
+  EXPECT_EQ(column(1, "sPassWord"), "");
+  EXPECT_EQ(column(1, "active"), "0");
+  ASSERT_EQ(run({"add", "http://b/", "--user=", "--password=secret"}), exit_status::ok) << err;
+  EXPECT_EQ(column(2, "sUserName"), "");
+  EXPECT_EQ(column(2, "sPassWord"), "secret");
+  EXPECT_EQ(run({"set", "1", "--url=", "--inactive"}), exit_status::failed);
+  EXPECT_EQ(column(1, "url"), "http://a/");
+}
+
+TEST_F(ToolItself, TakesForAValueWhatOnlyLooksLikeAnOption) {
+  ASSERT_EQ(run({"add", "http://a/", "--user", "--password=", "--password", "--"}), exit_status::ok) << err;
+  EXPECT_EQ(column(1, "sUserName"), "--password=");
+  EXPECT_EQ(column(1, "sPassWord"), "--");
 }
 
 TEST_F(ToolItself, NamesAWordThatIsNoVerbWhereverItStands) {
