@@ -15,6 +15,11 @@ struct Address {
   std::string host;
   /// In decimal; the scheme's own port when the address gives none, empty when the scheme has none.
   std::string port;
+  /// What the address itself holds before its host, decoded; empty when it holds none.
+  std::string userName;
+  std::string password;
+  /// `url` without them.
+  std::string bareUrl;
 };
 
 /// The address that a user means by `text`: blanks around it do not count, blanks inside it are percent-encoded, and

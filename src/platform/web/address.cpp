@@ -27,6 +27,22 @@ std::string part(CURLU* url, CURLUPart which, unsigned flags = 0) {
   return text;
 }
 
+// The part as it was before it was percent-encoded.
+std::string decodedPart(CURLU* url, CURLUPart which) {
+  const std::string encoded = part(url, which);
+  int length = 0;
+  const std::unique_ptr<char, decltype(&curl_free)> text(
+      curl_easy_unescape(nullptr, encoded.c_str(), static_cast<int>(encoded.size()), &length), &curl_free);
+  return text ? std::string(text.get(), static_cast<std::size_t>(length)) : std::string();
+}
+
+// Takes name and password out of it.
+std::string barePart(CURLU* url) {
+  curl_url_set(url, CURLUPART_USER, nullptr, 0);
+  curl_url_set(url, CURLUPART_PASSWORD, nullptr, 0);
+  return part(url, CURLUPART_URL);
+}
+
 bool hasScheme(std::string_view text) {
   const auto end = text.find("://");
   return end != std::string_view::npos && end > 0 && std::ranges::all_of(text.substr(0, end), [](char c) {
@@ -74,7 +90,10 @@ std::optional<Address> takenApart(const std::string& text) {
   Address address{.url = part(url.get(), CURLUPART_URL),
                   .scheme = part(url.get(), CURLUPART_SCHEME),
                   .host = part(url.get(), CURLUPART_HOST),
-                  .port = part(url.get(), CURLUPART_PORT, CURLU_DEFAULT_PORT)};
+                  .port = part(url.get(), CURLUPART_PORT, CURLU_DEFAULT_PORT),
+                  .userName = decodedPart(url.get(), CURLUPART_USER),
+                  .password = decodedPart(url.get(), CURLUPART_PASSWORD),
+                  .bareUrl = barePart(url.get())};
   // A percent sign is at home in a path and before the zone of an IPv6 address; no host name holds one.
   if (address.host.find('%') != std::string::npos && !address.host.starts_with('[')) {
     return std::nullopt;

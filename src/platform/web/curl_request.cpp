@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/text.h"
+#include "platform/address.h"
 #include "platform/os/socket_inheritance.h"
 #include "platform/web/socket_errors.h"
 
@@ -17,6 +18,8 @@ constexpr std::chrono::milliseconds kLongestWaitInside{900};
 /// The same for a server that says something all the time, and thereby keeps libcurl from asking us; in seconds.
 constexpr long kLongestLastReply = 1;
 constexpr int kRedirection = 300;
+constexpr int kMoved = 301;
+constexpr int kFound = 302;
 constexpr int kSeeOther = 303;
 constexpr int kClientError = 400;
 
@@ -56,7 +59,8 @@ CurlRequest::CurlRequest(Request request, const CurlTransfers::Options& options,
       onState_(std::move(onState)),
       caches_(curl_share_init(), &curl_share_cleanup),
       easy_(curl_easy_init(), &curl_easy_cleanup),
-      headerLines_(nullptr, &curl_slist_free_all) {
+      headerLines_(nullptr, &curl_slist_free_all),
+      linesWithoutBody_(nullptr, &curl_slist_free_all) {
   if (easy_ && caches_) {
     setCallbacks();
     setBounds();
@@ -169,17 +173,31 @@ bool CurlRequest::addHeader(std::string_view line) {
     reach(transfer_state::receivingResponse);
     const int status = statusOf(line);
     if (status >= kRedirection && status < kClientError) {
-      redirectedBy_ = textOf(easy_.get(), CURLINFO_EFFECTIVE_URL);
-    }
-    if (status == kSeeOther) {
-      // What follows is fetched by GET whatever this was (RFC 9110, section 15.4.4); libcurl keeps a method of ours.
-      curl_easy_setopt(easy_.get(), CURLOPT_CUSTOMREQUEST, nullptr);
+      noteRedirect(status);
     }
   } else if (overFtp() && (line.starts_with("150 ") || line.starts_with("125 "))) {
     // The file comes (RFC 959, section 5.4). Only one more reply is waited for, and that wait is inside libcurl.
     curl_easy_setopt(easy_.get(), CURLOPT_SERVER_RESPONSE_TIMEOUT, kLongestLastReply);
   }
   return true;
+}
+
+void CurlRequest::noteRedirect(int status) {
+  CURL* const easy = easy_.get();
+  redirectedBy_ = textOf(easy, CURLINFO_EFFECTIVE_URL);
+  const auto first = parseAddress(request_.url);
+  const auto here = parseAddress(redirectedBy_);
+  if (hasCredentials_ && first && here && (first->scheme != here->scheme || first->port != here->port)) {
+    // The library has forgotten its credentials on the way: from here it would take those of an address.
+    curl_easy_setopt(easy, CURLOPT_DISALLOW_USERNAME_IN_URL, 1L);
+  }
+  if (status == kSeeOther) {
+    // What follows is fetched by GET whatever this was (RFC 9110, section 15.4.4); libcurl keeps a method of ours.
+    curl_easy_setopt(easy, CURLOPT_CUSTOMREQUEST, nullptr);
+  }
+  if (status == kSeeOther || (request_.method == "POST" && (status == kMoved || status == kFound))) {
+    curl_easy_setopt(easy, CURLOPT_HTTPHEADER, linesWithoutBody_.get());
+  }
 }
 
 bool CurlRequest::addPage(std::string_view piece) {

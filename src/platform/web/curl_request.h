@@ -81,6 +81,7 @@ class CurlRequest {
   bool take(bool (CurlRequest::*add)(std::string_view), std::string_view piece);
   bool addHeader(std::string_view line);
   bool addPage(std::string_view piece);
+  void noteRedirect(int status);
   bool announcedTooLarge() const;
   bool waitsInside() const;
   bool overFtp() const;
@@ -94,6 +95,9 @@ class CurlRequest {
   Caches caches_;
   EasyHandle easy_;
   LineList headerLines_;
+  // Those of a request without a body.
+  LineList linesWithoutBody_;
+  bool hasCredentials_ = false;
   std::array<char, CURL_ERROR_SIZE> detail_{};
   std::string page_;
   std::size_t headerBytes_ = 0;

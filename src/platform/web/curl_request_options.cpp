@@ -11,6 +11,9 @@ namespace tarnwick {
 namespace {
 
 constexpr const char* kUserAgent = "Tarnwick/1.0";
+/// With these a file server lets in who has no name there.
+constexpr const char* kNobody = "anonymous";
+constexpr const char* kNobodysPassword = "ftp@example.com";
 constexpr long kReceiveBuffer = 128L * 1024;
 /// The longest that libcurl takes.
 constexpr std::chrono::seconds kLongestWait{INT_MAX / 1000};
@@ -98,7 +101,7 @@ void CurlRequest::setCaches() {
 void CurlRequest::setTarget() {
   CURL* const easy = easy_.get();
   const auto address = parseAddress(request_.url);
-  set(easy, CURLOPT_URL, address ? address->url.c_str() : "");
+  set(easy, CURLOPT_URL, address ? address->bareUrl.c_str() : "");
   set(easy, CURLOPT_PROTOCOLS_STR, kFetchedSchemes);
   set(easy, CURLOPT_REDIR_PROTOCOLS_STR, kFetchedSchemes);
   set(easy, CURLOPT_FOLLOWLOCATION, 1L);
@@ -129,20 +132,25 @@ void CurlRequest::setMethod() {
 
 void CurlRequest::setHeaders() {
   CURL* const easy = easy_.get();
-  const auto add = [this](const std::string& line) {
+  const auto add = [](LineList& list, const std::string& line) {
     // On failure the list stays as it was.
-    if (curl_slist* longer = curl_slist_append(headerLines_.get(), line.c_str())) {
-      static_cast<void>(headerLines_.release());
-      headerLines_.reset(longer);
+    if (curl_slist* longer = curl_slist_append(list.get(), line.c_str())) {
+      static_cast<void>(list.release());
+      list.reset(longer);
     }
   };
   // Without this a large body waits a second for a "100 Continue" that many servers never send.
-  add("Expect:");
+  add(headerLines_, "Expect:");
+  add(linesWithoutBody_, "Expect:");
   std::string_view rest = request_.headers;
   while (!rest.empty()) {
     const auto end = std::min(rest.find_first_of("\r\n"), rest.size());
     if (end > 0) {
-      add(std::string(rest.substr(0, end)));
+      const std::string line(rest.substr(0, end));
+      add(headerLines_, line);
+      if (!lowerCase(line).starts_with("content-")) {
+        add(linesWithoutBody_, line);
+      }
     }
     rest.remove_prefix(std::min(end + 1, rest.size()));
   }
@@ -154,14 +162,34 @@ void CurlRequest::setHeaders() {
   set(easy, CURLOPT_COOKIEFILE, "");
 }
 
+// The library is always given a name: where it has none, it takes those of the address that a redirect leads to, and
+// with an empty one some systems answer a challenge with the user's own log-in.
 void CurlRequest::setCredentials() {
   CURL* const easy = easy_.get();
-  // With more than one kind allowed nothing is sent before the server has asked and named its kinds.
-  set(easy, CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_BASIC | CURLAUTH_DIGEST | CURLAUTH_NTLM));
-  if (!request_.userName.empty() || !request_.password.empty()) {
-    set(easy, CURLOPT_USERNAME, request_.userName.c_str());
-    set(easy, CURLOPT_PASSWORD, request_.password.c_str());
+  std::string userName = request_.userName;
+  std::string password = request_.password;
+  if (userName.empty() && password.empty()) {
+    if (const auto address = parseAddress(request_.url)) {
+      userName = address->userName;
+      password = address->password;
+    }
   }
+  hasCredentials_ = !userName.empty() || !password.empty();
+  if (!hasCredentials_) {
+    // No challenge is answered, and who is nobody may be so everywhere.
+    set(easy, CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_NONE));
+    set(easy, CURLOPT_UNRESTRICTED_AUTH, 1L);
+    userName = kNobody;
+    password = kNobodysPassword;
+  } else if (userName.empty()) {
+    // The only kind, but not before the server has asked for it.
+    set(easy, CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_BASIC | CURLAUTH_ONLY));
+  } else {
+    // With more than one kind allowed nothing is sent before the server has asked and named its kinds.
+    set(easy, CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_BASIC | CURLAUTH_DIGEST | CURLAUTH_NTLM));
+  }
+  set(easy, CURLOPT_USERNAME, userName.c_str());
+  set(easy, CURLOPT_PASSWORD, password.c_str());
 }
 
 }  // namespace tarnwick

@@ -155,6 +155,10 @@ std::optional<TransferResult> failureToAnswer(const TransferEnd& end, const Serv
 std::optional<TransferResult> failureOfFtp(const TransferEnd& end, const ServerName& server) {
   switch (end.result) {
     case CURLE_LOGIN_DENIED:
+      if (server.scheme.starts_with("http")) {
+        return TransferResult{TransferFault::badUrl, "The server " + ServerName(end.redirectedBy).place +
+                                                         " redirected to an address that holds a name and a password."};
+      }
       return TransferResult{TransferFault::other,
                             "The server " + server.place + " refused the user name or the password."};
     case CURLE_REMOTE_FILE_NOT_FOUND:

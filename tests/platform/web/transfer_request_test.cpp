@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What a transfer control sends: method, body, headers, redirects, credentials, cookies.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/web/curl_transfers.h"
@@ -130,6 +131,7 @@ TEST_F(TransferRequest, PostTurnsIntoGetOnTheOldRedirects) {
     EXPECT_EQ(probe_.fetch(server_.url("/form"), "POST", "a=1", kFormHeader), "page of /result") << status;
     EXPECT_EQ(sent(1).method, "GET") << status;
     EXPECT_EQ(sent(1).body, "") << status;
+    EXPECT_FALSE(sent(1).hasHeader("Content-Type")) << status;
   }
 }
 
@@ -140,6 +142,7 @@ TEST_F(TransferRequest, PostStaysAPostOnTheNewRedirects) {
     EXPECT_EQ(probe_.fetch(server_.url("/form"), "POST", "a=1", kFormHeader), "page of /result") << status;
     EXPECT_EQ(sent(1).method, "POST") << status;
     EXPECT_EQ(sent(1).body, "a=1") << status;
+    EXPECT_TRUE(sent(1).hasHeader("Content-Type")) << status;
   }
 }
 
@@ -242,6 +245,91 @@ TEST_F(TransferRequest, CredentialsFollowARedirectOnTheSameHost) {
   server_.requireBasic("/in", "me", "secret", {.body = "welcome"});
   setCredentials("me", "secret");
   EXPECT_EQ(probe_.fetch(server_.url("/start")), "welcome");
+}
+
+/// What a redirect's address may hold before its host.
+class CredentialsOfARedirect : public TransferRequest, public ::testing::WithParamInterface<const char*> {
+ protected:
+  CredentialsOfARedirect() {
+    for (const char* kind : {"NTLM", "Digest realm=\"r\", nonce=\"n\"", "Basic realm=\"r\""}) {
+      server_.handle("/" + std::string(kind).substr(0, 4), [kind](const HttpRequest&) {
+        return HttpResponse{.status = 401, .headers = {{"WWW-Authenticate", kind}}, .body = "asked"};
+      });
+    }
+  }
+
+  std::string withCredentials(const HttpServer& server, const std::string& target) const {
+    std::string url = server.url(target);
+    return url.insert(std::string("http://").size(), std::string(GetParam()) + "@");
+  }
+
+  void expectNoAuthorization(const HttpServer& server) const {
+    for (const HttpRequest& request : server.requests()) {
+      EXPECT_FALSE(request.hasHeader("Authorization")) << request.wire;
+    }
+  }
+};
+
+TEST_P(CredentialsOfARedirect, StartNoLogInWhereNoneIsStored) {
+  for (const std::string target : {"/NTLM", "/Dige", "/Basi"}) {
+    server_.respond("/start", HttpResponse::redirect(withCredentials(server_, target)));
+    EXPECT_EQ(probe_.fetch(server_.url("/start")), "asked") << target;
+    EXPECT_EQ(server_.requestsFor(target).size(), 1U) << target;
+  }
+  expectNoAuthorization(server_);
+}
+
+TEST_P(CredentialsOfARedirect, StartNoLogInAtAnotherServer) {
+  HttpServer other;
+  other.respond("/back", HttpResponse::redirect(withCredentials(server_, "/NTLM")));
+  server_.respond("/start", HttpResponse::redirect(withCredentials(other, "/back")));
+  EXPECT_EQ(probe_.fetch(server_.url("/start")), "asked");
+  expectNoAuthorization(server_);
+  expectNoAuthorization(other);
+}
+
+TEST_P(CredentialsOfARedirect, LeaveTheStoredOnesAsTheyAre) {
+  server_.respond("/start", HttpResponse::redirect(withCredentials(server_, "/in")));
+  server_.requireBasic("/in", "me", "secret", {.body = "welcome"});
+  setCredentials("me", "secret");
+  EXPECT_EQ(probe_.fetch(server_.url("/start")), "welcome");
+}
+
+TEST_P(CredentialsOfARedirect, DoNotTakeThePlaceOfTheStoredOnesOnTheWayBack) {
+  HttpServer other;
+  server_.respond("/start", HttpResponse::redirect(withCredentials(other, "/back")));
+  other.respond("/back", HttpResponse::redirect(withCredentials(server_, "/NTLM")));
+  setCredentials("me", "secret");
+  EXPECT_EQ(probe_.fetch(server_.url("/start")), "");
+  EXPECT_EQ(probe_.fault(), TransferFault::badUrl);
+  EXPECT_THAT(probe_.cause(), ::testing::EndsWith(" redirected to an address that holds a name and a password."));
+  EXPECT_TRUE(server_.requestsFor("/NTLM").empty());
+  expectNoAuthorization(server_);
+  expectNoAuthorization(other);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, CredentialsOfARedirect, ::testing::Values(":", "user:pw", "user", ":pw"));
+
+TEST_F(TransferRequest, CredentialsOfTheFirstAddressAnswerItsServerAlone) {
+  server_.respond("/start", HttpResponse::redirect("/in"));
+  server_.requireBasic("/in", "m@e", "p:w", HttpResponse::redirect(server_.url("/in", "localhost")));
+  std::string url = server_.url("/start");
+  EXPECT_EQ(probe_.fetch(url.insert(std::string("http://").size(), "m%40e:p%3Aw@")), "credentials, please");
+  const auto asked = server_.requestsFor("/in");
+  ASSERT_EQ(asked.size(), 3U);
+  EXPECT_TRUE(asked.at(1).hasHeader("Authorization"));
+  EXPECT_FALSE(asked.at(2).hasHeader("Authorization")) << "another host";
+}
+
+TEST_F(TransferRequest, APasswordWithoutANameAnswersBasicAlone) {
+  server_.requireBasic("/in", "", "secret", {.body = "welcome"});
+  setCredentials("", "secret");
+  EXPECT_EQ(probe_.fetch(server_.url("/in")), "welcome");
+  EXPECT_FALSE(sent(0).hasHeader("Authorization")) << "nothing is sent before the server asks";
+  server_.clearRecords();
+  server_.respond("/in", {.status = 401, .headers = {{"WWW-Authenticate", "NTLM"}}, .body = "asked"});
+  EXPECT_EQ(probe_.fetch(server_.url("/in")), "asked");
+  EXPECT_EQ(server_.requests().size(), 1U);
 }
 
 }  // namespace
