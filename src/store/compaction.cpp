@@ -122,6 +122,15 @@ void Compaction::putInPlace(std::unique_ptr<HeldDatabase> held) {
   }
 }
 
+void Compaction::removeRemains() noexcept {
+  const std::string copies[] = {inFolder(kBackupName) + kUnfinished, db_.dbPath() + kUnfinished};
+  for (const std::string& copy : copies) {
+    succeeds([&] { files_.remove(copy); });
+  }
+  succeeds([&] { files_.remove(files_.resolveLinks(db_.dbPath()) + kUnfinished); });
+  succeeds([&] { removeSideFiles(inFolder(std::string(kTempName))); });
+}
+
 void Compaction::removeSideFiles(const std::string& path) {
   for (const char* const ending : kSideFiles) {
     files_.remove(path + ending);

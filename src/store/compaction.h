@@ -29,6 +29,11 @@ class Compaction {
   /// Whether the last compaction that succeeded has put its file in place; a full disk may keep it from that.
   bool compactedInPlace() const { return inPlace_; }
 
+  /// Removes what a compaction that was killed has left behind: whole copies of the list, passwords included. Nothing
+  /// that a compaction still needs: none is at work while the database is open here. Where the folder may not be
+  /// changed it all stays.
+  void removeRemains() noexcept;
+
   /// The connection string with every "tarnwick.mdb", in these letters, replaced by "temp.mdb".
   static std::string destinationOf(std::string connString);
 

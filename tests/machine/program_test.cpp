@@ -51,6 +51,23 @@ TEST(ProgramOnABadFolderTest, ADamagedDatabaseIsAnErrorThatNamesTheFile) {
   }
 }
 
+TEST(ProgramOnABadFolderTest, WhatAKilledCompactionLeftIsGoneAfterTheStart) {
+  ProgramFolder folder;
+  for (const char* left : {"backup.mdb.new", "tarnwick.mdb.new", "temp.mdb-journal"}) {
+    std::ofstream(folder.file(left)) << "a copy with passwords";
+  }
+  for (const char* kept : {"backup.mdb", "temp.mdb"}) {
+    std::ofstream(folder.file(kept)) << "whole";
+  }
+  TestServices machine;
+  SilentView view;
+  Program program(folder.path(), machine.services(), view);
+  program.start();
+  EXPECT_THAT(filesIn(folder.path()), ::testing::IsSupersetOf({"backup.mdb", "temp.mdb", "tarnwick.mdb"}));
+  EXPECT_THAT(filesIn(folder.path()), ::testing::Not(::testing::Contains(::testing::EndsWith(".new"))));
+  EXPECT_THAT(filesIn(folder.path()), ::testing::Not(::testing::Contains("temp.mdb-journal")));
+}
+
 TEST(ProgramOnABadFolderTest, ClosingAProgramThatNeverOpenedIsHarmless) {
   ProgramFolder folder;
   TestServices machine;
