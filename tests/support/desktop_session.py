@@ -92,10 +92,10 @@ class DesktopSession:
                                                 stderr=subprocess.DEVNULL))
         wait_until(lambda: output_of(["wmctrl", "-m"], self.env), "the window manager")
 
-    def start(self, program: Path, errors: Path) -> subprocess.Popen:
-        """Starts a program from a folder that is not its own; what it prints goes into the file `errors`."""
-        with errors.open("wb") as file:
-            process = subprocess.Popen([str(program)], env=self.env, cwd=self._folder, stdin=subprocess.DEVNULL,
+    def start(self, program: Path, errors: Path, env: dict[str, str] | None = None) -> subprocess.Popen:
+        """Starts a program from a folder that is not its own; what it prints is added to the file `errors`."""
+        with errors.open("ab") as file:
+            process = subprocess.Popen([str(program)], env=env or self.env, cwd=self._folder, stdin=subprocess.DEVNULL,
                                        stdout=file, stderr=file)
         self._processes.append(process)
         return process
@@ -119,6 +119,6 @@ class DesktopSession:
         subprocess.run(["xdotool", "windowactivate", window], env=self.env, check=False, stderr=subprocess.DEVNULL)
         return output_of(["xdotool", "getactivewindow"], self.env) == window
 
-    def close(self, window: str) -> None:
-        """Asks the window to close, as a click on the close button of its frame does."""
-        subprocess.run(["wmctrl", "-i", "-c", window], env=self.env, check=True)
+    def close(self, window: str, check: bool = True) -> None:
+        """Asks the window to close, as a click on the close button of its frame does; `check`: it must be there."""
+        subprocess.run(["wmctrl", "-i", "-c", window], env=self.env, check=check, stderr=subprocess.DEVNULL)

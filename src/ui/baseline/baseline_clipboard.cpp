@@ -12,9 +12,11 @@
 namespace tarnwick {
 
 void BaselineEdit::contextMenuEvent(QContextMenuEvent* event) {
-  QMenu menu(this);
+  // Its form may be closed and gone while it is open: nothing waits for it.
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
   const auto add = [&](const QString& name, QKeySequence::StandardKey key, auto slot, bool enabled) {
-    QAction* action = menu.addAction(name, this, slot);
+    QAction* action = menu->addAction(name, this, slot);
     action->setShortcut(key);
     action->setEnabled(enabled);
   };
@@ -22,13 +24,13 @@ void BaselineEdit::contextMenuEvent(QContextMenuEvent* event) {
   const bool selected = textCursor().hasSelection();
   add(tr("&Undo"), QKeySequence::Undo, &BaselineEdit::undoEdit, editable && text_.canUndo());
   add(tr("&Redo"), QKeySequence::Redo, &BaselineEdit::redoEdit, editable && text_.canRedo());
-  menu.addSeparator();
+  menu->addSeparator();
   add(tr("Cu&t"), QKeySequence::Cut, &BaselineEdit::cut, editable && selected);
   add(tr("&Copy"), QKeySequence::Copy, &BaselineEdit::copy, selected);
   add(tr("&Paste"), QKeySequence::Paste, &BaselineEdit::paste, canPaste());
-  menu.addSeparator();
+  menu->addSeparator();
   add(tr("Select &All"), QKeySequence::SelectAll, &BaselineEdit::selectAll, !document()->isEmpty());
-  menu.exec(event->globalPos());
+  menu->popup(event->globalPos());
 }
 
 // Bytes go over the clipboard in a form of their own, which only a page in the same character set takes.

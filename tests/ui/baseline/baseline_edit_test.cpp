@@ -8,11 +8,13 @@
 #include <memory>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
+#include <QTimer>
 
 #include "ui/support/patience.h"
 
@@ -162,6 +164,19 @@ TEST_F(BaselineEditTest, ANoticeIsNoPartOfThePage) {
   edit_.endNotice();
   EXPECT_EQ(edit_.page(), kMixed);
   EXPECT_FALSE(edit_.isReadOnly());
+}
+
+TEST_F(BaselineEditTest, GoesWithItsFormWhileItsMenuIsOpen) {
+  auto form = std::make_unique<QWidget>();
+  auto* edit = new BaselineEdit(form.get());
+  form->show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(form.get()));
+  QTimer::singleShot(0, form.get(), [&form] { form.reset(); });
+  QContextMenuEvent click(QContextMenuEvent::Mouse, {1, 1}, edit->viewport()->mapToGlobal(QPoint(1, 1)));
+  QApplication::sendEvent(edit->viewport(), &click);
+  EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return form == nullptr; }));
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST_F(BaselineEditTest, ATypedCharacterThatTheCharacterSetLacksIsSelected) {
