@@ -60,6 +60,15 @@ Request PageFetch::requestFor(std::int16_t idSite, std::string_view method) {
   return request;
 }
 
+std::string PageFetch::credential(std::int16_t idSite, const char* field, const std::string& cell) {
+  if (cell != kNullText) {
+    return cell;
+  }
+  const SqlValue id(std::int64_t{idSite});
+  const auto rows = database_.conn().execute(joinSql("select ", field, " from sites where idSite = ?1"), {&id, 1});
+  return rows->eof() ? std::string() : rows->field(std::size_t{0}).toText();
+}
+
 bool PageFetch::beginFetch(std::int16_t idSite, std::function<void()> ended) {
   if (single_.sInet().stillExecuting()) {
     return false;

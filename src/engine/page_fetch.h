@@ -30,6 +30,9 @@ class PageFetch {
   /// The same, to tell whether the site would still be sent what it was sent.
   std::string postVarsAsStored(std::int16_t idSite);
 
+  /// The name or password of a site, as stored in `field`, of which `cell` stands in a site table: empty for a Null,
+  /// but those four letters where they were typed.
+  std::string credential(std::int16_t idSite, const char* field, const std::string& cell);
   /// How a site whose `method` column is `method`, in any letter case, is asked for its page: the method in upper case
   /// and, for "POST", the header and the body of its POST variables.
   Request requestFor(std::int16_t idSite, std::string_view method);

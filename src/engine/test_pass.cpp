@@ -151,8 +151,8 @@ void TestPass::sendRequest(std::int16_t slot) {
   const std::int16_t id = idSite(row);
   Request request = needs_.pages.requestFor(id, cell(site_column::method, row));
   request.url = url(row);
-  request.userName = cell(site_column::sUserName, row);
-  request.password = cell(site_column::sPassWord, row);
+  request.userName = needs_.pages.credential(id, "sUserName", cell(site_column::sUserName, row));
+  request.password = needs_.pages.credential(id, "sPassWord", cell(site_column::sPassWord, row));
   if (!request.headers.empty()) {
     forms_[row] = request.body;
   }

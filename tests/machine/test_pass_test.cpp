@@ -163,12 +163,24 @@ TEST_F(TestPassTest, PostSendsTheEncodedVariablesInWhateverCaseTheMethodIs) {
   EXPECT_EQ(server.requests()[0].header("Content-Type"), "application/x-www-form-urlencoded");
 }
 
-TEST_F(TestPassTest, ANullUserNameReachesTheServersChallengeAsTheTextNull) {
+TEST_F(TestPassTest, NullCredentialsAnswerNoChallengeHereNorInASingleFetch) {
   server.requireBasic("/a", "NULL", "NULL", {.body = "secret"});
   const std::int16_t id = program.data().addSite();
   folder.execute("update sites set url = '" + server.url("/a") + "'");
+  ASSERT_EQ(column(id, "sUserName"), "NULL");
+  run().startChecking();
+  EXPECT_EQ(column(id, "content_compare"), "credentials, please");
+  EXPECT_EQ(program.data().getHtmlFromSite(id), "credentials, please");
+  EXPECT_THAT(server.requests(), SizeIs(2));
+}
+
+TEST_F(TestPassTest, TheLettersOfANullAreCredentialsWhereTheyWereTyped) {
+  server.requireBasic("/a", "NULL", "NULL", {.body = "secret"});
+  const std::int16_t id = addSite(server.url("/a"));
+  program.data().updateSites(id, server.url("/a"), "get", true, 10, false, "", "NULL", "NULL");
   run().startChecking();
   EXPECT_EQ(column(id, "content_compare"), "secret");
+  EXPECT_EQ(program.data().getHtmlFromSite(id), "secret");
 }
 
 TEST_F(TestPassTest, StopInMidPassLosesTheUnrecordedAndALaterStartTestsAllAgain) {
