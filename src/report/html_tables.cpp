@@ -26,7 +26,13 @@ std::string dataRow(const Recordset& rows, bool odd, const CellText& cell) {
 
 }  // namespace
 
-std::string plainCell(const std::string&, const SqlValue& value) { return value.toText(); }
+std::string plainCell(const std::string&, const SqlValue& value) {
+  std::string text = value.toText();
+  for (std::size_t at = text.find('<'); at != std::string::npos; at = text.find('<', at)) {
+    text.replace(at, 1, "&lt;");
+  }
+  return text;
+}
 
 std::string htmlTable(Recordset& rows, const CellText& cell) {
   std::string html = line("<table width=500 border=1 cellpadding=2 cellspacing=0>");

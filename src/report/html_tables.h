@@ -14,7 +14,7 @@ inline constexpr const char* kReportLineEnd = "\r\n";
 /// Gives a data cell's content: the field's name as the statement spells it, and its value.
 using CellText = std::function<std::string(const std::string& name, const SqlValue& value)>;
 
-/// A field's value as it stands, without any escaping; empty for Null.
+/// A field's value as it stands but for "<", which is "&lt;": it must not become markup. Empty for Null.
 std::string plainCell(const std::string& name, const SqlValue& value);
 
 /// An HTML table of the recordset's current row and all after it: one header row of the field names, then a row for
