@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/command_line.h"
+#include "base/one_line.h"
 
 namespace tarnwick {
 namespace {
@@ -37,7 +38,10 @@ std::string fill(std::string text, const Placeholders& placeholders, const Alert
 }  // namespace
 
 std::string fillTemplate(std::string text, const AlertFacts& facts, const Clock& clock) {
-  return fill(std::move(text), kNamed, facts, clock);
+  // A line of its own in the mail could end it, and what follows would be commands.
+  const AlertFacts lines = {oneLine(facts.url), oneLine(facts.idSite), oneLine(facts.email),
+                            oneLine(facts.localHostName), oneLine(facts.localIP)};
+  return fill(std::move(text), kNamed, lines, clock);
 }
 
 std::string fillCommand(std::string text, const AlertFacts& facts, const Clock& clock) {

@@ -21,6 +21,7 @@ struct AlertFacts {
 
 /// Replaces the placeholders "~date~", "~url~", "~idsite~", "~email~", "~localhostname~" and "~localip~", in this order
 /// and this letter case, each wherever it occurs. A placeholder that an earlier value brings in is replaced as well.
+/// Line ends and NUL bytes of the values are left out.
 std::string fillTemplate(std::string text, const AlertFacts& facts, const Clock& clock);
 
 /// The same for a command line, followed by the short forms "~1~" to "~6~" of the six in the same order; the clock is

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "mail/smtp.h"
 
-#include <algorithm>
 #include <array>
 
+#include "base/one_line.h"
 #include "base/product.h"
 
 namespace tarnwick {
@@ -12,14 +12,6 @@ namespace {
 constexpr std::int16_t kMailPort = 25;
 /// Reply codes from here on are refusals for good.
 constexpr std::int16_t kFirstRefusal = 500;
-
-/// A value for a command or a header line. A line end within a setting would begin a command or a header of its own,
-/// and the replies would no longer belong to the commands they are taken for.
-std::string oneLine(std::string value) {
-  const auto breaks = [](char c) { return c == '\r' || c == '\n' || c == '\0'; };
-  value.erase(std::remove_if(value.begin(), value.end(), breaks), value.end());
-  return value;
-}
 
 std::string messageText(const std::string& to, const std::string& subject, const std::string& body) {
   return "Subject:" + subject + "\r\n" +            //
@@ -58,6 +50,8 @@ bool smtp::sendEmail(const std::string& server, const std::string& mTo, const st
   if (port == 0) {
     port = kMailPort;
   }
+  // A line end within a setting would begin a command or a header of its own, and the replies would no longer belong to
+  // the commands they are taken for.
   const std::string to = oneLine(mTo);
   const std::array<std::string, 5> commands = {"MAIL FROM:<" + oneLine(mFrom) + ">\r\n", "RCPT TO:<" + to + ">\r\n",
                                                "DATA\r\n", messageText(to, oneLine(mSubject), mMsg), "QUIT\r\n"};

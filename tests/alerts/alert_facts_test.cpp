@@ -38,6 +38,13 @@ TEST(AlertFacts, FillEveryPlaceholderOfATemplate) {
             "2024-05-17 12:00:30|http://example.com/|12|you@example.com|watcher|10.1.2.3");
 }
 
+TEST(AlertFacts, BringNoLineEndAndNoNulIntoAMail) {
+  using namespace std::string_literals;
+  const AlertFacts odd = {"http://a/\r\n.\r\nMAIL FROM:<x@y.zz>"s, "1\n2"s, "a@b.cd\r"s, "host\0name"s, "10.\n1"s};
+  EXPECT_EQ(filled("~url~|~idsite~|~email~|~localhostname~|~localip~\r\n", odd),
+            "http://a/.MAIL FROM:<x@y.zz>|12|a@b.cd|hostname|10.1\r\n");
+}
+
 TEST(AlertFacts, FillEveryOccurrence) { EXPECT_EQ(filled("~idsite~~idsite~ ~idsite~"), "1212 12"); }
 
 TEST(AlertFacts, LeaveATextWithoutPlaceholdersAlone) {

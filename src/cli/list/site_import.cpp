@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "base/one_line.h"
 #include "cli/list/site_list_stored.h"
 #include "platform/address.h"
 
@@ -180,6 +181,10 @@ class Planner {
   ImportPlan plan_;
 };
 
+std::string brokenLine(const std::string& name, const std::string& text) {
+  return name + " " + quotedForMessage(text) + " holds a line end or a NUL byte: give it without";
+}
+
 void storeListed(m& data, const ImportStep& step) {
   storeSite(data, step.idSite, step.listed.site, step.listed.postVars);
   if (step.fields.has(list_name::options)) {
@@ -229,12 +234,22 @@ void carryOut(m& data, const ImportPlan& plan) {
 }
 
 void checkTexts(const SiteDraft& site, ListValues& values) {
+  // A site may be without an address as long as nobody has entered one.
   const auto address = parseAddress(site.url);
-  if (address && !isFetchedScheme(address->scheme)) {
+  if (hasLineEnd(site.url)) {
+    values.fault(brokenLine("url", site.url));
+  } else if (!address && !site.url.empty()) {
+    values.fault("url " + quotedForMessage(site.url) + " is no address: give one like https://example.org/page");
+  } else if (address && !isFetchedScheme(address->scheme)) {
     values.fault("url " + quotedForMessage(site.url) +
                  " cannot be fetched: give an address of http, https, ftp or ftps");
   }
-  if (site.alertEmail && !m::isEmail(site.email)) {
+  if (hasLineEnd(site.sUserName)) {
+    values.fault(brokenLine("sUserName", site.sUserName));
+  }
+  if (hasLineEnd(site.email)) {
+    values.fault(brokenLine("email", site.email));
+  } else if (site.alertEmail && !m::isEmail(site.email)) {
     values.fault("email " + quotedForMessage(site.email) +
                  " is no mail address: give one for the alerts, or set alertEmail to False");
   }

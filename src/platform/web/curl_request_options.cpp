@@ -3,6 +3,7 @@
 #include <climits>
 #include <string_view>
 
+#include "base/one_line.h"
 #include "base/text.h"
 #include "platform/address.h"
 #include "platform/web/curl_request.h"
@@ -40,6 +41,10 @@ std::optional<TransferResult> refusalOf(const Request& request) {
   }
   if (!isFetchedScheme(address->scheme)) {
     return unfetchedScheme(address->scheme);
+  }
+  // A log-in to a file server is sent in lines.
+  if (address->scheme.starts_with("ftp") && (hasLineEnd(request.userName) || hasLineEnd(request.password))) {
+    return badCredentials();
   }
   if (!request.method.empty() && !isToken(request.method)) {
     return badMethod(request.method);

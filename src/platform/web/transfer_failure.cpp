@@ -215,6 +215,10 @@ TransferResult badMethod(const std::string& method) {
   return {TransferFault::badMethod, "The method " + quotable(method) + " is not valid."};
 }
 
+TransferResult badCredentials() {
+  return {TransferFault::other, "The user name or the password holds a line end, and a file server takes none."};
+}
+
 TransferResult noMemory() { return {TransferFault::shortage, "There is not enough memory for the page."}; }
 
 }  // namespace tarnwick

@@ -57,6 +57,7 @@ TransferResult failureOf(const TransferEnd& end);
 TransferResult badAddress(const std::string& text);
 TransferResult unfetchedScheme(const std::string& scheme);
 TransferResult badMethod(const std::string& method);
+TransferResult badCredentials();
 TransferResult noMemory();
 
 }  // namespace tarnwick

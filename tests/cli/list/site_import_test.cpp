@@ -89,12 +89,12 @@ TEST_F(SiteImport, ADryRunSaysWhatItWouldDoAndDoesNothing) {
   addSite("http://b/");
   addSite("http://c/");
   const std::string before = list();
-  EXPECT_EQ(importCsv("idSite,url,active,tInterval\n1,http://x/,no,10\n3,http://c/,yes,10\n8,http://d/\x1b,,\n",
+  EXPECT_EQ(importCsv("idSite,url,active,tInterval\n1,http://x/,no,10\n3,http://c/,yes,10\n8,http://d/\xc2\x9b,,\n",
                       {"--dry-run", "--replace"}),
             exit_status::ok)
       << err;
   EXPECT_EQ(out,
-            "change 1 http://x/ (url, active)\nadd 8 http://d/\\x1b\ndelete 2 http://b/\n"
+            "change 1 http://x/ (url, active)\nadd 8 http://d/\\xc2\\x9b\ndelete 2 http://b/\n"
             "1 to add, 1 to change, 1 to delete, 1 unchanged.\n");
   EXPECT_EQ(list(), before);
 }
@@ -131,6 +131,41 @@ TEST_F(SiteImport, TellsAllFaultsAndImportsNothing) {
   EXPECT_THAT(err, HasSubstr("line 7: idSite \"0\" is outside 1 to 32767"));
   EXPECT_THAT(err, HasSubstr("Nothing was imported."));
   EXPECT_EQ(list(), "1|http://a/\n");
+}
+
+TEST_F(SiteImport, RefusesWhatAddRefuses) {
+  const std::vector<std::string> noAddresses = {"http://",  "http://a b c:/",  "http://[::1",
+                                                "a%zz://x", "http://a:99999/", "http://a%20b/"};
+  std::string text = "url\n";
+  for (const std::string& url : noAddresses) {
+    EXPECT_EQ(run({"add", url}), exit_status::failed) << url;
+    text += url + "\n";
+  }
+  EXPECT_EQ(importCsv(text), exit_status::failed);
+  for (std::size_t row = 0; row < noAddresses.size(); ++row) {
+    EXPECT_THAT(err, HasSubstr("line " + std::to_string(row + 2) + ": url \"" + noAddresses[row] +
+                               "\" is no address: give one like https://example.org/page"));
+  }
+  EXPECT_EQ(list(), "");
+}
+
+TEST_F(SiteImport, RefusesLineEndsAndNulWhereTheyWouldBecomeCommands) {
+  const std::string remedy = " holds a line end or a NUL byte: give it without";
+  for (const std::string end : {"\\r", "\\n", "\\u0000"}) {
+    for (const std::string name : {"url", "email", "sUserName"}) {
+      input = R"({"tarnwick": 1, "sites": [)"
+              "\n"
+              R"({"url": "http://a/"},)"
+              "\n{" +
+              std::string(name == "url" ? "" : R"("url": "http://b/", )") + "\"" + name + R"(": "http://c/)" + end +
+              R"(.x"}]})";
+      EXPECT_EQ(run({"import", "-", "--format", "json"}), exit_status::failed) << name << end;
+      EXPECT_THAT(err, HasSubstr("line 3: " + name + " \"http://c/"));
+      EXPECT_THAT(err, HasSubstr(remedy));
+    }
+  }
+  EXPECT_EQ(importCsv("url\n\"http://a/\r\n\"\n"), exit_status::failed) << "at the end, too";
+  EXPECT_EQ(list(), "");
 }
 
 TEST_F(SiteImport, ChecksTheStoredMailAddressToo) {

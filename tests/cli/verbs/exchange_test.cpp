@@ -16,6 +16,8 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 
 const std::string kOddText(" \"a,b\"\r\n\0\xff;\t'=&%+\x1b ", 20);
+// What may stand in an address and in a name, which are one line.
+const std::string kOddLine(" \"a,b\"\xff;'=&%+ ");
 
 class ExchangeVerbs : public ToolFixture {
  protected:
@@ -28,7 +30,7 @@ class ExchangeVerbs : public ToolFixture {
   void makeOddList() {
     m data(folder.path(), machine.services());
     data.addSite(3);
-    storeSite(data, 3, {"http://a/" + kOddText, "GET", false, "1", true, "a@b.cd", kOddText, kOddText},
+    storeSite(data, 3, {"http://a/" + kOddLine, "GET", false, "1", true, "a@b.cd", kOddLine, kOddText},
               {{kOddText, "NULL"}, {"", ""}, {"a", "2"}, {"a", "1"}, {"a", "1"}, {"a", ""}});
     data.updateContentCompare(3, kOddText);
     data.addSite(7);
@@ -47,7 +49,8 @@ class ExchangeVerbs : public ToolFixture {
     EXPECT_EQ(out, "4 added, 0 changed, 0 deleted, 0 unchanged.\n");
     ASSERT_EQ(run({"--folder", other.path(), "export", other.file(name), "--baselines"}), exit_status::ok) << err;
     EXPECT_EQ(read(folder.file(name)), read(other.file(name)));
-    EXPECT_EQ(other.queryText("select sUserName from sites where idSite = 3"), kOddText);
+    EXPECT_EQ(other.queryText("select sUserName from sites where idSite = 3"), kOddLine);
+    EXPECT_EQ(other.queryText("select sPassWord from sites where idSite = 3"), kOddText);
     EXPECT_EQ(other.queryText("select content_compare from sites where idSite = 3"), kOddText);
     ASSERT_EQ(run({"--folder", other.path(), "import", folder.file(name), "--replace"}), exit_status::ok) << err;
     EXPECT_EQ(out, "0 added, 0 changed, 0 deleted, 4 unchanged.\n");

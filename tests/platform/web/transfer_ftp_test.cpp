@@ -40,6 +40,20 @@ TEST_F(TransferFtp, WrongCredentialsAreAFailure) {
   EXPECT_NE(probe_.cause().find("refused the user name or the password"), std::string::npos) << probe_.cause();
 }
 
+TEST_F(TransferFtp, CredentialsCannotSmuggleALine) {
+  using namespace std::string_literals;
+  for (const std::string& odd : {"me\r\nMAIL FROM:<a@b.cd>"s, "me\n"s, "m\re"s, "m\0e"s}) {
+    for (std::string Request::*field : {&Request::userName, &Request::password}) {
+      probe_.request.userName = "me";
+      probe_.request.password = "secret";
+      probe_.request.*field = odd;
+      EXPECT_EQ(probe_.fetch(server_.url("/page.txt")), "");
+      EXPECT_EQ(probe_.cause(), "The user name or the password holds a line end, and a file server takes none.");
+    }
+  }
+  EXPECT_TRUE(server_.commands().empty());
+}
+
 TEST_F(TransferFtp, MissingFileIsAFailure) {
   EXPECT_EQ(probe_.fetch(server_.url("/none.txt")), "");
   EXPECT_EQ(probe_.fault(), TransferFault::other);
