@@ -27,14 +27,13 @@ std::string escapeOf(unsigned char byte) {
   return escape.data();
 }
 
-// The control characters, among them those above 0x7f that some terminals obey, and what reorders text.
+}  // namespace
+
 bool movesTheCursor(char32_t character) {
   const auto within = [&](char32_t from, char32_t to) { return character >= from && character <= to; };
   return character < 0x20 || within(0x7f, 0x9f) || character == 0x61c || within(0x200e, 0x200f) ||
          within(0x2028, 0x202e) || within(0x2066, 0x2069);
 }
-
-}  // namespace
 
 std::string visibleText(std::string_view bytes, std::size_t longest) {
   std::string shown;

@@ -25,6 +25,16 @@ constexpr std::string_view codeOf(Console::Colour colour) {
   return "";
 }
 
+// A file's name in it may hold anything.
+std::string visibleLines(std::string_view text) {
+  std::string shown;
+  for (std::size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n')) {
+    shown += visibleText(text.substr(0, end)) + '\n';
+    text.remove_prefix(end + 1);
+  }
+  return shown + visibleText(text);
+}
+
 }  // namespace
 
 std::ostream& Console::out() {
@@ -46,7 +56,7 @@ void Console::say(std::string_view line) {
 void Console::complain(std::string_view line) {
   endLive();
   hasComplained_ = true;
-  err_ << "tarnwickctl: " << line << '\n';
+  err_ << "tarnwickctl: " << visibleLines(line) << '\n';
   err_.flush();
 }
 

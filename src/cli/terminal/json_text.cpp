@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/terminal/json_text.h"
 
+#include <array>
+#include <cstdio>
 #include <nlohmann/json.hpp>
 #include <ostream>
 #include <stdexcept>
@@ -8,6 +10,7 @@
 
 #include "base/base64.h"
 #include "base/text.h"
+#include "base/visible_text.h"
 
 namespace tarnwick {
 namespace {
@@ -39,6 +42,26 @@ Json libraryForm(JsonValue value) {
         }
       },
       value.content());
+}
+
+// The library escapes what JSON must not hold; a terminal obeys more than that. Such characters stand in texts only.
+std::string forTerminals(std::string json) {
+  std::string escaped;
+  std::size_t copied = 0;
+  for (std::size_t at = 0; at < json.size(); ++at) {
+    if (static_cast<unsigned char>(json[at]) < 0x7f) {
+      continue;
+    }
+    const auto decoded = decodeUtf8(std::string_view(json).substr(at));
+    if (decoded && movesTheCursor(decoded->character)) {
+      std::array<char, 7> escape{};
+      std::snprintf(escape.data(), escape.size(), "\\u%04x", static_cast<unsigned>(decoded->character));
+      escaped.append(json, copied, at - copied).append(escape.data());
+      copied = at + decoded->length;
+    }
+    at += decoded ? decoded->length - 1 : 0;
+  }
+  return copied == 0 ? std::move(json) : escaped.append(json, copied);
 }
 
 }  // namespace
@@ -73,11 +96,11 @@ JsonValue jsonNumber(std::string_view text) {
   return number.is_number() ? JsonValue(number.get<double>()) : jsonText(text);
 }
 
-std::string jsonLine(JsonValue value) { return libraryForm(std::move(value)).dump(); }
+std::string jsonLine(JsonValue value) { return forTerminals(libraryForm(std::move(value)).dump()); }
 
 void sayJson(Console& console, JsonValue value) {
   const Json json = libraryForm(std::move(value));
-  console.say(json.dump(kIndent));
+  console.say(forTerminals(json.dump(kIndent)));
 }
 
 void JsonArray::add(JsonValue value) {

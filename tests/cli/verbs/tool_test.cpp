@@ -119,6 +119,29 @@ TEST_F(ToolItself, TakesForAValueWhatOnlyLooksLikeAnOption) {
   EXPECT_EQ(column(1, "sPassWord"), "--");
 }
 
+TEST_F(ToolItself, WritesNothingThatATerminalObeys) {
+  const std::string odd =
+      "http://a/\xc2\x9b"
+      "2J\xe2\x80\xae\xd8\x9c\xe2\x81\xa9\xc3\xa9";
+  addSite("http://b/");
+  folder.execute("update sites set url = '" + odd + "', sUserName = '" + odd + "'");
+  for (const auto& arguments : std::vector<std::vector<std::string>>{
+           {"sites", "--json"}, {"site", "1", "--json"}, {"export", "-", "--format", "json"}}) {
+    const Json json = runJson(arguments);
+    EXPECT_THAT(out, HasSubstr("http://a/\\u009b2J\\u202e\\u061c\\u2069\xc3\xa9"));
+    EXPECT_THAT(json.dump(), HasSubstr(odd)) << "the value is the same";
+    for (const char* obeyed : {"\xc2\x9b", "\xe2\x80\xae", "\xd8\x9c", "\xe2\x81\xa9"}) {
+      EXPECT_THAT(out, Not(HasSubstr(obeyed)));
+    }
+  }
+  EXPECT_EQ(run({"import", folder.file("\xc2\x9b"
+                                       "2J\x1b[2J.json")}),
+            exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("\\xc2\\x9b2J\\x1b[2J.json"));
+  EXPECT_THAT(err, Not(HasSubstr("\xc2\x9b")));
+  EXPECT_THAT(err, Not(HasSubstr("\x1b")));
+}
+
 TEST_F(ToolItself, NamesAWordThatIsNoVerbWhereverItStands) {
   for (const auto& arguments : std::vector<std::vector<std::string>>{
            {"frob"}, {"--folder", folder.path(), "frob"}, {"frob", "--folder", folder.path()}}) {
