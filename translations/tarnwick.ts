@@ -312,6 +312,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Notices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This desktop could not open the page. You find it at:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -804,6 +808,61 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>a variable of site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::Notices</name>
+    <message>
+        <source>1 site is unwatched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites are unwatched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 site is unwatched: no run is on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites are unwatched: no run is on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 alert was not delivered: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 alerts were not delivered: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 alert was not delivered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 alerts were not delivered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last %1 of them:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1, %2: %3</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -312,6 +312,10 @@
         <translation>Fortschritt des Durchgangs</translation>
     </message>
     <message>
+        <source>Notices</source>
+        <translation>Hinweise</translation>
+    </message>
+    <message>
         <source>This desktop could not open the page. You find it at:</source>
         <translation>Diese Arbeitsumgebung konnte die Seite nicht öffnen. Sie finden sie unter:</translation>
     </message>
@@ -807,6 +811,61 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>a variable of site %1</source>
         <translation>eine Variable von Seite %1</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::Notices</name>
+    <message>
+        <source>1 site is unwatched</source>
+        <translation>1 Seite ist unbeobachtet</translation>
+    </message>
+    <message>
+        <source>%1 sites are unwatched</source>
+        <translation>%1 Seiten sind unbeobachtet</translation>
+    </message>
+    <message>
+        <source>1 site is unwatched: no run is on</source>
+        <translation>1 Seite ist unbeobachtet: Es ist kein Lauf im Gange</translation>
+    </message>
+    <message>
+        <source>%1 sites are unwatched: no run is on</source>
+        <translation>%1 Seiten sind unbeobachtet: Es ist kein Lauf im Gange</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>1 alert was not delivered: %1</source>
+        <translation>1 Alarm wurde nicht zugestellt: %1</translation>
+    </message>
+    <message>
+        <source>%1 alerts were not delivered: %2</source>
+        <translation>%1 Alarme wurden nicht zugestellt: %2</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>1 alert was not delivered.</source>
+        <translation>1 Alarm wurde nicht zugestellt.</translation>
+    </message>
+    <message>
+        <source>%1 alerts were not delivered.</source>
+        <translation>%1 Alarme wurden nicht zugestellt.</translation>
+    </message>
+    <message>
+        <source>The last %1 of them:</source>
+        <translation>Die letzten %1 davon:</translation>
+    </message>
+    <message>
+        <source>Site %1, %2: %3</source>
+        <translation>Seite %1, %2: %3</translation>
     </message>
 </context>
 <context>

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <limits>
 #include <stdexcept>
-#include <utility>
 
 #include "store/site_table.h"
 #include "store/sql_quote.h"
@@ -14,6 +13,7 @@ namespace {
 
 constexpr const char* kIsDue = " datediff('n',[lastChecked],now()) >= tInterval ";
 constexpr const char* kIsActive = " active = true";
+constexpr const char* kWasNeverChecked = " where lastChecked is null and active <> 0";
 constexpr const char* kById = " ORDER BY idSite";
 
 // A last check of another age, as a file from elsewhere or a wrong clock leaves behind, must not end the countdown: a
@@ -44,33 +44,31 @@ TextTable DueSites::getSitesDueOrNeverChecked() {
                                     ") AND ", kIsActive, " ", kById));
 }
 
-bool DueSites::changedByOthers() {
-  // https://www.sqlite.org/pragma.html#pragma_data_version
-  const auto rows = db_.conn().execute("pragma data_version", {});
-  const std::int64_t version = rows->eof() ? 0 : rows->field(std::size_t{0}).toInt64();
-  return std::exchange(version_, version) != version;
-}
-
-bool DueSites::changedByAnyone() {
-  const auto rows = db_.conn().execute("select total_changes()", {});
-  const std::int64_t changes = rows->eof() ? 0 : rows->field(std::size_t{0}).toInt64();
-  const bool byUs = std::exchange(ownChanges_, changes) != changes;
-  return changedByOthers() || byUs;
-}
-
 TextTable DueSites::asStored(std::int16_t idSite) {
   const SqlValue id(std::int64_t{idSite});
   const auto rows = db_.conn().execute(joinSql("select ", kSiteFields, " from sites where idSite = ?1"), {&id, 1});
   return siteTableOf(*rows);
 }
 
-NeverChecked DueSites::neverChecked() {
-  const auto rows =
-      db_.conn().execute("select count(*), min(idSite) from sites where lastChecked is null and active <> 0", {});
+SomeSites DueSites::countOf(const char* condition) {
+  const auto rows = db_.conn().execute(joinSql("select count(*), min(idSite) from sites", condition), {});
   if (rows->eof()) {
     return {};
   }
   return {rows->field(std::size_t{0}).toInt64(), rows->field(std::size_t{1}).toInt64()};
+}
+
+SomeSites DueSites::activeSites() { return countOf(" where active <> 0"); }
+
+SomeSites DueSites::neverChecked() { return countOf(kWasNeverChecked); }
+
+std::vector<std::int64_t> DueSites::idsNeverChecked() {
+  const auto rows = db_.conn().execute(joinSql("select idSite from sites", kWasNeverChecked, " order by idSite"), {});
+  std::vector<std::int64_t> ids;
+  for (; !rows->eof(); rows->moveNext()) {
+    ids.push_back(rows->field(std::size_t{0}).toInt64());
+  }
+  return ids;
 }
 
 bool DueSites::wasChecked(std::int16_t idSite) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "store/data_changes.h"
 #include "store/database.h"
 #include "store/text_table.h"
 
@@ -26,8 +27,8 @@ struct MinWaitTime {
   std::int32_t mlc = 0;
 };
 
-/// The active sites that were never checked.
-struct NeverChecked {
+/// Some of the active sites.
+struct SomeSites {
   std::int64_t count = 0;
   std::int64_t first = 0;  ///< the lowest of their ids; 0 when there are none
 };
@@ -51,14 +52,19 @@ class DueSites {
   /// The record of a site, columns as above; no row when there is none.
   TextTable asStored(std::int16_t idSite);
 
-  NeverChecked neverChecked();
+  /// All active sites.
+  SomeSites activeSites();
+  /// The active sites that were never checked.
+  SomeSites neverChecked();
+  /// Their ids, rising.
+  std::vector<std::int64_t> idsNeverChecked();
   /// Whether there is such a site and it has ever been checked.
   bool wasChecked(std::int16_t idSite);
 
   /// Whether another program has changed the database since this was asked last.
-  bool changedByOthers();
+  bool changedByOthers() { return changes_.byOthers(); }
   /// Whether anything has been changed, by this program or another one, since this was asked last.
-  bool changedByAnyone();
+  bool changedByAnyone() { return changes_.byAnyone(); }
 
   /// Vocabulary: no front end calls them.
   /// The ids of the active sites that are due, rising. Raise OverflowError for an id that does not fit 16 bits.
@@ -67,10 +73,10 @@ class DueSites {
 
  private:
   std::vector<std::int16_t> readIds(std::string sql);
+  SomeSites countOf(const char* condition);
 
   Database& db_;
-  std::int64_t version_ = 0;
-  std::int64_t ownChanges_ = -1;
+  DataChanges changes_{db_};
 };
 
 }  // namespace tarnwick

@@ -8,7 +8,6 @@
 
 #include "alerts/alert_dispatch.h"
 #include "base/errors.h"
-#include "engine/due_sites.h"
 #include "engine/result_recording.h"
 #include "engine/test_pass.h"
 #include "platform/prompts.h"
@@ -241,6 +240,16 @@ void RunController::beingTyped(std::optional<std::int16_t> idSite) {
   sites_.beingTyped(idSite);
   secondsToNext_ = 0;
   standstill_.reset();
+}
+
+SomeSites RunController::unwatched() {
+  if (!running_) {
+    return needs_.dueSites.activeSites();
+  }
+  if (somethingWasLeft_ || needs_.options.optionsInForce().newSitesAtOnce()) {
+    return {};
+  }
+  return sites_.leftOut(busy_);
 }
 
 void RunController::Timer2_Timer() {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "engine/back_off.h"
+#include "engine/due_sites.h"
 #include "engine/inet_pool.h"
 #include "engine/run_view.h"
 #include "engine/sites_to_test.h"
@@ -22,7 +23,6 @@
 namespace tarnwick {
 
 class AlertDispatch;
-class DueSites;
 class PageFetch;
 class ResultRecording;
 class SiteOptions;
@@ -80,6 +80,9 @@ class RunController {
   /// Names the site whose record somebody is still typing, or nothing when that has ended: no pass takes it meanwhile.
   /// One that a pass has left out for it is due at once afterwards; a new one else follows the option `newSites`.
   void beingTyped(std::optional<std::int16_t> idSite);
+  /// The active sites that nobody watches as things stand: while no run is on all of them, else those that this run
+  /// does not take, since they were never checked and have come after its Start. Raises DataAccessError.
+  SomeSites unwatched();
   /// Vocabulary: no front end calls it.
   /// Shows the time of a site's last check in the grid.
   void UpdateLastChecked(std::int16_t idSite);

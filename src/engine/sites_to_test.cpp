@@ -2,7 +2,7 @@
 #include "engine/sites_to_test.h"
 
 #include <string>
-#include <unordered_set>
+#include <utility>
 
 #include "store/site_table.h"
 
@@ -46,7 +46,28 @@ TextTable SitesToTest::choose(std::int16_t mode, bool neverCheckedToo) {
     owe(*typed_);
     sites = withoutRow(sites, row);
   }
+  taken_.clear();
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    if (sites.isNull(site_column::lastChecked, row)) {
+      taken_.insert(sites.at(site_column::idSite, row));
+    }
+  }
   return sites;
+}
+
+SomeSites SitesToTest::leftOut(bool passIsOn) {
+  SomeSites left;
+  for (const std::int64_t id : dueSites_.idsNeverChecked()) {
+    const bool isTaken = passIsOn && taken_.contains(std::to_string(id));
+    const bool isOwed =
+        std::cmp_equal(id, static_cast<std::int16_t>(id)) && owed_.contains(static_cast<std::int16_t>(id));
+    if (isTaken || isOwed || (typed_ && *typed_ == id)) {
+      continue;
+    }
+    left.first = left.count == 0 ? id : left.first;
+    ++left.count;
+  }
+  return left;
 }
 
 void SitesToTest::addOwed(TextTable& sites) {
@@ -71,7 +92,7 @@ void SitesToTest::addOwed(TextTable& sites) {
 }
 
 std::string SitesToTest::whatWaits() {
-  const NeverChecked waiting = dueSites_.neverChecked();
+  const SomeSites waiting = dueSites_.neverChecked();
   if (waiting.count == 0) {
     return {};
   }

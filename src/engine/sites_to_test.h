@@ -5,6 +5,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <unordered_set>
 
 #include "engine/due_sites.h"
 #include "store/text_table.h"
@@ -36,12 +37,17 @@ class SitesToTest {
   /// Why nothing is due although the countdown has ended, for people: there are active sites that were never checked.
   /// Empty when there are none.
   std::string whatWaits();
+  /// The active sites that neither the pass that is on, if `passIsOn`, nor the next one takes, since they were never
+  /// checked. One that is being typed is none of them. Raises DataAccessError.
+  SomeSites leftOut(bool passIsOn);
 
  private:
   void addOwed(TextTable& sites);
 
   DueSites& dueSites_;
   std::set<std::int16_t> owed_;
+  // The ids of those that the latest pass has taken although they were never checked.
+  std::unordered_set<std::string> taken_;
   std::optional<std::int16_t> typed_;
 };
 

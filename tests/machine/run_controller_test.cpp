@@ -258,6 +258,30 @@ TEST_F(NewSiteInARun, IsTakenOnByTheNextStart) {
   EXPECT_THAT(view.status(), ::testing::HasSubstr("Time Until Next Check: "));
 }
 
+TEST_F(NewSiteInARun, IsUnwatchedUntilTheNextStartUnlessNewSitesAreTakenAtOnce) {
+  EXPECT_EQ(run().unwatched().count, 1);
+  EXPECT_EQ(run().unwatched().first, fresh);
+  program.data().setOption(kAllSites, "newSites", "at once");
+  EXPECT_EQ(run().unwatched().count, 0);
+  program.data().setOption(kAllSites, "newSites", "at the next start");
+  program.stopRun();
+  EXPECT_EQ(run().unwatched().count, 2) << "while no run is on nobody watches any site";
+  program.startRun();
+  EXPECT_EQ(run().unwatched().count, 0);
+}
+
+TEST_F(NewSiteInARun, IsWatchedWhenItsCheckIsOwed) {
+  program.stopRun();
+  server.handle("/fresh", [&](const HttpRequest&) {
+    program.data().updateSites(fresh, server.url("/elsewhere"), "get", true, 10, false, "", "", "");
+    return HttpResponse{.body = "old"};
+  });
+  program.data().updateSites(fresh, server.url("/fresh"), "get", true, 10, false, "", "", "");
+  program.startRun();
+  EXPECT_EQ(column(fresh, "lastChecked"), "NULL");
+  EXPECT_EQ(run().unwatched().count, 0);
+}
+
 /// As above, while the new site is still being typed.
 class SiteBeingTyped : public NewSiteInARun {
  protected:

@@ -56,6 +56,8 @@ double contrastRatio(const QColor& one, const QColor& other) {
   return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
+bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
+
 QColor readableOn(const QColor& background) {
   const QColor black(Qt::black);
   const QColor white(Qt::white);

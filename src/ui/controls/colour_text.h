@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <QColor>
+#include <QPalette>
 
 namespace tarnwick {
 
@@ -33,6 +34,9 @@ std::string colourDigits(const QColor& colour);
 /// digits at positions 5, 3 and 1 (red, green, blue); no zeros are put in front, so a colour whose blue is below 16,
 /// which no row has of itself, is read from shifted digits.
 QColor brightened(const QColor& colour, int amount);
+
+/// Whether a desktop of this palette is a dark one.
+bool isDark(const QPalette& palette);
 
 /// Black or white, whichever is easier to read on `background` (contrast ratio after WCAG 2.1).
 QColor readableOn(const QColor& background);

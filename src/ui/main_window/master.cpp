@@ -54,6 +54,7 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   auto* canvas = new QWidget(this);
   controls_ = layOutMaster(*canvas, sites_);
   setCentralWidget(canvas);
+  notices_ = new Notices(program_, *controls_.noticeBar, *controls_.grid1, this);
   setObjectName(QStringLiteral("master"));
   setAccessibleName(QString::fromLatin1(kProductName));
   setWindowTitle(QString::fromLatin1(kProductName));
@@ -228,6 +229,7 @@ void Master::setCaption(const std::string& caption) { setWindowTitle(QString::fr
 
 void Master::fillGrid() {
   controls_.grid1->setSites(program_.data().getArraySites(0), program_.data().sitesNotFetched());
+  notices_->look();
 }
 
 QString Master::reasonOf(std::int16_t idSite) {
@@ -242,6 +244,7 @@ void Master::showStatus(const std::string& text) { controls_.lStatus->showText(d
 
 void Master::indicators(RunState state) {
   state_ = state;
+  notices_->look();
   controls_.lamps[0]->setLit(state == RunState::stop);
   controls_.lamps[1]->setLit(state == RunState::pause);
   controls_.lamps[2]->setLit(state == RunState::start);
@@ -260,6 +263,7 @@ void Master::blinkLamps() {
   for (Lamp* lamp : controls_.lamps) {
     lamp->blink();
   }
+  notices_->lookNowAndThen();
 }
 
 void Master::showClock(const std::string& text) { controls_.lClock->setText(QString::fromStdString(text)); }

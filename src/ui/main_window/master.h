@@ -12,6 +12,7 @@
 #include "program/program.h"
 #include "ui/controls/site_editing.h"
 #include "ui/main_window/master_layout.h"
+#include "ui/main_window/notices.h"
 #include "ui/main_window/site_grid_model.h"
 
 namespace tarnwick {
@@ -54,6 +55,7 @@ class Master final : public QMainWindow, public RunView {
   void unbrighten(std::int16_t idSite) override;
   void updateGridRow(std::int16_t idSite, bool passed) override;
   void showResult(const CheckResult& result) override;
+  void showLostMail(const LostMail& mail) override { notices_->add(mail); }
   void setLastChecked(std::int16_t idSite, const std::string& dateTime) override;
 
  protected:
@@ -85,6 +87,7 @@ class Master final : public QMainWindow, public RunView {
 
   SiteGridModel sites_;
   MasterControls controls_{};
+  Notices* notices_ = nullptr;  // the window's own
   RunState state_ = RunState::stop;
   Editors editors_;
   // Whether the user is being asked, or has agreed, to lose what is not stored. Closing the window once more is a Yes.

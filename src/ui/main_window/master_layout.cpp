@@ -106,6 +106,7 @@ MasterControls layOutMaster(QWidget& canvas, SiteGridModel& sites) {
   MasterControls controls{};
   makeActions(canvas, controls);
   controls.grid1 = named(new SiteGridView(sites, &canvas), "grid1", QObject::tr("Sites"));
+  controls.noticeBar = named(new NoticeBar(&canvas), "noticeBar", QObject::tr("Notices"));
   controls.Label1 = named(new LinkButton(QObject::tr("Online Help"), &canvas), "Label1", QObject::tr("Online Help"));
   controls.Label1->setToolTip(QObject::tr("Open the help page (F1)"));
   controls.imgLogoSmall = named(new PictureButton(QString::fromLatin1(kProductName), &canvas), "imgLogoSmall",
@@ -137,6 +138,7 @@ MasterControls layOutMaster(QWidget& canvas, SiteGridModel& sites) {
   status->addWidget(controls.lReason);
   layout->addLayout(status);
   layout->addWidget(controls.pb1);
+  layout->addWidget(controls.noticeBar);
   layout->addLayout(footOf(controls));
   return controls;
 }

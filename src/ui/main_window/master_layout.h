@@ -9,6 +9,7 @@
 #include "ui/controls/picture_button.h"
 #include "ui/controls/status_line.h"
 #include "ui/main_window/lamp.h"
+#include "ui/main_window/notice_bar.h"
 #include "ui/main_window/pass_bar.h"
 #include "ui/main_window/site_grid_view.h"
 #include "ui/main_window/site_reason.h"
@@ -35,13 +36,14 @@ struct MasterControls {
   StatusLine* lStatus;
   SiteReason* lReason;
   PassBar* pb1;
+  NoticeBar* noticeBar;
   QLabel* copyright;
   LinkButton* Label1;
   QLabel* lblVersion;
 };
 
 /// Makes the controls of the main window and lays them out on `canvas`: logo, clock and lamps at the top, then the
-/// buttons, the grid, the status line with the bar under it, and the foot line.
+/// buttons, the grid, the status line with the bar under it, the notices, and the foot line.
 MasterControls layOutMaster(QWidget& canvas, SiteGridModel& sites);
 
 }  // namespace tarnwick

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QStyle>
 
+#include "ui/controls/colour_text.h"
 #include "ui/controls/display_text.h"
 
 namespace tarnwick {
@@ -13,8 +14,6 @@ namespace {
 
 constexpr int kPause = 80;  // milliseconds
 constexpr int kVerticalPadding = 4;
-
-bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
 
 }  // namespace
 

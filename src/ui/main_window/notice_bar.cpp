@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+#include "ui/main_window/notice_bar.h"
+
+#include <algorithm>
+#include <QEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "ui/controls/colour_text.h"
+#include "ui/controls/display_text.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kHeight = 24;
+constexpr int kVerticalPadding = 6;
+constexpr int kPadding = 8;
+constexpr int kIconSize = 14;
+constexpr int kGap = 7;
+constexpr int kCorner = 3;
+// What always stays of a sentence, in average letters: a number of five digits and what it counts.
+constexpr int kLeastLetters = 14;
+// Longer texts are cut before they are measured: nobody reads them, and measuring takes its time.
+constexpr qsizetype kLongestMeasured = 1024;
+
+void paintLetter(QPainter& painter) {
+  painter.drawRect(QRectF(0.7, 2.7, 12.6, 8.6));
+  painter.drawPolyline(QPolygonF({{1.0, 3.2}, {7.0, 8.0}, {13.0, 3.2}}));
+}
+
+void paintEye(QPainter& painter) {
+  QPainterPath lids(QPointF(0.7, 7.0));
+  lids.quadTo(7.0, 0.0, 13.3, 7.0);
+  lids.quadTo(7.0, 14.0, 0.7, 7.0);
+  painter.drawPath(lids);
+  painter.setBrush(painter.pen().color());
+  painter.drawEllipse(QPointF(7.0, 7.0), 1.8, 1.8);
+}
+
+void paintIcon(QPainter& painter, Notice::Icon icon, const QPoint& place, const QColor& ink) {
+  painter.save();
+  painter.translate(place);
+  painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(Qt::NoBrush);
+  icon == Notice::Icon::letter ? paintLetter(painter) : paintEye(painter);
+  painter.restore();
+}
+
+}  // namespace
+
+NoticeColours noticeColours(bool dark) {
+  return dark ? NoticeColours{QColor(0x4A, 0x3A, 0x10), QColor(0xFF, 0xE9, 0xA8)}
+              : NoticeColours{QColor(0xFF, 0xF0, 0xC2), QColor(0x3D, 0x2C, 0x00)};
+}
+
+Notice::Notice(Icon icon, QWidget* parent) : QPushButton(parent), icon_(icon) {
+  setFlat(true);
+  setAutoDefault(true);  // so that Enter does what Space does
+  setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);
+  hide();
+}
+
+void Notice::tell(const QString& sentence, const QString& action) {
+  const QString line = sentence.left(kLongestMeasured).simplified();
+  if (line != sentence_ || action != action_) {
+    sentence_ = line;
+    action_ = action;
+    // The caption of a button takes an ampersand for the mark of a key.
+    setText(QString(line).replace(QLatin1Char('&'), QLatin1String("&&")));
+    setAccessibleName(QStringLiteral("%1, %2").arg(line, action));
+    explainWhatIsCut();
+    updateGeometry();
+    update();
+  }
+  setVisible(!line.isEmpty());
+}
+
+QFont Notice::actionFont() const {
+  QFont underlined = font();
+  underlined.setUnderline(true);
+  return underlined;
+}
+
+int Notice::actionWidth() const { return QFontMetrics(actionFont()).horizontalAdvance(action_); }
+
+QRect Notice::sentenceRect() const {
+  return rect().adjusted(kPadding + kIconSize + kGap, 0, -(kPadding + actionWidth() + 2 * kGap), 0);
+}
+
+QSize Notice::sizeHint() const {
+  return {minimumSizeHint().width() - kLeastLetters * fontMetrics().averageCharWidth() +
+              fontMetrics().horizontalAdvance(sentence_) + 1,
+          minimumSizeHint().height()};
+}
+
+QSize Notice::minimumSizeHint() const {
+  return {2 * kPadding + kIconSize + 3 * kGap + actionWidth() + kLeastLetters * fontMetrics().averageCharWidth(),
+          std::max(kHeight, fontMetrics().height() + kVerticalPadding)};
+}
+
+void Notice::resizeEvent(QResizeEvent* event) {
+  QPushButton::resizeEvent(event);
+  explainWhatIsCut();
+}
+
+void Notice::explainWhatIsCut() {
+  const bool isCut = fontMetrics().horizontalAdvance(sentence_) > sentenceRect().width();
+  explain(*this, isCut ? sentence_ : QString());
+}
+
+void Notice::paintEvent(QPaintEvent*) {
+  const NoticeColours colours = noticeColours(isDark(palette()));
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(isDown() ? colours.fill.darker(110) : colours.fill);
+  painter.drawRoundedRect(rect(), kCorner, kCorner);
+  paintIcon(painter, icon_, QPoint(kPadding, (height() - kIconSize) / 2), colours.ink);
+  painter.setPen(colours.ink);
+  painter.drawText(sentenceRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                   fontMetrics().elidedText(sentence_, Qt::ElideRight, sentenceRect().width()));
+  painter.setFont(actionFont());
+  painter.drawText(rect().adjusted(0, 0, -kPadding, 0), Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
+                   action_);
+  if (hasFocus()) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(colours.ink, 2));
+    painter.drawRoundedRect(rect().adjusted(1, 1, -1, -1), kCorner, kCorner);
+  }
+}
+
+NoticeBar::NoticeBar(QWidget* parent) : QWidget(parent) {
+  outbox_ = new Notice(Notice::Icon::letter, this);
+  outbox_->setObjectName(QStringLiteral("noticeOutbox"));
+  unwatched_ = new Notice(Notice::Icon::eye, this);
+  unwatched_->setObjectName(QStringLiteral("noticeUnwatched"));
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  hide();
+}
+
+std::vector<Notice*> NoticeBar::shown() const {
+  std::vector<Notice*> notices{outbox_, unwatched_};
+  std::erase_if(notices, [](const Notice* notice) { return notice->isHidden(); });
+  return notices;
+}
+
+QSize NoticeBar::sizeHint() const { return outbox_->minimumSizeHint(); }
+
+bool NoticeBar::event(QEvent* event) {
+  if (event->type() == QEvent::LayoutRequest) {
+    arrange();
+  }
+  return QWidget::event(event);
+}
+
+void NoticeBar::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  arrange();
+}
+
+// Where there is no room for all, the longest give way, and those that need less than their part keep what they need.
+void NoticeBar::arrange() {
+  const std::vector<Notice*> notices = shown();
+  std::vector<Notice*> byLength = notices;
+  std::ranges::sort(byLength, {}, [](const Notice* notice) { return notice->sizeHint().width(); });
+  auto left = static_cast<int>(byLength.size());
+  int room = width() - (left - 1) * kGap;
+  for (Notice* notice : byLength) {
+    const int part = std::min(notice->sizeHint().width(), room / left--);
+    notice->resize(part, height());
+    room -= part;
+  }
+  int x = 0;
+  for (Notice* notice : notices) {
+    notice->move(x, 0);
+    x += notice->width() + kGap;
+  }
+}
+
+void NoticeBar::tell(Notice& notice, const QString& sentence, const QString& action, QWidget& heir) {
+  if (sentence.isEmpty() && notice.hasFocus()) {
+    heir.setFocus();
+  }
+  notice.tell(sentence, action);
+  setVisible(first() != nullptr);
+  arrange();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "ui/main_window/notices.h"
+
+#include <exception>
+#include <string>
+#include <utility>
+#include <QGuiApplication>
+#include <QShortcut>
+
+#include "platform/run_lock_file.h"
+#include "store/site_table.h"
+#include "ui/controls/display_text.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kNowAndThen = 1000;  // milliseconds
+// A list that is locked holds the window up each time that it is asked.
+constexpr int kAfterFault = 30000;
+constexpr std::size_t kMostListed = 20;
+constexpr qsizetype kLongestListed = 300;
+
+/// Bytes of elsewhere, for a line among others.
+QString onOneLine(std::string_view bytes) { return displayText(bytes).left(kLongestListed).simplified(); }
+
+}  // namespace
+
+Notices::Notices(Program& program, NoticeBar& bar, SiteGridView& grid, QObject* parent)
+    : QObject(parent), program_(program), bar_(bar), grid_(grid) {
+  soon_.setSingleShot(true);
+  connect(&soon_, &QTimer::timeout, this, &Notices::countUnwatched);
+  connect(&bar_.outbox(), &Notice::clicked, this, &Notices::listLost);
+  connect(&bar_.unwatched(), &Notice::clicked, this, &Notices::helpUnwatched);
+  connect(new QShortcut(Qt::Key_F6, bar_.window()), &QShortcut::activated, this, &Notices::switchArea);
+  // Whoever comes back to the window may have started or ended a run elsewhere.
+  connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+    if (state == Qt::ApplicationActive && changes_) {
+      look();
+    }
+  });
+}
+
+void Notices::look() {
+  isStale_ = true;
+  soon_.start(0);
+}
+
+void Notices::lookNowAndThen() {
+  if (!soon_.isActive()) {
+    soon_.start(kNowAndThen);
+  }
+}
+
+void Notices::countUnwatched() {
+  try {
+    if (!changes_) {
+      changes_.emplace(program_.data().database());
+    }
+    const bool isChanged = changes_->byAnyone();
+    if (!std::exchange(isStale_, false) && !isChanged) {
+      return;
+    }
+    const bool runIsOn = program_.run().running();
+    tellUnwatched(runIsOn || !anotherRunIsOn() ? program_.run().unwatched().count : 0, runIsOn);
+  } catch (const std::exception&) {
+    // That the list cannot be read is told elsewhere. What was counted last stays until it can be read again.
+    isStale_ = true;
+    soon_.start(kAfterFault);
+  }
+}
+
+// As far as its file tells, which a run that was killed may have left behind.
+bool Notices::anotherRunIsOn() const {
+  return program_.services().files.kindOf(program_.programFolder() + "/" + kRunLockFile) == FileKind::file;
+}
+
+void Notices::tellUnwatched(std::int64_t count, bool runIsOn) {
+  QString sentence;
+  if (count > 0 && runIsOn) {
+    sentence = count == 1 ? tr("1 site is unwatched") : tr("%1 sites are unwatched").arg(count);
+  } else if (count > 0) {
+    sentence =
+        count == 1 ? tr("1 site is unwatched: no run is on") : tr("%1 sites are unwatched: no run is on").arg(count);
+  }
+  bar_.tell(bar_.unwatched(), sentence, runIsOn ? tr("Show") : tr("Start"), grid_);
+}
+
+void Notices::helpUnwatched() {
+  if (!program_.run().running()) {
+    program_.startRun();
+    return;
+  }
+  program_.faults().run([this] { showFirstUnwatched(); });
+}
+
+void Notices::showFirstUnwatched() {
+  const SomeSites left = program_.run().unwatched();
+  if (left.count > 0) {
+    const std::int16_t idSite = siteIdFromText(std::to_string(left.first));
+    grid_.selectSite(idSite);
+    if (grid_.currentSite() != idSite) {
+      // Another program has added it since the list was read.
+      program_.run().init();
+      grid_.selectSite(idSite);
+    }
+    grid_.setFocus();
+  }
+  look();
+}
+
+void Notices::add(const LostMail& mail) {
+  lost_.push_back({mail.idSite, onOneLine(mail.url), onOneLine(mail.why)});
+  if (lost_.size() > kMostListed) {
+    lost_.pop_front();
+  }
+  ++lostInAll_;
+  tellLost();
+}
+
+void Notices::tellLost() {
+  QString sentence;
+  if (lostInAll_ > 0) {
+    const QString& why = lost_.back().why;
+    sentence = lostInAll_ == 1 ? tr("1 alert was not delivered: %1").arg(why)
+                               : tr("%1 alerts were not delivered: %2").arg(QString::number(lostInAll_), why);
+  }
+  bar_.tell(bar_.outbox(), sentence, tr("Details"), grid_);
+}
+
+void Notices::listLost() {
+  QStringList lines{lostInAll_ == 1 ? tr("1 alert was not delivered.")
+                                    : tr("%1 alerts were not delivered.").arg(lostInAll_)};
+  if (lostInAll_ > lost_.size()) {
+    lines.back() += QLatin1Char(' ') + tr("The last %1 of them:").arg(lost_.size());
+  }
+  lines << QString();
+  for (const Lost& mail : lost_) {
+    lines << tr("Site %1, %2: %3").arg(QString::number(mail.idSite), mail.url, mail.why);
+  }
+  lost_.clear();
+  lostInAll_ = 0;
+  tellLost();
+  program_.services().prompts.inform(
+      {.text = lines.join(QLatin1Char('\n')).toStdString(), .icon = PromptIcon::exclamation});
+}
+
+void Notices::switchArea() {
+  Notice* notice = bar_.first();
+  QWidget& next = grid_.hasFocus() && notice != nullptr ? *notice : static_cast<QWidget&>(grid_);
+  next.setFocus(Qt::ShortcutFocusReason);
+}
+
+}  // namespace tarnwick
