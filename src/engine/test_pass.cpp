@@ -153,9 +153,8 @@ void TestPass::sendRequest(std::int16_t slot) {
   request.url = url(row);
   request.userName = needs_.pages.credential(id, "sUserName", cell(site_column::sUserName, row));
   request.password = needs_.pages.credential(id, "sPassWord", cell(site_column::sPassWord, row));
-  if (!request.headers.empty()) {
-    forms_[row] = request.body;
-  }
+  sent_[row] = {request.userName, request.password,
+                request.headers.empty() ? std::nullopt : std::optional(request.body)};
   needs_.view.showStatus("Testing: " + url(row));
   needs_.pool.send(slot, row, std::move(request));
   needs_.view.brighten(id, kTestingBrightness);
@@ -192,7 +191,7 @@ void TestPass::finishSlot(std::int16_t slot) {
     record(row, pool.siteContent(row), pool.siteErrCode(row), pool.siteErrDescription(row));
   }
   pool.releaseSiteContent(row);
-  forms_.erase(row);
+  sent_.erase(row);
   pool.setSocketDone(slot, false);
 }
 
@@ -287,6 +286,20 @@ bool TestPass::hasAddressAsSelected(std::size_t row) const {
   return trimmed(stored) == trimmed(url(row)) || (stored.empty() && url(row) == kNullText);
 }
 
+// An editor may store the same request in other letters than it found.
+bool TestPass::wouldSendTheSame(std::size_t row, const TextTable& stored) const {
+  const auto sent = sent_.find(row);
+  if (sent == sent_.end()) {
+    return true;  // a row without an address, for which nothing was sent
+  }
+  const std::int16_t id = idSite(row);
+  const auto& [userName, password, form] = sent->second;
+  return methodAsSent(stored.at(site_column::method, 1)) == methodAsSent(cell(site_column::method, row)) &&
+         needs_.pages.credential(id, "sUserName", stored.at(site_column::sUserName, 1)) == userName &&
+         needs_.pages.credential(id, "sPassWord", stored.at(site_column::sPassWord, 1)) == password &&
+         (!form || needs_.pages.postVarsAsStored(id) == *form);
+}
+
 // While it was fetched a site may have been deleted, its id given to a new one, its request been changed or the site
 // been switched off: the page is not that site's, and must not become its baseline or raise its alert.
 TestPass::Standing TestPass::standingOf(std::size_t row) const {
@@ -296,13 +309,7 @@ TestPass::Standing TestPass::standingOf(std::size_t row) const {
     return Standing::gone;
   }
   const auto isAsSelected = [&](std::size_t column) { return stored.at(column, 1) == cell(column, row); };
-  // An editor may store the same request in other letters than it found.
-  const bool sameMethod =
-      methodAsSent(stored.at(site_column::method, 1)) == methodAsSent(cell(site_column::method, row));
-  const auto form = forms_.find(row);
-  if (sameAddress && sameMethod && isAsSelected(site_column::active) && isAsSelected(site_column::sUserName) &&
-      isAsSelected(site_column::sPassWord) &&
-      (form == forms_.end() || form->second == needs_.pages.postVarsAsStored(idSite(row)))) {
+  if (sameAddress && isAsSelected(site_column::active) && wouldSendTheSame(row, stored)) {
     return Standing::asSelected;
   }
   // A new site under the id has not been checked when the one that was selected had.

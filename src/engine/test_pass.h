@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <exception>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -69,6 +70,7 @@ class TestPass {
   void raiseDeferred() const;
   bool hasAddressAsSelected(std::size_t row) const;
   Standing standingOf(std::size_t row) const;
+  bool wouldSendTheSame(std::size_t row, const TextTable& stored) const;
   void dropPage(std::size_t row, Standing standing);
   void alertAndCount(std::size_t row);
   void nextRow();
@@ -85,8 +87,13 @@ class TestPass {
   TextTable sites_;
   OptionsInForce options_;
   std::vector<std::string> urls_;
-  // The form that was sent, of the rows that are being fetched.
-  std::map<std::size_t, std::string> forms_;
+  // What the rows that are being fetched were asked with.
+  struct Sent {
+    std::string userName;
+    std::string password;
+    std::optional<std::string> form;
+  };
+  std::map<std::size_t, Sent> sent_;
   std::vector<std::int16_t> brightened_;
   // The first faults that concern one site alone, told when the others have been tested: one that left its check to be
   // done again, and one that did not.

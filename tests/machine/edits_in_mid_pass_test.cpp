@@ -182,6 +182,15 @@ TEST_F(EditsInMidPass, AnEditThatStoresTheSameRequestInOtherLettersDropsNothing)
   EXPECT_EQ(column(id, "success"), "5");
 }
 
+TEST_F(EditsInMidPass, NullCredentialsThatAreStoredAsEmptyOnesDropNothing) {
+  const std::int16_t id = addSite(server.url("/a"));
+  folder.execute("update sites set sUserName = null, sPassWord = null");
+  during("/a", [&] { set(id, server.url("/a")); });
+  program.startRun();
+  EXPECT_THAT(view.dropped, IsEmpty());
+  EXPECT_EQ(column(id, "sUserName"), "");
+}
+
 TEST_F(EditsInMidPass, AnotherYesForActiveDropsNothing) {
   addSite(server.url("/a"));
   during("/a", [&] { folder.execute("update sites set active = -1"); });

@@ -238,6 +238,17 @@ TEST_F(NoticesTest, ALongSentenceIsShortenedAndToldByItsTooltip) {
   EXPECT_GE(unwatched().width(), unwatched().minimumSizeHint().width());
 }
 
+TEST_F(NoticesTest, ADarkDesktopGetsTheDarkColours) {
+  addSite(1, "http://a.test/");
+  open();
+  ASSERT_TRUE(says("1 site is unwatched: no run is on"));
+  for (const bool dark : {false, true}) {
+    master->setPalette(QPalette(dark ? QColor(0x20, 0x20, 0x20) : QColor(0xF0, 0xF0, 0xF0)));
+    const QImage picture = unwatched().grab().toImage();
+    EXPECT_EQ(picture.pixelColor(picture.width() / 2, 1), noticeColours(dark).fill);
+  }
+}
+
 TEST(NoticeColoursTest, AreEasyToRead) {
   for (const bool dark : {false, true}) {
     const NoticeColours colours = noticeColours(dark);

@@ -16,7 +16,7 @@ class DialogsInARunTest : public DialogTest {
   void SetUp() override {
     server.respond("/slow", {.body = "slow page", .hold = true});
     server.respond("/page", {.body = "a page"});
-    addSite(1, server.url("/slow"), ",sUserName,sPassWord", ",'',''");
+    addSite(1, server.url("/slow"));
     addSite(2, server.url("/page"));
   }
   /// Starts a run, does `action` while the slow site is being fetched, then lets it answer.
