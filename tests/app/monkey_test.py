@@ -42,7 +42,13 @@ KEYS = ("Tab", "Tab", "shift+Tab", "Return", "Escape", "space", "Up", "Down", "L
 # Of these no program is named, no folder above is reached, and no host outside is found.
 LETTERS = "abcdefghijklmnopqrstuvwxyzABCXYZ0123456789 @:%&=?-_<>'\""
 # What opens what, so that more than the surface is reached.
-OPENERS = ("alt+c", "alt+d", "alt+t", "alt+u", "alt+n", "alt+l", "alt+s", "alt+o", "alt+k", "alt+v", "alt+b", "alt+a")
+OPENERS = ("alt+c", "alt+d", "alt+t", "alt+u", "alt+n", "alt+l", "alt+s", "alt+o", "alt+k", "alt+v", "alt+b", "alt+a",
+           "alt+y")
+# Ways from the main window to what is far from it: the list of files, a question, the page, a variable, compacting.
+WAYS = (("alt+u", "alt+b"), ("alt+u", "alt+b", "i", "m"), ("alt+u", "alt+c"), ("alt+u", "alt+d"),
+        ("alt+u", "alt+d", "alt+y"), ("alt+u", "alt+v"), ("alt+u", "ctrl+Next"), ("Return", "alt+c"),
+        ("Return", "alt+c", "alt+l"), ("Return", "alt+c", "Menu"), ("Return", "alt+d"), ("Return", "alt+t"),
+        ("Return", "alt+s", "shift+Tab", "Return"), ("Return", "ctrl+Next"), ("ctrl+n", "alt+c"))
 
 OPENER = """#!/bin/sh
 echo "$1" >> "$OPENED_PAGES"
@@ -121,7 +127,7 @@ class Monkey:
         chooser = title not in (*FORMS, TITLE)
         deeds = [(self._click, 12), (self._key, 6), (self._type, 4), (self._drag, 2), (self._wheel, 1)]
         if not chooser:
-            deeds += [(self._letter, 5), (self._front, 3), (self._shape, 1), (self._click_row, 3)]
+            deeds += [(self._letter, 5), (self._front, 3), (self._shape, 1), (self._click_row, 3), (self._go, 1)]
         if window != self._main:
             deeds += [(self._close_frame, 1)]
         elif self._random.random() < 0.01:
@@ -161,6 +167,12 @@ class Monkey:
 
     def _letter(self, _window: str, _chooser: bool) -> None:
         self._xdotool("key", self._random.choice(OPENERS))
+
+    def _go(self, _window: str, _chooser: bool) -> None:
+        self._xdotool("windowactivate", self._main)
+        for keys in self._random.choice(WAYS):
+            self._xdotool("key", keys)
+            time.sleep(0.15)  # sleeps because a person does, too
 
     def _type(self, _window: str, chooser: bool) -> None:
         text = "".join(self._random.choice(LETTERS) for _ in range(self._random.randint(1, 12)))
@@ -336,8 +348,8 @@ def run(arguments, work: Path) -> None:
         expect_nothing_lost(folder, monkey.errors)
         if troubles.broken:
             raise Fault("\n".join(troubles.broken))
-        print(f"seed {arguments.seed}: {monkey.actions} actions in {arguments.seconds:g} s, {folder.results()} results, "
-              f"{monkey.ends} times closed and started again; actions in each window: {dict(monkey.seen.most_common())}")
+        print(f"seed {arguments.seed}: {monkey.actions} actions in {arguments.seconds:g} s, "
+              f"{folder.results()} results, {monkey.ends} times closed and started again; actions in each window:", dict(monkey.seen.most_common()))
     except BaseException:
         if monkey:
             print("last it did:", *monkey.done, "beside it:", *troubles.told[-20:], sep="\n  ", file=sys.stderr)

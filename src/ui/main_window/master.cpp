@@ -285,6 +285,9 @@ void Master::unbrighten(std::int16_t idSite) {
 }
 
 void Master::updateGridRow(std::int16_t idSite, bool passed) {
+  if (sites_.rowOfSite(idSite) < 0) {
+    fillGrid();  // another program has added it
+  }
   sites_.updateSite(program_.data().getArraySites(idSite));
   sites_.setResult(idSite, passed);
 }

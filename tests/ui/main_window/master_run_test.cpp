@@ -51,6 +51,18 @@ TEST_F(MasterRunTest, StartTestsEverySiteAndPaintsItsRow) {
   EXPECT_TRUE(waitUntil([&] { return status().startsWith(QStringLiteral("Time Until Next Check: ")); }));
 }
 
+TEST_F(MasterRunTest, ASiteThatAnotherProgramAddedHasARowAsSoonAsItIsTested) {
+  server.respond("/", {.body = "hello"});
+  addSite(1, server.url("/"));
+  open();
+  addSite(2, server.url("/"), ",content_compare", ",'original'");
+  ASSERT_EQ(rows(), 1);
+  click("btnStart");
+  ASSERT_EQ(rows(), 2);
+  EXPECT_EQ(colour(0, 0), colourFromText(colours::kUp));
+  EXPECT_EQ(colour(1, 0), colourFromText(colours::kDown));
+}
+
 TEST_F(MasterRunTest, StopEndsTheRun) {
   server.respond("/", {.body = "hello"});
   addSite(1, server.url("/"));
