@@ -349,7 +349,8 @@ def run(arguments, work: Path) -> None:
         if troubles.broken:
             raise Fault("\n".join(troubles.broken))
         print(f"seed {arguments.seed}: {monkey.actions} actions in {arguments.seconds:g} s, "
-              f"{folder.results()} results, {monkey.ends} times closed and started again; actions in each window:", dict(monkey.seen.most_common()))
+              f"{folder.results()} results, {monkey.ends} times closed and started again; actions in each window:",
+              dict(monkey.seen.most_common()))
     except BaseException:
         if monkey:
             print("last it did:", *monkey.done, "beside it:", *troubles.told[-20:], sep="\n  ", file=sys.stderr)
