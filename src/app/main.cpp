@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <cstdlib>
+#include <limits>
 #include <QApplication>
 
 #include "app/desktop_platform.h"
@@ -18,6 +19,9 @@ int main(int argc, char** argv) {
   QApplication::setApplicationVersion(QStringLiteral(TARNWICK_VERSION));
   // The desktop finds icon and name of the window by it.
   QApplication::setDesktopFileName(QStringLiteral("tarnwick"));
+  // A drag out of a text, a box or the list of files is an event loop of the toolkit's own, which does not outlive its
+  // window; any of them may be closed meanwhile. What comes from other programs can still be dropped.
+  QApplication::setStartDragDistance(std::numeric_limits<int>::max());
   tarnwick::DesktopPlatform machine;
   const QString executableFolder = QCoreApplication::applicationDirPath();
   std::string folder;

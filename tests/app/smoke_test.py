@@ -191,9 +191,34 @@ def chooses_a_file_by_the_beginning_of_its_name(folder: ProgramFolder, session: 
     expect_sound_database(folder)
 
 
+def lives_on_when_a_page_is_closed_in_a_drag(folder: ProgramFolder, session: DesktopSession, errors: Path) -> None:
+    add_site(folder)
+    folder.execute("update sites set content_compare = ?", "some words of a page " * 500)
+    process = session.start(folder.path / "tarnwick", errors)
+    window = session.window(TITLE, process)
+    wait_until(lambda: is_ready(folder), "the program to be ready")
+    session.press(window, "Return")
+    editor = session.window("Site", process)
+    session.press(editor, "alt+c")
+    content = session.window("Content", process)
+    session.press(content, "ctrl+a")
+    for deed in (["200", "150", "mousedown", "1"], ["300", "200"], ["310", "210"], ["320", "220"]):
+        subprocess.run(["xdotool", "mousemove", "--window", content, *deed], env=session.env, check=True)
+    session.close(content)
+    wait_until(lambda: len(windows(session)) == 2, "the content window to close")
+    subprocess.run(["xdotool", "mouseup", "1"], env=session.env, check=True)
+    session.press(editor, "Escape")
+    wait_until(lambda: len(windows(session)) == 1, "the editor to close")
+    session.close(window)
+    expect_end(process, 0)
+    expect_silence(errors)
+    expect_sound_database(folder)
+
+
 CASES = {case.__name__: case for case in
          (opens_and_closes, checks_a_site_and_closes_while_running, says_that_the_database_is_missing,
-          closes_over_a_question, chooses_a_file_by_the_beginning_of_its_name)}
+          closes_over_a_question, chooses_a_file_by_the_beginning_of_its_name,
+          lives_on_when_a_page_is_closed_in_a_drag)}
 
 
 def main() -> int:
