@@ -285,10 +285,7 @@ void Master::unbrighten(std::int16_t idSite) {
 }
 
 void Master::updateGridRow(std::int16_t idSite, bool passed) {
-  if (sites_.rowOfSite(idSite) < 0) {
-    fillGrid();  // another program has added it
-  }
-  sites_.updateSite(program_.data().getArraySites(idSite));
+  sites_.rowOfSite(idSite) < 0 ? fillGrid() : sites_.updateSite(program_.data().getArraySites(idSite));  // added elsewhere
   sites_.setResult(idSite, passed);
 }
 
