@@ -285,7 +285,7 @@ void Master::unbrighten(std::int16_t idSite) {
 }
 
 void Master::updateGridRow(std::int16_t idSite, bool passed) {
-  sites_.rowOfSite(idSite) < 0 ? fillGrid() : sites_.updateSite(program_.data().getArraySites(idSite));  // added elsewhere
+  sites_.rowOfSite(idSite) < 0 ? fillGrid() : sites_.updateSite(program_.data().getArraySites(idSite));  // or new
   sites_.setResult(idSite, passed);
 }
 
