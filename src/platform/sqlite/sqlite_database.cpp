@@ -18,7 +18,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int kBusyPatienceMs = 2000;
 constexpr std::size_t kStatementsKept = 64;
 /// 2 MiB, and 32 MiB while a text longer than `kLargeText` is being stored.
 constexpr const char* kUsualCache = "pragma cache_size = -2048";
@@ -84,13 +83,13 @@ SqliteHandle openDatabase(const std::string& path, int flags) {
 }
 
 SqliteDatabase::SqliteDatabase(std::string path) : path_(std::move(path)) {
-  openInPlace(path_, [this] { open(); });
+  openInPlace(path_, [this](const auto& before) { open(before); });
   if (!liesOnNetwork(path_)) {  // where a file may be known by another number every time
     watch_.emplace(path_, handle());
   }
 }
 
-void SqliteDatabase::open() {
+void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
   keptByText_.clear();
   kept_.clear();
   handle_.reset();
@@ -101,6 +100,7 @@ void SqliteDatabase::open() {
   if (registerDateFunctions(handle()) != SQLITE_OK) {
     throw lastError();
   }
+  lockInPlace(handle(), path_, before);
   setForeignLogAside();
   refuseDamage();
   chooseJournal();

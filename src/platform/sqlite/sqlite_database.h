@@ -49,6 +49,9 @@ class StatementLoan {
   bool reusable_ = false;
 };
 
+/// How long another program's lock is waited for.
+inline constexpr int kBusyPatienceMs = 2000;
+
 /// Opens the file at `path` (UTF-8), which must exist, as sqlite3_open_v2 does with `flags`; another program's lock
 /// will be waited for. Raises DataAccessError.
 SqliteHandle openDatabase(const std::string& path, int flags);
@@ -106,7 +109,7 @@ class SqliteDatabase {
   SqliteStatement compile(const PlainStatement& statement);
   SqliteStatement takeKept(std::string_view text);
   void keep(SqliteStatement statement) noexcept;
-  void open();
+  void open(const std::optional<FileIdentity>& before);
   void setForeignLogAside();
   void refuseDamage();
   /// What is wrong with the file; empty for nothing. Raises what keeps it from being read.

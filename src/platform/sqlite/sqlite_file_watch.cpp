@@ -4,6 +4,8 @@
 #include <exception>
 
 #include "platform/local_files.h"
+#include "platform/sqlite/sqlite_database.h"
+#include "platform/sqlite/sqlite_errors.h"
 
 namespace tarnwick {
 namespace {
@@ -82,13 +84,13 @@ void SqliteFileWatch::afterClosing() const noexcept {
   }
 }
 
-void openInPlace(const std::string& path, const std::function<void()>& open) {
+void openInPlace(const std::string& path, const std::function<void(const std::optional<FileIdentity>& before)>& open) {
   constexpr int kMostTries = 50;
   for (int tries = 1;; ++tries) {
     const auto before = identityOf(path);
     const bool last = tries == kMostTries;
     try {
-      open();
+      open(before);
       if (last || identityOf(path) == before) {
         return;
       }
@@ -97,6 +99,26 @@ void openInPlace(const std::string& path, const std::function<void()>& open) {
         throw;
       }
     }
+  }
+}
+
+void lockInPlace(sqlite3* database, const std::string& path, const std::optional<FileIdentity>& before) {
+  constexpr int kPauseMs = 5;
+  sqlite3_file* file = nullptr;
+  if (!before || sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK) {
+    return;
+  }
+  int result = file->pMethods->xLock(file, SQLITE_LOCK_SHARED);
+  for (int waited = 0; result == SQLITE_BUSY && waited < kBusyPatienceMs; waited += kPauseMs) {
+    sqlite3_sleep(kPauseMs);
+    result = file->pMethods->xLock(file, SQLITE_LOCK_SHARED);
+  }
+  if (result == SQLITE_BUSY) {
+    throw sqliteError(result, sqlite3_errstr(result), path);
+  }
+  if (identityOf(path) != before) {
+    file->pMethods->xUnlock(file, SQLITE_LOCK_NONE);
+    throw exchangedFiles(SqliteFileWatch::Finding::other, path);
   }
 }
 

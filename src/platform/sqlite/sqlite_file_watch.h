@@ -59,7 +59,13 @@ class SqliteFileWatch {
 /// Opens a database by `open`, which locks it at least once, and again while another program has put another file in
 /// its place meanwhile, as a compaction does: `open` had that one's lock to wait for, and then held what nobody else
 /// would ever look into. `open` lets go of what it opened before. Raises what it does for a file that stays.
-void openInPlace(const std::string& path, const std::function<void()>& open);
+/// `before` is the file that had the name before it was opened; nothing where that cannot change.
+void openInPlace(const std::string& path, const std::function<void(const std::optional<FileIdentity>& before)>& open);
+
+/// Locks the file that `database`, just opened by the name `path`, has open, and raises DataAccessError when it is not
+/// the file `before` any more: SQLite would find the log of another database beside it by its name, and take it for its
+/// own. The first statement takes the lock over, so that nobody exchanges the file before that.
+void lockInPlace(sqlite3* database, const std::string& path, const std::optional<FileIdentity>& before);
 
 /// Raises DataAccessError unless `path` is a file, in words plainer than SQLite's "unable to open".
 void requireFile(const std::string& path);

@@ -33,9 +33,10 @@ void makeEmpty(const std::string& path, const std::string& like) {
 }  // namespace
 
 SqliteHold::SqliteHold(std::string path) : path_(std::move(path)) {
-  openInPlace(path_, [this] {
+  openInPlace(path_, [this](const auto& before) {
     handle_.reset();
     handle_ = openDatabase(path_, SQLITE_OPEN_READWRITE);
+    lockInPlace(handle_.get(), path_, before);
     lock();
   });
 }
