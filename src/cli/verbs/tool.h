@@ -25,7 +25,8 @@ inline constexpr int down = 1;
 inline constexpr int failed = 2;
 /// No site is down, but one was changed while it was checked, and its page was dropped.
 inline constexpr int dropped = 3;
-/// No site is down and no page was dropped, but a site is up only because the text of a fetch that fails is its baseline.
+/// No site is down and no page was dropped, but a site is up only because the text of a fetch that fails is its
+/// baseline.
 inline constexpr int notAPage = 4;
 }  // namespace exit_status
 

@@ -9,8 +9,8 @@
 namespace tarnwick {
 
 /// Complains when a run that is on would not take on some of the sites that have just been added or changed: the active
-/// ones that were never checked, unless the option `newSites` lets it. Where nobody reads along, on no terminal, it does
-/// so only while a run seems to be on.
+/// ones that were never checked, unless the option `newSites` lets it. Where nobody reads along, on no terminal, it
+/// does so only while a run seems to be on.
 void hintAtUnwatched(Tool& tool, const std::vector<std::int16_t>& changed);
 
 }  // namespace tarnwick
