@@ -146,8 +146,8 @@ void Notices::listLost() {
 
 void Notices::switchArea() {
   Notice* notice = bar_.first();
-  QWidget& next = grid_.hasFocus() && notice != nullptr ? *notice : static_cast<QWidget&>(grid_);
-  next.setFocus(Qt::ShortcutFocusReason);
+  QWidget* const next = grid_.hasFocus() && notice != nullptr ? notice : static_cast<QWidget*>(&grid_);
+  next->setFocus(Qt::ShortcutFocusReason);
 }
 
 }  // namespace tarnwick
