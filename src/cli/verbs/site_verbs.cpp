@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <ostream>
-#include <ranges>
 #include <set>
 
 #include "cli/list/site_facts.h"
@@ -131,7 +130,8 @@ void printSite(Console& console, const Fields& fields, const SiteFacts& facts, c
                                                                         : orNone(*text));
     }
   }
-  const std::size_t width = std::ranges::max(lines | std::views::keys | std::views::transform(&std::string::size));
+  const auto labelSize = [](const auto& line) { return line.first.size(); };
+  const std::size_t width = labelSize(*std::ranges::max_element(lines, {}, labelSize));
   std::ostream& out = console.out();
   for (const auto& [label, text] : lines) {
     out << label << ':' << std::string(width + 2 - label.size(), ' ') << text << '\n';
