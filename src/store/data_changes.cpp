@@ -8,8 +8,8 @@
 namespace tarnwick {
 namespace {
 
-std::int64_t numberOf(Database& database, std::string sql) {
-  const auto rows = database.conn().execute(std::move(sql), {});
+std::int64_t numberOf(Database& database, const std::string& sql) {
+  const auto rows = database.conn().execute(sql, {});
   return rows->eof() ? 0 : rows->field(std::size_t{0}).toInt64();
 }
 
