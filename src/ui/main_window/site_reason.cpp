@@ -2,6 +2,7 @@
 #include "ui/main_window/site_reason.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QPainter>
 #include <QStyle>
