@@ -216,7 +216,7 @@ def changes_the_list_while_it_is_compacted():
         compacting = threading.Thread(target=compact)
         compacting.start()
         try:
-            for interval in range(1, 80):
+            for interval in range(1, 30):
                 ended = ask(place, "set", "1", f"--interval={interval}")
                 expect(ended.returncode == 0, ended.stderr)
                 stored = json.loads(ask(place, "site", "1", "--json").stdout)
