@@ -209,7 +209,7 @@ bool RunController::wallClockWasSet() {
 
 void RunController::timerPass() {
   if (busy_ || !running_) {
-    return;  // a box was open meanwhile
+    return;  // stopped, or begun, since the tick counted
   }
   if (backOff_.isFailing()) {
     // The pages of a pass that cannot be recorded would be fetched for nothing, every second again.

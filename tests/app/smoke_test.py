@@ -88,10 +88,16 @@ def is_ready(folder: ProgramFolder) -> bool:
     return bool(folder.execute("select 1 from sqlite_master where lower(name) = 'temppostvars'"))
 
 
-def opens_and_closes(folder: ProgramFolder, session: DesktopSession, errors: Path) -> None:
+def start_ready(folder: ProgramFolder, session: DesktopSession, errors: Path):
+    """Starts the program and waits until it is ready; its process and its window."""
     process = session.start(folder.path / "tarnwick", errors)
     window = session.window(TITLE, process)
     wait_until(lambda: is_ready(folder), "the program to be ready")
+    return process, window
+
+
+def opens_and_closes(folder: ProgramFolder, session: DesktopSession, errors: Path) -> None:
+    process, window = start_ready(folder, session, errors)
     session.close(window)
     expect_end(process, 0)
     expect_silence(errors)
@@ -142,9 +148,7 @@ def windows(session: DesktopSession) -> list[str]:
 
 def closes_over_a_question(folder: ProgramFolder, session: DesktopSession, errors: Path) -> None:
     add_site(folder)
-    process = session.start(folder.path / "tarnwick", errors)
-    window = session.window(TITLE, process)
-    wait_until(lambda: is_ready(folder), "the program to be ready")
+    process, window = start_ready(folder, session, errors)
     session.press(window, "F5")
     wait_until(lambda: folder.execute("select count(*) from log") == [(1,)], "the site to be checked")
     session.press(window, "Return")
@@ -163,9 +167,7 @@ def closes_over_a_question(folder: ProgramFolder, session: DesktopSession, error
 
 def chooses_a_file_by_the_beginning_of_its_name(folder: ProgramFolder, session: DesktopSession, errors: Path) -> None:
     (folder.path / "impatient.wav").write_bytes(b"RIFF")
-    process = session.start(folder.path / "tarnwick", errors)
-    window = session.window(TITLE, process)
-    wait_until(lambda: is_ready(folder), "the program to be ready")
+    process, window = start_ready(folder, session, errors)
     session.press(window, "alt+u")
     settings = session.window("Settings", process)
     session.press(settings, "alt+b")
@@ -194,9 +196,7 @@ def chooses_a_file_by_the_beginning_of_its_name(folder: ProgramFolder, session: 
 def lives_on_when_a_page_is_closed_in_a_drag(folder: ProgramFolder, session: DesktopSession, errors: Path) -> None:
     add_site(folder)
     folder.execute("update sites set content_compare = ?", "some words of a page " * 500)
-    process = session.start(folder.path / "tarnwick", errors)
-    window = session.window(TITLE, process)
-    wait_until(lambda: is_ready(folder), "the program to be ready")
+    process, window = start_ready(folder, session, errors)
     session.press(window, "Return")
     editor = session.window("Site", process)
     session.press(editor, "alt+c")
