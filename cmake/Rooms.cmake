@@ -13,12 +13,17 @@ if(NOT TARNWICK_CORE_ONLY)
   list(APPEND TARNWICK_ROOMS ${TARNWICK_OUTER_ROOMS})
 endif()
 
-# tarnwick_room(<name> SOURCES ... [PUBLIC ...] [PRIVATE ...]): the library tarnwick_<name> of the folder that says so.
+# tarnwick_room(<name> SOURCES ... [HOT ...] [PUBLIC ...] [PRIVATE ...]): the library tarnwick_<name> of the folder that says so.
 # PUBLIC are the rooms whose headers its own headers include, PRIVATE the libraries and what only its sources use:
-# neither less nor more, which tests/house_rules.py looks after.
+# neither less nor more, which tests/house_rules.py looks after. HOT are the sources with the inner loops that every check
+# goes through: the release is built for few compiler seconds, but these gain a third from all that the compiler can do
+# (bench/hot_pieces_bench.cpp).
 function(tarnwick_room name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
-  add_library(tarnwick_${name} STATIC ${ARG_SOURCES})
+  cmake_parse_arguments(ARG "" "" "SOURCES;HOT;PUBLIC;PRIVATE" ${ARGN})
+  add_library(tarnwick_${name} STATIC ${ARG_SOURCES} ${ARG_HOT})
+  if(ARG_HOT)
+    set_source_files_properties(${ARG_HOT} PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-O3>)
+  endif()
   target_link_libraries(tarnwick_${name} PUBLIC tarnwick_flags ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
   if(name MATCHES "^ui_")
     tarnwick_window_room(tarnwick_${name})
