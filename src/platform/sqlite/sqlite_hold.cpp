@@ -2,6 +2,7 @@
 #include "platform/sqlite/sqlite_hold.h"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 #include <vector>
 
@@ -32,27 +33,47 @@ void makeEmpty(const std::string& path, const std::string& like) {
 
 }  // namespace
 
+// Who only looks something up is gone in a moment. The file is let go in between: two that wait with it open would wait
+// for each other.
 SqliteHold::SqliteHold(std::string path) : path_(std::move(path)) {
-  openInPlace(path_, [this](const auto& before) {
-    handle_.reset();
-    handle_ = openDatabase(path_, SQLITE_OPEN_READWRITE);
-    lockInPlace(handle_.get(), path_, before);
-    lock();
-  });
+  constexpr int kPauseMs = 20;
+  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(kBusyPatienceMs);
+  while (!lock()) {
+    if (std::chrono::steady_clock::now() >= end) {
+      throw sqliteError(SQLITE_BUSY, sqlite3_errstr(SQLITE_BUSY), path_);
+    }
+    sqlite3_sleep(kPauseMs);
+  }
 }
 
-void SqliteHold::lock() {
-  sqlite3* const database = handle_.get();
-  // Leaving the write-ahead log works only for a connection that is alone, and takes all of it into the file.
-  const bool alone = run(database, "pragma journal_mode = delete") == "delete";
+bool SqliteHold::lock() {
+  try {
+    openInPlace(path_, [this](const auto& before) {
+      handle_.reset();
+      handle_ = openDatabase(path_, SQLITE_OPEN_READWRITE);
+      lockInPlace(handle_.get(), path_, before);
+      leaveLogAndLock(handle_.get());
+    });
+    if (run(handle_.get(), "pragma journal_mode") == "delete") {
+      return true;
+    }
+  } catch (const DataAccessError&) {
+    if (!handle_ || (sqlite3_errcode(handle_.get()) & 0xff) != SQLITE_BUSY) {
+      throw;
+    }
+  }
+  handle_.reset();
+  return false;
+}
+
+void SqliteHold::leaveLogAndLock(sqlite3* database) const {
+  // Leaving the write-ahead log works only for a connection that is alone, and takes all of it into the file. Whoever
+  // comes before the lock is taken begins a log again.
+  run(database, "pragma journal_mode = delete");
   // Once taken, the lock stays until the connection is closed, whatever is done meanwhile.
   run(database, "pragma main.locking_mode = exclusive");
   run(database, "begin exclusive");
   run(database, "commit");
-  // Between the two another program may have come and begun a log again.
-  if (!alone || run(database, "pragma journal_mode") != "delete") {
-    throw sqliteError(SQLITE_BUSY, "the write-ahead log is in use", path_);
-  }
 }
 
 std::string SqliteHold::run(sqlite3* database, const std::string& sql) const {

@@ -12,15 +12,17 @@ namespace tarnwick {
 /// A SQLite file that this object has locked for itself, out of the write-ahead log: the file alone is the database.
 class SqliteHold final : public HeldDatabase {
  public:
-  /// Raises DataAccessError when the file is missing or damaged, or when any connection has it open. Another program's
-  /// short lock is waited for.
+  /// Raises DataAccessError when the file is missing or damaged, or when any connection has it open for longer than the
+  /// two seconds that are waited.
   explicit SqliteHold(std::string path);
 
   void read(const ByteSink& sink) override;
   void compactInto(const std::string& destination) override;
 
  private:
-  void lock();
+  /// False where another connection has the file open.
+  bool lock();
+  void leaveLogAndLock(sqlite3* database) const;
   /// Runs a statement; the first field of its last row, empty without one.
   std::string run(sqlite3* database, const std::string& sql) const;
   void vacuumInto(const std::string& path);
