@@ -316,6 +316,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>This is not the address of a web page. One looks like https://example.org/page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This desktop could not open the page. You find it at:</source>
         <translation type="unfinished"></translation>
     </message>

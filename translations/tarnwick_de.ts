@@ -316,6 +316,10 @@
         <translation>Hinweise</translation>
     </message>
     <message>
+        <source>This is not the address of a web page. One looks like https://example.org/page.</source>
+        <translation>Das ist nicht die Adresse einer Internet-Seite. Eine solche sieht aus wie https://example.org/page.</translation>
+    </message>
+    <message>
         <source>This desktop could not open the page. You find it at:</source>
         <translation>Diese Arbeitsumgebung konnte die Seite nicht öffnen. Sie finden sie unter:</translation>
     </message>

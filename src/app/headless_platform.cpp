@@ -33,7 +33,8 @@ class StandardErrorPrompts final : public Prompts {
 
 class NoOpener final : public DesktopOpener {
  public:
-  bool open(const std::string&) override { return false; }
+  bool openFile(const std::string&) override { return false; }
+  bool openAddress(const std::string&) override { return false; }
 };
 
 }  // namespace

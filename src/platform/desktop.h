@@ -26,14 +26,18 @@ class ProgramStarter {
   virtual bool start(const std::vector<std::string>& arguments) = 0;
 };
 
-/// Hands files and addresses to the desktop.
+/// Hands files and addresses to the desktop. What is typed or comes from a list goes through the door of addresses
+/// alone: the other one lets a program start.
 class DesktopOpener {
  public:
   virtual ~DesktopOpener() = default;
 
-  /// Asks the desktop to open a file path or an address with the program that the user has for it.
-  /// False when the desktop has none or refused.
-  virtual bool open(const std::string& pathOrAddress) = 0;
+  /// Asks the desktop to open a file or a folder of the program's own, given by its whole path, with the program that
+  /// the user has for it. False when it is not there, or the desktop has no such program or refused.
+  virtual bool openFile(const std::string& path) = 0;
+
+  /// The same for a page, given by the `url` of a parsed address. False also for any scheme but the fetched ones.
+  virtual bool openAddress(const std::string& url) = 0;
 };
 
 }  // namespace tarnwick

@@ -21,6 +21,6 @@ std::string TextFiles::getFile(const std::string& path) {
   return bytes;
 }
 
-void TextFiles::openFileFromSystem(const std::string& path) { opener_.open(path); }
+void TextFiles::openFileFromSystem(const std::string& path) { opener_.openFile(path); }
 
 }  // namespace tarnwick

@@ -25,7 +25,8 @@ class TextFiles {
   /// The whole file.
   std::string getFile(const std::string& path);
 
-  /// Asks the desktop to open the file; whether it did is not reported.
+  /// Vocabulary: the front ends tell when nothing was opened.
+  /// Asks the desktop to open the file; whether it did is not reported. An address is no file.
   void openFileFromSystem(const std::string& path);
 
  private:

@@ -82,8 +82,8 @@ bool RecordingPrograms::start(const std::vector<std::string>& arguments) {
   return result;
 }
 
-bool RecordingOpener::open(const std::string& pathOrAddress) {
-  opened.push_back(pathOrAddress);
+bool RecordingOpener::open(const std::string& target) {
+  opened.push_back(target);
   return result;
 }
 

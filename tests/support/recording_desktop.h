@@ -83,11 +83,15 @@ class RecordingPrograms final : public ProgramStarter {
 /// Opens nothing.
 class RecordingOpener final : public DesktopOpener {
  public:
-  bool open(const std::string& pathOrAddress) override;
+  bool openFile(const std::string& path) override { return open(path); }
+  bool openAddress(const std::string& url) override { return open(url); }
 
   std::vector<std::string> opened;
-  /// What `open` returns.
+  /// What is returned.
   bool result = true;
+
+ private:
+  bool open(const std::string& target);
 };
 
 }  // namespace tarnwick::testing

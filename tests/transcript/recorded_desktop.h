@@ -43,10 +43,11 @@ class RecordedDesktop final : public Prompts, public SoundPlayer, public Program
     transcript_.add("program", line);
     return true;
   }
-  bool open(const std::string& pathOrAddress) override {
-    transcript_.add("opened", pathOrAddress);
+  bool openFile(const std::string& path) override {
+    transcript_.add("opened", path);
     return true;
   }
+  bool openAddress(const std::string& url) override { return openFile(url); }
 
  private:
   void write(const Message& box) {

@@ -6,15 +6,19 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include "platform/address.h"
+
 namespace tarnwick {
 
-bool QtDesktopOpener::open(const std::string& pathOrAddress) {
-  const QString text = QString::fromStdString(pathOrAddress);
-  if (QDir::isAbsolutePath(text)) {
-    return QFileInfo::exists(text) && QDesktopServices::openUrl(QUrl::fromLocalFile(text));
-  }
-  const QUrl address = QUrl::fromUserInput(text);
-  return address.isValid() && QDesktopServices::openUrl(address);
+bool QtDesktopOpener::openFile(const std::string& path) {
+  const QString file = QString::fromStdString(path);
+  return QDir::isAbsolutePath(file) && QFileInfo::exists(file) && QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+}
+
+bool QtDesktopOpener::openAddress(const std::string& url) {
+  const QUrl address(QString::fromStdString(url));
+  return address.isValid() && !address.host().isEmpty() && isFetchedScheme(address.scheme().toStdString()) &&
+         QDesktopServices::openUrl(address);
 }
 
 }  // namespace tarnwick

@@ -5,11 +5,11 @@
 
 namespace tarnwick {
 
-/// Opens files and addresses with the desktop's default programs. A file must exist; an address without a scheme is
-/// taken for a web address.
+/// Opens files and addresses with the desktop's default programs.
 class QtDesktopOpener final : public DesktopOpener {
  public:
-  bool open(const std::string& pathOrAddress) override;
+  bool openFile(const std::string& path) override;
+  bool openAddress(const std::string& url) override;
 };
 
 }  // namespace tarnwick

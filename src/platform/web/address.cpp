@@ -50,6 +50,18 @@ bool hasScheme(std::string_view text) {
          });
 }
 
+/// The path of a file, or an address of a scheme that has no host, in one of the forms that would be taken for a host
+/// and a path. A host and a port are none: no slash follows the colon.
+bool isPathOrWord(std::string_view text) {
+  if (text.starts_with('/')) {
+    return !text.starts_with("//");
+  }
+  const auto slash = text.find('/');
+  return slash != std::string_view::npos && slash > 1 && text[slash - 1] == ':' &&
+         !text.substr(slash).starts_with("//") &&
+         text.substr(0, slash - 1).find_first_of(".:[]@") == std::string_view::npos;
+}
+
 std::string completed(std::string_view text) {
   std::string result;
   if (text.starts_with("//")) {
@@ -113,7 +125,7 @@ std::optional<Address> takenApart(const std::string& text) {
 std::optional<Address> parseAddress(const std::string& text) {
   const std::string_view meant = trimmed(text);
   // A line end or a NUL would end the request line early, and what follows would be taken for something else.
-  if (meant.empty() || std::ranges::any_of(meant, isControl)) {
+  if (meant.empty() || isPathOrWord(meant) || std::ranges::any_of(meant, isControl)) {
     return std::nullopt;
   }
   const std::optional<Address> address = takenApart(completed(meant));

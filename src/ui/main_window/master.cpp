@@ -198,7 +198,7 @@ void Master::grid1_Click(int row) {
 
 void Master::Label1_Click() { openPage(program_.services(), program_.programFolder() + kHelpFile); }
 
-void Master::imgLogoSmall_Click() { openPage(program_.services(), kProductHomePage); }
+void Master::imgLogoSmall_Click() { visitPage(program_.services(), kProductHomePage); }
 
 void Master::closeEvent(QCloseEvent* event) {
   const QString unsaved = std::exchange(mayLose_, true) ? QString() : everyUnsavedEdit();

@@ -9,6 +9,7 @@
 #include "ui/baseline/content_dialog.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
+#include "ui/controls/page_opener.h"
 #include "ui/controls/placement.h"
 #include "ui/site/counters_dialog.h"
 #include "ui/site/new_post_var.h"
@@ -195,9 +196,7 @@ void SiteEditor::Command7_Click() {
 
 void SiteEditor::Command8_Click() { unload(); }
 
-void SiteEditor::Command9_Click() {
-  program_.data().openFileFromSystem(controls_.tUrl->text().trimmed().toStdString());
-}
+void SiteEditor::Command9_Click() { visitPage(program_.services(), controls_.tUrl->bytes(), this); }
 
 void SiteEditor::grid1_Click(int row) {
   const PostVar var = postVars_.vars().at(static_cast<std::size_t>(row));

@@ -134,8 +134,9 @@ TEST_F(SiteImport, TellsAllFaultsAndImportsNothing) {
 }
 
 TEST_F(SiteImport, RefusesWhatAddRefuses) {
-  const std::vector<std::string> noAddresses = {"http://",  "http://a b c:/",  "http://[::1",
-                                                "a%zz://x", "http://a:99999/", "http://a%20b/"};
+  const std::vector<std::string> noAddresses = {"http://",        "http://a b c:/",   "http://[::1",
+                                                "a%zz://x",       "http://a:99999/",  "http://a%20b/",
+                                                "/tmp/x.desktop", "C:/Windows/x.exe", "ms-msdt:/id"};
   std::string text = "url\n";
   for (const std::string& url : noAddresses) {
     EXPECT_EQ(run({"add", url}), exit_status::failed) << url;

@@ -89,7 +89,8 @@ TEST_F(AddVerb, RefusesWhatCannotBeFetched) {
     EXPECT_EQ(run({"add", url}), exit_status::failed) << url;
     EXPECT_THAT(err, HasSubstr("is none of http, https, ftp and ftps")) << url;
   }
-  for (const char* url : {"", "  ", "http://", "http://a\n/", "http://a:port/", "http://a b/"}) {
+  for (const char* url : {"", "  ", "http://", "http://a\n/", "http://a:port/", "http://a b/", "/etc/passwd",
+                          "C:/Windows/x.exe", "ms-msdt:/id", "javascript:alert(1)"}) {
     EXPECT_EQ(run({"add", url}), exit_status::failed) << url;
     EXPECT_THAT(err, HasSubstr("is not a valid address")) << url;
   }

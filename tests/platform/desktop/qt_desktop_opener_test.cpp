@@ -35,7 +35,10 @@ class UrlHandler : public QObject {
   QList<QUrl> opened;
 
  private:
-  static QStringList schemes() { return {QStringLiteral("file"), QStringLiteral("http"), QStringLiteral("https")}; }
+  static QStringList schemes() {
+    return {QStringLiteral("file"), QStringLiteral("http"),       QStringLiteral("https"),
+            QStringLiteral("ftps"), QStringLiteral("javascript"), QStringLiteral("ms-msdt")};
+  }
 };
 
 class QtDesktopOpenerTest : public ::testing::Test {
@@ -45,7 +48,7 @@ class QtDesktopOpenerTest : public ::testing::Test {
 };
 
 TEST_F(QtDesktopOpenerTest, OpensAnAddressAsItStands) {
-  EXPECT_TRUE(opener.open("https://localhost/a%20b?c=d#e"));
+  EXPECT_TRUE(opener.openAddress("https://localhost/a%20b?c=d#e"));
   ASSERT_EQ(desktop.opened.size(), 1);
   EXPECT_EQ(desktop.opened[0].toEncoded(), "https://localhost/a%20b?c=d#e");
 }
@@ -57,21 +60,35 @@ TEST_F(QtDesktopOpenerTest, OpensAFileWhateverItsName) {
   QTemporaryFile file(QDir::tempPath() + name);
   ASSERT_TRUE(file.open());
   const QString path = QFileInfo(file).absoluteFilePath();
-  EXPECT_TRUE(opener.open(path.toStdString()));
+  EXPECT_TRUE(opener.openFile(path.toStdString()));
   ASSERT_EQ(desktop.opened.size(), 1);
   EXPECT_EQ(desktop.opened[0].toLocalFile(), path);
 }
 
 TEST_F(QtDesktopOpenerTest, RefusesAFileThatIsNotThere) {
-  EXPECT_FALSE(opener.open("/nowhere/help.html"));
-  EXPECT_FALSE(opener.open(""));
+  EXPECT_FALSE(opener.openFile("/nowhere/help.html"));
+  EXPECT_FALSE(opener.openFile(""));
   EXPECT_TRUE(desktop.opened.isEmpty());
 }
 
-TEST_F(QtDesktopOpenerTest, AnAddressWithoutASchemeIsAWebAddress) {
-  EXPECT_TRUE(opener.open("www.tarnwick.example/page"));
-  ASSERT_EQ(desktop.opened.size(), 1);
-  EXPECT_EQ(desktop.opened[0], QUrl(QStringLiteral("http://www.tarnwick.example/page")));
+TEST_F(QtDesktopOpenerTest, EachDoorOpensItsOwnKindOnly) {
+  QTemporaryFile file(QDir::tempPath() + QStringLiteral("/XXXXXX.html"));
+  ASSERT_TRUE(file.open());
+  const QFileInfo there(file);
+  for (const QString& text :
+       {there.absoluteFilePath(), there.fileName(), QUrl::fromLocalFile(there.filePath()).toString(),
+        QStringLiteral("file:///"), QStringLiteral("javascript:1"), QStringLiteral("ms-msdt:/id"),
+        QStringLiteral("C:/Windows"), QStringLiteral("//server/share"), QStringLiteral("localhost"),
+        QStringLiteral("http://"), QString()}) {
+    EXPECT_FALSE(opener.openAddress(text.toStdString())) << text.toStdString();
+  }
+  for (const char* text : {"https://localhost/", "file:///", ".", "javascript:1"}) {
+    EXPECT_FALSE(opener.openFile(text)) << text;
+  }
+  EXPECT_TRUE(desktop.opened.isEmpty());
+  EXPECT_TRUE(opener.openFile(there.absolutePath().toStdString())) << "a folder";
+  EXPECT_TRUE(opener.openAddress("ftps://localhost/"));
+  EXPECT_EQ(desktop.opened.size(), 2);
 }
 
 }  // namespace

@@ -34,6 +34,16 @@ TEST(Address, BlanksAroundItDoNotCountAndInnerOnesAreEncoded) {
   EXPECT_EQ(urlOf("http://a.test/\xc3\xa4"), "http://a.test/%c3%a4");
 }
 
+TEST(Address, IsNoPathAndNoWordWithASlash) {
+  for (const std::string text : {"/tmp/x.desktop", "/", "C:/Windows/x.exe", "c:/", R"(C:\Windows\x.exe)",
+                                 R"(\\server\share\x.exe)", "file:/etc/passwd", "ms-msdt:/id x", "http:/a.test/",
+                                 "javascript:alert(1)", "search-ms:query=x", "data:text/html,x"}) {
+    EXPECT_FALSE(parseAddress(text)) << text;
+  }
+  EXPECT_EQ(urlOf("a.test:/b"), "http://a.test/b");
+  EXPECT_EQ(urlOf("localhost:80/b:/c"), "http://localhost:80/b:/c");
+}
+
 TEST(Address, OfAnotherSchemeIsValidButNotFetched) {
   const auto address = parseAddress("gopher://a.test/");
   ASSERT_TRUE(address);

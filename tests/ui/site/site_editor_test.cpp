@@ -343,17 +343,6 @@ TEST_F(SiteEditorTest, DeleteAsksFirst) {
   EXPECT_EQ(folder.queryText("select count(*) from postVars"), "0");
 }
 
-TEST_F(SiteEditorTest, VisitOpensTheTrimmedTextOfTheUrl) {
-  addSite(1, "http://one.test/");
-  auto& editor = openEditor();
-  type(editor, "tUrl", "  http://typed.test/a b ");
-  machine.opener.result = false;
-  press(editor, "Command9");
-  EXPECT_EQ(machine.opener.opened, Strings{"http://typed.test/a b"});
-  EXPECT_TRUE(machine.prompts.shown().empty());
-  EXPECT_EQ(column(1, "url"), "http://one.test/");
-}
-
 TEST_F(SiteEditorTest, ShowsThePostVariables) {
   addSite(1, "http://one.test/");
   addVar(1, "a", "1");
