@@ -6,7 +6,7 @@
 build_packages=(
   g++ cmake ninja-build ccache
   qt6-base-dev qt6-l10n-tools libgl1-mesa-dev
-  libcurl4-openssl-dev libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev
+  libcurl4-openssl-dev libssl-dev libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev
   python3 python3-markdown-it
 )
 

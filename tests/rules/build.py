@@ -13,6 +13,8 @@ from rules.tree import Tree, room_of
 LIBRARY_TARGETS = (
     ("SQLite::SQLite3", r"sqlite3\w*\.h", ()),
     ("CURL::libcurl", r"curl/.*", ()),
+    ("OpenSSL::SSL", r"openssl/ssl\.h", ()),
+    ("OpenSSL::Crypto", r"openssl/.*", ()),
     ("CLI11::CLI11", r"CLI/.*", ()),
     ("nlohmann_json::nlohmann_json", r"nlohmann/.*", ()),
     ("Qt6::Network", r"Q(Tcp|Host|Network|Ssl|LocalS|AbstractSocket)\w*", ("Qt6::Core",)),

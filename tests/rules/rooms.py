@@ -46,7 +46,7 @@ ROOMS = {
 QT = r"Q[A-Z]\w*|Qt\w*/.*|q[a-z]+\.h"
 LIBRARIES = {
     "platform/sqlite": r"sqlite3\w*\.h",
-    "platform/web": rf"curl/.*|{QT}",
+    "platform/web": rf"curl/.*|openssl/.*|{QT}",
     "platform/events": QT,
     "platform/process": QT,
     "platform/desktop": QT,
@@ -61,7 +61,7 @@ LIBRARIES = {
     "app": QT,
 }
 
-LIBRARY = re.compile(rf"^({QT}|sqlite3\w*\.h|curl/.*|CLI/.*|nlohmann/.*)$")
+LIBRARY = re.compile(rf"^({QT}|sqlite3\w*\.h|curl/.*|openssl/.*|CLI/.*|nlohmann/.*)$")
 # No room holds more of the lines of src than this.
 LARGEST_SHARE = 0.20
 FEWEST_LINES_OF_A_HOUSE = 5000  # below, a share says nothing

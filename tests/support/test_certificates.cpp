@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/test_certificates.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -96,6 +97,14 @@ TlsIdentity TestCertificates::ofAStranger() {
     sign("strange", kOwnNames, kPresent, "stranger");
   }
   return identity("strange");
+}
+
+std::string TestCertificates::folderOfStrangers() {
+  const QDir dir(folder_->dir.path());
+  dir.mkdir(QStringLiteral("trusted"));
+  QFile::copy(dir.filePath(QStringLiteral("stranger.crt")), dir.filePath(QStringLiteral("trusted/stranger.crt")));
+  run("rehash trusted");
+  return dir.filePath(QStringLiteral("trusted")).toStdString();
 }
 
 }  // namespace tarnwick::testing

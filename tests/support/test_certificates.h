@@ -31,6 +31,8 @@ class TestCertificates {
   TlsIdentity notYetValid();
   /// Signed by an authority that nobody was told of.
   TlsIdentity ofAStranger();
+  /// A folder of authorities, with the one of the stranger alone.
+  std::string folderOfStrangers();
 
  private:
   struct Folder;

@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "platform/address.h"
 #include "platform/os/socket_inheritance.h"
+#include "platform/web/authorities.h"
 #include "platform/web/socket_errors.h"
 
 namespace tarnwick {
@@ -101,8 +102,9 @@ int CurlRequest::onSocket(void* self, curl_socket_t socket, curlsocktype) {
   return CURL_SOCKOPT_OK;
 }
 
-CURLcode CurlRequest::onHandshake(CURL*, void*, void* self) {
+CURLcode CurlRequest::onHandshake(CURL*, void* context, void* self) {
   auto* const request = static_cast<CurlRequest*>(self);
+  trustFolder(context, request->options_.caFolder);
   request->connection_.handshaking = true;
   request->reach(transfer_state::connected);
   return CURLE_OK;

@@ -6,6 +6,7 @@
 #include "base/one_line.h"
 #include "base/text.h"
 #include "platform/address.h"
+#include "platform/web/authorities.h"
 #include "platform/web/curl_request.h"
 
 namespace tarnwick {
@@ -114,9 +115,7 @@ void CurlRequest::setTarget() {
   set(easy, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
   set(easy, CURLOPT_SSL_VERIFYPEER, 1L);
   set(easy, CURLOPT_SSL_VERIFYHOST, 2L);
-  if (!options_.caFile.empty()) {
-    set(easy, CURLOPT_CAINFO, options_.caFile.c_str());
-  }
+  shareAuthorities(easy, options_.caFile);
 }
 
 void CurlRequest::setMethod() {

@@ -18,6 +18,8 @@ class CurlTransfers final : public TransferMaker {
   struct Options {
     /// PEM file of the certificate authorities to trust; empty means those of the system.
     std::string caFile{};
+    /// Folder of further ones, with the names that `openssl rehash` gives; empty means that of the system.
+    std::string caFolder{};
     /// The largest page that is taken, in bytes after decoding.
     std::size_t largestPage = kLargestPage;
   };
