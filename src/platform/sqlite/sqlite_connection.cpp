@@ -146,7 +146,16 @@ class SqliteConnection final : public SqlConnection {
     try {
       return action(database);
     } catch (const DataAccessError& error) {
+      refuseOverwritten(database);
       throw inStatement(error, sql);
+    }
+  }
+
+  /// What looks like damage may be a copy that is just being written over the file.
+  void refuseOverwritten(SqliteDatabase& database) const {
+    using Finding = SqliteFileWatch::Finding;
+    if (database.isOutdated() && database.lookAtFilesAtOnce() == Finding::overwritten) {
+      throw exchangedFiles(Finding::overwritten, path_);
     }
   }
 

@@ -86,7 +86,19 @@ SqliteDatabase::SqliteDatabase(std::string path) : path_(std::move(path)) {
   openInPlace(path_, [this](const auto& before) { open(before); });
   if (!liesOnNetwork(path_)) {  // where a file may be known by another number every time
     watch_.emplace(path_, handle());
+    sqlite3_wal_hook(handle(), &takeLogIn, this);
   }
+}
+
+// As SQLite itself does it, but for the looks.
+int SqliteDatabase::takeLogIn(void* self, sqlite3* database, const char* name, int pages) noexcept {
+  constexpr int kPagesOfLog = 1000;
+  SqliteFileWatch& watch = *static_cast<SqliteDatabase*>(self)->watch_;
+  if (watch.look() == SqliteFileWatch::Finding::same && pages >= kPagesOfLog) {
+    sqlite3_wal_checkpoint_v2(database, name, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+    watch.remember();
+  }
+  return SQLITE_OK;
 }
 
 void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
@@ -101,7 +113,7 @@ void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
     throw lastError();
   }
   lockInPlace(handle(), path_, before);
-  setForeignLogAside();
+  setForeignLogAside(handle(), path_);
   refuseDamage();
   chooseJournal();
 }
@@ -114,31 +126,9 @@ SqliteDatabase::~SqliteDatabase() {
   keptByText_.clear();
   kept_.clear();
   if (watch_) {
-    watch_->beforeClosing(handle());
+    watch_->beforeClosing();
     handle_.reset();
     watch_->afterClosing();
-  }
-}
-
-// A copy that was put in the place of a lost database may find that one's log beside it, left by a program that was
-// killed; SQLite would write its pages into the copy. Only a file whose header
-// (https://www.sqlite.org/fileformat2.html) says that it has no log is known not to be the one that this log belongs
-// to.
-void SqliteDatabase::setForeignLogAside() {
-  constexpr sqlite3_int64 kVersions = 18;
-  constexpr std::array<char, 2> kWithoutLog{1, 1};
-  const std::string log = path_ + "-wal";
-  std::array<char, 2> versions{};
-  sqlite3_file* file = nullptr;
-  if (bytesIn(log) > 0U && sqlite3_file_control(handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK &&
-      file->pMethods->xRead(file, versions.data(), static_cast<int>(versions.size()), kVersions) == SQLITE_OK &&
-      versions == kWithoutLog) {
-    try {
-      LocalFiles().rename(log, log + ".old");
-    } catch (const FileError& error) {
-      throw DataAccessError(
-          "The file " + log + " belongs to another database than " + path_ + ". Remove it. (" + error.what() + ")", "");
-    }
   }
 }
 

@@ -93,11 +93,14 @@ class SqliteDatabase {
   /// True when the file should be opened afresh before its next use, and nobody is at work on it: damage was met, of
   /// which the pages in memory may be all there is once a good copy is put back, or it could not be changed, which an
   /// open file goes on with after its permissions have been put right.
-  bool wantsReopening() const { return outdated_ && open_.empty() && sqlite3_get_autocommit(handle()) != 0; }
+  bool wantsReopening() const { return isOutdated() && open_.empty() && sqlite3_get_autocommit(handle()) != 0; }
+
+  bool isOutdated() const { return outdated_; }
 
   /// What became of the files since they were opened. May be noticed only some time later, for it is asked before
   /// every statement.
   SqliteFileWatch::Finding lookAtFiles() { return watch_ ? watch_->lookNowAndThen() : SqliteFileWatch::Finding::same; }
+  SqliteFileWatch::Finding lookAtFilesAtOnce() { return watch_ ? watch_->look() : SqliteFileWatch::Finding::same; }
   /// Whether rows are being read.
   bool isRead() const { return !open_.empty(); }
 
@@ -110,7 +113,7 @@ class SqliteDatabase {
   SqliteStatement takeKept(std::string_view text);
   void keep(SqliteStatement statement) noexcept;
   void open(const std::optional<FileIdentity>& before);
-  void setForeignLogAside();
+  static int takeLogIn(void* self, sqlite3* database, const char* name, int pages) noexcept;
   void refuseDamage();
   /// What is wrong with the file; empty for nothing. Raises what keeps it from being read.
   std::string damageSeen();

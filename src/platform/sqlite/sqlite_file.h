@@ -34,4 +34,8 @@ struct FileIdentity {
 /// while SQLite has it open.
 std::optional<FileIdentity> identityOf(const std::string& path);
 
+/// When the file `path` was last written to, in nanoseconds; nothing where there is none, and where the system tells it
+/// late.
+std::optional<std::int64_t> writtenAt(const std::string& path);
+
 }  // namespace tarnwick

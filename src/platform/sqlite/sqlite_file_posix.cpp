@@ -68,4 +68,18 @@ std::optional<FileIdentity> identityOf(const std::string& path) {
   return FileIdentity{facts.st_dev, facts.st_ino};
 }
 
+std::optional<std::int64_t> writtenAt(const std::string& path) {
+  constexpr std::int64_t kSecond = 1'000'000'000;
+  struct stat facts {};
+  if (::stat(path.c_str(), &facts) != 0) {
+    return std::nullopt;
+  }
+#ifdef __APPLE__
+  const timespec& time = facts.st_mtimespec;
+#else
+  const timespec& time = facts.st_mtim;
+#endif
+  return time.tv_sec * kSecond + time.tv_nsec;
+}
+
 }  // namespace tarnwick

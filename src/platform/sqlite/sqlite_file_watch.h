@@ -11,35 +11,43 @@
 
 #include "base/errors.h"
 #include "platform/sqlite/sqlite_file.h"
+#include "platform/sqlite/sqlite_log.h"
 
 namespace tarnwick {
 
 /// Notices when the files of an open SQLite database are taken away or exchanged for others. SQLite goes on with the
 /// ones it has open: what it writes is found by nobody, and when it closes them it would write a log that is out of
-/// date over what other programs have stored meanwhile.
+/// date over what other programs have stored meanwhile, or into a good copy.
 class SqliteFileWatch {
  public:
   enum class Finding {
     same,
     missing,         ///< no file has the database's name
     other,           ///< another file has it
+    overwritten,     ///< another database was written into the file
     otherCompanions  ///< the write-ahead log, or the memory shared through a file, is gone or another one
   };
 
   /// Keeps in mind which files `database`, just opened by the name `path`, consists of.
   SqliteFileWatch(const std::string& path, sqlite3* database);
 
+  Finding look() noexcept;
+  /// Takes the file for the right one as it is now.
+  void remember() noexcept;
   /// Looks at most ten times a second, since it takes some microseconds; `same` in between.
-  Finding lookNowAndThen();
+  Finding lookNowAndThen() noexcept;
 
-  /// Before `database` is closed: keeps SQLite from taking its log in where others have begun one since.
-  void beforeClosing(sqlite3* database) const noexcept;
+  /// Before the database is closed: keeps SQLite from taking its log in where others have begun one since.
+  void beforeClosing() noexcept;
 
   /// Afterwards: moves a log away that the database that is there now would take for its own.
   void afterClosing() const noexcept;
 
  private:
-  Finding look() const;
+  bool isOverwritten() noexcept;
+  bool hasOtherBeginning() noexcept;
+  bool wasWrittenWithoutLog() noexcept;
+  bool isWrittenByOthers(const SqliteHeader& header) const noexcept;
 
   struct File {
     explicit File(std::string name) : path(std::move(name)), atOpening(identityOf(path)) {}
@@ -53,6 +61,14 @@ class SqliteFileWatch {
   File database_;
   File log_;
   File sharedMemory_;
+  sqlite3* open_;
+  // What the file and its log began with when they were looked at last.
+  std::optional<LogFacts::Salts> salts_;
+  std::optional<SqliteHeader> header_;
+  // How far the log was brought over, and when the file had been written to then.
+  std::optional<LogProgress> progress_;
+  std::optional<std::int64_t> written_;
+  Finding atClosing_ = Finding::same;
   std::chrono::steady_clock::time_point nextLook_{};
 };
 
@@ -70,7 +86,7 @@ void lockInPlace(sqlite3* database, const std::string& path, const std::optional
 /// Raises DataAccessError unless `path` is a file, in words plainer than SQLite's "unable to open".
 void requireFile(const std::string& path);
 
-/// The error for a finding of `other` or `otherCompanions`.
+/// The error for a finding of `other`, `overwritten` or `otherCompanions`.
 DataAccessError exchangedFiles(SqliteFileWatch::Finding finding, const std::string& path);
 
 }  // namespace tarnwick

@@ -41,4 +41,7 @@ bool liesOnNetwork(const std::string& path) {
 // Here nobody can move or remove a file that SQLite has open.
 std::optional<FileIdentity> identityOf(const std::string&) { return std::nullopt; }
 
+// Here a file's times are brought up to date when it is closed.
+std::optional<std::int64_t> writtenAt(const std::string&) { return std::nullopt; }
+
 }  // namespace tarnwick

@@ -12,6 +12,7 @@
 #include "platform/sqlite/sqlite_errors.h"
 #include "platform/sqlite/sqlite_file.h"
 #include "platform/sqlite/sqlite_file_watch.h"
+#include "platform/sqlite/sqlite_log.h"
 
 namespace tarnwick {
 namespace {
@@ -52,6 +53,7 @@ bool SqliteHold::lock() {
       handle_.reset();
       handle_ = openDatabase(path_, SQLITE_OPEN_READWRITE);
       lockInPlace(handle_.get(), path_, before);
+      setForeignLogAside(handle_.get(), path_);
       leaveLogAndLock(handle_.get());
     });
     if (run(handle_.get(), "pragma journal_mode") == "delete") {

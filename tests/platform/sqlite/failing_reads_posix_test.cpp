@@ -76,8 +76,11 @@ TEST(FailingReads, AreToldAsSuchWhicheverItIs) {
     conn->execute("insert into sites (idSite, url) values (1, 'http://before.example/')")->close();
   }
   int told = 0;
-  for (int number = 1;; ++number) {
+  bool hasFailed = true;
+  for (int number = 1; hasFailed; ++number) {
     ASSERT_LT(number, 1000);
+    // Takes in a log that could not be at the last closing: it would grow with each round, and the reads with it.
+    use(folder);
     const FailingRead failing(number);
     try {
       use(folder);
@@ -86,9 +89,7 @@ TEST(FailingReads, AreToldAsSuchWhicheverItIs) {
       EXPECT_NE(error.cause().find("Reading or writing the database"), std::string::npos) << number << error.cause();
       EXPECT_EQ(error.cause().find("good copy"), std::string::npos) << number;
     }
-    if (!failing.hasFailed()) {
-      break;
-    }
+    hasFailed = failing.hasFailed();
   }
   EXPECT_GE(told, 2);
   use(folder);

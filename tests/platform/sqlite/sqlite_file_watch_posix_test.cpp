@@ -8,14 +8,18 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <thread>
 
 #include "base/errors.h"
 #include "platform/sqlite/sqlite_connection.h"
 #include "store/database.h"
+#include "support/file_bytes.h"
 #include "support/hand_clock.h"
 #include "support/program_folder.h"
 
@@ -111,6 +115,18 @@ class SqliteFileWatchTest : public ::testing::Test {
     }
     return "";
   }
+  /// The same of a run that is left alone until it looks again.
+  std::string lookSlowly() {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(120);
+    while (std::chrono::steady_clock::now() < end) {
+      try {
+        sites(*run_);
+      } catch (const DataAccessError& error) {
+        return error.cause();
+      }
+    }
+    return "";
+  }
   static std::string sites(Database& database) {
     std::string all;
     for (auto rows = database.query("select idSite from sites order by idSite"); !rows->eof(); rows->moveNext()) {
@@ -193,6 +209,146 @@ TEST_F(SqliteFileWatchTest, ADatabaseMovedOutOfTheWayIsComplete) {
   run_.reset();
   fs::rename(file(".kept"), file(""));
   EXPECT_EQ(sitesLater(), "1 2 ");
+}
+
+/// A copy is written over the open file, as `cp` does it, whose own log would then go into the copy.
+class OverwrittenDatabase : public SqliteFileWatchTest {
+ protected:
+  OverwrittenDatabase() {
+    // As a compaction makes it, and as a closed list is.
+    ProgramFolder backup;
+    backup.execute("create table further (x); drop table further");
+    { const Database made(backup.path(), databases_); }
+    fs::copy_file(backup.databasePath(), file(".closed"));
+    backup.execute("pragma journal_mode = delete");
+    fs::copy_file(backup.databasePath(), file(".backup"));
+  }
+
+  /// By another process: reading or writing the file here would end SQLite's locks.
+  void overwriteBy(const std::string& copy) const { overwriteBy(copy, file("")); }
+  static void overwriteBy(const std::string& copy, const std::string& target) {
+    ASSERT_EQ(std::system(("cp '" + copy + "' '" + target + "'").c_str()), 0);
+  }
+  bool isStill(const std::string& ending) const {
+    return std::system(("cmp '" + file("") + "' '" + file(ending) + "'").c_str()) == 0;
+  }
+
+  /// Enough for SQLite to bring its log over into the file.
+  static void addMuch(Database& database) {
+    database.execute(
+        "with recursive n(i) as (select 1 union all select i + 1 from n where i < 600) "
+        "insert into log (idSite, content) select 3, randomblob(9000) from n");
+  }
+};
+
+TEST_F(OverwrittenDatabase, ItIsToldAndWorkGoesOnWithTheCopy) {
+  for (const char* copy : {".backup", ".closed"}) {
+    SCOPED_TRACE(copy);
+    overwriteBy(file(copy));
+    expectToldOnce("was exchanged for another file");
+    EXPECT_EQ(sites(*run_), "9 ");
+    EXPECT_TRUE(fs::exists(file("-wal.old")));
+    run_.reset();
+    EXPECT_EQ(sitesLater(), "9 ");
+    run_ = open();
+  }
+}
+
+TEST_F(OverwrittenDatabase, NothingOfTheLogGoesIntoTheCopyWhenTheProgramEnds) {
+  overwriteBy(file(".closed"));
+  run_.reset();
+  EXPECT_TRUE(isStill(".closed"));
+  EXPECT_FALSE(fs::exists(file("-wal")));
+  EXPECT_FALSE(fs::exists(file("-shm")));
+  EXPECT_EQ(sitesLater(), "");
+}
+
+TEST_F(OverwrittenDatabase, NothingOfTheLogGoesIntoTheCopyWhenTheLogIsFull) {
+  {
+    Transaction transaction(*run_);
+    addMuch(*run_);
+    overwriteBy(file(".closed"));
+    transaction.commit();
+  }
+  EXPECT_TRUE(isStill(".closed"));
+  run_.reset();
+  EXPECT_TRUE(isStill(".closed"));
+  EXPECT_EQ(sitesLater(), "");
+}
+
+TEST_F(OverwrittenDatabase, WhoComesBeforeTheRunHasNoticedFindsTheCopy) {
+  overwriteBy(file(".closed"));
+  EXPECT_TRUE(other_.adds(5));
+  expectToldOnce("was exchanged for another file");
+  EXPECT_EQ(sites(*run_), "5 9 ");
+  run_.reset();
+  EXPECT_EQ(sitesLater(), "5 9 ");
+}
+
+TEST_F(OverwrittenDatabase, SeveralThatHaveItOpenGoOnWithTheCopyTogether) {
+  ASSERT_TRUE(other_.adds(5, true));
+  overwriteBy(file(".closed"));
+  expectToldOnce("was exchanged for another file");
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  for (char id = 20; std::chrono::steady_clock::now() < end && id < 120 && other_.adds(id, true); ++id) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));  // sleeps because it looks only now and then
+  }
+  EXPECT_LT(std::chrono::steady_clock::now(), end) << "it is told, too";
+  EXPECT_TRUE(other_.adds(7));
+  EXPECT_EQ(sites(*run_), "7 9 ");
+  run_.reset();
+  EXPECT_EQ(sitesLater(), "7 9 ");
+}
+
+TEST_F(OverwrittenDatabase, TheLogOfAKilledProgramDoesNotGoIntoTheCopy) {
+  run_.reset();
+  std::string log;
+  {
+    const auto killed = open();
+    add(*killed, 3);
+    log = bytesOfFile(file("-wal"));
+  }
+  overwriteBy(file(".closed"));
+  fs::copy_file(file(".closed"), file("-wal"));
+  std::ofstream(file("-wal"), std::ios::binary | std::ios::trunc) << log;
+  EXPECT_EQ(sitesLater(), "");
+  EXPECT_EQ(bytesOfFile(file("-wal.old")), log) << "nothing is thrown away";
+}
+
+TEST_F(OverwrittenDatabase, ACopyFromBeforeTheLogBeganIsNoticedThoughItBeginsAsTheFileDoes) {
+  run_.reset();
+  fs::copy_file(file(""), file(".before"));
+  run_ = open();
+  run_->execute("update sites set url = 'changed' where idSite = 1");
+  overwriteBy(file(".before"));
+  expectToldOnce("was exchanged for another file");
+  EXPECT_EQ(run_->query("select count(*) from sites where url = 'changed'")->field(0).toText(), "0");
+}
+
+TEST_F(OverwrittenDatabase, AHalfWrittenCopyIsToldAndTheWholeOneIsUsed) {
+  ASSERT_EQ(truncate(file("").c_str(), 0), 0);
+  EXPECT_NE(faultOfBeginning(*run_).find("was exchanged"), std::string::npos);
+  overwriteBy(file(".closed"));
+  add(*run_, 9);
+  EXPECT_EQ(sites(*run_), "9 ");
+}
+
+TEST_F(OverwrittenDatabase, WhatOtherProgramsBringOverIntoTheFileIsNoExchange) {
+  for (int round = 1; round <= 40; ++round) {
+    SCOPED_TRACE(round);
+    ASSERT_TRUE(other_.adds(static_cast<char>(10 + round), round % 3 == 0));
+    if (round % 4 == 0) {
+      addMuch(*run_);
+      run_->execute("delete from log");
+    }
+    if (round % 5 == 0) {
+      folder_.execute("pragma wal_checkpoint(truncate)");
+    }
+    if (round % 7 == 0) {
+      folder_.execute("vacuum");
+    }
+    EXPECT_EQ(lookSlowly(), "");
+  }
 }
 
 TEST_F(SqliteFileWatchTest, AnExchangeIsNoticedByQuestionsToo) {
