@@ -18,6 +18,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int kPieceSize = 1 << 20;
+constexpr const char* kLeaveLog = "pragma journal_mode = delete";
 
 /// Makes an empty file that may be read by those who may read the file `like`.
 void makeEmpty(const std::string& path, const std::string& like) {
@@ -41,7 +42,7 @@ SqliteHold::SqliteHold(std::string path) : path_(std::move(path)) {
   const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(kBusyPatienceMs);
   while (!lock()) {
     if (std::chrono::steady_clock::now() >= end) {
-      throw sqliteError(SQLITE_BUSY, sqlite3_errstr(SQLITE_BUSY), path_);
+      throw inStatement(sqliteError(SQLITE_BUSY, sqlite3_errstr(SQLITE_BUSY), path_), kLeaveLog);
     }
     sqlite3_sleep(kPauseMs);
   }
@@ -71,7 +72,7 @@ bool SqliteHold::lock() {
 void SqliteHold::leaveLogAndLock(sqlite3* database) const {
   // Leaving the write-ahead log works only for a connection that is alone, and takes all of it into the file. Whoever
   // comes before the lock is taken begins a log again.
-  run(database, "pragma journal_mode = delete");
+  run(database, kLeaveLog);
   // Once taken, the lock stays until the connection is closed, whatever is done meanwhile.
   run(database, "pragma main.locking_mode = exclusive");
   run(database, "begin exclusive");
