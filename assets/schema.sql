@@ -98,6 +98,7 @@ CREATE TABLE siteOptions (
   PRIMARY KEY (idSite, name)
 ) WITHOUT ROWID;
 INSERT INTO siteOptions (idSite, name, value)
-VALUES (0, 'newSites', 'at once'), (0, 'adopt', 'pages only'), (0, 'mailLimit', '60');
+VALUES (0, 'newSites', 'at once'), (0, 'adopt', 'pages only'), (0, 'mailLimit', '60'),
+  (0, 'logLimit', '1024');
 
 COMMIT;

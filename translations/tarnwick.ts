@@ -540,11 +540,19 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>How much the log holds of pages; the oldest are emptied first, and no page is stored while less than 1 GiB or 5 % of the disk is free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Mail exchange at most</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>New sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages in the log at most</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -572,11 +580,19 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>MiB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>at the next start</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the log keeps the page of every failed check, and the disk may fill</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

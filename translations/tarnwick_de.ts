@@ -540,12 +540,20 @@
         <translation>Erste Basis</translation>
     </message>
     <message>
+        <source>How much the log holds of pages; the oldest are emptied first, and no page is stored while less than 1 GiB or 5 % of the disk is free</source>
+        <translation>Wie viel das Log an Seiteninhalten hält; die ältesten werden zuerst geleert, und keiner wird gespeichert, solange weniger als 1 GiB oder 5 % des Datenträgers frei sind</translation>
+    </message>
+    <message>
         <source>Mail exchange at most</source>
         <translation>Mail-Austausch höchstens</translation>
     </message>
     <message>
         <source>New sites</source>
         <translation>Neue Seiten</translation>
+    </message>
+    <message>
+        <source>Pages in the log at most</source>
+        <translation>Seiteninhalte im Log höchstens</translation>
     </message>
     <message>
         <source>The longest time that handing over one mail may take, connecting included</source>
@@ -572,12 +580,20 @@
         <translation>alles</translation>
     </message>
     <message>
+        <source>MiB</source>
+        <translation>MiB</translation>
+    </message>
+    <message>
         <source>at the next start</source>
         <translation>beim nächsten Start</translation>
     </message>
     <message>
         <source>seconds</source>
         <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>the log keeps the page of every failed check, and the disk may fill</source>
+        <translation>das Log behält den Inhalt jeder gescheiterten Prüfung, und der Datenträger kann voll werden</translation>
     </message>
     <message>
         <source>the first answer becomes the baseline, also the text of a fetch that failed</source>

@@ -22,8 +22,11 @@ std::string withStatement(const std::string& cause, const std::string& statement
 
 }  // namespace
 
-DataAccessError::DataAccessError(const std::string& cause, const std::string& statement)
-    : std::runtime_error(withStatement(cause, statement)), cause_(cause), statement_(shortened(statement)) {}
+DataAccessError::DataAccessError(const std::string& cause, const std::string& statement, Kind kind)
+    : std::runtime_error(withStatement(cause, statement)),
+      cause_(cause),
+      statement_(shortened(statement)),
+      kind_(kind) {}
 
 FileError::FileError(const std::string& path, const std::string& cause)
     : std::runtime_error(path + ": " + cause), path_(path), cause_(cause) {}

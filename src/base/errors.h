@@ -13,8 +13,17 @@ inline constexpr const char* kNotEnoughMemory = "There is not enough memory for 
 /// `what()` is fit to be shown to the user: it names the cause and, where there is one, the remedy.
 class DataAccessError : public std::runtime_error {
  public:
+  /// Faults that a caller can do something about.
+  enum class Kind {
+    other,
+    noRoom,  ///< the disk is full, or what the user may take of it
+  };
+
   /// `cause` is the readable reason; `statement` the SQL text that failed (may be empty; long ones are shortened).
-  DataAccessError(const std::string& cause, const std::string& statement);
+  DataAccessError(const std::string& cause, const std::string& statement, Kind kind = Kind::other);
+
+  Kind kind() const noexcept { return kind_; }
+  bool forWantOfRoom() const noexcept { return kind_ == Kind::noRoom; }
 
   /// The reason alone, without the statement: the same text for the same fault whatever ran into it.
   const std::string& cause() const noexcept { return cause_; }
@@ -25,6 +34,7 @@ class DataAccessError : public std::runtime_error {
  private:
   std::string cause_;
   std::string statement_;
+  Kind kind_;
 };
 
 /// A failed file operation; `what()` names the path and the cause.

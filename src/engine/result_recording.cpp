@@ -25,26 +25,43 @@ Judged readJudged(Database& database, std::int16_t idSite) {
   return site;
 }
 
+bool isAdopted(const Judged& site, std::int32_t errCode, FirstBaseline first) {
+  return site.baseline.empty() && (first == FirstBaseline::anything || errCode == 0);
+}
+
+bool passes(const Judged& site, const std::string& content) {
+  return !site.baseline.empty() && content == site.baseline;
+}
+
 }  // namespace
 
 bool ResultRecording::testSite(std::int16_t idSite, const std::string& content, std::int32_t errCode,
-                               const std::string& errDescription, FirstBaseline first) {
+                               const std::string& errDescription, FirstBaseline first, KeptPage kept) {
   Transaction whole(db_);
   const Judged site = readJudged(db_, idSite);
-  const std::string quotedContent = sqlQuote(content);
   const std::string id = sqlQuote(idSite);
+  const bool keeps = kept == KeptPage::whole || errCode != 0;
 
-  const bool adopted = site.baseline.empty() && (first == FirstBaseline::anything || errCode == 0);
+  const bool adopted = isAdopted(site, errCode, first);
+  const std::string quotedContent = adopted || keeps ? sqlQuote(content) : std::string();
   if (adopted) {
     db_.execute(joinSql("update sites set content_compare = '", quotedContent, "'", " WHERE idsite = ", id));
   }
-  db_.execute(joinSql("update sites set content_runtime = '", quotedContent, "'", " WHERE idsite = ", id));
-  const bool result = adopted || (!site.baseline.empty() && content == site.baseline);
-  log_.addLog(idSite, site.url, result, errCode, errDescription, result ? std::string() : content);
+  db_.execute(joinSql("update sites set content_runtime = '", keeps ? quotedContent : sqlQuote(kPageNotKept), "'",
+                      " WHERE idsite = ", id));
+  const bool result = adopted || passes(site, content);
+  log_.addLog(idSite, site.url, result, errCode, keeps || result ? errDescription : kPageNotKept,
+              result || !keeps ? std::string() : content);
   xupdateLastChecked(idSite);
 
   whole.commit();
   return result;
+}
+
+bool ResultRecording::wouldPass(std::int16_t idSite, const std::string& content, std::int32_t errCode,
+                                FirstBaseline first) {
+  const Judged site = readJudged(db_, idSite);
+  return isAdopted(site, errCode, first) || passes(site, content);
 }
 
 void ResultRecording::clearContentCompare(std::int16_t idSite) {

@@ -17,6 +17,15 @@ enum class FirstBaseline {
   pagesOnly,  ///< the first page; a fetch that failed leaves the site down and without a baseline
 };
 
+/// What is stored of a page beside the verdict over it.
+enum class KeptPage {
+  whole,
+  none,  ///< a few words in its place; the text of a fetch that failed is kept all the same
+};
+
+/// What then stands in the place of the page.
+inline constexpr const char* kPageNotKept = "The page was not kept: there is too little room on the disk.";
+
 /// Judges a fetched page and keeps the outcome in the site's row and in the log. A site is up when the page equals its
 /// stored baseline byte for byte; the first page of a site without a baseline becomes its baseline. Every failed
 /// statement raises DataAccessError. A change to a site that does not exist does nothing.
@@ -34,9 +43,13 @@ class ResultRecording {
 
   /// Judges `content`, the page or the text of a failed fetch, stores it as the site's latest page with the time of the
   /// check, and logs the check: the page only when the site is down. True when the site is up. `errCode` and
-  /// `errDescription` are logged and take no part in the verdict. All is written, or nothing.
+  /// `errDescription` are logged and take no part in the verdict. All is written, or nothing. What becomes the baseline
+  /// is stored whatever `kept` says.
   bool testSite(std::int16_t idSite, const std::string& content, std::int32_t errCode,
-                const std::string& errDescription, FirstBaseline first = FirstBaseline::anything);
+                const std::string& errDescription, FirstBaseline first = FirstBaseline::anything,
+                KeptPage kept = KeptPage::whole);
+  /// The verdict of that, with nothing stored: true also when the page would become the baseline.
+  bool wouldPass(std::int16_t idSite, const std::string& content, std::int32_t errCode, FirstBaseline first);
 
   /// Empties the baseline: the next page fetched becomes it.
   void clearContentCompare(std::int16_t idSite);

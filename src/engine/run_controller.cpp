@@ -96,6 +96,9 @@ void RunController::runTestPass(std::int16_t mode) {
     TestPass pass(*this, needs_, busy_, {sites_, uncounted_});
     readOptions();
     TextTable sites = sites_.choose(mode, mode == kDueSites && (takesWhatWasLeft || newSitesAtOnce_));
+    if (mode == kDueSites) {
+      sites = sites_.withoutUnrecorded(sites, needs_.clock.steadyNow());
+    }
     foundNothing_ = sites.lastRow() == 0;
     pass.test(std::move(sites));
     backOff_.succeeded();
@@ -212,8 +215,7 @@ void RunController::timerPass() {
     return;  // stopped, or begun, since the tick counted
   }
   if (backOff_.isFailing()) {
-    // The pages of a pass that cannot be recorded would be fetched for nothing, every second again.
-    needs_.results.proveRecording();
+    proveThatAPassIsOfUse();
   }
   const struct TimerPass {
     explicit TimerPass(bool& flag) : flag_(flag) { flag_ = true; }
@@ -225,6 +227,23 @@ void RunController::timerPass() {
     needs_.dueSites.changedByAnyone();
     if (std::string why = sites_.whatWaits(); !why.empty()) {
       standstill_ = {minuteOf(needs_.clock), std::move(why)};
+    }
+  }
+}
+
+// The pages of a pass that cannot be recorded would be fetched for nothing, every second again. On a full disk they are
+// not: what is down is told all the same, each site at its own interval.
+void RunController::proveThatAPassIsOfUse() {
+  try {
+    needs_.results.proveRecording();
+    sites_.canBeRecorded();
+  } catch (const DataAccessError& error) {
+    if (!error.forWantOfRoom()) {
+      throw;
+    }
+    const TextTable due = sites_.choose(kDueSites, somethingWasLeft_ || newSitesAtOnce_);
+    if (sites_.withoutUnrecorded(due, needs_.clock.steadyNow()).lastRow() == 0) {
+      throw;
     }
   }
 }

@@ -23,6 +23,7 @@
 namespace tarnwick {
 
 class AlertDispatch;
+class KeptPages;
 class PageFetch;
 class ResultRecording;
 class SiteOptions;
@@ -46,6 +47,7 @@ class RunController {
     const Clock& clock;
     EventPump& pump;
     SiteOptions& options;
+    KeptPages& keptPages;
   };
 
   /// Wraps a timer's handler, for instance to show its failure in a box: called with the handler's name and itself.
@@ -113,6 +115,7 @@ class RunController {
   /// Counts one second down; true when a pass is to begin.
   bool countDown();
   void timerPass();
+  void proveThatAPassIsOfUse();
   bool standsStill();
   bool wallClockWasSet();
   void updateClock();

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "engine/cause.h"
+#include "engine/result_recording.h"
 #include "store/first_field.h"
 #include "store/sql_quote.h"
 
@@ -82,6 +83,10 @@ std::string SiteReasons::reasonOf(std::int16_t idSite) {
   }
   rows->close();
   result.page = page;
+  if (page == kPageNotKept) {
+    result.errDescription =
+        "the page differs from the baseline, and was not kept: there is too little room on the disk";
+  }
   return causeOf(result, baseline);
 }
 

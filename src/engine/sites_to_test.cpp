@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/sites_to_test.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -53,6 +54,22 @@ TextTable SitesToTest::choose(std::int16_t mode, bool neverCheckedToo) {
     }
   }
   return sites;
+}
+
+TextTable SitesToTest::withoutUnrecorded(const TextTable& sites, std::chrono::milliseconds now) const {
+  if (unrecorded_.empty()) {
+    return sites;
+  }
+  TextTable others(site_column::last);
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    const auto checked = unrecorded_.find(sites.at(site_column::idSite, row));
+    const std::chrono::minutes interval(
+        std::clamp<std::int64_t>(SqlValue(sites.at(site_column::tInterval, row)).toInt64(), 1, 1 << 20));
+    if (checked == unrecorded_.end() || now - checked->second >= interval) {
+      copyRow(sites, row, others);
+    }
+  }
+  return others;
 }
 
 SomeSites SitesToTest::leftOut(bool passIsOn) {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <set>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "engine/due_sites.h"
@@ -25,7 +27,18 @@ class SitesToTest {
   /// The page of a site was dropped, or a pass left it out: it is due at once, whatever the time of its last check.
   void owe(std::int16_t idSite) { owed_.insert(idSite); }
   /// It has been checked.
-  void settle(std::int16_t idSite) { owed_.erase(idSite); }
+  void settle(std::int16_t idSite) {
+    owed_.erase(idSite);
+    unrecorded_.erase(std::to_string(idSite));
+  }
+  /// It has been checked at `now`, but that could not be recorded: the database calls it due, and yet it is not before
+  /// its interval has passed, or something can be recorded again.
+  void checkedUnrecorded(std::int16_t idSite, std::chrono::milliseconds now) {
+    unrecorded_[std::to_string(idSite)] = now;
+  }
+  void canBeRecorded() { unrecorded_.clear(); }
+  /// `sites` without those of them.
+  TextTable withoutUnrecorded(const TextTable& sites, std::chrono::milliseconds now) const;
   void settleAll() { owed_.clear(); }
   /// Whether a check is owed that can be made now.
   bool owesAny() const { return owed_.size() > (typed_ && owed_.contains(*typed_) ? 1U : 0U); }
@@ -46,6 +59,7 @@ class SitesToTest {
 
   DueSites& dueSites_;
   std::set<std::int16_t> owed_;
+  std::unordered_map<std::string, std::chrono::milliseconds> unrecorded_;
   // The ids of those that the latest pass has taken although they were never checked.
   std::unordered_set<std::string> taken_;
   std::optional<std::int16_t> typed_;

@@ -16,6 +16,7 @@
 #include "engine/result_recording.h"
 #include "engine/sites_to_test.h"
 #include "engine/uncounted_failures.h"
+#include "store/kept_pages.h"
 #include "store/site_table.h"
 
 namespace tarnwick {
@@ -129,7 +130,7 @@ void TestPass::recordRowsWithoutAddress() {
         return;
       }
       needs_.view.showStatus("Testing: ");
-      record(next_, std::string("11:") + kNoAddress, static_cast<std::int32_t>(TransferFault::badUrl), kNoAddress);
+      record(next_, {std::string("11:") + kNoAddress, static_cast<std::int32_t>(TransferFault::badUrl), kNoAddress});
     }
     nextRow();
     needs_.pump.pump();
@@ -188,17 +189,27 @@ void TestPass::finishSlot(std::int16_t slot) {
     // The request was not even made, so nothing is known of the site. It is due as before.
     deferFault(deferred_, std::make_exception_ptr(std::runtime_error(pool.siteErrDescription(row))));
   } else {
-    record(row, pool.siteContent(row), pool.siteErrCode(row), pool.siteErrDescription(row));
+    record(row, {pool.siteContent(row), pool.siteErrCode(row), pool.siteErrDescription(row)});
   }
   pool.releaseSiteContent(row);
   sent_.erase(row);
   pool.setSocketDone(slot, false);
 }
 
-void TestPass::record(std::size_t row, const std::string& content, std::int32_t errCode,
-                      const std::string& errDescription) {
+void TestPass::record(std::size_t row, const Fetched& fetched) {
   try {
-    recordResult(row, content, errCode, errDescription);
+    if (const std::optional<bool> passed = store(row, fetched)) {
+      const std::int16_t id = idSite(row);
+      debts_.checks.settle(id);
+      if (!*passed) {
+        // The alerts of a failure wait for the network, so they cannot be part of the transaction. The site is down
+        // from here on, whatever becomes of them; and nothing is written before them that could fail and leave them
+        // out.
+        alertAndCount(row);
+      }
+      std::erase(brightened_, id);
+      needs_.view.showResult({id, url(row), *passed, fetched.errCode, fetched.errDescription, fetched.content});
+    }
   } catch (const DataAccessError&) {
     deferUnlessGeneral();
   } catch (const std::bad_alloc&) {
@@ -206,12 +217,43 @@ void TestPass::record(std::size_t row, const std::string& content, std::int32_t 
   }
 }
 
-// A page too large for what is left of the disk or of the memory must not keep the other sites from being watched, as
-// long as theirs can be recorded. REQUIRES: called from a handler of an exception.
+// Whether the site has passed, once that is recorded; nothing for a page that was dropped. A full disk has no room for
+// a page, but often for the result; and where it has none for that, a site that is down is told all the same.
+std::optional<bool> TestPass::store(std::size_t row, const Fetched& fetched) {
+  const auto wantsRoom = [this](const DataAccessError& error) {
+    needs_.keptPages.forgetLogSize();
+    return error.forWantOfRoom();
+  };
+  const bool limited = options_.valueOf(kAllSites, option_name::logLimit).has_value();
+  const KeptPage kept = !limited || needs_.keptPages.hasRoomForPages() ? KeptPage::whole : KeptPage::none;
+  try {
+    return storeResult(row, fetched, kept);
+  } catch (const DataAccessError& error) {
+    if (!wantsRoom(error)) {
+      throw;
+    }
+  }
+  try {
+    return storeResult(row, fetched, KeptPage::none);
+  } catch (const DataAccessError& error) {
+    if (wantsRoom(error)) {
+      alertUnrecorded(row, fetched);
+    }
+    throw;
+  }
+}
+
+// A page too large for what is left of the memory must not keep the other sites from being watched, as long as theirs
+// can be recorded; and a full disk none at all, since an alert needs no room. REQUIRES: called from a handler of an
+// exception.
 void TestPass::deferUnlessGeneral() {
   const std::exception_ptr fault = std::current_exception();
   try {
     needs_.results.proveRecording();
+  } catch (const DataAccessError& error) {
+    if (!error.forWantOfRoom()) {
+      std::rethrow_exception(fault);
+    }
   } catch (const std::exception&) {
     std::rethrow_exception(fault);
   }
@@ -220,29 +262,43 @@ void TestPass::deferUnlessGeneral() {
 
 void TestPass::deferFault(std::exception_ptr& first, const std::exception_ptr& fault) { first = first ? first : fault; }
 
-void TestPass::recordResult(std::size_t row, const std::string& content, std::int32_t errCode,
-                            const std::string& errDescription) {
+std::optional<bool> TestPass::storeResult(std::size_t row, const Fetched& fetched, KeptPage kept) {
   const std::int16_t id = idSite(row);
   Transaction whole = needs_.results.beginTransaction();
   if (const Standing standing = standingOf(row); standing != Standing::asSelected) {
     dropPage(row, standing);
-    return;
+    return std::nullopt;
   }
-  const bool passed = needs_.results.testSite(id, content, errCode, errDescription, firstBaselineOf(id));
+  const auto& [content, errCode, errDescription] = fetched;
+  const bool passed = needs_.results.testSite(id, content, errCode, errDescription, firstBaselineOf(id), kept);
   needs_.results.setStatus(id, passed);
+  if (const auto limit = options_.valueOf(kAllSites, option_name::logLimit); limit && !passed) {
+    needs_.keptPages.keepLogWithin(std::stoull(*limit) << 20U);
+  }
   if (passed) {
     countSuccess(id);
-    whole.commit();
-    debts_.checks.settle(id);
-  } else {
-    // The alerts of a failure wait for the network, so they cannot be part of the transaction. The site is down from
-    // here on, whatever becomes of them; and nothing is written before them that could fail and leave them out.
-    whole.commit();
-    debts_.checks.settle(id);
-    alertAndCount(row);
   }
-  std::erase(brightened_, id);
-  needs_.view.showResult({id, url(row), passed, errCode, errDescription, content});
+  whole.commit();
+  return passed;
+}
+
+// The site stays due, and is recorded once there is room; until then it is told again at its own interval.
+void TestPass::alertUnrecorded(std::size_t row, const Fetched& fetched) {
+  const std::int16_t id = idSite(row);
+  if (standingOf(row) != Standing::asSelected) {
+    return;
+  }
+  debts_.checks.checkedUnrecorded(id, needs_.clock.steadyNow());
+  if (!needs_.results.wouldPass(id, fetched.content, fetched.errCode, firstBaselineOf(id))) {
+    needs_.alerts.sendAlerts(id);
+    tellLostMail(row);
+  }
+}
+
+void TestPass::tellLostMail(std::size_t row) {
+  if (const MailOutcome& mail = needs_.alerts.mailOutcome(); mail.lost) {
+    needs_.view.showLostMail({idSite(row), url(row), mail.server, mail.why, mail.leftOut});
+  }
 }
 
 // The alerts take events in: meanwhile the site may be edited, switched off or deleted, the database be locked or taken
@@ -251,9 +307,7 @@ void TestPass::alertAndCount(std::size_t row) {
   const std::int16_t id = idSite(row);
   UncountedFailures::Pending failure(debts_.failures, id);
   needs_.alerts.sendAlerts(id);
-  if (const MailOutcome& mail = needs_.alerts.mailOutcome(); mail.lost) {
-    needs_.view.showLostMail({id, url(row), mail.server, mail.why, mail.leftOut});
-  }
+  tellLostMail(row);
   if (!hasAddressAsSelected(row) && !needs_.dueSites.wasChecked(id)) {
     failure.counted();
     return;

@@ -60,9 +60,18 @@ class TestPass {
   void awaitAllSlots();
   void drain();
   void finishSlot(std::int16_t slot);
-  void record(std::size_t row, const std::string& content, std::int32_t errCode, const std::string& errDescription);
-  void recordResult(std::size_t row, const std::string& content, std::int32_t errCode,
-                    const std::string& errDescription);
+  /// What a row's request came to.
+  struct Fetched {
+    const std::string& content;
+    std::int32_t errCode;
+    const std::string& errDescription;
+  };
+
+  void record(std::size_t row, const Fetched& fetched);
+  std::optional<bool> store(std::size_t row, const Fetched& fetched);
+  std::optional<bool> storeResult(std::size_t row, const Fetched& fetched, KeptPage kept);
+  void alertUnrecorded(std::size_t row, const Fetched& fetched);
+  void tellLostMail(std::size_t row);
   void deferUnlessGeneral();
   FirstBaseline firstBaselineOf(std::int16_t id) const;
   void countSuccess(std::int16_t id);

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,12 @@ class OpenedFile {
   virtual ~OpenedFile() = default;
   /// Replaces `bytes` by the next `size` bytes, fewer at the end of the file alone.
   virtual void read(std::string& bytes, std::size_t size) = 0;
+};
+
+/// What a disk has of room, in bytes.
+struct DiskRoom {
+  std::uint64_t free = 0;  ///< what this user may still take of it
+  std::uint64_t whole = 0;
 };
 
 /// The files of a machine. Paths are UTF-8 on every system; with a folder they may be as long as the system allows.
@@ -67,6 +74,9 @@ class FileSystem {
   virtual void remove(const std::string& path) = 0;
   /// Whether a file that is open can be removed, and be replaced by `rename`.
   virtual bool replacesOpenFiles() = 0;
+
+  /// The room of the disk that the file or folder lies on; nothing where that is not known.
+  virtual std::optional<DiskRoom> roomAt(const std::string& path) = 0;
 
   /// False when the folder is there already.
   virtual bool makeFolder(const std::string& path) = 0;

@@ -19,6 +19,7 @@ class LocalFiles : public FileSystem {
   void rename(const std::string& from, const std::string& to) override;
   void remove(const std::string& path) override;
   bool replacesOpenFiles() override;
+  std::optional<DiskRoom> roomAt(const std::string& path) override;
   bool makeFolder(const std::string& path) override;
   bool holdsVisibleFile(const std::string& folder) override;
 };

@@ -10,6 +10,7 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       SettingsAndLog(ownedDatabase_, fields),
       SiteOptions(ownedDatabase_, fields.options),
       ResultLog(ownedDatabase_),
+      KeptPages(ownedDatabase_, services.files),
       TextFiles(services.files, services.opener),
       DueSites(ownedDatabase_),
       PageFetch(ownedDatabase_, *this, ownedControl_, services.pump),

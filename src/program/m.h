@@ -14,6 +14,7 @@
 #include "report/daily_report.h"
 #include "store/compaction.h"
 #include "store/database.h"
+#include "store/kept_pages.h"
 #include "store/post_vars.h"
 #include "store/result_log.h"
 #include "store/settings_and_log.h"
@@ -51,6 +52,7 @@ class m : private MembersOfM,
           public SettingsAndLog,
           public SiteOptions,
           public ResultLog,
+          public KeptPages,
           public TextFiles,
           public DueSites,
           public PageFetch,

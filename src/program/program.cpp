@@ -20,7 +20,8 @@ struct Program::Parts {
              .view = view,
              .clock = services.clock,
              .pump = services.pump,
-             .options = data},
+             .options = data,
+             .keptPages = data},
             services.timers,
             [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }),
         report(

@@ -88,6 +88,17 @@ const std::vector<OptionField>& programOptions() {
        .original = "a mail server that stays silent is waited for without end",
        .label = "Mail exchange at most",
        .meaning = "The longest time that handing over one mail may take, connecting included"},
+      {.name = std::string(option_name::logLimit),
+       .kind = OptionKind::number,
+       .least = 1,
+       .most = 1048576,
+       .unit = "MiB",
+       .recommended = "1024",
+       .original = "the log keeps the page of every failed check, and the disk may fill",
+       .label = "Pages in the log at most",
+       .meaning =
+           "How much the log holds of pages; the oldest are emptied first, and no page is stored while less than "
+           "1 GiB or 5 % of the disk is free"},
   };
   return options;
 }

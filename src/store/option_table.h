@@ -44,6 +44,7 @@ namespace option_name {
 inline constexpr std::string_view newSites = "newSites";
 inline constexpr std::string_view adopt = "adopt";
 inline constexpr std::string_view mailLimit = "mailLimit";
+inline constexpr std::string_view logLimit = "logLimit";
 }  // namespace option_name
 
 /// Values that it asks for.

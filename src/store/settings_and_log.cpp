@@ -2,6 +2,8 @@
 #include "store/settings_and_log.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <span>
 #include <string_view>
 
 #include "base/text.h"
@@ -76,7 +78,45 @@ void SettingsAndLog::addLog(std::int16_t idSite, const std::string& url, bool st
                       ",", "'", sqlQuote(errDescription), "',", "'", sqlQuote(content), "'", ")"));
 }
 
-void SettingsAndLog::clearLog() { db_.execute("delete from log"); }
+void SettingsAndLog::clearLog() {
+  try {
+    db_.execute("delete from log");
+    return;
+  } catch (const DataAccessError& error) {
+    if (!error.forWantOfRoom() || db_.conn().inTransaction()) {
+      throw;
+    }
+  }
+  clearLogByPieces();
+}
+
+// Whoever clears the log on a full disk wants room. Few rows at a time change few pages of the file, and each change
+// takes the place of the one before in the log beside the database.
+void SettingsAndLog::clearLogByPieces() {
+  const auto run = [this](std::string_view sql, std::span<const SqlValue> parameters = {}) {
+    return db_.conn().execute(sql, parameters);
+  };
+  std::int64_t rows = 256;
+  while (!run("select 1 from log limit 1")->eof()) {
+    const SqlValue most(rows);
+    try {
+      run("delete from log where rowid in (select rowid from log limit ?1)", {&most, 1})->close();
+    } catch (const DataAccessError& error) {
+      if (!error.forWantOfRoom() || rows == 1) {
+        throw;
+      }
+      rows /= 4;
+    }
+    run("pragma wal_checkpoint(passive)")->close();
+  }
+  try {
+    // Gives the room back, if there is enough of it for that.
+    run("vacuum")->close();
+    run("pragma wal_checkpoint(truncate)")->close();
+  } catch (const DataAccessError&) {
+    // It is used again for what is recorded next, and given back by a compaction.
+  }
+}
 
 void SettingsAndLog::Test() {
   db_.execute("delete from test");

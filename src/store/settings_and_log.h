@@ -64,7 +64,7 @@ class SettingsAndLog {
   void addLog(std::int16_t idSite, const std::string& url, bool status, std::int32_t errCode,
               const std::string& errDescription, const std::string& content);
 
-  /// Empties the log.
+  /// Empties the log: all of it or nothing, but on a disk that is too full for that piece by piece.
   void clearLog();
 
   /// Vocabulary: no front end calls it.
@@ -72,6 +72,7 @@ class SettingsAndLog {
   void Test();
 
  private:
+  void clearLogByPieces();
   void writeControl(const std::string& key, const std::string& quotedValue);
 
   Database& db_;

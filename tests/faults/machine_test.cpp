@@ -33,7 +33,7 @@ TEST(RealFaults, FilesThatMayNotGrowAreToldOnceAndTheRunGoesOn) {
       [&](RunningProgram& running) {
         limit.reset();
         EXPECT_EQ(running.boxes(), 1u);
-        EXPECT_THAT(running.boxTexts(), HasSubstr("free space"));
+        EXPECT_THAT(running.boxTexts(), HasSubstr("The disk is full"));
       });
 }
 

@@ -29,12 +29,12 @@ class RunFaults : public ::testing::Test {
 
 TEST_F(RunFaults, SitesAreNotFetchedAgainAndAgainWhileNothingCanBeStored) {
   RunningProgram running(used);
-  disk.failAt(FaultyDisk::Operation::write, FaultyDisk::Failure::full, 1, FaultyDisk::kForEver);
+  disk.failAt(FaultyDisk::Operation::write, FaultyDisk::Failure::broken, 1, FaultyDisk::kForEver);
   running.program.startRun();
   running.letPass(minutes(10));
   EXPECT_LE(requests(), kSites);
   EXPECT_THAT(running.machine.prompts.texts(), SizeIs(1));
-  EXPECT_THAT(running.boxTexts(), HasSubstr("The disk is full"));
+  EXPECT_THAT(running.boxTexts(), HasSubstr("Reading or writing the database"));
   disk.heal();
   running.letPass(seconds(2));
   used.expectAllRecordedOnce(running.boxTexts());
@@ -48,7 +48,7 @@ TEST_F(RunFaults, APassOfWhichNothingCanBeStoredEndsBeforeAllSitesAreFetched) {
                         "','GET',1,10)");
   }
   RunningProgram running(used);
-  disk.failAt(FaultyDisk::Operation::write, FaultyDisk::Failure::full, 1, FaultyDisk::kForEver);
+  disk.failAt(FaultyDisk::Operation::write, FaultyDisk::Failure::broken, 1, FaultyDisk::kForEver);
   EXPECT_FALSE(running.program.startRun());
   EXPECT_LT(requests(), kSites + kMore / 2);
 }

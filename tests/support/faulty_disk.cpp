@@ -3,8 +3,12 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <filesystem>
 #include <optional>
+#include <system_error>
 
 namespace tarnwick::testing {
 namespace {
@@ -21,7 +25,18 @@ struct Plan {
   int count = 0;
   int seen = 0;
   int failed = 0;
+  std::optional<std::int64_t> room{};
 
+  bool takes(std::int64_t bytes) {
+    if (room && bytes > *room) {
+      ++failed;
+      return false;
+    }
+    if (room) {
+      *room -= bytes;
+    }
+    return true;
+  }
   bool strikes(Operation now) {
     if (!armed || (operation && *operation != now)) {
       return false;
@@ -50,6 +65,12 @@ int closeFile(sqlite3_file* file) {
   return real->pMethods == nullptr ? SQLITE_OK : real->pMethods->xClose(real);
 }
 
+sqlite3_int64 lengthOf(sqlite3_file* file) {
+  sqlite3_int64 length = 0;
+  realOf(file)->pMethods->xFileSize(realOf(file), &length);
+  return length;
+}
+
 int readFile(sqlite3_file* file, void* bytes, int length, sqlite3_int64 offset) {
   sqlite3_file* const real = realOf(file);
   if (!plan.strikes(Operation::read)) {
@@ -66,12 +87,18 @@ int writeFile(sqlite3_file* file, const void* bytes, int length, sqlite3_int64 o
   if (plan.strikes(Operation::write)) {
     return plan.failure == Failure::full ? SQLITE_FULL : SQLITE_IOERR_WRITE;
   }
-  return realOf(file)->pMethods->xWrite(realOf(file), bytes, length, offset);
+  const sqlite3_int64 growth = std::max<sqlite3_int64>(offset + length - lengthOf(file), 0);
+  return plan.takes(growth) ? realOf(file)->pMethods->xWrite(realOf(file), bytes, length, offset) : SQLITE_FULL;
 }
 
 int truncateFile(sqlite3_file* file, sqlite3_int64 size) {
-  return plan.strikes(Operation::truncate) ? SQLITE_IOERR_TRUNCATE
-                                           : realOf(file)->pMethods->xTruncate(realOf(file), size);
+  if (plan.strikes(Operation::truncate)) {
+    return SQLITE_IOERR_TRUNCATE;
+  }
+  const sqlite3_int64 before = lengthOf(file);
+  const int result = realOf(file)->pMethods->xTruncate(realOf(file), size);
+  plan.takes(lengthOf(file) - before);
+  return result;
 }
 
 // Waits for no real disk: it would take most of a test's time, and no test cuts the power.
@@ -152,7 +179,12 @@ int openFile(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int*
   return result;
 }
 
-int removeFile(sqlite3_vfs*, const char* name, int syncFolder) { return realDisk->xDelete(realDisk, name, syncFolder); }
+int removeFile(sqlite3_vfs*, const char* name, int syncFolder) {
+  std::error_code missing;
+  const auto length = std::filesystem::file_size(name, missing);
+  plan.takes(missing ? 0 : -static_cast<std::int64_t>(length));
+  return realDisk->xDelete(realDisk, name, syncFolder);
+}
 
 int canAccess(sqlite3_vfs*, const char* name, int flags, int* result) {
   return realDisk->xAccess(realDisk, name, flags, result);
@@ -186,14 +218,22 @@ FaultyDisk::~FaultyDisk() {
 }
 
 void FaultyDisk::failAt(Operation operation, Failure failure, int first, int count) {
-  plan = {true, operation, failure, first, count, 0, 0};
+  plan = {true, operation, failure, first, count};
 }
 
 void FaultyDisk::failAtAny(Failure failure, int first, int count) {
-  plan = {true, std::nullopt, failure, first, count, 0, 0};
+  plan = {true, std::nullopt, failure, first, count};
 }
 
-void FaultyDisk::heal() { plan.armed = false; }
+void FaultyDisk::leaveRoom(std::int64_t bytes) {
+  plan = {};
+  plan.room = bytes;
+}
+
+void FaultyDisk::heal() {
+  plan.armed = false;
+  plan.room.reset();
+}
 
 int FaultyDisk::failures() const { return plan.failed; }
 

@@ -30,6 +30,9 @@ class FaultyDisk {
   void failAt(Operation operation, Failure failure, int first, int count = 1);
   /// The same for operations of every kind.
   void failAtAny(Failure failure, int first, int count = 1);
+  /// Leaves so many bytes free on the disk: what needs more fails for want of room. What is cut off or removed gives
+  /// room back.
+  void leaveRoom(std::int64_t bytes);
   /// Nothing fails any more.
   void heal();
   /// How many operations have failed since the last `failAt`.

@@ -50,6 +50,12 @@ std::string LocalFiles::resolveLinks(const std::string& path) {
   return fault ? path : textOf(place);
 }
 
+std::optional<DiskRoom> LocalFiles::roomAt(const std::string& path) {
+  std::error_code fault;
+  const std::filesystem::space_info room = std::filesystem::space(pathOf(path), fault);
+  return fault ? std::nullopt : std::optional(DiskRoom{room.available, room.capacity});
+}
+
 std::unique_ptr<OpenedFile> LocalFiles::open(const std::string& path) {
   return std::make_unique<OpenedLocalFile>(path);
 }

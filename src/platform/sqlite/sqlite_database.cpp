@@ -109,7 +109,7 @@ void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
   // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
   // Without locks between threads: there is only one.
   handle_ = openDatabase(path_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX);
-  if (registerDateFunctions(handle()) != SQLITE_OK) {
+  if (registerFunctions(handle()) != SQLITE_OK) {
     throw lastError();
   }
   lockInPlace(handle(), path_, before);

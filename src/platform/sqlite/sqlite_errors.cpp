@@ -102,7 +102,8 @@ DataAccessError sqliteError(int code, const std::string& message, const std::str
   if (primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB) {
     return damagedDatabase(path, message);
   }
-  return {cause(code, message, path), ""};
+  const bool noRoom = primary == SQLITE_FULL || code == SQLITE_IOERR_SHMSIZE;
+  return {cause(code, message, path), "", noRoom ? DataAccessError::Kind::noRoom : DataAccessError::Kind::other};
 }
 
 DataAccessError inStatement(const DataAccessError& error, std::string_view sql) {
@@ -114,7 +115,7 @@ DataAccessError inStatement(const DataAccessError& error, std::string_view sql) 
       cause.append("; ").append(isFitToShow(*value) ? *value : "'...'").append(" was not stored.");
     }
   }
-  return {cause, shownStatement(sql)};
+  return {cause, shownStatement(sql), error.kind()};
 }
 
 }  // namespace tarnwick

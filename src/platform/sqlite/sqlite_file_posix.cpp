@@ -48,9 +48,12 @@ int causeBehind(int code, sqlite3* database) {
       (couldNotBeRead(database, SQLITE_FCNTL_FILE_POINTER) || couldNotBeRead(database, SQLITE_FCNTL_JOURNAL_POINTER))) {
     return SQLITE_IOERR_READ;
   }
-  // Any failure to make the memory that is shared through a file.
   const int error = sqlite3_system_errno(database);
   const bool noRoom = error == ENOSPC || error == EDQUOT || error == EFBIG;
+  if (code == SQLITE_IOERR_WRITE && noRoom) {
+    return SQLITE_FULL;
+  }
+  // Any failure to make the memory that is shared through a file.
   return code == SQLITE_IOERR_SHMSIZE && !noRoom ? SQLITE_IOERR : code;
 }
 

@@ -71,7 +71,7 @@ void SqliteRecordset::advance() {
   try {
     onRow_ = database_->step(loan_.get());
   } catch (const DataAccessError& error) {
-    throw DataAccessError(error.cause(), sql_);
+    throw DataAccessError(error.cause(), sql_, error.kind());
   }
   if (!onRow_) {
     // Lets go of the read lock, though the recordset may stay open.

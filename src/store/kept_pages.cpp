@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "store/kept_pages.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace tarnwick {
+namespace {
+
+constexpr std::uint64_t kMib = std::uint64_t{1} << 20U;
+constexpr std::uint64_t kFreeRoom = 1024 * kMib;
+constexpr std::uint64_t kFreeShare = 20;  // one part of so many: 5 %
+/// More than the largest page, or a log of the largest pages would grow for ever.
+constexpr std::uint64_t kMostEmptiedAtOnce = 96 * kMib;
+
+/// Only a check that failed has logged a page.
+constexpr const char* kContents =
+    "select rowid, storedBytes('log', 'content', rowid) from log where rowid > ?1 and status = 0 order by rowid";
+
+}  // namespace
+
+bool KeptPages::hasRoomForPages() {
+  const auto room = files_.roomAt(db_.dbPath());
+  return !room || (room->free >= kFreeRoom && room->free >= room->whole / kFreeShare);
+}
+
+void KeptPages::keepLogWithin(std::uint64_t most) {
+  count();
+  if (bytes_ > most && changes_.byOthers()) {
+    // Another program may have emptied some of them, or all.
+    known_ = false;
+    count();
+  }
+  if (bytes_ > most) {
+    emptyOldest(std::min(bytes_ - most, kMostEmptiedAtOnce));
+  }
+}
+
+void KeptPages::count() {
+  const auto newest = db_.conn().execute("select coalesce(max(rowid), 0) from log", {});
+  const std::int64_t last = newest->field(std::size_t{0}).toInt64();
+  newest->close();
+  if (!known_ || last < last_) {
+    changes_.byOthers();
+    known_ = true;
+    emptied_ = last_ = 0;
+    bytes_ = 0;
+  }
+  const SqlValue from(last_);
+  const auto rows = db_.conn().execute(kContents, {&from, 1});
+  for (; !rows->eof(); rows->moveNext()) {
+    bytes_ += static_cast<std::uint64_t>(rows->field(std::size_t{1}).toInt64());
+  }
+  last_ = last;
+}
+
+void KeptPages::emptyOldest(std::uint64_t wanted) {
+  std::vector<std::int64_t> oldest;
+  std::uint64_t freed = 0;
+  const SqlValue from(emptied_);
+  const auto rows = db_.conn().execute(kContents, {&from, 1});
+  for (; !rows->eof() && freed < wanted; rows->moveNext()) {
+    const auto bytes = static_cast<std::uint64_t>(rows->field(std::size_t{1}).toInt64());
+    emptied_ = rows->field(std::size_t{0}).toInt64();
+    if (bytes > 0) {
+      freed += bytes;
+      oldest.push_back(emptied_);
+    }
+  }
+  rows->close();
+  for (const std::int64_t row : oldest) {
+    const SqlValue id(row);
+    db_.conn().execute("update log set content = '' where rowid = ?1", {&id, 1})->close();
+  }
+  bytes_ -= std::min(freed, bytes_);
+}
+
+}  // namespace tarnwick
