@@ -27,7 +27,7 @@ int run(int argc, char** argv) {
 
 // Where not even the tool could be made, and so nothing that complains.
 int failed(const char* why) {
-  std::cerr << "tarnwickctl: " << why << '\n';
+  std::cerr << "tarnwickctl: " << tarnwick::visibleText(why) << '\n';
   return tarnwick::exit_status::failed;
 }
 

@@ -3,6 +3,7 @@
 
 #include <iostream>
 
+#include "base/visible_text.h"
 #include "platform/events/qt_event_loop.h"
 #include "platform/events/qt_tcp_socket.h"
 #include "platform/local_files.h"
@@ -19,13 +20,13 @@ namespace {
 class StandardErrorPrompts final : public Prompts {
  public:
   void inform(const Message& message, std::function<void()> closed) override {
-    std::cerr << message.title << ": " << message.text << '\n';
+    std::cerr << message.title << ": " << visibleText(message.text) << '\n';
     if (closed) {
       closed();
     }
   }
   void confirm(const Message& message, std::function<void(bool yes)> answered) override {
-    std::cerr << message.title << ": " << message.text << " No\n";
+    std::cerr << message.title << ": " << visibleText(message.text) << " No\n";
     answered(false);
   }
   void chooseFile(const FileChoice&, std::function<void(const std::string& path)>) override {}

@@ -70,6 +70,14 @@ std::string FileSystem::unusedNameBeside(const std::string& path) {
   return name;
 }
 
+void FileSystem::replace(const std::string& path, const FileFill& fill) {
+  if (kindOf(path) == FileKind::file) {
+    putInPlace(path, path, fill);
+  } else {
+    overwrite(path, FileRest::removed, fill);
+  }
+}
+
 void FileSystem::writePrivately(const std::string& path, const FileFill& fill) {
   switch (kindOf(path)) {
     case FileKind::folder:
@@ -79,13 +87,16 @@ void FileSystem::writePrivately(const std::string& path, const FileFill& fill) {
       overwrite(path, FileRest::removed, fill);
       return;
     default:
-      break;
+      putInPlace(path, {}, fill);
   }
+}
+
+void FileSystem::putInPlace(const std::string& path, const std::string& like, const FileFill& fill) {
   // Beside the file, since a file can be renamed within its folder only.
   const std::string place = resolveLinks(path);
   const std::string unfinished = unusedNameBeside(place);
   try {
-    write(unfinished, {}, fill);
+    write(unfinished, like, fill);
     rename(unfinished, place);
   } catch (const FileError& error) {
     remove(unfinished);

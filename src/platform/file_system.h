@@ -89,10 +89,18 @@ class FileSystem {
   static void readAll(OpenedFile& file, const ByteSink& sink);
   /// An unused name in the folder of `path`, short enough for any file system.
   std::string unusedNameBeside(const std::string& path);
+  /// Replaces the file `path` as a whole, and only when the new one is complete: a failure leaves the old one. It keeps
+  /// its permissions, and behind a link it is the file that the link leads to. Where no file stands this is
+  /// `overwrite`.
+  void replace(const std::string& path, const FileFill& fill);
   /// Makes the file `path`, or replaces it, by one that nobody but its owner can read at any moment. It is replaced as
   /// a whole, and only when it is complete. Behind a link it is the file that the link leads to; what is no file, as a
   /// pipe, is written to as it is.
   void writePrivately(const std::string& path, const FileFill& fill);
+
+ private:
+  /// Makes a file by `write`, which then takes the place of `path` or of the file that this leads to.
+  void putInPlace(const std::string& path, const std::string& like, const FileFill& fill);
 };
 
 }  // namespace tarnwick

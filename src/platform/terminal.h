@@ -16,6 +16,8 @@ struct TerminalFacts {
   bool colour = false;
   /// Whether somebody can be asked: standard input and standard error are terminals.
   bool canAsk = false;
+  /// The terminal says that it obeys nothing, so that no line is written over and none is coloured.
+  bool isDumb = false;
 };
 
 TerminalFacts standardOutputFacts();

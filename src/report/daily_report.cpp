@@ -84,7 +84,7 @@ std::string DailyReport::createReport() {
   const std::string folder = db_.programFolder() + "/reports/";
   requireReportsFolder(files_, folder);
   std::string path = folder + "report.html";
-  files_.overwrite(path, FileRest::removed, [&](const ByteSink& sink) { sink(text + "\r\n"); });
+  files_.replace(path, [&](const ByteSink& sink) { sink(text + "\r\n"); });
   return path;
 }
 

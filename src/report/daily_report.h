@@ -23,7 +23,7 @@ class DailyReport {
   ///
   /// Raises DataAccessError when the log cannot be read; OverflowError when one address has 32763 rows or more of one
   /// outcome today; FileError when the page cannot be written, and when the reports folder is there without any
-  /// visible file in it. An earlier page is left as it was in the first two cases.
+  /// visible file in it. An earlier page is left as it was then.
   std::string createReport();
 
  private:

@@ -8,7 +8,7 @@ void TextFiles::saveFileB(const std::string& path, const std::string& data) {
 }
 
 void TextFiles::saveFile(const std::string& path, const std::string& text) {
-  files_.overwrite(path, FileRest::removed, [&](const ByteSink& sink) {
+  files_.replace(path, [&](const ByteSink& sink) {
     sink(text);
     sink("\r\n");
   });

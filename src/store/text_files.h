@@ -19,7 +19,7 @@ class TextFiles {
   /// the data stays.
   void saveFileB(const std::string& path, const std::string& data);
 
-  /// Replaces the file by `text` and one CR LF.
+  /// Replaces the file by `text` and one CR LF, as a whole: a failure leaves it as it was.
   void saveFile(const std::string& path, const std::string& text);
 
   /// The whole file.

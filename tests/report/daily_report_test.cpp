@@ -9,6 +9,7 @@
 #include "base/errors.h"
 #include "report/report_fixture.h"
 #include "store/settings_and_log.h"
+#include "support/system.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -26,6 +27,27 @@ class DailyReportTest : public ReportFixture {
     const std::string text = page();
     const std::size_t begin = text.find("width=", text.find("<img "));
     return text.substr(begin, text.find(' ', begin) - begin);
+  }
+};
+
+/// Has room for the first bytes of a file.
+class FullDisk final : public LocalFiles {
+ public:
+  void write(const std::string& path, const std::string& like, const FileFill& fill) override {
+    LocalFiles::write(path, like, upToTheRoom(path, fill));
+  }
+  void overwrite(const std::string& path, FileRest rest, const FileFill& fill) override {
+    LocalFiles::overwrite(path, rest, upToTheRoom(path, fill));
+  }
+
+ private:
+  static FileFill upToTheRoom(const std::string& path, const FileFill& fill) {
+    return [&path, &fill](const ByteSink& sink) {
+      fill([&](std::string_view bytes) {
+        sink(bytes.substr(0, 5));
+        throw FileError(path, "No room.");
+      });
+    };
   }
 };
 
@@ -153,6 +175,31 @@ TEST_F(DailyReportTest, PageThatCannotBeWrittenIsAnError) {
   fs::create_directories(reportFile() + "/in the way");
   writeFile(folder.file("reports/green.jpg"), "");
   EXPECT_THAT(errorOf<FileError>([&] { report.createReport(); }), HasSubstr("report.html"));
+}
+
+TEST_F(DailyReportTest, PageThatCannotBeCompletedLeavesTheEarlierOne) {
+  FullDisk full;
+  DailyReport withoutRoom(database, full, clock);
+  EXPECT_THROW(withoutRoom.createReport(), FileError) << "the first one";
+  const std::string before = page();
+  log("http://a/", true);
+  EXPECT_THAT(errorOf<FileError>([&] { withoutRoom.createReport(); }), HasSubstr(reportFile() + ": No room."));
+  EXPECT_EQ(bytesOfFile(reportFile()), before);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder.file("reports")), {}), 1);
+}
+
+TEST_F(DailyReportTest, PageKeepsItsRightsAndTheLinkThatLeadsToIt) {
+  SKIP_ON_WINDOWS("There is no file mode there.");
+  page();
+  const fs::path elsewhere = folder.file("page.html");
+  fs::rename(reportFile(), elsewhere);
+  fs::permissions(elsewhere, fs::perms::owner_read | fs::perms::group_read);
+  fs::create_symlink(elsewhere, reportFile());
+  log("http://a/", true);
+  EXPECT_THAT(page(), HasSubstr("http://a/"));
+  EXPECT_TRUE(fs::is_symlink(reportFile()));
+  EXPECT_THAT(bytesOfFile(elsewhere.string()), HasSubstr("http://a/"));
+  EXPECT_EQ(fs::status(elsewhere).permissions(), fs::perms::owner_read | fs::perms::group_read);
 }
 
 TEST_F(DailyReportTest, FailedQueryTravelsAndLeavesTheEarlierPage) {

@@ -37,8 +37,45 @@ std::string visibleLines(std::string_view text) {
 
 }  // namespace
 
+bool Console::Written::note(bool done) {
+  if (!done && cause == 0) {
+    cause = errno != 0 ? errno : EIO;
+  }
+  return done;
+}
+
+Console::Written::int_type Console::Written::overflow(int_type character) {
+  const char byte = traits_type::to_char_type(character);
+  return traits_type::eq_int_type(character, traits_type::eof()) || xsputn(&byte, 1) == 1
+             ? traits_type::not_eof(character)
+             : traits_type::eof();
+}
+
+std::streamsize Console::Written::xsputn(const char* bytes, std::streamsize count) {
+  std::streamsize taken = 0;
+  if (target_.good()) {
+    errno = 0;
+    taken = target_.rdbuf()->sputn(bytes, count);
+  }
+  note(taken == count);
+  return taken;
+}
+
+int Console::Written::sync() {
+  if (!target_.good()) {
+    note(false);
+    return -1;
+  }
+  errno = 0;
+  return note(target_.rdbuf()->pubsync() == 0) ? 0 : -1;
+}
+
+void Console::Written::clear() {
+  target_.clear();
+  cause = 0;
+}
+
 std::ostream& Console::out() {
-  noteFailure();
   endLive();
   return out_;
 }
@@ -47,7 +84,6 @@ void Console::say(std::string_view line) {
   const std::string below = live_;
   out() << line << '\n';
   out_.flush();
-  noteFailure();
   if (!below.empty()) {
     live(below);
   }
@@ -62,7 +98,7 @@ void Console::complain(std::string_view line) {
 
 std::string Console::ask(std::string_view question) {
   endLive();
-  err_ << question << ' ';
+  err_ << visibleLines(question) << ' ';
   err_.flush();
   std::string answer;
   std::getline(std::cin, answer);
@@ -70,7 +106,7 @@ std::string Console::ask(std::string_view question) {
 }
 
 void Console::live(const std::string& text) {
-  if (!facts_.isTerminal || text == live_) {
+  if (!canRewrite() || text == live_) {
     return;
   }
   // The last column stays free: a character there would move some terminals to the next line.
@@ -78,7 +114,6 @@ void Console::live(const std::string& text) {
   live_ = text;
   out_ << "\r\x1b[K" << visibleText(text, width > 1 ? width - 1 : 1);
   out_.flush();
-  noteFailure();
 }
 
 void Console::endLive() {
@@ -96,23 +131,15 @@ std::string Console::coloured(Colour colour, std::string_view text) const {
 
 bool Console::good() const { return out_.good(); }
 
-// Only the attempt itself tells the reason, and not for long.
-void Console::noteFailure() {
-  if (!out_.good() && cause_ == 0) {
-    cause_ = errno != 0 ? errno : EIO;
-  }
-}
-
 std::error_code Console::flush() {
   endLive();
   out_.flush();
-  noteFailure();
   return failure();
 }
 
 void Console::writeOn() {
   out_.clear();
-  cause_ = 0;
+  written_.clear();
 }
 
 std::size_t characterCount(std::string_view text) {

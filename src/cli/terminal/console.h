@@ -3,7 +3,8 @@
 
 #include <cstddef>
 #include <functional>
-#include <iosfwd>
+#include <ostream>
+#include <streambuf>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -23,7 +24,7 @@ class Console {
   Console(
       std::ostream& out, std::ostream& err, TerminalFacts facts,
       std::function<std::size_t()> width = [] { return kUsualTerminalWidth; })
-      : out_(out), err_(err), facts_(facts), width_(std::move(width)) {}
+      : written_(out), out_(&written_), err_(err), facts_(facts), width_(std::move(width)) {}
 
   /// The stream of the data, with the live line out of the way.
   std::ostream& out();
@@ -40,6 +41,10 @@ class Console {
   std::string ask(std::string_view question);
 
   bool isTerminal() const { return facts_.isTerminal; }
+  /// Whether there is a live line.
+  bool canRewrite() const { return facts_.isTerminal && !facts_.isDumb; }
+  /// A line as it may be written to people: on a terminal nothing in it is obeyed, elsewhere every byte stays.
+  std::string shown(std::string_view line) const { return isTerminal() ? visibleText(line) : std::string(line); }
   /// Whether somebody is there to be asked.
   bool canAsk() const { return facts_.canAsk; }
   bool hasColour() const { return facts_.colour; }
@@ -50,23 +55,39 @@ class Console {
   /// Hands on all data that was written, and tells why that cannot be done; no error when it is all out.
   std::error_code flush();
   /// Why something could not be written; no error when all could.
-  std::error_code failure() const { return {cause_, std::generic_category()}; }
+  std::error_code failure() const { return {written_.cause, std::generic_category()}; }
   /// Lets what follows be written again after a failure.
   void writeOn();
   /// Whether there has been something to complain of.
   bool hasComplained() const { return hasComplained_; }
 
  private:
-  void noteFailure();
+  /// Hands on what is written, and keeps the reason of the first failure: only the attempt itself tells it, and not for
+  /// long.
+  class Written final : public std::streambuf {
+   public:
+    explicit Written(std::ostream& target) : target_(target) {}
+    /// The system's number; 0 before a failure.
+    int cause = 0;
+    void clear();
 
-  std::ostream& out_;
+   protected:
+    int_type overflow(int_type character) override;
+    std::streamsize xsputn(const char* bytes, std::streamsize count) override;
+    int sync() override;
+
+   private:
+    bool note(bool done);
+    std::ostream& target_;
+  };
+
+  Written written_;
+  std::ostream out_;
   std::ostream& err_;
   TerminalFacts facts_;
   std::function<std::size_t()> width_;
   std::string live_;
   bool hasComplained_ = false;
-  /// The system's number of the first failure to write; 0 before it.
-  int cause_ = 0;
 };
 
 /// How many characters a UTF-8 text has.

@@ -89,6 +89,36 @@ class ImportWarnings {
   std::size_t count_ = 0;
 };
 
+/// A list on its way to standard output: every byte into a file or a pipe, so that an import finds it as it was, and
+/// lines that act on nothing to a terminal.
+class ListOutput {
+ public:
+  explicit ListOutput(Console& console) : console_(console) {}
+
+  void write(std::string_view bytes) {
+    if (!console_.isTerminal()) {
+      console_.out() << bytes;
+      return;
+    }
+    line_ += bytes;
+    std::size_t begin = 0;
+    for (auto end = line_.find('\n'); end != std::string::npos; end = line_.find('\n', begin)) {
+      std::string_view line = std::string_view(line_).substr(begin, end - begin);
+      if (line.ends_with('\r')) {
+        line.remove_suffix(1);
+      }
+      console_.out() << visibleText(line) << '\n';
+      begin = end + 1;
+    }
+    line_.erase(0, begin);
+  }
+  void end() { console_.out() << visibleText(line_); }
+
+ private:
+  Console& console_;
+  std::string line_;
+};
+
 std::size_t writeList(Tool& tool, Format format, ListColumns columns, const ByteSink& sink) {
   m& data = tool.data();
   // Whether options are columns is of the same state as the options, whoever sets one meanwhile.
@@ -114,11 +144,9 @@ int exportList(Tool& tool, const ExportOptions& options) {
   const ListColumns columns{.passwords = !options.noPasswords, .baselines = options.baselines};
   Console& console = tool.console();
   if (options.file == kStream) {
-    std::ostream& out = console.out();
-    writeList(tool, format, columns, [&out](std::string_view bytes) { out << bytes; });
-    if (console.flush()) {
-      throw std::runtime_error("Standard output took not all of the list.");
-    }
+    ListOutput out(console);
+    writeList(tool, format, columns, [&out](std::string_view bytes) { out.write(bytes); });
+    out.end();
     return exit_status::ok;
   }
   // Also a folder without a list is told before anything is made.

@@ -130,7 +130,7 @@ void show(Console& console, m& data, std::int16_t idSite, const std::vector<Wish
     }
     const auto value = inForce.valueOf(idSite, option->name);
     const std::string text = value.value_or("");
-    console.say((wishes.size() > 1 ? option->name + "=" : "") + (console.isTerminal() ? visibleText(text) : text));
+    console.say((wishes.size() > 1 ? option->name + "=" : "") + console.shown(text));
     if (!value) {
       console.complain("The option " + option->name + " is not set: " + option->original + ".");
     }

@@ -141,8 +141,7 @@ void printDiffLine(Console& console, const DiffLine& line) {
   const Console::Colour colour = line.mark == '-' ? red : line.mark == '+' ? green : line.mark == '@' ? cyan : plain;
   // A hunk's head brings its marks along; on a terminal nothing of a page may act on it.
   const std::string mark = line.mark == '@' ? "" : std::string(1, line.mark);
-  const std::string text = console.isTerminal() ? visibleText(line.text) : std::string(line.text);
-  console.out() << console.coloured(colour, mark + text) << '\n';
+  console.out() << console.coloured(colour, mark + console.shown(line.text)) << '\n';
 }
 
 int diff(Tool& tool, const DiffOptions& options) {

@@ -175,7 +175,7 @@ void RunTerminal::tell(const std::string& text, const char* event, JsonValue det
   lookAfterTheOutput();
 }
 
-bool RunTerminal::hasLiveLine() const { return !style_.json && console_.isTerminal() && data_ != nullptr; }
+bool RunTerminal::hasLiveLine() const { return !style_.json && console_.canRewrite() && data_ != nullptr; }
 
 void RunTerminal::showLive() {
   if (!hasLiveLine()) {

@@ -89,7 +89,7 @@ int showSetting(Tool& tool, const SettingField& key, bool json) {
     sayJson(console, {{key.name, jsonOf(key, value)}});
   } else {
     const std::string text = textOf(key, value);
-    console.say(console.isTerminal() ? visibleText(text) : text);
+    console.say(console.shown(text));
   }
   return exit_status::ok;
 }

@@ -27,7 +27,7 @@ int report(Tool& tool, const UpkeepOptions& options) {
   if (options.json) {
     sayJson(tool.console(), {{"path", jsonText(path)}});
   } else {
-    tool.console().say(path);
+    tool.console().say(tool.console().shown(path));
   }
   return exit_status::ok;
 }

@@ -18,9 +18,10 @@ std::string_view environment(const char* name) {
 }  // namespace
 
 TerminalFacts standardOutputFacts() {
-  const bool isTerminal = ::isatty(STDOUT_FILENO) == 1 && environment("TERM") != "dumb";
+  const bool isTerminal = ::isatty(STDOUT_FILENO) == 1;
+  const bool isDumb = environment("TERM") == "dumb";
   const bool canAsk = ::isatty(STDIN_FILENO) == 1 && ::isatty(STDERR_FILENO) == 1;
-  return {isTerminal, isTerminal && environment("NO_COLOR").empty(), canAsk};
+  return {isTerminal, isTerminal && !isDumb && environment("NO_COLOR").empty(), canAsk, isDumb};
 }
 
 std::vector<std::string> programArguments(int argc, char** argv) {

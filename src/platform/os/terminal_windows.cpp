@@ -34,10 +34,11 @@ bool isConsole(HANDLE stream) {
 }  // namespace
 
 TerminalFacts standardOutputFacts() {
-  const bool isTerminal = obeysSequences(GetStdHandle(STD_OUTPUT_HANDLE));
+  const bool isTerminal = isConsole(GetStdHandle(STD_OUTPUT_HANDLE));
+  const bool isDumb = !obeysSequences(GetStdHandle(STD_OUTPUT_HANDLE));
   const wchar_t* const noColor = _wgetenv(L"NO_COLOR");
   const bool canAsk = isConsole(GetStdHandle(STD_INPUT_HANDLE)) && isConsole(GetStdHandle(STD_ERROR_HANDLE));
-  return {isTerminal, isTerminal && (noColor == nullptr || *noColor == L'\0'), canAsk};
+  return {isTerminal, isTerminal && !isDumb && (noColor == nullptr || *noColor == L'\0'), canAsk, isDumb};
 }
 
 std::vector<std::string> programArguments(int, char**) {

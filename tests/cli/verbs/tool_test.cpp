@@ -70,10 +70,50 @@ TEST_F(ToolItself, FailsWhenItsOutputCannotBeWritten) {
 
 TEST_F(ToolItself, MindsNoReaderThatHasSeenEnough) {
   addPage("/a", "alpha");
-  for (const char* verb : {"check", "sites", "log"}) {
-    EXPECT_EQ(runOnOutputThatFails(EPIPE, {verb}), exit_status::ok) << verb;
-    EXPECT_EQ(err, "") << verb;
+  ASSERT_EQ(run({"post", "1", "add", "name", "value"}), exit_status::ok) << err;
+  ASSERT_EQ(run({"check"}), exit_status::ok);
+  for (const auto& arguments : std::vector<std::vector<std::string>>{{"--help"},
+                                                                     {"export", "--help"},
+                                                                     {"check"},
+                                                                     {"check", "--json"},
+                                                                     {"sites"},
+                                                                     {"sites", "--json"},
+                                                                     {"site", "1"},
+                                                                     {"site", "1", "--json"},
+                                                                     {"log"},
+                                                                     {"log", "--json"},
+                                                                     {"post", "1"},
+                                                                     {"post", "1", "--json"},
+                                                                     {"baseline", "1"},
+                                                                     {"baseline", "1", "--json"},
+                                                                     {"diff", "1"},
+                                                                     {"diff", "1", "--json"},
+                                                                     {"settings"},
+                                                                     {"settings", "--json"},
+                                                                     {"option", "all"},
+                                                                     {"option", "all", "--json"},
+                                                                     {"report"},
+                                                                     {"export", "-", "--format", "csv"},
+                                                                     {"export", "-", "--format", "json"},
+                                                                     {"counters", "clear"}}) {
+    EXPECT_EQ(runOnOutputThatFails(EPIPE, arguments), exit_status::ok) << ::testing::PrintToString(arguments);
+    EXPECT_EQ(err, "") << ::testing::PrintToString(arguments);
   }
+}
+
+TEST_F(ToolItself, KnowsWhyItsOutputFailedWhateverFailsBehindIt) {
+  // One line is lost; what the system says of it is overwritten by what follows.
+  FullBuffer gone(EPIPE);
+  std::ostream written(&gone);
+  std::ostringstream complaints;
+  Console console(written, complaints, {});
+  console.out() << "a line\n";
+  errno = ENOSPC;
+  console.out() << "a line\n";
+  EXPECT_EQ(console.flush(), std::errc::broken_pipe);
+  EXPECT_FALSE(console.good());
+  console.writeOn();
+  EXPECT_TRUE(console.good());
 }
 
 TEST_F(ToolItself, TakesAnEmptyValueForOneInEveryVerb) {
