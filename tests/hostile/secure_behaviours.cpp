@@ -105,7 +105,7 @@ HostileBehaviours secureBehaviours() {
                visit.hangUp();
                visit.stay();
              }),
-      secure("EndsASecureBodyWithoutAGoodbye", takes("is this all?"),
+      secure("EndsASecureBodyWithoutAGoodbye", fails(TransferFault::dropped, kBroken),
              [](HostileVisit& visit) {
                visit.readRequest();
                visit.send("HTTP/1.1 200 OK\r\n\r\nis this all?");

@@ -15,6 +15,7 @@ SLEEP = re.compile(r"\b(sleep_for|sleep_until|usleep|nanosleep|qSleep|msleep)\b|
                    r"|(?<![\w.>:])sleep\s*\(")
 REASON = re.compile(r"//\s*sleeps because \S")
 SYSTEM = re.compile(r"^\s*#\s*(if|ifdef|ifndef|elif).*\b(_WIN32|_WIN64|__linux__|__unix__|__APPLE__|Q_OS_\w+)\b")
+CALLBACK = re.compile(r"CURLM?OPT_\w+FUNCTION\b")
 UNFINISHED = re.compile(r"\b(TODO|FIXME|XXX|HACK)\b")
 
 
@@ -54,6 +55,16 @@ def only_the_platform_knows_the_system(tree: Tree):
                        "source that ends with _posix.cpp or _windows.cpp.")
 
 
+def callbacks_are_guarded(tree: Tree):
+    for name, lines in tree.lines.items():
+        if not name.startswith("src/platform/web/"):
+            continue
+        for number, line in enumerate(lines, 1):
+            if CALLBACK.search(line.split("//")[0]) and "kGuarded<" not in line:
+                yield (name, number, "hands libcurl a function as it is: through kGuarded (curl_callback.h) no exception "
+                       "crosses the library's C frames.")
+
+
 def nothing_is_unfinished(tree: Tree):
     for name, lines in tree.lines.items():
         for number, line in enumerate(lines, 1):
@@ -78,4 +89,4 @@ def sources_name_their_licence(tree: Tree):
 
 
 RULES = (front_ends_write_no_sql, files_are_short, tests_do_not_sleep, only_the_platform_knows_the_system,
-         nothing_is_unfinished, headers_are_included_once, sources_name_their_licence)
+         callbacks_are_guarded, nothing_is_unfinished, headers_are_included_once, sources_name_their_licence)

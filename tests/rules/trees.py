@@ -35,6 +35,10 @@ TREES = {
         "src/store/a.h": HEADER + '#include "platform/sqlite/s.h"\n', "src/platform/sqlite/s.h": HEADER}),
     "a program in a room": ('includes "app/a.h": program/ may include only', {
         "src/program/p.h": HEADER + '#include "app/a.h"\n', "src/app/a.h": HEADER}),
+    "a bare callback": ("src/platform/web/a.cpp:1: hands libcurl a function as it is", {
+        "src/platform/web/a.cpp": "set(easy, CURLOPT_WRITEFUNCTION, &onPage);\n",
+        "src/platform/web/b.cpp": "set(easy, CURLOPT_WRITEFUNCTION, kGuarded<A, &A::onPage, 3, 0>);\n",
+        "src/platform/web/CMakeLists.txt": "tarnwick_room(web SOURCES a.cpp b.cpp)\n"}),
     "SQL in a window": ("src/ui/site/a.h:2: writes SQL", {
         "src/ui/site/a.h": HEADER + 'auto sql = "select url from sites";\n'}),
     "SQL in the terminal": ("writes SQL", {"src/cli/list/a.h": HEADER + 'auto sql = "UPDATE sites set a = 1";\n'}),

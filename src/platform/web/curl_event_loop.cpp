@@ -3,9 +3,13 @@
 
 #include <algorithm>
 #include <climits>
+#include <new>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 #include <QMetaObject>
+
+#include "platform/web/curl_callback.h"
 
 namespace tarnwick {
 namespace {
@@ -35,6 +39,24 @@ void initializeCurl() {
   }
 }
 
+/// The event loop below is a C library's, too: what is raised in a handler of its ends here. What it was about ends
+/// with its transfer, at the latest by the time-out.
+template <typename Action>
+bool withstands(Action action) noexcept {
+  try {
+    action();
+    return true;
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
+}
+
+/// A shortage passes: what nobody else would make up for is tried once more.
+template <typename Action>
+bool withstandsTwice(Action action) noexcept {
+  return withstands(action) || withstands(action);
+}
+
 }  // namespace
 
 CurlEventLoop::CurlEventLoop() {
@@ -43,13 +65,14 @@ CurlEventLoop::CurlEventLoop() {
   if (multi_ == nullptr) {
     throw std::bad_alloc();
   }
-  curl_multi_setopt(multi_, CURLMOPT_SOCKETFUNCTION, &CurlEventLoop::socketChanged);
+  curl_multi_setopt(multi_, CURLMOPT_SOCKETFUNCTION, (kGuarded<CurlEventLoop, &CurlEventLoop::socketChanged, 3, 0>));
   curl_multi_setopt(multi_, CURLMOPT_SOCKETDATA, this);
-  curl_multi_setopt(multi_, CURLMOPT_TIMERFUNCTION, &CurlEventLoop::timerChanged);
+  curl_multi_setopt(multi_, CURLMOPT_TIMERFUNCTION, (kGuarded<CurlEventLoop, &CurlEventLoop::timerChanged, 2, 0>));
   curl_multi_setopt(multi_, CURLMOPT_TIMERDATA, this);
   timer_.setSingleShot(true);
   timer_.setTimerType(Qt::PreciseTimer);
-  QObject::connect(&timer_, &QTimer::timeout, &context_, [this] { act(CURL_SOCKET_TIMEOUT, 0); });
+  QObject::connect(&timer_, &QTimer::timeout, &context_,
+                   [this] { withstands([this] { act(CURL_SOCKET_TIMEOUT, 0); }); });
   beat_.setSingleShot(true);
   beat_.setTimerType(Qt::PreciseTimer);
   QObject::connect(&beat_, &QTimer::timeout, &context_, [this] { beat(); });
@@ -67,11 +90,12 @@ bool CurlEventLoop::start(CURL* easy, milliseconds timeout, std::function<void(C
   extendDeadlines();
   boundWaitsInside(easy, timeout);
   enteredAt_ = steady_clock::now();
-  if (curl_multi_add_handle(multi_, easy) != CURLM_OK) {
-    return false;
-  }
   const TransferClock clock(enteredAt_, timeout);
   transfers_.insert_or_assign(easy, Transfer{std::move(done), clock});
+  if (curl_multi_add_handle(multi_, easy) != CURLM_OK) {
+    transfers_.erase(easy);
+    return false;
+  }
   if (!beat_.isActive() || enteredAt_ > beatDue_ || clock.deadline() < beatDue_) {
     armBeat(enteredAt_);
   }
@@ -85,8 +109,8 @@ void CurlEventLoop::stop(CURL* easy) {
   }
 }
 
-void CurlEventLoop::post(std::function<void()> event) {
-  events_.push_back(std::move(event));
+void CurlEventLoop::post(std::list<Event> events) noexcept {
+  events_.splice(events_.end(), events);
   wake();
 }
 
@@ -97,6 +121,14 @@ milliseconds CurlEventLoop::timeInside() const {
 int CurlEventLoop::socketChanged(CURL*, curl_socket_t socket, int what, void* self, void*) {
   static_cast<CurlEventLoop*>(self)->watch(socket, what);
   return 0;
+}
+
+// libcurl would give up all transfers for good. None is waited for whose sockets nobody may be watching, and nothing is
+// known of its server.
+void CurlEventLoop::ranOutOfMemory() noexcept {
+  for (auto& [easy, transfer] : transfers_) {
+    transfer.starved = true;
+  }
 }
 
 int CurlEventLoop::timerChanged(CURLM*, long milliseconds, void* self) {
@@ -114,7 +146,8 @@ void CurlEventLoop::watch(curl_socket_t socket, int what) {
     unwatch(socket);
     return;
   }
-  Watch& watch = watches_[socket];
+  const auto found = watches_.find(socket);
+  Watch& watch = (found != watches_.end() ? found : watches_.emplace(socket, Watch{}))->second;
   setWatching(watch.reading, (what & CURL_POLL_IN) != 0, socket, QSocketNotifier::Read);
   setWatching(watch.writing, (what & CURL_POLL_OUT) != 0, socket, QSocketNotifier::Write);
 }
@@ -128,7 +161,7 @@ void CurlEventLoop::setWatching(std::unique_ptr<QSocketNotifier>& notifier, bool
     notifier = std::make_unique<QSocketNotifier>(static_cast<qintptr>(socket), type);
     const int events = type == QSocketNotifier::Read ? CURL_CSELECT_IN : CURL_CSELECT_OUT;
     QObject::connect(notifier.get(), &QSocketNotifier::activated, &context_,
-                     [this, socket, events] { act(socket, events); });
+                     [this, socket, events] { withstands([&] { act(socket, events); }); });
   }
   notifier->setEnabled(wanted);
 }
@@ -141,10 +174,9 @@ void CurlEventLoop::unwatch(curl_socket_t socket) {
   for (auto* notifier : {&found->second.reading, &found->second.writing}) {
     if (*notifier) {
       (*notifier)->setEnabled(false);
-      retired_.push_back(std::move(*notifier));
     }
   }
-  watches_.erase(found);
+  retired_.insert(watches_.extract(found));
   wake();
 }
 
@@ -170,6 +202,17 @@ void CurlEventLoop::collectEnded() {
     // The message is gone once its handle is taken out.
     endWith(message->easy_handle, message->data.result);
   }
+  while (endNext(&Transfer::starved, kStarved)) {
+  }
+}
+
+bool CurlEventLoop::endNext(bool Transfer::*marked, CURLcode result) {
+  const auto found = std::ranges::find_if(transfers_, [&](const auto& entry) { return entry.second.*marked; });
+  if (found == transfers_.end()) {
+    return false;
+  }
+  endWith(found->first, result);
+  return true;
 }
 
 void CurlEventLoop::endWith(CURL* easy, CURLcode result) {
@@ -183,11 +226,15 @@ void CurlEventLoop::endWith(CURL* easy, CURLcode result) {
 
 void CurlEventLoop::beat() {
   const auto now = steady_clock::now();
-  extendDeadlines();
-  pollConnecting();
-  expireOverdue(now);
+  withstands([this] { extendDeadlines(); });
+  withstands([this] { pollConnecting(); });
+  withstands([this, now] { expireOverdue(now); });
+  withstands([this] { collectEnded(); });
+  if (!events_.empty()) {
+    wake();
+  }
   if (!transfers_.empty()) {
-    armBeat(steady_clock::now());
+    withstandsTwice([this] { armBeat(steady_clock::now()); });
   }
 }
 
@@ -222,18 +269,11 @@ void CurlEventLoop::extendDeadlines() {
 }
 
 void CurlEventLoop::expireOverdue(steady_clock::time_point now) {
-  std::vector<CURL*> overdue;
   for (auto& [easy, transfer] : transfers_) {
-    if (!transfer.clock.overdueAt(now)) {
-      continue;
-    }
     // The answer may have arrived in this very round.
-    if (std::exchange(transfer.lastRound, true)) {
-      overdue.push_back(easy);
-    }
+    transfer.expired = transfer.clock.overdueAt(now) && std::exchange(transfer.lastRound, true);
   }
-  for (CURL* const easy : overdue) {
-    endWith(easy, CURLE_OPERATION_TIMEDOUT);
+  while (endNext(&Transfer::expired, CURLE_OPERATION_TIMEDOUT)) {
   }
 }
 
@@ -247,12 +287,13 @@ void CurlEventLoop::armBeat(steady_clock::time_point now) {
   beat_.start(std::chrono::ceil<milliseconds>(beatDue_ - now));
 }
 
-void CurlEventLoop::wake() {
-  if (!awake_) {
-    awake_ = true;
+void CurlEventLoop::wake() noexcept {
+  const auto call = [this] {
     QMetaObject::invokeMethod(
         &context_, [this] { dispatch(); }, Qt::QueuedConnection);
-  }
+  };
+  // Where that cannot be, the next beat makes up for it.
+  awake_ = awake_ || withstandsTwice(call);
 }
 
 // All that wait, since a round of the event loop for each of the ten states of a request cost more than the request;
@@ -262,13 +303,13 @@ void CurlEventLoop::dispatch() {
   retired_.clear();
   const std::weak_ptr<char> alive = alive_;
   for (std::size_t waiting = events_.size(); waiting > 0 && !events_.empty(); --waiting) {
-    const auto event = std::move(events_.front());
-    events_.pop_front();
+    std::list<Event> event;
+    event.splice(event.end(), events_, events_.begin());
     if (!events_.empty()) {
       // Before the event, which may wait for the ones behind it, and may destroy us.
       wake();
     }
-    event();
+    withstands(event.front());
     if (alive.expired()) {
       return;
     }

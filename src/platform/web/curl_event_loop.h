@@ -4,11 +4,13 @@
 #include <curl/curl.h>
 
 #include <chrono>
-#include <deque>
+#include <cstddef>
 #include <functional>
+#include <list>
+#include <map>
 #include <memory>
 #include <unordered_map>
-#include <vector>
+#include <utility>
 #include <QObject>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -28,15 +30,21 @@ class CurlEventLoop {
   CurlEventLoop& operator=(const CurlEventLoop&) = delete;
 
   /// Starts the transfer, which may take `timeout`. When it ends the handle is taken out and `done` is called with its
-  /// result, from the event loop. `done` must not start or stop a transfer nor handle events. False when libcurl did
-  /// not take the handle.
+  /// result, from the event loop; with `kStarved` when this machine had no memory for it. `done` must not start or
+  /// stop a transfer nor handle events, and raises nothing. False when libcurl did not take the handle.
   bool start(CURL* easy, std::chrono::milliseconds timeout, std::function<void(CURLcode)> done);
   /// Ends the transfer at once; its `done` is not called. Harmless when it is not under way.
   void stop(CURL* easy);
 
+  /// None of libcurl's own results, by which it means other things as well.
+  static constexpr CURLcode kStarved = CURL_LAST;
+
+  using Event = std::function<void()>;
   /// Calls `event` from the event loop, after those posted before. Events may do anything: post, start and stop
   /// transfers, handle further events, and destroy this object.
-  void post(std::function<void()> event);
+  void post(Event event) { post(std::list<Event>{std::move(event)}); }
+  /// The same for events that were prepared: needs no memory.
+  void post(std::list<Event> events) noexcept;
 
   /// How long libcurl has been running without coming back to the event loop, seen from one of its callbacks.
   std::chrono::milliseconds timeInside() const;
@@ -52,7 +60,13 @@ class CurlEventLoop {
     TransferClock clock;
     /// It is overdue; what has arrived for it is still looked at once.
     bool lastRound = false;
+    bool expired = false;
+    /// Something of it could not be watched.
+    bool starved = false;
   };
+
+  template <class, auto, std::size_t, auto>
+  friend struct CurlCallback;
 
   static int socketChanged(CURL* easy, curl_socket_t socket, int what, void* self, void* perSocket);
   static int timerChanged(CURLM* multi, long milliseconds, void* self);
@@ -61,7 +75,9 @@ class CurlEventLoop {
   void setWatching(std::unique_ptr<QSocketNotifier>& notifier, bool wanted, curl_socket_t socket,
                    QSocketNotifier::Type type);
   void unwatch(curl_socket_t socket);
+  void ranOutOfMemory() noexcept;
   void act(curl_socket_t socket, int events);
+  bool endNext(bool Transfer::*marked, CURLcode result);
   void collectEnded();
   void endWith(CURL* easy, CURLcode result);
   void beat();
@@ -69,15 +85,16 @@ class CurlEventLoop {
   void extendDeadlines();
   void expireOverdue(std::chrono::steady_clock::time_point now);
   void armBeat(std::chrono::steady_clock::time_point now);
-  void wake();
+  void wake() noexcept;
   void dispatch();
 
   CURLM* multi_;
-  std::unordered_map<curl_socket_t, Watch> watches_;
-  // Notifiers no longer wanted: one of them may be the one that is calling us.
-  std::vector<std::unique_ptr<QSocketNotifier>> retired_;
+  using Watches = std::multimap<curl_socket_t, Watch>;
+  Watches watches_;
+  // Those no longer wanted: a notifier of them may be the one that is calling us.
+  Watches retired_;
   std::unordered_map<CURL*, Transfer> transfers_;
-  std::deque<std::function<void()>> events_;
+  std::list<Event> events_;
   bool awake_ = false;
   // Tells whether an event has destroyed us.
   std::shared_ptr<char> alive_ = std::make_shared<char>();

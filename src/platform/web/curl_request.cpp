@@ -9,6 +9,7 @@
 #include "platform/os/socket_inheritance.h"
 #include "platform/web/authorities.h"
 #include "platform/web/socket_errors.h"
+#include "platform/web/tls_goodbye.h"
 
 namespace tarnwick {
 namespace {
@@ -105,6 +106,7 @@ int CurlRequest::onSocket(void* self, curl_socket_t socket, curlsocktype) {
 CURLcode CurlRequest::onHandshake(CURL*, void* context, void* self) {
   auto* const request = static_cast<CurlRequest*>(self);
   trustFolder(context, request->options_.caFolder);
+  request->connection_.tellsGoodbye = watchGoodbye(context, request->goodbye_);
   request->connection_.handshaking = true;
   request->reach(transfer_state::connected);
   return CURLE_OK;
@@ -126,23 +128,13 @@ int CurlRequest::onProgress(void* self, curl_off_t, curl_off_t, curl_off_t, curl
 
 std::size_t CurlRequest::onHeader(char* data, std::size_t size, std::size_t count, void* self) {
   const std::size_t length = size * count;
-  return static_cast<CurlRequest*>(self)->take(&CurlRequest::addHeader, {data, length}) ? length : 0;
+  return static_cast<CurlRequest*>(self)->addHeader({data, length}) ? length : 0;
 }
 
 std::size_t CurlRequest::onPage(char* data, std::size_t size, std::size_t count, void* self) {
   const std::size_t length = size * count;
   // Any other number than the length ends the transfer; for an empty piece that must not be 0.
-  return static_cast<CurlRequest*>(self)->take(&CurlRequest::addPage, {data, length}) ? length : length + 1;
-}
-
-bool CurlRequest::take(bool (CurlRequest::*add)(std::string_view), std::string_view piece) {
-  try {
-    return (this->*add)(piece);
-  } catch (const std::exception&) {
-    // No exception may cross libcurl.
-    aborted_ = AbortReason::memory;
-    return false;
-  }
+  return static_cast<CurlRequest*>(self)->addPage({data, length}) ? length : length + 1;
 }
 
 void CurlRequest::reach(int state) {
@@ -227,10 +219,20 @@ bool CurlRequest::overFtp() const {
 }
 
 TransferResult CurlRequest::finish(CURLcode reported) {
+  if (reported == CurlEventLoop::kStarved) {
+    ranOutOfMemory();
+  }
   // libcurl takes an answer that breaks off inside its header for a whole one.
-  const CURLcode result = reported == CURLE_OK && header_.open() ? CURLE_PARTIAL_FILE : reported;
+  const bool cut = reported == CURLE_OK && (header_.open() || endsWithoutGoodbye());
+  const CURLcode result = cut ? CURLE_PARTIAL_FILE : reported;
   completeStates(result);
   return result == CURLE_OK ? TransferResult{.page = std::move(page_)} : failure(result);
+}
+
+// A page without a length ends where its connection does; a secured one tells that from a cut. Over FTP a reply does.
+bool CurlRequest::endsWithoutGoodbye() const {
+  return header_.endsWithConnection() && connection_.tellsGoodbye && !goodbye_ && request_.method != "HEAD" &&
+         !overFtp();
 }
 
 void CurlRequest::completeStates(CURLcode result) {

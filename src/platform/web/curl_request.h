@@ -53,6 +53,8 @@ class CurlRequest {
     bool answered = false;
     /// The system's error from before it was ready, as from another address of the host.
     int earlierError = 0;
+    /// It is secured, and `goodbye_` tells how it ends.
+    bool tellsGoodbye = false;
   };
 
   void setCallbacks();
@@ -64,6 +66,9 @@ class CurlRequest {
   void setHeaders();
   void setCredentials();
 
+  template <class, auto, std::size_t, auto>
+  friend struct CurlCallback;
+  /// What libcurl calls, but through `kGuarded`: they may raise.
   static int onResolve(void* resolver, void* reserved, void* self);
   static curl_socket_t onOpen(void* self, curlsocktype purpose, curl_sockaddr* address);
   static int onSocket(void* self, curl_socket_t socket, curlsocktype purpose);
@@ -73,16 +78,17 @@ class CurlRequest {
   static std::size_t onHeader(char* data, std::size_t size, std::size_t count, void* self);
   static std::size_t onPage(char* data, std::size_t size, std::size_t count, void* self);
 
+  void ranOutOfMemory() { aborted_ = AbortReason::memory; }
   void completeStates(CURLcode result);
   TransferResult failure(CURLcode result) const;
   AbortReason abortReason(CURLcode result) const;
   void reach(int state);
   void noteSent(curl_off_t bodyBytes);
-  bool take(bool (CurlRequest::*add)(std::string_view), std::string_view piece);
   bool addHeader(std::string_view line);
   bool addPage(std::string_view piece);
   void noteRedirect(int status);
   bool announcedTooLarge() const;
+  bool endsWithoutGoodbye() const;
   bool waitsInside() const;
   bool overFtp() const;
   int refusedSocket(CURLcode result) const;
@@ -92,6 +98,8 @@ class CurlRequest {
   CurlTransfers::Options options_;
   CurlEventLoop& loop_;
   std::function<void(int)> onState_;
+  // The last connection has ended in the way of TLS. Told as long as there are connections, which are among the caches.
+  bool goodbye_ = false;
   Caches caches_;
   EasyHandle easy_;
   LineList headerLines_;

@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "platform/address.h"
 #include "platform/web/authorities.h"
+#include "platform/web/curl_callback.h"
 #include "platform/web/curl_request.h"
 
 namespace tarnwick {
@@ -56,22 +57,22 @@ std::optional<TransferResult> refusalOf(const Request& request) {
 void CurlRequest::setCallbacks() {
   CURL* const easy = easy_.get();
   set(easy, CURLOPT_ERRORBUFFER, detail_.data());
-  set(easy, CURLOPT_RESOLVER_START_FUNCTION, &CurlRequest::onResolve);
+  set(easy, CURLOPT_RESOLVER_START_FUNCTION, kGuarded<CurlRequest, &CurlRequest::onResolve, 2, 1>);
   set(easy, CURLOPT_RESOLVER_START_DATA, this);
-  set(easy, CURLOPT_OPENSOCKETFUNCTION, &CurlRequest::onOpen);
+  set(easy, CURLOPT_OPENSOCKETFUNCTION, kGuarded<CurlRequest, &CurlRequest::onOpen, 0, CURL_SOCKET_BAD>);
   set(easy, CURLOPT_OPENSOCKETDATA, this);
-  set(easy, CURLOPT_SOCKOPTFUNCTION, &CurlRequest::onSocket);
+  set(easy, CURLOPT_SOCKOPTFUNCTION, kGuarded<CurlRequest, &CurlRequest::onSocket, 0, CURL_SOCKOPT_ERROR>);
   set(easy, CURLOPT_SOCKOPTDATA, this);
-  set(easy, CURLOPT_SSL_CTX_FUNCTION, &CurlRequest::onHandshake);
+  set(easy, CURLOPT_SSL_CTX_FUNCTION, kGuarded<CurlRequest, &CurlRequest::onHandshake, 2, CURLE_OUT_OF_MEMORY>);
   set(easy, CURLOPT_SSL_CTX_DATA, this);
-  set(easy, CURLOPT_PREREQFUNCTION, &CurlRequest::onReady);
+  set(easy, CURLOPT_PREREQFUNCTION, kGuarded<CurlRequest, &CurlRequest::onReady, 0, CURL_PREREQFUNC_ABORT>);
   set(easy, CURLOPT_PREREQDATA, this);
-  set(easy, CURLOPT_XFERINFOFUNCTION, &CurlRequest::onProgress);
+  set(easy, CURLOPT_XFERINFOFUNCTION, kGuarded<CurlRequest, &CurlRequest::onProgress, 0, 1>);
   set(easy, CURLOPT_XFERINFODATA, this);
   set(easy, CURLOPT_NOPROGRESS, 0L);
-  set(easy, CURLOPT_HEADERFUNCTION, &CurlRequest::onHeader);
+  set(easy, CURLOPT_HEADERFUNCTION, kGuarded<CurlRequest, &CurlRequest::onHeader, 3, CURL_WRITEFUNC_ERROR>);
   set(easy, CURLOPT_HEADERDATA, this);
-  set(easy, CURLOPT_WRITEFUNCTION, &CurlRequest::onPage);
+  set(easy, CURLOPT_WRITEFUNCTION, kGuarded<CurlRequest, &CurlRequest::onPage, 3, CURL_WRITEFUNC_ERROR>);
   set(easy, CURLOPT_WRITEDATA, this);
   // A proxy's own answer is not the page's.
   set(easy, CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);

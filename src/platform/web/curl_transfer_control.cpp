@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/web/curl_transfer_control.h"
 
+#include <exception>
+#include <list>
 #include <utility>
 
 namespace tarnwick {
@@ -11,6 +13,9 @@ struct CurlTransferControl::Run {
   bool over = false;
   std::unique_ptr<CurlRequest> request;
   TransferResult result{};
+  /// What to say and to do when there is no memory left for either.
+  TransferResult shortage = noMemory();
+  std::list<CurlEventLoop::Event> lastEvent;
 };
 
 CurlTransferControl::CurlTransferControl(std::shared_ptr<CurlEventLoop> loop, CurlTransfers::Options options)
@@ -24,8 +29,20 @@ void CurlTransferControl::execute(Request request) {
   if (request.timeout <= std::chrono::seconds::zero()) {
     request.timeout = kDefaultRequestTimeout;
   }
-  run_ = std::make_shared<Run>();
-  start(std::move(request));
+  const auto run = std::make_shared<Run>();
+  run->lastEvent.emplace_back([this, weak = std::weak_ptr(run)] {
+    const auto ended = weak.lock();
+    if (ended && !ended->over) {
+      deliverLast(ended);
+    }
+  });
+  run_ = run;
+  try {
+    start(std::move(request));
+  } catch (...) {
+    endRun();
+    throw;
+  }
 }
 
 void CurlTransferControl::start(Request request) {
@@ -42,43 +59,53 @@ void CurlTransferControl::start(Request request) {
   }
 }
 
-void CurlTransferControl::finish(Run& run, CURLcode reported) {
-  finishWith(run, run.request->finish(reported));
+void CurlTransferControl::finish(Run& run, CURLcode reported) noexcept {
+  try {
+    run.result = run.request->finish(reported);
+  } catch (const std::exception&) {
+    run.result = std::move(run.shortage);
+  }
+  loop_->post(std::move(run.lastEvent));
   run.request.reset();
 }
 
-void CurlTransferControl::finishWith(Run& run, TransferResult result) {
+void CurlTransferControl::finishWith(Run& run, TransferResult result) noexcept {
   run.result = std::move(result);
-  report(run.result.fault == TransferFault::none ? transfer_state::responseCompleted : transfer_state::error);
+  loop_->post(std::move(run.lastEvent));
 }
 
 void CurlTransferControl::report(int state) {
   // Posted, never delivered from here: libcurl or the caller of `execute` is still at work.
   loop_->post([this, weak = std::weak_ptr(run_), state] {
     const auto run = weak.lock();
-    if (run && !run->over) {
-      deliver(run, state);
+    if (run && !run->over && stateHandler_) {
+      // A copy, since the handler may set another one or destroy the control.
+      const auto handler = stateHandler_;
+      handler(state);
     }
   });
 }
 
-void CurlTransferControl::deliver(const std::shared_ptr<Run>& run, int state) {
-  const bool last = transfer_state::isLast(state);
-  if (last) {
-    result_ = std::move(run->result);
+void CurlTransferControl::deliverLast(const std::shared_ptr<Run>& run) {
+  result_ = std::move(run->result);
+  const int state = result_.fault == TransferFault::none ? transfer_state::responseCompleted : transfer_state::error;
+  try {
+    if (const auto handler = stateHandler_) {
+      handler(state);
+    }
+  } catch (...) {
+    // Whatever became of the news, the request is over.
+    if (!run->over) {
+      endRun();
+    }
+    throw;
   }
-  // A copy, since the handler may set another one or destroy the control.
-  const auto stateHandler = stateHandler_;
-  if (stateHandler) {
-    stateHandler(state);
-  }
-  if (run->over || !last) {
+  if (run->over) {
     return;
   }
   endRun();
-  const auto idleHandler = idleHandler_;
-  if (idleHandler) {
-    idleHandler();
+  if (const auto handler = idleHandler_) {
+    handler();
   }
 }
 

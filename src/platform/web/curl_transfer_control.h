@@ -30,10 +30,10 @@ class CurlTransferControl final : public TransferControl {
   struct Run;
 
   void start(Request request);
-  void finish(Run& run, CURLcode reported);
-  void finishWith(Run& run, TransferResult result);
+  void finish(Run& run, CURLcode reported) noexcept;
+  void finishWith(Run& run, TransferResult result) noexcept;
   void report(int state);
-  void deliver(const std::shared_ptr<Run>& run, int state);
+  void deliverLast(const std::shared_ptr<Run>& run);
   void endRun();
 
   std::shared_ptr<CurlEventLoop> loop_;

@@ -12,6 +12,9 @@ namespace tarnwick {
 namespace {
 
 constexpr int kSwitchingProtocols = 101;
+constexpr int kFirstWithPage = 200;
+constexpr int kNoContent = 204;
+constexpr int kNotModified = 304;
 // What libcurl counts to. It passes over a longer length as if there were none.
 constexpr std::size_t kLongestLength = std::numeric_limits<std::int64_t>::max();
 
@@ -45,7 +48,9 @@ HeaderFault ResponseHeader::add(std::string_view line) {
 HeaderFault ResponseHeader::begin(std::string_view line) {
   *this = {};
   open_ = true;
-  return statusOf(line) == kSwitchingProtocols ? HeaderFault::otherProtocol : HeaderFault::none;
+  const int status = statusOf(line);
+  mayHavePage_ = status >= kFirstWithPage && status != kNoContent && status != kNotModified;
+  return status == kSwitchingProtocols ? HeaderFault::otherProtocol : HeaderFault::none;
 }
 
 HeaderFault ResponseHeader::end() {

@@ -28,6 +28,8 @@ class ResponseHeader {
 
   /// The page comes in chunks, without a length of the whole.
   bool chunked() const { return chunked_; }
+  /// The page has neither a length nor chunks, so that it ends where its connection does.
+  bool endsWithConnection() const { return mayHavePage_ && !chunked_ && !length_; }
   /// True from an answer's first line until its empty line: a connection that ends here ends inside a header.
   bool open() const { return open_; }
 
@@ -38,6 +40,7 @@ class ResponseHeader {
   void addLength(std::string_view value);
 
   bool open_ = false;
+  bool mayHavePage_ = false;
   bool chunked_ = false;
   bool unclear_ = false;
   bool endless_ = false;
