@@ -611,6 +611,50 @@
         <source>pages only</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>2 where parallel is more than 5, else there is no such limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>250 where parallel is more than 5, else there is no such pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many pages of one host are fetched at the same time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many sites are fetched at the same time; with &quot;auto&quot; as many as their answers bear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause between requests to one host</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requests at a time to one host</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requests at a time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The least time between the starts of two requests to one host</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>auto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>five sites are fetched at a time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>

@@ -611,6 +611,50 @@
         <source>pages only</source>
         <translation>nur gute Seiten</translation>
     </message>
+    <message>
+        <source>2 where parallel is more than 5, else there is no such limit</source>
+        <translation>2, wo mehr als 5 Abfragen gleichzeitig laufen, sonst gibt es keine solche Grenze</translation>
+    </message>
+    <message>
+        <source>250 where parallel is more than 5, else there is no such pause</source>
+        <translation>250, wo mehr als 5 Abfragen gleichzeitig laufen, sonst gibt es keine solche Pause</translation>
+    </message>
+    <message>
+        <source>How many pages of one host are fetched at the same time</source>
+        <translation>Wie viele Seiten eines Rechners gleichzeitig geholt werden</translation>
+    </message>
+    <message>
+        <source>How many sites are fetched at the same time; with &quot;auto&quot; as many as their answers bear</source>
+        <translation>Wie viele Seiten gleichzeitig geholt werden; mit „automatisch“ so viele, wie ihre Antworten vertragen</translation>
+    </message>
+    <message>
+        <source>Pause between requests to one host</source>
+        <translation>Pause zwischen Abfragen an einen Rechner</translation>
+    </message>
+    <message>
+        <source>Requests at a time to one host</source>
+        <translation>Gleichzeitige Abfragen an einen Rechner</translation>
+    </message>
+    <message>
+        <source>Requests at a time</source>
+        <translation>Gleichzeitige Abfragen</translation>
+    </message>
+    <message>
+        <source>The least time between the starts of two requests to one host</source>
+        <translation>Die kürzeste Zeit zwischen dem Beginn zweier Abfragen an einen Rechner</translation>
+    </message>
+    <message>
+        <source>auto</source>
+        <translation>automatisch</translation>
+    </message>
+    <message>
+        <source>five sites are fetched at a time</source>
+        <translation>fünf Seiten werden gleichzeitig geholt</translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation>Millisekunden</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>

@@ -5,6 +5,7 @@
 #include <limits>
 #include <stdexcept>
 
+#include "platform/transfer_control.h"
 #include "store/site_table.h"
 #include "store/sql_quote.h"
 
@@ -67,6 +68,17 @@ std::vector<std::int64_t> DueSites::idsNeverChecked() {
   std::vector<std::int64_t> ids;
   for (; !rows->eof(); rows->moveNext()) {
     ids.push_back(rows->field(std::size_t{0}).toInt64());
+  }
+  return ids;
+}
+
+std::unordered_set<std::int64_t> DueSites::idsThatTookTooLong() {
+  const SqlValue pattern("11:" + std::string(kTookTooLong) + "%");
+  const auto rows =
+      db_.conn().execute("select idSite from sites where status = 0 and content_runtime like ?1", {&pattern, 1});
+  std::unordered_set<std::int64_t> ids;
+  for (; !rows->eof(); rows->moveNext()) {
+    ids.insert(rows->field(std::size_t{0}).toInt64());
   }
   return ids;
 }

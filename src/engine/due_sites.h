@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "store/data_changes.h"
@@ -59,6 +60,8 @@ class DueSites {
   /// Their ids, rising.
   std::vector<std::int64_t> idsNeverChecked();
   /// Whether there is such a site and it has ever been checked.
+  /// The sites whose last request took longer than its time-out. Raises DataAccessError.
+  std::unordered_set<std::int64_t> idsThatTookTooLong();
   bool wasChecked(std::int16_t idSite);
 
   /// Whether another program has changed the database since this was asked last.

@@ -38,13 +38,13 @@ InetPool::InetPool(SettingsAndLog& settings, TransferMaker& transfers, TimerMake
 
 InetPool::~InetPool() { killAllSockets(); }
 
-void InetPool::initSockets(std::span<const std::string> items) {
+void InetPool::initSockets(std::span<const std::string> items, std::int16_t largestPool) {
   killAllSockets();
   itemCount_ = static_cast<std::size_t>(
       std::count_if(items.begin(), items.end(), [](const std::string& item) { return !item.empty(); }));
   rows_.assign(items.size() + 1, Row{});
   // Either each of them has its control or there is none, also when something is raised here.
-  std::vector<Slot> slots(std::min(itemCount_, static_cast<std::size_t>(largestPool_)));
+  std::vector<Slot> slots(std::min(itemCount_, static_cast<std::size_t>(largestPool)));
   if (!slots.empty()) {
     timeout_ = settings_.requestTimeout();
     for (Slot& slot : slots) {

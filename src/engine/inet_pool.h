@@ -23,7 +23,7 @@ class SettingsAndLog;
 /// hold its slot until the next tick.
 class InetPool {
  public:
-  /// The most slots that a pass uses: requests in flight at the same time.
+  /// The most slots that a pass uses when it is not told otherwise: requests in flight at the same time.
   static constexpr std::int16_t kLargestPool = 5;
 
   /// `largestPool` is how many slots the pool has when there are items enough.
@@ -33,7 +33,9 @@ class InetPool {
 
   /// Sets the pool up for a pass over `items`, row 1 first. It has a slot for each item that is not empty text, up to
   /// the largest number; the rows' results are cleared; `tmrInet` gets its interval and is left disabled.
-  void initSockets(std::span<const std::string> items);
+  void initSockets(std::span<const std::string> items) { initSockets(items, largestPool_); }
+  /// The same for one pass with another largest number of slots.
+  void initSockets(std::span<const std::string> items, std::int16_t largestPool);
   /// Cuts every transfer and releases the slots. The rows' results stay until the next `initSockets`.
   void killAllSockets();
 

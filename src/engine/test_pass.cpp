@@ -5,6 +5,7 @@
 #include <exception>
 #include <new>
 #include <stdexcept>
+#include <unordered_set>
 #include <utility>
 
 #include "alerts/alert_dispatch.h"
@@ -25,7 +26,21 @@ namespace {
 // How much lighter the row of a site is while its request is under way.
 constexpr int kTestingBrightness = 36;
 
+/// How often waiting hosts are looked after where they are to be spared.
+constexpr std::chrono::milliseconds kSpacedSweep{50};
+
 constexpr const char* kNoAddress = "The address of the site is empty.";
+
+InFlight::End endOf(std::int32_t errCode) {
+  switch (static_cast<TransferFault>(errCode)) {
+    case TransferFault::timeOut:
+      return InFlight::End::timedOut;
+    case TransferFault::shortage:
+      return InFlight::End::shortage;
+    default:
+      return InFlight::End::answered;
+  }
+}
 
 std::string methodAsSent(const std::string& stored) { return stored.empty() ? "GET" : upperCase(stored); }
 
@@ -67,9 +82,11 @@ void TestPass::test(TextTable sites) {
   }
   progressStep_ = needs_.view.fullProgressWidth() / static_cast<std::int64_t>(count());
   showProgress();
-  dispatchAll();
-  awaitAllSlots();
-  drain();
+  do {
+    dispatchAll();
+    awaitAllSlots();
+    drain();
+  } while (inFlight_.left() > 0 && !stopped());
   if (!stopped()) {
     raiseDeferred();
   }
@@ -89,20 +106,44 @@ void TestPass::setUpPool() {
   for (std::size_t row = 1; row <= sites_.lastRow(); ++row) {
     urls_.push_back(cell(site_column::url, row));
   }
-  needs_.pool.initSockets(urls_);
+  const InFlightPolicy policy = inFlightPolicy(options_);
+  needs_.pool.initSockets(urls_, policy.slots);
+  if (policy.spacing > std::chrono::milliseconds(0)) {
+    needs_.pool.tmrInet().setInterval(kSpacedSweep);
+  }
   needs_.pool.tmrInet().setEnabled(true);
+  inFlight_ = planned(policy);
+}
+
+InFlight TestPass::planned(const InFlightPolicy& policy) const {
+  std::unordered_set<std::int64_t> slow;
+  if (policy.slowLane) {
+    slow = needs_.dueSites.idsThatTookTooLong();
+  }
+  std::vector<InFlight::Row> rows(count());
+  for (std::size_t row = 1; row <= count(); ++row) {
+    if (!url(row).empty() && hasUsableId(row)) {
+      rows[row - 1] = {hostOfAddress(url(row)), slow.contains(idSite(row))};
+    }
+  }
+  return {policy, std::move(rows)};
 }
 
 void TestPass::dispatchAll() {
-  while (next_ <= count() && !stopped()) {
+  while (inFlight_.left() > 0 && !stopped()) {
     needs_.pump.pump();
     recordRowsWithoutAddress();
     const std::vector<std::int16_t> freeSlots = needs_.pool.getAryFreeSockets();
-    if (freeSlots.empty() && next_ <= count() && !stopped()) {
+    if (!hasWorkFor(freeSlots) && inFlight_.left() > 0 && !stopped()) {
       needs_.pump.waitForEvent();
     }
     offerSlots(freeSlots);
   }
+}
+
+bool TestPass::hasWorkFor(const std::vector<std::int16_t>& freeSlots) {
+  return std::ranges::any_of(freeSlots, [&](std::int16_t slot) { return needs_.pool.socketDone(slot); }) ||
+         (!freeSlots.empty() && upcoming() > 0);
 }
 
 void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
@@ -113,42 +154,45 @@ void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
     }
     finishSlot(slot);
     recordRowsWithoutAddress();
-    if (stopped() || next_ > count()) {
+    if (stopped() || inFlight_.left() == 0) {
       return;
     }
-    sendRequest(slot);
-    nextRow();
+    if (const std::size_t row = upcoming(); row > 0) {
+      sendRequest(slot, row);
+      takeRow(row);
+    }
   }
 }
 
 // A row without an address needs no slot: it fails on the spot, as a failed request of its own site. One whose id the
 // program cannot use is left out, and told when the others have been tested.
 void TestPass::recordRowsWithoutAddress() {
-  while (!stopped() && next_ <= count()) {
-    if (hasUsableId(next_)) {
-      if (!url(next_).empty()) {
-        return;
-      }
+  for (std::size_t row = 0; !stopped() && (row = upcoming()) > 0;) {
+    if (!hasUsableId(row)) {
+      deferFault(overflow_, unusableId(row));
+    } else if (url(row).empty()) {
       needs_.view.showStatus("Testing: ");
-      record(next_, {std::string("11:") + kNoAddress, static_cast<std::int32_t>(TransferFault::badUrl), kNoAddress});
+      record(row, {std::string("11:") + kNoAddress, static_cast<std::int32_t>(TransferFault::badUrl), kNoAddress});
+    } else {
+      return;
     }
-    nextRow();
+    takeRow(row);
     needs_.pump.pump();
   }
 }
 
-bool TestPass::hasUsableId(std::size_t row) {
+bool TestPass::hasUsableId(std::size_t row) const { return !unusableId(row); }
+
+std::exception_ptr TestPass::unusableId(std::size_t row) const {
   try {
     idSite(row);
-    return true;
+    return nullptr;
   } catch (const OverflowError&) {
-    deferFault(overflow_, std::current_exception());
-    return false;
+    return std::current_exception();
   }
 }
 
-void TestPass::sendRequest(std::int16_t slot) {
-  const std::size_t row = next_;
+void TestPass::sendRequest(std::int16_t slot, std::size_t row) {
   const std::int16_t id = idSite(row);
   Request request = needs_.pages.requestFor(id, cell(site_column::method, row));
   request.url = url(row);
@@ -185,9 +229,14 @@ void TestPass::finishSlot(std::int16_t slot) {
   }
   pool.saveSocketData(slot);
   const std::size_t row = pool.socketRow(slot);
-  if (pool.siteErrCode(row) == static_cast<std::int32_t>(TransferFault::shortage)) {
-    // The request was not even made, so nothing is known of the site. It is due as before.
-    deferFault(deferred_, std::make_exception_ptr(std::runtime_error(pool.siteErrDescription(row))));
+  const InFlight::End end = endOf(pool.siteErrCode(row));
+  inFlight_.ended(row, needs_.clock.steadyNow(), needs_.clock.processorTime(), end);
+  if (end == InFlight::End::shortage) {
+    // The request was not even made, so nothing is known of the site. It is made when fewer are in flight, or else is
+    // due as before.
+    if (!inFlight_.putBack(row)) {
+      deferFault(deferred_, std::make_exception_ptr(std::runtime_error(pool.siteErrDescription(row))));
+    }
   } else {
     record(row, {pool.siteContent(row), pool.siteErrCode(row), pool.siteErrDescription(row)});
   }
@@ -377,15 +426,16 @@ void TestPass::dropPage(std::size_t row, Standing standing) {
   needs_.view.showDropped(idSite(row), url(row));
 }
 
-void TestPass::nextRow() {
-  ++next_;
-  if (next_ <= count() && !stopped()) {
+void TestPass::takeRow(std::size_t row) {
+  inFlight_.take(row, needs_.clock.steadyNow());
+  if (inFlight_.left() > 0 && !stopped()) {
     showProgress();
   }
 }
 
 void TestPass::showProgress() {
-  const std::int64_t width = static_cast<std::int64_t>(next_) * progressStep_;
+  const std::size_t next = count() - inFlight_.left() + 1;
+  const std::int64_t width = static_cast<std::int64_t>(next) * progressStep_;
   if (width != progressWidth_) {
     progressWidth_ = width;
     needs_.view.setProgressWidth(width);

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/in_flight.h"
 #include "engine/result_recording.h"
 #include "engine/run_controller.h"
 #include "store/site_options.h"
@@ -49,14 +50,19 @@ class TestPass {
   };
 
   std::size_t count() const { return urls_.size(); }
+  /// The row to be sent next, 0 for none at present.
+  std::size_t upcoming() { return inFlight_.upcoming(needs_.clock.steadyNow()); }
   bool stopped() const { return !run_.running() || needs_.pump.closing(); }
 
   void setUpPool();
+  InFlight planned(const InFlightPolicy& policy) const;
   void dispatchAll();
+  bool hasWorkFor(const std::vector<std::int16_t>& freeSlots);
   void offerSlots(const std::vector<std::int16_t>& freeSlots);
   void recordRowsWithoutAddress();
-  bool hasUsableId(std::size_t row);
-  void sendRequest(std::int16_t slot);
+  bool hasUsableId(std::size_t row) const;
+  std::exception_ptr unusableId(std::size_t row) const;
+  void sendRequest(std::int16_t slot, std::size_t row);
   void awaitAllSlots();
   void drain();
   void finishSlot(std::int16_t slot);
@@ -82,7 +88,7 @@ class TestPass {
   bool wouldSendTheSame(std::size_t row, const TextTable& stored) const;
   void dropPage(std::size_t row, Standing standing);
   void alertAndCount(std::size_t row);
-  void nextRow();
+  void takeRow(std::size_t row);
   void showProgress();
 
   const std::string& cell(std::size_t column, std::size_t row) const { return sites_.at(column, row); }
@@ -108,7 +114,7 @@ class TestPass {
   // done again, and one that did not.
   std::exception_ptr deferred_;
   std::exception_ptr overflow_;
-  std::size_t next_ = 1;
+  InFlight inFlight_{{}, {}};
   std::int64_t progressStep_ = 0;
   std::int64_t progressWidth_ = -1;
 };

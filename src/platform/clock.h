@@ -21,6 +21,9 @@ class Clock {
 
   /// Time since an arbitrary moment; never goes back. For measuring durations.
   virtual std::chrono::milliseconds steadyNow() const = 0;
+
+  /// The processor time that this process has used; none where nobody counts it.
+  virtual std::chrono::milliseconds processorTime() const { return {}; }
 };
 
 /// The one date-and-time form of the program: "YYYY-MM-DD HH:MM:SS".
@@ -37,6 +40,7 @@ class SystemClock final : public Clock {
  public:
   LocalTime localNow() const override;
   std::chrono::milliseconds steadyNow() const override;
+  std::chrono::milliseconds processorTime() const override;
 };
 
 }  // namespace tarnwick

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace tarnwick {
 
@@ -50,6 +51,9 @@ enum class TransferFault : long {
 
 /// The largest page that is taken, in bytes after decoding; a longer one is a failed transfer.
 inline constexpr std::size_t kLargestPage = std::size_t{64} * 1024 * 1024;
+
+/// How the cause of a request begins that has run into its time-out.
+inline constexpr std::string_view kTookTooLong = "The request took longer than ";
 
 /// The time-out of a request for which none is set, or one of zero or less.
 inline constexpr std::chrono::seconds kDefaultRequestTimeout{60};

@@ -29,7 +29,7 @@ std::string OptionField::values() const {
   switch (kind) {
     case OptionKind::number:
       return "a whole number from " + std::to_string(least) + " to " + std::to_string(most) +
-             (unit.empty() ? std::string() : " (" + unit + ")");
+             (unit.empty() ? std::string() : " (" + unit + ")") + (choices.empty() ? "" : " or " + inWords(choices));
     case OptionKind::text:
       return "a text";
     case OptionKind::flag:
@@ -50,7 +50,8 @@ std::string OptionField::checked(std::string_view value) const {
     if (fault == std::errc() && rest == end && number >= least && number <= most) {
       return std::to_string(number);
     }
-  } else {
+  }
+  if (kind != OptionKind::text) {
     const auto word =
         std::ranges::find_if(words(*this), [&](const std::string& known) { return equalsIgnoringCase(known, value); });
     if (word != words(*this).end()) {
@@ -99,6 +100,29 @@ const std::vector<OptionField>& programOptions() {
        .meaning =
            "How much the log holds of pages; the oldest are emptied first, and no page is stored while less than "
            "1 GiB or 5 % of the disk is free"},
+      {.name = std::string(option_name::parallel),
+       .kind = OptionKind::number,
+       .least = 5,
+       .most = 256,
+       .choices = {std::string(option_value::automatic)},
+       .original = "five sites are fetched at a time",
+       .label = "Requests at a time",
+       .meaning = "How many sites are fetched at the same time; with \"auto\" as many as their answers bear"},
+      {.name = std::string(option_name::perHost),
+       .kind = OptionKind::number,
+       .least = 1,
+       .most = 256,
+       .original = "2 where parallel is more than 5, else there is no such limit",
+       .label = "Requests at a time to one host",
+       .meaning = "How many pages of one host are fetched at the same time"},
+      {.name = std::string(option_name::spacing),
+       .kind = OptionKind::number,
+       .least = 0,
+       .most = 60000,
+       .unit = "milliseconds",
+       .original = "250 where parallel is more than 5, else there is no such pause",
+       .label = "Pause between requests to one host",
+       .meaning = "The least time between the starts of two requests to one host"},
   };
   return options;
 }

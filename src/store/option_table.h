@@ -11,7 +11,7 @@ namespace tarnwick {
 /// What an option takes.
 enum class OptionKind {
   flag,    ///< "on" or "off"
-  number,  ///< a whole number from `least` to `most`
+  number,  ///< a whole number from `least` to `most`, or one of `choices` where there are any
   choice,  ///< one of `choices`
   text,    ///< any text but the empty one
 };
@@ -45,12 +45,16 @@ inline constexpr std::string_view newSites = "newSites";
 inline constexpr std::string_view adopt = "adopt";
 inline constexpr std::string_view mailLimit = "mailLimit";
 inline constexpr std::string_view logLimit = "logLimit";
+inline constexpr std::string_view parallel = "parallel";
+inline constexpr std::string_view perHost = "perHost";
+inline constexpr std::string_view spacing = "spacing";
 }  // namespace option_name
 
 /// Values that it asks for.
 namespace option_value {
 inline constexpr std::string_view atOnce = "at once";
 inline constexpr std::string_view pagesOnly = "pages only";
+inline constexpr std::string_view automatic = "auto";
 }  // namespace option_value
 
 /// The options of this program, in the order in which they are shown.

@@ -210,5 +210,20 @@ TEST_F(DueSitesTest, FailedStatementTravelsToTheCaller) {
   EXPECT_THROW(due.getSitesToTest(), DataAccessError);
 }
 
+TEST_F(DueSitesTest, WhatTookTooLongIsKnownByItsCause) {
+  for (int id = 1; id <= 4; ++id) {
+    addSite(id, true, 10, "'2024-05-17 12:00:30'");
+  }
+  folder.execute(
+      "update sites set status = 0, content_runtime = '11:The request took longer than 30 seconds.' "
+      "where idSite in (1, 3)");
+  folder.execute("update sites set status = 0, content_runtime = '11:The server refused.' where idSite = 2");
+  // A page that says so itself is none.
+  folder.execute(
+      "update sites set status = 1, content_runtime = '11:The request took longer than 30 seconds.' "
+      "where idSite = 4");
+  EXPECT_THAT(due.idsThatTookTooLong(), ::testing::UnorderedElementsAre(1, 3));
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

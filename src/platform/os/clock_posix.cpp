@@ -16,4 +16,10 @@ LocalTime SystemClock::localNow() const {
   return local_days{date} + hours{fields.tm_hour} + minutes{fields.tm_min} + seconds{fields.tm_sec};
 }
 
+milliseconds SystemClock::processorTime() const {
+  timespec used{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
+  return duration_cast<milliseconds>(seconds(used.tv_sec) + nanoseconds(used.tv_nsec));
+}
+
 }  // namespace tarnwick

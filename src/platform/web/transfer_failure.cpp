@@ -117,7 +117,7 @@ TransferResult timedOut(const TransferEnd& end, const ServerName& server) {
       return {TransferFault::dropped, "The server " + server.place + " is not available for now."};
     }
   }
-  return {TransferFault::timeOut, "The request took longer than " + secondsText(end.timeout) + "."};
+  return {TransferFault::timeOut, std::string(kTookTooLong) + secondsText(end.timeout) + "."};
 }
 
 std::optional<TransferResult> failureToAnswer(const TransferEnd& end, const ServerName& server) {

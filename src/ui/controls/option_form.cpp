@@ -29,18 +29,62 @@ int boundedInt(std::int64_t number) {
   return static_cast<int>(std::clamp(number, kLeast + 1, kMost));
 }
 
-// A number that may be left open: its lowest step, which an emptied box stands for as well.
+// A number that may be left open: its lowest step, which an emptied box stands for as well. The words that the option
+// takes beside numbers are the steps above the highest one.
 class OpenNumber final : public QSpinBox {
  public:
-  using QSpinBox::QSpinBox;
+  explicit OpenNumber(const OptionField& option) : words_(option.choices), most_(boundedInt(option.most)) {
+    setRange(boundedInt(option.least) - 1, most_ + static_cast<int>(words_.size()));
+    setStepType(words_.empty() ? AdaptiveDecimalStepType : DefaultStepType);
+  }
+
+  Value stored() const {
+    if (value() == minimum()) {
+      return std::nullopt;
+    }
+    return value() > most_ ? wordAt(value()) : std::to_string(value());
+  }
+  void show(const Value& stored) {
+    const auto word = std::ranges::find(words_, stored.value_or(""));
+    bool isNumber = false;
+    const int number = QString::fromStdString(stored.value_or("")).toInt(&isNumber);
+    setValue(word != words_.end() ? most_ + 1 + static_cast<int>(word - words_.begin())
+             : isNumber           ? number
+                                  : minimum());
+  }
 
  protected:
   QValidator::State validate(QString& text, int& position) const override {
-    return text.trimmed().isEmpty() ? QValidator::Acceptable : QSpinBox::validate(text, position);
+    const QString typed = text.trimmed();
+    const auto begins = [&](const std::string& word) {
+      return translated(word).startsWith(typed, Qt::CaseInsensitive);
+    };
+    if (typed.isEmpty() || valueOfWord(typed)) {
+      return QValidator::Acceptable;
+    }
+    return std::ranges::any_of(words_, begins) ? QValidator::Intermediate : QSpinBox::validate(text, position);
   }
   int valueFromText(const QString& text) const override {
-    return text.trimmed().isEmpty() ? minimum() : QSpinBox::valueFromText(text);
+    const QString typed = text.trimmed();
+    return typed.isEmpty() ? minimum() : valueOfWord(typed).value_or(QSpinBox::valueFromText(text));
   }
+  QString textFromValue(int value) const override {
+    return value > most_ ? translated(wordAt(value)) : QSpinBox::textFromValue(value);
+  }
+
+ private:
+  const std::string& wordAt(int value) const { return words_.at(static_cast<std::size_t>(value - most_ - 1)); }
+  std::optional<int> valueOfWord(const QString& typed) const {
+    for (int value = most_ + 1; value <= maximum(); ++value) {
+      if (translated(wordAt(value)).compare(typed, Qt::CaseInsensitive) == 0) {
+        return value;
+      }
+    }
+    return std::nullopt;
+  }
+
+  std::vector<std::string> words_;
+  int most_;
 };
 
 OptionControl makeFlag() {
@@ -66,19 +110,12 @@ OptionControl makeFlag() {
 }
 
 OptionControl makeNumber(const OptionField& option) {
-  auto* number = new OpenNumber;
-  number->setRange(boundedInt(option.least) - 1, boundedInt(option.most));
-  number->setStepType(QSpinBox::AdaptiveDecimalStepType);
+  auto* number = new OpenNumber(option);
   const auto show = [number](const Value& value, const QString& unset) {
     number->setSpecialValueText(unset);
-    bool isNumber = false;
-    const int stored = QString::fromStdString(value.value_or("")).toInt(&isNumber);
-    number->setValue(isNumber ? stored : number->minimum());
+    number->show(value);
   };
-  const auto value = [number]() -> Value {
-    return number->value() == number->minimum() ? Value() : Value(std::to_string(number->value()));
-  };
-  return {number, show, value};
+  return {number, show, [number] { return number->stored(); }};
 }
 
 OptionControl makeChoice(const OptionField& option) {

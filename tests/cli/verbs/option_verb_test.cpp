@@ -35,6 +35,16 @@ TEST_F(OptionVerb, ShowsOneForAScriptAndRemovesIt) {
   EXPECT_EQ(folder.queryRows("select idSite, name, value from siteOptions"), "0|newSites|at once\n");
 }
 
+TEST_F(OptionVerb, TakesANumberOrItsWord) {
+  EXPECT_EQ(run({"option", "all", "parallel=AUTO"}), exit_status::ok) << err;
+  EXPECT_EQ(run({"option", "all", "parallel"}), exit_status::ok);
+  EXPECT_EQ(out, "auto\n");
+  EXPECT_EQ(run({"option", "all", "parallel=064"}), exit_status::ok) << err;
+  EXPECT_EQ(run({"option", "all", "parallel=4"}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("It takes a whole number from 5 to 256 or \"auto\"."));
+  EXPECT_EQ(folder.queryRows("select value from siteOptions"), "64\n");
+}
+
 TEST_F(OptionVerb, RefusesWhatThereIsNot) {
   EXPECT_EQ(run({"option", "all", "nothing=1"}), exit_status::failed);
   EXPECT_THAT(err, HasSubstr("There is no option \"nothing\". The options are: newSites, adopt, mailLimit"));

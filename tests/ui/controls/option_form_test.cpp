@@ -56,6 +56,15 @@ const Fields& ofEachKind() {
        .original = "no name",
        .label = "Agent",
        .meaning = "By which name it asks"},
+      {.name = "pace",
+       .kind = OptionKind::number,
+       .ofSite = true,
+       .least = 5,
+       .most = 256,
+       .choices = {"auto"},
+       .original = "five",
+       .label = "Pace",
+       .meaning = "How many at a time"},
       {.name = "ofAll", .kind = OptionKind::flag, .original = "it is not", .label = "Of all", .meaning = "For all"},
   });
   return fields;
@@ -119,6 +128,23 @@ TEST_F(OptionFormTest, WhatIsNotSetSaysSo) {
   EXPECT_EQ(patience(editor).text(), QStringLiteral("As in Defaults"));
   EXPECT_EQ(adoption(editor).currentText(), QStringLiteral("As in Defaults"));
   EXPECT_EQ(in<QLineEdit>(editor, "option_agent").placeholderText(), QStringLiteral("As in Defaults"));
+}
+
+TEST_F(OptionFormTest, ANumberMayHaveWordsBesideIt) {
+  set(3, "pace", "auto");
+  auto& editor = openOptions();
+  auto& pace = in<QSpinBox>(editor, "option_pace");
+  EXPECT_EQ(pace.text(), QStringLiteral("auto"));
+  typeNumber(pace, "64");
+  press(editor, "Command1");
+  EXPECT_EQ(options(), "3|pace|64\n");
+}
+
+TEST_F(OptionFormTest, AWordOfANumberIsTyped) {
+  auto& editor = openOptions();
+  typeNumber(in<QSpinBox>(editor, "option_pace"), "Auto");
+  press(editor, "Command1");
+  EXPECT_EQ(options(), "3|pace|auto\n");
 }
 
 TEST_F(OptionFormTest, TheDefaultOfASiteIsShownInItsPlace) {
