@@ -6,6 +6,7 @@
 
 #include "base/command_line.h"
 #include "base/one_line.h"
+#include "base/text.h"
 
 namespace tarnwick {
 namespace {
@@ -15,6 +16,9 @@ using Placeholders = std::array<std::string_view, 6>;
 
 constexpr Placeholders kNamed = {"~date~", "~url~", "~idsite~", "~email~", "~localhostname~", "~localip~"};
 constexpr Placeholders kNumbered = {"~1~", "~2~", "~3~", "~4~", "~5~", "~6~"};
+
+constexpr std::string_view kEncodedBlanks = " \t\r\n";
+constexpr std::array<std::string_view, kEncodedBlanks.size()> kEncodings = {"%20", "%09", "%0D", "%0A"};
 
 std::string replaceAll(const std::string& text, std::string_view token, std::string_view value) {
   std::string result;
@@ -35,6 +39,16 @@ std::string fill(std::string text, const Placeholders& placeholders, const Alert
   return text;
 }
 
+// The address as it would be fetched: one argument, which is no option of the program.
+std::string addressAsArgument(const std::string& url) {
+  std::string text;
+  for (const char c : trimmed(url)) {
+    const auto place = kEncodedBlanks.find(c);
+    text += place == std::string_view::npos ? std::string(1, c) : std::string(kEncodings[place]);
+  }
+  return literalArgumentText(text.starts_with('-') ? "http://" + text : text);
+}
+
 }  // namespace
 
 std::string fillTemplate(std::string text, const AlertFacts& facts, const Clock& clock) {
@@ -45,7 +59,7 @@ std::string fillTemplate(std::string text, const AlertFacts& facts, const Clock&
 }
 
 std::string fillCommand(std::string text, const AlertFacts& facts, const Clock& clock) {
-  const AlertFacts literal = {literalArgumentText(facts.url), literalArgumentText(facts.idSite),
+  const AlertFacts literal = {addressAsArgument(facts.url), literalArgumentText(facts.idSite),
                               literalArgumentText(facts.email), literalArgumentText(facts.localHostName),
                               literalArgumentText(facts.localIP)};
   text = fill(std::move(text), kNamed, literal, clock);

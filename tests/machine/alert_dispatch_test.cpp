@@ -163,8 +163,8 @@ TEST_F(Alerts, PlayTheSoundAndStartTheProgramOfTheSettings) {
   const std::int16_t id = addSite("http://example.com/a b");
   alerts.sendAlerts(id);
   EXPECT_THAT(machine.sound.played, ElementsAre("/sounds/alarm.wav"));
-  EXPECT_THAT(machine.programs.started,
-              ElementsAre(ElementsAre("/bin/alert", "http://example.com/a b", std::to_string(id), "you@example.com")));
+  EXPECT_THAT(machine.programs.started, ElementsAre(ElementsAre("/bin/alert", "http://example.com/a%20b",
+                                                                std::to_string(id), "you@example.com")));
 }
 
 TEST_F(Alerts, ForAMissingSiteHaveNoMailAndEmptyTexts) {

@@ -106,6 +106,10 @@ std::optional<Address> takenApart(const std::string& text) {
                   .userName = decodedPart(url.get(), CURLUPART_USER),
                   .password = decodedPart(url.get(), CURLUPART_PASSWORD),
                   .bareUrl = barePart(url.get())};
+  // No host has such a name, and a program that is given the address could take it for an option.
+  if (address.host.starts_with('-')) {
+    return std::nullopt;
+  }
   // A percent sign is at home in a path and before the zone of an IPv6 address; no host name holds one.
   if (address.host.find('%') != std::string::npos && !address.host.starts_with('[')) {
     return std::nullopt;

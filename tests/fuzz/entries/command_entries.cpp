@@ -7,6 +7,7 @@
 
 #include "alerts/alert_facts.h"
 #include "base/command_line.h"
+#include "base/text.h"
 #include "base/windows_command_line.h"
 #include "support/hand_clock.h"
 
@@ -204,6 +205,17 @@ void fuzzFillCommand(std::string_view input) {
   }
   require(splitCommandLine(command) == expected, "a quote of a value counts as one of the command");
 
+  const std::string& url = filling.facts.url;
+  if (trimmed(url) == url && !url.empty()) {
+    Filling joined = filling;
+    joined.facts.url = "x" + without(url, " \t\r\n");
+    require(splitCommandLine(fillCommand(joined.text, joined.facts, standingClock())).size() == expected.size() ||
+                url.find('~') != std::string::npos,
+            "a blank of an address splits an argument");
+  }
+  if (url.find_first_of(" \t\r\n\v\f") != std::string::npos || url.starts_with('-')) {
+    return;  // the address is changed
+  }
   std::string plain = filling.text;
   fillAll(plain, kNames, innocent);
   fillAll(plain, kNumbers, innocent);

@@ -44,6 +44,14 @@ TEST(Address, IsNoPathAndNoWordWithASlash) {
   EXPECT_EQ(urlOf("localhost:80/b:/c"), "http://localhost:80/b:/c");
 }
 
+TEST(Address, HasNoHostThatBeginsWithADash) {
+  for (const std::string text : {"--post-file=/etc/passwd http://a.test/", "http://-a.test/", "-", "//-a",
+                                 "https://u:p@-a/", "http://%2da.test/"}) {
+    EXPECT_FALSE(parseAddress(text)) << text;
+  }
+  EXPECT_EQ(urlOf("http://a-b.test/-c"), "http://a-b.test/-c");
+}
+
 TEST(Address, OfAnotherSchemeIsValidButNotFetched) {
   const auto address = parseAddress("gopher://a.test/");
   ASSERT_TRUE(address);
