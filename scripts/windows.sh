@@ -7,7 +7,8 @@
 #   scripts/windows.sh --libraries FOLDER  keeps the libraries in FOLDER instead of ~/.cache/tarnwick-windows; so does the
 #                                          variable TARNWICK_WINDOWS_CACHE
 #
-# The first run also builds the libraries, which takes about half an hour; they are kept for the runs that follow.
+# The first run also builds the libraries, which takes about half an hour; they are kept for the runs that follow,
+# until Debian has a newer version of one.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/lib/packages.sh

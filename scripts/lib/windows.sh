@@ -28,32 +28,48 @@ quietly() {
   fi
 }
 
-# fetch_source PACKAGE: lays the unpacked source of the Debian package into the cache folder, as src/PACKAGE. The lists
-# of sources are the cache's own: those of the system are left as they are.
-fetch_source() {
-  local package=$1
-  local apt=$windows_cache/apt target=$windows_cache/src/$1
-  if [[ -d $target ]]; then
-    return
-  fi
-  local options=(
-    -o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=/dev/null
-    -o "Dir::State::Lists=$apt/lists" -o "Dir::Cache=$apt/cache" -o APT::Sandbox::User=root
-  )
-  local release
+# apt_in_cache COMMAND ARGUMENT...: a command of apt with lists of sources that are the cache's own: those of the system
+# are left as they are.
+apt_in_cache() {
+  local apt=$windows_cache/apt command=$1
+  shift
+  "$command" -o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=/dev/null \
+    -o "Dir::State::Lists=$apt/lists" -o "Dir::Cache=$apt/cache" -o APT::Sandbox::User=root "$@"
+}
+
+# update_source_lists: learns what Debian has today. Without a network what was known before has to do.
+update_source_lists() {
+  local apt=$windows_cache/apt release
   release=$(. /etc/os-release && echo "$VERSION_CODENAME")
   mkdir -p "$apt/lists/partial" "$apt/cache" "$windows_cache/src" "$windows_cache/log"
   cat >"$apt/sources.list" <<END
 deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] http://deb.debian.org/debian $release main
 deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] http://deb.debian.org/debian-security $release-security main
 END
+  apt_in_cache apt-get update --error-on=any >"$windows_cache/log/update.log" 2>&1 ||
+    echo "Debian was not asked for newer libraries; the reason is in $windows_cache/log/update.log" >&2
+}
+
+# source_version PACKAGE: the newest version of the source package; empty when none is known.
+source_version() {
+  apt_in_cache apt-cache showsrc --only-source "$1" 2>/dev/null | sed -n 's/^Version: //p' | sort -V | tail -1
+}
+
+# package_versions PACKAGE...: the versions of installed packages, in one line.
+package_versions() {
+  dpkg-query -W -f '${Version} ' "$@" | sed 's/ $//'
+}
+
+# fetch_source PACKAGE: lays the unpacked source of the Debian package into the cache folder, as src/PACKAGE.
+fetch_source() {
+  local package=$1
+  local target=$windows_cache/src/$1
   echo "Fetching the source of $package ..."
-  quietly "$windows_cache/log/fetch.log" apt-get "${options[@]}" update
-  rm -rf "$target.part"
-  mkdir "$target.part"
+  rm -rf "$target" "$target.part"
+  mkdir -p "$target.part"
   (
     cd "$target.part"
-    quietly "$windows_cache/log/fetch.log" apt-get "${options[@]}" source --download-only "$package"
+    quietly "$windows_cache/log/fetch.log" apt_in_cache apt-get source --download-only "$package"
     # The archive's signatures have vouched for the files already.
     quietly "$windows_cache/log/fetch.log" dpkg-source --no-check -x ./*.dsc source
   )
@@ -61,20 +77,31 @@ END
   rm -rf "$target.part"
 }
 
-# build_once NAME COMMAND...: runs the command, which installs a library into the cache's root folder, unless it has
-# done so before.
-build_once() {
-  local name=$1 from=$SECONDS
-  shift
+# build_version NAME VERSION COMMAND...: runs the command, which installs a library into the cache's root folder, unless
+# that version of it is there. Where no version is known, the one that is there is kept.
+build_version() {
+  local name=$1 version=$2 from=$SECONDS
+  shift 2
   local mark=$windows_cache/root/.built-$name
-  if [[ -e $mark ]]; then
+  if [[ -e $mark && (-z $version || $(<"$mark") == "$version") ]]; then
     return
   fi
   mkdir -p "$windows_cache"/{root/lib,root/include,build,log}
-  echo "Building $name for Windows, once ..."
+  rm -f "$mark"
+  echo "Building $name $version for Windows, once ..."
   "$@" || exit 1
-  date >"$mark"
+  echo "$version" >"$mark"
   echo "Built $name in $((SECONDS - from)) s."
+}
+
+# library_versions: what the program is made of, a library a line.
+library_versions() {
+  local mark
+  for mark in "$windows_cache"/root/.built-*; do
+    echo "${mark##*/.built-} $(<"$mark")"
+  done | grep -v '^googletest '
+  echo "zlib $(package_versions libz-mingw-w64-dev)"
+  echo "compiler $(package_versions g++-mingw-w64-x86-64-posix)"
 }
 
 # cross_configure SOURCE BUILD ARGUMENT...: CMake with the compiler for Windows and the libraries of the cache.
@@ -157,15 +184,16 @@ build_headers() {
 }
 
 build_core_libraries() {
-  build_once sqlite build_sqlite
-  build_once googletest build_googletest
+  update_source_lists
+  build_version sqlite "$(source_version sqlite3)" build_sqlite
+  build_version googletest "$(package_versions googletest)" build_googletest
 }
 
 build_libraries() {
   build_core_libraries
-  build_once headers build_headers
-  build_once curl build_curl
-  build_once qt build_qt
+  build_version headers "$(package_versions libcli11-dev nlohmann-json3-dev)" build_headers
+  build_version curl "$(source_version curl)" build_curl
+  build_version qt "$(source_version qt6-base)" build_qt
 }
 
 # pack FOLDER: the program folder of the build in FOLDER as a zip archive beside it.
@@ -179,6 +207,7 @@ pack() {
     echo "The program needs the libraries named above, which Windows does not have." >&2
     exit 1
   fi
+  library_versions >"$stage/tarnwick/libraries.txt"
   (cd "$stage" && zip -qr -X "$archive" tarnwick)
   echo "The program folder for Windows is packed as $archive"
 }

@@ -16,7 +16,8 @@ class DataAccessError : public std::runtime_error {
   /// Faults that a caller can do something about.
   enum class Kind {
     other,
-    noRoom,  ///< the disk is full, or what the user may take of it
+    noRoom,    ///< the disk is full, or what the user may take of it
+    noMemory,  ///< memory was refused
   };
 
   /// `cause` is the readable reason; `statement` the SQL text that failed (may be empty; long ones are shortened).
@@ -24,6 +25,7 @@ class DataAccessError : public std::runtime_error {
 
   Kind kind() const noexcept { return kind_; }
   bool forWantOfRoom() const noexcept { return kind_ == Kind::noRoom; }
+  bool forWantOfMemory() const noexcept { return kind_ == Kind::noMemory; }
 
   /// The reason alone, without the statement: the same text for the same fault whatever ran into it.
   const std::string& cause() const noexcept { return cause_; }

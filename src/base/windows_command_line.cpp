@@ -65,6 +65,11 @@ std::string forScript(std::string_view argument) {
 
 }  // namespace
 
+std::string windowsFileName(std::string path) {
+  path.erase(path.find_last_not_of(". ") + 1);
+  return path;
+}
+
 std::string windowsCommandLine(const std::vector<std::string>& arguments) { return joined(arguments, &forProgram); }
 
 std::optional<std::string> batchCommandLine(const std::vector<std::string>& arguments) {

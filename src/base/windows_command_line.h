@@ -9,6 +9,9 @@
 /// only, so that every system can test them.
 namespace tarnwick {
 
+/// The path of a file as Windows takes it: dots and blanks at its end do not count, so that "a.bat. ." is "a.bat".
+std::string windowsFileName(std::string path);
+
 /// The line that a program takes apart into exactly these arguments, by the rules of the C library and of
 /// CommandLineToArgvW.
 std::string windowsCommandLine(const std::vector<std::string>& arguments);

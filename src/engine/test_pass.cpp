@@ -158,7 +158,11 @@ void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
       return;
     }
     if (const std::size_t row = upcoming(); row > 0) {
-      sendRequest(slot, row);
+      try {
+        sendRequest(slot, row);
+      } catch (const std::bad_alloc&) {
+        std::rethrow_exception(outOfMemory(row));
+      }
       takeRow(row);
     }
   }
@@ -235,7 +239,9 @@ void TestPass::finishSlot(std::int16_t slot) {
     // The request was not even made, so nothing is known of the site. It is made when fewer are in flight, or else is
     // due as before.
     if (!inFlight_.putBack(row)) {
-      deferFault(deferred_, std::make_exception_ptr(std::runtime_error(pool.siteErrDescription(row))));
+      deferFault(deferred_,
+                 std::make_exception_ptr(std::runtime_error(pool.siteErrDescription(row) + " Site " +
+                                                            std::to_string(idSite(row)) + " is due again.")));
     }
   } else {
     record(row, {pool.siteContent(row), pool.siteErrCode(row), pool.siteErrDescription(row)});
@@ -259,11 +265,17 @@ void TestPass::record(std::size_t row, const Fetched& fetched) {
       std::erase(brightened_, id);
       needs_.view.showResult({id, url(row), *passed, fetched.errCode, fetched.errDescription, fetched.content});
     }
-  } catch (const DataAccessError&) {
-    deferUnlessGeneral();
+  } catch (const DataAccessError& error) {
+    deferUnlessGeneral(error.forWantOfMemory() ? outOfMemory(row) : std::current_exception());
   } catch (const std::bad_alloc&) {
-    deferUnlessGeneral();
+    deferUnlessGeneral(outOfMemory(row));
   }
+}
+
+// By its number alone: with an address in it every site would have a fault, and a box, of its own.
+std::exception_ptr TestPass::outOfMemory(std::size_t row) const {
+  return std::make_exception_ptr(std::runtime_error("There is not enough memory for the check of site " +
+                                                    std::to_string(idSite(row)) + ". End other programs."));
 }
 
 // Whether the site has passed, once that is recorded; nothing for a page that was dropped. A full disk has no room for
@@ -295,8 +307,7 @@ std::optional<bool> TestPass::store(std::size_t row, const Fetched& fetched) {
 // A page too large for what is left of the memory must not keep the other sites from being watched, as long as theirs
 // can be recorded; and a full disk none at all, since an alert needs no room. REQUIRES: called from a handler of an
 // exception.
-void TestPass::deferUnlessGeneral() {
-  const std::exception_ptr fault = std::current_exception();
+void TestPass::deferUnlessGeneral(const std::exception_ptr& fault) {
   try {
     needs_.results.proveRecording();
   } catch (const DataAccessError& error) {

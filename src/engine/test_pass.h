@@ -78,7 +78,8 @@ class TestPass {
   std::optional<bool> storeResult(std::size_t row, const Fetched& fetched, KeptPage kept);
   void alertUnrecorded(std::size_t row, const Fetched& fetched);
   void tellLostMail(std::size_t row);
-  void deferUnlessGeneral();
+  void deferUnlessGeneral(const std::exception_ptr& fault);
+  std::exception_ptr outOfMemory(std::size_t row) const;
   FirstBaseline firstBaselineOf(std::int16_t id) const;
   void countSuccess(std::int16_t id);
   static void deferFault(std::exception_ptr& first, const std::exception_ptr& fault);

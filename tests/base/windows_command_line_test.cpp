@@ -6,6 +6,14 @@
 namespace tarnwick {
 namespace {
 
+TEST(WindowsFileName, EndsWhereWindowsEndsIt) {
+  EXPECT_EQ(windowsFileName("C:\\a b\\c.bat"), "C:\\a b\\c.bat");
+  for (const char* name : {"c.bat.", "c.bat ", "c.bat. .. ", "c.bat"}) {
+    EXPECT_EQ(windowsFileName(name), "c.bat") << name;
+  }
+  EXPECT_EQ(windowsFileName(" . "), "");
+}
+
 TEST(WindowsCommandLine, PlainArgumentsStandAsTheyAre) {
   EXPECT_EQ(windowsCommandLine({R"(C:\a\b.exe)", "-x", "http://a/?b=c&d=%41"}), R"(C:\a\b.exe -x http://a/?b=c&d=%41)");
 }

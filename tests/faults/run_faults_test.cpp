@@ -133,7 +133,7 @@ TEST_F(RunFaults, AResultThatFindsNoMemoryIsToldAndTheOthersAreRecorded) {
     }
   };
   EXPECT_FALSE(running.program.startRun());
-  EXPECT_THAT(running.boxTexts(), HasSubstr("not enough memory"));
+  EXPECT_THAT(running.boxTexts(), HasSubstr("There is not enough memory for the check of site 2."));
   EXPECT_EQ(used.recorded(1, true), 1);
   EXPECT_EQ(used.recorded(2, true), 0);
   EXPECT_EQ(used.recorded(3, true), 1);

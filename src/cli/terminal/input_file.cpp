@@ -20,4 +20,15 @@ std::string readInput(FileSystem& files, const std::string& file) {
   return all;
 }
 
+std::string readLineOf(FileSystem& files, const std::string& file) {
+  std::string line = readInput(files, file);
+  if (line.ends_with('\n')) {
+    line.pop_back();
+    if (line.ends_with('\r')) {
+      line.pop_back();
+    }
+  }
+  return line;
+}
+
 }  // namespace tarnwick

@@ -11,4 +11,7 @@ namespace tarnwick {
 /// file is read to its end. Raises FileError.
 std::string readInput(FileSystem& files, const std::string& file);
 
+/// The same for a password, which is a line: editors end it, and `echo` does. That end is no part of it.
+std::string readLineOf(FileSystem& files, const std::string& file);
+
 }  // namespace tarnwick

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "cli/list/site_facts.h"
+#include "cli/terminal/input_file.h"
 #include "cli/terminal/json_text.h"
 #include "cli/terminal/text_grid.h"
 #include "cli/verbs/site_edit_verbs.h"
@@ -24,6 +25,7 @@ struct PostOptions {
   Text newValue;
   Text nameOption;
   Text valueOption;
+  Text valueFile;
   bool json = false;
 };
 
@@ -88,9 +90,13 @@ void storeAnew(m& data, std::int16_t idSite, const std::vector<PostVar>& vars) {
   }
 }
 
-int addVar(Tool& tool, const PostOptions& options) {
-  if (!options.value || options.newName || options.nameOption || options.valueOption) {
-    throw wrongUse(options, " NAME VALUE");
+int addVar(Tool& tool, PostOptions options) {
+  if (!options.name || options.value.has_value() == options.valueFile.has_value() || options.newName ||
+      options.nameOption || options.valueOption) {
+    throw wrongUse(options, " NAME VALUE, or: NAME --value-file FILE");
+  }
+  if (options.valueFile) {
+    options.value = readLineOf(tool.services().files, *options.valueFile);
   }
   m& data = tool.data();
   Transaction whole(data.database());
@@ -153,6 +159,9 @@ int post(Tool& tool, const PostOptions& options) {
   if (options.action == "add") {
     return addVar(tool, options);
   }
+  if (options.valueFile) {
+    throw std::runtime_error("Only \"add\" takes --value-file.");
+  }
   if (options.action == "change") {
     return changeVar(tool, options);
   }
@@ -183,6 +192,12 @@ Verb postVerb() {
        {"NEW_VALUE", &options->newValue, "For \"change\": the new value"},
        {"--name", &options->nameOption, "For \"change\": the new name alone"},
        {"--value", &options->valueOption, "For \"change\": the new value alone"},
+       {.name = "--value-file",
+        .target = &options->valueFile,
+        .meaning =
+            "For \"add\": read the value from a file, without its line end, so that no other user of this machine "
+            "sees it on the command line; - is standard input",
+        .type = "FILE"},
        jsonOption(options->json)},
       "Names and values are found exactly as they are: letter case and blanks count. What begins with a minus sign is "
       "written behind --.\n" +

@@ -46,18 +46,6 @@ struct SiteEdit {
   }
 };
 
-// A password is a line: editors end it, and `echo` does.
-std::string readPassword(FileSystem& files, const std::string& file) {
-  std::string password = readInput(files, file);
-  if (password.ends_with('\n')) {
-    password.pop_back();
-    if (password.ends_with('\r')) {
-      password.pop_back();
-    }
-  }
-  return password;
-}
-
 PostVar varOf(const std::string& text) {
   const auto sign = text.find('=');
   if (sign == std::string::npos) {
@@ -105,7 +93,7 @@ void apply(FileSystem& files, const Fields& fields, const SiteEdit& edit, SiteDr
   site.sUserName = edit.user.value_or(site.sUserName);
   site.sPassWord = edit.password.value_or(site.sPassWord);
   if (edit.passwordFile) {
-    site.sPassWord = readPassword(files, *edit.passwordFile);
+    site.sPassWord = readLineOf(files, *edit.passwordFile);
   }
 }
 

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <windows.h>
 
+#include <objbase.h>
+#include <objidl.h>
 #include <shellapi.h>
+#include <shlobj.h>
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <QCoreApplication>
@@ -25,12 +29,19 @@ constexpr DWORD kElevationRequired = 740;
 constexpr std::array<std::string_view, 6> kScriptEndings = {".vbs", ".vbe", ".js", ".jse", ".wsf", ".wsh"};
 constexpr std::array<std::string_view, 8> kTriedEndings = {"", ".com", ".exe", ".bat", ".cmd", ".vbs", ".js", ".wsf"};
 
+/// What a shortcut can hold, and how many may lead to each other.
+constexpr int kLongestPath = 32768;
+constexpr int kMostShortcuts = 5;
+
 std::string endingOf(const std::string& path) { return lowerCase(textOf(pathOf(path).extension())); }
 
 std::string programFolder() { return QDir::toNativeSeparators(QCoreApplication::applicationDirPath()).toStdString(); }
 
 /// The file of that name in the folders where the system looks for programs; empty without one.
 std::string searched(const std::string& name) {
+  // The folder that is current comes last, for whatever looks for a file: somebody else may have filled it.
+  static const BOOL safely = SetSearchPathMode(BASE_SEARCH_PATH_ENABLE_SAFE_SEARCHMODE | BASE_SEARCH_PATH_PERMANENT);
+  static_cast<void>(safely);
   const std::wstring wide = wideOf(name);
   std::wstring found(SearchPathW(nullptr, wide.c_str(), nullptr, 0, nullptr, nullptr), L'\0');
   if (found.empty()) {
@@ -58,6 +69,22 @@ std::string inSystemFolder(const char* program) {
   std::array<wchar_t, MAX_PATH> folder{};
   const UINT length = GetSystemDirectoryW(folder.data(), static_cast<UINT>(folder.size()));
   return utf8Of({folder.data(), length}) + "\\" + program;
+}
+
+struct LocalEnd {
+  void operator()(wchar_t** list) const { LocalFree(list); }
+};
+
+/// The arguments of a line that has no program before them, behind an empty place for one.
+std::vector<std::string> argumentsOf(const wchar_t* line) {
+  int count = 0;
+  const std::wstring whole = L"x " + std::wstring(line);
+  const std::unique_ptr<wchar_t*, LocalEnd> wide(CommandLineToArgvW(whole.c_str(), &count));
+  std::vector<std::string> arguments(1);
+  for (int i = 1; wide && i < count; ++i) {
+    arguments.push_back(utf8Of(wide.get()[i]));
+  }
+  return arguments;
 }
 
 /// The null device, for a program to inherit.
@@ -126,7 +153,8 @@ DWORD startProcess(const std::string& program, const std::string& line) {
   return ERROR_SUCCESS;
 }
 
-/// As if the user had opened it; for programs that Windows asks about first, links and documents.
+/// As if the user had opened it. What the parameters mean there depends on the kind of the file: only a program takes
+/// them as they are.
 bool openByShell(const std::string& program, const std::string& parameters) {
   const std::wstring file = wideOf(program);
   const std::wstring line = wideOf(parameters);
@@ -141,7 +169,40 @@ bool openByShell(const std::string& program, const std::string& parameters) {
   return ShellExecuteExW(&order) != FALSE;
 }
 
-bool startByKind(const std::vector<std::string>& arguments) {
+struct Releaser {
+  void operator()(IUnknown* object) const { object->Release(); }
+};
+
+/// What a shortcut starts, with the arguments that it gives; nothing when it leads to no file.
+std::optional<std::vector<std::string>> targetOf(const std::string& shortcut) {
+  const HRESULT begun = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  std::optional<std::vector<std::string>> target;
+  {
+    IShellLinkW* rawLink = nullptr;
+    CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                     reinterpret_cast<void**>(&rawLink));
+    const std::unique_ptr<IShellLinkW, Releaser> link(rawLink);
+    IPersistFile* rawFile = nullptr;
+    if (link) {
+      link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&rawFile));
+    }
+    const std::unique_ptr<IPersistFile, Releaser> file(rawFile);
+    std::wstring path(kLongestPath, L'\0');
+    std::wstring line(kLongestPath, L'\0');
+    if (file && SUCCEEDED(file->Load(wideOf(shortcut).c_str(), STGM_READ)) &&
+        link->GetPath(path.data(), kLongestPath, nullptr, 0) == S_OK &&
+        SUCCEEDED(link->GetArguments(line.data(), kLongestPath)) && path[0] != L'\0') {
+      target = argumentsOf(line.c_str());
+      target->front() = windowsFileName(utf8Of(path.c_str()));
+    }
+  }
+  if (SUCCEEDED(begun)) {
+    CoUninitialize();
+  }
+  return target;
+}
+
+bool startByKind(const std::vector<std::string>& arguments, int shortcuts = 0) {
   const std::string& program = arguments.front();
   const std::string ending = endingOf(program);
   if (ending == ".bat" || ending == ".cmd") {
@@ -155,11 +216,17 @@ bool startByKind(const std::vector<std::string>& arguments) {
   }
   if (ending == ".exe" || ending == ".com") {
     const DWORD error = startProcess(program, windowsCommandLine(arguments));
-    if (error != kElevationRequired) {
-      return error == ERROR_SUCCESS;
+    return error == kElevationRequired
+               ? openByShell(program, windowsCommandLine({arguments.begin() + 1, arguments.end()}))
+               : error == ERROR_SUCCESS;
+  }
+  if (ending == ".lnk" && shortcuts < kMostShortcuts) {
+    if (auto target = targetOf(program)) {
+      target->insert(target->end(), arguments.begin() + 1, arguments.end());
+      return startByKind(*target, shortcuts + 1);
     }
   }
-  return openByShell(program, windowsCommandLine({arguments.begin() + 1, arguments.end()}));
+  return openByShell(program, {});
 }
 
 }  // namespace
@@ -172,7 +239,7 @@ bool DetachedPrograms::start(const std::vector<std::string>& arguments) {
     return false;
   }
   std::vector<std::string> whole = arguments;
-  whole.front() = findProgram(arguments.front());
+  whole.front() = findProgram(windowsFileName(arguments.front()));
   return !whole.front().empty() && startByKind(whole);
 }
 

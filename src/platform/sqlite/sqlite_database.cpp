@@ -78,6 +78,10 @@ SqliteHandle openDatabase(const std::string& path, int flags) {
     throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path);
   }
   sqlite3_extended_result_codes(raw, 1);
+  // A list may come from others: what its views, triggers and rules call is nothing that reaches beyond it, and no
+  // statement writes to the file but through its tables.
+  sqlite3_db_config(raw, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+  sqlite3_db_config(raw, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
   sqlite3_busy_timeout(raw, kBusyPatienceMs);
   return handle;
 }

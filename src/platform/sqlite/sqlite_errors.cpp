@@ -73,7 +73,7 @@ std::string cause(int code, const std::string& message, const std::string& path)
     case SQLITE_TOOBIG:
       return "The text is too large for the database; nothing was stored." + detail;
     case SQLITE_NOMEM:
-      return "There is not enough memory for this; nothing was stored." + detail;
+      return kNotEnoughMemory + detail;
     case SQLITE_MISMATCH:
       return "The record's number must be a whole number; nothing was stored." + detail;
     case SQLITE_CONSTRAINT:
@@ -102,8 +102,9 @@ DataAccessError sqliteError(int code, const std::string& message, const std::str
   if (primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB) {
     return damagedDatabase(path, message);
   }
-  const bool noRoom = primary == SQLITE_FULL || code == SQLITE_IOERR_SHMSIZE;
-  return {cause(code, message, path), "", noRoom ? DataAccessError::Kind::noRoom : DataAccessError::Kind::other};
+  using enum DataAccessError::Kind;
+  const bool wantsRoom = primary == SQLITE_FULL || code == SQLITE_IOERR_SHMSIZE;
+  return {cause(code, message, path), "", wantsRoom ? noRoom : primary == SQLITE_NOMEM ? noMemory : other};
 }
 
 DataAccessError inStatement(const DataAccessError& error, std::string_view sql) {

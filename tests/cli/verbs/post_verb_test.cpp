@@ -51,6 +51,27 @@ TEST_F(PostVerb, AddsAVariableBehindTheOthers) {
   EXPECT_EQ(err, "");
 }
 
+TEST_F(PostVerb, ReadsAValueThatNobodyIsToSee) {
+  input = "se cret\r\n";
+  EXPECT_EQ(run({"post", "1", "add", "key", "--value-file", "-"}), exit_status::ok) << err;
+  EXPECT_EQ(vars(), "key|se cret\n");
+  EXPECT_EQ(out.find("se cret"), std::string::npos);
+  input = "two\nlines";
+  EXPECT_EQ(run({"post", "1", "add", "", "--value-file=-"}), exit_status::ok) << err;
+  EXPECT_EQ(vars(), "key|se cret\n|two\nlines\n");
+  for (const auto& arguments :
+       std::vector<std::vector<std::string>>{{"post", "1", "add", "a", "b", "--value-file", "-"},
+                                             {"post", "1", "add", "--value-file", "-"},
+                                             {"post", "1", "add", "a", "--value-file", "none"},
+                                             {"post", "1", "change", "key", "--value-file", "-"},
+                                             {"post", "1", "remove", "key", "--value-file", "-"},
+                                             {"post", "1", "--value-file", "-"}}) {
+    EXPECT_EQ(run(arguments), exit_status::failed) << ::testing::PrintToString(arguments);
+    EXPECT_THAT(err, ::testing::StartsWith("tarnwickctl: ")) << ::testing::PrintToString(arguments);
+  }
+  EXPECT_EQ(vars(), "key|se cret\n|two\nlines\n");
+}
+
 TEST_F(PostVerb, SaysWhenAVariableWillNotBeSent) {
   folder.execute("update sites set method = 'GET'");
   EXPECT_EQ(run({"post", "1", "add", "a", "1"}), exit_status::ok);

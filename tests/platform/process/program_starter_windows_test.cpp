@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <windows.h>
+
+#include <objbase.h>
+#include <objidl.h>
+#include <shlobj.h>
+
 #include <fstream>
 #include <iterator>
 #include <QCoreApplication>
@@ -8,6 +14,7 @@
 #include <QTimer>
 
 #include "platform/local_files.h"
+#include "platform/os/windows_text.h"
 #include "platform/process/detached_programs.h"
 #include "support/program_folder.h"
 #include "support/wait_until.h"
@@ -24,6 +31,24 @@ class ProgramStart : public ::testing::Test {
   }
   std::string make(const std::string& name, const std::string& text) const {
     std::ofstream(pathOf(at(name)), std::ios::binary) << text;
+    return at(name);
+  }
+  /// A shortcut to a program, with arguments of its own.
+  std::string link(const std::string& name, const std::string& target, const std::string& arguments) const {
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    IShellLinkW* shortcut = nullptr;
+    IPersistFile* file = nullptr;
+    EXPECT_EQ(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                               reinterpret_cast<void**>(&shortcut)),
+              S_OK);
+    const std::string native = QDir::toNativeSeparators(QString::fromStdString(target)).toStdString();
+    shortcut->SetPath(wideOf(native).c_str());
+    shortcut->SetArguments(wideOf(arguments).c_str());
+    shortcut->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file));
+    EXPECT_EQ(file->Save(wideOf(at(name)).c_str(), TRUE), S_OK);
+    file->Release();
+    shortcut->Release();
+    CoUninitialize();
     return at(name);
   }
   /// What the program has written to `out`, once it is there.
@@ -51,7 +76,7 @@ TEST_F(ProgramStart, AProgramIsGivenEveryArgumentAsItIsAndRunsInTheProgramFolder
 }
 
 TEST_F(ProgramStart, AProgramIsFoundWithoutItsEndingInAFolderWithABlank) {
-  makeFolder(at("a \xc3\xa4"));
+  LocalFiles().makeFolder(at("a \xc3\xa4"));
   std::filesystem::copy_file(pathOf(TARNWICK_ARGUMENTS_PROBE), pathOf(at("a \xc3\xa4/probe.exe")));
   EXPECT_TRUE(programs.start({at("a \xc3\xa4/probe"), at("out"), "x"}));
   EXPECT_TRUE(written().ends_with("\n[x]"));
@@ -73,6 +98,27 @@ TEST_F(ProgramStart, NothingThatABatchFileIsGivenIsAVariable) {
   const std::string batch = make("a b.bat", "@\"" TARNWICK_ARGUMENTS_PROBE "\" \"" + at("out") + "\" %*\r\n");
   EXPECT_TRUE(programs.start({batch, "%OS%", "100% of %OS% %"}));
   EXPECT_EQ(written(), programFolder() + "\n[%OS%][100% of %OS% %]");
+}
+
+TEST_F(ProgramStart, AShortcutIsWhatItLeadsTo) {
+  const std::string program = link("a program.lnk", TARNWICK_ARGUMENTS_PROBE, "\"" + at("out") + "\" \"of its own\"");
+  EXPECT_TRUE(programs.start({program, "x & y", "%OS%", "a\"b"}));
+  EXPECT_EQ(written(), programFolder() + "\n[of its own][x & y][%OS%][a\"b]");
+}
+
+TEST_F(ProgramStart, NothingThatAShortcutToABatchFileIsGivenIsACommand) {
+  const std::string batch = make("a b.bat", "@\"" TARNWICK_ARGUMENTS_PROBE "\" \"" + at("out") + "\" %*\r\n");
+  const std::string shortcut = link("a batch file.lnk", batch, "");
+  EXPECT_TRUE(programs.start({link("to a shortcut.lnk", shortcut, ""), "a b", "x&echo>" + at("evil"), "p|q<r>s"}));
+  EXPECT_EQ(written(), programFolder() + "\n[a b][x&echo>" + at("evil") + "][p|q<r>s]");
+  EXPECT_EQ(LocalFiles().kindOf(at("evil")), FileKind::none);
+}
+
+TEST_F(ProgramStart, ABatchFileIsSeenForWhatItIsHoweverItsNameEnds) {
+  make("a b.bat", "@\"" TARNWICK_ARGUMENTS_PROBE "\" \"" + at("out") + "\" %*\r\n");
+  EXPECT_TRUE(programs.start({at("a b.BAT. . "), "x&echo>" + at("evil")}));
+  EXPECT_EQ(written(), programFolder() + "\n[x&echo>" + at("evil") + "]");
+  EXPECT_EQ(LocalFiles().kindOf(at("evil")), FileKind::none);
 }
 
 TEST_F(ProgramStart, AScriptIsStartedWithItsArguments) {

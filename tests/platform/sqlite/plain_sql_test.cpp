@@ -33,6 +33,21 @@ TEST(PlainSql, NothingIsTranslated) {
   EXPECT_EQ(database.conn->execute("select 'now()'", {})->field(0).toText(), "now()");
 }
 
+TEST(PlainSql, TheFormOfAListIsNotTrustedAndNotRewritten) {
+  const OpenDatabase open;
+  EXPECT_EQ(open.rows("pragma trusted_schema"), "0;");
+  open.run("pragma writable_schema = on");
+  EXPECT_THROW(open.run("update sqlite_master set sql = 'create table sites (idSite)' where name = 'sites'"),
+               DataAccessError);
+  // A trigger of somebody else, and one that the functions of this program serve.
+  open.run("create trigger unsafe after insert on postVars begin select load_extension('libc.so.6'); end");
+  EXPECT_THROW(open.run("insert into postVars (idSite) values (1)"), DataAccessError);
+  open.run("drop trigger unsafe");
+  open.run("create trigger safe after insert on postVars begin select datediff('n', '2024-01-01', '2024-01-02'); end");
+  open.run("insert into postVars (idSite) values (1)");
+  EXPECT_EQ(open.rows("select idSite from postVars"), "1;");
+}
+
 TEST(PlainSql, AsManyValuesAreGivenAsTheStatementTakes) {
   const OpenDatabase database;
   const std::vector<SqlValue> one{SqlValue(std::int64_t{1})};
