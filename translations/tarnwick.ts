@@ -983,6 +983,10 @@ Do You Want To Discard Them And Close %2?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The user name holds a line end. Enter it as one line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This variable is not stored as it is shown. Press Apply to store the list, then click the variable again.</source>
         <translation type="unfinished"></translation>
     </message>

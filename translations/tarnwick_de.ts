@@ -985,6 +985,10 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <translation>Möchten Sie die Änderungen an Seite %1 verwerfen?</translation>
     </message>
     <message>
+        <source>The user name holds a line end. Enter it as one line.</source>
+        <translation>Der Benutzername enthält ein Zeilenende. Geben Sie ihn in einer Zeile ein.</translation>
+    </message>
+    <message>
         <source>This variable is not stored as it is shown. Press Apply to store the list, then click the variable again.</source>
         <translation>Diese Variable ist nicht so gespeichert, wie sie gezeigt wird. Drücken Sie Apply, um die Liste zu speichern, und klicken Sie die Variable dann noch einmal an.</translation>
     </message>

@@ -84,6 +84,18 @@ struct ListedSite {
   ListFields given;
 };
 
+/// What a file may hold at most: more than any list has, and little enough for time and memory.
+namespace list_bound {
+inline constexpr std::size_t sites = 32767;     ///< there are no more ids
+inline constexpr std::size_t fields = 1000;     ///< of a row of CSV
+inline constexpr std::size_t members = 100;     ///< of a JSON object
+inline constexpr std::size_t elements = 10000;  ///< of a JSON array: the variables of a site
+}  // namespace list_bound
+
+/// The fault of a file with more sites.
+inline constexpr const char* kTooManySites =
+    "the file holds more than 32767 sites, and a list has no ids for more: leave some out";
+
 /// What is wrong with a file, line by line. Keeps the first faults and counts the others.
 class ListFaults {
  public:

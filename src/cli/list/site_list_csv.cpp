@@ -188,6 +188,10 @@ std::vector<ListedSite> readSiteListCsv(std::string_view text, ListFaults& fault
                                   ": give each column its field, and put one that holds a comma in quotes");
       continue;
     }
+    if (sites.size() == list_bound::sites) {
+      faults.add(record.line, kTooManySites);
+      return sites;
+    }
     const std::size_t before = faults.count();
     ListedSite site;
     site.line = record.line;

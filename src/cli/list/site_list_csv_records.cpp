@@ -24,6 +24,11 @@ bool CsvRecords::next(CsvRecord& record) {
   while (rest_.starts_with(',')) {
     take(1);
     readField(record);
+    if (record.fields.size() > list_bound::fields) {
+      fault(record, "the row has more than " + std::to_string(list_bound::fields) +
+                        " fields, and the list has no such columns: leave them out");
+      record.fields.pop_back();
+    }
   }
   skipLineEnd();
   return true;

@@ -55,6 +55,13 @@ class ValueBuilder {
     open_.push_back(place);
   }
   void end() { open_.pop_back(); }
+  /// How much the innermost container holds.
+  std::size_t size() const {
+    const JsonValue& container = *open_.back();
+    const auto* const array = container.as<JsonValue::Array>();
+    return array != nullptr ? array->size() : container.as<JsonValue::Object>()->size();
+  }
+  bool isArray() const { return open_.back()->as<JsonValue::Array>() != nullptr; }
   /// False when the object has such a member already.
   bool key(std::string name) {
     key_ = std::move(name);
@@ -110,6 +117,10 @@ class ListHandler final : public nlohmann::json_sax<Json> {
         place_ = Place::list;
         return true;
       case Place::sites:
+        if (++sitesMet_ > list_bound::sites) {
+          faults_.add(line_, kTooManySites);
+          return false;
+        }
         place_ = Place::site;
         siteLine_ = line_;
         siteFaults_ = faults_.count();
@@ -139,6 +150,9 @@ class ListHandler final : public nlohmann::json_sax<Json> {
   bool key(std::string& name) override {
     if (place_ == Place::list) {
       return listKey(name);
+    }
+    if (builder_.size() == list_bound::members) {
+      return tooMuch("an object of more than " + std::to_string(list_bound::members) + " members");
     }
     if (!builder_.key(name)) {
       faults_.add(siteLine_, "the member " + quotedForMessage(name) + " is given twice: leave one of them out");
@@ -200,6 +214,9 @@ class ListHandler final : public nlohmann::json_sax<Json> {
   template <typename Value>
   bool value(Value value) {
     if (inValue()) {
+      if (fullArray()) {
+        return false;
+      }
       builder_.put(JsonValue(std::move(value)));
       return true;
     }
@@ -220,8 +237,21 @@ class ListHandler final : public nlohmann::json_sax<Json> {
       faults_.add(siteLine_, "the site holds objects in objects that no member has: leave them out");
       return false;
     }
+    if (builder_.isOpen() && fullArray()) {
+      return false;
+    }
     builder_.begin(std::move(container));
     return true;
+  }
+
+  bool tooMuch(const std::string& what) {
+    faults_.add(siteLine_, "the site holds " + what + ", and none has so many: leave them out");
+    return false;
+  }
+
+  bool fullArray() {
+    return builder_.isArray() && builder_.size() == list_bound::elements &&
+           !tooMuch("an array of more than " + std::to_string(list_bound::elements) + " values");
   }
 
   bool misplaced() {
@@ -275,6 +305,7 @@ class ListHandler final : public nlohmann::json_sax<Json> {
   ValueBuilder builder_;
   std::size_t siteLine_ = 0;
   std::size_t siteFaults_ = 0;
+  std::size_t sitesMet_ = 0;
   std::vector<ListedSite> sites_;
 };
 

@@ -9,6 +9,7 @@
 #include <optional>
 #include <vector>
 
+#include "base/one_line.h"
 #include "base/text.h"
 #include "cli/list/site_list.h"
 #include "cli/terminal/input_file.h"
@@ -89,6 +90,10 @@ void apply(FileSystem& files, const Fields& fields, const SiteEdit& edit, SiteDr
   }
   if (edit.noAlertEmail) {
     site.alertEmail = false;
+  }
+  if (edit.user && hasLineEnd(*edit.user)) {
+    throw std::runtime_error("The user name \"" + visibleText(*edit.user) +
+                             "\" holds a line end, which could become a command to a server. Give it as one line.");
   }
   site.sUserName = edit.user.value_or(site.sUserName);
   site.sPassWord = edit.password.value_or(site.sPassWord);

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 
+#include "base/one_line.h"
 #include "ui/baseline/content_dialog.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
@@ -116,6 +117,11 @@ void SiteEditor::showPostVars(std::vector<PostVar> vars) {
 }
 
 bool SiteEditor::validate() {
+  if (hasLineEnd(controls_.tUsername->bytes())) {
+    tell(*this, program_, tr("The user name holds a line end. Enter it as one line.").toStdString(),
+         [this] { turnTo(*controls_.tUsername); });
+    return false;
+  }
   if (!controls_.cEmail->isChecked() || m::isEmail(controls_.tEmail->bytes())) {
     return true;
   }

@@ -185,5 +185,22 @@ TEST(ListedPostVars, AreRefusedWithTheRemedy) {
   EXPECT_THROW(decodePostVars("a=%0"), std::invalid_argument);
 }
 
+TEST_F(SiteListCsv, HoldsNoMoreFieldsThanAListHasColumns) {
+  const std::string commas(1000, ',');
+  const std::string fault = "the row has more than 1000 fields, and the list has no such columns: leave them out\n";
+  EXPECT_EQ(faultsOf("url" + commas + "\na\n"), "1: " + fault);
+  EXPECT_EQ(faultsOf("url\n" + commas + "\n" + commas + commas + "\nb\n"), "2: " + fault + "3: " + fault);
+}
+
+TEST_F(SiteListCsv, HoldsNoMoreSitesThanThereAreIds) {
+  std::string text = "url\n";
+  for (int site = 0; site < 32767; ++site) {
+    text += "a\n";
+  }
+  EXPECT_EQ(faultsOf(text), "");
+  EXPECT_EQ(faultsOf(text + "a\na\n"),
+            "32769: the file holds more than 32767 sites, and a list has no ids for more: leave some out\n");
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 namespace tarnwick::testing {
@@ -135,6 +136,41 @@ TEST_F(SiteListJson, RefusesWhatIsNoListOfSites) {
 TEST_F(SiteListJson, DoesNotFollowIntoTheDeep) {
   EXPECT_THAT(faultsOfSites("{\"url\": " + std::string(100000, '[')),
               HasSubstr("2: the site holds objects in objects"));
+}
+
+/// `count` times what `piece` makes of the number, with commas between.
+std::string many(std::size_t count, const std::function<std::string(std::size_t)>& piece) {
+  std::string text;
+  for (std::size_t i = 0; i < count; ++i) {
+    text += (i == 0 ? "" : ",") + piece(i);
+  }
+  return text;
+}
+
+TEST_F(SiteListJson, HoldsNoMoreMembersThanASiteCanHave) {
+  const auto member = [](std::size_t i) { return "\"m" + std::to_string(i) + "\":1"; };
+  EXPECT_EQ(faultsOfSites("{" + many(40000, member) + "}"),
+            "2: the site holds an object of more than 100 members, and none has so many: leave them out\n");
+  EXPECT_THAT(faultsOf("{\"tarnwick\":1,\"options\":{" + many(40000, member) + "},\"sites\":[]}"),
+              HasSubstr("more than 100 members"));
+  EXPECT_EQ(faults_.count(), 1U);
+}
+
+TEST_F(SiteListJson, HoldsNoMoreVariablesThanAFormHas) {
+  const auto null = [](std::size_t) { return std::string("null"); };
+  const auto nothing = [](std::size_t) { return std::string("[]"); };
+  for (const auto& piece : {std::function<std::string(std::size_t)>(null), {nothing}}) {
+    EXPECT_EQ(faultsOfSites("{\"url\": \"a\", \"postVars\": [" + many(10001, piece) + "]}"),
+              "2: the site holds an array of more than 10000 values, and none has so many: leave them out\n");
+  }
+  const auto variable = [](std::size_t) { return std::string(R"({"pname":"a","pvalue":"b"})"); };
+  EXPECT_EQ(faultsOfSites("{\"url\": \"a\", \"postVars\": [" + many(10000, variable) + "]}"), "");
+}
+
+TEST_F(SiteListJson, HoldsNoMoreSitesThanThereAreIds) {
+  const auto site = [](std::size_t) { return std::string(R"({"url":"a"})"); };
+  EXPECT_EQ(faultsOfSites(many(32767, site)), "");
+  EXPECT_THAT(faultsOfSites(many(32768, site)), HasSubstr("more than 32767 sites"));
 }
 
 }  // namespace

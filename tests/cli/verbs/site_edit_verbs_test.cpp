@@ -97,6 +97,17 @@ TEST_F(AddVerb, RefusesWhatCannotBeFetched) {
   EXPECT_EQ(folder.queryText("select count(*) from sites"), "0");
 }
 
+TEST_F(AddVerb, RefusesAUserNameOfSeveralLines) {
+  for (const char* user : {"me\r\nDELE x", "me\n", "\rme"}) {
+    EXPECT_EQ(run({"add", "ftp://a.test/", "--user", user}), exit_status::failed) << user;
+    EXPECT_THAT(err, HasSubstr("holds a line end"));
+  }
+  EXPECT_EQ(folder.queryText("select count(*) from sites"), "0");
+  EXPECT_EQ(run({"add", "ftp://a.test/", "--user", "me"}), exit_status::ok) << err;
+  EXPECT_EQ(run({"set", "1", "--user", "you\nx"}), exit_status::failed);
+  EXPECT_EQ(folder.queryText("select sUserName from sites"), "me");
+}
+
 TEST_F(AddVerb, RefusesAnIntervalThatIsNone) {
   for (const char* interval : {"0", "32768", "1.5", "x", "", "1 ", "99999999999999999999"}) {
     EXPECT_EQ(run({"add", "http://a/", "--interval", interval}), exit_status::failed) << interval;

@@ -296,6 +296,16 @@ TEST_F(SiteEditorTest, AnInvalidAddressBlocksApplyWithOneBox) {
   EXPECT_EQ(text(editor, "tUrl"), "http://typed.test/");
 }
 
+TEST_F(SiteEditorTest, AUserNameOfSeveralLinesIsNotSaved) {
+  addSite(1, "ftp://one.test/");
+  auto& editor = openEditor();
+  in<QLineEdit>(editor, "tUsername").setText(QStringLiteral("me\r\nDELE x"));
+  press(editor, "Command3");
+  ASSERT_EQ(machine.prompts.texts(), Strings{"The user name holds a line end. Enter it as one line."});
+  EXPECT_EQ(editor.focusWidget(), &in<QWidget>(editor, "tUsername"));
+  EXPECT_NE(column(1, "sUserName"), "me\r\nDELE x");
+}
+
 TEST_F(SiteEditorTest, AnInvalidAddressIsToldTwiceByOkWhichStaysOpen) {
   addSite(1, "http://one.test/", ",alertEmail,email", ",1,'nobody'");
   auto& editor = openEditor();
