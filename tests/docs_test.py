@@ -53,6 +53,7 @@ NO_MESSAGES = {
     "src/ui/site/new_post_var.cpp": ("hints in the fields", ()),
     "src/ui/main_window/site_*.cpp": ("heads and hints of the list", ()),
     "src/ui/main_window/master.cpp": ("the foot of the window, and hints", ()),
+    "src/ui/main_window/damage_box.cpp": ("the kinds of files in the file dialog", ("Lists of Sites",)),
     "src/ui/settings/control_dialog.cpp": ("the kinds of files in the file dialog", ("Audio Files", "Program Files")),
     "src/alerts/alert_dispatch.cpp": ("the subject of the mails", ("A WEB SITE ERROR",)),
     "src/cli/verbs/command_line.cpp": ("the tool's own help", ("Tarnwick watches", "Exit status:")),

@@ -655,6 +655,14 @@
         <source>milliseconds</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Do You Want To Choose A Copy And Put It In Its Place?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy is in its place. The list before is kept as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>

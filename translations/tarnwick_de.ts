@@ -655,6 +655,14 @@
         <source>milliseconds</source>
         <translation>Millisekunden</translation>
     </message>
+    <message>
+        <source>Do You Want To Choose A Copy And Put It In Its Place?</source>
+        <translation>Wollen Sie eine Kopie wählen und an ihre Stelle setzen?</translation>
+    </message>
+    <message>
+        <source>The copy is in its place. The list before is kept as %1</source>
+        <translation>Die Kopie ist an ihrer Stelle. Die Liste davor ist aufgehoben als %1</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>

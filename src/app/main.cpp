@@ -36,11 +36,12 @@ int main(int argc, char** argv) {
   }
   tarnwick::loadTranslations(application, {QString::fromStdString(folder), executableFolder});
   tarnwick::Master window(folder, machine.services());
-  if (!window.load()) {
-    return failed();
-  }
   window.setEditors({.site = tarnwick::siteEditorOf(window.program(), window),
                      .settings = tarnwick::settingsDialogOf(window.program(), window)});
+  if (!window.load()) {
+    failed();
+    return window.isLoaded() ? EXIT_SUCCESS : EXIT_FAILURE;
+  }
   // It may have been closed while it loaded.
   return window.isVisible() ? QApplication::exec() : EXIT_SUCCESS;
 }

@@ -18,6 +18,7 @@ class DataAccessError : public std::runtime_error {
     other,
     noRoom,    ///< the disk is full, or what the user may take of it
     noMemory,  ///< memory was refused
+    damaged,   ///< a good copy in the file's place helps
   };
 
   /// `cause` is the readable reason; `statement` the SQL text that failed (may be empty; long ones are shortened).

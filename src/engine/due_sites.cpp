@@ -14,7 +14,8 @@ namespace {
 
 constexpr const char* kIsDue = " datediff('n',[lastChecked],now()) >= tInterval ";
 constexpr const char* kIsActive = " active = true";
-constexpr const char* kWasNeverChecked = " where lastChecked is null and active <> 0";
+// Nor was one, as far as can be told, whose stamp cannot be read: it would never be due.
+constexpr const char* kWasNeverChecked = " where datediff('s', lastChecked, '2000-01-01') is null and active <> 0";
 constexpr const char* kById = " ORDER BY idSite";
 
 // A last check of another age, as a file from elsewhere or a wrong clock leaves behind, must not end the countdown: a
@@ -41,8 +42,17 @@ TextTable DueSites::getArraySitesActiveTrue(std::int16_t mode) {
 }
 
 TextTable DueSites::getSitesDueOrNeverChecked() {
-  return readSiteTable(db_, joinSql("SELECT ", kSiteFields, " from sites where ", "([lastChecked] is null or ", kIsDue,
-                                    ") AND ", kIsActive, " ", kById));
+  TextTable sites = readSiteTable(db_, joinSql("SELECT ", kSiteFields, " from sites where ",
+                                               "([lastChecked] is null or ", kIsDue, ") AND ", kIsActive, " ", kById));
+  const TextTable further = siteTableOf(*db_.conn().execute(
+      joinSql("select ", kSiteFields, " from sites", kWasNeverChecked, " and lastChecked is not null", kById), {}));
+  for (std::size_t row = 1; row <= further.lastRow(); ++row) {
+    const std::size_t added = sites.addRow();
+    for (std::size_t column = site_column::idSite; column <= site_column::last; ++column) {
+      sites.at(column, added) = further.at(column, row);
+    }
+  }
+  return sites;
 }
 
 TextTable DueSites::asStored(std::int16_t idSite) {

@@ -86,7 +86,7 @@ void ResultRecording::xupdateLastChecked(std::int16_t idSite) {
 }
 
 std::optional<LocalTime> ResultRecording::getLastChecked(std::int16_t idSite) {
-  return parseDateTime(firstText(db_, "select lastChecked from sites where idsite = " + sqlQuote(idSite)));
+  return parseStamp(firstText(db_, "select lastChecked from sites where idsite = " + sqlQuote(idSite)));
 }
 
 bool ResultRecording::getStatus(std::int16_t idSite) {
@@ -122,10 +122,10 @@ void ResultRecording::updateStatusCounter(std::int16_t idSite, bool result) {
   }
   const std::int64_t count = stored->toInt64();
   if (count < std::numeric_limits<std::int16_t>::min() || count >= std::numeric_limits<std::int16_t>::max()) {
-    throw OverflowError("Overflow: the " + column + " counter of site " + id + " (" + getUrl(idSite) + ") stands at " +
-                        std::to_string(count) +
-                        " and cannot count further. Clear the counters in the site's "
-                        "Counters dialog.");
+    throw FullCounter("Overflow: the " + column + " counter of site " + id + " (" + getUrl(idSite) + ") stands at " +
+                      std::to_string(count) +
+                      " and cannot count further. Clear the counters in the site's "
+                      "Counters dialog.");
   }
   db_.execute(joinSql("update sites set ", column, " = ", sqlQuote(count + 1), " where idsite = ", id));
   whole.commit();

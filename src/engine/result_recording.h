@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "base/errors.h"
 #include "platform/clock.h"
 #include "store/database.h"
 #include "store/settings_and_log.h"
@@ -25,6 +26,12 @@ enum class KeptPage {
 
 /// What then stands in the place of the page.
 inline constexpr const char* kPageNotKept = "The page was not kept: there is too little room on the disk.";
+
+/// A counter that stands at its limit. The check itself has been recorded.
+class FullCounter : public OverflowError {
+ public:
+  using OverflowError::OverflowError;
+};
 
 /// Judges a fetched page and keeps the outcome in the site's row and in the log. A site is up when the page equals its
 /// stored baseline byte for byte; the first page of a site without a baseline becomes its baseline. Every failed
@@ -82,7 +89,7 @@ class ResultRecording {
   /// The site's address; empty when there is no such site.
   std::string getUrl(std::int16_t idSite);
 
-  /// Adds 1 to the counter `success` (true) or `failure` (false); Null counts as 0. Raises OverflowError, with nothing
+  /// Adds 1 to the counter `success` (true) or `failure` (false); Null counts as 0. Raises FullCounter, with nothing
   /// written, when the counter would pass 32767.
   void updateStatusCounter(std::int16_t idSite, bool result);
 

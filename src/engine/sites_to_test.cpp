@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/clock.h"
 #include "store/site_table.h"
 
 namespace tarnwick {
@@ -49,7 +50,7 @@ TextTable SitesToTest::choose(std::int16_t mode, bool neverCheckedToo) {
   }
   taken_.clear();
   for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
-    if (sites.isNull(site_column::lastChecked, row)) {
+    if (!parseStamp(sites.at(site_column::lastChecked, row))) {
       taken_.insert(sites.at(site_column::idSite, row));
     }
   }

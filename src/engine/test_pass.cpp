@@ -94,7 +94,7 @@ void TestPass::test(TextTable sites) {
 
 // A full counter costs nothing that has to be done again; a result that could not be recorded must not hide behind it.
 void TestPass::raiseDeferred() const {
-  for (const std::exception_ptr& fault : {deferred_, overflow_}) {
+  for (const std::exception_ptr& fault : {deferred_, unusableId_, fullCounter_}) {
     if (fault) {
       std::rethrow_exception(fault);
     }
@@ -173,7 +173,7 @@ void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
 void TestPass::recordRowsWithoutAddress() {
   for (std::size_t row = 0; !stopped() && (row = upcoming()) > 0;) {
     if (!hasUsableId(row)) {
-      deferFault(overflow_, unusableId(row));
+      deferFault(unusableId_, unusableId(row));
     } else if (url(row).empty()) {
       needs_.view.showStatus("Testing: ");
       record(row, {std::string("11:") + kNoAddress, static_cast<std::int32_t>(TransferFault::badUrl), kNoAddress});
@@ -374,8 +374,8 @@ void TestPass::alertAndCount(std::size_t row) {
   }
   try {
     needs_.results.updateStatusCounter(id, false);
-  } catch (const OverflowError&) {
-    deferFault(overflow_, std::current_exception());
+  } catch (const FullCounter&) {
+    deferFault(fullCounter_, std::current_exception());
   }
   failure.counted();
   needs_.view.updateGridRow(id, false);
@@ -390,8 +390,8 @@ FirstBaseline TestPass::firstBaselineOf(std::int16_t id) const {
 void TestPass::countSuccess(std::int16_t id) {
   try {
     run_.countResult(id, true);
-  } catch (const OverflowError&) {
-    deferFault(overflow_, std::current_exception());
+  } catch (const FullCounter&) {
+    deferFault(fullCounter_, std::current_exception());
   }
 }
 

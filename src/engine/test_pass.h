@@ -114,7 +114,8 @@ class TestPass {
   // The first faults that concern one site alone, told when the others have been tested: one that left its check to be
   // done again, and one that did not.
   std::exception_ptr deferred_;
-  std::exception_ptr overflow_;
+  std::exception_ptr unusableId_;
+  std::exception_ptr fullCounter_;
   InFlight inFlight_{{}, {}};
   std::int64_t progressStep_ = 0;
   std::int64_t progressWidth_ = -1;

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/clock.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <ctime>
+
+#include "base/text.h"
 
 namespace tarnwick {
 
@@ -42,6 +45,117 @@ std::optional<LocalTime> parseDateTime(std::string_view text) {
     return std::nullopt;
   }
   return local_days{day} + hours{fields.tm_hour} + minutes{fields.tm_min} + seconds{fields.tm_sec};
+}
+
+namespace {
+
+/// Takes a text apart from its beginning.
+class Pieces {
+ public:
+  explicit Pieces(std::string_view text) : rest_(text) {}
+
+  bool isAtEnd() const { return rest_.empty(); }
+  /// Takes one of these characters.
+  bool take(std::string_view oneOf) {
+    const bool taken = !rest_.empty() && oneOf.find(rest_.front()) != std::string_view::npos;
+    rest_.remove_prefix(taken ? 1 : 0);
+    return taken;
+  }
+  /// Takes exactly so many digits.
+  std::optional<std::string_view> digits(std::size_t count) {
+    if (rest_.size() < count || !std::ranges::all_of(rest_.substr(0, count), isDigit)) {
+      return std::nullopt;
+    }
+    const std::string_view taken = rest_.substr(0, count);
+    rest_.remove_prefix(count);
+    return taken;
+  }
+
+ private:
+  std::string_view rest_;
+};
+
+int numberOf(std::string_view digits) {
+  int number = 0;
+  for (const char digit : digits) {
+    number = number * 10 + (digit - '0');
+  }
+  return number;
+}
+
+/// "Z", "+02:00", "-0530", "+02"; nothing when there is none or it is no such distance.
+std::optional<minutes> takeDistance(Pieces& pieces) {
+  if (pieces.take("Zz")) {
+    return minutes{0};
+  }
+  const bool west = pieces.take("-");
+  if (!west && !pieces.take("+")) {
+    return std::nullopt;
+  }
+  const auto wholeHours = pieces.digits(2);
+  const bool colon = wholeHours && pieces.take(":");
+  const auto rest = wholeHours ? pieces.digits(2) : std::nullopt;
+  if (!wholeHours || (colon && !rest)) {
+    return std::nullopt;
+  }
+  const minutes distance = hours{numberOf(*wholeHours)} + minutes{rest ? numberOf(*rest) : 0};
+  return west ? -distance : distance;
+}
+
+}  // namespace
+
+std::optional<LocalTime> parseStamp(std::string_view text) {
+  constexpr std::size_t kDateLength = 10;
+  Pieces pieces(text.substr(std::min(text.size(), kDateLength)));
+  const bool hasTime = pieces.take("Tt ");
+  const auto hour = hasTime ? pieces.digits(2) : std::nullopt;
+  const auto minute = hour && pieces.take(":") ? pieces.digits(2) : std::nullopt;
+  if (!minute) {
+    return parseDateTime(text);
+  }
+  std::string_view second = "00";
+  if (pieces.take(":")) {
+    const auto stored = pieces.digits(2);
+    if (!stored) {
+      return std::nullopt;
+    }
+    second = *stored;
+    if (pieces.take(".,")) {
+      if (!pieces.digits(1)) {
+        return std::nullopt;
+      }
+      while (pieces.digits(1)) {
+      }
+    }
+  }
+  const auto time = parseDateTime(std::string(text.substr(0, kDateLength))
+                                      .append(" ")
+                                      .append(*hour)
+                                      .append(":")
+                                      .append(*minute)
+                                      .append(":")
+                                      .append(second));
+  if (!time || pieces.isAtEnd()) {
+    return time;
+  }
+  pieces.take(" ");
+  const auto distance = takeDistance(pieces);
+  if (!distance || !pieces.isAtEnd()) {
+    return std::nullopt;
+  }
+  return localTimeAt(sys_seconds(time->time_since_epoch()) - *distance);
+}
+
+LocalTime localTimeAt(sys_seconds moment) {
+  const std::time_t time = system_clock::to_time_t(moment);
+  // There is only one thread that could ask for another time meanwhile.
+  const std::tm* const fields = std::localtime(&time);  // NOLINT(concurrency-mt-unsafe)
+  if (fields == nullptr) {
+    return LocalTime(moment.time_since_epoch());
+  }
+  const year_month_day date{year{fields->tm_year + 1900}, month{static_cast<unsigned>(fields->tm_mon + 1)},
+                            day{static_cast<unsigned>(fields->tm_mday)}};
+  return local_days{date} + hours{fields->tm_hour} + minutes{fields->tm_min} + seconds{fields->tm_sec};
 }
 
 milliseconds SystemClock::steadyNow() const {

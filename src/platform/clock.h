@@ -35,6 +35,13 @@ std::string dateText(LocalTime time);
 /// Reads "YYYY-MM-DD HH:MM:SS" or "YYYY-MM-DD" (midnight); nothing when the text is no such date.
 std::optional<LocalTime> parseDateTime(std::string_view text);
 
+/// The same of a stamp as other tools write it, too: a `T` for the blank, without seconds, with fractions of them
+/// (which are cut off), and with `Z` or the distance from UTC behind it, which leads to the local time of that moment.
+std::optional<LocalTime> parseStamp(std::string_view text);
+
+/// What the clock on the wall of this machine's time zone shows at a moment.
+LocalTime localTimeAt(std::chrono::sys_seconds moment);
+
 /// The clocks of the operating system.
 class SystemClock final : public Clock {
  public:

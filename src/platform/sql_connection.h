@@ -75,17 +75,21 @@ class SqlConnection {
   virtual bool readOnly() const = 0;
 };
 
-/// A database file that no connection has open and that is kept so, by every program, for this object's life: it can
-/// be copied and replaced as a whole. Nothing that belongs to it lies in a file beside it.
-class HeldDatabase {
+/// A file, sound or not, that no connection has open as a database, and that is kept so, by every program, for this
+/// object's life: it can be copied and replaced as a whole.
+class HeldFile {
  public:
-  virtual ~HeldDatabase() = default;
+  virtual ~HeldFile() = default;
 
   /// Hands all bytes of the file to `sink`, piece by piece from its start. Raises DataAccessError, and whatever the
   /// sink raises. The file must be read here and nowhere else: on some systems opening and closing it a second time
   /// would end the hold.
   virtual void read(const ByteSink& sink) = 0;
+};
 
+/// A held file that is a sound database. Nothing that belongs to it lies in a file beside it.
+class HeldDatabase : public HeldFile {
+ public:
   /// Writes the database without its unused space to the file that `destination`, a connection string, names, and
   /// checks what was written. The file must not exist; it gets this database's permissions. Raises DataAccessError, and
   /// may leave a partial file then.
@@ -101,6 +105,9 @@ class SqlConnectionMaker {
   /// Holds the file that `connString` names. Raises DataAccessError when it is missing or damaged, and when a
   /// connection of this program or another one has it open; it is as it was then.
   virtual std::unique_ptr<HeldDatabase> holdDatabase(const std::string& connString) = 0;
+
+  /// The same for a file that may be damaged, or no database at all; what lies beside it is left as it is.
+  virtual std::unique_ptr<HeldFile> holdFile(const std::string& connString) = 0;
 };
 
 }  // namespace tarnwick

@@ -19,6 +19,8 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       AlertDispatch(ownedDatabase_, *this, *this, ownedMail_, services),
       DailyReport(ownedDatabase_, services.files, services.clock),
       Compaction(ownedDatabase_, services.databases, services.files, services.prompts),
-      fields_(fields) {}
+      fields_(fields) {
+  removeRemains();
+}
 
 }  // namespace tarnwick

@@ -59,7 +59,6 @@ ReportTimer& Program::report() { return parts().report; }
 
 void Program::start() {
   run().init();
-  data().removeRemains();
   data().reIdpostVars();
   run().prepare();
   report().prepare();

@@ -35,6 +35,7 @@ class Program {
 
   /// The program's data, opened on first use; raises DataAccessError when the database cannot be opened.
   m& data();
+  bool isOpen() const { return parts_ != nullptr; }
   /// The run and the pool it fetches through. A run is started by `startRun`, which takes the folder's lock.
   RunController& run();
   InetPool& pool();

@@ -7,6 +7,8 @@
 
 #include "base/errors.h"
 #include "base/product.h"
+#include "store/restoration.h"
+#include "store/side_files.h"
 
 namespace tarnwick {
 namespace {
@@ -14,12 +16,6 @@ namespace {
 constexpr std::string_view kLiveName = kDatabaseFile;
 constexpr std::string_view kTempName = "temp.mdb";
 constexpr const char* kBackupName = "backup.mdb";
-
-/// A copy bears this behind its name until it is whole.
-constexpr const char* kUnfinished = ".new";
-
-/// What may lie beside a database and belongs to it alone: beside another one of its name it would damage that one.
-constexpr const char* kSideFiles[] = {"-wal", "-shm", "-journal"};
 
 /// Runs `action`; false when it raised something.
 template <typename Action>
@@ -83,7 +79,7 @@ void Compaction::backUp(HeldDatabase& held) {
   const std::string unfinished = backup + kUnfinished;
   files_.write(unfinished, db_.dbPath(), [&](const ByteSink& sink) { held.read(sink); });
   try {
-    removeSideFiles(backup);
+    removeSideFiles(files_, backup);
     files_.rename(unfinished, backup);
   } catch (...) {
     succeeds([&] { files_.remove(unfinished); });
@@ -95,7 +91,7 @@ bool Compaction::compactToTemp(HeldDatabase& held) {
   const std::string temp = inFolder(std::string(kTempName));
   succeeds([&] { files_.remove(temp); });
   const bool done = succeeds([&] {
-    removeSideFiles(temp);
+    removeSideFiles(files_, temp);
     held.compactInto(destinationOf(db_.connString()));
   });
   if (!done) {
@@ -114,7 +110,7 @@ void Compaction::putInPlace(std::unique_ptr<HeldDatabase> held) {
     held.reset();
   }
   try {
-    removeSideFiles(live);
+    removeSideFiles(files_, live);
     files_.rename(unfinished, live);
   } catch (...) {
     succeeds([&] { files_.remove(unfinished); });
@@ -127,14 +123,8 @@ void Compaction::removeRemains() noexcept {
   for (const std::string& copy : copies) {
     succeeds([&] { files_.remove(copy); });
   }
-  succeeds([&] { files_.remove(files_.resolveLinks(db_.dbPath()) + kUnfinished); });
-  succeeds([&] { removeSideFiles(inFolder(std::string(kTempName))); });
-}
-
-void Compaction::removeSideFiles(const std::string& path) {
-  for (const char* const ending : kSideFiles) {
-    files_.remove(path + ending);
-  }
+  Restoration::removeRemains(files_, db_.dbPath());
+  succeeds([&] { removeSideFiles(files_, inFolder(std::string(kTempName))); });
 }
 
 }  // namespace tarnwick

@@ -29,9 +29,9 @@ class Compaction {
   /// Whether the last compaction that succeeded has put its file in place; a full disk may keep it from that.
   bool compactedInPlace() const { return inPlace_; }
 
-  /// Removes what a compaction that was killed has left behind: whole copies of the list, passwords included. Nothing
-  /// that a compaction still needs: none is at work while the database is open here. Where the folder may not be
-  /// changed it all stays.
+  /// Removes what a compaction or a restoration that was killed has left behind: whole copies of the list, passwords
+  /// included. Nothing that is still needed: none is at work while the database is open here. Where the folder may not
+  /// be changed it all stays.
   void removeRemains() noexcept;
 
   /// The connection string with every "tarnwick.mdb", in these letters, replaced by "temp.mdb".
@@ -49,7 +49,6 @@ class Compaction {
   void backUp(HeldDatabase& held);
   bool compactToTemp(HeldDatabase& held);
   void putInPlace(std::unique_ptr<HeldDatabase> held);
-  void removeSideFiles(const std::string& path);
   std::string inFolder(const std::string& name) const { return db_.programFolder() + "/" + name; }
 
   Database& db_;

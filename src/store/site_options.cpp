@@ -130,10 +130,10 @@ void SiteOptions::storeOptions(std::int16_t idSite, const OptionValues& values) 
   whole.commit();
 }
 
-void removeOptionsOf(Database& database, std::int16_t idSite) {
+void removeOptionsOf(Database& database, std::int64_t idSite) {
   // No site has those for all, also not one that another tool has given this id.
   if (idSite != kAllSites && hasTable(database)) {
-    const std::array<SqlValue, 1> id{SqlValue(std::int64_t{idSite})};
+    const std::array<SqlValue, 1> id{SqlValue(idSite)};
     run(database, "delete from siteOptions where idSite = ?1", id);
   }
 }

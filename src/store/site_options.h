@@ -76,6 +76,6 @@ class SiteOptions {
 };
 
 /// Removes a site's options with it. REQUIRES: a transaction.
-void removeOptionsOf(Database& database, std::int16_t idSite);
+void removeOptionsOf(Database& database, std::int64_t idSite);
 
 }  // namespace tarnwick

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "base/errors.h"
 #include "base/text.h"
@@ -96,6 +97,24 @@ void SiteRecords::deleteSite(std::int16_t idSite) {
   db_.execute(joinSql("delete from postvars ", " where idsite = ", sqlQuote(idSite)));
   removeOptionsOf(db_, idSite);
   whole.commit();
+}
+
+void SiteRecords::deleteSiteOfAnyId(std::int64_t idSite) {
+  if (std::in_range<std::int16_t>(idSite)) {
+    deleteSite(static_cast<std::int16_t>(idSite));
+    return;
+  }
+  const SqlValue id(idSite);
+  Transaction whole(db_);
+  db_.conn().execute("delete from sites where idSite = ?1", {&id, 1});
+  db_.conn().execute("delete from postVars where idSite = ?1", {&id, 1});
+  removeOptionsOf(db_, idSite);
+  whole.commit();
+}
+
+bool SiteRecords::anyIdExists(std::int64_t idSite) {
+  const SqlValue id(idSite);
+  return !db_.conn().execute("select idSite from sites where idSite = ?1", {&id, 1})->eof();
 }
 
 bool SiteRecords::idExists(std::int16_t idSite) {

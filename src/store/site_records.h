@@ -40,6 +40,9 @@ class SiteRecords {
 
   /// Removes a site, its POST variables and its options. Nothing when there is no such site.
   void deleteSite(std::int16_t idSite);
+  /// The same for an id that another tool has given and that may not fit 16 bits.
+  void deleteSiteOfAnyId(std::int64_t idSite);
+  bool anyIdExists(std::int64_t idSite);
 
   bool idExists(std::int16_t idSite);
 

@@ -45,6 +45,25 @@ TEST_F(DueSitesTest, MinuteBoundariesAreCountedNotWholeMinutes) {
   EXPECT_THAT(ids(site_choice::due), ElementsAre("1"));
 }
 
+TEST_F(DueSitesTest, AStampOfAnotherToolIsReadOrItsSiteCountsAsNeverChecked) {
+  setTime("2024-05-17 12:00:00");
+  addSite(1, true, 10, "'2024-05-17T11:00'");
+  addSite(2, true, 10, "'2024-05-17T11:55:00.5'");
+  addSite(3, true, 10, "'17.05.2024 11:00'");
+  addSite(4, false, 10, "'rubbish'");
+  addSite(5, true, 10, "1715943600");
+  addSite(6, true, 10, "null");
+  EXPECT_THAT(ids(site_choice::due), ElementsAre("1"));
+  EXPECT_EQ(due.neverChecked().count, 3);
+  EXPECT_THAT(due.idsNeverChecked(), ElementsAre(3, 5, 6));
+  const TextTable sites = due.getSitesDueOrNeverChecked();
+  ASSERT_EQ(sites.lastRow(), 4U);
+  EXPECT_EQ(sites.at(site_column::idSite, 1), "1");
+  EXPECT_EQ(sites.at(site_column::idSite, 2), "6");
+  EXPECT_EQ(sites.at(site_column::idSite, 3), "3");
+  EXPECT_EQ(sites.at(site_column::idSite, 4), "5");
+}
+
 TEST_F(DueSitesTest, DueSitesAreActiveOnesInTheOrderOfTheirIds) {
   setTime("2024-05-17 12:00:00");
   addSite(9, true, 10, "'2024-05-17 11:00:00'");

@@ -49,6 +49,7 @@ class WatchedConnections final : public SqlConnectionMaker {
   std::unique_ptr<HeldDatabase> holdDatabase(const std::string& connString) override {
     return real_.holdDatabase(connString);
   }
+  std::unique_ptr<HeldFile> holdFile(const std::string& connString) override { return real_.holdFile(connString); }
 
   SqlWatch watch;
 

@@ -36,6 +36,7 @@ class RecordedConnections final : public SqlConnectionMaker {
     transcript_.add("sql", "(hold) " + connString);
     return told(transcript_, [&] { return std::make_unique<Held>(real_.holdDatabase(connString), transcript_); });
   }
+  std::unique_ptr<HeldFile> holdFile(const std::string& connString) override { return real_.holdFile(connString); }
 
  private:
   class Connection final : public SqlConnection {

@@ -139,12 +139,11 @@ TextTable chosenSites(m& data, const CheckOptions& options, bool newSitesAtOnce)
 // Originally a site that was never checked is never due, and who only ever asks for those that are would never hear of
 // it.
 void tellWhatIsNeverDue(Console& console, m& data) {
-  const TextTable sites = data.getArraySitesActiveTrue(site_choice::active);
   std::size_t count = 0;
   std::string ids;
-  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
-    if (sites.at(site_column::lastChecked, row) == kNullText && ++count <= kMostNamed) {
-      ids += " " + sites.at(site_column::idSite, row);
+  for (const std::int64_t id : data.idsNeverChecked()) {
+    if (++count <= kMostNamed) {
+      ids += " " + std::to_string(id);
     }
   }
   if (count > 0) {
@@ -173,6 +172,8 @@ int check(Tool& tool, const CheckOptions& options) {
   bool whole = true;
   try {
     whole = program.run().testOnce(std::move(sites));
+  } catch (const FullCounter& notice) {
+    console.complain(visibleText(notice.what()));  // every site has been checked, and recorded
   } catch (...) {
     view.end();
     throw;

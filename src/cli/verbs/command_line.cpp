@@ -107,6 +107,9 @@ class OptionMaker {
   CLI::Option* add(std::vector<std::int16_t>& ids) const {
     return verb_.add_option(option_.name, ids, option_.meaning)->check(siteNumber());
   }
+  CLI::Option* add(std::vector<std::int64_t>& ids) const {
+    return verb_.add_option(option_.name, ids, option_.meaning)->check(decimalNumber());
+  }
   CLI::Option* add(std::int64_t& number) const {
     return verb_.add_option(option_.name, number, option_.meaning)
         ->check(decimalNumber())

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <ostream>
 #include <set>
+#include <utility>
 
 #include "cli/list/site_facts.h"
 #include "cli/terminal/consent.h"
@@ -30,7 +31,7 @@ struct ShowOptions {
 };
 
 struct DeleteOptions {
-  std::vector<std::int16_t> ids;
+  std::vector<std::int64_t> ids;
   bool yes = false;
 };
 
@@ -167,14 +168,29 @@ int showSite(Tool& tool, const ShowOptions& options) {
   return exit_status::ok;
 }
 
-std::string questionOf(m& data, const std::set<std::int16_t>& ids) {
+// What other tools have given an id outside 16 bits nothing but its removal can reach.
+std::string addressOf(m& data, std::int64_t id) {
+  return std::in_range<std::int16_t>(id) ? ", " + visibleText(readSite(data, static_cast<std::int16_t>(id)).url) : "";
+}
+
+void requireAnyListed(m& data, std::int64_t id) {
+  if (data.anyIdExists(id)) {
+    return;
+  }
+  if (!std::in_range<std::int16_t>(id)) {
+    throw std::runtime_error("\"" + std::to_string(id) + "\" is no id: ids are whole numbers from 1 to 32767");
+  }
+  throw noSuchSite(id);
+}
+
+std::string questionOf(m& data, const std::set<std::int64_t>& ids) {
   if (ids.size() == 1) {
-    return "Delete site " + std::to_string(*ids.begin()) + ", " + visibleText(readSite(data, *ids.begin()).url) +
+    return "Delete site " + std::to_string(*ids.begin()) + addressOf(data, *ids.begin()) +
            ", with its POST variables and its baseline?";
   }
   std::string list;
   std::size_t named = 0;
-  for (const std::int16_t id : ids) {
+  for (const std::int64_t id : ids) {
     if (++named > kMostNamed) {
       list += " and " + std::to_string(ids.size() - kMostNamed) + " more";
       break;
@@ -186,20 +202,20 @@ std::string questionOf(m& data, const std::set<std::int16_t>& ids) {
 
 int deleteSites(Tool& tool, const DeleteOptions& options) {
   m& data = tool.data();
-  const std::set<std::int16_t> ids(options.ids.begin(), options.ids.end());
-  for (const std::int16_t id : ids) {
-    requireListed(tool, id);
+  const std::set<std::int64_t> ids(options.ids.begin(), options.ids.end());
+  for (const std::int64_t id : ids) {
+    requireAnyListed(data, id);
   }
   if (!consents(tool.console(), options.yes, questionOf(data, ids))) {
     return exit_status::failed;
   }
   Transaction whole(data.database());
-  for (const std::int16_t id : ids) {
-    requireListed(tool, id);  // another program may have been faster than the answer
-    data.deleteSite(id);
+  for (const std::int64_t id : ids) {
+    requireAnyListed(data, id);  // another program may have been faster than the answer
+    data.deleteSiteOfAnyId(id);
   }
   whole.commit();
-  for (const std::int16_t id : ids) {
+  for (const std::int64_t id : ids) {
     tool.console().say("Site " + std::to_string(id) + " is deleted.");
   }
   return exit_status::ok;

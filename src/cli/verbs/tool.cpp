@@ -51,7 +51,7 @@ std::string adviceOn(FileSystem& files, const std::string& folder) {
 
 }  // namespace
 
-std::runtime_error noSuchSite(std::int16_t idSite) {
+std::runtime_error noSuchSite(std::int64_t idSite) {
   return std::runtime_error("There is no site " + std::to_string(idSite) +
                             ". The ids are listed by: tarnwickctl sites");
 }
@@ -82,6 +82,9 @@ int runTool(const std::vector<std::string>& arguments, const std::string& progra
     return statusWithOutput(console, line.action(tool));
   } catch (const DataAccessError& error) {
     console.complain(error.what() + adviceOn(services.files, folder));
+    if (error.kind() == DataAccessError::Kind::damaged) {
+      console.complain("A copy is put in its place by: tarnwickctl restore backup.mdb");
+    }
     return exit_status::failed;
   } catch (const std::bad_alloc&) {
     console.complain(kNotEnoughMemory);

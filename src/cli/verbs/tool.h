@@ -58,7 +58,7 @@ class Tool {
 };
 
 /// What is raised for an id that is not in the list.
-std::runtime_error noSuchSite(std::int16_t idSite);
+std::runtime_error noSuchSite(std::int64_t idSite);
 /// Raises it when there is no such site.
 void requireListed(Tool& tool, std::int16_t idSite);
 

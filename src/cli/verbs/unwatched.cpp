@@ -16,7 +16,7 @@ constexpr std::size_t kMostNamed = 10;
 
 bool waits(m& data, std::int16_t idSite) {
   const TextTable site = data.asStored(idSite);
-  return site.lastRow() > 0 && site.isNull(site_column::lastChecked, 1) &&
+  return site.lastRow() > 0 && !parseStamp(site.at(site_column::lastChecked, 1)) &&
          SqlValue(site.at(site_column::active, 1)).toBool();
 }
 

@@ -2,14 +2,21 @@
 #include <array>
 #include <cstdint>
 
+#include "base/text.h"
 #include "cli/terminal/json_text.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
+#include "store/restoration.h"
 
 namespace tarnwick {
 namespace {
 
 struct UpkeepOptions {
+  bool json = false;
+};
+
+struct RestoreOptions {
+  std::string file;
   bool json = false;
 };
 
@@ -58,6 +65,38 @@ int compact(Tool& tool, const UpkeepOptions& options) {
   return exit_status::ok;
 }
 
+// The list itself is not opened: it may be damaged.
+int restore(Tool& tool, const RestoreOptions& options) {
+  const Services& services = tool.services();
+  Restoration restoration(tool.programFolder(), services.databases, services.files, services.clock, services.runLocks);
+  const Restoration::Outcome outcome = restoration.restore(options.file);
+  if (options.json) {
+    sayJson(tool.console(), {{"sites", outcome.sites},
+                             {"kept", outcome.kept.empty() ? JsonValue() : JsonValue(jsonText(outcome.kept))}});
+    return exit_status::ok;
+  }
+  tool.console().say("The list is a copy of " + visibleText(options.file) + " now, with " +
+                     std::to_string(outcome.sites) + (outcome.sites == 1 ? " site." : " sites.") +
+                     (outcome.kept.empty() ? "" : " The one before is kept as " + visibleText(outcome.kept) + "."));
+  return exit_status::ok;
+}
+
+Verb restoreVerb() {
+  auto options = std::make_shared<RestoreOptions>();
+  return Verb{"restore",
+              "Put a copy of the list in its place, and keep the list as it was",
+              {{.name = "FILE",
+                .target = &options->file,
+                .meaning = "The copy, for instance backup.mdb; it stays as it is",
+                .required = true},
+               jsonOption(options->json)},
+              "The copy must be a sound list. The list before, damaged or not, is kept beside it under a name with the "
+              "date. No other program may have the list open: end a run and close the window first.\n" +
+                  examples({{"restore backup.mdb", "goes back to the list before the last compaction"},
+                            {"restore /media/stick/tarnwick.mdb --json", "the same with a copy, for a script"}}),
+              [options](Tool& tool) { return restore(tool, *options); }};
+}
+
 Verb upkeepVerb(const char* name, const char* summary, std::string footer, int (*work)(Tool&, const UpkeepOptions&)) {
   auto options = std::make_shared<UpkeepOptions>();
   return Verb{name, summary, {jsonOption(options->json)}, std::move(footer), [options, work](Tool& tool) {
@@ -78,7 +117,8 @@ std::vector<Verb> upkeepVerbs() {
                      "a run and close the window first.\n" +
                          examples({{"compact", "prints the sizes before and after"},
                                    {"compact --json", "the same for a script"}}),
-                     compact)};
+                     compact),
+          restoreVerb()};
 }
 
 }  // namespace tarnwick

@@ -24,7 +24,8 @@ using OptionTarget = std::variant<bool*,                        ///< nothing: it
                                   std::vector<std::string>*,    ///< any texts, one each time that it is given
                                   std::int16_t*,                ///< the id of a site
                                   std::optional<std::int16_t>*, std::vector<std::int16_t>*,
-                                  std::int64_t*>;  ///< a whole number from `least` to `most`
+                                  std::vector<std::int64_t>*,  ///< ids that another tool may have given
+                                  std::int64_t*>;              ///< a whole number from `least` to `most`
 
 /// An option of a verb, or what stands behind it without a name of its own.
 struct VerbOption {

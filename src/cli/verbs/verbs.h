@@ -24,7 +24,7 @@ Verb settingsVerb(const Fields& fields);
 /// The verb with all options in its help.
 Verb optionVerb(const Fields& fields);
 Verb logVerb();
-/// report, compact
+/// report, compact, restore
 std::vector<Verb> upkeepVerbs();
 /// export, import
 std::vector<Verb> exchangeVerbs();

@@ -13,6 +13,7 @@
 #include "platform/sqlite/shown_statement.h"
 #include "platform/sqlite/sqlite_database.h"
 #include "platform/sqlite/sqlite_errors.h"
+#include "platform/sqlite/sqlite_held_file.h"
 #include "platform/sqlite/sqlite_hold.h"
 #include "platform/sqlite/sqlite_recordset.h"
 #include "platform/sqlite/sqlite_tables.h"
@@ -217,6 +218,10 @@ std::unique_ptr<SqlConnection> SqliteConnections::makeSqlConnection() {
 
 std::unique_ptr<HeldDatabase> SqliteConnections::holdDatabase(const std::string& connString) {
   return std::make_unique<SqliteHold>(dataSource(connString));
+}
+
+std::unique_ptr<HeldFile> SqliteConnections::holdFile(const std::string& connString) {
+  return std::make_unique<SqliteHeldFile>(dataSource(connString));
 }
 
 }  // namespace tarnwick

@@ -27,6 +27,7 @@ class SqliteConnections final : public SqlConnectionMaker {
 
   std::unique_ptr<SqlConnection> makeSqlConnection() override;
   std::unique_ptr<HeldDatabase> holdDatabase(const std::string& connString) override;
+  std::unique_ptr<HeldFile> holdFile(const std::string& connString) override;
 
  private:
   const Clock& clock_;

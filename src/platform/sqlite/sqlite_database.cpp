@@ -88,7 +88,7 @@ SqliteHandle openDatabase(const std::string& path, int flags) {
 
 SqliteDatabase::SqliteDatabase(std::string path) : path_(std::move(path)) {
   openInPlace(path_, [this](const auto& before) { open(before); });
-  if (!liesOnNetwork(path_)) {  // where a file may be known by another number every time
+  if (!unchanged_ && !liesOnNetwork(path_)) {  // where a file may be known by another number every time
     watch_.emplace(path_, handle());
     sqlite3_wal_hook(handle(), &takeLogIn, this);
   }
@@ -113,13 +113,41 @@ void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
   // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
   // Without locks between threads: there is only one.
   handle_ = openDatabase(path_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX);
+  shareCompanions(realName(handle()));
+  lockInPlace(handle(), path_, before);
+  setForeignLogAside(handle(), path_);
+  openUnchanged();
   if (registerFunctions(handle()) != SQLITE_OK) {
     throw lastError();
   }
-  lockInPlace(handle(), path_, before);
-  setForeignLogAside(handle(), path_);
   refuseDamage();
   chooseJournal();
+}
+
+// Even reading a database that has had a log takes files beside it. Where none can be made, and none is there, nobody
+// is writing; whoever may write and begins later is noticed.
+void SqliteDatabase::openUnchanged() {
+  const std::string file = realName(handle());
+  const auto header = SqliteHeader::of(handle());
+  const auto isThere = [&](const char* ending) { return LocalFiles().exists(file + ending); };
+  unchanged_ = header && header->usesLog() && !mayWrite(textOf(pathOf(file).parent_path())) && !isThere("-wal") &&
+               !isThere("-shm") && !isThere("-journal");
+  if (unchanged_) {
+    sqlite3* raw = nullptr;
+    const int result = openUnchangedSqliteFile(file, &raw);
+    SqliteHandle opened(raw);
+    if (result != SQLITE_OK) {
+      throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path_);
+    }
+    sqlite3_extended_result_codes(raw, 1);
+    sqlite3_db_config(raw, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    handle_ = std::move(opened);
+  }
+}
+
+bool SqliteDatabase::wantsReopening() const {
+  const bool begun = unchanged_ && LocalFiles().exists(realName(handle()) + "-wal");
+  return (outdated_ || begun) && open_.empty() && sqlite3_get_autocommit(handle()) != 0;
 }
 
 SqliteDatabase::~SqliteDatabase() {

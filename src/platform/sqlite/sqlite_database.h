@@ -91,9 +91,10 @@ class SqliteDatabase {
   DataAccessError lastError();
 
   /// True when the file should be opened afresh before its next use, and nobody is at work on it: damage was met, of
-  /// which the pages in memory may be all there is once a good copy is put back, or it could not be changed, which an
-  /// open file goes on with after its permissions have been put right.
-  bool wantsReopening() const { return isOutdated() && open_.empty() && sqlite3_get_autocommit(handle()) != 0; }
+  /// which the pages in memory may be all there is once a good copy is put back, it could not be changed, which an open
+  /// file goes on with after its permissions have been put right, or others have begun to change what could only be
+  /// read.
+  bool wantsReopening() const;
 
   bool isOutdated() const { return outdated_; }
 
@@ -113,6 +114,7 @@ class SqliteDatabase {
   SqliteStatement takeKept(std::string_view text);
   void keep(SqliteStatement statement) noexcept;
   void open(const std::optional<FileIdentity>& before);
+  void openUnchanged();
   static int takeLogIn(void* self, sqlite3* database, const char* name, int pages) noexcept;
   void refuseDamage();
   /// What is wrong with the file; empty for nothing. Raises what keeps it from being read.
@@ -131,6 +133,8 @@ class SqliteDatabase {
   std::vector<SqliteRecordset*> open_;
   bool cachesLargePage_ = false;
   bool outdated_ = false;
+  // Opened as a file that nobody changes.
+  bool unchanged_ = false;
 };
 
 }  // namespace tarnwick

@@ -54,6 +54,12 @@ std::string cause(int code, const std::string& message, const std::string& path)
     case SQLITE_LOCKED:
       return "A table of the database is still being read; the change cannot be made now. Try again." + detail;
     case SQLITE_READONLY:
+      for (const char* const ending : {"-shm", "-wal"}) {
+        if (!mayWrite(path + ending)) {
+          return "The database " + path + " cannot be changed: the file " + path + ending +
+                 ", which belongs to it, is read-only. Allow writing to it." + detail;
+        }
+      }
       return "The database " + path +
              " cannot be changed: the file or its folder is read-only. Allow writing to both." + detail;
     case SQLITE_PERM:
@@ -88,7 +94,7 @@ std::string cause(int code, const std::string& message, const std::string& path)
 DataAccessError damagedDatabase(const std::string& path, const std::string& message) {
   return {"The file " + path + " is damaged or is no database. Put back a good copy, for instance backup.mdb. (" +
               message + ")",
-          ""};
+          "", DataAccessError::Kind::damaged};
 }
 
 DataAccessError lastSqliteError(sqlite3* database, const std::string& path) {

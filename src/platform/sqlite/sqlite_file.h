@@ -34,6 +34,16 @@ struct FileIdentity {
 /// while SQLite has it open.
 std::optional<FileIdentity> identityOf(const std::string& path);
 
+/// Opens the file `path`, which nobody changes meanwhile, for reading alone: SQLite makes no file beside it then.
+int openUnchangedSqliteFile(const std::string& path, sqlite3** database);
+
+/// Whether this process may write to the file or into the folder `path`. True where that cannot be told.
+bool mayWrite(const std::string& path);
+
+/// Lets those write the files beside the database `path` who may write the database itself: a program that could only
+/// read it has made them so that nobody can write them. Where that is not allowed they stay as they are.
+void shareCompanions(const std::string& path);
+
 /// When the file `path` was last written to, in nanoseconds; nothing where there is none, and where the system tells it
 /// late.
 std::optional<std::int64_t> writtenAt(const std::string& path);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/statfs.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -69,6 +71,44 @@ std::optional<FileIdentity> identityOf(const std::string& path) {
     return std::nullopt;
   }
   return FileIdentity{facts.st_dev, facts.st_ino};
+}
+
+int openUnchangedSqliteFile(const std::string& path, sqlite3** database) {
+  std::string name = "file:";
+  for (const char character : path) {
+    // What has a meaning of its own there.
+    if (character == '%' || character == '?' || character == '#') {
+      constexpr const char* kDigits = "0123456789abcdef";
+      name += '%';
+      name += kDigits[static_cast<unsigned char>(character) / 16];
+      name += kDigits[static_cast<unsigned char>(character) % 16];
+    } else {
+      name += character;
+    }
+  }
+  name += "?immutable=1";
+  return sqlite3_open_v2(name.c_str(), database, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
+}
+
+bool mayWrite(const std::string& path) {
+  return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 || (errno != EACCES && errno != EROFS);
+}
+
+void shareCompanions(const std::string& path) {
+  constexpr mode_t kWriting = S_IWUSR | S_IWGRP | S_IWOTH;
+  constexpr mode_t kRights = S_IRWXU | S_IRWXG | S_IRWXO;
+  struct stat facts {};
+  if (::stat(path.c_str(), &facts) != 0) {
+    return;
+  }
+  for (const char* const ending : {"-wal", "-shm"}) {
+    const std::string companion = path + ending;
+    struct stat own {};
+    if (::stat(companion.c_str(), &own) == 0 && (own.st_mode & kWriting) == 0 && (facts.st_mode & kWriting) != 0 &&
+        ::chmod(companion.c_str(), facts.st_mode & kRights) != 0) {
+      return;  // it is another user's
+    }
+  }
 }
 
 std::optional<std::int64_t> writtenAt(const std::string& path) {

@@ -48,7 +48,7 @@ std::optional<LocalTime> dateOf(sqlite3_value* value) {
   constexpr std::size_t kDateTimeLength = 19;
   const std::string_view text = sqlite3_value_type(value) == SQLITE_TEXT ? bytesOf(value) : std::string_view();
   const std::optional<LocalTime> time = text.size() == kDateTimeLength ? readFullForm(text) : std::nullopt;
-  return time || text.size() > kDateTimeLength ? time : parseDateTime(text);
+  return time ? time : parseStamp(text);
 }
 
 template <typename Unit>

@@ -17,7 +17,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int kPieceSize = 1 << 20;
 constexpr const char* kLeaveLog = "pragma journal_mode = delete";
 
 /// Makes an empty file that may be read by those who may read the file `like`.
@@ -95,27 +94,6 @@ std::string SqliteHold::run(sqlite3* database, const std::string& sql) const {
     fail(database, sql);
   }
   return field;
-}
-
-void SqliteHold::read(const ByteSink& sink) {
-  sqlite3_file* file = nullptr;
-  sqlite3_int64 size = 0;
-  int result = sqlite3_file_control(handle_.get(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
-  if (result == SQLITE_OK) {
-    result = file->pMethods->xFileSize(file, &size);
-  }
-  std::vector<char> piece(kPieceSize);
-  for (sqlite3_int64 done = 0; result == SQLITE_OK && done < size;) {
-    const int length = static_cast<int>(std::min<sqlite3_int64>(kPieceSize, size - done));
-    result = file->pMethods->xRead(file, piece.data(), length, done);
-    if (result == SQLITE_OK) {
-      sink({piece.data(), static_cast<std::size_t>(length)});
-    }
-    done += length;
-  }
-  if (result != SQLITE_OK) {
-    throw sqliteError(result, sqlite3_errstr(result), path_);
-  }
 }
 
 void SqliteHold::compactInto(const std::string& destination) {

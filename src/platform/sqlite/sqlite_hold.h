@@ -6,6 +6,7 @@
 
 #include "platform/sql_connection.h"
 #include "platform/sqlite/sqlite_database.h"
+#include "platform/sqlite/sqlite_held_file.h"
 
 namespace tarnwick {
 
@@ -16,7 +17,7 @@ class SqliteHold final : public HeldDatabase {
   /// two seconds that are waited.
   explicit SqliteHold(std::string path);
 
-  void read(const ByteSink& sink) override;
+  void read(const ByteSink& sink) override { readWhole(handle_.get(), path_, sink); }
   void compactInto(const std::string& destination) override;
 
  private:

@@ -18,6 +18,7 @@
 #include "ui/controls/boxes.h"
 #include "ui/controls/display_text.h"
 #include "ui/controls/page_opener.h"
+#include "ui/main_window/damage_box.h"
 
 namespace tarnwick {
 namespace {
@@ -69,23 +70,21 @@ Master::Master(std::string programFolder, const Services& services, const Fields
 Master::~Master() = default;
 
 bool Master::load() {
-  return program_.faults().run([this] {
-    try {
-      Form_Load();
-    } catch (...) {
-      hide();
-      throw;
-    }
-  });
+  return loaded_ = openOrOfferCopy(
+                       program_, [this] { Form_Load(); }, [this] { load(); }) ||
+                   loaded_;
 }
 
-void Master::Form_Load() {
+void Master::Form_Load() try {
   showStatus("Loading ...");
   program_.data();  // without which there is nothing to show
   show();
   awaitFirstSight(*windowHandle());
   fullInit();
   tellNotice();
+} catch (...) {
+  hide();
+  throw;
 }
 
 void Master::tellNotice() {

@@ -35,8 +35,9 @@ class Master final : public QMainWindow, public RunView {
   ~Master() override;
 
   /// Shows the window and starts the program; a failure is shown in one box. False when it failed: the window is hidden
-  /// again then.
+  /// again then. It may be loaded later when the user puts a copy in the place of a damaged list.
   bool load();
+  bool isLoaded() const { return loaded_; }
 
   Program& program() { return program_; }
   /// Sets what a click on a row, "New" and "Setup" open.
@@ -88,6 +89,7 @@ class Master final : public QMainWindow, public RunView {
   SiteGridModel sites_;
   MasterControls controls_{};
   Notices* notices_ = nullptr;  // the window's own
+  bool loaded_ = false;
   RunState state_ = RunState::stop;
   Editors editors_;
   // Whether the user is being asked, or has agreed, to lose what is not stored. Closing the window once more is a Yes.

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include "cli/support/tool_fixture.h"
 
 namespace tarnwick::testing {
@@ -226,6 +228,39 @@ TEST_F(CheckVerb, NamesWhatIsNeverDueSinceItWasNeverChecked) {
   }
   EXPECT_EQ(run({"check", "--due"}), exit_status::ok);
   EXPECT_THAT(err, HasSubstr("Left out, since never checked: 11 sites. Check once with: tarnwickctl check\n"));
+}
+
+TEST_F(CheckVerb, FullCountersAreToldOnceAndTheStatusIsThatOfTheSites) {
+  addPage("/a", "alpha");
+  addPage("/b", "beta");
+  ASSERT_EQ(run({"check"}), exit_status::ok);
+  folder.execute("update sites set success = 32767, failure = 32767");
+  EXPECT_EQ(run({"check"}), exit_status::ok);
+  EXPECT_EQ(std::count(err.begin(), err.end(), '\n'), 1) << err;
+  EXPECT_THAT(err, HasSubstr("stands at 32767 and cannot count further"));
+  server.respond("/a", {.body = "changed"});
+  EXPECT_EQ(run({"check"}), exit_status::down);
+  EXPECT_THAT(out, HasSubstr(line("down", 1, "/a")));
+  EXPECT_EQ(std::count(err.begin(), err.end(), '\n'), 1) << err;
+}
+
+TEST_F(CheckVerb, ASiteThatCannotBeCheckedForItsIdIsAFailureBesideAFullCounter) {
+  addPage("/a", "alpha");
+  ASSERT_EQ(run({"check"}), exit_status::ok);
+  folder.execute("update sites set success = 32767");
+  folder.execute("insert into sites (idSite, url, active, tInterval) values (40000, 'http://localhost/', 1, 10)");
+  EXPECT_EQ(run({"check"}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("40000"));
+}
+
+TEST_F(CheckVerb, TellsWhatIsNeverDueForItsStamp) {
+  addPage("/a", "alpha");
+  folder.execute("update sites set lastChecked = 'yesterday'");
+  EXPECT_EQ(run({"check", "--due"}), exit_status::ok);
+  EXPECT_THAT(err, HasSubstr("Left out, since never checked: 1 site. Check once with: tarnwickctl check 1"));
+  EXPECT_EQ(run({"option", "all", "newSites=at once"}), exit_status::ok) << err;
+  EXPECT_EQ(run({"check", "--due"}), exit_status::ok);
+  EXPECT_EQ(out, line("up  ", 1, "/a") + "\n");
 }
 
 }  // namespace

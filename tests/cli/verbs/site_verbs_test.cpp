@@ -241,6 +241,20 @@ TEST_F(DeleteVerb, DeletesSeveralOfWhichOneIsNamedTwice) {
   EXPECT_EQ(ids(), "2\n");
 }
 
+TEST_F(DeleteVerb, DeletesWhatAnotherToolHasGivenAnIdOutsideSixteenBits) {
+  folder.execute(
+      "insert into sites (idSite, url) values (40000, 'http://far/');"
+      "insert into postVars (idPostVars, idSite, pname, pvalue) values (99, 40000, 'n', 'v')");
+  EXPECT_EQ(run({"delete", "40000"}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("Delete site 40000, with"));
+  EXPECT_EQ(run({"delete", "40000", "2", "--yes"}), exit_status::ok) << err;
+  EXPECT_EQ(out, "Site 2 is deleted.\nSite 40000 is deleted.\n");
+  EXPECT_EQ(folder.queryText("select count(*) from sites where idSite > 32767"), "0");
+  EXPECT_EQ(folder.queryText("select count(*) from postVars where idSite = 40000"), "0");
+  EXPECT_EQ(run({"delete", "40000", "--yes"}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("\"40000\" is no id"));
+}
+
 TEST_F(DeleteVerb, DeletesNothingWhenOneIsNotInTheList) {
   EXPECT_EQ(run({"delete", "1", "9", "--yes"}), exit_status::failed);
   EXPECT_THAT(err, HasSubstr("There is no site 9."));

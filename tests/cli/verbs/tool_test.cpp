@@ -2,6 +2,8 @@
 #include "cli/verbs/tool.h"
 
 #include <cerrno>
+#include <filesystem>
+#include <fstream>
 #include <streambuf>
 
 #include "cli/support/tool_fixture.h"
@@ -18,7 +20,7 @@ using ::testing::StartsWith;
 
 const std::vector<const char*> kVerbs = {"sites",    "site",    "add",      "set",    "delete",   "post",
                                          "baseline", "diff",    "counters", "check",  "settings", "log",
-                                         "report",   "compact", "export",   "import", "run"};
+                                         "report",   "compact", "restore",  "export", "import",   "run"};
 
 /// Takes nothing, for a reason that the system has.
 class FullBuffer final : public std::streambuf {
@@ -47,6 +49,17 @@ class ToolItself : public ToolFixture {
     return status;
   }
 };
+
+TEST_F(ToolItself, RemovesWhatAKilledCompactionHasLeft) {
+  const std::vector<std::string> left{"backup.mdb.new", "tarnwick.mdb.new", "replaced.mdb.new", "temp.mdb-journal"};
+  for (const std::string& name : left) {
+    std::ofstream(folder.file(name)) << "passwords";
+  }
+  EXPECT_EQ(run({"sites"}), exit_status::ok);
+  for (const std::string& name : left) {
+    EXPECT_FALSE(std::filesystem::exists(folder.file(name))) << name;
+  }
+}
 
 TEST_F(ToolItself, FailsWhenItsOutputCannotBeWritten) {
   addPage("/a", "alpha");

@@ -76,5 +76,36 @@ TEST_F(CompactVerb, FailsWithTheReasonWhileAnotherProgramHasTheDatabaseOpen) {
   EXPECT_EQ(std::count(err.begin(), err.end(), '\n'), 1) << err;
 }
 
+using RestoreVerb = UpkeepVerbs;
+
+TEST_F(RestoreVerb, PutsACopyInThePlaceOfADamagedList) {
+  addSite("http://a/");
+  std::filesystem::copy_file(folder.databasePath(), folder.file("copy.mdb"));
+  std::ofstream(folder.databasePath(), std::ios::trunc) << "damaged";
+  EXPECT_EQ(run({"sites"}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("tarnwickctl restore backup.mdb"));
+  EXPECT_EQ(run({"restore", folder.file("copy.mdb")}), exit_status::ok) << err;
+  EXPECT_THAT(out, HasSubstr("with 1 site. The one before is kept as " + folder.path() + "/replaced-2024-05-17-"));
+  EXPECT_EQ(column(1, "url"), "http://a/");
+}
+
+TEST_F(RestoreVerb, PrintsWhatIsKeptAsJson) {
+  std::filesystem::copy_file(folder.databasePath(), folder.file("copy.mdb"));
+  const Json first = runJson({"restore", folder.file("copy.mdb"), "--json"});
+  EXPECT_EQ(first["sites"], 0);
+  EXPECT_TRUE(std::filesystem::exists(first["kept"].get<std::string>()));
+  std::filesystem::remove(folder.databasePath());
+  EXPECT_EQ(runJson({"restore", folder.file("copy.mdb"), "--json"}), Json({{"sites", 0}, {"kept", nullptr}}));
+}
+
+TEST_F(RestoreVerb, IsRefusedWhileARunIsOn) {
+  std::filesystem::copy_file(folder.databasePath(), folder.file("copy.mdb"));
+  const auto lock = machine.services().runLocks.makeRunLock(folder.path());
+  lock->take();
+  EXPECT_EQ(run({"restore", folder.file("copy.mdb")}), exit_status::failed);
+  EXPECT_EQ(out, "");
+  EXPECT_NE(err, "");
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

@@ -92,6 +92,32 @@ TEST_F(SqliteDates, ADateInTheFutureGivesANegativeDifference) {
   EXPECT_EQ(difference("n", "2024-05-17 12:00:00", "2024-05-17 11:58:30"), "-2;");
 }
 
+TEST_F(SqliteDates, StampsAsOtherToolsWriteThemAreRead) {
+  for (const char* stamp : {"2024-05-17T12:00:30", "2024-05-17t12:00:30", "2024-05-17 12:00:30.123456",
+                            "2024-05-17T12:00:30,5", "2024-05-17 12:00", "2024-05-17T12:00"}) {
+    SCOPED_TRACE(stamp);
+    EXPECT_EQ(difference("n", "2024-05-17 11:58:00", stamp), "2;");
+    database_.run("delete from sites");
+    addSite(1, std::string("'") + stamp + "'");
+    EXPECT_FALSE(isDueAt("2024-05-17 12:09:59"));
+    EXPECT_TRUE(isDueAt("2024-05-17 12:10:00"));
+  }
+}
+
+TEST_F(SqliteDates, AStampOfAnotherTimeZoneIsTheLocalTimeOfThatMoment) {
+  const LocalTime local = localTimeAt(std::chrono::sys_days{std::chrono::January / 17 / 2024} + std::chrono::hours{12});
+  for (const char* stamp : {"2024-01-17T12:00:00Z", "2024-01-17 12:00Z", "2024-01-17T14:00:00+02:00",
+                            "2024-01-17 06:30:00.25 -0530", "2024-01-17T13:00:00+01"}) {
+    EXPECT_EQ(parseStamp(stamp), local) << stamp;
+    EXPECT_EQ(difference("s", dateTimeText(local), stamp), "0;") << stamp;
+  }
+  for (const char* stamp : {"2024-01-17T12:00:00 ", "2024-01-17T12:00:00+", "2024-01-17T12:00:00Zulu", "2024-01-17T12",
+                            "2024-01-17T12:00:00.", "2024-01-17T25:00:00", "2024-01-17T12:00:00+2:00",
+                            "2024-01-17T12:00:00+02:", "17.01.2024 12:00", "1/17/2024 12:00:00 PM"}) {
+    EXPECT_EQ(parseStamp(stamp), std::nullopt) << stamp;
+  }
+}
+
 TEST_F(SqliteDates, WhatIsNoDateGivesNull) {
   EXPECT_EQ(database_.rows("select datediff('n',null,now()), datediff('n','rubbish',now()), datediff('n','',now()),"
                            " datediff('n','2024-02-30 00:00:00',now()), datediff('n',now(),'2024-01-01 24:00:00'),"

@@ -16,6 +16,7 @@
 
 #include "base/errors.h"
 #include "open_database.h"
+#include "support/file_bytes.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -215,6 +216,78 @@ TEST_F(SqliteFaults, AReadOnlyFileIsReadAndSaysSoWhenItIsToBeChanged) {
   const std::string fault = causeOf([&] { conn->execute("delete from sites"); });
   EXPECT_TRUE(contains(fault, "is read-only")) << fault;
   EXPECT_TRUE(contains(fault, "(attempt to write a readonly database)")) << fault;
+}
+
+TEST_F(SqliteFaults, AFolderThatMayNotBeWrittenCanBeRead) {
+  folder_.execute("pragma journal_mode = wal; insert into sites (idSite,url) values (1,'u')");
+  const std::string folder = folder_.file("read only # 100%?");
+  fs::create_directory(folder);
+  const std::string path = folder + "/tarnwick.mdb";
+  fs::copy_file(folder_.databasePath(), path);
+  fs::permissions(path, fs::perms::all);
+  fs::permissions(folder_.path(), fs::perms::all);
+  constexpr auto kNobodyWrites = static_cast<fs::perms>(0555);
+  fs::permissions(folder, kNobodyWrites);
+  {
+    const WithoutSuperuser user;
+    if (!user.given()) {
+      GTEST_SKIP() << "the superuser's rights cannot be given up here, and no file mode stops him";
+    }
+    const auto conn = databases_.makeSqlConnection();
+    conn->open(OpenDatabase::connStringFor(path));
+    EXPECT_EQ(conn->execute("select url from sites")->field(0).toText(), "u");
+    EXPECT_TRUE(conn->readOnly());
+    const std::string fault = causeOf([&] { conn->execute("delete from sites"); });
+    EXPECT_TRUE(contains(fault, "the file or its folder is read-only")) << fault;
+  }
+  fs::permissions(folder, fs::perms::all);
+}
+
+TEST_F(SqliteFaults, WhatAReaderLeftBesideAReadOnlyFileIsPutRight) {
+  folder_.execute("pragma journal_mode = wal; insert into sites (idSite,url) values (1,'u')");
+  fs::permissions(folder_.path(), fs::perms::all);
+  constexpr auto kReadOnly = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+  const WithoutSuperuser user;
+  if (!user.given()) {
+    GTEST_SKIP() << "the superuser's rights cannot be given up here, and no file mode stops him";
+  }
+  const std::string path = folder_.file("own.mdb");
+  fs::copy_file(folder_.databasePath(), path);
+  fs::permissions(path, kReadOnly);
+  {
+    const auto reader = databases_.makeSqlConnection();
+    reader->open(OpenDatabase::connStringFor(path));
+    EXPECT_EQ(reader->execute("select url from sites")->field(0).toText(), "u");
+  }
+  ASSERT_TRUE(fs::exists(path + "-shm"));
+  fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
+  const auto writer = databases_.makeSqlConnection();
+  writer->open(OpenDatabase::connStringFor(path));
+  EXPECT_NO_THROW(writer->execute("delete from sites"));
+}
+
+TEST_F(SqliteFaults, ACompanionOfAnotherUserThatMayNotBeWrittenIsNamed) {
+  fs::permissions(folder_.path(), fs::perms::all);
+  fs::permissions(folder_.databasePath(), fs::perms::all);
+  constexpr auto kReadOnly = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+  const auto keeper = databases_.makeSqlConnection();
+  keeper->open(OpenDatabase::connStringFor(folder_.databasePath()));
+  const std::string shm = bytesOfFile(folder_.databasePath() + "-shm");
+  const std::string wal = bytesOfFile(folder_.databasePath() + "-wal");
+  keeper->close();
+  writeFile(folder_.databasePath() + "-shm", shm);
+  writeFile(folder_.databasePath() + "-wal", wal);
+  fs::permissions(folder_.databasePath() + "-shm", kReadOnly);
+  const WithoutSuperuser user;
+  if (!user.given() || geteuid() != 65534) {
+    GTEST_SKIP() << "there is only one user here";
+  }
+  const auto conn = databases_.makeSqlConnection();
+  const std::string fault = causeOf([&] {
+    conn->open(OpenDatabase::connStringFor(folder_.databasePath()));
+    conn->execute("delete from sites");
+  });
+  EXPECT_TRUE(contains(fault, "tarnwick.mdb-shm, which belongs to it, is read-only")) << fault;
 }
 
 TEST_F(SqliteFaults, AFileThatMayNotBeReadIsAClearError) {

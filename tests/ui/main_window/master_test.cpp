@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <QDir>
 #include <QEvent>
 #include <QHeaderView>
@@ -80,6 +81,36 @@ TEST_F(MasterTest, AMissingDatabaseIsToldInOneBoxAndNotCreated) {
   ASSERT_EQ(machine.prompts.shown().size(), 1U);
   EXPECT_NE(machine.prompts.shown()[0].text.find("tarnwick.mdb"), std::string::npos);
   EXPECT_FALSE(std::filesystem::exists(folder.databasePath()));
+}
+
+TEST_F(MasterTest, InPlaceOfADamagedDatabaseACopyCanBeChosen) {
+  std::filesystem::copy_file(folder.databasePath(), folder.file("copy.mdb"));
+  const auto damage = [&](const std::string& path) { std::ofstream(path, std::ios::trunc) << "no list"; };
+  damage(folder.databasePath());
+  damage(folder.file("bad.mdb"));
+  master = std::make_unique<Master>(folder.path(), machine.services());
+  machine.prompts.answerConfirm(true);
+  machine.prompts.answerFile(folder.file("bad.mdb"));
+  machine.prompts.answerConfirm(true);
+  machine.prompts.answerFile(folder.file("copy.mdb"));
+  EXPECT_FALSE(master->load() && !master->isLoaded());
+  EXPECT_TRUE(master->isLoaded());
+  EXPECT_TRUE(master->isVisible());
+  EXPECT_EQ(status(), QStringLiteral("Ready ..."));
+  const std::vector<std::string> texts = machine.prompts.texts();
+  ASSERT_EQ(texts.size(), 6U);
+  EXPECT_NE(texts[0].find("is damaged or is no database"), std::string::npos);
+  EXPECT_NE(texts[2].find("is no sound copy of a list"), std::string::npos);
+  EXPECT_NE(texts[5].find("replaced-"), std::string::npos);
+}
+
+TEST_F(MasterTest, WhoChoosesNoCopyKeepsTheDamagedDatabase) {
+  std::ofstream(folder.databasePath(), std::ios::trunc) << "no list";
+  master = std::make_unique<Master>(folder.path(), machine.services());
+  machine.prompts.answerConfirm(false);
+  EXPECT_FALSE(master->load());
+  EXPECT_FALSE(master->isVisible());
+  EXPECT_EQ(std::filesystem::file_size(folder.databasePath()), 7U);
 }
 
 TEST_F(MasterTest, TheLampOfTheStateIsLit) {
