@@ -7,8 +7,15 @@
 
 namespace tarnwick {
 
+namespace {
+
+/// No longer than a window may stand still.
+constexpr std::chrono::milliseconds kPatience{200};
+
+}  // namespace
+
 struct DesktopPlatform::Machine {
-  HeadlessPlatform headless;
+  HeadlessPlatform headless{kPatience};
   MessageBoxPrompts prompts{headless.services().pump};
   QtDesktopOpener opener;
 };

@@ -41,11 +41,13 @@ class NoOpener final : public DesktopOpener {
 }  // namespace
 
 struct HeadlessPlatform::Machine {
+  explicit Machine(std::chrono::milliseconds patience) : databases(clock, patience) {}
+
   SystemClock clock;
   LocalFiles files;
   QtEventPump pump;
   QtTimers timers;
-  SqliteConnections databases{clock};
+  SqliteConnections databases;
   CurlTransfers transfers;
   QtTcpSockets sockets;
   StandardErrorPrompts prompts;
@@ -55,7 +57,9 @@ struct HeadlessPlatform::Machine {
   FileRunLocks runLocks;
 };
 
-HeadlessPlatform::HeadlessPlatform() : machine_(std::make_unique<Machine>()) { ignoreUnwantedSignals(); }
+HeadlessPlatform::HeadlessPlatform(std::chrono::milliseconds patience) : machine_(std::make_unique<Machine>(patience)) {
+  ignoreUnwantedSignals();
+}
 HeadlessPlatform::~HeadlessPlatform() = default;
 
 Services HeadlessPlatform::services() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <memory>
 
 #include "platform/services.h"
@@ -11,7 +12,8 @@ namespace tarnwick {
 /// are written to standard error and answered No, and nothing can be opened. A QCoreApplication must exist.
 class HeadlessPlatform {
  public:
-  HeadlessPlatform();
+  /// `patience` is how long a statement waits for another program's lock on the database, and with it all else.
+  explicit HeadlessPlatform(std::chrono::milliseconds patience = std::chrono::seconds(2));
   ~HeadlessPlatform();
   HeadlessPlatform(const HeadlessPlatform&) = delete;
   HeadlessPlatform& operator=(const HeadlessPlatform&) = delete;

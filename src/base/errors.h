@@ -19,6 +19,7 @@ class DataAccessError : public std::runtime_error {
     noRoom,    ///< the disk is full, or what the user may take of it
     noMemory,  ///< memory was refused
     damaged,   ///< a good copy in the file's place helps
+    inUse,     ///< another program has locked the database for now
   };
 
   /// `cause` is the readable reason; `statement` the SQL text that failed (may be empty; long ones are shortened).
@@ -27,6 +28,7 @@ class DataAccessError : public std::runtime_error {
   Kind kind() const noexcept { return kind_; }
   bool forWantOfRoom() const noexcept { return kind_ == Kind::noRoom; }
   bool forWantOfMemory() const noexcept { return kind_ == Kind::noMemory; }
+  bool inUse() const noexcept { return kind_ == Kind::inUse; }
 
   /// The reason alone, without the statement: the same text for the same fault whatever ran into it.
   const std::string& cause() const noexcept { return cause_; }

@@ -44,6 +44,8 @@ class ResultRecording {
   /// Makes what is recorded during the returned object's life one whole, kept when it is committed. REQUIRES: no wait
   /// for the network meanwhile, since the database is locked for writing.
   Transaction beginTransaction() { return Transaction(db_); }
+  /// The same where it begins at once; nothing while another program has the database locked.
+  std::optional<Transaction> tryBeginTransaction() { return Transaction::tryBegin(db_); }
 
   /// Raises DataAccessError when no result could be stored just now.
   void proveRecording() { db_.conn().proveWritable(); }

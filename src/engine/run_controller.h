@@ -98,6 +98,7 @@ class RunController {
   Timer& tmrCheckSites() { return *tmrCheckSites_; }
   Timer& Timer2() { return *timer2_; }
 
+  const Guard& guard() const { return guard_; }
   bool running() const { return running_; }
   bool busy() const { return busy_; }
   /// Vocabulary: no front end calls them.

@@ -10,10 +10,7 @@
 
 #include "alerts/alert_dispatch.h"
 #include "base/errors.h"
-#include "base/sql_value.h"
-#include "base/text.h"
 #include "engine/due_sites.h"
-#include "engine/page_fetch.h"
 #include "engine/result_recording.h"
 #include "engine/sites_to_test.h"
 #include "engine/uncounted_failures.h"
@@ -41,8 +38,6 @@ InFlight::End endOf(std::int32_t errCode) {
       return InFlight::End::answered;
   }
 }
-
-std::string methodAsSent(const std::string& stored) { return stored.empty() ? "GET" : upperCase(stored); }
 
 }  // namespace
 
@@ -74,13 +69,13 @@ TestPass::~TestPass() {
 }
 
 void TestPass::test(TextTable sites) {
-  sites_ = std::move(sites);
+  sites_ = SelectedSites(needs_, std::move(sites));
   options_ = needs_.options.optionsInForce();
   setUpPool();
-  if (count() == 0) {
+  if (sites_.count() == 0) {
     return;
   }
-  progressStep_ = needs_.view.fullProgressWidth() / static_cast<std::int64_t>(count());
+  progressStep_ = needs_.view.fullProgressWidth() / static_cast<std::int64_t>(sites_.count());
   showProgress();
   do {
     dispatchAll();
@@ -102,12 +97,8 @@ void TestPass::raiseDeferred() const {
 }
 
 void TestPass::setUpPool() {
-  urls_.reserve(sites_.lastRow());
-  for (std::size_t row = 1; row <= sites_.lastRow(); ++row) {
-    urls_.push_back(cell(site_column::url, row));
-  }
   const InFlightPolicy policy = inFlightPolicy(options_);
-  needs_.pool.initSockets(urls_, policy.slots);
+  needs_.pool.initSockets(sites_.urls(), policy.slots);
   if (policy.spacing > std::chrono::milliseconds(0)) {
     needs_.pool.tmrInet().setInterval(kSpacedSweep);
   }
@@ -120,10 +111,10 @@ InFlight TestPass::planned(const InFlightPolicy& policy) const {
   if (policy.slowLane) {
     slow = needs_.dueSites.idsThatTookTooLong();
   }
-  std::vector<InFlight::Row> rows(count());
-  for (std::size_t row = 1; row <= count(); ++row) {
-    if (!url(row).empty() && hasUsableId(row)) {
-      rows[row - 1] = {hostOfAddress(url(row)), slow.contains(idSite(row))};
+  std::vector<InFlight::Row> rows(sites_.count());
+  for (std::size_t row = 1; row <= sites_.count(); ++row) {
+    if (!sites_.url(row).empty() && !sites_.unusableId(row)) {
+      rows[row - 1] = {hostOfAddress(sites_.url(row)), slow.contains(sites_.idSite(row))};
     }
   }
   return {policy, std::move(rows)};
@@ -172,9 +163,9 @@ void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
 // program cannot use is left out, and told when the others have been tested.
 void TestPass::recordRowsWithoutAddress() {
   for (std::size_t row = 0; !stopped() && (row = upcoming()) > 0;) {
-    if (!hasUsableId(row)) {
-      deferFault(unusableId_, unusableId(row));
-    } else if (url(row).empty()) {
+    if (sites_.unusableId(row)) {
+      deferFault(unusableId_, sites_.unusableId(row));
+    } else if (sites_.url(row).empty()) {
       needs_.view.showStatus("Testing: ");
       record(row, {std::string("11:") + kNoAddress, static_cast<std::int32_t>(TransferFault::badUrl), kNoAddress});
     } else {
@@ -185,26 +176,10 @@ void TestPass::recordRowsWithoutAddress() {
   }
 }
 
-bool TestPass::hasUsableId(std::size_t row) const { return !unusableId(row); }
-
-std::exception_ptr TestPass::unusableId(std::size_t row) const {
-  try {
-    idSite(row);
-    return nullptr;
-  } catch (const OverflowError&) {
-    return std::current_exception();
-  }
-}
-
 void TestPass::sendRequest(std::int16_t slot, std::size_t row) {
-  const std::int16_t id = idSite(row);
-  Request request = needs_.pages.requestFor(id, cell(site_column::method, row));
-  request.url = url(row);
-  request.userName = needs_.pages.credential(id, "sUserName", cell(site_column::sUserName, row));
-  request.password = needs_.pages.credential(id, "sPassWord", cell(site_column::sPassWord, row));
-  sent_[row] = {request.userName, request.password,
-                request.headers.empty() ? std::nullopt : std::optional(request.body)};
-  needs_.view.showStatus("Testing: " + url(row));
+  const std::int16_t id = sites_.idSite(row);
+  Request request = sites_.requestFor(row);
+  needs_.view.showStatus("Testing: " + sites_.url(row));
   needs_.pool.send(slot, row, std::move(request));
   needs_.view.brighten(id, kTestingBrightness);
   brightened_.push_back(id);
@@ -241,20 +216,20 @@ void TestPass::finishSlot(std::int16_t slot) {
     if (!inFlight_.putBack(row)) {
       deferFault(deferred_,
                  std::make_exception_ptr(std::runtime_error(pool.siteErrDescription(row) + " Site " +
-                                                            std::to_string(idSite(row)) + " is due again.")));
+                                                            std::to_string(sites_.idSite(row)) + " is due again.")));
     }
   } else {
     record(row, {pool.siteContent(row), pool.siteErrCode(row), pool.siteErrDescription(row)});
   }
   pool.releaseSiteContent(row);
-  sent_.erase(row);
+  sites_.forget(row);
   pool.setSocketDone(slot, false);
 }
 
 void TestPass::record(std::size_t row, const Fetched& fetched) {
   try {
     if (const std::optional<bool> passed = store(row, fetched)) {
-      const std::int16_t id = idSite(row);
+      const std::int16_t id = sites_.idSite(row);
       debts_.checks.settle(id);
       if (!*passed) {
         // The alerts of a failure wait for the network, so they cannot be part of the transaction. The site is down
@@ -263,7 +238,7 @@ void TestPass::record(std::size_t row, const Fetched& fetched) {
         alertAndCount(row);
       }
       std::erase(brightened_, id);
-      needs_.view.showResult({id, url(row), *passed, fetched.errCode, fetched.errDescription, fetched.content});
+      needs_.view.showResult({id, sites_.url(row), *passed, fetched.errCode, fetched.errDescription, fetched.content});
     }
   } catch (const DataAccessError& error) {
     deferUnlessGeneral(error.forWantOfMemory() ? outOfMemory(row) : std::current_exception());
@@ -275,7 +250,7 @@ void TestPass::record(std::size_t row, const Fetched& fetched) {
 // By its number alone: with an address in it every site would have a fault, and a box, of its own.
 std::exception_ptr TestPass::outOfMemory(std::size_t row) const {
   return std::make_exception_ptr(std::runtime_error("There is not enough memory for the check of site " +
-                                                    std::to_string(idSite(row)) + ". End other programs."));
+                                                    std::to_string(sites_.idSite(row)) + ". End other programs."));
 }
 
 // Whether the site has passed, once that is recorded; nothing for a page that was dropped. A full disk has no room for
@@ -323,9 +298,10 @@ void TestPass::deferUnlessGeneral(const std::exception_ptr& fault) {
 void TestPass::deferFault(std::exception_ptr& first, const std::exception_ptr& fault) { first = first ? first : fault; }
 
 std::optional<bool> TestPass::storeResult(std::size_t row, const Fetched& fetched, KeptPage kept) {
-  const std::int16_t id = idSite(row);
-  Transaction whole = needs_.results.beginTransaction();
-  if (const Standing standing = standingOf(row); standing != Standing::asSelected) {
+  const std::int16_t id = sites_.idSite(row);
+  Transaction whole = writeTurn().take();
+  if (const SelectedSites::Standing standing = sites_.standingOf(row);
+      standing != SelectedSites::Standing::asSelected) {
     dropPage(row, standing);
     return std::nullopt;
   }
@@ -344,8 +320,8 @@ std::optional<bool> TestPass::storeResult(std::size_t row, const Fetched& fetche
 
 // The site stays due, and is recorded once there is room; until then it is told again at its own interval.
 void TestPass::alertUnrecorded(std::size_t row, const Fetched& fetched) {
-  const std::int16_t id = idSite(row);
-  if (standingOf(row) != Standing::asSelected) {
+  const std::int16_t id = sites_.idSite(row);
+  if (sites_.standingOf(row) != SelectedSites::Standing::asSelected) {
     return;
   }
   debts_.checks.checkedUnrecorded(id, needs_.clock.steadyNow());
@@ -357,23 +333,25 @@ void TestPass::alertUnrecorded(std::size_t row, const Fetched& fetched) {
 
 void TestPass::tellLostMail(std::size_t row) {
   if (const MailOutcome& mail = needs_.alerts.mailOutcome(); mail.lost) {
-    needs_.view.showLostMail({idSite(row), url(row), mail.server, mail.why, mail.leftOut});
+    needs_.view.showLostMail({sites_.idSite(row), sites_.url(row), mail.server, mail.why, mail.leftOut});
   }
 }
 
 // The alerts take events in: meanwhile the site may be edited, switched off or deleted, the database be locked or taken
 // away. The failure is recorded, so it is counted all the same, now or later, unless its site is gone.
 void TestPass::alertAndCount(std::size_t row) {
-  const std::int16_t id = idSite(row);
+  const std::int16_t id = sites_.idSite(row);
   UncountedFailures::Pending failure(debts_.failures, id);
   needs_.alerts.sendAlerts(id);
   tellLostMail(row);
-  if (!hasAddressAsSelected(row) && !needs_.dueSites.wasChecked(id)) {
+  if (!sites_.hasAddressAsSelected(row) && !needs_.dueSites.wasChecked(id)) {
     failure.counted();
     return;
   }
   try {
+    Transaction whole = writeTurn().take();
     needs_.results.updateStatusCounter(id, false);
+    whole.commit();
   } catch (const FullCounter&) {
     deferFault(fullCounter_, std::current_exception());
   }
@@ -395,46 +373,15 @@ void TestPass::countSuccess(std::int16_t id) {
   }
 }
 
-bool TestPass::hasAddressAsSelected(std::size_t row) const {
-  const std::string stored = needs_.results.getUrl(idSite(row));
-  return trimmed(stored) == trimmed(url(row)) || (stored.empty() && url(row) == kNullText);
+void TestPass::dropPage(std::size_t row, SelectedSites::Standing standing) {
+  if (standing == SelectedSites::Standing::changed) {
+    debts_.checks.owe(sites_.idSite(row));
+  }
+  needs_.view.showDropped(sites_.idSite(row), sites_.url(row));
 }
 
-// An editor may store the same request in other letters than it found.
-bool TestPass::wouldSendTheSame(std::size_t row, const TextTable& stored) const {
-  const auto sent = sent_.find(row);
-  if (sent == sent_.end()) {
-    return true;  // a row without an address, for which nothing was sent
-  }
-  const std::int16_t id = idSite(row);
-  const auto& [userName, password, form] = sent->second;
-  return methodAsSent(stored.at(site_column::method, 1)) == methodAsSent(cell(site_column::method, row)) &&
-         needs_.pages.credential(id, "sUserName", stored.at(site_column::sUserName, 1)) == userName &&
-         needs_.pages.credential(id, "sPassWord", stored.at(site_column::sPassWord, 1)) == password &&
-         (!form || needs_.pages.postVarsAsStored(id) == *form);
-}
-
-// While it was fetched a site may have been deleted, its id given to a new one, its request been changed or the site
-// been switched off: the page is not that site's, and must not become its baseline or raise its alert.
-TestPass::Standing TestPass::standingOf(std::size_t row) const {
-  const bool sameAddress = hasAddressAsSelected(row);
-  const TextTable stored = needs_.dueSites.asStored(idSite(row));
-  if (stored.lastRow() == 0) {
-    return Standing::gone;
-  }
-  const auto isAsSelected = [&](std::size_t column) { return stored.at(column, 1) == cell(column, row); };
-  if (sameAddress && isAsSelected(site_column::active) && wouldSendTheSame(row, stored)) {
-    return Standing::asSelected;
-  }
-  // A new site under the id has not been checked when the one that was selected had.
-  return isAsSelected(site_column::lastChecked) ? Standing::changed : Standing::gone;
-}
-
-void TestPass::dropPage(std::size_t row, Standing standing) {
-  if (standing == Standing::changed) {
-    debts_.checks.owe(idSite(row));
-  }
-  needs_.view.showDropped(idSite(row), url(row));
+WriteTurn TestPass::writeTurn() {
+  return {needs_, run_.guard(), [this] { return stopped(); }};
 }
 
 void TestPass::takeRow(std::size_t row) {
@@ -445,14 +392,12 @@ void TestPass::takeRow(std::size_t row) {
 }
 
 void TestPass::showProgress() {
-  const std::size_t next = count() - inFlight_.left() + 1;
+  const std::size_t next = sites_.count() - inFlight_.left() + 1;
   const std::int64_t width = static_cast<std::int64_t>(next) * progressStep_;
   if (width != progressWidth_) {
     progressWidth_ = width;
     needs_.view.setProgressWidth(width);
   }
 }
-
-std::int16_t TestPass::idSite(std::size_t row) const { return siteIdFromText(cell(site_column::idSite, row)); }
 
 }  // namespace tarnwick

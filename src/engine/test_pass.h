@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <exception>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,6 +10,8 @@
 #include "engine/in_flight.h"
 #include "engine/result_recording.h"
 #include "engine/run_controller.h"
+#include "engine/selected_sites.h"
+#include "engine/write_turn.h"
 #include "store/site_options.h"
 #include "store/text_table.h"
 
@@ -42,14 +43,6 @@ class TestPass {
   void test(TextTable sites);
 
  private:
-  /// What has become of a site since it was selected.
-  enum class Standing {
-    asSelected,
-    changed,  ///< it would be asked for its page otherwise than it was
-    gone,     ///< deleted; there may be another one under its id
-  };
-
-  std::size_t count() const { return urls_.size(); }
   /// The row to be sent next, 0 for none at present.
   std::size_t upcoming() { return inFlight_.upcoming(needs_.clock.steadyNow()); }
   bool stopped() const { return !run_.running() || needs_.pump.closing(); }
@@ -60,8 +53,6 @@ class TestPass {
   bool hasWorkFor(const std::vector<std::int16_t>& freeSlots);
   void offerSlots(const std::vector<std::int16_t>& freeSlots);
   void recordRowsWithoutAddress();
-  bool hasUsableId(std::size_t row) const;
-  std::exception_ptr unusableId(std::size_t row) const;
   void sendRequest(std::int16_t slot, std::size_t row);
   void awaitAllSlots();
   void drain();
@@ -84,32 +75,18 @@ class TestPass {
   void countSuccess(std::int16_t id);
   static void deferFault(std::exception_ptr& first, const std::exception_ptr& fault);
   void raiseDeferred() const;
-  bool hasAddressAsSelected(std::size_t row) const;
-  Standing standingOf(std::size_t row) const;
-  bool wouldSendTheSame(std::size_t row, const TextTable& stored) const;
-  void dropPage(std::size_t row, Standing standing);
+  void dropPage(std::size_t row, SelectedSites::Standing standing);
   void alertAndCount(std::size_t row);
+  WriteTurn writeTurn();
   void takeRow(std::size_t row);
   void showProgress();
-
-  const std::string& cell(std::size_t column, std::size_t row) const { return sites_.at(column, row); }
-  const std::string& url(std::size_t row) const { return urls_[row - 1]; }
-  std::int16_t idSite(std::size_t row) const;
 
   RunController& run_;
   const RunController::Needs& needs_;
   bool& busy_;
   Debts debts_;
-  TextTable sites_;
+  SelectedSites sites_{needs_, TextTable()};
   OptionsInForce options_;
-  std::vector<std::string> urls_;
-  // What the rows that are being fetched were asked with.
-  struct Sent {
-    std::string userName;
-    std::string password;
-    std::optional<std::string> form;
-  };
-  std::map<std::size_t, Sent> sent_;
   std::vector<std::int16_t> brightened_;
   // The first faults that concern one site alone, told when the others have been tested: one that left its check to be
   // done again, and one that did not.

@@ -54,6 +54,12 @@ class SqlConnection {
 
   /// Begin and end a transaction that takes the write lock at once. They do not nest.
   virtual void begin() = 0;
+  /// Begins one at once, or not at all: false while another program has the write lock. A connection that knows only
+  /// `begin` waits as that does.
+  virtual bool tryBegin() {
+    begin();
+    return true;
+  }
   virtual void commit() = 0;
   /// Takes back everything since `begin`; harmless when the database has already done so itself. Where that is
   /// impossible the connection is closed, which does it too.

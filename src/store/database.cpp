@@ -54,6 +54,15 @@ Transaction::Transaction(Database& database) : conn_(database.conn()), owner_(!c
   }
 }
 
+std::optional<Transaction> Transaction::tryBegin(Database& database) {
+  SqlConnection& conn = database.conn();
+  const bool owner = !conn.inTransaction();
+  if (owner && !conn.tryBegin()) {
+    return std::nullopt;
+  }
+  return Transaction(conn, owner);
+}
+
 Transaction::~Transaction() {
   if (owner_) {
     conn_.rollback();

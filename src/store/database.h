@@ -2,7 +2,9 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/sql_connection.h"
 
@@ -56,13 +58,18 @@ class Database {
 class Transaction {
  public:
   explicit Transaction(Database& database);
+  Transaction(Transaction&& other) noexcept : conn_(other.conn_), owner_(std::exchange(other.owner_, false)) {}
+  Transaction& operator=(Transaction&&) = delete;
   ~Transaction();
-  Transaction(const Transaction&) = delete;
-  Transaction& operator=(const Transaction&) = delete;
+
+  /// One that begins at once; nothing while another program has the database locked.
+  static std::optional<Transaction> tryBegin(Database& database);
 
   void commit();
 
  private:
+  Transaction(SqlConnection& conn, bool owner) : conn_(conn), owner_(owner) {}
+
   SqlConnection& conn_;
   bool owner_;
 };

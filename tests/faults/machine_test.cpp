@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <signal.h>
 #include <sys/mount.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -180,60 +177,6 @@ TEST_F(ReadOnly, AFolderIsToldByTheStartAndNoSiteIsFetched) {
     used->expectAllRecordedOnce(running.boxTexts());
   }
   EXPECT_EQ(used->integrity(), "ok");
-}
-
-/// Another process that holds the database's write lock until it is killed.
-class LockingProcess {
- public:
-  explicit LockingProcess(const UsedFolder& used) {
-    std::array<int, 2> ends{};
-    if (pipe(ends.data()) != 0) {
-      return;
-    }
-    child_ = fork();
-    if (child_ == 0) {
-      const SystemClock clock;
-      SqliteConnections databases(clock);
-      Database database(used.folder.path(), databases);
-      const Transaction lock(database);
-      if (write(ends[1], "x", 1) == 1) {
-        pause();
-      }
-      _exit(1);
-    }
-    char byte = 0;
-    locked_ = read(ends[0], &byte, 1) == 1;
-    close(ends[0]);
-    close(ends[1]);
-  }
-  ~LockingProcess() {
-    kill(child_, SIGKILL);
-    waitpid(child_, nullptr, 0);
-  }
-  LockingProcess(const LockingProcess&) = delete;
-  LockingProcess& operator=(const LockingProcess&) = delete;
-  bool locked() const { return locked_; }
-
- private:
-  pid_t child_ = 0;
-  bool locked_ = false;
-};
-
-TEST(RealFaults, ALockOfAnotherProcessIsToldOnceAndTheRunGoesOn) {
-  const UsedFolder used;
-  std::unique_ptr<LockingProcess> other;
-  expectThatARunOutlives(
-      used,
-      [&](RunningProgram&) {
-        other = std::make_unique<LockingProcess>(used);
-        ASSERT_TRUE(other->locked());
-      },
-      1,
-      [&](RunningProgram& running) {
-        other.reset();
-        EXPECT_EQ(running.boxes(), 1u);
-        EXPECT_THAT(running.boxTexts(), HasSubstr("in use by another program"));
-      });
 }
 
 }  // namespace

@@ -102,26 +102,6 @@ TEST_F(ProgramTest, TheStartRenumbersThePostVariables) {
   EXPECT_EQ(folder.queryRows("select idPostVars,pname from postVars order by 1"), "1|a\n2|c\n");
 }
 
-TEST_F(ProgramTest, ADatabaseLockedDuringARunIsToldOnceAndTheRunGoesOnAfterwards) {
-  const std::int16_t id = addPage("/a", "hello");
-  ASSERT_TRUE(program.startRun());
-  {
-    TestServices other;
-    Database locker(folder.path(), other.databases);
-    Transaction lock(locker);
-    machine.handTimers.advance(seconds(601));
-    machine.handTimers.advance(seconds(1));
-    EXPECT_THAT(machine.prompts.texts(), SizeIs(1));
-    EXPECT_FALSE(program.run().busy());
-    EXPECT_TRUE(program.run().running());
-    EXPECT_EQ(view.lamps.back(), RunState::pause);
-  }
-  machine.handTimers.advance(seconds(2));
-  EXPECT_THAT(machine.prompts.texts(), SizeIs(1));
-  EXPECT_EQ(column(id, "success"), "2");
-  EXPECT_EQ(folder.queryText("select count(*) from log where status = 0"), "0");
-}
-
 TEST_F(ProgramTest, ARunWritesTheReportAtItsFirstMinuteAndAtEvery59thAfter) {
   program.data().setControl("creports", true);
   std::filesystem::create_directories(folder.file("reports"));

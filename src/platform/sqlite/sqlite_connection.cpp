@@ -63,14 +63,14 @@ namespace {
 
 class SqliteConnection final : public SqlConnection {
  public:
-  explicit SqliteConnection(const Clock& clock) : clock_(clock) {}
+  SqliteConnection(const Clock& clock, std::chrono::milliseconds patience) : clock_(clock), patience_(patience) {}
 
   void open(const std::string& connString) override {
     if (database_) {
       throw DataAccessError("The connection to the database is open already.", "");
     }
     path_ = dataSource(connString);
-    database_ = std::make_unique<SqliteDatabase>(path_);
+    openFile();
   }
 
   void close() noexcept override { database_.reset(); }
@@ -100,6 +100,24 @@ class SqliteConnection final : public SqlConnection {
   }
 
   void begin() override { runKept("BEGIN IMMEDIATE"); }
+  bool tryBegin() override {
+    if (database_) {
+      setPatience(std::chrono::milliseconds(0));
+    }
+    bool begun = true;
+    try {
+      begin();
+    } catch (const DataAccessError& error) {
+      if (!error.inUse()) {
+        throw;
+      }
+      begun = false;
+    }
+    if (database_) {
+      setPatience(patience_);
+    }
+    return begun;
+  }
   void commit() override { runKept("COMMIT"); }
 
   void rollback() noexcept override {
@@ -164,12 +182,21 @@ class SqliteConnection final : public SqlConnection {
     told(sql, [&](SqliteDatabase& database) { return records(database, {sql, {}, true}, sql); });
   }
 
+  void openFile() {
+    database_ = std::make_unique<SqliteDatabase>(path_);
+    setPatience(patience_);
+  }
+
+  void setPatience(std::chrono::milliseconds patience) {
+    sqlite3_busy_timeout(database_->handle(), static_cast<int>(patience.count()));
+  }
+
   SqliteDatabase& current() {
     if (database_->wantsReopening()) {
       // The old one is closed first: its locks and side files are in the way. Should the opening fail, the connection
       // is closed.
       database_.reset();
-      database_ = std::make_unique<SqliteDatabase>(path_);
+      openFile();
     }
     if (!inTransaction()) {
       refuseOtherFiles();
@@ -206,6 +233,7 @@ class SqliteConnection final : public SqlConnection {
   }
 
   const Clock& clock_;
+  std::chrono::milliseconds patience_;
   std::string path_;
   std::unique_ptr<SqliteDatabase> database_;
 };
@@ -213,7 +241,7 @@ class SqliteConnection final : public SqlConnection {
 }  // namespace
 
 std::unique_ptr<SqlConnection> SqliteConnections::makeSqlConnection() {
-  return std::make_unique<SqliteConnection>(clock_);
+  return std::make_unique<SqliteConnection>(clock_, patience_);
 }
 
 std::unique_ptr<HeldDatabase> SqliteConnections::holdDatabase(const std::string& connString) {

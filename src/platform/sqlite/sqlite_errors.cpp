@@ -103,14 +103,33 @@ DataAccessError lastSqliteError(sqlite3* database, const std::string& path) {
   return sqliteError(code, code == told ? sqlite3_errmsg(database) : sqlite3_errstr(code), path);
 }
 
+namespace {
+
+DataAccessError::Kind kindOf(int code) {
+  using enum DataAccessError::Kind;
+  if (code == SQLITE_IOERR_SHMSIZE) {
+    return noRoom;
+  }
+  switch (code & kPrimaryCodeMask) {
+    case SQLITE_FULL:
+      return noRoom;
+    case SQLITE_NOMEM:
+      return noMemory;
+    case SQLITE_BUSY:
+      return inUse;
+    default:
+      return other;
+  }
+}
+
+}  // namespace
+
 DataAccessError sqliteError(int code, const std::string& message, const std::string& path) {
   const int primary = code & kPrimaryCodeMask;
   if (primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB) {
     return damagedDatabase(path, message);
   }
-  using enum DataAccessError::Kind;
-  const bool wantsRoom = primary == SQLITE_FULL || code == SQLITE_IOERR_SHMSIZE;
-  return {cause(code, message, path), "", wantsRoom ? noRoom : primary == SQLITE_NOMEM ? noMemory : other};
+  return {cause(code, message, path), "", kindOf(code)};
 }
 
 DataAccessError inStatement(const DataAccessError& error, std::string_view sql) {
