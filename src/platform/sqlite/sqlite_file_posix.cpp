@@ -26,14 +26,18 @@ int lastErrorOf(const sqlite3_file* file) {
   return error;
 }
 
-bool couldNotBeRead(sqlite3* database, int whichFile) {
+// The same of the database, or of the log or journal beside it.
+int lastErrorOf(sqlite3* database, int whichFile) {
   sqlite3_file* file = nullptr;
-  if (sqlite3_file_control(database, "main", whichFile, &file) != SQLITE_OK) {
-    return false;
-  }
-  const int error = lastErrorOf(file);
+  return sqlite3_file_control(database, "main", whichFile, &file) == SQLITE_OK ? lastErrorOf(file) : 0;
+}
+
+bool couldNotBeRead(sqlite3* database, int whichFile) {
+  const int error = lastErrorOf(database, whichFile);
   return error == EIO || error == ENXIO || error == ERANGE;
 }
+
+bool isWantOfRoom(int error) { return error == ENOSPC || error == EDQUOT || error == EFBIG; }
 
 }  // namespace
 
@@ -50,9 +54,10 @@ int causeBehind(int code, sqlite3* database) {
       (couldNotBeRead(database, SQLITE_FCNTL_FILE_POINTER) || couldNotBeRead(database, SQLITE_FCNTL_JOURNAL_POINTER))) {
     return SQLITE_IOERR_READ;
   }
-  const int error = sqlite3_system_errno(database);
-  const bool noRoom = error == ENOSPC || error == EDQUOT || error == EFBIG;
-  if (code == SQLITE_IOERR_WRITE && noRoom) {
+  const bool noRoom = isWantOfRoom(sqlite3_system_errno(database));
+  // Of a COMMIT that fails the connection keeps no error of the system's.
+  if (code == SQLITE_IOERR_WRITE && (noRoom || isWantOfRoom(lastErrorOf(database, SQLITE_FCNTL_FILE_POINTER)) ||
+                                     isWantOfRoom(lastErrorOf(database, SQLITE_FCNTL_JOURNAL_POINTER)))) {
     return SQLITE_FULL;
   }
   // Any failure to make the memory that is shared through a file.
