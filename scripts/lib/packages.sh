@@ -1,12 +1,13 @@
 # What the product needs of the Debian archive, and how a script gets it. Sourced, not run.
 # shellcheck shell=bash disable=SC2034
 
-# Compiler, build tools and the headers of the three libraries; sqlite3 makes the fresh database from the schema,
+# Compiler, build tools and the headers of the libraries; sqlite3 makes the fresh database from the schema,
 # python3-markdown-it the pages of the help, and qt6-l10n-tools the translations.
 build_packages=(
   g++ cmake ninja-build ccache
   qt6-base-dev qt6-l10n-tools libgl1-mesa-dev
-  libcurl4-openssl-dev libssl-dev libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev
+  libcurl4-openssl-dev libssl-dev zlib1g-dev libbrotli-dev libzstd-dev
+  libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev
   python3 python3-markdown-it
 )
 

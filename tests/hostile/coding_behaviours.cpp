@@ -13,6 +13,9 @@ constexpr std::size_t kBombMebibytes = 160;
 HostileOutcome undecodable() {
   return fails(TransferFault::badContentCoding, "The compressed answer of the server {} could not be decoded.");
 }
+HostileOutcome incomplete() {
+  return fails(TransferFault::badContentCoding, "The compressed answer of the server {} is incomplete.");
+}
 HostileOutcome tooLarge() { return fails(TransferFault::tooLarge, "The page is larger than 64 MiB."); }
 
 std::function<void(HostileVisit&)> coded(const std::string& coding, std::function<std::string()> body) {
@@ -110,16 +113,33 @@ HostileBehaviours codingBehaviours() {
              visit.sendPage(gzipped("hello"), "Content-Encoding: " + codings + "\r\n");
            }},
       {.name = "DamagedGzip", .outcome = undecodable(), .serve = coded("gzip", damaged(gzipped(longPage())))},
-      // libcurl does not tell whether a coding had come to its end. What could be decoded is the page; it differs from
-      // the baseline, and so the site is down without an error of the transfer.
-      {.name = "CutGzip", .outcome = takesPartOf(longPage()), .serve = coded("gzip", firstHalf(gzipped(longPage())))},
+      {.name = "CutGzip", .outcome = incomplete(), .serve = coded("gzip", firstHalf(gzipped(longPage())))},
       {.name = "CutDeflate",
-       .outcome = takesPartOf(longPage()),
+       .outcome = incomplete(),
        .serve = coded("deflate", firstHalf(compressed(longPage(), HttpCoding::deflate)))},
-      {.name = "CutBrotli", .outcome = takes(""), .serve = coded("br", brotliBomb().substr(0, 10))},
+      {.name = "CutBrotli", .outcome = incomplete(), .serve = coded("br", brotliBomb().substr(0, 10))},
+      {.name = "CutZstandard", .outcome = incomplete(), .serve = coded("zstd", zstandardBomb().substr(0, 10))},
+      {.name = "CutGzipUntilTheConnectionEnds",
+       .outcome = incomplete(),
+       .serve =
+           [](HostileVisit& visit) {
+             visit.readRequest();
+             visit.send("HTTP/1.1 200 OK\r\nContent-Encoding: gzip\r\n\r\n" + firstHalf(gzipped(longPage())));
+           }},
       {.name = "GzipWithoutItsEnd",
-       .outcome = takes(longPage()),
+       .outcome = incomplete(),
        .serve = coded("gzip", gzipped(longPage()).substr(0, gzipped(longPage()).size() - 8))},
+      {.name = "GzipHeaderAlone", .outcome = incomplete(), .serve = coded("gzip", gzipped(longPage()).substr(0, 10))},
+      {.name = "WholeGzipOfACutOne",
+       .outcome = incomplete(),
+       .serve = coded("gzip, gzip", gzipped(firstHalf(gzipped(longPage()))))},
+      {.name = "CutTransferCoding",
+       .outcome = incomplete(),
+       .serve =
+           [](HostileVisit& visit) {
+             visit.readRequest();
+             visit.sendPage(firstHalf(gzipped(longPage())), "Transfer-Encoding: gzip\r\n");
+           }},
       {.name = "GzipOfNothing",
        .outcome = takes(""),
        .serve = coded("gzip", fromHex("1f8b08000000000000ff03000000000000000000"))},

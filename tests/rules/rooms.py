@@ -43,10 +43,11 @@ ROOMS = {
 }
 # The libraries of others that a room may include, by the headers' names; all others include standard C++ and the system
 # alone.
+CODINGS = r"zlib\.h|brotli/.*|zstd\w*\.h"
 QT = r"Q[A-Z]\w*|Qt\w*/.*|q[a-z]+\.h"
 LIBRARIES = {
     "platform/sqlite": r"sqlite3\w*\.h",
-    "platform/web": rf"curl/.*|openssl/.*|{QT}",
+    "platform/web": rf"curl/.*|openssl/.*|{CODINGS}|{QT}",
     "platform/events": QT,
     "platform/process": QT,
     "platform/desktop": QT,
@@ -61,7 +62,7 @@ LIBRARIES = {
     "app": QT,
 }
 
-LIBRARY = re.compile(rf"^({QT}|sqlite3\w*\.h|curl/.*|openssl/.*|CLI/.*|nlohmann/.*)$")
+LIBRARY = re.compile(rf"^({QT}|sqlite3\w*\.h|curl/.*|openssl/.*|{CODINGS}|CLI/.*|nlohmann/.*)$")
 # No room holds more of the lines of src than this.
 LARGEST_SHARE = 0.20
 FEWEST_LINES_OF_A_HOUSE = 5000  # below, a share says nothing

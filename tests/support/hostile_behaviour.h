@@ -20,16 +20,12 @@ struct HostileOutcome {
   /// The page that is taken when there is no fault, repeated so many times.
   std::string page{};
   std::size_t times = 1;
-  /// Only a beginning of the page comes, and no fault is found.
-  bool part = false;
 };
 
 /// The page that makes the check succeed.
 inline HostileOutcome takes(std::string page, std::size_t times = 1) {
   return {.page = std::move(page), .times = times};
 }
-/// The page that is cut, so that the site is down.
-inline HostileOutcome takesPartOf(std::string page) { return {.page = std::move(page), .part = true}; }
 inline HostileOutcome fails(TransferFault fault, std::string cause) {
   return {.fault = fault, .cause = std::move(cause)};
 }

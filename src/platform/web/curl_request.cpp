@@ -134,7 +134,7 @@ std::size_t CurlRequest::onHeader(char* data, std::size_t size, std::size_t coun
 std::size_t CurlRequest::onPage(char* data, std::size_t size, std::size_t count, void* self) {
   const std::size_t length = size * count;
   // Any other number than the length ends the transfer; for an empty piece that must not be 0.
-  return static_cast<CurlRequest*>(self)->addPage({data, length}) ? length : length + 1;
+  return static_cast<CurlRequest*>(self)->addPiece({data, length}) ? length : length + 1;
 }
 
 void CurlRequest::reach(int state) {
@@ -165,6 +165,7 @@ bool CurlRequest::addHeader(std::string_view line) {
   // The lines of an FTP server come here too, its greeting before anything was asked.
   if (line.starts_with("HTTP/")) {
     reach(transfer_state::receivingResponse);
+    decoder_.reset();
     const int status = statusOf(line);
     if (status >= kRedirection && status < kClientError) {
       noteRedirect(status);
@@ -194,8 +195,23 @@ void CurlRequest::noteRedirect(int status) {
   }
 }
 
-bool CurlRequest::addPage(std::string_view piece) {
+bool CurlRequest::addPiece(std::string_view piece) {
   reach(transfer_state::receivingResponse);
+  // A file server's file is what it is, also behind the header that has led there.
+  if (header_.codings().empty() || overFtp()) {
+    return addPage(piece);
+  }
+  if (!decoder_) {
+    decoder_.emplace(header_.codings(), options_.largestPage);
+  }
+  const bool decoded = decoder_->decode(piece, [this](std::string_view made) { return addPage(made); });
+  if (!decoded && aborted_ == AbortReason::none) {
+    aborted_ = AbortReason::coding;
+  }
+  return decoded;
+}
+
+bool CurlRequest::addPage(std::string_view piece) {
   if (piece.size() > options_.largestPage - page_.size() || (page_.empty() && announcedTooLarge())) {
     aborted_ = AbortReason::page;
     return false;
@@ -224,7 +240,11 @@ TransferResult CurlRequest::finish(CURLcode reported) {
   }
   // libcurl takes an answer that breaks off inside its header for a whole one.
   const bool cut = reported == CURLE_OK && (header_.open() || endsWithoutGoodbye());
-  const CURLcode result = cut ? CURLE_PARTIAL_FILE : reported;
+  CURLcode result = cut ? CURLE_PARTIAL_FILE : reported;
+  if (result == CURLE_OK && decoder_ && !decoder_->complete()) {
+    aborted_ = AbortReason::cutCoding;
+    result = CURLE_BAD_CONTENT_ENCODING;
+  }
   completeStates(result);
   return result == CURLE_OK ? TransferResult{.page = std::move(page_)} : failure(result);
 }

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/web/content_decoder.h"
 #include "platform/web/curl_event_loop.h"
 #include "platform/web/curl_transfers.h"
 #include "platform/web/response_header.h"
@@ -85,6 +86,7 @@ class CurlRequest {
   void reach(int state);
   void noteSent(curl_off_t bodyBytes);
   bool addHeader(std::string_view line);
+  bool addPiece(std::string_view piece);
   bool addPage(std::string_view piece);
   void noteRedirect(int status);
   bool announcedTooLarge() const;
@@ -110,6 +112,8 @@ class CurlRequest {
   std::string page_;
   std::size_t headerBytes_ = 0;
   ResponseHeader header_;
+  // Of an answer whose page comes compressed.
+  std::optional<ContentDecoder> decoder_;
   // Where an answer has led elsewhere last.
   std::string redirectedBy_;
   // The connection that was made last.

@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "platform/address.h"
 #include "platform/web/authorities.h"
+#include "platform/web/content_decoder.h"
 #include "platform/web/curl_callback.h"
 #include "platform/web/curl_request.h"
 
@@ -161,8 +162,9 @@ void CurlRequest::setHeaders() {
   }
   set(easy, CURLOPT_HTTPHEADER, headerLines_.get());
   set(easy, CURLOPT_USERAGENT, kUserAgent);
-  // Every coding that is built in, decoded on arrival.
-  set(easy, CURLOPT_ACCEPT_ENCODING, "");
+  // Decoded by us on arrival: libcurl takes a coding that was cut for a whole one.
+  set(easy, CURLOPT_ACCEPT_ENCODING, ContentDecoder::accepted().c_str());
+  set(easy, CURLOPT_HTTP_CONTENT_DECODING, 0L);
   // Cookies on, none to begin with.
   set(easy, CURLOPT_COOKIEFILE, "");
 }

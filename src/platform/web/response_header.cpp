@@ -36,11 +36,18 @@ HeaderFault ResponseHeader::add(std::string_view line) {
     return end();
   }
   const auto colon = std::min(line.find(':'), line.size());
-  const std::string_view name = trimmed(line.substr(0, colon));
+  const std::string_view bareName = line.substr(0, colon);
+  const std::string_view name = trimmed(bareName);
+  const std::string_view values = line.substr(std::min(colon + 1, line.size()));
   if (equalsIgnoringCase(name, "content-length")) {
-    addLengths(line.substr(std::min(colon + 1, line.size())));
+    addLengths(values);
   } else if (equalsIgnoringCase(name, "transfer-encoding")) {
     chunked_ = true;
+  }
+  // A name with a blank behind it is another one (RFC 9112, section 5.1).
+  const bool ofTheWay = equalsIgnoringCase(bareName, "transfer-encoding");
+  if (ofTheWay || equalsIgnoringCase(bareName, "content-encoding")) {
+    addCodings(values, ofTheWay);
   }
   return HeaderFault::none;
 }
@@ -62,6 +69,19 @@ HeaderFault ResponseHeader::end() {
     return HeaderFault::unclearLength;
   }
   return endless_ ? HeaderFault::endlessPage : HeaderFault::none;
+}
+
+void ResponseHeader::addCodings(std::string_view names, bool ofTheWay) {
+  while (!names.empty()) {
+    const auto comma = std::min(names.find(','), names.size());
+    const std::string_view name = trimmed(names.substr(0, comma));
+    names.remove_prefix(std::min(comma + 1, names.size()));
+    if (name.empty() || (ofTheWay && equalsIgnoringCase(name, "chunked"))) {
+      continue;  // chunks are put together before
+    }
+    codings_.emplace(ofTheWay ? codings_.end() : codings_.begin() + codingsOfContent_, name);
+    codingsOfContent_ += ofTheWay ? 0 : 1;
+  }
 }
 
 // Several of the same value are as good as one (RFC 9110, section 8.6).

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarnwick {
 
@@ -30,6 +31,8 @@ class ResponseHeader {
   bool chunked() const { return chunked_; }
   /// The page has neither a length nor chunks, so that it ends where its connection does.
   bool endsWithConnection() const { return mayHavePage_ && !chunked_ && !length_; }
+  /// How its page is compressed, in the order in which that was done: those of the content, then those of the way.
+  const std::vector<std::string>& codings() const { return codings_; }
   /// True from an answer's first line until its empty line: a connection that ends here ends inside a header.
   bool open() const { return open_; }
 
@@ -38,6 +41,7 @@ class ResponseHeader {
   HeaderFault end();
   void addLengths(std::string_view values);
   void addLength(std::string_view value);
+  void addCodings(std::string_view names, bool ofTheWay);
 
   bool open_ = false;
   bool mayHavePage_ = false;
@@ -45,6 +49,8 @@ class ResponseHeader {
   bool unclear_ = false;
   bool endless_ = false;
   std::optional<std::size_t> length_;
+  std::vector<std::string> codings_;
+  std::ptrdiff_t codingsOfContent_ = 0;
 };
 
 /// The status of an HTTP answer's first line, "HTTP/1.1 303 See Other"; 0 when it has none.

@@ -39,6 +39,15 @@ TransferResult unclearLength(const ServerName& server) { return damaged(server, 
 // Of what a server sends, libcurl names nothing else a bad argument than a line behind the last chunk without a colon.
 TransferResult badTrailer(const ServerName& server) { return damaged(server, "bad trailer"); }
 
+TransferResult undecodable(const ServerName& server) {
+  return {TransferFault::badContentCoding,
+          "The compressed answer of the server " + server.place + " could not be decoded."};
+}
+
+TransferResult incomplete(const ServerName& server) {
+  return {TransferFault::badContentCoding, "The compressed answer of the server " + server.place + " is incomplete."};
+}
+
 TransferResult abortedBecause(const TransferEnd& end, const ServerName& server) {
   switch (end.aborted) {
     case AbortReason::page:
@@ -49,6 +58,10 @@ TransferResult abortedBecause(const TransferEnd& end, const ServerName& server) 
       return unclearLength(server);
     case AbortReason::protocol:
       return notUnderstood(server);
+    case AbortReason::coding:
+      return undecodable(server);
+    case AbortReason::cutCoding:
+      return incomplete(server);
     case AbortReason::memory:
     case AbortReason::none:
       break;
@@ -142,11 +155,8 @@ std::optional<TransferResult> failureToAnswer(const TransferEnd& end, const Serv
       return notConfirmed(server);
     case CURLE_TOO_MANY_REDIRECTS:
       return tooManyRounds(server, end);
-    case CURLE_BAD_CONTENT_ENCODING:
-    case CURLE_WRITE_ERROR:
-      // Not refused by a bound of ours, so it was the decoder that would not take more.
-      return TransferResult{TransferFault::badContentCoding,
-                            "The compressed answer of the server " + server.place + " could not be decoded."};
+    case CURLE_BAD_CONTENT_ENCODING:  // too many of them are refused with the header
+      return undecodable(server);
     default:
       return std::nullopt;
   }

@@ -12,7 +12,7 @@
 namespace tarnwick {
 
 /// Why we ended a transfer ourselves, where libcurl only knows that a callback refused to go on.
-enum class AbortReason { none, page, header, memory, length, protocol };
+enum class AbortReason { none, page, header, memory, length, protocol, coding, cutCoding };
 
 /// What is known of a transfer that libcurl ended with an error.
 struct TransferEnd {

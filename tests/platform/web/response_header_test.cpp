@@ -91,6 +91,19 @@ TEST(ResponseHeaderTest, TheNextAnswerBeginsAnew) {
   EXPECT_EQ(faultOf({"HTTP/1.1 200 OK", "Content-Length: 6", ""}, head), HeaderFault::none);
 }
 
+TEST(ResponseHeaderTest, CodingsAreThoseOfTheContentThenThoseOfTheWay) {
+  using Names = std::vector<std::string>;
+  ResponseHeader head;
+  faultOf({"HTTP/1.1 200 OK", "Transfer-Encoding: x-gzip,  chunked", "content-encoding: gzip, ,br ,",
+           "Content-Encoding:zstd", "Content-Encoding : other", ""},
+          head);
+  EXPECT_EQ(head.codings(), (Names{"gzip", "br", "zstd", "x-gzip"}));
+  faultOf({"HTTP/1.1 200 OK", "Content-Encoding: chunked", "", "Content-Encoding: trailer"}, head);
+  EXPECT_EQ(head.codings(), Names{"chunked"});
+  faultOf({"HTTP/1.1 200 OK", "Transfer-Encoding: chunked", ""}, head);
+  EXPECT_EQ(head.codings(), Names{});
+}
+
 TEST(ResponseHeaderTest, AnotherProtocolIsAFault) {
   EXPECT_EQ(faultOf({"HTTP/1.1 101 Switching Protocols"}), HeaderFault::otherProtocol);
   EXPECT_EQ(faultOf({"HTTP/1.1 100 Continue", ""}), HeaderFault::none);

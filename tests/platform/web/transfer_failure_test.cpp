@@ -236,6 +236,18 @@ TEST_F(TransferFailures, CompressedPageWithAWrongChecksumOrATail) {
   }
 }
 
+TEST_F(TransferFailures, CompressedPageThatIsCut) {
+  for (const HttpCoding coding : {HttpCoding::gzip, HttpCoding::deflate}) {
+    const std::string packed = compressed(std::string(5000, 'x'), coding);
+    for (const std::size_t length : {std::size_t{10}, packed.size() / 2, packed.size() - 1}) {
+      server_.respond("/a", {.headers = {{"Content-Encoding", coding == HttpCoding::gzip ? "gzip" : "deflate"}},
+                             .body = packed.substr(0, length)});
+      expectFailure("/a", TransferFault::badContentCoding,
+                    "The compressed answer of the server " + place() + " is incomplete.");
+    }
+  }
+}
+
 TEST_F(TransferFailures, UnknownContentCoding) {
   server_.respond("/a", {.headers = {{"Content-Encoding", "x-own"}}, .body = "coded"});
   expectFailure("/a", TransferFault::badContentCoding,

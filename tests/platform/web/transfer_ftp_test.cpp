@@ -25,6 +25,15 @@ TEST_F(TransferFtp, FileIsFetchedUnchanged) {
   EXPECT_EQ(server_.commands().front(), "USER anonymous");
 }
 
+TEST_F(TransferFtp, FileBehindACompressedRedirectIsWhatItIs) {
+  HttpServer web;
+  web.respond("/moved", {.status = 302,
+                         .headers = {{"Location", server_.url("/page.txt")}, {"Content-Encoding", "gzip"}},
+                         .body = "neither a page nor compressed"});
+  EXPECT_EQ(probe_.fetch(web.url("/moved")), server_.files["page.txt"]);
+  EXPECT_TRUE(probe_.succeeded());
+}
+
 TEST_F(TransferFtp, CredentialsAreUsed) {
   server_.userName = "me";
   server_.password = "secret";

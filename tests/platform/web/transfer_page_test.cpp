@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/web/curl_transfers.h"
+#include "support/http_message.h"
 #include "support/http_server.h"
 #include "transfer_probe.h"
 
@@ -43,6 +44,29 @@ TEST_F(TransferPage, CompressedAndChunkedAnswersAreDecoded) {
     EXPECT_EQ(probe_.fetch(server_.url(path)), body) << path;
   }
   EXPECT_NE(server_.requests().at(0).header("Accept-Encoding").find("gzip"), std::string::npos);
+}
+
+TEST_F(TransferPage, CompressionIsOfThePageAlone) {
+  server_.respond("/head", {.body = "a page", .coding = HttpCoding::gzip});
+  server_.respond("/none", {.status = 204, .headers = {{"Content-Encoding", "gzip"}}});
+  server_.respond("/empty", {.headers = {{"Content-Encoding", "br, x-own"}}});
+  server_.respond("/moved", {.status = 302,
+                             .headers = {{"Location", server_.url("/plain")}, {"Content-Encoding", "gzip"}},
+                             .body = "neither the page nor compressed"});
+  server_.respond("/plain", {.body = "plain"});
+  EXPECT_EQ(probe_.fetch(server_.url("/head"), "HEAD"), "");
+  EXPECT_TRUE(probe_.succeeded());
+  for (const std::string path : {"/none", "/empty"}) {
+    EXPECT_EQ(probe_.fetch(server_.url(path)), "") << path;
+    EXPECT_TRUE(probe_.succeeded()) << path;
+  }
+  EXPECT_EQ(probe_.fetch(server_.url("/moved")), "plain");
+}
+
+TEST_F(TransferPage, CompressionOfTheWayIsTakenOff) {
+  const std::string packed = compressed("a page", HttpCoding::gzip);
+  server_.respond("/a", {.headers = {{"Transfer-Encoding", "gzip"}}, .body = packed, .chunked = true});
+  EXPECT_EQ(probe_.fetch(server_.url("/a")), "a page");
 }
 
 TEST_F(TransferPage, AnswerThatEndsWithTheConnectionIsWhole) {
