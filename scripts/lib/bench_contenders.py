@@ -17,16 +17,19 @@ def own_count(place):
 class Place:
     """Where one round of runs happens: how many sites, which server, a folder for what the programs keep."""
 
-    def __init__(self, folder, sites, size, port, changed, server=None):
+    def __init__(self, folder, sites, size, port, changed, server=None, scheme="http", hosts=1, dead=0):
         self.folder = Path(folder)
         self.sites = sites
         self.size = size
         self.port = port
         self.changed = changed
         self.server = server
+        self.scheme = scheme
+        self.hosts = hosts
+        self.dead = dead
 
     def url(self, number):
-        return f"http://127.0.0.1:{self.port}/p{number}"
+        return f"{self.scheme}://127.0.0.{1 + number % self.hosts}:{self.port}/p{number}"
 
     def urls(self):
         return [self.url(number) for number in range(1, self.sites + 1)]
@@ -84,9 +87,10 @@ class Tarnwick(Contender):
     name = "tarnwickctl check"
     note = "judges, records and logs"
 
-    def __init__(self, tools, log_rows=0):
+    def __init__(self, tools, log_rows=0, options=()):
         super().__init__(tools)
         self.log_rows = log_rows
+        self.options = options
 
     def folder(self, place):
         return place.folder / "tarnwick"
@@ -95,6 +99,9 @@ class Tarnwick(Contender):
         shutil.rmtree(self.folder(place), ignore_errors=True)
         self.folder(place).mkdir(parents=True)
         fill_database(self.folder(place) / "filled.mdb", self.tools.schema, place, self.log_rows)
+        with sqlite3.connect(self.folder(place) / "filled.mdb") as connection:
+            connection.executemany("insert into siteOptions (idSite, name, value) values (0, ?, ?)", self.options)
+        connection.close()
 
     def restore(self, place):
         for leftover in self.folder(place).glob("tarnwick.mdb*"):
@@ -106,7 +113,8 @@ class Tarnwick(Contender):
 
     def accepts(self, place, status, output):
         down = sum(1 for line in output.splitlines() if line.startswith(b"down"))
-        return status == (1 if place.changed else 0) and down == own_count(place)
+        expected = place.sites // place.dead if place.dead else own_count(place)
+        return status == (1 if expected else 0) and down == expected
 
 
 class Curl(Contender):

@@ -2,9 +2,10 @@
 """The benchmark's own slow server: every answer comes a set time after its request, and it counts how many requests it
 holds at the same time.
 
-    bench_server.py --delay MILLISECONDS --size BYTES [--changed N]
+    bench_server.py --delay MILLISECONDS --size BYTES [--changed N] [--hosts N] [--dead N]
 
-Prints its port on a line of its own and serves until its standard input ends. GET /pN answers with page N;
+Prints its port on a line of its own and serves until its standard input ends, on 127.0.0.1 to 127.0.0.N. GET /pN answers
+with page N, but never where N can be divided by the number of `--dead`;
 GET /-/in-flight with the figures since it was last asked, as JSON: how many requests came, the most that were open at
 once, and for how many seconds each number of them was.
 """
@@ -16,6 +17,9 @@ import sys
 import time
 
 from bench_pages import page
+
+# Longer than any time-out.
+NEVER = 3600
 
 
 class Flight:
@@ -58,7 +62,8 @@ async def answer(options, flight, reader, writer):
         else:
             flight.change(1)
             try:
-                await asyncio.sleep(options.delay / 1000)
+                dead = options.dead and int(target[2:]) % options.dead == 0
+                await asyncio.sleep(NEVER if dead else options.delay / 1000)
                 writer.write(response(page(int(target[2:]), options.size, options.changed)))
             finally:
                 # Before the answer is sent: its receiver may ask anew at once.
@@ -73,10 +78,15 @@ async def answer(options, flight, reader, writer):
 
 async def serve(options):
     flight = Flight()
-    server = await asyncio.start_server(lambda r, w: answer(options, flight, r, w), "127.0.0.1", 0, backlog=1024)
-    print(server.sockets[0].getsockname()[1], flush=True)
+    servers = []
+    for host in range(1, options.hosts + 1):
+        port = servers[0].sockets[0].getsockname()[1] if servers else 0
+        servers.append(await asyncio.start_server(lambda r, w: answer(options, flight, r, w), f"127.0.0.{host}", port,
+                                                  backlog=1024))
+    print(servers[0].sockets[0].getsockname()[1], flush=True)
     await asyncio.get_running_loop().run_in_executor(None, sys.stdin.read)
-    server.close()
+    for server in servers:
+        server.close()
 
 
 def main():
@@ -84,6 +94,8 @@ def main():
     parser.add_argument("--delay", type=float, default=100)
     parser.add_argument("--size", type=int, default=10_000)
     parser.add_argument("--changed", type=int, default=0)
+    parser.add_argument("--hosts", type=int, default=1)
+    parser.add_argument("--dead", type=int, default=0)
     asyncio.run(serve(parser.parse_args()))
 
 

@@ -9,6 +9,7 @@ import argparse
 import json
 import os
 import shutil
+import socket
 import statistics
 import subprocess
 import sys
@@ -22,6 +23,9 @@ import bench_contenders
 from bench_pages import page
 
 MOST_SITES = 32767
+# What the system counts output in, bytes.
+BLOCK = 512
+BUNDLE = "/etc/ssl/certs/ca-certificates.crt"
 HERE = Path(__file__).resolve().parent
 ROOT = HERE.parent.parent
 
@@ -41,13 +45,13 @@ def measured(command, environment):
         said = output.read()
         memory = int(peak.read()) / 1024
     return SimpleNamespace(wall=wall, cpu=usage.ru_utime + usage.ru_stime, memory=memory,
-                           status=process.returncode, said=said)
+                           written=usage.ru_oublock * BLOCK, status=process.returncode, said=said)
 
 
 class FastServer:
     """nginx with one worker over files in memory."""
 
-    def __init__(self, folder):
+    def __init__(self, folder, certificate=None):
         self.folder = folder
         self.pages = folder / "pages"
         self.pages.mkdir(parents=True)
@@ -60,16 +64,18 @@ class FastServer:
             "events { worker_connections 1024; }\n"
             f"http {{ access_log off; client_body_temp_path {folder}/t1; proxy_temp_path {folder}/t2;"
             f" fastcgi_temp_path {folder}/t3; uwsgi_temp_path {folder}/t4; scgi_temp_path {folder}/t5;"
-            f" server {{ listen 127.0.0.1:{self.port} backlog=1024; root {self.pages}; }} }}\n",
+            f" keepalive_timeout 0;"
+            f" server {{ listen 127.0.0.1:{self.port} {'ssl' if certificate else ''} backlog=1024; root {self.pages};"
+            + (f" ssl_certificate {certificate}.crt; ssl_certificate_key {certificate}.key;" if certificate else "")
+            + " } }\n",
             encoding="ascii")
         self.process = subprocess.Popen(["/usr/sbin/nginx", "-c", str(config)], stderr=subprocess.DEVNULL)
         self.await_page()
 
     def await_page(self):
-        (self.pages / "ready").write_text("yes", encoding="ascii")
         for _ in range(100):
             try:
-                urllib.request.urlopen(f"http://127.0.0.1:{self.port}/ready").read()
+                socket.create_connection(("127.0.0.1", self.port)).close()
                 return
             except OSError:
                 time.sleep(0.05)
@@ -90,9 +96,10 @@ class FastServer:
 class SlowServer:
     """The benchmark's own server, which answers after a while and counts."""
 
-    def __init__(self, delay, size):
+    def __init__(self, delay, size, hosts=1, dead=0):
         self.process = subprocess.Popen([sys.executable, str(HERE / "bench_server.py"), "--delay", str(delay), "--size",
-                                         str(size)], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+                                         str(size), "--hosts", str(hosts), "--dead", str(dead)],
+                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         self.port = int(self.process.stdout.readline())
 
     def in_flight(self):
@@ -146,8 +153,8 @@ def print_row(cells):
 
 def print_head(title):
     print(f"\n{title}\n")
-    print_row(["", "wall", "CPU a check", "peak memory", "load"])
-    print_row(["---", "---:", "---:", "---:", "---:"])
+    print_row(["", "wall", "CPU a check", "written a check", "peak memory", "load"])
+    print_row(["---", "---:", "---:", "---:", "---:", "---:"])
 
 
 def print_results(results, place):
@@ -156,7 +163,9 @@ def print_results(results, place):
         wall = wall_of[type(contender)] = statistics.median(run.wall for run in runs)
         cpu = statistics.median(run.cpu for run in runs) / place.sites * 1000
         memory = statistics.median(run.memory for run in runs)
-        print_row([f"{contender.name} ({contender.note})", f"{wall:.2f} s", f"{cpu:.3f} ms", f"{memory:.1f} MiB", load()])
+        written = statistics.median(run.written for run in runs) / place.sites / 1024
+        print_row([f"{contender.name} ({contender.note})", f"{wall:.2f} s", f"{cpu:.3f} ms", f"{written:.1f} KiB",
+                   f"{memory:.1f} MiB", load()])
     return wall_of
 
 
@@ -164,7 +173,7 @@ def print_ratios(wall_of):
     own = wall_of.get(bench_contenders.Tarnwick)
     floor = [wall_of.get(kind) for kind in (bench_contenders.Curl, bench_contenders.BareStatements)]
     if own and all(floor):
-        print_row(["floor: curl and bare statements, one after the other", f"{sum(floor):.2f} s", "", "", ""])
+        print_row(["floor: curl and bare statements, one after the other", f"{sum(floor):.2f} s", "", "", "", ""])
         print(f"\ntarnwickctl takes {own / sum(floor):.2f} times the floor.", end="")
         for kind in (bench_contenders.Urlwatch, bench_contenders.CheckHttp):
             if kind in wall_of:
@@ -187,6 +196,74 @@ def fast_rounds(options, tools, folder):
                 shutil.rmtree(place.folder, ignore_errors=True)
     finally:
         server.close()
+
+
+def certificate_of(folder):
+    """A certificate for 127.0.0.1, and the system's bundle with the authority that has signed it."""
+    folder.mkdir(parents=True)
+    for command in ("req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=Bench -keyout ca.key -out ca.crt",
+                    "req -newkey rsa:2048 -nodes -subj /CN=localhost -keyout own.key -out own.csr"):
+        subprocess.run(["openssl", *command.split()], cwd=folder, check=True, capture_output=True)
+    (folder / "names").write_text("subjectAltName=IP:127.0.0.1\n", encoding="ascii")
+    subprocess.run("openssl x509 -req -in own.csr -CA ca.crt -CAkey ca.key -CAcreateserial -days 2 -extfile names "
+                   "-out own.crt".split(), cwd=folder, check=True, capture_output=True)
+    bundle = folder / "bundle.crt"
+    bundle.write_bytes(Path(BUNDLE).read_bytes() + (folder / "ca.crt").read_bytes())
+    return folder / "own", bundle
+
+
+def secure_round(options, tools, folder):
+    """https, with all the authorities of the system and one more, which each contender finds in the system's place."""
+    certificate, bundle = certificate_of(folder / "certificates")
+    server = FastServer(folder / "secure", certificate)
+    try:
+        sites = min(options.sites[-1], 200)
+        server.lay(sites, options.size, 0)
+        place = bench_contenders.Place(folder / "place", sites, options.size, server.port, False, scheme="https")
+        kinds = (bench_contenders.Tarnwick, bench_contenders.Curl)
+        contenders = [in_namespace(kind, bundle)(tools) for kind in kinds]
+        results, _ = round_of(contenders, place, options.runs)
+        print_head(f"{sites} https sites of {options.size} bytes, the system's bundle of authorities")
+        print_results(results, place)
+    finally:
+        server.close()
+
+
+def in_namespace(kind, bundle):
+    """The contender, run where `bundle` lies in the place of the system's; also for who is not the superuser."""
+
+    class Shielded(kind):
+        def command(self, place):
+            return ["unshare", "--map-root-user", "--mount", "sh", "-c",
+                    f'mount --bind "$0" {BUNDLE} && exec "$@"', str(bundle), *super().command(place)]
+
+    return Shielded
+
+
+def parallel_round(options, tools, folder):
+    """A list of many hosts, some of which never answer: five at a time, and as many as pay."""
+    hosts, dead, sites = 200, 50, options.parallel_sites
+    for delay in (50, 200):
+        for silent in (0, dead):
+            server = SlowServer(delay, options.size, hosts, silent)
+            try:
+                place = bench_contenders.Place(folder / "parallel", sites, options.size, server.port, False, hosts=hosts,
+                                               dead=silent)
+                silence = f", {sites // silent} of them silent for 30 s" if silent else ""
+                print_head(f"{sites} sites on {hosts} hosts, each answer after {delay} ms{silence}")
+                seen = []
+                for name, chosen in (("five at a time", ()), ("parallel=auto", (("parallel", "auto"),))):
+                    if silent and not chosen and not options.patient:
+                        continue
+                    contender = bench_contenders.Tarnwick(tools, 0, chosen)
+                    contender.note = name
+                    results, _ = round_of([contender], place, 1, server.in_flight)
+                    print_results(results, place)
+                    seen.append(f"{name}, as the server saw it: {results[contender][-1].note}.")
+                print("\n" + "\n".join(seen))
+                shutil.rmtree(place.folder)
+            finally:
+                server.close()
 
 
 def slow_round(options, tools, folder):
@@ -250,7 +327,8 @@ def window_round(options, tools, folder):
         server.close()
 
 
-PARTS = {"fast": fast_rounds, "slow": slow_round, "scale": scale_round, "window": window_round}
+PARTS = {"fast": fast_rounds, "secure": secure_round, "slow": slow_round, "parallel": parallel_round,
+         "scale": scale_round, "window": window_round}
 
 
 def arguments():
@@ -263,6 +341,9 @@ def arguments():
     parser.add_argument("--runs", type=int, default=5, help="runs of each contender (default 5)")
     parser.add_argument("--size", type=int, default=10_000, help="bytes of a page (default 10000)")
     parser.add_argument("--delay", type=int, default=100, help="milliseconds of a slow answer (default 100)")
+    parser.add_argument("--parallel-sites", type=int, default=2000, help="sites of the part parallel (default 2000)")
+    parser.add_argument("--patient", action="store_true",
+                        help="let five at a time wait for the silent ones as well: some minutes")
     parser.add_argument("--slow-sites", type=int, default=500, help="sites of the part slow (default 500)")
     options = parser.parse_args()
     if options.quick:

@@ -54,10 +54,14 @@ std::string cause(int code, const std::string& message, const std::string& path)
     case SQLITE_LOCKED:
       return "A table of the database is still being read; the change cannot be made now. Try again." + detail;
     case SQLITE_READONLY:
-      for (const char* const ending : {"-shm", "-wal"}) {
-        if (!mayWrite(path + ending)) {
-          return "The database " + path + " cannot be changed: the file " + path + ending +
-                 ", which belongs to it, is read-only. Allow writing to it." + detail;
+      for (const std::string& companion : {path + "-shm", path + "-wal"}) {
+        if (!mayWrite(companion)) {
+          return std::string("The database ")
+              .append(path)
+              .append(" cannot be changed: the file ")
+              .append(companion)
+              .append(", which belongs to it, is read-only. Allow writing to it.")
+              .append(detail);
         }
       }
       return "The database " + path +
