@@ -2,7 +2,6 @@
 #include "engine/in_flight.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "base/text.h"
 #include "engine/inet_pool.h"
@@ -39,13 +38,17 @@ InFlightPolicy inFlightPolicy(const OptionsInForce& options) {
   return policy;
 }
 
-InFlight::InFlight(const InFlightPolicy& policy, std::vector<Row> rows) : policy_(policy), rows_(std::move(rows)) {
+InFlight::InFlight(const InFlightPolicy& policy, const std::vector<Row>& rows) : policy_(policy) {
   if (policy_.automatic) {
     throttle_.emplace(kFewest, static_cast<std::size_t>(policy_.slots));
   }
-  for (std::size_t row = 1; row <= rows_.size(); ++row) {
-    (isSlow(row) ? slow_ : rest_).push_back(row);
+  std::unordered_map<std::string_view, std::size_t> numbers{{{}, 0}};
+  for (const Row& row : rows) {
+    hostOf_.push_back(numbers.try_emplace(row.host, numbers.size()).first->second);
+    slowRows_.push_back(policy_.slowLane && row.slow);
+    (slowRows_.back() ? slow_ : rest_).push_back(hostOf_.size());
   }
+  hosts_.resize(numbers.size());
 }
 
 // The slow ones go first: the pass ends when the last of them has taken its time.
@@ -74,7 +77,7 @@ std::size_t InFlight::firstReady(const std::deque<std::size_t>& rows, Time now) 
 }
 
 bool InFlight::isReady(std::size_t row, Time now) {
-  if (rows_[row - 1].host.empty() || (policy_.perHost == 0 && policy_.spacing == Time(0))) {
+  if (isSentToNobody(row) || (policy_.perHost == 0 && policy_.spacing == Time(0))) {
     return true;
   }
   const Host& host = hostOf(row);
@@ -91,7 +94,7 @@ bool InFlight::isReady(std::size_t row, Time now) {
 void InFlight::take(std::size_t row, Time now) {
   std::deque<std::size_t>& lane = isSlow(row) ? slow_ : rest_;
   lane.erase(std::ranges::find(lane, row));
-  if (rows_[row - 1].host.empty()) {
+  if (isSentToNobody(row)) {
     return;
   }
   Host& host = hostOf(row);

@@ -51,7 +51,7 @@ class InFlight {
     bool slow = false;   ///< took too long last time
   };
 
-  InFlight(const InFlightPolicy& policy, std::vector<Row> rows);
+  InFlight(const InFlightPolicy& policy, const std::vector<Row>& rows);
 
   /// The row to be sent next; 0 while each that is left has to wait.
   std::size_t upcoming(Time now);
@@ -74,12 +74,15 @@ class InFlight {
 
   std::size_t firstReady(const std::deque<std::size_t>& rows, Time now);
   bool isReady(std::size_t row, Time now);
-  Host& hostOf(std::size_t row) { return hosts_[rows_.at(row - 1).host]; }
-  bool isSlow(std::size_t row) const { return policy_.slowLane && rows_.at(row - 1).slow; }
+  bool isSentToNobody(std::size_t row) const { return hostOf_[row - 1] == 0; }
+  Host& hostOf(std::size_t row) { return hosts_[hostOf_[row - 1]]; }
+  bool isSlow(std::size_t row) const { return slowRows_[row - 1]; }
 
   InFlightPolicy policy_;
-  std::vector<Row> rows_;
-  std::unordered_map<std::string, Host> hosts_;
+  // By number, since the rows of hosts that wait are looked through again and again; 0 is nobody.
+  std::vector<std::size_t> hostOf_;
+  std::vector<Host> hosts_;
+  std::vector<bool> slowRows_;
   std::deque<std::size_t> rest_;
   std::deque<std::size_t> slow_;
   std::unordered_map<std::size_t, Time> sentAt_;

@@ -117,7 +117,7 @@ InFlight TestPass::planned(const InFlightPolicy& policy) const {
       rows[row - 1] = {hostOfAddress(sites_.url(row)), slow.contains(sites_.idSite(row))};
     }
   }
-  return {policy, std::move(rows)};
+  return {policy, rows};
 }
 
 void TestPass::dispatchAll() {
@@ -139,6 +139,9 @@ bool TestPass::hasWorkFor(const std::vector<std::int16_t>& freeSlots) {
 
 void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
   for (const std::int16_t slot : freeSlots) {
+    if (!hasWorkFor({slot})) {
+      continue;
+    }
     needs_.pump.pump();
     if (stopped()) {
       return;
