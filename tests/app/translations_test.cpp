@@ -18,7 +18,7 @@ namespace {
 /// The user's language, until the end of the test; so is what was loaded for it.
 class TranslationsTest : public ::testing::Test {
  protected:
-  ~TranslationsTest() override {
+  void TearDown() override {
     for (QTranslator* translator : qApp->findChildren<QTranslator*>(Qt::FindDirectChildrenOnly)) {
       QCoreApplication::removeTranslator(translator);
       delete translator;

@@ -19,6 +19,6 @@ double processorSeconds();
 /// For a test of what there is no such thing as on Windows; the reason says what that is.
 #define SKIP_ON_WINDOWS(reason)        \
   if (tarnwick::testing::kOnWindows) { \
-    GTEST_SKIP() << reason;            \
+    GTEST_SKIP() << (reason);          \
   }                                    \
   static_assert(true)

@@ -158,8 +158,8 @@ TEST_F(SiteImport, RefusesLineEndsAndNulWhereTheyWouldBecomeCommands) {
               "\n"
               R"({"url": "http://a/"},)"
               "\n{" +
-              std::string(name == "url" ? "" : R"("url": "http://b/", )") + "\"" + name + R"(": "http://c/)" + end +
-              R"(.x"}]})";
+              std::string(name == "url" ? "" : R"("url": "http://b/", )");
+      input.append("\"").append(name).append(R"(": "http://c/)").append(end).append(R"(.x"}]})");
       EXPECT_EQ(run({"import", "-", "--format", "json"}), exit_status::failed) << name << end;
       EXPECT_THAT(err, HasSubstr("line 3: " + name + " \"http://c/"));
       EXPECT_THAT(err, HasSubstr(remedy));

@@ -159,7 +159,7 @@ TEST_F(SiteListCsv, CountsTheFaultsBeyondTheFirst) {
 }
 
 TEST_F(SiteListCsv, ShowsNoControlCharacterInAFault) {
-  EXPECT_EQ(faultsOf("url,active\nx,\"\x1b[2J\n\"\n").find_first_of("\x1b"), std::string::npos);
+  EXPECT_EQ(faultsOf("url,active\nx,\"\x1b[2J\n\"\n").find('\x1b'), std::string::npos);
 }
 
 TEST_F(SiteListCsv, RefusesWhatIsNoBase64) {

@@ -68,7 +68,7 @@ TEST_F(SiteListJson, KeepsEveryByteOfAText) {
   const std::string odd("\"a,b\"\r\n\0\xff\x1b ", 11);
   std::vector<ListedSite> sites(2);
   sites[0].idSite = 1;
-  sites[0].site = {odd, "GET", false, "32767", true, "NULL", "ä\t\0", "\\"};
+  sites[0].site = {odd, "GET", false, "32767", true, "NULL", "ä\t", "\\"};
   sites[0].postVars = {{odd, "NULL"}, {"", ""}, {"a", ""}, {"a", ""}};
   sites[0].baseline = odd;
   sites[1].idSite = 9;

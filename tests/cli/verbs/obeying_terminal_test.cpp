@@ -11,7 +11,6 @@ namespace tarnwick::testing {
 namespace {
 
 using ::testing::HasSubstr;
-using ::testing::Not;
 
 /// Clears the screen in three ways, and reorders what follows.
 const std::string kOdd = std::string(kOnWindows ? "" : "\x1b[2J\x07") + "\xc2\x9b" + "2J\xe2\x80\xae\x7f odd";
@@ -123,13 +122,9 @@ TEST_F(ObeyingTerminal, IsToldNothingOfWhatIsAskedFor) {
       return arguments;
     };
     const Arguments elsewhere{"--folder", folder.file("no " + kOdd)};
-    for (const Arguments& more : std::vector<Arguments>{{},
-                                                        {kOdd},
-                                                        {"--" + kOdd},
-                                                        {"--" + kOdd + "=" + kOdd},
-                                                        {"-" + kOdd},
-                                                        {"--folder=" + kOdd},
-                                                        {"--folder", ""}}) {
+    const std::string oddOption = "--" + kOdd;
+    for (const Arguments& more : std::vector<Arguments>{
+             {}, {kOdd}, {oddOption}, {oddOption + "=" + kOdd}, {"-" + kOdd}, {"--folder=" + kOdd}, {"--folder", ""}}) {
       runHarmlessly(with(with(known, elsewhere), more));
       runHarmlessly(with(with(odd, elsewhere), more));
     }

@@ -5,7 +5,6 @@ namespace tarnwick::testing {
 namespace {
 
 using ::testing::HasSubstr;
-using ::testing::Not;
 using ::testing::StartsWith;
 
 class SiteVerbs : public ToolFixture {
