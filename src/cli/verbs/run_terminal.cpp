@@ -51,7 +51,7 @@ void RunTerminal::prepare(m& data) {
 
 void RunTerminal::begin() {
   begun_ = true;
-  tell("Run started: " + sitesText(active_) + " active in " + data_->programFolder() + ".", "started",
+  tell("Run started: " + sitesText(active_) + " active in " + visibleText(data_->programFolder()) + ".", "started",
        {{"folder", jsonText(data_->programFolder())}, {"active", active_}});
 }
 

@@ -2,6 +2,7 @@
 #include "cli/verbs/run_terminal.h"
 
 #include <cerrno>
+#include <filesystem>
 #include <system_error>
 
 #include "cli/support/tool_fixture.h"
@@ -76,6 +77,18 @@ TEST_F(RunTerminalTest, TellsOfAMailServerThatTakesNoMailOnceInAPass) {
   EXPECT_EQ(text.find("The mail server is dead."), text.rfind("The mail server is dead."));
   EXPECT_THAT(text, HasSubstr("Checked 3 sites: 0 up, 3 down; 2 mails left out."));
 }
+
+#ifndef _WIN32  // where no name of a folder may hold such characters
+TEST_F(RunTerminalTest, TellsOfAFolderWhoseNameATerminalWouldObey) {
+  const std::filesystem::path named = std::filesystem::path(folder.path()) / "a\x1b[2J\xe2\x80\xae";
+  std::filesystem::create_directory(named);
+  std::filesystem::copy_file(std::filesystem::path(folder.path()) / "tarnwick.mdb", named / "tarnwick.mdb");
+  m data(named.string(), machine.services());
+  shown.prepare(data);
+  shown.indicators(RunState::start);
+  EXPECT_THAT(written.str(), HasSubstr("/a\\x1b[2J\\xe2\\x80\\xae."));
+}
+#endif
 
 TEST_F(RunTerminalTest, LeavesOutAnIdThatTheProgramCannotUse) {
   addSite("http://a/");
