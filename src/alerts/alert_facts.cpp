@@ -39,6 +39,21 @@ std::string fill(std::string text, const Placeholders& placeholders, const Alert
   return text;
 }
 
+// While a command is filled in, a NUL byte and what follows it is a mark: one each before and behind an address,
+// together with all that its own placeholders bring in, and one for the NUL byte that a literal quote is.
+constexpr char kMark = '\0';
+constexpr char kBegin = '<';
+constexpr char kEnd = '>';
+constexpr char kItself = '0';
+
+std::string marked(const std::string& literal) {
+  return replaceAll(literal, std::string_view(&kMark, 1), std::string{kMark, kItself});
+}
+
+std::string markedAddress(const std::string& literal) {
+  return std::string{kMark, kBegin} + marked(literal) + std::string{kMark, kEnd};
+}
+
 // The address as it would be fetched: one argument, which is no option of the program.
 std::string addressAsArgument(const std::string& url) {
   std::string text;
@@ -46,7 +61,27 @@ std::string addressAsArgument(const std::string& url) {
     const auto place = kEncodedBlanks.find(c);
     text += place == std::string_view::npos ? std::string(1, c) : std::string(kEncodings[place]);
   }
-  return literalArgumentText(text.starts_with('-') ? "http://" + text : text);
+  return text.starts_with('-') ? "http://" + text : text;
+}
+
+std::string withoutMarks(const std::string& text) {
+  std::string result;
+  std::string address;
+  std::size_t depth = 0;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    std::string& target = depth > 0 ? address : result;
+    if (text[at] != kMark) {
+      target += text[at];
+    } else if (text[++at] == kItself) {
+      target += kMark;
+    } else if (text[at] == kBegin) {
+      ++depth;
+    } else if (--depth == 0) {
+      result += addressAsArgument(address);
+      address.clear();
+    }
+  }
+  return result;
 }
 
 }  // namespace
@@ -59,11 +94,11 @@ std::string fillTemplate(std::string text, const AlertFacts& facts, const Clock&
 }
 
 std::string fillCommand(std::string text, const AlertFacts& facts, const Clock& clock) {
-  const AlertFacts literal = {addressAsArgument(facts.url), literalArgumentText(facts.idSite),
-                              literalArgumentText(facts.email), literalArgumentText(facts.localHostName),
-                              literalArgumentText(facts.localIP)};
-  text = fill(std::move(text), kNamed, literal, clock);
-  return fill(std::move(text), kNumbered, literal, clock);
+  const auto literal = [](const std::string& value) { return marked(literalArgumentText(value)); };
+  const AlertFacts values = {markedAddress(literalArgumentText(facts.url)), literal(facts.idSite), literal(facts.email),
+                             literal(facts.localHostName), literal(facts.localIP)};
+  text = fill(marked(text), kNamed, values, clock);
+  return withoutMarks(fill(std::move(text), kNumbered, values, clock));
 }
 
 }  // namespace tarnwick

@@ -26,7 +26,8 @@ std::string fillTemplate(std::string text, const AlertFacts& facts, const Clock&
 
 /// The same for a command line, followed by the short forms "~1~" to "~6~" of the six in the same order; the clock is
 /// read again for "~1~". Double quotes of the values neither open nor close a quoted argument when the result is split
-/// by `splitCommandLine`.
+/// by `splitCommandLine`. An address, with what its own placeholders bring in, is one argument and no option: its
+/// blanks are encoded, and one that begins with a dash gets "http://".
 std::string fillCommand(std::string text, const AlertFacts& facts, const Clock& clock);
 
 }  // namespace tarnwick

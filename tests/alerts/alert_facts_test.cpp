@@ -68,7 +68,7 @@ TEST(AlertFacts, AValueIsSubjectToTheReplacementsThatFollow) {
   AlertFacts facts = kFacts;
   facts.url = "http://example.com/~email~/~date~/~1~";
   EXPECT_EQ(filled("~url~", facts), "http://example.com/you@example.com/~date~/~1~");
-  EXPECT_EQ(filledCommand("~url~", facts), "http://example.com/you@example.com/~date~/2024-05-17 12:00:30");
+  EXPECT_EQ(filledCommand("~url~", facts), "http://example.com/you@example.com/~date~/2024-05-17%2012:00:30");
   facts.email = "~url~";
   EXPECT_EQ(filled("~email~", facts), "~url~");
   EXPECT_EQ(filledCommand("~4~", facts), "~url~");
@@ -119,6 +119,23 @@ TEST(AlertFacts, AnAddressIsOneArgumentOfAProgramAndNoOption) {
   const std::string ordinary = "http://a.test/b?c=d%20e&f=-g";
   EXPECT_THAT(arguments(ordinary), ElementsAre("wget", ordinary, ordinary, ordinary));
   EXPECT_EQ(filled("~url~", facts), facts.url);
+}
+
+TEST(AlertFacts, WhatAnAddressBringsInStaysInItsArgument) {
+  AlertFacts facts = kFacts;
+  facts.email = "~email~ --post-file=/etc/passwd";
+  facts.url = "http://a.test/~email~";
+  const std::vector<std::string> all = splitCommandLine(filledCommand("wget ~url~ \"~url~\" end", facts));
+  ASSERT_EQ(all.size(), 4U);
+  EXPECT_THAT(all[1], ::testing::StartsWith("http://a.test/"));
+  EXPECT_EQ(all[2], all[1]);
+  facts.email = "--post-file=/etc/passwd x";
+  facts.url = "~email~";
+  EXPECT_THAT(splitCommandLine(filledCommand("wget ~url~", facts)),
+              ElementsAre("wget", "http://--post-file=/etc/passwd%20x"));
+  facts.url = "http://a.test/~4~/~2~";
+  EXPECT_THAT(splitCommandLine(filledCommand("wget ~url~", facts)),
+              ElementsAre("wget", ::testing::StartsWith("http://a.test/")));
 }
 
 TEST(AlertFacts, AnEmptyValueBetweenQuotesIsAnEmptyArgument) {

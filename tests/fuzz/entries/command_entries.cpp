@@ -189,12 +189,13 @@ void fuzzFillTemplate(std::string_view input) {
 }
 
 void fuzzFillCommand(std::string_view input) {
-  // Stands for a quote that has no meaning, so it must be in none of the texts.
+  // Stand for a quote that has no meaning and for the address, so they must be in none of the texts.
   constexpr char kInnocent = '\x01';
+  constexpr char kAddress = '\x02';
   Filling filling = fillingOf(input);
-  filling.text = without(filling.text, std::string_view("\0\x01", 2));
+  filling.text = without(filling.text, std::string_view("\0\x01\x02", 3));
   filling.facts =
-      mapped(filling.facts, [](const std::string& value) { return without(value, std::string_view("\0\x01", 2)); });
+      mapped(filling.facts, [](const std::string& value) { return without(value, std::string_view("\0\x01\x02", 3)); });
   const AlertFacts innocent =
       mapped(filling.facts, [](const std::string& value) { return replaced(value, '"', kInnocent); });
 
@@ -213,12 +214,15 @@ void fuzzFillCommand(std::string_view input) {
                 url.find('~') != std::string::npos,
             "a blank of an address splits an argument");
   }
-  if (url.find_first_of(" \t\r\n\v\f") != std::string::npos || url.starts_with('-')) {
-    return;  // the address is changed
+  if (url.find_first_of(" \t\r\n\v\f~") != std::string::npos || url.starts_with('-')) {
+    return;  // the address is changed, or brings something in
   }
+  AlertFacts standing = innocent;
+  standing.url = kAddress;
   std::string plain = filling.text;
-  fillAll(plain, kNames, innocent);
-  fillAll(plain, kNumbers, innocent);
+  fillAll(plain, kNames, standing);
+  fillAll(plain, kNumbers, standing);
+  fillIn(plain, std::string_view(&kAddress, 1), innocent.url);
   require(fillCommand(filling.text, innocent, standingClock()) == plain, "the command is filled otherwise");
 }
 
