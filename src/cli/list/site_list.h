@@ -89,7 +89,7 @@ namespace list_bound {
 inline constexpr std::size_t sites = 32767;     ///< there are no more ids
 inline constexpr std::size_t fields = 1000;     ///< of a row of CSV
 inline constexpr std::size_t members = 100;     ///< of a JSON object
-inline constexpr std::size_t elements = 10000;  ///< of a JSON array: the variables of a site
+inline constexpr std::size_t elements = 10000;  ///< of a JSON array, and variables of a site
 }  // namespace list_bound
 
 /// The fault of a file with more sites.

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <stdexcept>
+#include <string>
 
 #include "base/text.h"
 #include "cli/list/site_list.h"
@@ -78,6 +79,10 @@ std::vector<PostVar> decodePostVars(std::string_view text) {
     return vars;
   }
   for (;;) {
+    if (vars.size() == list_bound::elements) {
+      throw std::invalid_argument("there are more than " + std::to_string(list_bound::elements) +
+                                  " variables, and no site has so many: leave them out");
+    }
     const std::size_t end = text.find('&');
     vars.push_back(decodedPair(text.substr(0, end)));
     if (end == std::string_view::npos) {

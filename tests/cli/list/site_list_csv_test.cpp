@@ -192,6 +192,16 @@ TEST_F(SiteListCsv, HoldsNoMoreFieldsThanAListHasColumns) {
   EXPECT_EQ(faultsOf("url\n" + commas + "\n" + commas + commas + "\nb\n"), "2: " + fault + "3: " + fault);
 }
 
+TEST_F(SiteListCsv, HoldsNoMoreVariablesThanAListInJson) {
+  std::string vars = "a=b";
+  for (std::size_t var = 1; var < list_bound::elements; ++var) {
+    vars += "&a=b";
+  }
+  EXPECT_EQ(faultsOf("url,postVars\na," + vars + "\n"), "");
+  EXPECT_EQ(faultsOf("url,postVars\na," + vars + "&a=b\n"),
+            "2: postVars: there are more than 10000 variables, and no site has so many: leave them out\n");
+}
+
 TEST_F(SiteListCsv, HoldsNoMoreSitesThanThereAreIds) {
   std::string text = "url\n";
   for (int site = 0; site < 32767; ++site) {
