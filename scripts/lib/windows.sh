@@ -88,6 +88,8 @@ build_version() {
   fi
   mkdir -p "$windows_cache"/{root/lib,root/include,build,log}
   rm -f "$mark"
+  # What an earlier build of another clone left names that clone's folders.
+  rm -rf "$windows_cache/build/$name"
   echo "Building $name $version for Windows, once ..."
   "$@" || exit 1
   echo "$version" >"$mark"

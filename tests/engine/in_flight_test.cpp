@@ -15,6 +15,7 @@ OptionsInForce options(OptionValues values) { return OptionsInForce({{kAllSites,
 
 std::vector<InFlight::Row> rows(const std::vector<std::string>& hosts) {
   std::vector<InFlight::Row> all;
+  all.reserve(hosts.size());
   for (const std::string& host : hosts) {
     // A host in capitals took too long last time.
     all.push_back({host, !host.empty() && host[0] >= 'A' && host[0] <= 'Z'});

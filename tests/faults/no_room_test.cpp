@@ -15,7 +15,6 @@ namespace {
 using std::chrono::minutes;
 using std::chrono::seconds;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 constexpr std::int64_t kKib = 1024;
@@ -162,7 +161,7 @@ TEST_F(LogLimit, NothingIsEmptiedWhileItIsNotSet) {
     used.server.respond("/down", {.body = std::string(700 * kKib, letter)});
     check();
   }
-  EXPECT_GT(std::stoi(contents()), 3 * 700 * kKib);
+  EXPECT_GT(std::stoll(contents()), kKib * 3 * 700);
 }
 
 TEST_F(LogLimit, NoPageIsKeptWhileTheDiskHasLittleRoom) {

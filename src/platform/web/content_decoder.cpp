@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <ranges>
 
 #include "base/text.h"
 
@@ -55,9 +56,9 @@ ContentDecoder::ContentDecoder(const std::vector<std::string>& codings, std::siz
     stages_.push_back({.coding = std::make_unique<UnknownCoding>()});
     return;
   }
-  for (auto name = codings.rbegin(); name != codings.rend(); ++name) {
-    if (!isNone(*name)) {
-      stages_.push_back({.coding = makeCoding(*name)});
+  for (const std::string& name : std::ranges::reverse_view(codings)) {
+    if (!isNone(name)) {
+      stages_.push_back({.coding = makeCoding(name)});
     }
   }
 }
