@@ -120,6 +120,28 @@ TEST(RealFaults, AFullDiskIsToldOnceAndTheRunGoesOn) {
       });
 }
 
+// Opening the list takes room, too: for the memory that those who have it open share through a file.
+TEST(RealFaults, ADiskWithoutAByteLeftKeepsNoAlertBack) {
+  const SmallDisk disk;
+  if (!disk.mounted()) {
+    GTEST_SKIP() << "only a user who may mount a file system can have a small disk";
+  }
+  const UsedFolder used;
+  disk.fillUp();
+  {
+    RunningProgram running(used);
+    running.program.startRun();
+    EXPECT_TRUE(running.program.run().running());
+    EXPECT_FALSE(running.machine.sound.played.empty());
+    EXPECT_EQ(running.boxes(), 1u) << running.boxTexts();
+    EXPECT_THAT(running.boxTexts(), HasSubstr("The disk is full"));
+    disk.makeRoom();
+    running.letPass(seconds(30));
+    EXPECT_EQ(used.recorded(4, false), 1) << running.boxTexts();
+  }
+  EXPECT_EQ(used.integrity(), "ok");
+}
+
 /// Gives up the rights of the superuser, whom no file mode stops.
 class WithoutSuperuser {
  public:

@@ -63,10 +63,10 @@ class FileRunLock final : public RunLock {
                                path_ + ".");
     }
     file_ = std::move(file);
-    if (std::fputs(thisProcess().c_str(), file_.get()) < 0 || std::fflush(file_.get()) != 0) {
-      release();
-      throw FileError(path_, "The file could not be written, so no run can be started. The disk may be full.");
-    }
+    // What stands in the file only tells others who has it. A full disk, on which sites must be watched all the same, may
+    // have no room for that.
+    std::fputs(thisProcess().c_str(), file_.get());
+    std::fflush(file_.get());
   }
 
   void release() noexcept override {

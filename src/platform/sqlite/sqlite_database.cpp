@@ -19,6 +19,8 @@ namespace tarnwick {
 namespace {
 
 constexpr std::size_t kStatementsKept = 64;
+/// How long the database is kept from others where it must be had alone, before it is looked whether it still must.
+constexpr std::chrono::seconds kAloneAtMost{5};
 /// 2 MiB, and 32 MiB while a text longer than `kLargeText` is being stored.
 constexpr const char* kUsualCache = "pragma cache_size = -2048";
 constexpr const char* kLargeCache = "pragma cache_size = -32768";
@@ -105,7 +107,27 @@ int SqliteDatabase::takeLogIn(void* self, sqlite3* database, const char* name, i
   return SQLITE_OK;
 }
 
+// Where the disk has no room left for the small file that all who have the database open share memory through, it can be
+// had alone, with that memory in the process: a site that is down must be told of on a full disk, too.
 void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
+  try {
+    openFile(before);
+    alone_ = false;
+    refuseDamage();
+  } catch (const DataAccessError& error) {
+    if (!error.forWantOfRoom()) {
+      throw;
+    }
+    openFile(before);
+    alone_ = true;
+    sqlite3_exec(handle(), "pragma main.locking_mode = exclusive", nullptr, nullptr, nullptr);
+    refuseDamage();
+    sharedAgain_ = std::chrono::steady_clock::now() + kAloneAtMost;
+  }
+  chooseJournal();
+}
+
+void SqliteDatabase::openFile(const std::optional<FileIdentity>& before) {
   keptByText_.clear();
   kept_.clear();
   handle_.reset();
@@ -120,8 +142,6 @@ void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
   if (registerFunctions(handle()) != SQLITE_OK) {
     throw lastError();
   }
-  refuseDamage();
-  chooseJournal();
 }
 
 // Even reading a database that has had a log takes files beside it. Where none can be made, and none is there, nobody
@@ -147,7 +167,8 @@ void SqliteDatabase::openUnchanged() {
 
 bool SqliteDatabase::wantsReopening() const {
   const bool begun = unchanged_ && LocalFiles().exists(realName(handle()) + "-wal");
-  return (outdated_ || begun) && open_.empty() && sqlite3_get_autocommit(handle()) != 0;
+  const bool shares = alone_ && std::chrono::steady_clock::now() >= sharedAgain_;
+  return (outdated_ || begun || shares) && open_.empty() && sqlite3_get_autocommit(handle()) != 0;
 }
 
 SqliteDatabase::~SqliteDatabase() {

@@ -3,6 +3,7 @@
 
 #include <sqlite3.h>
 
+#include <chrono>
 #include <list>
 #include <memory>
 #include <optional>
@@ -114,6 +115,7 @@ class SqliteDatabase {
   SqliteStatement takeKept(std::string_view text);
   void keep(SqliteStatement statement) noexcept;
   void open(const std::optional<FileIdentity>& before);
+  void openFile(const std::optional<FileIdentity>& before);
   void openUnchanged();
   static int takeLogIn(void* self, sqlite3* database, const char* name, int pages) noexcept;
   void refuseDamage();
@@ -135,6 +137,9 @@ class SqliteDatabase {
   bool outdated_ = false;
   // Opened as a file that nobody changes.
   bool unchanged_ = false;
+  // Nobody else can open it meanwhile.
+  bool alone_ = false;
+  std::chrono::steady_clock::time_point sharedAgain_{};
 };
 
 }  // namespace tarnwick
