@@ -63,8 +63,8 @@ class FileRunLock final : public RunLock {
                                path_ + ".");
     }
     file_ = std::move(file);
-    // What stands in the file only tells others who has it. A full disk, on which sites must be watched all the same, may
-    // have no room for that.
+    // What stands in the file only tells others who has it. A full disk, on which sites must be watched all the same,
+    // may have no room for that.
     std::fputs(thisProcess().c_str(), file_.get());
     std::fflush(file_.get());
   }

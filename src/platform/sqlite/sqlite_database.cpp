@@ -107,8 +107,8 @@ int SqliteDatabase::takeLogIn(void* self, sqlite3* database, const char* name, i
   return SQLITE_OK;
 }
 
-// Where the disk has no room left for the small file that all who have the database open share memory through, it can be
-// had alone, with that memory in the process: a site that is down must be told of on a full disk, too.
+// Where the disk has no room left for the small file that all who have the database open share memory through, it can
+// be had alone, with that memory in the process: a site that is down must be told of on a full disk, too.
 void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
   try {
     openFile(before);
