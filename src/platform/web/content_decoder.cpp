@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
-#include <ranges>
 
 #include "base/text.h"
 
@@ -56,9 +55,9 @@ ContentDecoder::ContentDecoder(const std::vector<std::string>& codings, std::siz
     stages_.push_back({.coding = std::make_unique<UnknownCoding>()});
     return;
   }
-  for (const std::string& name : std::ranges::reverse_view(codings)) {
-    if (!isNone(name)) {
-      stages_.push_back({.coding = makeCoding(name)});
+  for (std::size_t at = codings.size(); at-- > 0;) {
+    if (!isNone(codings[at])) {
+      stages_.push_back({.coding = makeCoding(codings[at])});
     }
   }
 }
