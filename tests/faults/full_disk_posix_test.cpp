@@ -33,15 +33,17 @@ TEST(FullDisk, FileThatFindsNoRoomIsAnErrorThatNamesItAndLeavesNothing) {
   EXPECT_FALSE(std::filesystem::exists(at("to")));
 }
 
-TEST(FullDisk, DatabaseThatFindsNoRoomForTheMemoryItSharesSaysSo) {
+TEST(FullDisk, DatabaseThatFindsNoRoomForTheMemoryItSharesIsReadAndSaysSoWhenWritten) {
   const ProgramFolder folder;
   HandClock clock;
   SqliteConnections databases(clock);
   Database(folder.path(), databases).execute("insert into sites (idSite) values (1)");
   ignoreUnwantedSignals();
   const ResourceLimit limit(RLIMIT_FSIZE, 1000);
+  Database database(folder.path(), databases);
+  EXPECT_EQ(database.query("select count(*) as sites from sites")->field("sites").toInt64(), 1);
   try {
-    const Database database(folder.path(), databases);
+    database.execute("insert into sites (idSite) values (2)");
     FAIL() << "No error was raised.";
   } catch (const DataAccessError& error) {
     EXPECT_NE(error.cause().find("The disk is full"), std::string::npos) << error.what();
