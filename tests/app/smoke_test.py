@@ -165,13 +165,18 @@ def closes_over_a_question(folder: ProgramFolder, session: DesktopSession, error
     expect_sound_database(folder)
 
 
-def chooses_a_file_by_the_beginning_of_its_name(folder: ProgramFolder, session: DesktopSession, errors: Path) -> None:
-    (folder.path / "impatient.wav").write_bytes(b"RIFF")
-    process, window = start_ready(folder, session, errors)
+def open_chooser(session: DesktopSession, window: str, process: subprocess.Popen) -> tuple[str, str]:
+    """The settings, and the chooser of the alert sound over them."""
     session.press(window, "alt+u")
     settings = session.window("Settings", process)
     session.press(settings, "alt+b")
-    chooser = session.window("Open", process)
+    return settings, session.window("Open", process)
+
+
+def chooses_a_file_by_the_beginning_of_its_name(folder: ProgramFolder, session: DesktopSession, errors: Path) -> None:
+    (folder.path / "impatient.wav").write_bytes(b"RIFF")
+    process, window = start_ready(folder, session, errors)
+    settings, chooser = open_chooser(session, window, process)
     session.press(chooser, "BackSpace")
     subprocess.run(["xdotool", "type", "--delay", "40", "imp"], env=session.env, check=True)
     # The list that completes the name has the keyboard now.
@@ -182,10 +187,7 @@ def chooses_a_file_by_the_beginning_of_its_name(folder: ProgramFolder, session: 
     session.press(settings, "alt+k")
     wait_until(lambda: folder.execute("select audio from control") == [(str(folder.path / "impatient.wav"),)],
                "the file in the settings")
-    session.press(window, "alt+u")
-    settings = session.window("Settings", process)
-    session.press(settings, "alt+b")
-    chooser = session.window("Open", process)
+    _, chooser = open_chooser(session, window, process)
     session.press(chooser, "i")
     session.close(window)
     expect_end(process, 0)
