@@ -83,30 +83,6 @@ TEST_F(TestPassTest, FiveAreInFlightAndTheSixthWaitsForTheFirstFreeSlot) {
   EXPECT_EQ(folder.queryText("select sum(success) from sites"), "12");
 }
 
-TEST_F(TestPassTest, AsManyAreInFlightAsTheOptionSays) {
-  for (int i = 0; i < 30; ++i) {
-    const std::string path = "/" + std::to_string(i);
-    server.respond(path, {.body = path, .delay = milliseconds(50)});
-    addSite(server.url(path));
-  }
-  program.data().storeOptions(kAllSites, {{"parallel", "12"}, {"perHost", "256"}, {"spacing", "0"}});
-  run().startChecking();
-  EXPECT_EQ(server.greatestInFlight(), 12);
-  EXPECT_EQ(folder.queryText("select sum(success) from sites"), "30");
-}
-
-TEST_F(TestPassTest, OneHostIsSparedWhileManyAreInFlight) {
-  for (int i = 0; i < 9; ++i) {
-    const std::string path = "/" + std::to_string(i);
-    server.respond(path, {.body = path, .delay = milliseconds(20)});
-    addSite(server.url(path));
-  }
-  program.data().storeOptions(kAllSites, {{"parallel", "auto"}, {"spacing", "0"}});
-  run().startChecking();
-  EXPECT_EQ(server.greatestInFlight(), 2);
-  EXPECT_EQ(folder.queryText("select sum(success) from sites"), "9");
-}
-
 TEST_F(TestPassTest, EverySiteGetsItsOwnPage) {
   std::vector<std::int16_t> ids;
   for (int i = 0; i < 30; ++i) {
