@@ -11,6 +11,7 @@
 #include "engine/result_recording.h"
 #include "engine/test_pass.h"
 #include "platform/prompts.h"
+#include "store/room_reserve.h"
 #include "store/site_options.h"
 
 namespace tarnwick {
@@ -95,6 +96,7 @@ void RunController::runTestPass(std::int16_t mode) {
   try {
     TestPass pass(*this, needs_, busy_, {sites_, uncounted_});
     readOptions();
+    needs_.reserve.keepReserve();
     TextTable sites = sites_.choose(mode, mode == kDueSites && (takesWhatWasLeft || newSitesAtOnce_));
     if (mode == kDueSites) {
       sites = sites_.withoutUnrecorded(sites, needs_.clock.steadyNow());

@@ -26,6 +26,7 @@ class AlertDispatch;
 class KeptPages;
 class PageFetch;
 class ResultRecording;
+class RoomReserve;
 class SiteOptions;
 
 /// The program's main loop: the run's state, the countdown to the next due site, and the test pass that fetches every
@@ -48,6 +49,7 @@ class RunController {
     EventPump& pump;
     SiteOptions& options;
     KeptPages& keptPages;
+    RoomReserve& reserve;
   };
 
   /// Wraps a timer's handler, for instance to show its failure in a box: called with the handler's name and itself.

@@ -11,6 +11,7 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       SiteOptions(ownedDatabase_, fields.options),
       ResultLog(ownedDatabase_),
       KeptPages(ownedDatabase_, services.files),
+      RoomReserve(ownedDatabase_, services.files),
       TextFiles(services.files, services.opener),
       DueSites(ownedDatabase_),
       PageFetch(ownedDatabase_, *this, ownedControl_, services.pump),
@@ -21,6 +22,22 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       Compaction(ownedDatabase_, services.databases, services.files, services.prompts),
       fields_(fields) {
   removeRemains();
+  keepReserve();
+}
+
+void m::clearLog() {
+  runFreeing([this] { SettingsAndLog::clearLog(); });
+  if (!hasRoomForPages()) {
+    runWithoutReserve([this] { giveRoomBack(); });
+  }
+}
+
+void m::deleteSite(std::int16_t idSite) {
+  runFreeing([&] { SiteRecords::deleteSite(idSite); });
+}
+
+void m::deleteSiteOfAnyId(std::int64_t idSite) {
+  runFreeing([&] { SiteRecords::deleteSiteOfAnyId(idSite); });
 }
 
 }  // namespace tarnwick

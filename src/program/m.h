@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "alerts/alert_dispatch.h"
@@ -17,6 +18,7 @@
 #include "store/kept_pages.h"
 #include "store/post_vars.h"
 #include "store/result_log.h"
+#include "store/room_reserve.h"
 #include "store/settings_and_log.h"
 #include "store/site_options.h"
 #include "store/site_records.h"
@@ -53,6 +55,7 @@ class m : private MembersOfM,
           public SiteOptions,
           public ResultLog,
           public KeptPages,
+          public RoomReserve,
           public TextFiles,
           public DueSites,
           public PageFetch,
@@ -75,6 +78,11 @@ class m : private MembersOfM,
   SingleControl& single() { return ownedControl_; }
   /// The socket of the alert mails.
   MailSocket& mail() { return ownedMail_; }
+
+  /// What frees room, as the groups do it, also on a full disk.
+  void clearLog();
+  void deleteSite(std::int16_t idSite);
+  void deleteSiteOfAnyId(std::int64_t idSite);
 
  private:
   using SettingsAndLog::addLog;

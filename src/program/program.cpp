@@ -21,7 +21,8 @@ struct Program::Parts {
              .clock = services.clock,
              .pump = services.pump,
              .options = data,
-             .keptPages = data},
+             .keptPages = data,
+             .reserve = data},
             services.timers,
             [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }),
         report(

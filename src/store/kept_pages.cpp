@@ -5,12 +5,12 @@
 #include <array>
 #include <vector>
 
+#include "store/room_reserve.h"
+
 namespace tarnwick {
 namespace {
 
 constexpr std::uint64_t kMib = std::uint64_t{1} << 20U;
-constexpr std::uint64_t kFreeRoom = 1024 * kMib;
-constexpr std::uint64_t kFreeShare = 20;  // one part of so many: 5 %
 /// More than the largest page, or a log of the largest pages would grow for ever.
 constexpr std::uint64_t kMostEmptiedAtOnce = 96 * kMib;
 
@@ -22,7 +22,7 @@ constexpr const char* kContents =
 
 bool KeptPages::hasRoomForPages() {
   const auto room = files_.roomAt(db_.dbPath());
-  return !room || (room->free >= kFreeRoom && room->free >= room->whole / kFreeShare);
+  return !room || !RoomReserve::isLittle(*room);
 }
 
 void KeptPages::keepLogWithin(std::uint64_t most) {

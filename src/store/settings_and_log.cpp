@@ -109,12 +109,24 @@ void SettingsAndLog::clearLogByPieces() {
     }
     run("pragma wal_checkpoint(passive)")->close();
   }
+  giveRoomBack();
+}
+
+void SettingsAndLog::giveRoomBack() noexcept {
+  const auto answer = [this](std::string_view sql) { return db_.conn().execute(sql, {})->field(std::size_t{0}); };
+  const auto run = [this](std::string_view sql) { db_.conn().execute(sql, {})->close(); };
   try {
-    // Gives the room back, if there is enough of it for that.
-    run("vacuum")->close();
-    run("pragma wal_checkpoint(truncate)")->close();
+    if (answer("pragma freelist_count").toInt64() == 0) {
+      return;
+    }
+    // The temporary files of a small list are kept off the disk.
+    if (answer("select page_count - freelist_count < 16384 from pragma_page_count, pragma_freelist_count").toBool()) {
+      run("pragma temp_store = memory");
+    }
+    run("vacuum");
+    run("pragma wal_checkpoint(truncate)");
   } catch (const DataAccessError&) {
-    // It is used again for what is recorded next, and given back by a compaction.
+    // There is too little of it even for that: it is used again for what is recorded next.
   }
 }
 

@@ -66,6 +66,8 @@ class SettingsAndLog {
 
   /// Empties the log: all of it or nothing, but on a disk that is too full for that piece by piece.
   void clearLog();
+  /// Gives what is free in the database file back to the disk, as far as that has the room for it.
+  void giveRoomBack() noexcept;
 
   /// Vocabulary: no front end calls it.
   /// Writes ten rows to the scratch table `test` and reads them back.

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "faults/faults_fixture.h"
+#include "program/m.h"
 #include "support/resource_limit_posix.h"
 
 namespace tarnwick::testing {
@@ -139,6 +140,46 @@ TEST(RealFaults, ADiskWithoutAByteLeftKeepsNoAlertBack) {
     running.letPass(seconds(30));
     EXPECT_EQ(used.recorded(4, false), 1) << running.boxTexts();
   }
+  EXPECT_EQ(used.integrity(), "ok");
+}
+
+TEST(RealFaults, ADiskWithoutAByteLeftCanBeFreed) {
+  const SmallDisk disk;
+  if (!disk.mounted()) {
+    GTEST_SKIP() << "only a user who may mount a file system can have a small disk";
+  }
+  const UsedFolder used;
+  used.folder.execute("update sites set content_compare = hex(zeroblob(150000)) where idSite = 2");
+  TestServices machine;
+  m(used.folder.path(), machine.services());  // which finds little room
+  const int before = used.number("pragma page_count");
+  disk.fillUp();
+  {
+    m data(used.folder.path(), machine.services());
+    data.deleteSite(2);
+    data.clearLog();
+  }
+  EXPECT_EQ(used.text("select count(*) from log"), "0");
+  EXPECT_EQ(used.text("select group_concat(idSite) from sites"), "1,3,4");
+  EXPECT_LT(used.number("pragma page_count"), before / 4) << "the room is given back";
+  EXPECT_EQ(used.integrity(), "ok");
+  const std::string reserve = used.folder.databasePath() + "-reserve";
+  EXPECT_TRUE(fs::exists(reserve)) << "for the next time";
+}
+
+TEST(RealFaults, ADiskThatWasFullBeforeIsFreedByWhatACompactionHasLeft) {
+  const SmallDisk disk;
+  if (!disk.mounted()) {
+    GTEST_SKIP() << "only a user who may mount a file system can have a small disk";
+  }
+  const UsedFolder used;
+  TestServices machine;
+  EXPECT_TRUE(m(used.folder.path(), machine.services()).compact());
+  fs::remove(used.folder.databasePath() + "-reserve");
+  disk.fillUp();
+  m(used.folder.path(), machine.services()).clearLog();
+  EXPECT_EQ(used.text("select count(*) from log"), "0");
+  EXPECT_FALSE(fs::exists(used.folder.file("temp.mdb")));
   EXPECT_EQ(used.integrity(), "ok");
 }
 

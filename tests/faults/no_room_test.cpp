@@ -188,5 +188,43 @@ TEST_F(LogLimit, ABaselineIsKeptWhateverRoomThereIs) {
   EXPECT_EQ(used.text("select content_compare from sites where idSite = 1"), "a page that stays");
 }
 
+class Reserve : public NoRoom {
+ protected:
+  std::uint64_t laidWith(std::uint64_t free, std::uint64_t whole) {
+    files.room = DiskRoom{free, whole};
+    m(used.folder.path(), machine.services().with({.files = &files}));
+    return files.exists(reserve) ? files.sizeOf(reserve) : 0;
+  }
+  static constexpr std::uint64_t kMib = kKib * kKib;
+  FilledFiles files;
+  TestServices machine;
+  RecordingView view;
+  const std::string reserve = used.folder.databasePath() + "-reserve";
+};
+
+TEST_F(Reserve, IsLaidBesideTheListWhileTheDiskHasLittleRoom) {
+  EXPECT_EQ(laidWith(2048 * kMib, 4096 * kMib), 0U);
+  EXPECT_EQ(laidWith(1023 * kMib, 4096 * kMib), kMib) << "less than 1 GiB";
+  EXPECT_EQ(laidWith(2047 * kMib, 4096 * kMib), kMib) << "stays for a while";
+  EXPECT_EQ(laidWith(2048 * kMib, 4096 * kMib), 0U);
+  EXPECT_EQ(laidWith(4000 * kMib, 90'000 * kMib), kMib) << "less than 5 %";
+}
+
+TEST_F(Reserve, LeavesASmallDiskMostOfItsRoom) {
+  EXPECT_EQ(laidWith(100 * kKib, 4 * kMib), 0U) << "of no use";
+  EXPECT_EQ(laidWith(400 * kKib, 4 * kMib), 100 * kKib);
+  EXPECT_EQ(laidWith(0, 4 * kMib), 100 * kKib) << "what is there stays";
+  EXPECT_EQ(laidWith(3 * kMib, 4 * kMib), 768 * kKib);
+}
+
+TEST_F(Reserve, IsLaidByARunOnADiskThatFillsUp) {
+  Program program(used.folder.path(), machine.services().with({.files = &files}), view);
+  program.start();
+  EXPECT_FALSE(files.exists(reserve));
+  files.room = DiskRoom{kMib * 1000, kMib * 4096};
+  program.startRun();
+  EXPECT_TRUE(files.exists(reserve));
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

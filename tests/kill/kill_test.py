@@ -28,7 +28,7 @@ PHASES = {"start": 0.02, "pass": 0.04, "edit": 0.006, "clear": 0.03, "compact": 
 PATIENCE_SECONDS = 60
 SERIALS_OF_A_START = 1_000_000
 SOURCES = ("/stable", "/changing", "/failing", "/silent", "/late")
-EXPECTED_FILES = {"tarnwick.mdb", "backup.mdb", "temp.mdb"}
+EXPECTED_FILES = {"tarnwick.mdb", "tarnwick.mdb-reserve", "backup.mdb", "temp.mdb"}
 
 
 class Pages(http.server.BaseHTTPRequestHandler):

@@ -209,12 +209,14 @@ int deleteSites(Tool& tool, const DeleteOptions& options) {
   if (!consents(tool.console(), options.yes, questionOf(data, ids))) {
     return exit_status::failed;
   }
-  Transaction whole(data.database());
-  for (const std::int64_t id : ids) {
-    requireAnyListed(data, id);  // another program may have been faster than the answer
-    data.deleteSiteOfAnyId(id);
-  }
-  whole.commit();
+  data.runFreeing([&] {
+    Transaction whole(data.database());
+    for (const std::int64_t id : ids) {
+      requireAnyListed(data, id);  // another program may have been faster than the answer
+      data.deleteSiteOfAnyId(id);
+    }
+    whole.commit();
+  });
   for (const std::int64_t id : ids) {
     tool.console().say("Site " + std::to_string(id) + " is deleted.");
   }

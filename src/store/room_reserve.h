@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "base/errors.h"
+#include "platform/file_system.h"
+#include "store/database.h"
+
+namespace tarnwick {
+
+/// A file beside the list, there only to be given up: on a full disk whatever frees room needs a little of it itself.
+class RoomReserve {
+ public:
+  RoomReserve(Database& database, FileSystem& files) : db_(database), files_(files) {}
+
+  /// Whether a disk has so little room that it should be spared: less than 1 GiB, or less than 5 %.
+  static bool isLittle(const DiskRoom& room);
+
+  /// Lays the reserve, up to 1 MiB, where the disk has little room; removes it where there is more than twice as much
+  /// as that. Where neither can be done there is none.
+  void keepReserve() noexcept;
+
+  /// Runs `action`, which frees room in the list. Where the disk has no room for that, it is run once more with the
+  /// reserve given up; inside a transaction that is left to its owner.
+  template <typename Action>
+  void runFreeing(const Action& action) {
+    const bool whole = !db_.conn().inTransaction();
+    try {
+      action();
+      return;
+    } catch (const DataAccessError& error) {
+      if (!whole || !error.forWantOfRoom() || !giveUp()) {
+        throw;
+      }
+    }
+    const LittleWritten written(db_);
+    action();
+    keepReserve();
+  }
+  /// Gives the reserve up for `action`.
+  template <typename Action>
+  void runWithoutReserve(const Action& action) {
+    giveUp();
+    action();
+    keepReserve();
+  }
+
+ private:
+  /// Leaves what is deleted where it is until its place is used again: to blank it takes as much room as it has.
+  class LittleWritten {
+   public:
+    explicit LittleWritten(Database& database);
+    ~LittleWritten();
+    LittleWritten(const LittleWritten&) = delete;
+    LittleWritten& operator=(const LittleWritten&) = delete;
+
+   private:
+    Database& db_;
+    std::string before_;
+  };
+
+  std::string path() const;
+  bool giveUp() noexcept;
+
+  Database& db_;
+  FileSystem& files_;
+};
+
+}  // namespace tarnwick
