@@ -231,17 +231,18 @@ void TestPass::finishSlot(std::int16_t slot) {
 
 void TestPass::record(std::size_t row, const Fetched& fetched) {
   try {
-    if (const std::optional<bool> passed = store(row, fetched)) {
+    if (const std::optional<Stored> stored = store(row, fetched)) {
       const std::int16_t id = sites_.idSite(row);
       debts_.checks.settle(id);
-      if (!*passed) {
+      if (!stored->passed) {
         // The alerts of a failure wait for the network, so they cannot be part of the transaction. The site is down
         // from here on, whatever becomes of them; and nothing is written before them that could fail and leave them
         // out.
-        alertAndCount(row);
+        alertAndCount(row, stored->counted);
       }
       std::erase(brightened_, id);
-      needs_.view.showResult({id, sites_.url(row), *passed, fetched.errCode, fetched.errDescription, fetched.content});
+      needs_.view.showResult(
+          {id, sites_.url(row), stored->passed, fetched.errCode, fetched.errDescription, fetched.content});
     }
   } catch (const DataAccessError& error) {
     deferUnlessGeneral(error.forWantOfMemory() ? outOfMemory(row) : std::current_exception());
@@ -258,7 +259,7 @@ std::exception_ptr TestPass::outOfMemory(std::size_t row) const {
 
 // Whether the site has passed, once that is recorded; nothing for a page that was dropped. A full disk has no room for
 // a page, but often for the result; and where it has none for that, a site that is down is told all the same.
-std::optional<bool> TestPass::store(std::size_t row, const Fetched& fetched) {
+std::optional<TestPass::Stored> TestPass::store(std::size_t row, const Fetched& fetched) {
   const auto wantsRoom = [this](const DataAccessError& error) {
     needs_.keptPages.forgetLogSize();
     return error.forWantOfRoom();
@@ -300,7 +301,7 @@ void TestPass::deferUnlessGeneral(const std::exception_ptr& fault) {
 
 void TestPass::deferFault(std::exception_ptr& first, const std::exception_ptr& fault) { first = first ? first : fault; }
 
-std::optional<bool> TestPass::storeResult(std::size_t row, const Fetched& fetched, KeptPage kept) {
+std::optional<TestPass::Stored> TestPass::storeResult(std::size_t row, const Fetched& fetched, KeptPage kept) {
   const std::int16_t id = sites_.idSite(row);
   Transaction whole = writeTurn().take();
   if (const SelectedSites::Standing standing = sites_.standingOf(row);
@@ -314,11 +315,13 @@ std::optional<bool> TestPass::storeResult(std::size_t row, const Fetched& fetche
   if (const auto limit = options_.valueOf(kAllSites, option_name::logLimit); limit && !passed) {
     needs_.keptPages.keepLogWithin(std::stoull(*limit) << 20U);
   }
-  if (passed) {
-    countSuccess(id);
+  // A failure is counted after its alerts; on a disk that may be full by then, with its result.
+  const bool counts = passed || !needs_.keptPages.hasRoomForPages();
+  if (counts) {
+    count(id, passed);
   }
   whole.commit();
-  return passed;
+  return Stored{passed, counts};
 }
 
 // The site stays due, and is recorded once there is room; until then it is told again at its own interval.
@@ -342,21 +345,26 @@ void TestPass::tellLostMail(std::size_t row) {
 
 // The alerts take events in: meanwhile the site may be edited, switched off or deleted, the database be locked or taken
 // away. The failure is recorded, so it is counted all the same, now or later, unless its site is gone.
-void TestPass::alertAndCount(std::size_t row) {
+void TestPass::alertAndCount(std::size_t row, bool counted) {
   const std::int16_t id = sites_.idSite(row);
   UncountedFailures::Pending failure(debts_.failures, id);
+  if (counted) {
+    failure.counted();
+  }
   needs_.alerts.sendAlerts(id);
   tellLostMail(row);
   if (!sites_.hasAddressAsSelected(row) && !needs_.dueSites.wasChecked(id)) {
     failure.counted();
     return;
   }
-  try {
-    Transaction whole = writeTurn().take();
-    needs_.results.updateStatusCounter(id, false);
-    whole.commit();
-  } catch (const FullCounter&) {
-    deferFault(fullCounter_, std::current_exception());
+  if (!counted) {
+    try {
+      Transaction whole = writeTurn().take();
+      needs_.results.updateStatusCounter(id, false);
+      whole.commit();
+    } catch (const FullCounter&) {
+      deferFault(fullCounter_, std::current_exception());
+    }
   }
   failure.counted();
   needs_.view.updateGridRow(id, false);
@@ -368,9 +376,9 @@ FirstBaseline TestPass::firstBaselineOf(std::int16_t id) const {
 }
 
 // A full counter is no reason to forget the check itself, or the sites behind this one.
-void TestPass::countSuccess(std::int16_t id) {
+void TestPass::count(std::int16_t id, bool passed) {
   try {
-    run_.countResult(id, true);
+    run_.countResult(id, passed);
   } catch (const FullCounter&) {
     deferFault(fullCounter_, std::current_exception());
   }

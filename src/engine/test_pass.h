@@ -65,18 +65,23 @@ class TestPass {
   };
 
   void record(std::size_t row, const Fetched& fetched);
-  std::optional<bool> store(std::size_t row, const Fetched& fetched);
-  std::optional<bool> storeResult(std::size_t row, const Fetched& fetched, KeptPage kept);
+  /// What was recorded.
+  struct Stored {
+    bool passed;
+    bool counted;
+  };
+  std::optional<Stored> store(std::size_t row, const Fetched& fetched);
+  std::optional<Stored> storeResult(std::size_t row, const Fetched& fetched, KeptPage kept);
   void alertUnrecorded(std::size_t row, const Fetched& fetched);
   void tellLostMail(std::size_t row);
   void deferUnlessGeneral(const std::exception_ptr& fault);
   std::exception_ptr outOfMemory(std::size_t row) const;
   FirstBaseline firstBaselineOf(std::int16_t id) const;
-  void countSuccess(std::int16_t id);
+  void count(std::int16_t id, bool passed);
   static void deferFault(std::exception_ptr& first, const std::exception_ptr& fault);
   void raiseDeferred() const;
   void dropPage(std::size_t row, SelectedSites::Standing standing);
-  void alertAndCount(std::size_t row);
+  void alertAndCount(std::size_t row, bool counted);
   WriteTurn writeTurn();
   void takeRow(std::size_t row);
   void showProgress();

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 
 #include "faults/faults_fixture.h"
@@ -14,6 +15,7 @@ namespace {
 
 using std::chrono::minutes;
 using std::chrono::seconds;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::SizeIs;
 
@@ -106,6 +108,36 @@ class FilledFiles final : public LocalFiles {
   std::optional<DiskRoom> room;
 };
 
+/// The program on such a disk.
+struct RunningOnFilledDisk {
+  explicit RunningOnFilledDisk(const UsedFolder& used) : program(used.folder.path(), services(), view) {}
+  Services services() { return machine.services().with({.files = &files}); }
+  TestServices machine{TestServices::Time::byHand};
+  FilledFiles files;
+  RecordingView view;
+  Program program;
+};
+
+TEST_F(NoRoom, AFailureIsRecordedAndCountedOrNeitherOfBoth) {
+  std::set<int> seen;
+  for (std::int64_t room = 0; room <= 200; room += 4) {
+    const UsedFolder each;
+    {
+      RunningOnFilledDisk running(each);
+      running.files.room = DiskRoom{static_cast<std::uint64_t>(room * kKib), 4096 * kKib};
+      running.program.start();
+      disk.leaveRoom(room * kKib);
+      running.program.startRun();
+      EXPECT_EQ(running.machine.sound.played.size(), 1U) << room;
+    }
+    disk.heal();
+    const int recorded = each.recorded(4, false);
+    EXPECT_EQ(recorded, each.number("select failure from sites where idSite = 4")) << room << " KiB";
+    seen.insert(recorded);
+  }
+  EXPECT_THAT(seen, ElementsAre(0, 1)) << "the disk was too full at first, and not at last";
+}
+
 class LogLimit : public NoRoom {
  protected:
   LogLimit() {
@@ -118,15 +150,7 @@ class LogLimit : public NoRoom {
     running.program.stopRun();
   }
 
-  struct Running {
-    explicit Running(const UsedFolder& used) : program(used.folder.path(), services(), view) {}
-    Services services() { return machine.services().with({.files = &files}); }
-    TestServices machine{TestServices::Time::byHand};
-    FilledFiles files;
-    RecordingView view;
-    Program program;
-  };
-  Running running{used};
+  RunningOnFilledDisk running{used};
 };
 
 TEST_F(LogLimit, TheOldestPagesOfTheLogAreEmptiedFirst) {
