@@ -145,28 +145,33 @@ void SqliteDatabase::openFile(const std::optional<FileIdentity>& before) {
 }
 
 // Even reading a database that has had a log takes files beside it. Where none can be made, and none is there, nobody
-// is writing; whoever may write and begins later is noticed.
+// is writing; whoever may write and begins later is noticed. What a kill has left in a log is read with it.
 void SqliteDatabase::openUnchanged() {
   const std::string file = realName(handle());
   const auto header = SqliteHeader::of(handle());
   const auto isThere = [&](const char* ending) { return LocalFiles().exists(file + ending); };
-  unchanged_ = header && header->usesLog() && !mayWrite(textOf(pathOf(file).parent_path())) && !isThere("-wal") &&
-               !isThere("-shm") && !isThere("-journal");
+  unchanged_ = header && header->usesLog() && !mayWrite(textOf(pathOf(file).parent_path())) && !isThere("-shm") &&
+               !isThere("-journal");
   if (unchanged_) {
+    logOfUnchanged_ = identityOf(file + "-wal");
     sqlite3* raw = nullptr;
-    const int result = openUnchangedSqliteFile(file, &raw);
+    const int result = openUnchangedSqliteFile(file, isThere("-wal"), &raw);
     SqliteHandle opened(raw);
     if (result != SQLITE_OK) {
       throw sqliteError(result, raw == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(raw), path_);
     }
     sqlite3_extended_result_codes(raw, 1);
     sqlite3_db_config(raw, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_db_config(raw, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    // Where in the log a page is is then kept in the memory of this process.
+    sqlite3_exec(raw, "pragma main.locking_mode = exclusive", nullptr, nullptr, nullptr);
     handle_ = std::move(opened);
   }
 }
 
 bool SqliteDatabase::wantsReopening() const {
-  const bool begun = unchanged_ && LocalFiles().exists(realName(handle()) + "-wal");
+  const bool begun = unchanged_ && (identityOf(realName(handle()) + "-wal") != logOfUnchanged_ ||
+                                    LocalFiles().exists(realName(handle()) + "-shm"));
   const bool shares = alone_ && std::chrono::steady_clock::now() >= sharedAgain_;
   return (outdated_ || begun || shares) && open_.empty() && sqlite3_get_autocommit(handle()) != 0;
 }

@@ -137,6 +137,7 @@ class SqliteDatabase {
   bool outdated_ = false;
   // Opened as a file that nobody changes.
   bool unchanged_ = false;
+  std::optional<FileIdentity> logOfUnchanged_;
   // Nobody else can open it meanwhile.
   bool alone_ = false;
   std::chrono::steady_clock::time_point sharedAgain_{};

@@ -34,8 +34,9 @@ struct FileIdentity {
 /// while SQLite has it open.
 std::optional<FileIdentity> identityOf(const std::string& path);
 
-/// Opens the file `path`, which nobody changes meanwhile, for reading alone: SQLite makes no file beside it then.
-int openUnchangedSqliteFile(const std::string& path, sqlite3** database);
+/// Opens the file `path`, which nobody changes meanwhile, for reading alone, with the log that lies beside it or
+/// without one: SQLite makes no file there then. With a log it must be locked as `exclusive` before it is read.
+int openUnchangedSqliteFile(const std::string& path, bool withLog, sqlite3** database);
 
 /// Whether this process may write to the file or into the folder `path`. True where that cannot be told.
 bool mayWrite(const std::string& path);

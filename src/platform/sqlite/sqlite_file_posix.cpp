@@ -78,7 +78,11 @@ std::optional<FileIdentity> identityOf(const std::string& path) {
   return FileIdentity{facts.st_dev, facts.st_ino};
 }
 
-int openUnchangedSqliteFile(const std::string& path, sqlite3** database) {
+int openUnchangedSqliteFile(const std::string& path, bool withLog, sqlite3** database) {
+  if (withLog) {
+    // Without locks: they could be taken only by who may write.
+    return sqlite3_open_v2(path.c_str(), database, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, "unix-none");
+  }
   std::string name = "file:";
   for (const char character : path) {
     // What has a meaning of its own there.

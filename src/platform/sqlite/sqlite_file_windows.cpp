@@ -42,7 +42,7 @@ bool liesOnNetwork(const std::string& path) {
 std::optional<FileIdentity> identityOf(const std::string&) { return std::nullopt; }
 
 // Here the rights of a folder are no obstacle that can be told before it is tried.
-int openUnchangedSqliteFile(const std::string& path, sqlite3** database) {
+int openUnchangedSqliteFile(const std::string& path, bool, sqlite3** database) {
   return openSqliteFile(path, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, database);
 }
 

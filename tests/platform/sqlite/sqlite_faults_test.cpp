@@ -243,6 +243,50 @@ TEST_F(SqliteFaults, AFolderThatMayNotBeWrittenCanBeRead) {
   fs::permissions(folder, fs::perms::all);
 }
 
+TEST_F(SqliteFaults, WhatAKillLeftInAFolderThatMayNotBeWrittenIsRead) {
+  const std::string folder = folder_.file("read only # 100%?");
+  fs::create_directory(folder);
+  const std::string path = folder + "/tarnwick.mdb";
+  std::string wal;
+  {
+    const auto killed = databases_.makeSqlConnection();
+    killed->open(OpenDatabase::connStringFor(folder_.databasePath()));
+    killed->execute("insert into sites (idSite,url) values (1,'in the log')");
+    for (const char* const ending : {"", "-wal"}) {
+      fs::copy_file(folder_.databasePath() + ending, path + ending);
+      fs::permissions(path + ending, fs::perms::all);
+    }
+    wal = bytesOfFile(path + "-wal");
+    ASSERT_FALSE(wal.empty());
+  }
+  const std::string before = bytesOfFile(path);
+  fs::permissions(folder_.path(), fs::perms::all);
+  constexpr auto kNobodyWrites = static_cast<fs::perms>(0555);
+  fs::permissions(folder, kNobodyWrites);
+  {
+    const WithoutSuperuser user;
+    if (!user.given()) {
+      GTEST_SKIP() << "the superuser's rights cannot be given up here, and no file mode stops him";
+    }
+    const auto conn = databases_.makeSqlConnection();
+    conn->open(OpenDatabase::connStringFor(path));
+    EXPECT_EQ(conn->execute("select url from sites")->field(0).toText(), "in the log");
+    EXPECT_EQ(conn->execute("select count(*) from sites")->field(0).toInt64(), 1);
+    EXPECT_TRUE(conn->readOnly());
+    const std::string fault = causeOf([&] { conn->execute("delete from sites"); });
+    EXPECT_TRUE(contains(fault, "the file or its folder is read-only")) << fault;
+  }
+  fs::permissions(folder, fs::perms::all);
+  EXPECT_EQ(bytesOfFile(path), before);
+  EXPECT_EQ(bytesOfFile(path + "-wal"), wal);
+  {
+    const auto conn = databases_.makeSqlConnection();
+    conn->open(OpenDatabase::connStringFor(path));
+    EXPECT_EQ(conn->execute("select url from sites")->field(0).toText(), "in the log");
+    EXPECT_FALSE(conn->readOnly());
+  }
+}
+
 TEST_F(SqliteFaults, WhatAReaderLeftBesideAReadOnlyFileIsPutRight) {
   folder_.execute("pragma journal_mode = wal; insert into sites (idSite,url) values (1,'u')");
   fs::permissions(folder_.path(), fs::perms::all);
