@@ -36,6 +36,16 @@ class Merge {
   ListFields& changed_;
 };
 
+/// Whether alerts can be mailed to it, be it by a stricter rule no address.
+bool mayBeMailAddress(std::string_view email) {
+  const std::size_t at = email.find('@');
+  return at != std::string_view::npos && at > 0 && at + 1 < email.size() && at == email.rfind('@') &&
+         std::ranges::all_of(email, [](char c) {
+           return static_cast<unsigned char>(c) > ' ' && c != '\x7f' &&
+                  std::string_view("<>()[]\\,;:\"").find(c) == std::string_view::npos;
+         });
+}
+
 class Planner {
  public:
   Planner(m& data, const ImportOptions& options, ListFaults& faults) : data_(data), options_(options), faults_(faults) {
@@ -77,6 +87,7 @@ class Planner {
       planDeletions();
     }
     numberNewSites();
+    noteDoubts();
     return std::move(plan_);
   }
 
@@ -172,6 +183,17 @@ class Planner {
     }
   }
 
+  void noteDoubts() {
+    for (const ImportStep& step : plan_.steps) {
+      const std::string& email = step.listed.site.email;
+      if (step.action != Action::remove && step.fields.has("email") && !email.empty() && !m::isEmail(email)) {
+        plan_.doubts.add(step.listed.line, "site " + std::to_string(step.idSite) + ": the email " +
+                                               quotedForMessage(email) +
+                                               " is imported, but is none that add takes: " + kMailAddressRule);
+      }
+    }
+  }
+
   m& data_;
   const ImportOptions& options_;
   ListFaults& faults_;
@@ -249,7 +271,7 @@ void checkTexts(const SiteDraft& site, ListValues& values) {
   }
   if (hasLineEnd(site.email)) {
     values.fault(brokenLine("email", site.email));
-  } else if (site.alertEmail && !m::isEmail(site.email)) {
+  } else if (site.alertEmail && !m::isEmail(site.email) && !mayBeMailAddress(site.email)) {
     values.fault("email " + quotedForMessage(site.email) +
                  " is no mail address: give one for the alerts, or set alertEmail to False");
   }

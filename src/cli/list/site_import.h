@@ -12,6 +12,10 @@
 
 namespace tarnwick {
 
+/// Which mail addresses `m::isEmail` takes.
+inline constexpr const char* kMailAddressRule =
+    "letters a to z, digits, \".\", \"-\", \"_\" before the \"@\" only, and at most 3 characters behind the last \".\"";
+
 struct ImportOptions {
   /// Adds every site of the file as a new one, whatever id it has there. What is set for all sites stays.
   bool asNew = false;
@@ -37,6 +41,8 @@ struct ImportPlan {
   std::size_t unchanged = 0;
   /// What is to be set for all sites in place of what is; nothing when that stays.
   std::optional<OptionValues> optionsOfAll;
+  /// What is imported, but could not be typed in.
+  ListFaults doubts;
 
   std::size_t count(ImportStep::Action action) const;
 };

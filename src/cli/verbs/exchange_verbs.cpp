@@ -238,10 +238,21 @@ void tell(Console& console, const Fields& fields, const ImportPlan& plan, const 
   console.say(count(add) + " added, " + count(change) + " changed, " + count(remove) + " deleted, " + unchanged);
 }
 
-void complainOf(Console& console, const std::string& file, const ListFaults& faults) {
+void complainOfLines(Console& console, const std::string& file, const ListFaults& faults) {
   for (const ListFaults::Fault& fault : faults.kept()) {
     console.complain(shownName(file) + ", line " + std::to_string(fault.line) + ": " + fault.text + ".");
   }
+}
+
+void complainOfDoubts(Console& console, const std::string& file, const ListFaults& doubts) {
+  complainOfLines(console, file, doubts);
+  if (const std::size_t kept = doubts.kept().size(); doubts.count() > kept) {
+    console.complain(std::to_string(doubts.count() - kept) + " more like these are not shown.");
+  }
+}
+
+void complainOf(Console& console, const std::string& file, const ListFaults& faults) {
+  complainOfLines(console, file, faults);
   const std::size_t kept = faults.kept().size();
   console.complain("Nothing was imported" +
                    (faults.count() > kept ? "; " + std::to_string(faults.count() - kept) + " more faults are not shown."
@@ -287,7 +298,9 @@ int importList(Tool& tool, const ImportVerbOptions& options) {
   try {
     if (options.dryRun) {
       const Snapshot oneState(data.database());
-      tell(tool.console(), tool.fields(), planOrRaise(data, std::move(sites), options.how, faults), options);
+      const ImportPlan plan = planOrRaise(data, std::move(sites), options.how, faults);
+      tell(tool.console(), tool.fields(), plan, options);
+      complainOfDoubts(tool.console(), options.file, plan.doubts);
       return exit_status::ok;
     }
     Transaction whole(data.database());
@@ -295,6 +308,7 @@ int importList(Tool& tool, const ImportVerbOptions& options) {
     carryOut(data, plan);
     whole.commit();
     tell(tool.console(), tool.fields(), plan, options);
+    complainOfDoubts(tool.console(), options.file, plan.doubts);
     hintAtUnwatched(tool, takenIn(plan));
     return exit_status::ok;
   } catch (const SiteListError& error) {

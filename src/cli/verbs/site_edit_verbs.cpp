@@ -11,6 +11,7 @@
 
 #include "base/one_line.h"
 #include "base/text.h"
+#include "cli/list/site_import.h"
 #include "cli/list/site_list.h"
 #include "cli/terminal/input_file.h"
 #include "cli/terminal/json_text.h"
@@ -264,10 +265,9 @@ void requireFetchable(const std::string& url) {
 
 void requireMailAddress(const std::string& email) {
   if (!m::isEmail(email)) {
-    throw std::runtime_error("\"" + visibleText(email) +
-                             "\" is not a valid email address. One address is taken, like name@example.org: letters a "
-                             "to z, digits, \".\", \"-\", \"_\" before the \"@\" only, and at most 3 characters behind "
-                             "the last \".\".");
+    throw std::runtime_error(
+        "\"" + visibleText(email) +
+        "\" is not a valid email address. One address is taken, like name@example.org: " + kMailAddressRule + ".");
   }
 }
 

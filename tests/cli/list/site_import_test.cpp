@@ -113,6 +113,51 @@ TEST_F(SiteImport, PrintsThePlanAndTheResultAsJson) {
   EXPECT_EQ(list(), "1|http://x/\n2|http://b/\n");
 }
 
+TEST_F(SiteImport, TakesMailAddressesThatCannotBeTypedInAndSaysSo) {
+  const std::string list =
+      "idSite,url,alertEmail,email\n"
+      "3,http://a/,yes,ann@example.info\n"
+      "4,http://b/,no,nobody\n"
+      "5,http://c/,yes,ann@example.org\n"
+      "6,http://d/,no,\n";
+  EXPECT_EQ(importCsv(list, {"--dry-run"}), exit_status::ok);
+  EXPECT_THAT(err, HasSubstr("ann@example.info"));
+  EXPECT_EQ(importCsv(list), exit_status::ok) << err;
+  EXPECT_THAT(err, HasSubstr("standard input, line 2: site 3: the email \"ann@example.info\" is imported, but is none "
+                             "that add takes: letters a to z"));
+  EXPECT_THAT(err, HasSubstr("at most 3 characters behind the last \".\"."));
+  EXPECT_THAT(err, HasSubstr("line 3: site 4: the email \"nobody\""));
+  EXPECT_THAT(err, Not(HasSubstr("line 4")));
+  EXPECT_THAT(err, Not(HasSubstr("line 5")));
+  EXPECT_EQ(column(3, "email"), "ann@example.info");
+  EXPECT_EQ(column(3, "alertEmail"), "1");
+  EXPECT_EQ(column(4, "email"), "nobody");
+  EXPECT_EQ(importCsv(list), exit_status::ok);
+  EXPECT_THAT(err, Not(HasSubstr("email"))) << "nothing new comes in";
+  EXPECT_EQ(run({"add", "http://e/", "--alert-email", "ann@example.info"}), exit_status::failed);
+}
+
+TEST_F(SiteImport, AnExportOfWhatAnotherProgramHasStoredComesBack) {
+  addSite("http://a/");
+  folder.execute("update sites set alertEmail = 1, email = 'ann+alerts@example.museum'");
+  ASSERT_EQ(run({"export", "-", "--format", "json"}), exit_status::ok);
+  EXPECT_EQ(err, "");
+  const std::string exported = out;
+  folder.execute("delete from sites");
+  input = exported;
+  ASSERT_EQ(run({"import", "-", "--format", "json"}), exit_status::ok) << err;
+  ASSERT_EQ(run({"export", "-", "--format", "json"}), exit_status::ok);
+  EXPECT_EQ(out, exported);
+}
+
+TEST_F(SiteImport, NoMailAddressWithControlCharactersComesIn) {
+  for (const std::string email :
+       {"a\r\nRCPT TO:<b@c.org>@d.org", "a@b.info\n", "a\tb@c.info", "<a>@b.info", "a@b@c.info"}) {
+    EXPECT_EQ(importCsv("url,alertEmail,email\nhttp://a/,yes,\"" + email + "\"\n"), exit_status::failed) << email;
+  }
+  EXPECT_EQ(list(), "");
+}
+
 TEST_F(SiteImport, TellsAllFaultsAndImportsNothing) {
   addSite("http://a/");
   EXPECT_EQ(importCsv("idSite,url,alertEmail,email\n"
