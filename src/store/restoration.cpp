@@ -43,6 +43,20 @@ void tryTo(Action action) noexcept {
   }
 }
 
+/// What is wrong with `file`, of which `made` is a copy.
+std::string faultOf(const DataAccessError& error, const std::string& made, const std::string& file) {
+  std::string fault = error.cause();
+  if (const auto at = fault.find(made); at != std::string::npos) {
+    // What follows of damage is how the list itself is put right.
+    const auto detail = fault.find(". (", at);
+    if (error.kind() == DataAccessError::Kind::damaged && detail != std::string::npos && fault.ends_with(')')) {
+      return fault.substr(detail + 3, fault.size() - detail - 4);
+    }
+    fault.replace(at, made.size(), file);
+  }
+  return fault;
+}
+
 /// A copy in the making, of which nothing is left unless it has taken its place.
 class Unfinished {
  public:
@@ -76,7 +90,7 @@ Restoration::Restoration(std::string programFolder, SqlConnectionMaker& database
 
 Restoration::Outcome Restoration::restore(const std::string& file) {
   refuseOtherThanCopies(file);
-  runLock_->take();
+  keepRunsOut();
   const bool isThere = files_.kindOf(list_) != FileKind::none;
   std::unique_ptr<HeldFile> held = isThere ? databases_.holdFile(sourceOf(live_)) : nullptr;
   const Unfinished unfinished(files_, live_ + kUnfinished);
@@ -89,6 +103,18 @@ Restoration::Outcome Restoration::restore(const std::string& file) {
   files_.rename(live_ + kUnfinished, live_);
   removeSideFiles(files_, live_);
   return outcome;
+}
+
+void Restoration::keepRunsOut() {
+  try {
+    runLock_->take();
+  } catch (const RunIsOn& error) {
+    throw std::runtime_error("A run is on in this folder: " + error.holder() + " checks the sites of " + folder_ +
+                             ", and would go on with the list that is to be replaced. " + error.remedy() +
+                             kNothingChanged);
+  } catch (const NoRunLock& error) {
+    throw FileError(error.path(), error.reason() + ", so the list in it cannot be replaced." + error.remedy());
+  }
 }
 
 void Restoration::refuseOtherThanCopies(const std::string& file) const {
@@ -141,7 +167,7 @@ std::int64_t Restoration::check(const std::string& file) {
     return sites;
   } catch (const DataAccessError& error) {
     throw std::runtime_error("The file " + file + " is no sound copy of a list." + kNothingChanged + " (" +
-                             error.cause() + ")");
+                             faultOf(error, made, file) + ")");
   }
 }
 

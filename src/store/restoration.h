@@ -38,6 +38,7 @@ class Restoration {
   static void removeRemains(FileSystem& files, const std::string& list) noexcept;
 
  private:
+  void keepRunsOut();
   void refuseOtherThanCopies(const std::string& file) const;
   void copyBeside(const std::string& file, const std::string& like);
   std::int64_t check(const std::string& file);

@@ -22,19 +22,25 @@ namespace {
 
 namespace fs = std::filesystem;
 using ::testing::HasSubstr;
+using ::testing::Not;
+using ::testing::StartsWith;
 
 /// Says whether a run is on.
 class RunLocks final : public RunLockMaker {
  public:
   std::unique_ptr<RunLock> makeRunLock(const std::string&) override { return std::make_unique<Lock>(*this); }
   bool isTaken = false;
+  bool isReadOnly = false;
 
  private:
   struct Lock final : RunLock {
     explicit Lock(RunLocks& locks) : locks_(locks) {}
     void take() override {
       if (locks_.isTaken) {
-        throw std::runtime_error("a run is on");
+        throw RunIsOn("folder", "a program (process 7)", "folder/lock");
+      }
+      if (locks_.isReadOnly) {
+        throw NoRunLock("folder/lock", "The folder cannot be written", "");
       }
     }
     void release() noexcept override {}
@@ -142,7 +148,10 @@ TEST_F(RestorationTest, WhatIsNoSoundListIsRefused) {
   EXPECT_THAT(faultOf("empty.mdb"), HasSubstr("the file is empty"));
   const std::string copy = bytes("copy.mdb");
   writeFile(folder.file("short.mdb"), copy.substr(0, copy.size() / 2));
-  EXPECT_THAT(faultOf("short.mdb"), HasSubstr("is no sound copy of a list"));
+  const std::string fault = faultOf("short.mdb");
+  EXPECT_THAT(fault, StartsWith("The file " + folder.file("short.mdb") + " is no sound copy of a list. Nothing was"));
+  EXPECT_THAT(fault, Not(HasSubstr(".new"))) << "no name that nobody has given";
+  EXPECT_THAT(fault, Not(HasSubstr("backup.mdb")));
   std::string torn = copy;
   torn.replace(copy.size() / 2, 6000, 6000, '\xff');
   writeFile(folder.file("torn.mdb"), torn);
@@ -170,7 +179,15 @@ TEST_F(RestorationTest, AnOlderListIsBroughtUpToDate) {
 
 TEST_F(RestorationTest, ARunIsNotDisturbed) {
   locks.isTaken = true;
-  EXPECT_EQ(faultOf("copy.mdb"), "a run is on");
+  EXPECT_EQ(faultOf("copy.mdb"),
+            "A run is on in this folder: a program (process 7) checks the sites of " + folder.path() +
+                ", and would go on with the list that is to be replaced. Stop that run first; when no such process "
+                "exists on that machine any more, remove folder/lock. Nothing was changed.");
+}
+
+TEST_F(RestorationTest, AFolderThatCannotBeWrittenIsTold) {
+  locks.isReadOnly = true;
+  EXPECT_EQ(faultOf("copy.mdb"), "folder/lock: The folder cannot be written, so the list in it cannot be replaced.");
 }
 
 TEST_F(RestorationTest, AProgramThatHasTheListOpenIsNotDisturbed) {

@@ -39,11 +39,12 @@ CLI::Validator decimalNumber() {
       "");
 }
 
+template <typename Id>
 CLI::Validator siteNumber() {
   return CLI::Validator(
       [](std::string& text) {
         const std::string fault = decimalNumber()(text);
-        std::int16_t id = 0;
+        Id id = 0;
         const bool fits = std::from_chars(text.data(), text.data() + text.size(), id).ec == std::errc();
         return !fault.empty() || fits ? fault : "\"" + text + "\" is no id: ids are whole numbers from 1 to 32767";
       },
@@ -96,19 +97,19 @@ class OptionMaker {
   }
 
   CLI::Option* add(std::int16_t& id) const {
-    return verb_.add_option(option_.name, id, option_.meaning)->check(siteNumber());
+    return verb_.add_option(option_.name, id, option_.meaning)->check(siteNumber<std::int16_t>());
   }
   CLI::Option* add(std::optional<std::int16_t>& id) const {
     return verb_
         .add_option_function<std::int16_t>(
             option_.name, [&id](const std::int16_t& value) { id = value; }, option_.meaning)
-        ->check(siteNumber());
+        ->check(siteNumber<std::int16_t>());
   }
   CLI::Option* add(std::vector<std::int16_t>& ids) const {
-    return verb_.add_option(option_.name, ids, option_.meaning)->check(siteNumber());
+    return verb_.add_option(option_.name, ids, option_.meaning)->check(siteNumber<std::int16_t>());
   }
   CLI::Option* add(std::vector<std::int64_t>& ids) const {
-    return verb_.add_option(option_.name, ids, option_.meaning)->check(decimalNumber());
+    return verb_.add_option(option_.name, ids, option_.meaning)->check(siteNumber<std::int64_t>());
   }
   CLI::Option* add(std::int64_t& number) const {
     return verb_.add_option(option_.name, number, option_.meaning)

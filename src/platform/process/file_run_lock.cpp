@@ -2,7 +2,6 @@
 #include "platform/process/file_run_lock.h"
 
 #include <sstream>
-#include <stdexcept>
 #include <utility>
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -56,11 +55,7 @@ class FileRunLock final : public RunLock {
     }
     FileHandle file = open();
     if (!file) {
-      throw std::runtime_error("A run is on in this folder already: " + holderIn(path_) + " checks the sites of " +
-                               folder_ +
-                               ", and a second run would check each of them twice. Stop that run first; when no such "
-                               "process exists on that machine any more, remove " +
-                               path_ + ".");
+      throw RunIsOn(folder_, holderIn(path_), path_);
     }
     file_ = std::move(file);
     // What stands in the file only tells others who has it. A full disk, on which sites must be watched all the same,
@@ -90,13 +85,13 @@ class FileRunLock final : public RunLock {
     try {
       return openAlone(path_);
     } catch (const NoFileLocks& error) {
-      throw FileError(path_, "The file system of this folder has no locks (" + error.cause() +
-                                 "), so no run can be started in it. Move the folder to another disk.");
+      throw NoRunLock(path_, "The file system of this folder has no locks (" + error.cause() + ")",
+                      " Move the folder to another disk.");
     } catch (const FileError&) {
       if (LocalFiles().exists(path_)) {
         return nullptr;
       }
-      throw FileError(path_, "The folder cannot be written, so no run can be started in it.");
+      throw NoRunLock(path_, "The folder cannot be written", "");
     }
   }
 

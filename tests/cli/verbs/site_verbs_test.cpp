@@ -244,6 +244,10 @@ TEST_F(DeleteVerb, DeletesWhatAnotherToolHasGivenAnIdOutsideSixteenBits) {
   folder.execute(
       "insert into sites (idSite, url) values (40000, 'http://far/');"
       "insert into postVars (idPostVars, idSite, pname, pvalue) values (99, 40000, 'n', 'v')");
+  for (const std::string id : {"9223372036854775808", "999999999999999999999999"}) {
+    EXPECT_EQ(run({"delete", id, "--yes"}), exit_status::failed);
+    EXPECT_THAT(err, HasSubstr("\"" + id + "\" is no id"));
+  }
   EXPECT_EQ(run({"delete", "40000"}), exit_status::failed);
   EXPECT_THAT(err, HasSubstr("Delete site 40000, with"));
   EXPECT_EQ(run({"delete", "40000", "2", "--yes"}), exit_status::ok) << err;

@@ -14,6 +14,7 @@ namespace {
 
 using ::testing::HasSubstr;
 using ::testing::MatchesRegex;
+using ::testing::Not;
 using ::testing::StartsWith;
 
 class UpkeepVerbs : public ToolFixture {
@@ -104,7 +105,10 @@ TEST_F(RestoreVerb, IsRefusedWhileARunIsOn) {
   lock->take();
   EXPECT_EQ(run({"restore", folder.file("copy.mdb")}), exit_status::failed);
   EXPECT_EQ(out, "");
-  EXPECT_NE(err, "");
+  EXPECT_THAT(err, HasSubstr("A run is on in this folder: "));
+  EXPECT_THAT(err, HasSubstr("would go on with the list that is to be replaced. Stop that run first"));
+  EXPECT_THAT(err, HasSubstr("Nothing was changed."));
+  EXPECT_THAT(err, Not(HasSubstr("second run")));
 }
 
 }  // namespace
