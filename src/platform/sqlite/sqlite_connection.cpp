@@ -42,6 +42,9 @@ std::size_t findLastIgnoringCase(std::string_view text, std::string_view wanted)
   return kNotFound;
 }
 
+/// Whether others have changed the database: during a run that is asked at every tick.
+bool isAskedEverySecond(std::string_view sql) { return sql == "pragma data_version"; }
+
 }  // namespace
 
 // A path may hold semicolons itself, so the settings behind it are sought from the end.
@@ -95,7 +98,8 @@ class SqliteConnection final : public SqlConnection {
 
   std::unique_ptr<Recordset> execute(std::string_view sql, std::span<const SqlValue> parameters) override {
     return told(sql, [&](SqliteDatabase& database) {
-      return records(database, {std::string(sql), {parameters.begin(), parameters.end()}, !parameters.empty()}, sql);
+      const bool reusable = !parameters.empty() || isAskedEverySecond(sql);
+      return records(database, {std::string(sql), {parameters.begin(), parameters.end()}, reusable}, sql);
     });
   }
 
