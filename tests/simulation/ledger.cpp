@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+#include "simulation/ledger.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace tarnwick::simulation {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// The alert program of the simulated lists, with the site's id as its argument.
+constexpr const char* kAlertProgram = "alert";
+
+/// How much later than its interval a site may be checked: the rest of the minute in which it falls due, the requests
+/// that run into their time-out before it, and a mail server that takes its time for each failure.
+constexpr Time kLatest = 15min;
+
+std::string rowText(std::int64_t idSite, std::string_view url, bool passed, std::int64_t errCode) {
+  return std::to_string(idSite)
+      .append("|")
+      .append(url)
+      .append("|")
+      .append(passed ? "1" : "0")
+      .append("|")
+      .append(std::to_string(errCode));
+}
+
+bool isFailure(const std::string& row) { return row.find("|0|") != std::string::npos; }
+
+}  // namespace
+
+void Ledger::fail(const std::string& what) {
+  if (hasFailed()) {
+    return;
+  }
+  failure_ = what;
+  world_.journal.add("FAILED", what);
+  for (SimulatedPump* const pump : world_.pumps) {
+    pump->close();
+  }
+}
+
+void Ledger::shown(const CheckResult& result) {
+  ++results_;
+  lastSeen_[result.idSite] = world_.agenda.now();
+  if (known_) {
+    expected_.push_back({result.idSite, rowText(result.idSite, result.url, result.passed, result.errCode)});
+    ++(result.passed ? seen_[result.idSite].success : seen_[result.idSite].failure);
+  }
+}
+
+void Ledger::started(const std::vector<std::string>& program) {
+  if (program.size() == 2 && program.front() == kAlertProgram) {
+    ++alerts_[static_cast<std::int16_t>(std::stoi(program.back()))];
+  }
+}
+
+void Ledger::setDiskFails(bool fails) {
+  if (diskFails_ && !fails) {
+    known_ = false;
+  }
+  diskFails_ = fails;
+}
+
+void Ledger::settle() {
+  if (!known_ && !diskFails_ && !world_.isDead()) {
+    try {
+      begin();
+    } catch (const std::exception&) {
+      // It cannot be looked into just now.
+    }
+  }
+}
+
+void Ledger::begin() {
+  logBefore_ = std::stoull(askDatabase(world_, "select count(*) from log").front());
+  countersBefore_ = counters();
+  expected_.clear();
+  seen_.clear();
+  alerts_.clear();
+  known_ = true;
+}
+
+std::vector<std::string> Ledger::newLogRows() const {
+  return askDatabase(world_, "select idSite, url, status, errCode from log order by rowid limit -1 offset " +
+                                 std::to_string(logBefore_));
+}
+
+std::map<std::int16_t, Ledger::Counts> Ledger::counters() const {
+  std::map<std::int16_t, Counts> all;
+  for (const std::string& row :
+       askDatabase(world_, "select idSite, coalesce(success, 0), coalesce(failure, 0) from sites order by idSite")) {
+    const std::size_t first = row.find('|');
+    const std::size_t second = row.find('|', first + 1);
+    all[static_cast<std::int16_t>(std::stoi(row))] = {std::stoll(row.substr(first + 1)),
+                                                      std::stoll(row.substr(second + 1))};
+  }
+  return all;
+}
+
+void Ledger::compare() {
+  if (!known_) {
+    return;
+  }
+  try {
+    ++comparisons_;
+    compareLog();
+    if (!diskFails_) {
+      compareCounters(false);
+    }
+  } catch (const std::exception& error) {
+    fail(std::string("the list cannot be looked into: ") + error.what());
+  }
+}
+
+void Ledger::compareAfterDeath() {
+  try {
+    const std::vector<std::string> sound = askDatabase(world_, "pragma integrity_check");
+    if (sound != std::vector<std::string>{"ok"}) {
+      fail("the list is damaged after the end of its processes: " + (sound.empty() ? "" : sound.front()));
+      return;
+    }
+    if (known_) {
+      compareLog();
+    }
+    if (known_ && !diskFails_) {
+      compareCounters(true);
+    }
+    known_ = false;
+    diskFails_ = false;
+    settle();
+  } catch (const std::exception& error) {
+    fail(std::string("the list cannot be opened after the end of its processes: ") + error.what());
+  }
+}
+
+// A failure is in the log before its alerts go out, and shown after them: not at all when the process ends in between,
+// nor when the disk fails the alerts.
+void Ledger::compareLog() {
+  const std::vector<std::string> rows = newLogRows();
+  std::size_t row = 0;
+  for (const Row& wanted : expected_) {
+    while (diskFails_ && row < rows.size() && rows[row] != wanted.text && isFailure(rows[row])) {
+      ++row;
+    }
+    if (row >= rows.size()) {
+      fail("a result was shown and is not in the log: " + wanted.text);
+      return;
+    }
+    if (rows[row] != wanted.text) {
+      fail("the log says " + rows[row] + " where " + wanted.text + " was shown");
+      return;
+    }
+    ++row;
+  }
+  if (!diskFails_ && row + 1 < rows.size()) {
+    fail("the log has results that were never shown, the first one: " + rows[row]);
+  }
+}
+
+// The counter of a failure comes after its alerts, too.
+void Ledger::compareCounters(bool afterDeath) {
+  std::int64_t pending = afterDeath || newLogRows().size() > expected_.size() ? 1 : 0;
+  for (const auto& [id, now] : counters()) {
+    const Counts before = countersBefore_.contains(id) ? countersBefore_[id] : Counts{};
+    const Counts seen = seen_.contains(id) ? seen_[id] : Counts{};
+    const std::int64_t success = now.success - before.success - seen.success;
+    const std::int64_t failure = now.failure - before.failure - seen.failure;
+    const auto isOff = [&](std::int64_t by) { return by < 0 || by > pending; };
+    if (isOff(success) || isOff(failure)) {
+      fail("the counters of site " + std::to_string(id) + " are off by " + std::to_string(success) + " and " +
+           std::to_string(failure));
+      return;
+    }
+    pending -= success + failure;
+    const std::int64_t alerted = alerts_.contains(id) ? alerts_[id] : 0;
+    if (alerted < seen.failure || alerted > seen.failure + 1) {
+      fail("site " + std::to_string(id) + " has failed " + std::to_string(seen.failure) + " times and alerted " +
+           std::to_string(alerted) + " times");
+      return;
+    }
+  }
+}
+
+void Ledger::watchLiveness() {
+  const Time now = world_.agenda.now();
+  if (now < excusedUntil_) {
+    return;
+  }
+  for (const std::string& row :
+       askDatabase(world_, "select idSite, tInterval from sites where active and lastChecked is not null")) {
+    const auto id = static_cast<std::int16_t>(std::stoi(row));
+    const std::chrono::minutes interval(std::stoll(row.substr(row.find('|') + 1)));
+    const Time since = std::max(lastSeen_.contains(id) ? lastSeen_[id] : Time(0), excusedUntil_);
+    if (now - since > interval + kLatest) {
+      fail("site " + row + " was not checked for " +
+           std::to_string(std::chrono::floor<std::chrono::minutes>(now - since).count()) + " minutes");
+      return;
+    }
+  }
+}
+
+}  // namespace tarnwick::simulation

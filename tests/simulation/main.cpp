@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+// Runs the simulation: scripts/simulate.sh tells how.
+#include <charconv>
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+#include <QCoreApplication>
+
+#include "simulation/shrink.h"
+#include "simulation/simulation.h"
+
+namespace {
+
+using namespace tarnwick::simulation;
+
+struct Wishes {
+  Plan plan{};
+  std::uint64_t seeds = 1;
+  bool onceOnly = false;
+  bool shrinks = true;
+  double hours = 0;
+  std::string journal{};
+};
+
+std::uint64_t numberOf(const std::string& text) {
+  std::uint64_t number = 0;
+  const auto [rest, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (fault != std::errc() || rest != text.data() + text.size()) {
+    throw std::invalid_argument(text + " is no number.");
+  }
+  return number;
+}
+
+std::uint64_t freshSeed() {
+  return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch() / std::chrono::seconds(1));
+}
+
+std::vector<std::string> itemsOf(const std::string& list) {
+  std::vector<std::string> items;
+  std::size_t from = 0;
+  for (std::size_t comma = list.find(','); comma != std::string::npos; comma = list.find(',', from)) {
+    items.push_back(list.substr(from, comma - from));
+    from = comma + 1;
+  }
+  items.push_back(list.substr(from));
+  return items;
+}
+
+Trouble troubleOf(const std::string& name) {
+  for (std::size_t i = 0; i < kTroubles; ++i) {
+    if (kTroubleNames.at(i) == name) {
+      return static_cast<Trouble>(i);
+    }
+  }
+  throw std::invalid_argument(name + " is no class of troubles.");
+}
+
+Wishes wishesOf(const std::vector<std::string>& arguments) {
+  Wishes wishes;
+  double minutes = 1440;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& name = arguments[i];
+    const auto value = [&]() -> const std::string& {
+      if (++i >= arguments.size()) {
+        throw std::invalid_argument(name + " needs a value.");
+      }
+      return arguments[i];
+    };
+    if (name == "--seed") {
+      const std::string& seed = value();
+      wishes.plan.seed = seed == "fresh" ? freshSeed() : numberOf(seed);
+    } else if (name == "--seeds") {
+      wishes.seeds = numberOf(value());
+    } else if (name == "--years") {
+      minutes = std::stod(value()) * 365 * 1440;
+    } else if (name == "--days") {
+      minutes = std::stod(value()) * 1440;
+    } else if (name == "--minutes") {
+      minutes = std::stod(value());
+    } else if (name == "--sites") {
+      wishes.plan.sites = static_cast<int>(numberOf(value()));
+    } else if (name == "--hours") {
+      wishes.hours = std::stod(value());
+    } else if (name == "--without") {
+      for (const std::string& item : itemsOf(value())) {
+        wishes.plan.without.insert(troubleOf(item));
+      }
+    } else if (name == "--leave-out") {
+      for (const std::string& item : itemsOf(value())) {
+        wishes.plan.leftOut.insert(numberOf(item));
+      }
+    } else if (name == "--original") {
+      wishes.plan.original = true;
+    } else if (name == "--once") {
+      wishes.onceOnly = true;
+    } else if (name == "--no-shrinking") {
+      wishes.shrinks = false;
+    } else if (name == "--journal") {
+      wishes.journal = value();
+    } else {
+      throw std::invalid_argument(name + " is no option.");
+    }
+  }
+  wishes.plan.length = Time(static_cast<std::int64_t>(minutes * 60'000));
+  return wishes;
+}
+
+/// The same plan twice: whatever comes of it, it must be the same.
+bool runTwice(const Wishes& wishes, const Plan& plan) {
+  std::ofstream journal;
+  if (!wishes.journal.empty()) {
+    journal.open(wishes.journal);
+  }
+  const Outcome outcome = Simulation(plan, journal.is_open() ? &journal : nullptr).run();
+  std::cout << "seed " << plan.seed << " " << outcome.text() << std::endl;
+  if (!outcome.failure.empty()) {
+    std::cout << outcome.lastLines << "again by: " << plan.command() << std::endl;
+    if (wishes.shrinks) {
+      const Plan shortest = shrink(plan, std::cout);
+      std::cout << "shortest by: " << shortest.command() << std::endl;
+    }
+    return false;
+  }
+  if (!wishes.onceOnly && Simulation(plan).run().digest != outcome.digest) {
+    std::cout << "seed " << plan.seed << " FAILED: a second run of it came out otherwise\nagain by: " << plan.command()
+              << std::endl;
+    return false;
+  }
+  return true;
+}
+
+int runAll(const Wishes& wishes) {
+  const auto realNow = [] { return std::chrono::system_clock::now(); };
+  const auto end = realNow() + std::chrono::seconds(static_cast<std::int64_t>(wishes.hours * 3600));
+  bool good = true;
+  Plan plan = wishes.plan;
+  for (std::uint64_t run = 0; wishes.hours > 0 ? realNow() < end : run < wishes.seeds; ++run, ++plan.seed) {
+    good = runTwice(wishes, plan) && good;
+  }
+  return good ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);  // what waits for signals wants one
+  try {
+    return runAll(wishesOf({argv + 1, argv + argc}));
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << '\n';
+    return 2;
+  }
+}

@@ -1,0 +1,299 @@
+// SPDX-License-Identifier: MIT
+#include "simulation/simulated_disk.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <fstream>
+#include <iterator>
+#include <utility>
+
+namespace tarnwick::simulation {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kSector = 512;
+
+std::string contentsOf(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+bool isSharedMemory(const std::string& path) { return path.ends_with("-shm"); }
+
+}  // namespace
+
+SimulatedDisk* SimulatedDisk::inUse = nullptr;
+
+SimulatedDisk::SimulatedDisk() {
+  const fs::path memory = "/dev/shm";
+  std::error_code fault;
+  root_ = (fs::is_directory(memory, fault) && access(memory.c_str(), W_OK) == 0 ? memory : fs::temp_directory_path()) /
+          ("tarnwick-simulation-" + std::to_string(getpid()));
+  fs::remove_all(root_);
+  folder_ = (root_ / "disk").string();
+  left_ = root_ / "left";
+  fs::create_directories(folder_);
+  inUse = this;
+}
+
+SimulatedDisk::~SimulatedDisk() {
+  inUse = nullptr;
+  std::error_code ignored;
+  fs::remove_all(root_, ignored);
+}
+
+void SimulatedDisk::keepCount() {
+  stopCounting();
+  for (const auto& entry : fs::recursive_directory_iterator(folder_)) {
+    if (entry.is_regular_file() && !isSharedMemory(entry.path().string())) {
+      names_[entry.path().string()] = std::make_shared<File>(File{contentsOf(entry.path())});
+    }
+  }
+  syncedNames_ = names_;
+  for (Open& open : open_) {
+    if (const auto named = names_.find(open.path); named != names_.end()) {
+      open.file = named->second;
+    }
+  }
+  counting_ = true;
+  syncs_ = 0;
+}
+
+void SimulatedDisk::stopCounting() {
+  counting_ = false;
+  names_.clear();
+  syncedNames_.clear();
+  nameChanges_.clear();
+  for (Open& open : open_) {
+    open.file.reset();
+  }
+}
+
+void SimulatedDisk::opened(int descriptor, const char* path, bool made) {
+  if (static_cast<std::size_t>(descriptor) >= open_.size()) {
+    open_.resize(static_cast<std::size_t>(descriptor) + 1);
+  }
+  Open& open = at(descriptor);
+  open = {path, nullptr};
+  edition_ += made ? 1 : 0;
+  if (!counting_ || isSharedMemory(open.path)) {
+    return;
+  }
+  if (made) {
+    setName(open.path, std::make_shared<File>());
+  }
+  if (const auto named = names_.find(open.path); named != names_.end()) {
+    open.file = named->second;
+  }
+}
+
+void SimulatedDisk::throughStream(int descriptor) {
+  Open& open = at(descriptor);
+  open.isStream = true;
+  ++streams_;
+  if (open.file) {
+    open.file->throughStream = true;
+  }
+}
+
+void SimulatedDisk::closed(int descriptor) {
+  const Open open = std::exchange(at(descriptor), {});
+  streams_ -= open.isStream ? 1 : 0;
+  ++edition_;
+}
+
+bool SimulatedDisk::strikes() {
+  const bool strikes = fault_ != DiskFault::none && faultChance_.oneIn(faultOneIn_);
+  failures_ += strikes ? 1 : 0;
+  return strikes;
+}
+
+int SimulatedDisk::write(int descriptor, const void* bytes, std::size_t& length, std::int64_t offset,
+                         std::int64_t growth) {
+  ++edition_;
+  if (dead_) {
+    return EIO;
+  }
+  if (room_) {
+    if (growth > *room_) {
+      ++failures_;
+      return ENOSPC;
+    }
+    *room_ -= growth;
+  }
+  if (strikes()) {
+    if (fault_ != DiskFault::shortWrite) {
+      return fault_ == DiskFault::full ? ENOSPC : EIO;
+    }
+    length = std::max<std::size_t>(length / 2, 1);
+  }
+  if (const FilePtr& file = at(descriptor).file) {
+    file->pending.push_back({offset, std::string(static_cast<const char*>(bytes), length)});
+  }
+  return 0;
+}
+
+int SimulatedDisk::truncate(int descriptor, std::int64_t size) {
+  ++edition_;
+  if (dead_) {
+    return EIO;
+  }
+  if (const FilePtr& file = at(descriptor).file) {
+    file->pending.push_back({size, {}, true});
+  }
+  return 0;
+}
+
+int SimulatedDisk::sync(int descriptor) {
+  if (!dead_ && counting_) {
+    ++syncs_;
+    if (onSync) {
+      onSync(syncs_);
+    }
+  }
+  if (dead_ || (fault_ == DiskFault::broken && strikes())) {
+    return EIO;
+  }
+  if (!counting_) {
+    return 0;
+  }
+  const Open& open = at(descriptor);
+  if (open.file == nullptr) {  // a folder
+    nameChanges_.clear();
+    syncedNames_ = names_;
+    return 0;
+  }
+  if (open.file->throughStream) {
+    *open.file = {contentsOf(open.path)};
+  }
+  for (const Write& write : std::exchange(open.file->pending, {})) {
+    apply(open.file->synced, write);
+  }
+  return 0;
+}
+
+void SimulatedDisk::setName(const std::string& name, const FilePtr& file) {
+  nameChanges_.push_back({name, file});
+  if (file) {
+    names_[name] = file;
+  } else {
+    names_.erase(name);
+  }
+}
+
+int SimulatedDisk::rename(const char* from, const char* to) {
+  ++edition_;
+  if (dead_) {
+    return EIO;
+  }
+  if (const auto named = names_.find(from); counting_ && named != names_.end()) {
+    const FilePtr file = named->second;
+    setName(to, file);
+    setName(from, nullptr);
+  }
+  return 0;
+}
+
+int SimulatedDisk::unlink(const char* path) {
+  ++edition_;
+  if (dead_) {
+    return EIO;
+  }
+  if (counting_ && names_.contains(path)) {
+    setName(path, nullptr);
+  }
+  return 0;
+}
+
+void SimulatedDisk::apply(std::string& bytes, const Write& write) {
+  const auto offset = static_cast<std::size_t>(write.offset);
+  if (write.cuts) {
+    bytes.resize(offset);
+    return;
+  }
+  bytes.resize(std::max(bytes.size(), offset + write.bytes.size()));
+  bytes.replace(offset, write.bytes.size(), write.bytes);
+}
+
+// Of what was not synced the disk has taken nothing, all, what came first, or any sectors in any order.
+std::string SimulatedDisk::leftOf(const File& file, Chance& chance) {
+  enum Kind { nothing, everything, whatCameFirst, anything, kinds };
+  const auto kind = static_cast<Kind>(chance.below(kinds));
+  const std::uint64_t first = kind == whatCameFirst ? chance.below(file.pending.size() + 1) : 0;
+  std::string bytes = file.synced;
+  for (std::size_t i = 0; i < file.pending.size(); ++i) {
+    const Write& write = file.pending[i];
+    if (kind == everything || (kind == whatCameFirst && i < first) ||
+        (kind == anything && write.cuts && chance.oneIn(2))) {
+      apply(bytes, write);
+    } else if (kind == anything && !write.cuts) {
+      for (std::size_t at = 0; at < write.bytes.size(); at += kSector) {
+        if (chance.oneIn(2)) {
+          apply(bytes, {write.offset + static_cast<std::int64_t>(at), write.bytes.substr(at, kSector)});
+        }
+      }
+    }
+  }
+  return bytes;
+}
+
+void SimulatedDisk::cutPower(Chance& chance) {
+  Names names = syncedNames_;
+  const std::uint64_t changes = chance.below(nameChanges_.size() + 1);
+  for (std::uint64_t i = 0; i < changes; ++i) {
+    const NameChange& change = nameChanges_[i];
+    if (change.file) {
+      names[change.name] = change.file;
+    } else {
+      names.erase(change.name);
+    }
+  }
+  fs::create_directories(left_);
+  for (const auto& entry : fs::directory_iterator(folder_)) {
+    if (entry.is_directory()) {
+      fs::create_directories(left_ / entry.path().filename());
+    }
+  }
+  for (const auto& [name, file] : names) {
+    File found = *file;
+    if (found.throughStream) {
+      const std::string written = contentsOf(name);
+      found = {written.substr(0, chance.below(written.size() + 1))};
+    }
+    std::ofstream(left_ / fs::path(name).lexically_relative(folder_), std::ios::binary) << leftOf(found, chance);
+  }
+  die();
+}
+
+void SimulatedDisk::killAll() {
+  fs::copy(folder_, left_, fs::copy_options::recursive);
+  die();
+}
+
+void SimulatedDisk::die() {
+  dead_ = true;
+  onSync = nullptr;
+  stopCounting();
+}
+
+void SimulatedDisk::powerOn() {
+  inUse = nullptr;
+  fs::remove_all(folder_);
+  fs::rename(left_, folder_);
+  inUse = this;
+  ++edition_;
+  dead_ = false;
+  fault_ = DiskFault::none;
+  room_.reset();
+}
+
+void SimulatedDisk::fail(DiskFault fault, std::uint64_t oneIn, Chance chance) {
+  fault_ = fault;
+  faultOneIn_ = oneIn;
+  faultChance_ = chance;
+}
+
+}  // namespace tarnwick::simulation

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "simulation/simulated_mail.h"
+
+#include <functional>
+#include <utility>
+
+namespace tarnwick::simulation {
+
+// What a server in a bad mood leaves out it does later: one that is silent without end would hold a list for ever that
+// does not bound its waits.
+class SimulatedMail::Socket final : public TcpSocket {
+ public:
+  explicit Socket(SimulatedMail& mail) : mail_(mail), next_(mail.agenda_) {}
+
+  void connectTo(const std::string&, std::uint16_t) override {
+    ++mail_.begun_;
+    state_ = SocketState::connecting;
+    answers_ = 0;
+    next_.in(delay(), [this] {
+      if (mail_.mood_ == MailMood::unreachable) {
+        state_ = SocketState::error;
+        return;
+      }
+      state_ = SocketState::connected;
+      answer("220 ready\r\n");
+    });
+  }
+  SocketState state() const override { return state_; }
+  void send(const std::string& data) override {
+    if (state_ != SocketState::connected) {
+      return;
+    }
+    mail_.journal_.add("mail", data);
+    ++answers_;
+    if (mail_.mood_ == MailMood::cutting && answers_ == kMailItself) {
+      next_.in(delay(), [this] { state_ = SocketState::closed; });
+    } else if (mail_.mood_ == MailMood::refusing && answers_ > 1) {
+      answer("550 not here\r\n");
+    } else if (mail_.mood_ == MailMood::garbled) {
+      answer(mail_.chance_.oneIn(2) ? "what?\r\n" : "99999 much\r\n");
+    } else {
+      mail_.taken_ += answers_ == kMailItself ? 1 : 0;
+      answer("250 ok\r\n");
+    }
+  }
+  std::string getData() override { return std::exchange(data_, {}); }
+  void close() override {
+    next_.cancel();
+    state_ = SocketState::closed;
+  }
+  void onDataArrival(std::function<void()> handler) override { arrived_ = std::move(handler); }
+  std::string localHostName() const override { return "watcher.example"; }
+  std::string localIP() const override { return "192.0.2.7"; }
+
+ private:
+  /// The fourth thing that is sent.
+  static constexpr int kMailItself = 4;
+
+  Time delay() {
+    switch (mail_.mood_) {
+      case MailMood::slow:
+        return Time(mail_.chance_.between(1000, 20'000));
+      case MailMood::silent:
+        return Time(mail_.chance_.between(60'000, 3'600'000));
+      default:
+        return Time(mail_.chance_.between(1, 200));
+    }
+  }
+  void answer(std::string text) {
+    next_.in(delay(), [this, text = std::move(text)] {
+      data_ += text;
+      if (arrived_) {
+        arrived_();
+      }
+    });
+  }
+
+  SimulatedMail& mail_;
+  Appointment next_;
+  std::function<void()> arrived_;
+  SocketState state_ = SocketState::closed;
+  std::string data_;
+  int answers_ = 0;
+};
+
+std::unique_ptr<TcpSocket> SimulatedMail::makeTcpSocket() { return std::make_unique<Socket>(*this); }
+
+}  // namespace tarnwick::simulation

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/tcp_socket.h"
+#include "simulation/agenda.h"
+#include "simulation/chance.h"
+#include "simulation/journal.h"
+
+namespace tarnwick::simulation {
+
+/// How the mail server behaves for a while.
+enum class MailMood { good, slow, refusing, garbled, unreachable, cutting, silent };
+inline constexpr std::uint64_t kMailMoods = 7;
+
+/// The network as far as mails go: one server, whatever its name.
+class SimulatedMail final : public TcpSocketMaker {
+ public:
+  SimulatedMail(Agenda& agenda, Journal& journal, Chance chance)
+      : agenda_(agenda), journal_(journal), chance_(chance) {}
+
+  std::unique_ptr<TcpSocket> makeTcpSocket() override;
+
+  void setMood(MailMood mood) { mood_ = mood; }
+  MailMood mood() const { return mood_; }
+  /// How many exchanges were begun, and how many mails were taken.
+  std::uint64_t begun() const { return begun_; }
+  std::uint64_t taken() const { return taken_; }
+
+ private:
+  class Socket;
+
+  Agenda& agenda_;
+  Journal& journal_;
+  Chance chance_;
+  MailMood mood_ = MailMood::good;
+  std::uint64_t begun_ = 0;
+  std::uint64_t taken_ = 0;
+};
+
+}  // namespace tarnwick::simulation

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "simulation/simulated_web.h"
+
+#include <functional>
+#include <utility>
+
+namespace tarnwick::simulation {
+
+class SimulatedWeb::Control final : public TransferControl {
+ public:
+  explicit Control(SimulatedWeb& web) : web_(web), next_(web.agenda_) {}
+
+  void execute(Request request) override {
+    executing_ = true;
+    taken_ = {};
+    Answer answer = web_.answerTo(request);
+    result_ = std::move(answer.result);
+    next_.in(answer.after, [this] { end(); });
+  }
+  bool stillExecuting() const override { return executing_; }
+  void cancel() override {
+    next_.cancel();
+    executing_ = false;
+  }
+  TransferResult takeResult() override { return std::exchange(taken_, {}); }
+  void onStateChanged(std::function<void(int state)> handler) override { stateChanged_ = std::move(handler); }
+  void onIdle(std::function<void()> handler) override { idle_ = std::move(handler); }
+
+ private:
+  void end() {
+    taken_ = std::move(result_);
+    if (stateChanged_) {
+      stateChanged_(taken_.fault == TransferFault::none ? transfer_state::responseCompleted : transfer_state::error);
+    }
+    executing_ = false;
+    if (idle_) {
+      const auto idle = idle_;  // it may destroy this control
+      idle();
+    }
+  }
+
+  SimulatedWeb& web_;
+  Appointment next_;
+  std::function<void(int)> stateChanged_;
+  std::function<void()> idle_;
+  TransferResult result_;
+  TransferResult taken_;
+  bool executing_ = false;
+};
+
+std::unique_ptr<TransferControl> SimulatedWeb::makeTransferControl() { return std::make_unique<Control>(*this); }
+
+void SimulatedWeb::setMood(const std::string& url, SiteMood mood) { sites_[url].mood = mood; }
+
+std::string SimulatedWeb::pageOf(const std::string& url, std::uint64_t edition) {
+  return "<html><body><h1>It's " + url + "</h1>\r\n<p>edition " + std::to_string(edition) + "</p></body></html>\n";
+}
+
+SimulatedWeb::Answer SimulatedWeb::answerTo(const Request& request) {
+  ++requests_;
+  Site& site = sites_[request.url];
+  const Time limit = request.timeout.count() > 0 ? request.timeout : kDefaultRequestTimeout;
+  Answer answer{Time(chance_.between(20, 400)), {TransferFault::none, "", pageOf(request.url, site.edition)}};
+  const auto fault = [&](TransferFault number, std::string cause) { answer.result = {number, std::move(cause), ""}; };
+  switch (site.mood) {
+    case SiteMood::steady:
+      break;
+    case SiteMood::changing:
+      ++site.edition;
+      break;
+    case SiteMood::flapping:
+      answer.result.page = pageOf(request.url, site.edition + chance_.below(2));
+      break;
+    case SiteMood::slow:
+      answer.after = Time(chance_.between(0, 3 * limit.count() / 2));
+      break;
+    case SiteMood::silent:
+      answer.after = limit;
+      break;
+    case SiteMood::cut:
+      fault(TransferFault::dropped, "The connection was closed before the page was complete.");
+      break;
+    case SiteMood::refused:
+      fault(TransferFault::refused, "The connection was refused.");
+      break;
+    case SiteMood::unknown:
+      answer.after = Time(chance_.between(0, 5000));
+      fault(TransferFault::nameLookup, "The name of the host could not be looked up.");
+      break;
+    case SiteMood::redirecting:
+      fault(TransferFault::tooManyRedirects, "The site redirects in a circle.");
+      break;
+    case SiteMood::untrusted:
+      fault(TransferFault::certificate, "The certificate of the host has run out.");
+      break;
+    case SiteMood::shortage:
+      answer.after = Time(0);
+      fault(TransferFault::shortage, "There is no file handle left.");
+      break;
+  }
+  if (answer.after >= limit) {
+    answer.after = limit;
+    fault(TransferFault::timeOut, std::string(kTookTooLong) +
+                                      std::to_string(std::chrono::floor<std::chrono::seconds>(limit).count()) +
+                                      " seconds.");
+  }
+  journal_.addTick("fetch", request.url);
+  return answer;
+}
+
+}  // namespace tarnwick::simulation

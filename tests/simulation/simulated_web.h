@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "platform/transfer_control.h"
+#include "simulation/agenda.h"
+#include "simulation/chance.h"
+#include "simulation/journal.h"
+
+namespace tarnwick::simulation {
+
+/// How a web site behaves for a while.
+enum class SiteMood {
+  steady,       ///< the same page every time
+  changing,     ///< another page every time
+  flapping,     ///< the usual page, or another one
+  slow,         ///< the usual page, perhaps too late
+  silent,       ///< no answer at all
+  cut,          ///< the connection ends in mid page
+  refused,      ///< nobody listens
+  unknown,      ///< its name is not known
+  redirecting,  ///< in a circle
+  untrusted,    ///< its certificate has run out
+  shortage,     ///< this machine has no handle left
+};
+inline constexpr std::uint64_t kSiteMoods = 11;
+
+/// The network: sites by their addresses, each in a mood of its own, and a clock that decides when an answer comes.
+class SimulatedWeb final : public TransferMaker {
+ public:
+  SimulatedWeb(Agenda& agenda, Journal& journal, Chance chance) : agenda_(agenda), journal_(journal), chance_(chance) {}
+
+  std::unique_ptr<TransferControl> makeTransferControl() override;
+
+  void setMood(const std::string& url, SiteMood mood);
+  SiteMood moodOf(const std::string& url) { return sites_[url].mood; }
+  /// Gives the site another page for good.
+  void publish(const std::string& url) { ++sites_[url].edition; }
+  std::uint64_t requests() const { return requests_; }
+
+ private:
+  struct Site {
+    SiteMood mood = SiteMood::steady;
+    std::uint64_t edition = 0;
+  };
+  struct Answer {
+    Time after{0};
+    TransferResult result{};
+  };
+  class Control;
+
+  Answer answerTo(const Request& request);
+  static std::string pageOf(const std::string& url, std::uint64_t edition);
+
+  Agenda& agenda_;
+  Journal& journal_;
+  Chance chance_;
+  std::map<std::string, Site> sites_;
+  std::uint64_t requests_ = 0;
+};
+
+}  // namespace tarnwick::simulation

@@ -1,0 +1,260 @@
+// SPDX-License-Identifier: MIT
+#include "simulation/simulation.h"
+
+#include <array>
+#include <cinttypes>
+#include <cstdio>
+
+namespace tarnwick::simulation {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// How long after a trouble nothing is promised about the time of a check: a fault lets passes wait for up to a minute
+/// longer each time, and a clock that was set back lets sites wait until it is there again.
+constexpr Time kAfterTrouble = 1h;
+
+}  // namespace
+
+std::string Outcome::text() const {
+  std::array<char, 32> number{};
+  std::snprintf(number.data(), number.size(), "%016" PRIx64, digest);
+  return std::string(failure.empty() ? "passed" : "FAILED") + ": " + std::to_string(results) + " results, " +
+         std::to_string(alerts) + " alerts, " + std::to_string(happened) + " troubles, " + std::to_string(deaths) +
+         " ends without warning, " + std::to_string(comparisons) + " comparisons, " + std::to_string(events) +
+         " events, digest " + number.data() + (failure.empty() ? "" : "\n  " + failure);
+}
+
+Simulation::Simulation(const Plan& plan, std::ostream* copy) : plan_(plan), world_(plan.seed, copy) {}
+
+void Simulation::layOut() {
+  layFolder(world_, plan_.original);
+  for (int i = 1; i <= plan_.sites; ++i) {
+    urls_.push_back("http://site" + std::to_string(i) + ".example/");
+    mustRun({"add", urls_.back(), "--alert-email", "ann@example.org"});
+  }
+  for (const auto& [name, value] :
+       std::initializer_list<std::pair<const char*, const char*>>{{"program", "alert ~idsite~"},
+                                                                  {"cprogram", "on"},
+                                                                  {"cemail", "on"},
+                                                                  {"caudio", "on"},
+                                                                  {"audio", "alert.wav"},
+                                                                  {"smtp", "mail.example"},
+                                                                  {"email", "me@example.org"},
+                                                                  {"creports", "on"}}) {
+    mustRun({"settings", name, value});
+  }
+}
+
+void Simulation::mustRun(const std::vector<std::string>& arguments) {
+  if (runVerb(world_, arguments) != 0) {
+    ledger_.fail("the list cannot be laid out");
+  }
+}
+
+void Simulation::schedule() {
+  const std::vector<Happening> all = plan_.happenings();
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    if (plan_.takes(i, all[i])) {
+      world_.agenda.at(all[i].at, [this, i, happening = all[i]] {
+        world_.journal.add("trouble", "number " + std::to_string(i) + ", " +
+                                          std::string(kTroubleNames.at(static_cast<std::size_t>(happening.trouble))));
+        begin(happening);
+      });
+    }
+  }
+  world_.agenda.at(plan_.length, [this] {
+    over_ = true;
+    if (process_) {
+      process_->program().close();
+    }
+  });
+  lookNow();
+}
+
+void Simulation::lookNow() {
+  Time next = 1h;
+  if (process_ && process_->program().isOpen() && !world_.isDead() && !isOver()) {
+    ledger_.compare();
+    ledger_.watchLiveness();
+    if (process_->program().run().busy()) {
+      next = 1min;
+    } else {
+      ledger_.settle();
+    }
+  }
+  world_.agenda.in(next, [this] { lookNow(); });
+}
+
+void Simulation::begin(const Happening& happening) {
+  if (world_.isDead() || isOver()) {
+    return;
+  }
+  ++happened_;
+  const Chance chance(happening.draw);
+  switch (happening.trouble) {
+    case Trouble::sites:
+      return changeSites(chance);
+    case Trouble::mail:
+      return changeMail(chance);
+    case Trouble::clock:
+      return setClock(chance);
+    case Trouble::user:
+      return process_ ? user_.act(*process_, chance) : void();
+    case Trouble::verbs:
+      return process_ ? user_.runSomeVerb(chance) : void();
+    case Trouble::locks:
+      ledger_.excuse(kAfterTrouble);
+      return neighbour_.lock(chance);
+    case Trouble::disk:
+      return breakDisk(chance);
+    case Trouble::power:
+      return cutPower(chance);
+    case Trouble::kill:
+      return kill(chance);
+    case Trouble::restart:
+      return restart(chance);
+  }
+}
+
+void Simulation::changeSites(Chance chance) {
+  const std::size_t site = chance.below(urls_.size());
+  const std::string& url = urls_[site];
+  const auto mood = static_cast<SiteMood>(chance.below(kSiteMoods));
+  const Time lasts(chance.between(60'000, 86'400'000));
+  world_.journal.add("web", url + " turns to mood " + std::to_string(static_cast<int>(mood)));
+  world_.web.setMood(url, mood);
+  if (mood == SiteMood::shortage) {
+    ledger_.excuse(static_cast<std::int16_t>(site + 1), lasts);
+  }
+  world_.agenda.in(lasts, [this, url] {
+    world_.journal.add("web", url + " is steady again");
+    world_.web.setMood(url, SiteMood::steady);
+  });
+}
+
+// Without a bound on its waits a list waits for a server as long as that is silent, and for one that has hung up for
+// ever: so it is specified.
+void Simulation::changeMail(Chance chance) {
+  auto mood = static_cast<MailMood>(chance.below(kMailMoods));
+  if (plan_.original && (mood == MailMood::cutting || mood == MailMood::silent)) {
+    mood = MailMood::slow;
+  }
+  world_.journal.add("mail", "the server turns to mood " + std::to_string(static_cast<int>(mood)));
+  world_.mail.setMood(mood);
+  const Time lasts(chance.between(60'000, 10'800'000));
+  ledger_.excuse(lasts + kAfterTrouble);
+  world_.agenda.in(lasts, [this] { world_.mail.setMood(MailMood::good); });
+}
+
+void Simulation::setClock(Chance chance) {
+  static constexpr std::array<std::int64_t, 4> kMost{5, 3600, 3600, 86'400};
+  const std::int64_t most = kMost.at(chance.below(kMost.size()));
+  std::int64_t by = most == 3600 && chance.oneIn(2) ? most : chance.between(1, most);
+  by = chance.oneIn(2) ? -by : by;
+  world_.journal.add("clock", "set by " + std::to_string(by) + " s");
+  world_.clock.setBy(std::chrono::seconds(by));
+  ledger_.excuse(std::chrono::seconds(by < 0 ? -by : 0) + kAfterTrouble);
+}
+
+void Simulation::breakDisk(Chance chance) {
+  const Time lasts(chance.between(1000, 3'600'000));
+  const auto fault = static_cast<DiskFault>(chance.between(1, 3));
+  const std::uint64_t oneIn = fault == DiskFault::shortWrite ? 2 : 1 + chance.below(20);
+  world_.journal.add(
+      "disk", "fails one write in " + std::to_string(oneIn) + " by fault " + std::to_string(static_cast<int>(fault)));
+  ledger_.setDiskFails(true);
+  ledger_.excuse(lasts + kAfterTrouble);
+  world_.disk.fail(fault, oneIn, Chance(chance.next()));
+  world_.agenda.in(lasts, [this] {
+    world_.journal.add("disk", "is well again");
+    world_.disk.fail(DiskFault::none, 1, Chance(0));
+    ledger_.setDiskFails(false);
+  });
+}
+
+// The power goes at a sync, or at any moment; which it is was drawn before.
+void Simulation::cutPower(Chance chance) {
+  if (world_.disk.isCounting()) {
+    return;  // it is about to go already
+  }
+  world_.disk.keepCount();
+  const std::uint64_t atSync = chance.oneIn(2) ? 1 + chance.below(40) : 0;
+  off_ = Time(chance.between(10'000, 3'600'000));
+  const std::uint64_t draw = chance.next();
+  world_.disk.onSync = [this, atSync, draw](std::uint64_t number) {
+    if (number == atSync) {
+      Chance dice(draw);
+      world_.cutPower(dice);
+    }
+  };
+  world_.agenda.in(Time(chance.between(1, 600'000)), [this, draw, deathsBefore = deaths_] {
+    if (world_.disk.isCounting() && deaths_ == deathsBefore) {
+      Chance dice(draw);
+      world_.cutPower(dice);
+    }
+  });
+}
+
+void Simulation::kill(Chance chance) {
+  off_ = Time(chance.between(1000, 600'000));
+  world_.killAll();
+}
+
+void Simulation::restart(Chance chance) {
+  if (process_) {
+    off_ = Time(chance.between(1000, 600'000));
+    offline_ = chance.next() | 1U;
+    world_.journal.add("user", "closes the program");
+    process_->program().close();
+  }
+}
+
+void Simulation::liveOnce() {
+  process_ = std::make_unique<Process>(world_);
+  process_->view().onResult = [this](const CheckResult& result) { ledger_.shown(result); };
+  const bool lived = process_->live();
+  process_.reset();
+  neighbour_.letGo();
+  ledger_.excuse(kAfterTrouble + off_);
+  if (!lived) {
+    off_ = 1min;  // somebody looks after it
+  }
+}
+
+void Simulation::stayOff() {
+  bool on = false;
+  world_.agenda.in(std::exchange(off_, 1s), [&on] { on = true; });
+  while (!on && !isOver()) {
+    world_.agenda.happen();
+  }
+}
+
+Outcome Simulation::run() {
+  world_.desktop.onProgram = [this](const std::vector<std::string>& program) { ledger_.started(program); };
+  layOut();
+  ledger_.settle();
+  schedule();
+  while (!isOver()) {
+    liveOnce();
+    if (world_.isDead()) {
+      ++deaths_;
+      world_.powerOn();
+      ledger_.compareAfterDeath();
+    } else {
+      ledger_.compare();
+    }
+    if (isOver()) {
+      break;
+    }
+    stayOff();
+    if (const std::uint64_t draw = std::exchange(offline_, 0); draw != 0 && !isOver()) {
+      user_.runVerbOffline(Chance(draw));
+    }
+  }
+  return {world_.journal.digest(),   ledger_.results(), world_.agenda.count(),   happened_,
+          ledger_.comparisons(),     deaths_,           world_.desktop.sounds(), ledger_.failure(),
+          world_.journal.lastLines()};
+}
+
+}  // namespace tarnwick::simulation

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "simulation/ledger.h"
+#include "simulation/neighbour.h"
+#include "simulation/plan.h"
+#include "simulation/process.h"
+#include "simulation/user.h"
+#include "simulation/world.h"
+
+namespace tarnwick::simulation {
+
+/// What a run came to.
+struct Outcome {
+  std::uint64_t digest = 0;
+  std::uint64_t results = 0;
+  std::uint64_t events = 0;
+  std::uint64_t happened = 0;
+  std::uint64_t comparisons = 0;
+  std::uint64_t deaths = 0;
+  std::uint64_t alerts = 0;
+  /// What was contradicted; empty when nothing was.
+  std::string failure{};
+  std::string lastLines{};
+
+  /// In one line.
+  std::string text() const;
+};
+
+/// One run of a plan.
+class Simulation {
+ public:
+  /// `copy` gets every line of the journal.
+  explicit Simulation(const Plan& plan, std::ostream* copy = nullptr);
+  Outcome run();
+
+ private:
+  void layOut();
+  void mustRun(const std::vector<std::string>& arguments);
+  void schedule();
+  void begin(const Happening& happening);
+  void changeSites(Chance chance);
+  void changeMail(Chance chance);
+  void setClock(Chance chance);
+  void breakDisk(Chance chance);
+  void cutPower(Chance chance);
+  void kill(Chance chance);
+  void restart(Chance chance);
+  void lookNow();
+  void liveOnce();
+  void stayOff();
+  bool isOver() const { return over_ || ledger_.hasFailed(); }
+
+  Plan plan_;
+  World world_;
+  Ledger ledger_{world_};
+  User user_{world_, ledger_};
+  Neighbour neighbour_{world_};
+  std::unique_ptr<Process> process_;
+  std::vector<std::string> urls_;
+  /// How long the machine, or the program, stays away.
+  Time off_{0};
+  std::uint64_t offline_ = 0;  ///< what the user does meanwhile, drawn from this; 0 for nothing
+  std::uint64_t happened_ = 0;
+  std::uint64_t deaths_ = 0;
+  bool over_ = false;
+};
+
+}  // namespace tarnwick::simulation

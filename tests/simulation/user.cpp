@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include "simulation/user.h"
+
+#include <exception>
+
+namespace tarnwick::simulation {
+namespace {
+
+std::string minutes(Chance& chance) {
+  return std::to_string(chance.oneIn(3) ? chance.between(1, 5) : chance.between(5, 120));
+}
+
+}  // namespace
+
+void User::perform(const std::string& what, const std::function<void()>& action) {
+  world_.journal.add("user", what);
+  try {
+    action();
+  } catch (const std::exception& error) {
+    world_.journal.add("user!", error.what());
+  }
+}
+
+std::int16_t User::someSite(Chance& chance) const {
+  try {
+    const std::vector<std::string> ids = askDatabase(world_, "select idSite from sites order by idSite");
+    return ids.empty() ? std::int16_t{0} : static_cast<std::int16_t>(std::stoi(ids[chance.below(ids.size())]));
+  } catch (const std::exception&) {
+    return 0;
+  }
+}
+
+void User::act(Process& process, Chance chance) {
+  Program& program = process.program();
+  if (!program.isOpen()) {
+    return;
+  }
+  const std::int16_t id = someSite(chance);
+  m& data = program.data();
+  enum What { stop, interval, baseline, adopt, add, remove, clearLog, clearCounters, compact, settings, whats };
+  switch (static_cast<What>(chance.below(whats))) {
+    case stop:
+      perform("stops the run, and starts it later", [&] {
+        program.stopRun();
+        ledger_.excuse(Time(chance.between(0, 600'000)) + std::chrono::hours(1));
+        world_.agenda.in(Time(chance.between(0, 600'000)), [&world = world_, pump = world_.pumps.front(), &program] {
+          if (!world.pumps.empty() && world.pumps.front() == pump && !pump->closing()) {
+            world.journal.add("user", "starts the run");
+            program.startRun();
+          }
+        });
+      });
+      break;
+    case interval:
+      perform("changes site " + std::to_string(id), [&] {
+        const TextTable row = data.getArraySites(id);
+        if (row.lastRow() == 1) {
+          data.updateSites(id, row.at(2, 1), "get", !chance.oneIn(4),
+                           static_cast<std::int16_t>(std::stoi(minutes(chance))), chance.oneIn(2), "ann@example.org",
+                           "", "");
+        }
+        program.run().init();
+        ledger_.excuse(std::chrono::hours(3));
+      });
+      break;
+    case baseline:
+      perform("types a baseline for site " + std::to_string(id),
+              [&] { data.updateContentCompare(id, "It's typed.\r\n"); });
+      break;
+    case adopt:
+      perform("takes the last page of site " + std::to_string(id) + " as the baseline",
+              [&] { data.updateContentCompare(id, data.getContentRuntime(id)); });
+      break;
+    case add:
+      perform("adds a site", [&] {
+        const std::int16_t made = data.addSite();
+        data.updateSites(made, newUrl(), "get", true, static_cast<std::int16_t>(std::stoi(minutes(chance))), false, "",
+                         "", "");
+        program.run().init();
+      });
+      break;
+    case remove:
+      perform("deletes site " + std::to_string(id), [&] {
+        ledger_.disturb();
+        if (data.getArraySites(0).lastRow() > 5) {
+          data.deleteSite(id);
+        }
+        program.run().init();
+      });
+      break;
+    case clearLog:
+      perform("clears the log", [&] {
+        ledger_.disturb();
+        data.clearLog();
+      });
+      break;
+    case clearCounters:
+      perform("clears the counters", [&] {
+        ledger_.disturb();
+        data.clearCounters(-1);
+      });
+      break;
+    case compact:
+      perform("compacts the list", [&] { world_.journal.add("user", data.compact() ? "it is smaller" : "it is not"); });
+      break;
+    default:
+      perform("changes the settings", [&] {
+        data.storeSettings({{"timeout", std::to_string(chance.between(5, 60))}, {"cemail", chance.oneIn(2)}});
+      });
+      break;
+  }
+}
+
+void User::verb(const std::vector<std::string>& arguments) {
+  ++verbsAtWork_;
+  runVerb(world_, arguments);
+  --verbsAtWork_;
+}
+
+void User::runSomeVerb(Chance chance) {
+  if (verbsAtWork_ > 0) {
+    return;
+  }
+  const std::string id = std::to_string(someSite(chance));
+  enum What { sites, add, set, check, log, report, exporting, settings, diff, option, whats };
+  switch (static_cast<What>(chance.below(whats))) {
+    case sites:
+      verb({"sites", "--json"});
+      break;
+    case add:
+      verb({"add", newUrl(), "--interval", minutes(chance)});
+      break;
+    case set:
+      verb({"set", id, "--interval", minutes(chance), "--active"});
+      ledger_.excuse(std::chrono::hours(3));
+      break;
+    case check:
+      ledger_.disturb();
+      verb({"check", id});
+      ledger_.excuse(static_cast<std::int16_t>(std::stoi(id)), Time(0));
+      break;
+    case log:
+      verb({"log", "--limit", "3", "--json"});
+      break;
+    case report:
+      verb({"report"});
+      break;
+    case exporting:
+      verb({"export", world_.disk.folder() + "/export.json"});
+      break;
+    case settings:
+      verb({"settings", "timeout", std::to_string(chance.between(5, 60))});
+      break;
+    case diff:
+      verb({"diff", id});
+      break;
+    default:
+      verb({"option", "all", "parallel=" + std::to_string(chance.between(5, 12))});
+      break;
+  }
+}
+
+void User::runVerbOffline(Chance chance) {
+  ledger_.disturb();
+  enum What { compact, exportAndImport, restore, whats };
+  switch (static_cast<What>(chance.below(whats))) {
+    case compact:
+      verb({"compact"});
+      break;
+    case exportAndImport:
+      verb({"export", world_.disk.folder() + "/export.json", "--baselines"});
+      verb({"import", world_.disk.folder() + "/export.json"});
+      break;
+    default:
+      verb({"compact"});
+      verb({"restore", world_.disk.folder() + "/backup.mdb", "--yes"});
+      break;
+  }
+}
+
+}  // namespace tarnwick::simulation

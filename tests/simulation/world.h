@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "platform/local_files.h"
+#include "platform/services.h"
+#include "platform/sqlite/sqlite_connection.h"
+#include "simulation/agenda.h"
+#include "simulation/chance.h"
+#include "simulation/journal.h"
+#include "simulation/simulated_desktop.h"
+#include "simulation/simulated_disk.h"
+#include "simulation/simulated_mail.h"
+#include "simulation/simulated_time.h"
+#include "simulation/simulated_web.h"
+#include "simulation/system_time.h"
+
+namespace tarnwick::simulation {
+
+/// Which parts of the world draw their numbers apart from each other.
+enum class Part : std::uint64_t { web = 1, mail, disk, user, neighbour, moods, clock, power, sqlite };
+
+/// The machine and everything around it.
+struct World {
+  World(std::uint64_t seed, std::ostream* copy);
+  World(const World&) = delete;
+  World& operator=(const World&) = delete;
+
+  Chance chance(Part part) const { return Chance::of(seed, static_cast<std::uint64_t>(part)); }
+  /// What a process on this machine asks of it.
+  Services services(EventPump& pump) {
+    return {.clock = clock,
+            .files = files,
+            .pump = pump,
+            .timers = timers,
+            .databases = databases,
+            .transfers = web,
+            .sockets = mail,
+            .prompts = desktop,
+            .sound = desktop,
+            .programs = desktop,
+            .opener = desktop,
+            .runLocks = runLocks};
+  }
+
+  /// Every process ends at once, by a power cut or killed. What they still do while they unwind reaches nothing.
+  void cutPower(Chance& chance);
+  void killAll();
+  bool isDead() const { return disk.isDead(); }
+  /// REQUIRES: the processes have gone.
+  void powerOn();
+
+  const std::uint64_t seed;
+  Agenda agenda;
+  SimulatedClock clock;
+  SystemTime system{agenda, clock};
+  SimulatedDisk disk;
+  Journal journal;
+  SimulatedTimers timers;
+  SimulatedWeb web;
+  SimulatedMail mail;
+  SimulatedDesktop desktop{journal};
+  SimulatedRunLocks runLocks;
+  LocalFiles files;
+  SqliteConnections databases{clock};
+  /// Of the living processes.
+  std::vector<SimulatedPump*> pumps;
+
+ private:
+  void endAll(const char* how);
+};
+
+/// The loop of a process, known to the world for as long as that lives.
+class LivingPump {
+ public:
+  explicit LivingPump(World& world) : world_(world), pump(world.agenda) { world_.pumps.push_back(&pump); }
+  ~LivingPump() { std::erase(world_.pumps, &pump); }
+  LivingPump(const LivingPump&) = delete;
+  LivingPump& operator=(const LivingPump&) = delete;
+
+ private:
+  World& world_;
+
+ public:
+  SimulatedPump pump;
+};
+
+/// Lays a fresh list and a mail template into the program folder; `original` without the recommended options.
+void layFolder(World& world, bool original);
+
+/// Runs one statement of SQLite's own SQL as another program would, and returns its rows, their fields joined with "|".
+std::vector<std::string> askDatabase(const World& world, const std::string& sql);
+
+}  // namespace tarnwick::simulation
