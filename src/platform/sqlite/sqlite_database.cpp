@@ -241,8 +241,9 @@ void SqliteDatabase::chooseJournal() noexcept {
     sqlite3_exec(database, "pragma synchronous = full", nullptr, nullptr, nullptr);
   } else {
     sqlite3_exec(database, "pragma journal_mode = wal", nullptr, nullptr, nullptr);
-    // With the write-ahead log a killed process loses nothing, and the file is whole even after a power cut.
-    sqlite3_exec(database, "pragma synchronous = normal", nullptr, nullptr, nullptr);
+    // What is committed is shown, and people act on what they were shown: it has to be there after a power cut, too.
+    // That costs a write to the disk itself for each transaction.
+    sqlite3_exec(database, "pragma synchronous = full", nullptr, nullptr, nullptr);
     // Makes the log now, so that it is there to be watched.
     sqlite3_exec(database, "pragma schema_version", nullptr, nullptr, nullptr);
   }
