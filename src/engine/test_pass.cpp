@@ -15,6 +15,7 @@
 #include "engine/sites_to_test.h"
 #include "engine/uncounted_failures.h"
 #include "store/kept_pages.h"
+#include "store/room_reserve.h"
 #include "store/site_table.h"
 
 namespace tarnwick {
@@ -264,23 +265,39 @@ std::optional<TestPass::Stored> TestPass::store(std::size_t row, const Fetched& 
     needs_.keptPages.forgetLogSize();
     return error.forWantOfRoom();
   };
-  const bool limited = options_.valueOf(kAllSites, option_name::logLimit).has_value();
-  const KeptPage kept = !limited || needs_.keptPages.hasRoomForPages() ? KeptPage::whole : KeptPage::none;
+  const KeptPage kept = !logLimit() || needs_.keptPages.hasRoomForPages() ? KeptPage::whole : KeptPage::none;
   try {
-    return storeResult(row, fetched, kept);
+    return storeResult(row, fetched, kept, false);
   } catch (const DataAccessError& error) {
     if (!wantsRoom(error)) {
       throw;
     }
   }
+  shortenLog();
   try {
-    return storeResult(row, fetched, KeptPage::none);
+    return storeResult(row, fetched, KeptPage::none, true);
   } catch (const DataAccessError& error) {
     if (wantsRoom(error)) {
       alertUnrecorded(row, fetched);
     }
     throw;
   }
+}
+
+// A log beyond its bound is shortened also where the disk is too full to do so with a result.
+void TestPass::shortenLog() {
+  if (const auto most = logLimit()) {
+    try {
+      needs_.reserve.runFreeing([&] { needs_.keptPages.keepLogWithinByPieces(*most); });
+    } catch (const DataAccessError&) {
+      needs_.keptPages.forgetLogSize();
+    }
+  }
+}
+
+std::optional<std::uint64_t> TestPass::logLimit() const {
+  const auto limit = options_.valueOf(kAllSites, option_name::logLimit);
+  return limit ? std::optional<std::uint64_t>(std::stoull(*limit) << 20U) : std::nullopt;
 }
 
 // A page too large for what is left of the memory must not keep the other sites from being watched, as long as theirs
@@ -301,7 +318,8 @@ void TestPass::deferUnlessGeneral(const std::exception_ptr& fault) {
 
 void TestPass::deferFault(std::exception_ptr& first, const std::exception_ptr& fault) { first = first ? first : fault; }
 
-std::optional<TestPass::Stored> TestPass::storeResult(std::size_t row, const Fetched& fetched, KeptPage kept) {
+std::optional<TestPass::Stored> TestPass::storeResult(std::size_t row, const Fetched& fetched, KeptPage kept,
+                                                      bool isTooFull) {
   const std::int16_t id = sites_.idSite(row);
   Transaction whole = writeTurn().take();
   if (const SelectedSites::Standing standing = sites_.standingOf(row);
@@ -312,8 +330,8 @@ std::optional<TestPass::Stored> TestPass::storeResult(std::size_t row, const Fet
   const auto& [content, errCode, errDescription] = fetched;
   const bool passed = needs_.results.testSite(id, content, errCode, errDescription, firstBaselineOf(id), kept);
   needs_.results.setStatus(id, passed);
-  if (const auto limit = options_.valueOf(kAllSites, option_name::logLimit); limit && !passed) {
-    needs_.keptPages.keepLogWithin(std::stoull(*limit) << 20U);
+  if (const auto most = logLimit(); most && !passed && !isTooFull) {
+    needs_.keptPages.keepLogWithin(*most);
   }
   // A failure is counted after its alerts; on a disk that may be full by then, with its result.
   const bool counts = passed || !needs_.keptPages.hasRoomForPages();

@@ -71,7 +71,9 @@ class TestPass {
     bool counted;
   };
   std::optional<Stored> store(std::size_t row, const Fetched& fetched);
-  std::optional<Stored> storeResult(std::size_t row, const Fetched& fetched, KeptPage kept);
+  std::optional<Stored> storeResult(std::size_t row, const Fetched& fetched, KeptPage kept, bool isTooFull);
+  void shortenLog();
+  std::optional<std::uint64_t> logLimit() const;
   void alertUnrecorded(std::size_t row, const Fetched& fetched);
   void tellLostMail(std::size_t row);
   void deferUnlessGeneral(const std::exception_ptr& fault);

@@ -10,9 +10,8 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::uint64_t kMib = std::uint64_t{1} << 20U;
-/// More than the largest page, or a log of the largest pages would grow for ever.
-constexpr std::uint64_t kMostEmptiedAtOnce = 96 * kMib;
+/// What is emptied at once on a full disk.
+constexpr std::uint64_t kPiece = std::uint64_t{1} << 20U;
 
 /// Only a check that failed has logged a page.
 constexpr const char* kContents =
@@ -25,7 +24,7 @@ bool KeptPages::hasRoomForPages() {
   return !room || !RoomReserve::isLittle(*room);
 }
 
-void KeptPages::keepLogWithin(std::uint64_t most) {
+void KeptPages::keepLogWithin(std::uint64_t most, std::uint64_t atOnce) {
   count();
   if (bytes_ > most && changes_.byOthers()) {
     // Another program may have emptied some of them, or all.
@@ -33,7 +32,18 @@ void KeptPages::keepLogWithin(std::uint64_t most) {
     count();
   }
   if (bytes_ > most) {
-    emptyOldest(std::min(bytes_ - most, kMostEmptiedAtOnce));
+    emptyOldest(std::min(bytes_ - most, atOnce));
+  }
+}
+
+// Each piece takes the place of the one before in the log beside the database.
+void KeptPages::keepLogWithinByPieces(std::uint64_t most) {
+  known_ = false;
+  for (std::uint64_t emptied = 0; emptied < kMostEmptiedAtOnce && (!known_ || bytes_ > most); emptied += kPiece) {
+    Transaction piece(db_);
+    keepLogWithin(most, kPiece);
+    piece.commit();
+    db_.conn().execute("pragma wal_checkpoint(passive)", {})->close();
   }
 }
 

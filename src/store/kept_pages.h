@@ -20,11 +20,17 @@ class KeptPages {
   /// Empties the oldest contents of the log, until those that are left have `most` bytes together. Of a log that is far
   /// beyond that only a part is emptied at a time, so that nobody waits long. The rows themselves stay. REQUIRES: a
   /// transaction; when it is taken back, `forgetLogSize` follows.
-  void keepLogWithin(std::uint64_t most);
+  void keepLogWithin(std::uint64_t most) { keepLogWithin(most, kMostEmptiedAtOnce); }
+  /// The same for a disk that is too full for it, in small pieces that are each kept. REQUIRES: no transaction.
+  void keepLogWithinByPieces(std::uint64_t most);
   /// What is known of the log's size counts no longer.
   void forgetLogSize() { known_ = false; }
 
  private:
+  /// More than the largest page, or a log of the largest pages would grow for ever.
+  static constexpr std::uint64_t kMostEmptiedAtOnce = std::uint64_t{96} << 20U;
+
+  void keepLogWithin(std::uint64_t most, std::uint64_t atOnce);
   void count();
   void emptyOldest(std::uint64_t wanted);
 

@@ -5,10 +5,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <exception>
+#include <functional>
 #include <random>
 #include <string>
 #include <string_view>
 
+#include "base/errors.h"
 #include "store/side_files.h"
 
 namespace tarnwick {
@@ -30,6 +32,18 @@ std::string incompressible(std::uint64_t size) {
   std::string bytes(size, '\0');
   std::ranges::generate(bytes, [&] { return static_cast<char>(random() & 0xffU); });
   return bytes;
+}
+
+bool hasRoomFor(const std::function<void()>& action) {
+  try {
+    action();
+    return true;
+  } catch (const DataAccessError& error) {
+    if (!error.forWantOfRoom()) {
+      throw;
+    }
+    return false;
+  }
 }
 
 }  // namespace
@@ -58,20 +72,39 @@ void RoomReserve::keepReserve() noexcept {
   }
 }
 
+void RoomReserve::runFreeing(const std::function<void()>& action) {
+  if (db_.conn().inTransaction()) {
+    action();
+    return;
+  }
+  if (hasRoomFor(action)) {
+    return;
+  }
+  const LittleWritten written(db_);
+  if (!hasRoomFor(action)) {
+    runWithoutReserve(action);
+  }
+}
+
+void RoomReserve::runWithoutReserve(const std::function<void()>& action) {
+  giveUp();
+  action();
+  keepReserve();
+}
+
 std::string RoomReserve::path() const { return files_.resolveLinks(db_.dbPath()) + kReserve; }
 
-bool RoomReserve::giveUp() noexcept {
+void RoomReserve::giveUp() noexcept {
   try {
     // The copy that the last compaction has left is of no use to anybody.
     for (const std::string& name : {path(), db_.programFolder() + "/temp.mdb"}) {
       if (files_.exists(name) && files_.sizeOf(name) > 0) {
         files_.remove(name);
-        return true;
+        return;
       }
     }
-    return false;
   } catch (const std::exception&) {
-    return false;
+    // What needs the room tells that there is none.
   }
 }
 

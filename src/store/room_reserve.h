@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
 
-#include "base/errors.h"
 #include "platform/file_system.h"
 #include "store/database.h"
 
@@ -21,30 +21,11 @@ class RoomReserve {
   /// as that. Where neither can be done there is none.
   void keepReserve() noexcept;
 
-  /// Runs `action`, which frees room in the list. Where the disk has no room for that, it is run once more with the
-  /// reserve given up; inside a transaction that is left to its owner.
-  template <typename Action>
-  void runFreeing(const Action& action) {
-    const bool whole = !db_.conn().inTransaction();
-    try {
-      action();
-      return;
-    } catch (const DataAccessError& error) {
-      if (!whole || !error.forWantOfRoom() || !giveUp()) {
-        throw;
-      }
-    }
-    const LittleWritten written(db_);
-    action();
-    keepReserve();
-  }
+  /// Runs `action`, which frees room in the list. Where the disk has no room for that, it is run again so that it takes
+  /// less, and then with the reserve given up; inside a transaction that is left to its owner.
+  void runFreeing(const std::function<void()>& action);
   /// Gives the reserve up for `action`.
-  template <typename Action>
-  void runWithoutReserve(const Action& action) {
-    giveUp();
-    action();
-    keepReserve();
-  }
+  void runWithoutReserve(const std::function<void()>& action);
 
  private:
   /// Leaves what is deleted where it is until its place is used again: to blank it takes as much room as it has.
@@ -61,7 +42,7 @@ class RoomReserve {
   };
 
   std::string path() const;
-  bool giveUp() noexcept;
+  void giveUp() noexcept;
 
   Database& db_;
   FileSystem& files_;

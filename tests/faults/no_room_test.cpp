@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <set>
 #include <string>
 
@@ -105,7 +106,16 @@ TEST_F(NoRoom, TheLogCanBeClearedOnAFullDisk) {
 class FilledFiles final : public LocalFiles {
  public:
   std::optional<DiskRoom> roomAt(const std::string&) override { return room; }
+  void remove(const std::string& path) override {
+    const std::uint64_t bytes = givenBack && exists(path) ? sizeOf(path) : 0;
+    LocalFiles::remove(path);
+    if (bytes > 0) {
+      givenBack(bytes);
+    }
+  }
   std::optional<DiskRoom> room;
+  /// Called with the size of each file that is removed.
+  std::function<void(std::uint64_t)> givenBack;
 };
 
 /// The program on such a disk.
@@ -210,6 +220,42 @@ TEST_F(LogLimit, ABaselineIsKeptWhateverRoomThereIs) {
   running.files.room = DiskRoom{0, 1};
   check();
   EXPECT_EQ(used.text("select content_compare from sites where idSite = 1"), "a page that stays");
+}
+
+/// A log of 30 MB, 1 MiB of which may stay.
+struct LogBeyondItsLimit {
+  LogBeyondItsLimit() {
+    used.folder.execute(
+        "insert into siteOptions values (0, 'logLimit', '1');"
+        "with recursive n(i) as (select 1 union all select i + 1 from n where i < 30) insert into log "
+        "(idSite,url,status,errCode,errDescription,dateStamp,content) select 4,'u',0,0,'','2024-05-16 10:00:00',"
+        "hex(zeroblob(500000)) from n");
+  }
+  void expectShortened() const {
+    EXPECT_EQ(used.recorded(4, false), 1);
+    EXPECT_LE(std::stoll(used.text("select sum(length(content)) from log")), kKib * kKib);
+    EXPECT_EQ(used.integrity(), "ok");
+  }
+
+  UsedFolder used;
+};
+
+TEST_F(NoRoom, ALogBeyondItsLimitIsShortenedWhereThatTakesMoreRoomThanThereIs) {
+  for (const std::int64_t room : {3000 * kKib, 100 * kKib, std::int64_t{0}}) {
+    const LogBeyondItsLimit each;
+    {
+      RunningOnFilledDisk running(each.used);
+      running.files.room = DiskRoom{2048 * kKib, 4096 * kKib};
+      running.files.givenBack = [this](std::uint64_t bytes) { disk.leaveRoom(static_cast<std::int64_t>(bytes)); };
+      running.program.start();  // which lays the reserve
+      running.files.room = DiskRoom{0, 4096 * kKib};
+      disk.leaveRoom(room);
+      running.program.startRun();
+      EXPECT_EQ(running.machine.sound.played.size(), 1U);
+    }
+    disk.heal();
+    each.expectShortened();
+  }
 }
 
 class Reserve : public NoRoom {
