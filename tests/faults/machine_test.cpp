@@ -59,13 +59,15 @@ TEST(RealFaults, ALackOfFileHandlesIsToldOnceAndNoSiteIsTakenForDown) {
 /// A small disk of its own, on which the temporary folders of the tests lie meanwhile.
 class SmallDisk {
  public:
-  SmallDisk() {
+  enum class Kind { memory, smallBlocks };
+
+  explicit SmallDisk(Kind kind = Kind::memory) {
     std::string path = (fs::temp_directory_path() / "tarnwick-small-disk-XXXXXX").string();
     if (mkdtemp(path.data()) == nullptr) {
       return;
     }
     path_ = path;
-    mounted_ = mount("tmpfs", path.c_str(), "tmpfs", 0, "size=2m") == 0;
+    mounted_ = kind == Kind::memory ? mount("tmpfs", path.c_str(), "tmpfs", 0, "size=2m") == 0 : mountSmallBlocks();
     if (mounted_) {
       const char* const folder = std::getenv("TMPDIR");
       before_ = folder == nullptr ? std::nullopt : std::optional<std::string>(folder);
@@ -79,6 +81,7 @@ class SmallDisk {
     }
     std::error_code ignored;
     fs::remove(path_, ignored);
+    fs::remove(image(), ignored);
   }
   SmallDisk(const SmallDisk&) = delete;
   SmallDisk& operator=(const SmallDisk&) = delete;
@@ -92,6 +95,15 @@ class SmallDisk {
   void makeRoom() const { fs::remove(path_ + "/ballast"); }
 
  private:
+  std::string image() const { return path_ + ".image"; }
+  bool mountSmallBlocks() const {
+    std::ofstream(image()).close();
+    fs::resize_file(image(), 8 << 20);
+    const std::string made = "mkfs.ext4 -q -F -m 0 -b 1024 " + image() + " 2>/dev/null";
+    const std::string mounted = "mount -o loop " + image() + " " + path_ + " 2>/dev/null";
+    return geteuid() == 0 && std::system((made + " && " + mounted).c_str()) == 0;
+  }
+
   std::string path_;
   bool mounted_ = false;
   std::optional<std::string> before_;
@@ -180,6 +192,30 @@ TEST(RealFaults, ADiskThatWasFullBeforeIsFreedByWhatACompactionHasLeft) {
   m(used.folder.path(), machine.services()).clearLog();
   EXPECT_EQ(used.text("select count(*) from log"), "0");
   EXPECT_FALSE(fs::exists(used.folder.file("temp.mdb")));
+  EXPECT_EQ(used.integrity(), "ok");
+}
+
+// Of the file that shares memory between programs only what is used gets its blocks, where these are small.
+TEST(RealFaults, ADiskOfSmallBlocksThatIsFullEndsNoProgram) {
+  const SmallDisk disk(SmallDisk::Kind::smallBlocks);
+  if (!disk.mounted()) {
+    GTEST_SKIP() << "only a user who may mount a file system can have a small disk";
+  }
+  const UsedFolder used;
+  {
+    RunningProgram running(used);
+    disk.fillUp();
+    running.program.startRun();
+    EXPECT_FALSE(running.machine.sound.played.empty());
+  }
+  {
+    RunningProgram running(used);
+    running.program.startRun();
+    EXPECT_FALSE(running.machine.sound.played.empty());
+    running.program.stopRun();
+    running.program.data().clearLog();
+  }
+  EXPECT_EQ(used.text("select count(*) from log"), "0");
   EXPECT_EQ(used.integrity(), "ok");
 }
 

@@ -21,6 +21,7 @@ namespace {
 constexpr std::size_t kStatementsKept = 64;
 /// How long the database is kept from others where it must be had alone, before it is looked whether it still must.
 constexpr std::chrono::seconds kAloneAtMost{5};
+constexpr const char* kAlone = "pragma main.locking_mode = exclusive";
 /// 2 MiB, and 32 MiB while a text longer than `kLargeText` is being stored.
 constexpr const char* kUsualCache = "pragma cache_size = -2048";
 constexpr const char* kLargeCache = "pragma cache_size = -32768";
@@ -88,6 +89,14 @@ SqliteHandle openDatabase(const std::string& path, int flags) {
   return handle;
 }
 
+bool haveAloneIfNeeded(sqlite3* database, const std::string& path) {
+  const bool needed = mayLackSharedMemory(path);
+  if (needed) {
+    sqlite3_exec(database, kAlone, nullptr, nullptr, nullptr);
+  }
+  return needed;
+}
+
 SqliteDatabase::SqliteDatabase(std::string path) : path_(std::move(path)) {
   openInPlace(path_, [this](const auto& before) { open(before); });
   if (!unchanged_ && !liesOnNetwork(path_)) {  // where a file may be known by another number every time
@@ -112,7 +121,7 @@ int SqliteDatabase::takeLogIn(void* self, sqlite3* database, const char* name, i
 void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
   try {
     openFile(before);
-    alone_ = false;
+    alone_ = haveAloneIfNeeded(handle(), path_);
     refuseDamage();
   } catch (const DataAccessError& error) {
     if (!error.forWantOfRoom()) {
@@ -120,11 +129,14 @@ void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
     }
     openFile(before);
     alone_ = true;
-    sqlite3_exec(handle(), "pragma main.locking_mode = exclusive", nullptr, nullptr, nullptr);
+    sqlite3_exec(handle(), kAlone, nullptr, nullptr, nullptr);
     refuseDamage();
-    sharedAgain_ = std::chrono::steady_clock::now() + kAloneAtMost;
   }
+  sharedAgain_ = std::chrono::steady_clock::now() + kAloneAtMost;
   chooseJournal();
+  if (!alone_ && !unchanged_) {
+    takeSharedMemory(handle());
+  }
 }
 
 void SqliteDatabase::openFile(const std::optional<FileIdentity>& before) {
@@ -164,7 +176,7 @@ void SqliteDatabase::openUnchanged() {
     sqlite3_db_config(raw, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(raw, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     // Where in the log a page is is then kept in the memory of this process.
-    sqlite3_exec(raw, "pragma main.locking_mode = exclusive", nullptr, nullptr, nullptr);
+    sqlite3_exec(raw, kAlone, nullptr, nullptr, nullptr);
     handle_ = std::move(opened);
   }
 }

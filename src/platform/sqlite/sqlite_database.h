@@ -57,6 +57,10 @@ inline constexpr int kBusyPatienceMs = 2000;
 /// will be waited for. Raises DataAccessError.
 SqliteHandle openDatabase(const std::string& path, int flags);
 
+/// Has `database`, just opened by the name `path`, locked for itself alone from its first use on, with the memory that
+/// is otherwise shared in the process, where a full disk might end the process else. True then.
+bool haveAloneIfNeeded(sqlite3* database, const std::string& path);
+
 /// An open SQLite file and the statements prepared on it. Every failure raises DataAccessError, which does not know
 /// the statement: whoever was handed it adds it.
 class SqliteDatabase {

@@ -45,6 +45,12 @@ bool mayWrite(const std::string& path);
 /// read it has made them so that nobody can write them. Where that is not allowed they stay as they are.
 void shareCompanions(const std::string& path);
 
+/// Whether the disk of the file `path` has blocks so small, and so few left, that it may lack some of those for the
+/// memory that programs share through a file: it does so only once the memory is used, and ends the process.
+bool mayLackSharedMemory(const std::string& path);
+/// Takes the room of that memory where the same could happen later. `database` shares it already.
+void takeSharedMemory(sqlite3* database);
+
 /// When the file `path` was last written to, in nanoseconds; nothing where there is none, and where the system tells it
 /// late.
 std::optional<std::int64_t> writtenAt(const std::string& path);

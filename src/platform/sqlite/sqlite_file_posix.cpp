@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/statfs.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -13,6 +14,14 @@
 
 namespace tarnwick {
 namespace {
+
+constexpr std::size_t kPageOfSharedMemory = 4096;
+
+std::optional<struct statvfs> diskOfSmallBlocks(const std::string& path) {
+  struct statvfs facts {};
+  const bool isSuch = ::statvfs(path.c_str(), &facts) == 0 && facts.f_frsize < kPageOfSharedMemory;
+  return isSuch ? std::optional(facts) : std::nullopt;
+}
 
 // What statfs(2) calls NFS, SMB, SMB2, CIFS, AFS and Ceph.
 constexpr std::array<std::uint32_t, 6> kNetworkKinds = {0x6969, 0x517B, 0xFE534D42, 0xFF534D42, 0x5346414F, 0x00C36400};
@@ -117,6 +126,31 @@ void shareCompanions(const std::string& path) {
         ::chmod(companion.c_str(), facts.st_mode & kRights) != 0) {
       return;  // it is another user's
     }
+  }
+}
+
+bool mayLackSharedMemory(const std::string& path) {
+  constexpr std::uint64_t kEnough = std::uint64_t{128} * 1024;
+  const auto disk = diskOfSmallBlocks(path);
+  return disk && disk->f_bavail * disk->f_frsize < kEnough;
+}
+
+// A page that is written to gets all of its blocks.
+void takeSharedMemory(sqlite3* database) {
+  constexpr int kFirstRegion = 32768;
+  sqlite3_file* file = nullptr;
+  volatile void* region = nullptr;
+  const std::string path = sqlite3_db_filename(database, "main");
+  if (!diskOfSmallBlocks(path) || !mayWrite(path + "-shm") ||
+      sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK ||
+      file->pMethods == nullptr || file->pMethods->iVersion < 2 ||
+      file->pMethods->xShmMap(file, 0, kFirstRegion, 0, &region) != SQLITE_OK || region == nullptr) {
+    return;
+  }
+  auto* const bytes = static_cast<volatile char*>(region);
+  for (std::size_t at = 0; at < kFirstRegion; at += kPageOfSharedMemory) {
+    // Leaves what others write there as it is.
+    __atomic_fetch_or(bytes + at, char{0}, __ATOMIC_RELAXED);
   }
 }
 

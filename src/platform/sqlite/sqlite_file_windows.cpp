@@ -50,6 +50,11 @@ bool mayWrite(const std::string&) { return true; }
 
 void shareCompanions(const std::string&) {}
 
+// A file that is mapped has its room here.
+bool mayLackSharedMemory(const std::string&) { return false; }
+
+void takeSharedMemory(sqlite3*) {}
+
 // Here a file's times are brought up to date when it is closed.
 std::optional<std::int64_t> writtenAt(const std::string&) { return std::nullopt; }
 

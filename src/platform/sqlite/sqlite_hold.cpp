@@ -52,6 +52,7 @@ bool SqliteHold::lock() {
     openInPlace(path_, [this](const auto& before) {
       handle_.reset();
       handle_ = openDatabase(path_, SQLITE_OPEN_READWRITE);
+      haveAloneIfNeeded(handle_.get(), path_);
       lockInPlace(handle_.get(), path_, before);
       setForeignLogAside(handle_.get(), path_);
       leaveLogAndLock(handle_.get());
