@@ -43,7 +43,7 @@ void Ledger::fail(const std::string& what) {
 
 void Ledger::shown(const CheckResult& result) {
   ++results_;
-  lastSeen_[result.idSite] = world_.agenda.now();
+  excuse(result.idSite, Time(0));
   if (known_) {
     expected_.push_back({result.idSite, rowText(result.idSite, result.url, result.passed, result.errCode)});
     ++(result.passed ? seen_[result.idSite].success : seen_[result.idSite].failure);

@@ -37,7 +37,9 @@ class Ledger {
   /// No promise about the time of checks holds until then.
   void excuse(Time time) { excusedUntil_ = std::max(excusedUntil_, world_.agenda.now() + time); }
   /// The same for one site, which cannot even be asked.
-  void excuse(std::int16_t idSite, Time time) { lastSeen_[idSite] = world_.agenda.now() + time; }
+  void excuse(std::int16_t idSite, Time time) {
+    lastSeen_[idSite] = std::max(lastSeen_[idSite], world_.agenda.now() + time);
+  }
 
   bool hasFailed() const { return !failure_.empty(); }
   const std::string& failure() const { return failure_; }

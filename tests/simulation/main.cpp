@@ -11,6 +11,7 @@
 #include <vector>
 #include <QCoreApplication>
 
+#include "simulation/power_cuts.h"
 #include "simulation/shrink.h"
 #include "simulation/simulation.h"
 
@@ -22,6 +23,7 @@ struct Wishes {
   Plan plan{};
   std::uint64_t seeds = 1;
   bool onceOnly = false;
+  bool cutsEverywhere = false;
   bool shrinks = true;
   double hours = 0;
   std::string journal{};
@@ -96,6 +98,8 @@ Wishes wishesOf(const std::vector<std::string>& arguments) {
       }
     } else if (name == "--original") {
       wishes.plan.original = true;
+    } else if (name == "--cut-everywhere") {
+      wishes.cutsEverywhere = true;
     } else if (name == "--once") {
       wishes.onceOnly = true;
     } else if (name == "--no-shrinking") {
@@ -135,6 +139,9 @@ bool runTwice(const Wishes& wishes, const Plan& plan) {
 }
 
 int runAll(const Wishes& wishes) {
+  if (wishes.cutsEverywhere) {
+    return cutPowerEverywhere(wishes.plan.seed, std::cout) ? EXIT_SUCCESS : EXIT_FAILURE;
+  }
   const auto realNow = [] { return std::chrono::system_clock::now(); };
   const auto end = realNow() + std::chrono::seconds(static_cast<std::int64_t>(wishes.hours * 3600));
   bool good = true;

@@ -52,6 +52,26 @@ class SimulatedDisk {
   void fail(DiskFault fault, std::uint64_t oneIn, Chance chance);
   /// How many bytes files may still grow by; nothing for any number.
   void leaveRoom(std::optional<std::int64_t> bytes) { room_ = bytes; }
+  /// For its life nothing fails: who looks whether all is well is no part of the machine.
+  class Well {
+   public:
+    explicit Well(SimulatedDisk& disk) : disk_(disk), fault_(disk.fault_), room_(disk.room_) {
+      disk.fault_ = DiskFault::none;
+      disk.room_.reset();
+    }
+    ~Well() {
+      disk_.fault_ = fault_;
+      disk_.room_ = room_;
+    }
+    Well(const Well&) = delete;
+    Well& operator=(const Well&) = delete;
+
+   private:
+    SimulatedDisk& disk_;
+    DiskFault fault_;
+    std::optional<std::int64_t> room_;
+  };
+
   /// How many operations have failed.
   std::uint64_t failures() const { return failures_; }
 

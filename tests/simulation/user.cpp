@@ -173,7 +173,7 @@ void User::runVerbOffline(Chance chance) {
       break;
     default:
       verb({"compact"});
-      verb({"restore", world_.disk.folder() + "/backup.mdb", "--yes"});
+      verb({"restore", world_.disk.folder() + "/backup.mdb"});
       break;
   }
 }

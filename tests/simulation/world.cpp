@@ -81,7 +81,8 @@ void layFolder(World& world, bool original) {
   world.files.makeFolder(world.disk.folder() + "/reports");
 }
 
-std::vector<std::string> askDatabase(const World& world, const std::string& sql) {
+std::vector<std::string> askDatabase(World& world, const std::string& sql) {
+  const SimulatedDisk::Well well(world.disk);
   const auto database = openList(world, SQLITE_OPEN_READWRITE);
   sqlite3_stmt* raw = nullptr;
   const int prepared = sqlite3_prepare_v2(database.get(), sql.c_str(), -1, &raw, nullptr);

@@ -93,6 +93,6 @@ class LivingPump {
 void layFolder(World& world, bool original);
 
 /// Runs one statement of SQLite's own SQL as another program would, and returns its rows, their fields joined with "|".
-std::vector<std::string> askDatabase(const World& world, const std::string& sql);
+std::vector<std::string> askDatabase(World& world, const std::string& sql);
 
 }  // namespace tarnwick::simulation
