@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <new>
+#include <string>
 
 #include "platform/web/coding.h"
 
@@ -21,9 +22,16 @@ constexpr Bytef kGzipMark = 0x1f;
 /// Some put a checksum behind data without a frame.
 constexpr uInt kBareTail = 4;
 
+/// RFC 1950, section 2.2. Data without a frame do not begin like that.
+bool beginsFrame(unsigned method, unsigned flags) {
+  constexpr unsigned kDeflate = 8;
+  constexpr unsigned kLargestWindow = 7;
+  return (method & 0x0fU) == kDeflate && method >> 4U <= kLargestWindow && (method * 256 + flags) % 31 == 0;
+}
+
 class Inflation final : public Coding {
  public:
-  explicit Inflation(int format) : format_(format) {
+  explicit Inflation(int format) : format_(format), knowsFrame_(format != kZlib) {
     if (inflateInit2(&stream_, format) != Z_OK) {
       throw std::bad_alloc();
     }
@@ -38,11 +46,13 @@ class Inflation final : public Coding {
  private:
   void give(std::string_view piece);
   bool goesOn();
-  bool becomesBare(std::string_view firstPiece);
+  bool findFrame(std::string_view& piece);
 
   z_stream stream_{};
   int format_;
-  bool begun_ = false;
+  /// What has come before it could be told whether there is a frame.
+  std::string beginning_;
+  bool knowsFrame_;
   bool ended_ = false;
   uInt tail_ = 0;
   std::array<char, std::size_t{16} * 1024> out_{};
@@ -55,8 +65,9 @@ void Inflation::give(std::string_view piece) {
 }
 
 bool Inflation::decode(std::string_view piece, const Taker& take) {
-  const bool first = !begun_;
-  begun_ = true;
+  if (!knowsFrame_ && !findFrame(piece)) {
+    return true;
+  }
   give(piece);
   for (;;) {
     if (ended_ && (stream_.avail_in == 0 || !goesOn())) {
@@ -67,9 +78,6 @@ bool Inflation::decode(std::string_view piece, const Taker& take) {
     const int status = inflate(&stream_, Z_NO_FLUSH);
     if (status == Z_MEM_ERROR) {
       throw std::bad_alloc();
-    }
-    if (status == Z_DATA_ERROR && first && becomesBare(piece)) {
-      continue;
     }
     if (status != Z_OK && status != Z_STREAM_END && status != Z_BUF_ERROR) {
       return false;
@@ -98,14 +106,21 @@ bool Inflation::goesOn() {
   return inflateReset2(&stream_, kGzip) == Z_OK;
 }
 
-bool Inflation::becomesBare(std::string_view firstPiece) {
-  if (format_ != kZlib || stream_.total_out > 0) {
+/// False while it cannot be told whether the data have a frame; then makes all that has come the piece.
+bool Inflation::findFrame(std::string_view& piece) {
+  constexpr std::size_t kFrameBegins = 2;
+  beginning_ += piece;
+  if (beginning_.size() < kFrameBegins) {
     return false;
   }
-  format_ = kBare;
-  tail_ = kBareTail;
-  give(firstPiece);
-  return inflateReset2(&stream_, kBare) == Z_OK;
+  knowsFrame_ = true;
+  piece = beginning_;
+  if (!beginsFrame(static_cast<unsigned char>(piece[0]), static_cast<unsigned char>(piece[1]))) {
+    format_ = kBare;
+    tail_ = kBareTail;
+    inflateReset2(&stream_, kBare);
+  }
+  return true;
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "base/windows_1252.h"
 #include "engine/page_fetch.h"
 #include "platform/address.h"
+#include "platform/web/content_decoder.h"
 #include "platform/web/response_header.h"
 
 namespace tarnwick::testing {
@@ -85,6 +86,33 @@ struct Fields {
   }
 };
 
+constexpr std::size_t kLargestPage = 65536;
+
+struct Decoded {
+  bool good = true;
+  bool complete = false;
+  std::string page;
+};
+
+Decoded decoded(const std::vector<std::string>& codings, std::string_view answer, std::size_t pieceSize) {
+  ContentDecoder decoder(codings, kLargestPage);
+  Decoded result;
+  while (result.good && !answer.empty()) {
+    const std::string piece(answer.substr(0, pieceSize));  // of its own, so that a read behind it is seen
+    answer.remove_prefix(piece.size());
+    bool stopped = false;
+    result.good = decoder.decode(piece, [&](std::string_view made) {
+      require(!stopped, "more comes after it was stopped");
+      result.page += made;
+      stopped = result.page.size() > kLargestPage;
+      return !stopped;
+    });
+    require(!stopped || !result.good, "what was stopped seems to be good");
+  }
+  result.complete = result.good && decoder.complete();
+  return result;
+}
+
 }  // namespace
 
 void fuzzUrlEncode(std::string_view input) {
@@ -150,6 +178,27 @@ void fuzzResponseHeader(std::string_view input) {
     require(head.open() == open, "the header ends elsewhere");
     require(statusOf(line) == 0 || line.find(std::to_string(statusOf(line))) != std::string::npos,
             "the status is not in the line");
+  }
+}
+
+void fuzzContent(std::string_view input) {
+  static const std::vector<std::string> kNames = {"identity", "gzip", "deflate", "br", "zstd", "compress"};
+  std::vector<std::string> codings;
+  for (std::size_t rest = takeByte(input); rest > 0; rest /= kNames.size()) {
+    codings.push_back(kNames[rest % kNames.size()]);
+  }
+  const std::size_t pieceSize = takeByte(input) + 1;
+  const Decoded whole = decoded(codings, input, std::string_view::npos);
+  const Decoded pieces = decoded(codings, input, pieceSize);
+  require(whole.good == pieces.good, "it depends on the pieces whether an answer is good");
+  require(whole.complete == pieces.complete, "it depends on the pieces whether an answer is complete");
+  require(!whole.good || whole.page == pieces.page, "the page depends on the pieces");
+  const auto outermost = std::find_if(codings.rbegin(), codings.rend(), [](auto& name) { return name != "identity"; });
+  // Behind "deflate" without a frame a checksum may be missing.
+  const std::size_t cut = outermost != codings.rend() && *outermost == "deflate" ? 5 : 1;
+  if (outermost != codings.rend() && whole.complete && input.size() > cut) {
+    require(!decoded(codings, input.substr(0, input.size() - cut), std::string_view::npos).complete,
+            "an answer that was cut is complete");
   }
 }
 
