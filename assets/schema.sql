@@ -3,17 +3,17 @@
 -- YESNO columns hold 0 for no and 1 for yes; any other number is read as yes.
 -- "DATETIME TEXT" columns hold "YYYY-MM-DD HH:MM:SS", local time; the second word keeps them texts.
 -- Every check is named by the sentence that the program shows when it fails; its first word is the column.
--- The wide columns stand last in their tables: what stands before them is read without their pages.
+-- The wide column of the log stands last: what stands before it is read without its pages.
 
 PRAGMA encoding = 'UTF-8';
 PRAGMA auto_vacuum = NONE;
 -- The form of the tables: the original ones are form 0; the program brings an older list to today's form.
-PRAGMA user_version = 1;
+PRAGMA user_version = 2;
 
 BEGIN;
 
--- One row per monitored site.
-CREATE TABLE sites (
+-- Everything about a site but its pages: so dense that lists, countdowns and the record of a check touch few blocks.
+CREATE TABLE siteRows (
   idSite INTEGER PRIMARY KEY,
   url TEXT,
   method TEXT,
@@ -27,14 +27,88 @@ CREATE TABLE sites (
   status YESNO,
   success INTEGER CONSTRAINT "success takes a whole number" CHECK (typeof(success) IN ('integer', 'null')),
   failure INTEGER CONSTRAINT "failure takes a whole number" CHECK (typeof(failure) IN ('integer', 'null')),
-  content_compare TEXT,
-  content_runtime TEXT
+  comparePage INTEGER,
+  runtimePage INTEGER
 );
--- Everything about a site but its pages, in the order of the list. Lists and countdowns are read from it alone, without
--- a look at the pages of the file that hold the sites: a third of the time for 32767 of them.
-CREATE INDEX sites_list ON sites (
-  idSite, url, method, active, tInterval, lastChecked, alertEmail, email, sUserName, sPassWord, status, success, failure
-);
+-- The pages: that a site was last judged by (comparePage) and that of its last check (runtimePage) are one where both
+-- are the same, so an unchanged page is never written again. Page n lies in up to four pieces, 4n to 4n+3, none of which
+-- is longer than 16 MiB as the program writes them; 0 is the empty page. A page goes with the site, or when none of the
+-- two names it any more.
+CREATE TABLE pagePieces (piece INTEGER PRIMARY KEY, content TEXT);
+CREATE TRIGGER siteRows_page AFTER UPDATE OF comparePage, runtimePage ON siteRows BEGIN
+  DELETE FROM pagePieces WHERE piece >= old.comparePage * 4 AND piece < old.comparePage * 4 + 4
+    AND old.comparePage IS NOT new.comparePage AND old.comparePage IS NOT new.runtimePage;
+  DELETE FROM pagePieces WHERE piece >= old.runtimePage * 4 AND piece < old.runtimePage * 4 + 4
+    AND old.runtimePage IS NOT new.comparePage AND old.runtimePage IS NOT new.runtimePage;
+END;
+CREATE TRIGGER siteRows_gone AFTER DELETE ON siteRows BEGIN
+  DELETE FROM pagePieces WHERE piece >= old.comparePage * 4 AND piece < old.comparePage * 4 + 4;
+  DELETE FROM pagePieces WHERE piece >= old.runtimePage * 4 AND piece < old.runtimePage * 4 + 4;
+END;
+
+-- One row per monitored site, whole: what every other tool reads and writes.
+CREATE VIEW sites AS SELECT
+  idSite, url, method, active, tInterval, lastChecked, alertEmail, email, sUserName, sPassWord, status, success,
+  failure,
+  CASE comparePage WHEN 0 THEN '' ELSE (SELECT content FROM pagePieces WHERE piece = comparePage * 4) ||
+    coalesce((SELECT content FROM pagePieces WHERE piece = comparePage * 4 + 1), '') ||
+    coalesce((SELECT content FROM pagePieces WHERE piece = comparePage * 4 + 2), '') ||
+    coalesce((SELECT content FROM pagePieces WHERE piece = comparePage * 4 + 3), '') END AS content_compare,
+  CASE runtimePage WHEN 0 THEN '' ELSE (SELECT content FROM pagePieces WHERE piece = runtimePage * 4) ||
+    coalesce((SELECT content FROM pagePieces WHERE piece = runtimePage * 4 + 1), '') ||
+    coalesce((SELECT content FROM pagePieces WHERE piece = runtimePage * 4 + 2), '') ||
+    coalesce((SELECT content FROM pagePieces WHERE piece = runtimePage * 4 + 3), '') END AS content_runtime
+FROM siteRows;
+-- -1 is the page of a row that has just been added here; one that an "or ignore" has left out has none.
+CREATE TRIGGER sites_insert INSTEAD OF INSERT ON sites BEGIN
+  INSERT INTO siteRows (
+    idSite, url, method, active, tInterval, lastChecked, alertEmail, email, sUserName, sPassWord, status, success,
+    failure, comparePage, runtimePage
+  ) VALUES (
+    new.idSite, new.url, new.method, new.active, new.tInterval, new.lastChecked, new.alertEmail, new.email,
+    new.sUserName, new.sPassWord, new.status, new.success, new.failure, -1, -1
+  );
+  INSERT INTO pagePieces (piece, content)
+    SELECT (SELECT coalesce(max(piece) / 4, 0) + 1 FROM pagePieces) * 4, new.content_compare
+    WHERE CAST(new.content_compare AS TEXT) <> '' AND EXISTS (
+      SELECT 1 FROM siteRows WHERE idSite = coalesce(new.idSite, (SELECT max(idSite) FROM siteRows)) AND comparePage = -1);
+  UPDATE siteRows
+    SET comparePage = CASE WHEN CAST(new.content_compare AS TEXT) <> '' THEN (SELECT max(piece) / 4 FROM pagePieces)
+      WHEN new.content_compare IS NOT NULL THEN 0 END
+    WHERE idSite = coalesce(new.idSite, (SELECT max(idSite) FROM siteRows)) AND comparePage = -1;
+  INSERT INTO pagePieces (piece, content)
+    SELECT (SELECT coalesce(max(piece) / 4, 0) + 1 FROM pagePieces) * 4, new.content_runtime
+    WHERE CAST(new.content_runtime AS TEXT) <> '' AND EXISTS (
+      SELECT 1 FROM siteRows WHERE idSite = coalesce(new.idSite, (SELECT max(idSite) FROM siteRows)) AND runtimePage = -1);
+  UPDATE siteRows
+    SET runtimePage = CASE WHEN CAST(new.content_runtime AS TEXT) <> '' THEN (SELECT max(piece) / 4 FROM pagePieces)
+      WHEN new.content_runtime IS NOT NULL THEN 0 END
+    WHERE idSite = coalesce(new.idSite, (SELECT max(idSite) FROM siteRows)) AND runtimePage = -1;
+END;
+CREATE TRIGGER sites_update INSTEAD OF UPDATE ON sites BEGIN
+  INSERT INTO pagePieces (piece, content)
+    SELECT (SELECT coalesce(max(piece) / 4, 0) + 1 FROM pagePieces) * 4, new.content_compare
+    WHERE CAST(new.content_compare AS TEXT) <> '' AND new.content_compare IS NOT old.content_compare;
+  UPDATE siteRows
+    SET comparePage = CASE WHEN CAST(new.content_compare AS TEXT) <> '' THEN (SELECT max(piece) / 4 FROM pagePieces)
+      WHEN new.content_compare IS NOT NULL THEN 0 END
+    WHERE idSite = old.idSite AND new.content_compare IS NOT old.content_compare;
+  INSERT INTO pagePieces (piece, content)
+    SELECT (SELECT coalesce(max(piece) / 4, 0) + 1 FROM pagePieces) * 4, new.content_runtime
+    WHERE CAST(new.content_runtime AS TEXT) <> '' AND new.content_runtime IS NOT old.content_runtime;
+  UPDATE siteRows
+    SET runtimePage = CASE WHEN CAST(new.content_runtime AS TEXT) <> '' THEN (SELECT max(piece) / 4 FROM pagePieces)
+      WHEN new.content_runtime IS NOT NULL THEN 0 END
+    WHERE idSite = old.idSite AND new.content_runtime IS NOT old.content_runtime;
+  UPDATE siteRows SET
+    idSite = new.idSite, url = new.url, method = new.method, active = new.active, tInterval = new.tInterval,
+    lastChecked = new.lastChecked, alertEmail = new.alertEmail, email = new.email, sUserName = new.sUserName,
+    sPassWord = new.sPassWord, status = new.status, success = new.success, failure = new.failure
+    WHERE idSite = old.idSite;
+END;
+CREATE TRIGGER sites_delete INSTEAD OF DELETE ON sites BEGIN
+  DELETE FROM siteRows WHERE idSite = old.idSite;
+END;
 
 -- The form variables of the sites whose method is POST.
 CREATE TABLE postVars (

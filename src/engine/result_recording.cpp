@@ -2,6 +2,7 @@
 #include "engine/result_recording.h"
 
 #include <limits>
+#include <string_view>
 
 #include "base/errors.h"
 #include "store/first_field.h"
@@ -10,27 +11,26 @@
 namespace tarnwick {
 namespace {
 
+/// How a page stands to the site's baseline.
 struct Judged {
   std::string url;
-  std::string baseline;
+  bool hasBaseline = false;
+  bool equals = false;
 };
 
-Judged readJudged(Database& database, std::int16_t idSite) {
+Judged judge(Database& database, std::int16_t idSite, std::string_view content) {
   const auto rows = database.query("select url,method,content_compare from sites where idSite = " + sqlQuote(idSite));
   Judged site;
   if (!rows->eof()) {
-    site = {rows->field("url").toText(), rows->field("content_compare").toText()};
+    const bool hasBaseline = !rows->holds("content_compare", {});
+    site = {rows->field("url").toText(), hasBaseline, hasBaseline && rows->holds("content_compare", content)};
   }
   rows->close();
   return site;
 }
 
 bool isAdopted(const Judged& site, std::int32_t errCode, FirstBaseline first) {
-  return site.baseline.empty() && (first == FirstBaseline::anything || errCode == 0);
-}
-
-bool passes(const Judged& site, const std::string& content) {
-  return !site.baseline.empty() && content == site.baseline;
+  return !site.hasBaseline && (first == FirstBaseline::anything || errCode == 0);
 }
 
 }  // namespace
@@ -38,20 +38,18 @@ bool passes(const Judged& site, const std::string& content) {
 bool ResultRecording::testSite(std::int16_t idSite, const std::string& content, std::int32_t errCode,
                                const std::string& errDescription, FirstBaseline first, KeptPage kept) {
   Transaction whole(db_);
-  const Judged site = readJudged(db_, idSite);
-  const std::string id = sqlQuote(idSite);
+  const Judged site = judge(db_, idSite, content);
+  const std::string behind = joinSql("'", " WHERE idsite = ", sqlQuote(idSite));
   const bool keeps = kept == KeptPage::whole || errCode != 0;
 
   const bool adopted = isAdopted(site, errCode, first);
-  const std::string quotedContent = adopted || keeps ? sqlQuote(content) : std::string();
   if (adopted) {
-    db_.execute(joinSql("update sites set content_compare = '", quotedContent, "'", " WHERE idsite = ", id));
+    db_.execute("update sites set content_compare = '", content, behind);
   }
-  db_.execute(joinSql("update sites set content_runtime = '", keeps ? quotedContent : sqlQuote(kPageNotKept), "'",
-                      " WHERE idsite = ", id));
-  const bool result = adopted || passes(site, content);
+  db_.execute("update sites set content_runtime = '", keeps ? std::string_view(content) : kPageNotKept, behind);
+  const bool result = adopted || site.equals;
   log_.addLog(idSite, site.url, result, errCode, keeps || result ? errDescription : kPageNotKept,
-              result || !keeps ? std::string() : content);
+              result || !keeps ? std::string_view() : content);
   xupdateLastChecked(idSite);
 
   whole.commit();
@@ -60,8 +58,21 @@ bool ResultRecording::testSite(std::int16_t idSite, const std::string& content, 
 
 bool ResultRecording::wouldPass(std::int16_t idSite, const std::string& content, std::int32_t errCode,
                                 FirstBaseline first) {
-  const Judged site = readJudged(db_, idSite);
-  return isAdopted(site, errCode, first) || passes(site, content);
+  const Judged site = judge(db_, idSite, content);
+  return isAdopted(site, errCode, first) || site.equals;
+}
+
+std::unique_ptr<StoredText> ResultRecording::storeAhead(std::int16_t idSite, const std::string& content,
+                                                        const std::function<void()>& between) {
+  constexpr std::size_t kLong = std::size_t{1} << 20U;
+  if (content.size() < kLong) {
+    return nullptr;
+  }
+  const auto rows = db_.query("select content_compare,content_runtime from sites where idSite = " + sqlQuote(idSite));
+  const bool isNew =
+      !rows->eof() && !rows->holds("content_compare", content) && !rows->holds("content_runtime", content);
+  rows->close();
+  return isNew ? db_.conn().storeAhead(content, between) : nullptr;
 }
 
 void ResultRecording::clearContentCompare(std::int16_t idSite) {
@@ -69,7 +80,7 @@ void ResultRecording::clearContentCompare(std::int16_t idSite) {
 }
 
 void ResultRecording::updateContentCompare(std::int16_t idSite, const std::string& text) {
-  db_.execute(joinSql("update sites set content_compare = '", sqlQuote(text), "' where idsite = ", sqlQuote(idSite)));
+  db_.execute("update sites set content_compare = '", text, "' where idsite = " + sqlQuote(idSite));
 }
 
 std::string ResultRecording::getContentCompare(std::int16_t idSite) {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -59,6 +61,12 @@ class ResultRecording {
                 KeptPage kept = KeptPage::whole);
   /// The verdict of that, with nothing stored: true also when the page would become the baseline.
   bool wouldPass(std::int16_t idSite, const std::string& content, std::int32_t errCode, FirstBaseline first);
+
+  /// Writes a long page before it is recorded, with events taken in by `between`, so that recording it, while the
+  /// returned object lives, holds nobody up. Nothing for a page that is short, or stored already. Raises
+  /// DataAccessError. REQUIRES: no transaction.
+  std::unique_ptr<StoredText> storeAhead(std::int16_t idSite, const std::string& content,
+                                         const std::function<void()>& between);
 
   /// Empties the baseline: the next page fetched becomes it.
   void clearContentCompare(std::int16_t idSite);

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -31,7 +32,15 @@ class Recordset {
   virtual SqlValue field(std::size_t index) const = 0;
   /// The current row's field of that name, in any letter case; raises DataAccessError when there is none.
   virtual SqlValue field(std::string_view name) const = 0;
+  /// Whether that field is `text`, byte for byte; a Null is an empty one. For pages, which need no copy for it.
+  virtual bool holds(std::string_view name, std::string_view text) const { return field(name).toText() == text; }
   virtual void close() noexcept = 0;
+};
+
+/// A text that is stored before the statement that names it; see `SqlConnection::storeAhead`.
+class StoredText {
+ public:
+  virtual ~StoredText() = default;
 };
 
 /// A connection to one database file. Statements are plain SQL text in the program's own dialect: quoted texts may
@@ -51,6 +60,22 @@ class SqlConnection {
   /// Runs one statement of SQLite's own SQL as it stands, without the dialect: `?1` in it is the first of `parameters`,
   /// and so on; there are exactly as many. A yes/no is stored as 1 or 0, a text whatever bytes it holds.
   virtual std::unique_ptr<Recordset> execute(std::string_view sql, std::span<const SqlValue> parameters) = 0;
+
+  /// Runs the statement that `before`, `text` with its quotes doubled and `behind` make, where quotes stand around the
+  /// text, and which does not copy it: a page may be long. Nothing, with nothing done, from a connection that takes
+  /// whole statements only.
+  virtual std::unique_ptr<Recordset> execute(std::string_view before, std::string_view text, std::string_view behind) {
+    static_cast<void>(before), static_cast<void>(text), static_cast<void>(behind);
+    return nullptr;
+  }
+
+  /// Writes a long text before the statement that stores it as a site's page, a part at a time, with `between` called
+  /// after each, so that the transaction of that statement, which must name the text at this very place during the
+  /// returned object's life, is a short one. Nothing where that is not possible. REQUIRES: no transaction.
+  virtual std::unique_ptr<StoredText> storeAhead(std::string_view text, const std::function<void()>& between) {
+    static_cast<void>(text), static_cast<void>(between);
+    return nullptr;
+  }
 
   /// Begin and end a transaction that takes the write lock at once. They do not nest.
   virtual void begin() = 0;

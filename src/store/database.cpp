@@ -6,6 +6,7 @@
 #include "base/product.h"
 #include "platform/file_system.h"
 #include "store/migrations.h"
+#include "store/sql_quote.h"
 
 namespace tarnwick {
 
@@ -47,6 +48,13 @@ std::unique_ptr<Recordset> Database::query(std::string sql) {
 }
 
 void Database::execute(std::string sql) { query(std::move(sql))->close(); }
+
+void Database::execute(const std::string& before, std::string_view page, const std::string& behind) {
+  sqlText_ = joinSql(before, "...", behind);
+  if (conn().execute(before, page, behind) == nullptr) {
+    conn().execute(joinSql(before, sqlQuote(page), behind))->close();
+  }
+}
 
 Transaction::Transaction(Database& database) : conn_(database.conn()), owner_(!conn_.inTransaction()) {
   if (owner_) {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "platform/sql_connection.h"
@@ -26,9 +27,11 @@ class Database {
   std::unique_ptr<Recordset> query(std::string sql);
   /// Runs a statement whose rows, if any, do not matter.
   void execute(std::string sql);
+  /// The same of one with a page in it, between `before` and `behind` and their quotes, that is not copied into it.
+  void execute(const std::string& before, std::string_view page, const std::string& behind);
 
   /// Vocabulary: no front end calls it.
-  /// The statement most recently built.
+  /// The statement most recently built; of a page in it only that it is there.
   const std::string& sqlText() const { return sqlText_; }
   const std::string& connString() const { return connString_; }
   /// Full path of the database file.

@@ -2,20 +2,27 @@
 #include "store/migrations.h"
 
 #include <array>
-#include <span>
-#include <string_view>
 
 #include "base/errors.h"
+#include "store/dense_sites.h"
 
 namespace tarnwick {
 namespace {
 
+/// Makes the next form; false where that has to wait.
+using Step = bool (*)(SqlConnection& connection, const std::string& path);
+
+bool addSiteOptions(SqlConnection& connection, const std::string&) {
+  connection.execute(
+      "create table if not exists siteOptions (idSite INTEGER NOT NULL, name TEXT NOT NULL, value TEXT NOT NULL, "
+      "primary key (idSite, name)) without rowid",
+      {});
+  return true;
+}
+
 /// What leads from each form to the next; the first makes form 1 of form 0. A step that has been in a release never
 /// changes: lists that have gone through it are in people's hands.
-constexpr std::array<std::string_view, kFormOfTables> kSteps = {
-    "create table if not exists siteOptions (idSite INTEGER NOT NULL, name TEXT NOT NULL, value TEXT NOT NULL, "
-    "primary key (idSite, name)) without rowid",
-};
+constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense};
 
 void refuseNewer(std::int64_t form, const std::string& path) {
   if (form > kFormOfTables) {
@@ -29,15 +36,11 @@ void refuseNewer(std::int64_t form, const std::string& path) {
 
 /// REQUIRES: a transaction, in which nobody else can do the same.
 void takeSteps(SqlConnection& connection, const std::string& path) {
-  const std::int64_t form = connection.formOfTables();
+  std::int64_t form = connection.formOfTables();
   refuseNewer(form, path);
-  if (form < 0 || form == kFormOfTables) {
-    return;
+  while (form >= 0 && form < kFormOfTables && kSteps[static_cast<std::size_t>(form)](connection, path)) {
+    connection.setFormOfTables(++form);
   }
-  for (const std::string_view step : std::span(kSteps).subspan(static_cast<std::size_t>(form))) {
-    connection.execute(step, {});
-  }
-  connection.setFormOfTables(kFormOfTables);
 }
 
 }  // namespace

@@ -153,7 +153,7 @@ std::int64_t Restoration::check(const std::string& file) {
       throw DataAccessError(finding, "");
     }
     const bool isList = first(
-                            "select count(*) from sqlite_master where type = 'table' and "
+                            "select count(*) from sqlite_master where type in ('table', 'view') and "
                             "lower(name) in ('sites', 'postvars', 'control', 'log')")
                             .toInt64() == 4;
     if (!isList) {

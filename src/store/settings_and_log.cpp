@@ -69,13 +69,14 @@ std::chrono::seconds SettingsAndLog::requestTimeout() {
 }
 
 void SettingsAndLog::addLog(std::int16_t idSite, const std::string& url, bool status, std::int32_t errCode,
-                            const std::string& errDescription, const std::string& content) {
+                            const std::string& errDescription, std::string_view content) {
   if (!getControl("clogs").toBool()) {
     return;
   }
   db_.execute(joinSql("insert into log (idSite,url,status,errCode,errDescription,content) values ", "(",
                       sqlQuote(idSite), ",", "'", sqlQuote(url), "'", ",", sqlQuote(status), ",", sqlQuote(errCode),
-                      ",", "'", sqlQuote(errDescription), "',", "'", sqlQuote(content), "'", ")"));
+                      ",", "'", sqlQuote(errDescription), "',", "'"),
+              content, "')");
 }
 
 void SettingsAndLog::clearLog() {

@@ -5,6 +5,7 @@
 #include <concepts>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -62,7 +63,7 @@ class SettingsAndLog {
 
   /// Adds a check's result to the log when the setting `clogs` is true; its time is filled in by the database.
   void addLog(std::int16_t idSite, const std::string& url, bool status, std::int32_t errCode,
-              const std::string& errDescription, const std::string& content);
+              const std::string& errDescription, std::string_view content);
 
   /// Empties the log: all of it or nothing, but on a disk that is too full for that piece by piece.
   void clearLog();

@@ -65,7 +65,7 @@ TEST_F(Damage, ADamagedPageIsToldOnceAndAGoodCopyPutBackIsFoundByTheRun) {
 }
 
 TEST_F(Damage, ADamagedSiteTableIsNeverTakenForSitesThatAreDown) {
-  spoilPage(rootOf("sites"));
+  spoilPage(rootOf("siteRows"));
   RunningProgram* running = nullptr;
   TestServices machine;
   try {

@@ -282,7 +282,7 @@ TEST_F(Alerts, EndPromptlyWhenTheProgramClosesDuringASilentMail) {
 
 TEST_F(Alerts, AFailedStatementTravels) {
   switchOn(true, true, true);
-  folder.execute("drop table sites");
+  folder.execute("drop view sites");
   EXPECT_THROW(alerts.sendAlerts(1), DataAccessError);
   EXPECT_THAT(machine.sound.played, IsEmpty());
 }

@@ -314,7 +314,7 @@ TEST_F(SiteBeingTyped, IsNotTakenByStartAndIsDueWhenItIsComplete) {
 
 TEST_F(SiteBeingTyped, IsNotTakenByThePassThatFollowsAFault) {
   folder.execute("update sites set lastChecked = '2001-01-01 00:00:00' where idSite = " + std::to_string(known));
-  folder.execute("create trigger no before update on sites begin select raise(abort, 'not now'); end");
+  folder.execute("create trigger no before update on siteRows begin select raise(abort, 'not now'); end");
   tick();
   tick();
   EXPECT_THAT(machine.prompts.texts(), ElementsAre(::testing::HasSubstr("not now")));

@@ -367,8 +367,8 @@ TEST_F(TestPassTest, AResultThatCannotBeRecordedIsToldAfterTheOthersHaveBeen) {
   for (const char* path : {"/c", "/d", "/e", "/f", "/g", "/h"}) {
     after.push_back(addPage(path, path));
   }
-  folder.execute("create trigger no_room before update on sites when new.idSite = " + std::to_string(refused) +
-                 " and new.content_runtime <> '' begin select raise(abort, 'no room for this page'); end");
+  folder.execute("create trigger no_room before update on siteRows when new.idSite = " + std::to_string(refused) +
+                 " and new.runtimePage > 0 begin select raise(abort, 'no room for this page'); end");
   EXPECT_FALSE(program.startRun());
   EXPECT_THAT(machine.prompts.texts(), ElementsAre(HasSubstr("no room for this page")));
   EXPECT_EQ(column(good, "status"), "1");

@@ -31,7 +31,13 @@ struct MigrationsTest : ::testing::TestWithParam<std::int64_t> {
   std::string tables() {
     return folder.queryRows(
         "select m.name, c.name, c.type, c.pk from sqlite_master m join pragma_table_info(m.name) c "
-        "where m.type = 'table' order by m.name, c.cid");
+        "where m.type in ('table', 'view') order by m.name, c.cid");
+  }
+
+  /// What lies on the tables of the sites, word for word.
+  std::string objects() {
+    return folder.queryRows(
+        "select sql from sqlite_master where tbl_name in ('sites', 'siteRows', 'pagePieces') order by name");
   }
 
   ProgramFolder folder;
@@ -41,10 +47,12 @@ struct MigrationsTest : ::testing::TestWithParam<std::int64_t> {
 
 TEST_P(MigrationsTest, EveryFormIsBroughtToTheOneOfAFreshList) {
   const std::string fresh = tables();
+  const std::string freshObjects = objects();
   layForm(GetParam());
   { const Database opened(folder.path(), databases); }
   EXPECT_EQ(form(), std::to_string(kFormOfTables));
   EXPECT_EQ(tables(), fresh);
+  EXPECT_EQ(objects(), freshObjects);
   EXPECT_EQ(folder.queryText("select url from sites where idSite = 1"), "http://www.example.org/");
   EXPECT_EQ(folder.queryText("pragma integrity_check"), "ok");
 }
@@ -74,7 +82,52 @@ TEST_P(MigrationsTest, AListThatCannotBeWrittenNowIsReadAsItIs) {
 
 INSTANTIATE_TEST_SUITE_P(Forms, MigrationsTest, ::testing::Range(std::int64_t{0}, kFormOfTables + 1));
 
-struct Forms : MigrationsTest {};
+struct Forms : MigrationsTest {
+  /// Whether the pages lie apart, once the program has opened the list.
+  bool isDense() {
+    { const Database opened(folder.path(), databases); }
+    EXPECT_EQ(form(), std::to_string(kFormOfTables));
+    EXPECT_EQ(folder.queryText("pragma integrity_check"), "ok");
+    return folder.queryText("select count(*) from sqlite_master where name = 'siteRows'") == "1";
+  }
+  std::string sites() { return folder.queryRows("select * from sites order by idSite"); }
+};
+
+TEST_F(Forms, EveryPageSurvivesItsMove) {
+  layForm(1);
+  folder.execute(
+      "insert into sites (idSite, url, content_compare, content_runtime) values (2, 'same', 'a', 'a'), "
+      "(3, 'changed', 'it''s', cast(x'6100620d0a' as text)), (4, 'empty', '', ''), (5, 'bytes', x'00ff', 'x'), "
+      "(-3, 'below', 'm', 'n'), (40000, 'beyond', null, 'n'), (7, 'no baseline', '', '11:refused')");
+  const std::string before = sites();
+  EXPECT_TRUE(isDense());
+  EXPECT_EQ(sites(), before);
+  EXPECT_EQ(folder.queryText("select count(*) from pagePieces"), "9");
+}
+
+TEST_F(Forms, AListThatAnotherToolHasExtendedStaysAsItIs) {
+  for (const char* extension :
+       {"alter table sites add column note text", "create index by_url on sites (url)",
+        "create trigger t after update on sites begin select 1; end",
+        "drop index sites_list; alter table sites rename to s; create table sites as select * from s"}) {
+    layForm(1);
+    folder.execute(extension);
+    const std::string before = sites();
+    EXPECT_FALSE(isDense()) << extension;
+    EXPECT_EQ(sites(), before);
+  }
+}
+
+TEST_F(Forms, AListWithValuesThatTodaysTablesDoNotTakeStaysAsItIs) {
+  layForm(1);
+  folder.laySitesAsOneTable();
+  folder.execute("pragma user_version = 1; update sites set tInterval = 'ten'");
+  const std::string before = sites();
+  EXPECT_FALSE(isDense());
+  EXPECT_EQ(sites(), before);
+  folder.execute("update sites set tInterval = 10; pragma user_version = 1");
+  EXPECT_TRUE(isDense());
+}
 
 TEST_F(Forms, AnOriginalListKeepsItsBehaviour) {
   layForm(0);

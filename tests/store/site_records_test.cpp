@@ -204,7 +204,7 @@ TEST_F(SiteRecordsTest, IdExistsTellsWhetherTheSiteIsThere) {
 }
 
 TEST_F(SiteRecordsTest, FailedStatementTravelsToTheCaller) {
-  folder.execute("alter table sites rename to gone");
+  folder.execute("drop view sites; drop table siteRows");
   EXPECT_THROW(sites.addSite(), DataAccessError);
   EXPECT_THROW(sites.getArraySites(0), DataAccessError);
   EXPECT_THROW(sites.idExists(1), DataAccessError);

@@ -113,6 +113,17 @@ void ProgramFolder::execute(const std::string& sql) const {
   runAll(openDatabase(databasePath(), SQLITE_OPEN_READWRITE).get(), sql);
 }
 
+void ProgramFolder::laySitesAsOneTable() const {
+  execute(
+      "create table oneTable (idSite INTEGER PRIMARY KEY, url TEXT, method TEXT, active YESNO, tInterval INTEGER, "
+      "lastChecked DATETIME TEXT, alertEmail YESNO, email TEXT, sUserName TEXT, sPassWord TEXT, status YESNO, "
+      "success INTEGER, failure INTEGER, content_compare TEXT, content_runtime TEXT);"
+      "insert into oneTable select * from sites");
+  const bool apart = queryText("select type from sqlite_master where name = 'sites'") == "view";
+  execute(apart ? "drop view sites; drop table siteRows; drop table pagePieces" : "drop table sites");
+  execute("alter table oneTable rename to sites");
+}
+
 std::string ProgramFolder::queryText(const std::string& sql) const {
   const Handle database = openDatabase(databasePath(), SQLITE_OPEN_READWRITE);
   std::size_t position = 0;

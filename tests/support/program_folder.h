@@ -29,6 +29,9 @@ class ProgramFolder {
   std::string file(const std::string& name) const { return (folder_ / name).generic_string(); }
   std::string databasePath() const { return file("tarnwick.mdb"); }
 
+  /// Makes `sites` the one table that it was in lists of older forms, and stays in one that another tool has extended.
+  void laySitesAsOneTable() const;
+
   /// Runs one or more statements; raises std::runtime_error with the database's message when one fails.
   void execute(const std::string& sql) const;
 

@@ -29,12 +29,12 @@ create trigger ledger_failure after insert on log when not new.status begin
   insert or ignore into ledger (idSite) values (new.idSite);
   update ledger set logged = logged + 1 where idSite = new.idSite;
 end;
-create trigger ledger_count after update of failure on sites
+create trigger ledger_count after update of failure on siteRows
     when coalesce(new.failure, 0) > coalesce(old.failure, 0) begin
   insert or ignore into ledger (idSite) values (new.idSite);
   update ledger set counted = counted + 1 where idSite = new.idSite;
 end;
-create trigger ledger_delete after delete on sites begin
+create trigger ledger_delete after delete on siteRows begin
   delete from ledger where idSite = old.idSite;
 end;
 create trigger ledger_clogs after update of clogs on control when not new.clogs begin

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <initializer_list>
 
+#include "platform/sqlite/sql_sites.h"
 #include "platform/sqlite/sql_tokens.h"
 
 namespace tarnwick {
@@ -26,12 +27,19 @@ bool concernsRows(const Tokens& tokens) {
 /// Copies a statement, with other words in the place of some of its own.
 class RowsTranslator {
  public:
-  RowsTranslator(const Tokens& tokens, const Clock& clock) : tokens_(tokens), clock_(clock) {}
+  RowsTranslator(const Tokens& tokens, const Clock& clock, BehindSites behind)
+      : tokens_(tokens), clock_(clock), behind_(std::move(behind)) {}
 
   PlainStatement translate() {
     statement_.reusable = true;
+    statement_.pageColumns = behind_.pageColumns;
+    auto words = behind_.words.begin();
     for (position_ = 0; position_ < tokens_.size(); ++position_) {
-      take(tokens_[position_]);
+      if (words != behind_.words.end() && words->first == position_) {
+        replace(0, (words++)->second);
+      } else {
+        take(tokens_[position_]);
+      }
     }
     const std::string_view last = tokens_.back().source;
     statement_.text.append(copied_, last.data() + last.size()).append(limit_);
@@ -128,6 +136,7 @@ class RowsTranslator {
 
   const Tokens& tokens_;
   const Clock& clock_;
+  BehindSites behind_;
   PlainStatement statement_;
   std::size_t position_ = 0;
   const char* copied_ = tokens_.front().source.data();
@@ -178,7 +187,7 @@ std::optional<SelectInto> readSelectInto(const Tokens& tokens) {
 
 }  // namespace
 
-SqlCommand translateSql(std::string_view sql, const Clock& clock) {
+SqlCommand translateSql(std::string_view sql, const Clock& clock, Pages pages) {
   Tokens tokens = sqlTokens(sql);
   while (!tokens.empty() && tokens.back().is(";")) {
     tokens.pop_back();
@@ -187,7 +196,11 @@ SqlCommand translateSql(std::string_view sql, const Clock& clock) {
     return *std::move(selectInto);
   }
   if (concernsRows(tokens)) {
-    return RowsTranslator(tokens, clock).translate();
+    const bool apart = pages == Pages::apart;
+    if (auto storePage = apart ? readStorePage(tokens) : std::nullopt) {
+      return *std::move(storePage);
+    }
+    return RowsTranslator(tokens, clock, apart ? behindSites(tokens) : BehindSites()).translate();
   }
   if (const auto names = namesIn(tokens, {"alter", "table", "?", "add", "column", "?", "counter", "not", "null"});
       !names.empty()) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,6 +23,16 @@ struct PlainStatement {
   std::vector<SqlParameter> parameters = {};
   /// Worth keeping prepared: it reads or writes rows, where other statements change tables or settings.
   bool reusable = false;
+  /// The columns of the result, by their numbers from 0, that hold the number of a page where the statement asks for
+  /// the page itself.
+  std::vector<std::size_t> pageColumns = {};
+};
+
+/// `update sites set content_compare = '...' where idSite = n`, or `content_runtime`, where pages lie apart.
+struct StorePage {
+  bool compare = false;
+  std::int64_t idSite = 0;
+  SqlParameter text;
 };
 
 /// `select a,b into target from source`: makes the table `target` of these columns of `source`.
@@ -37,7 +49,11 @@ struct AddCounter {
   std::string column;
 };
 
-using SqlCommand = std::variant<PlainStatement, SelectInto, AddCounter>;
+using SqlCommand = std::variant<PlainStatement, SelectInto, AddCounter, StorePage>;
+
+/// Where the pages of the sites lie: in the rows of the table `sites`, or apart behind a view of that name (see
+/// sqlite_pages.h).
+enum class Pages { inSites, apart };
 
 /// Turns a statement of the program's dialect into what SQLite understands. In a statement that reads or writes rows
 /// the quoted texts, and the whole numbers that it compares with or inserts, become parameters, so that statements
@@ -49,9 +65,11 @@ using SqlCommand = std::variant<PlainStatement, SelectInto, AddCounter>;
 ///   index can be made that every program understands;
 /// - the two statements above, and `alter table ... add constraint ... primary key (...)` of one column, which becomes
 ///   an index that keeps its values unique.
+/// Where pages lie apart, a statement that changes other fields of `sites`, or reads a page, goes to the table behind
+/// the view at once, since a view's triggers are handed every page of a row.
 /// Quoted texts are never looked into. The result refers to `sql`, which must outlive it.
 /// Raises DataAccessError when the text cannot be cut into pieces (see `sqlTokens`).
-SqlCommand translateSql(std::string_view sql, const Clock& clock);
+SqlCommand translateSql(std::string_view sql, const Clock& clock, Pages pages = Pages::inSites);
 
 /// The text that a statement sets `column` to (`column = '...'`), quotes included, as it stands in the statement;
 /// nothing when there is none. For messages.

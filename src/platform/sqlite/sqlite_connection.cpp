@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sqlite/sqlite_connection.h"
 
+#include <algorithm>
+#include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,11 +13,13 @@
 
 #include "base/errors.h"
 #include "base/text.h"
+#include "platform/sqlite/atomic_change.h"
 #include "platform/sqlite/shown_statement.h"
 #include "platform/sqlite/sqlite_database.h"
 #include "platform/sqlite/sqlite_errors.h"
 #include "platform/sqlite/sqlite_held_file.h"
 #include "platform/sqlite/sqlite_hold.h"
+#include "platform/sqlite/sqlite_pages.h"
 #include "platform/sqlite/sqlite_recordset.h"
 #include "platform/sqlite/sqlite_tables.h"
 
@@ -80,20 +85,18 @@ class SqliteConnection final : public SqlConnection {
 
   bool isOpen() const override { return database_ != nullptr; }
 
-  std::unique_ptr<Recordset> execute(std::string_view sql) override {
-    return told(sql, [&](SqliteDatabase& database) -> std::unique_ptr<Recordset> {
-      database.fitCache(sql.size());
-      const SqlCommand command = translateSql(sql, clock_);
-      if (const auto* statement = std::get_if<PlainStatement>(&command)) {
-        return records(database, *statement, sql);
-      }
-      if (const auto* into = std::get_if<SelectInto>(&command)) {
-        selectInto(database, *into);
-      } else {
-        addCounter(database, std::get<AddCounter>(command));
-      }
-      return std::make_unique<NoRows>();
-    });
+  std::unique_ptr<Recordset> execute(std::string_view sql) override { return run(sql, {}); }
+
+  std::unique_ptr<Recordset> execute(std::string_view before, std::string_view text, std::string_view behind) override {
+    const std::string sql = std::string(before).append(behind);
+    return run(sql, LongText{before.size(), text});
+  }
+
+  std::unique_ptr<StoredText> storeAhead(std::string_view text, const std::function<void()>& between) override {
+    if (!database_ || inTransaction() || database_->pages() != Pages::apart) {
+      return nullptr;
+    }
+    return std::make_unique<SqliteStoredText>(*this, ahead_, text, between);
   }
 
   std::unique_ptr<Recordset> execute(std::string_view sql, std::span<const SqlValue> parameters) override {
@@ -159,6 +162,59 @@ class SqliteConnection final : public SqlConnection {
   bool inTransaction() const override { return database_ && sqlite3_get_autocommit(database_->handle()) == 0; }
 
  private:
+  /// A text that belongs between the quotes of an empty one in a statement.
+  struct LongText {
+    std::size_t place;
+    std::string_view text;
+  };
+
+  std::unique_ptr<Recordset> run(std::string_view sql, const std::optional<LongText>& text) {
+    return told(sql, [&](SqliteDatabase& database) -> std::unique_ptr<Recordset> {
+      database.fitCache(text ? text->text.size() : sql.size());
+      SqlCommand command = translateSql(sql, clock_, database.pages());
+      if (text) {
+        putIn(command, sql.data() + text->place, text->text);
+      }
+      return carryOut(database, command, sql);
+    });
+  }
+
+  /// Gives the empty text at that place of the statement its true length.
+  static void putIn(SqlCommand& command, const char* place, std::string_view text) {
+    const auto fill = [&](SqlParameter& parameter) {
+      if (auto* empty = std::get_if<std::string_view>(&parameter); empty != nullptr && empty->data() == place) {
+        *empty = text;
+      }
+    };
+    if (auto* statement = std::get_if<PlainStatement>(&command)) {
+      std::ranges::for_each(statement->parameters, fill);
+    } else if (auto* page = std::get_if<StorePage>(&command)) {
+      fill(page->text);
+    }
+  }
+
+  std::unique_ptr<Recordset> carryOut(SqliteDatabase& database, const SqlCommand& command, std::string_view sql) {
+    if (const auto* statement = std::get_if<PlainStatement>(&command)) {
+      return records(database, *statement, sql);
+    }
+    if (const auto* page = std::get_if<StorePage>(&command)) {
+      storePage(database, *page);
+    } else if (const auto* into = std::get_if<SelectInto>(&command)) {
+      selectInto(database, *into);
+    } else {
+      addCounter(database, std::get<AddCounter>(command));
+    }
+    return std::make_unique<NoRows>();
+  }
+
+  void storePage(SqliteDatabase& database, const StorePage& command) {
+    const auto* const value = std::get_if<SqlValue>(&command.text);
+    const std::string copy = value == nullptr ? std::string() : value->toText();
+    AtomicChange change(database);
+    SqlitePages(database).store(command, value == nullptr ? std::get<std::string_view>(command.text) : copy, ahead_);
+    change.keep();
+  }
+
   /// Runs `action` on the open database; where it fails, the error carries the statement.
   template <typename Action>
   std::unique_ptr<Recordset> told(std::string_view sql, Action action) {
@@ -230,16 +286,21 @@ class SqliteConnection final : public SqlConnection {
                                             std::string_view sql) {
     StatementLoan loan = database.prepare(statement);
     const bool onRow = database.step(loan.get());
+    if (!statement.reusable && sqlite3_stmt_readonly(loan.get()) == 0) {
+      database.forgetTables();
+    }
     if (sqlite3_column_count(loan.get()) == 0) {
       return std::make_unique<NoRows>();
     }
-    return std::make_unique<SqliteRecordset>(database, std::move(loan), onRow, shownStatement(sql));
+    return std::make_unique<SqliteRecordset>(database, std::move(loan), onRow, statement.pageColumns,
+                                             shownStatement(sql));
   }
 
   const Clock& clock_;
   std::chrono::milliseconds patience_;
   std::string path_;
   std::unique_ptr<SqliteDatabase> database_;
+  const SqliteStoredText* ahead_ = nullptr;
 };
 
 }  // namespace

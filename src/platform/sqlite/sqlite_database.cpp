@@ -36,7 +36,9 @@ class Binder {
         lifetime_(sqlite3_column_count(prepared) == 0 ? SQLITE_STATIC : SQLITE_TRANSIENT) {}
 
   int operator()(std::string_view text) {
-    return sqlite3_bind_text64(prepared_, ++number_, text.data(), text.size(), lifetime_, SQLITE_UTF8);
+    // One without an address would be a Null.
+    const char* const bytes = text.empty() ? "" : text.data();
+    return sqlite3_bind_text64(prepared_, ++number_, bytes, text.size(), lifetime_, SQLITE_UTF8);
   }
   int operator()(const SqlValue& value) { return std::visit(*this, value.held()); }
   int operator()(std::monostate) { return sqlite3_bind_null(prepared_, ++number_); }
@@ -142,6 +144,7 @@ void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
 void SqliteDatabase::openFile(const std::optional<FileIdentity>& before) {
   keptByText_.clear();
   kept_.clear();
+  forgetTables();
   handle_.reset();
   requireFile(path_);
   // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
@@ -329,6 +332,15 @@ SqliteStatement SqliteDatabase::compile(const PlainStatement& statement) {
     throw DataAccessError("Only one statement can be run at a time.", "");
   }
   return prepared;
+}
+
+// Another program may bring an older list to the form of today meanwhile; then the view serves every statement.
+Pages SqliteDatabase::pages() {
+  if (!pages_) {
+    const bool apart = !rows("select 1 from sqlite_master where type = 'table' and name = 'siteRows'").empty();
+    pages_ = apart ? Pages::apart : Pages::inSites;
+  }
+  return *pages_;
 }
 
 bool SqliteDatabase::step(sqlite3_stmt* prepared) {

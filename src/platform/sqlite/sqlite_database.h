@@ -103,6 +103,11 @@ class SqliteDatabase {
 
   bool isOutdated() const { return outdated_; }
 
+  /// Where the pages of the sites lie.
+  Pages pages();
+  /// Tables may have been changed.
+  void forgetTables() noexcept { pages_.reset(); }
+
   /// What became of the files since they were opened. May be noticed only some time later, for it is asked before
   /// every statement.
   SqliteFileWatch::Finding lookAtFiles() { return watch_ ? watch_->lookNowAndThen() : SqliteFileWatch::Finding::same; }
@@ -137,6 +142,7 @@ class SqliteDatabase {
   Kept kept_;
   std::unordered_map<std::string_view, Kept::iterator> keptByText_;
   std::vector<SqliteRecordset*> open_;
+  std::optional<Pages> pages_;
   bool cachesLargePage_ = false;
   bool outdated_ = false;
   // Opened as a file that nobody changes.

@@ -104,7 +104,13 @@ DataAccessError damagedDatabase(const std::string& path, const std::string& mess
 DataAccessError lastSqliteError(sqlite3* database, const std::string& path) {
   const int told = sqlite3_extended_errcode(database);
   const int code = causeBehind(told, database);
-  return sqliteError(code, code == told ? sqlite3_errmsg(database) : sqlite3_errstr(code), path);
+  std::string message = code == told ? sqlite3_errmsg(database) : sqlite3_errstr(code);
+  // By the name that everybody knows them by.
+  static constexpr std::string_view kBehindSites = ": siteRows.";
+  if (const std::size_t table = message.find(kBehindSites); table != std::string::npos) {
+    message.replace(table, kBehindSites.size(), ": sites.");
+  }
+  return sqliteError(code, message, path);
 }
 
 namespace {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sqlite/sqlite_recordset.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
 #include "base/errors.h"
+#include "platform/sqlite/sqlite_pages.h"
 
 namespace tarnwick {
 namespace {
@@ -41,8 +43,9 @@ std::optional<SqlValue> plainValue(sqlite3_stmt* statement, int column) {
 
 }  // namespace
 
-SqliteRecordset::SqliteRecordset(SqliteDatabase& database, StatementLoan loan, bool onRow, std::string sql)
-    : database_(&database), loan_(std::move(loan)), onRow_(onRow), sql_(std::move(sql)) {
+SqliteRecordset::SqliteRecordset(SqliteDatabase& database, StatementLoan loan, bool onRow,
+                                 std::vector<std::size_t> pages, std::string sql)
+    : database_(&database), loan_(std::move(loan)), onRow_(onRow), pages_(std::move(pages)), sql_(std::move(sql)) {
   database.enroll(*this);
   if (!onRow_) {
     sqlite3_reset(loan_.get());
@@ -94,6 +97,9 @@ SqlValue SqliteRecordset::field(std::size_t index) const {
   if (!value) {
     throw DataAccessError(database_->lastError().cause(), sql_);
   }
+  if (!value->isNull() && holdsPage(index)) {
+    return SqlValue(SqlitePages(*database_).read(value->toInt64()));
+  }
   return !value->isNull() && holdsYesNo(index) ? SqlValue(value->toBool()) : *std::move(value);
 }
 
@@ -108,12 +114,25 @@ bool SqliteRecordset::holdsYesNo(std::size_t index) const {
   return yesNo_[index];
 }
 
-SqlValue SqliteRecordset::field(std::string_view name) const {
+SqlValue SqliteRecordset::field(std::string_view name) const { return field(columnNamed(name)); }
+
+bool SqliteRecordset::holds(std::string_view name, std::string_view text) const {
+  const std::size_t index = columnNamed(name);
+  if (!onRow_ || !holdsPage(index)) {
+    return field(index).toText() == text;
+  }
+  const std::int64_t page = sqlite3_column_int64(loan_.get(), static_cast<int>(index));  // 0 for a Null
+  return SqlitePages(*database_).holds(page, text);
+}
+
+bool SqliteRecordset::holdsPage(std::size_t index) const { return std::ranges::find(pages_, index) != pages_.end(); }
+
+std::size_t SqliteRecordset::columnNamed(std::string_view name) const {
   for (std::size_t index = 0; index < fieldCount(); ++index) {
     const char* column = sqlite3_column_name(loan_.get(), static_cast<int>(index));
     if (std::string_view(column).size() == name.size() &&
         sqlite3_strnicmp(column, name.data(), static_cast<int>(name.size())) == 0) {
-      return field(index);
+      return index;
     }
   }
   throw DataAccessError("The statement returns no field \"" + std::string(name) + "\".", sql_);

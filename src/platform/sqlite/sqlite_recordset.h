@@ -13,8 +13,10 @@ namespace tarnwick {
 /// The rows of a statement that SQLite delivers one by one as they are asked for.
 class SqliteRecordset final : public Recordset {
  public:
-  /// `loan` stands on its first row when `onRow`. `sql` is for messages.
-  SqliteRecordset(SqliteDatabase& database, StatementLoan loan, bool onRow, std::string sql);
+  /// `loan` stands on its first row when `onRow`. `pages`: the columns that hold the number of a page in its place.
+  /// `sql` is for messages.
+  SqliteRecordset(SqliteDatabase& database, StatementLoan loan, bool onRow, std::vector<std::size_t> pages,
+                  std::string sql);
   ~SqliteRecordset() override;
   SqliteRecordset(const SqliteRecordset&) = delete;
   SqliteRecordset& operator=(const SqliteRecordset&) = delete;
@@ -26,16 +28,20 @@ class SqliteRecordset final : public Recordset {
   std::string fieldName(std::size_t index) const override;
   SqlValue field(std::size_t index) const override;
   SqlValue field(std::string_view name) const override;
+  bool holds(std::string_view name, std::string_view text) const override;
   void close() noexcept override;
 
  private:
   void advance();
   int checkedColumn(std::size_t index) const;
+  std::size_t columnNamed(std::string_view name) const;
+  bool holdsPage(std::size_t index) const;
   bool holdsYesNo(std::size_t index) const;
 
   SqliteDatabase* database_;
   StatementLoan loan_;
   bool onRow_;
+  std::vector<std::size_t> pages_;
   std::string sql_;
   mutable std::vector<bool> yesNo_;
 };

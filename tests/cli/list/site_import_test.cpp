@@ -262,7 +262,7 @@ TEST_F(SiteImport, TakesAsManySitesAsThereAreIds) {
 TEST_F(SiteImport, AFaultOfTheDatabaseTakesEverythingBack) {
   addSite("http://a/");
   folder.execute(
-      "create trigger refuse before update on sites when new.url = 'http://bad/' begin"
+      "create trigger refuse before update on siteRows when new.url = 'http://bad/' begin"
       " select raise(abort, 'no room'); end");
   EXPECT_EQ(importCsv("idSite,url\n1,http://x/\n2,http://b/\n3,http://bad/\n"), exit_status::failed);
   EXPECT_THAT(err, HasSubstr("no room"));

@@ -188,7 +188,7 @@ TEST_F(CheckVerb, EndsWithTwoWhenTheDatabaseIsMissing) {
 
 TEST_F(CheckVerb, EndsWithTwoAndOneComplaintWhenAResultCannotBeRecorded) {
   addPage("/a", "alpha");
-  folder.execute("create trigger no before update on sites begin select raise(fail, 'kept out'); end");
+  folder.execute("create trigger no before update on siteRows begin select raise(fail, 'kept out'); end");
   EXPECT_EQ(run({"check"}), exit_status::failed);
   EXPECT_THAT(err, HasSubstr("kept out"));
   EXPECT_EQ(folder.queryText("select count(*) from log"), "0");

@@ -10,6 +10,7 @@ using ::testing::HasSubstr;
 
 struct NewFields : ToolFixture {
   NewFields() {
+    folder.laySitesAsOneTable();
     folder.execute("alter table sites add column note TEXT; alter table sites add column loud YESNO");
     fields.site.push_back({"note", FieldKind::text, {}, "Note", "What is to be known of it"});
     fields.site.push_back({"loud", FieldKind::flag, {}, "Loud", "Whether it is loud"});

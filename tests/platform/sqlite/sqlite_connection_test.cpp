@@ -169,7 +169,7 @@ TEST_F(SqliteConnectionTest, OthersSeeWhatIsCommittedAtOnce) {
 
 TEST_F(SqliteConnectionTest, AFreshDatabaseHasEveryTableButTheWorkTable) {
   EXPECT_EQ(folder_.queryRows("select name from sqlite_master where type = 'table' order by name collate nocase"),
-            "control\nlog\nmethods\npostVars\nsiteOptions\nsites\ntest\n");
+            "control\nlog\nmethods\npagePieces\npostVars\nsiteOptions\nsiteRows\ntest\n");
   EXPECT_EQ(folder_.queryText("pragma integrity_check"), "ok");
 }
 

@@ -143,13 +143,13 @@ TEST_F(SqliteFaults, ALockHeldByAnotherProgramIsAClearErrorAndPasses) {
 
 TEST_F(SqliteFaults, ATableThatIsBeingReadCannotBeDropped) {
   const OpenDatabase database;
-  database.run("insert into sites (idSite) values (1)");
-  database.run("insert into sites (idSite) values (2)");
-  const auto records = database.conn->execute("select idSite from sites");
-  EXPECT_TRUE(contains(causeOf([&] { database.run("drop table sites"); }), "is still being read"));
+  database.run("insert into methods (idSite) values (1)");
+  database.run("insert into methods (idSite) values (2)");
+  const auto records = database.conn->execute("select idSite from methods");
+  EXPECT_TRUE(contains(causeOf([&] { database.run("drop table methods"); }), "is still being read"));
   records->moveNext();
   records->moveNext();
-  database.run("drop table sites");
+  database.run("drop table methods");
 }
 
 TEST_F(SqliteFaults, AFullDiskIsAClearErrorAndStoresNothing) {

@@ -178,7 +178,7 @@ TEST_F(MasterRunTest, TheLitLampBlinksWhileTheRunIsOn) {
 TEST_F(MasterRunTest, AFaultOfTheDatabaseIsToldInOneBoxAndTheWindowLivesOn) {
   addSite(1, "http://127.0.0.1:1/");
   open();
-  folder.execute("alter table sites rename to elsewhere");
+  folder.execute("drop view sites; drop table siteRows");
   click("btnStart");
   EXPECT_EQ(machine.prompts.shown().size(), 1U);
   EXPECT_FALSE(master->program().run().busy());

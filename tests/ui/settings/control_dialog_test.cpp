@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPointer>
 
 #include "ui/settings/control_dialog_fixture.h"
 
@@ -168,8 +169,9 @@ TEST_F(ControlDialogTest, ATimeoutThatIsNotInTheListIsToldBesideItAndStoredAsNon
     EXPECT_TRUE(in<QLabel>(dialog, "lblTimeout").isVisible());
     EXPECT_EQ(in<QLabel>(dialog, "lblTimeout").text(), QStringLiteral("25 s stored"));
     type(dialog, "tEmail", "new");
+    const QPointer<ControlDialog> open(&dialog);
     press(dialog, "Command1");
-    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_TRUE(open.isNull() || !open->isVisible());
   }
   EXPECT_TRUE(machine.prompts.shown().empty());
   EXPECT_EQ(folder.queryRows("select email, timeout = '' from control"), "new|1\n");

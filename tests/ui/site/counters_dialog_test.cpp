@@ -108,7 +108,7 @@ TEST_F(CountersDialogTest, TheWindowsBelowTakeNoInputButTheMainWindowCloses) {
 
 TEST_F(CountersDialogTest, AFailureIsOneBoxAndTheDialogStays) {
   auto& dialog = openCounters();
-  folder.execute("create trigger t before update on sites begin select raise(abort, 'disk trouble'); end");
+  folder.execute("create trigger t before update on siteRows begin select raise(abort, 'disk trouble'); end");
   press(dialog, "btnClearAll");
   EXPECT_EQ(machine.prompts.texts().size(), 1U);
   EXPECT_TRUE(dialog.isVisible());

@@ -151,7 +151,7 @@ TEST_F(QuestionsInARunTest, AFaultIsToldBesideAnOpenQuestionAndBothCanBeAnswered
   click("btnSetup");
   press(opened<ControlDialog>(), "Command3");
   QPointer<QMessageBox> question(standing<QMessageBox>());
-  folder.execute("alter table sites rename to gone");
+  folder.execute("drop view sites; drop table siteRows");
   click("btnStart");
   QMessageBox* fault = nullptr;
   for (auto* box : master->findChildren<QMessageBox*>(QString(), Qt::FindDirectChildrenOnly)) {

@@ -140,6 +140,7 @@ TEST_F(SiteEditorTest, IsReachedByTheKeyboardInTheOrderOfTheEye) {
 }
 
 TEST_F(SiteEditorTest, AFieldOfTheTableStandsInTheForm) {
+  folder.laySitesAsOneTable();
   folder.execute("alter table sites add column note TEXT");
   folder.execute("alter table sites add column watched YESNO default 0");
   static Fields more = programFields();

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/sqlite/sqlite_database.h"
+
+namespace tarnwick {
+
+/// Several changes as one: all of them stay after `keep`, none otherwise. Works inside a transaction and without.
+class AtomicChange {
+ public:
+  explicit AtomicChange(SqliteDatabase& database) : database_(database) { database_.run("savepoint atomic_change"); }
+  ~AtomicChange() {
+    if (!kept_) {
+      sqlite3_exec(database_.handle(), "rollback to atomic_change; release atomic_change", nullptr, nullptr, nullptr);
+    }
+  }
+  AtomicChange(const AtomicChange&) = delete;
+  AtomicChange& operator=(const AtomicChange&) = delete;
+
+  void keep() {
+    database_.run("release atomic_change");
+    kept_ = true;
+  }
+
+ private:
+  SqliteDatabase& database_;
+  bool kept_ = false;
+};
+
+}  // namespace tarnwick

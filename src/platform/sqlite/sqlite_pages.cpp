@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "platform/sqlite/sqlite_pages.h"
+
+#include <algorithm>
+
+#include "base/errors.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::int64_t kPiecesOfPage = 4;
+constexpr std::size_t kPieceLength = std::size_t{16} << 20U;
+
+constexpr const char* kPieces = "select content from pagePieces where piece >= ?1 and piece < ?2 order by piece";
+constexpr const char* kNextPage = "select coalesce(max(piece) / 4, 0) + 1 from pagePieces";
+
+/// The last piece takes what is left.
+std::string_view pieceOf(std::string_view text, std::int64_t piece) {
+  const std::size_t from = static_cast<std::size_t>(piece) * kPieceLength;
+  return piece + 1 < kPiecesOfPage ? text.substr(from, kPieceLength) : text.substr(from);
+}
+
+std::int64_t piecesFor(std::string_view text) {
+  const auto pieces = static_cast<std::int64_t>((text.size() + kPieceLength - 1) / kPieceLength);
+  return std::min(pieces, kPiecesOfPage);
+}
+
+std::int64_t numberOf(const SqlValue& value) { return value.toInt64(); }
+
+/// Hands the pieces of a page to `take` until it returns false.
+template <typename Take>
+void readPieces(SqliteDatabase& database, std::int64_t page, Take take) {
+  const StatementLoan loan =
+      database.prepare({kPieces, {SqlValue(page * kPiecesOfPage), SqlValue((page + 1) * kPiecesOfPage)}, true});
+  while (database.step(loan.get())) {
+    const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(loan.get(), 0));
+    if (bytes == nullptr && sqlite3_column_type(loan.get(), 0) != SQLITE_NULL) {
+      throw database.lastError();  // there is no memory for it
+    }
+    if (!take(std::string_view(bytes, static_cast<std::size_t>(sqlite3_column_bytes(loan.get(), 0))))) {
+      return;
+    }
+  }
+}
+
+std::int64_t oneNumber(SqliteDatabase& database, const PlainStatement& statement) {
+  const StatementLoan loan = database.prepare(statement);
+  return database.step(loan.get()) ? sqlite3_column_int64(loan.get(), 0) : 0;
+}
+
+}  // namespace
+
+SqliteStoredText::SqliteStoredText(SqlConnection& connection, const SqliteStoredText*& place, std::string_view text,
+                                   const std::function<void()>& between)
+    : connection_(connection), place_(place), text_(text) {
+  try {
+    write(between);
+  } catch (...) {
+    removeUnused();
+    throw;
+  }
+  place_ = this;
+}
+
+SqliteStoredText::~SqliteStoredText() {
+  place_ = nullptr;
+  removeUnused();
+}
+
+void SqliteStoredText::write(const std::function<void()>& between) {
+  for (; pieces_ < piecesFor(text_); ++pieces_) {
+    connection_.begin();
+    try {
+      if (pieces_ == 0) {
+        // Left behind by a program that was killed here. Should another one be about to use them, it will see.
+        connection_.execute(
+            "delete from pagePieces where piece / 4 not in (select comparePage from siteRows where comparePage > 0 "
+            "union select runtimePage from siteRows where runtimePage > 0)",
+            {});
+        page_ = numberOf(connection_.execute(kNextPage, {})->field(std::size_t{0}));
+      }
+      connection_.execute(
+          "insert into pagePieces (piece, content) values (" + std::to_string(page_ * kPiecesOfPage + pieces_) + ",'",
+          pieceOf(text_, pieces_), "')");
+      connection_.commit();
+    } catch (...) {
+      connection_.rollback();
+      throw;
+    }
+    between();
+  }
+}
+
+void SqliteStoredText::removeUnused() noexcept {
+  if (page_ == 0) {
+    return;
+  }
+  try {
+    const SqlValue page(page_);
+    connection_
+        .execute(
+            "delete from pagePieces where piece >= ?1 * 4 and piece < ?1 * 4 + 4 and not exists "
+            "(select 1 from siteRows where comparePage = ?1 or runtimePage = ?1)",
+            {&page, 1})
+        ->close();
+  } catch (const std::exception&) {
+    // They are removed with the next text that is stored ahead.
+  }
+}
+
+std::string SqlitePages::read(std::int64_t page) {
+  std::string text;
+  readPieces(database_, page, [&](std::string_view piece) {
+    text.append(piece);
+    return true;
+  });
+  return text;
+}
+
+bool SqlitePages::holds(std::int64_t page, std::string_view text) {
+  if (page == 0 || text.empty()) {
+    return page == 0 && text.empty();
+  }
+  bool begins = true;
+  readPieces(database_, page, [&](std::string_view piece) {
+    begins = text.starts_with(piece);
+    text.remove_prefix(begins ? piece.size() : 0);
+    return begins;
+  });
+  return begins && text.empty();
+}
+
+void SqlitePages::store(const StorePage& command, std::string_view text, const SqliteStoredText* ahead) {
+  const char* const column = command.compare ? "comparePage" : "runtimePage";
+  SqlValue own;
+  SqlValue other;
+  {
+    const StatementLoan site = database_.prepare(
+        {"select comparePage, runtimePage from siteRows where idSite = ?1", {SqlValue(command.idSite)}, true});
+    if (!database_.step(site.get())) {
+      return;
+    }
+    const auto pageIn = [&](int field) {
+      return sqlite3_column_type(site.get(), field) == SQLITE_NULL
+                 ? SqlValue()
+                 : SqlValue(std::int64_t{sqlite3_column_int64(site.get(), field)});
+    };
+    own = pageIn(command.compare ? 0 : 1);
+    other = pageIn(command.compare ? 1 : 0);
+  }
+  if (!own.isNull() && holds(own.toInt64(), text)) {
+    return;
+  }
+  std::int64_t page = 0;
+  if (!text.empty()) {
+    const bool shared = !other.isNull() && other != own && holds(other.toInt64(), text);
+    const bool isAhead = !shared && ahead != nullptr && ahead->is(text) && isComplete(*ahead);
+    page = shared ? other.toInt64() : isAhead ? ahead->page() : write(text);
+  }
+  database_.run({std::string("update siteRows set ") + column + " = ?1 where idSite = ?2",
+                 {SqlValue(page), SqlValue(command.idSite)},
+                 true});
+}
+
+bool SqlitePages::isComplete(const SqliteStoredText& ahead) {
+  const SqlValue first(ahead.page() * kPiecesOfPage);
+  return oneNumber(database_,
+                   {"select count(*) from pagePieces where piece >= ?1 and piece < ?1 + 4", {first}, true}) ==
+         ahead.pieces();
+}
+
+std::int64_t SqlitePages::write(std::string_view text) {
+  const std::int64_t page = oneNumber(database_, {kNextPage, {}, true});
+  for (std::int64_t piece = 0; piece < piecesFor(text); ++piece) {
+    database_.run({"insert into pagePieces (piece, content) values (?1, ?2)",
+                   {SqlValue(page * kPiecesOfPage + piece), pieceOf(text, piece)},
+                   true});
+  }
+  return page;
+}
+
+}  // namespace tarnwick
