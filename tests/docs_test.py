@@ -48,6 +48,7 @@ NO_MESSAGES = {
     "src/base/base64.cpp": ("who decodes says what is wrong in words of his own", ()),
     "src/engine/inet_pool.cpp": ("the states of a request, kept for callers of the pool and shown nowhere", ()),
     "src/engine/site_reasons.cpp": ("what is asked of the database", ("case when",)),
+    "src/platform/sqlite/sql_sites.cpp": ("what is asked of the database", ("comparePage as", "runtimePage as")),
     "src/ui/*_layout.cpp": ("labels and hints of the window; the guide explains the controls", ()),
     "src/ui/controls/option_form.cpp": ("what a page of options says of a value; the guide explains it", ()),
     "src/ui/site/new_post_var.cpp": ("hints in the fields", ()),

@@ -2,34 +2,24 @@
 #pragma once
 
 #include <cstdint>
-#include <exception>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "engine/in_flight.h"
-#include "engine/result_recording.h"
+#include "engine/pass_recording.h"
 #include "engine/run_controller.h"
 #include "engine/selected_sites.h"
-#include "engine/write_turn.h"
 #include "store/site_options.h"
 #include "store/text_table.h"
 
 namespace tarnwick {
-
-class SitesToTest;
-class UncountedFailures;
 
 /// One test pass: fetches every selected site through the pool and has each result judged and recorded. Its life is the
 /// time in which the run is `busy`: however it ends, by its last row, by Stop or by an error, the pool is closed and
 /// the lamps are put right.
 class TestPass {
  public:
-  /// What a pass leaves to those that follow.
-  struct Debts {
-    SitesToTest& checks;
-    UncountedFailures& failures;
-  };
+  using Debts = PassDebts;
 
   /// `busy` is true from here until this object ends.
   TestPass(RunController& run, const RunController::Needs& needs, bool& busy, const Debts& debts);
@@ -56,35 +46,10 @@ class TestPass {
   void sendRequest(std::int16_t slot, std::size_t row);
   void awaitAllSlots();
   void drain();
-  void finishSlot(std::int16_t slot);
-  /// What a row's request came to.
-  struct Fetched {
-    const std::string& content;
-    std::int32_t errCode;
-    const std::string& errDescription;
-  };
-
-  void record(std::size_t row, const Fetched& fetched);
-  /// What was recorded.
-  struct Stored {
-    bool passed;
-    bool counted;
-  };
-  std::optional<Stored> store(std::size_t row, const Fetched& fetched);
-  std::optional<Stored> storeResult(std::size_t row, const Fetched& fetched, KeptPage kept, bool isTooFull);
-  void shortenLog();
-  std::optional<std::uint64_t> logLimit() const;
-  void alertUnrecorded(std::size_t row, const Fetched& fetched);
-  void tellLostMail(std::size_t row);
-  void deferUnlessGeneral(const std::exception_ptr& fault);
-  std::exception_ptr outOfMemory(std::size_t row) const;
-  FirstBaseline firstBaselineOf(std::int16_t id) const;
-  void count(std::int16_t id, bool passed);
-  static void deferFault(std::exception_ptr& first, const std::exception_ptr& fault);
+  void sendInto(const std::vector<std::int16_t>& freeSlots);
+  void emptySlots(const std::vector<std::int16_t>& slots);
+  void emptySlot(std::int16_t slot);
   void raiseDeferred() const;
-  void dropPage(std::size_t row, SelectedSites::Standing standing);
-  void alertAndCount(std::size_t row, bool counted);
-  WriteTurn writeTurn();
   void takeRow(std::size_t row);
   void showProgress();
 
@@ -95,11 +60,8 @@ class TestPass {
   SelectedSites sites_{needs_, TextTable()};
   OptionsInForce options_;
   std::vector<std::int16_t> brightened_;
-  // The first faults that concern one site alone, told when the others have been tested: one that left its check to be
-  // done again, and one that did not.
-  std::exception_ptr deferred_;
-  std::exception_ptr unusableId_;
-  std::exception_ptr fullCounter_;
+  PassFaults faults_;
+  PassRecording recording_{run_, needs_, debts_, {sites_, options_, brightened_, faults_}};
   InFlight inFlight_{{}, {}};
   std::int64_t progressStep_ = 0;
   std::int64_t progressWidth_ = -1;
