@@ -98,6 +98,9 @@ Wishes wishesOf(const std::vector<std::string>& arguments) {
       }
     } else if (name == "--original") {
       wishes.plan.original = true;
+    } else if (name == "--model") {
+      wishes.plan.model = true;
+      wishes.plan.without.insert({Trouble::clock, Trouble::locks, Trouble::disk});
     } else if (name == "--cut-everywhere") {
       wishes.cutsEverywhere = true;
     } else if (name == "--once") {

@@ -47,7 +47,7 @@ std::string Plan::command() const {
   list("--without", without,
        [](Trouble trouble) { return std::string(kTroubleNames.at(static_cast<std::size_t>(trouble))); });
   list("--leave-out", leftOut, [](std::size_t number) { return std::to_string(number); });
-  return line + (original ? " --original" : "");
+  return line + (original ? " --original" : "") + (model ? " --model" : "");
 }
 
 }  // namespace tarnwick::simulation

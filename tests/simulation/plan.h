@@ -36,6 +36,9 @@ struct Plan {
   std::set<std::size_t> leftOut{};
   /// Without any recommended option; drawn from the seed when it is not said.
   bool original = false;
+  /// Compared with the executable model at each wait. That knows nothing of clocks that are set, of failing disks, of
+  /// locks, nor of what other programs check and set: these troubles are left out.
+  bool model = false;
 
   /// Everything that happens, in the order of its numbers.
   std::vector<Happening> happenings() const;

@@ -37,6 +37,9 @@ bool Process::live() {
   try {
     program_.start();
     terminal_.prepare(program_.data());
+    if (onStarted) {
+      onStarted();
+    }
     program_.startRun();
     while (!loop_.pump.closing()) {
       loop_.pump.waitForEvent();

@@ -37,10 +37,16 @@ class WatchedView final : public RunView {
   void fillGrid() override { terminal_.fillGrid(); }
   void showStatus(const std::string& text) override {
     world_.journal.addTick("status", text);
+    if (onStatus) {
+      onStatus(text);
+    }
     terminal_.showStatus(text);
   }
   void indicators(RunState state) override {
     world_.journal.addTick("lamp", state == RunState::start ? "start" : state == RunState::pause ? "pause" : "stop");
+    if (onLamp) {
+      onLamp(state);
+    }
     terminal_.indicators(state);
   }
   void blinkLamps() override { terminal_.blinkLamps(); }
@@ -63,6 +69,8 @@ class WatchedView final : public RunView {
   }
 
   std::function<void(const CheckResult&)> onResult;
+  std::function<void(RunState)> onLamp;
+  std::function<void(const std::string&)> onStatus;
 
  private:
   World& world_;
@@ -78,6 +86,9 @@ class Process {
   bool live();
   Program& program() { return program_; }
   WatchedView& view() { return view_; }
+  SimulatedPump& pump() { return loop_.pump; }
+  /// Called when the program has been started, before its run is.
+  std::function<void()> onStarted;
 
  private:
   World& world_;

@@ -22,6 +22,9 @@ class SimulatedDesktop final : public Prompts, public SoundPlayer, public Progra
 
   void inform(const Message& message, std::function<void()> closed = {}) override {
     ++boxes_;
+    if (onBox) {
+      onBox(message.text);
+    }
     journal_.add("box", message.text);
     if (closed) {
       closed();
@@ -35,6 +38,9 @@ class SimulatedDesktop final : public Prompts, public SoundPlayer, public Progra
 
   long play(const std::string& fileName) override {
     ++sounds_;
+    if (onSound) {
+      onSound(fileName);
+    }
     journal_.add("sound", fileName);
     return 1;
   }
@@ -44,6 +50,9 @@ class SimulatedDesktop final : public Prompts, public SoundPlayer, public Progra
       line += "[" + argument + "]";
     }
     journal_.add("program", line);
+    if (onStart) {
+      onStart(arguments);
+    }
     if (onProgram) {
       onProgram(arguments);
     }
@@ -53,6 +62,9 @@ class SimulatedDesktop final : public Prompts, public SoundPlayer, public Progra
   bool openAddress(const std::string&) override { return true; }
 
   std::function<void(const std::vector<std::string>&)> onProgram;
+  std::function<void(const std::vector<std::string>&)> onStart;
+  std::function<void(const std::string&)> onSound;
+  std::function<void(const std::string&)> onBox;
   std::uint64_t sounds() const { return sounds_; }
   std::uint64_t boxes() const { return boxes_; }
 

@@ -12,7 +12,11 @@ class SimulatedMail::Socket final : public TcpSocket {
  public:
   explicit Socket(SimulatedMail& mail) : mail_(mail), next_(mail.agenda_) {}
 
-  void connectTo(const std::string&, std::uint16_t) override {
+  void connectTo(const std::string& host, std::uint16_t) override {
+    if (mail_.onConnect) {
+      mail_.onConnect(host);
+    }
+    inExchange_ = true;
     ++mail_.begun_;
     state_ = SocketState::connecting;
     answers_ = 0;
@@ -31,6 +35,9 @@ class SimulatedMail::Socket final : public TcpSocket {
       return;
     }
     mail_.journal_.add("mail", data);
+    if (mail_.onSent) {
+      mail_.onSent(data);
+    }
     ++answers_;
     if (mail_.mood_ == MailMood::cutting && answers_ == kMailItself) {
       next_.in(delay(), [this] { state_ = SocketState::closed; });
@@ -47,6 +54,9 @@ class SimulatedMail::Socket final : public TcpSocket {
   void close() override {
     next_.cancel();
     state_ = SocketState::closed;
+    if (std::exchange(inExchange_, false) && mail_.onEnd) {
+      mail_.onEnd();
+    }
   }
   void onDataArrival(std::function<void()> handler) override { arrived_ = std::move(handler); }
   std::string localHostName() const override { return "watcher.example"; }
@@ -59,7 +69,7 @@ class SimulatedMail::Socket final : public TcpSocket {
   Time delay() {
     switch (mail_.mood_) {
       case MailMood::slow:
-        return Time(mail_.chance_.between(1000, 20'000));
+        return Time(mail_.chance_.between(1000, 9000));
       case MailMood::silent:
         return Time(mail_.chance_.between(60'000, 3'600'000));
       default:
@@ -79,6 +89,7 @@ class SimulatedMail::Socket final : public TcpSocket {
   Appointment next_;
   std::function<void()> arrived_;
   SocketState state_ = SocketState::closed;
+  bool inExchange_ = false;
   std::string data_;
   int answers_ = 0;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -26,6 +27,10 @@ class SimulatedMail final : public TcpSocketMaker {
 
   void setMood(MailMood mood) { mood_ = mood; }
   MailMood mood() const { return mood_; }
+  /// An exchange begins, sends something, and ends.
+  std::function<void(const std::string& server)> onConnect;
+  std::function<void(const std::string& command)> onSent;
+  std::function<void()> onEnd;
   /// How many exchanges were begun, and how many mails were taken.
   std::uint64_t begun() const { return begun_; }
   std::uint64_t taken() const { return taken_; }

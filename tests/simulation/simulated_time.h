@@ -40,7 +40,9 @@ class SimulatedTimers final : public TimerMaker {
     return std::make_unique<SimulatedTimer>(*this, std::move(tick));
   }
 
- private:
+  class SimulatedTimer;
+  static SimulatedTimer& of(Timer& timer);
+
   class SimulatedTimer final : public Timer {
    public:
     SimulatedTimer(SimulatedTimers& maker, std::function<void()> tick)
@@ -59,12 +61,18 @@ class SimulatedTimers final : public TimerMaker {
     }
     bool enabled() const override { return enabled_; }
 
+    /// Called before each tick.
+    std::function<void()> before;
+
    private:
     void wait() {
       next_.cancel();
       if (enabled_ && interval_.count() > 0) {
         next_.in(interval_ == kLamps ? maker_.lamps_ : interval_, [this] {
           wait();
+          if (before) {
+            before();
+          }
           const auto tick = tick_;  // the tick may destroy this timer
           (*tick)();
         });
@@ -79,9 +87,14 @@ class SimulatedTimers final : public TimerMaker {
     bool enabled_ = false;
   };
 
+ private:
   Agenda& agenda_;
   Time lamps_;
 };
+
+inline SimulatedTimers::SimulatedTimer& SimulatedTimers::of(Timer& timer) {
+  return dynamic_cast<SimulatedTimer&>(timer);
+}
 
 /// The event loop of one simulated process: what it waits for is what the agenda has next.
 class SimulatedPump final : public EventPump {
@@ -92,14 +105,25 @@ class SimulatedPump final : public EventPump {
     if (!closing_) {
       agenda_.happenNow();
     }
+    if (!closing_ && onPumped) {
+      onPumped();
+    }
   }
   void waitForEvent() override {
+    if (!closing_ && onWait) {
+      onWait();
+    }
     if (!closing_) {
       agenda_.happen();
     }
   }
   void close() override { closing_ = true; }
   bool closing() const override { return closing_; }
+
+  /// Called at the beginning of each wait.
+  std::function<void()> onWait;
+  /// Called when all that was due has happened and the caller goes on.
+  std::function<void()> onPumped;
 
  private:
   Agenda& agenda_;

@@ -13,7 +13,11 @@ class SimulatedWeb::Control final : public TransferControl {
   void execute(Request request) override {
     executing_ = true;
     taken_ = {};
+    if (web_.onRequest) {
+      web_.onRequest(request);
+    }
     Answer answer = web_.answerTo(request);
+    url_ = request.url;
     result_ = std::move(answer.result);
     next_.in(answer.after, [this] { end(); });
   }
@@ -29,6 +33,9 @@ class SimulatedWeb::Control final : public TransferControl {
  private:
   void end() {
     taken_ = std::move(result_);
+    if (web_.onAnswer) {
+      web_.onAnswer(url_, taken_);
+    }
     if (stateChanged_) {
       stateChanged_(taken_.fault == TransferFault::none ? transfer_state::responseCompleted : transfer_state::error);
     }
@@ -43,6 +50,7 @@ class SimulatedWeb::Control final : public TransferControl {
   Appointment next_;
   std::function<void(int)> stateChanged_;
   std::function<void()> idle_;
+  std::string url_;
   TransferResult result_;
   TransferResult taken_;
   bool executing_ = false;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -40,6 +41,9 @@ class SimulatedWeb final : public TransferMaker {
   SiteMood moodOf(const std::string& url) { return sites_[url].mood; }
   /// Gives the site another page for good.
   void publish(const std::string& url) { ++sites_[url].edition; }
+  /// What is asked for, and what comes back, just before the program hears of it.
+  std::function<void(const Request&)> onRequest;
+  std::function<void(const std::string& url, const TransferResult&)> onAnswer;
   std::uint64_t requests() const { return requests_; }
 
  private:

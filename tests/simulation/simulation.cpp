@@ -120,7 +120,10 @@ void Simulation::begin(const Happening& happening) {
 void Simulation::changeSites(Chance chance) {
   const std::size_t site = chance.below(urls_.size());
   const std::string& url = urls_[site];
-  const auto mood = static_cast<SiteMood>(chance.below(kSiteMoods));
+  auto mood = static_cast<SiteMood>(chance.below(kSiteMoods));
+  if (plan_.model && mood == SiteMood::shortage) {
+    mood = SiteMood::changing;  // what is tried again is no matter of the model
+  }
   const Time lasts(chance.between(60'000, 86'400'000));
   world_.journal.add("web", url + " turns to mood " + std::to_string(static_cast<int>(mood)));
   world_.web.setMood(url, mood);
@@ -134,10 +137,11 @@ void Simulation::changeSites(Chance chance) {
 }
 
 // Without a bound on its waits a list waits for a server as long as that is silent, and for one that has hung up for
-// ever: so it is specified.
+// ever: so it is specified. With one a server that has not taken a mail in time is not asked again in that pass, which
+// the model knows nothing of.
 void Simulation::changeMail(Chance chance) {
   auto mood = static_cast<MailMood>(chance.below(kMailMoods));
-  if (plan_.original && (mood == MailMood::cutting || mood == MailMood::silent)) {
+  if ((plan_.original && mood == MailMood::cutting) || ((plan_.original || plan_.model) && mood == MailMood::silent)) {
     mood = MailMood::slow;
   }
   world_.journal.add("mail", "the server turns to mood " + std::to_string(static_cast<int>(mood)));
@@ -213,13 +217,40 @@ void Simulation::restart(Chance chance) {
 void Simulation::liveOnce() {
   process_ = std::make_unique<Process>(world_);
   process_->view().onResult = [this](const CheckResult& result) { ledger_.shown(result); };
+  if (plan_.model) {
+    process_->onStarted = [this] { bringInTheModel(); };
+  }
   const bool lived = process_->live();
+  shadow_.reset();
   process_.reset();
   neighbour_.letGo();
   ledger_.excuse(kAfterTrouble + off_);
   if (!lived) {
     off_ = 1min;  // somebody looks after it
   }
+}
+
+void Simulation::bringInTheModel() {
+  shadow_ = std::make_unique<Shadow>(world_, *process_, [this](const std::string& what) {
+    if (!world_.isDead()) {
+      ledger_.fail(what);
+    }
+  });
+  user_.edits = true;
+  user_.addsSites = !plan_.original;
+  user_.onEdited = [this](bool editor) {
+    if (shadow_ && !world_.isDead()) {
+      shadow_->edited(editor);
+    }
+  };
+  user_.onVerb = [this] {
+    if (shadow_ && !world_.isDead()) {
+      shadow_->editedByOthers();
+    }
+  };
+  user_.onStop = [this] { shadow_->stops(); };
+  user_.onStart = [this] { shadow_->starts(); };
+  shadow_->starts();
 }
 
 void Simulation::stayOff() {

@@ -11,6 +11,7 @@
 #include "simulation/neighbour.h"
 #include "simulation/plan.h"
 #include "simulation/process.h"
+#include "simulation/shadow.h"
 #include "simulation/user.h"
 #include "simulation/world.h"
 
@@ -55,6 +56,7 @@ class Simulation {
   void lookNow();
   void liveOnce();
   void stayOff();
+  void bringInTheModel();
   bool isOver() const { return over_ || ledger_.hasFailed(); }
 
   Plan plan_;
@@ -63,6 +65,7 @@ class Simulation {
   User user_{world_, ledger_};
   Neighbour neighbour_{world_};
   std::unique_ptr<Process> process_;
+  std::unique_ptr<Shadow> shadow_;
   std::vector<std::string> urls_;
   /// How long the machine, or the program, stays away.
   Time off_{0};

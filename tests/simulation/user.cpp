@@ -21,6 +21,11 @@ void User::perform(const std::string& what, const std::function<void()>& action)
   }
 }
 
+void User::showAfresh(Program& program) {
+  initialized_ = true;
+  program.run().init();
+}
+
 std::int16_t User::someSite(Chance& chance) const {
   try {
     const std::vector<std::string> ids = askDatabase(world_, "select idSite from sites order by idSite");
@@ -31,6 +36,14 @@ std::int16_t User::someSite(Chance& chance) const {
 }
 
 void User::act(Process& process, Chance chance) {
+  initialized_ = false;
+  actAs(process, chance);
+  if (onEdited) {
+    onEdited(initialized_);
+  }
+}
+
+void User::actAs(Process& process, Chance chance) {
   Program& program = process.program();
   if (!program.isOpen()) {
     return;
@@ -38,17 +51,28 @@ void User::act(Process& process, Chance chance) {
   const std::int16_t id = someSite(chance);
   m& data = program.data();
   enum What { stop, interval, baseline, adopt, add, remove, clearLog, clearCounters, compact, settings, whats };
-  switch (static_cast<What>(chance.below(whats))) {
+  auto what = static_cast<What>(chance.below(whats));
+  if (what == add && !addsSites) {
+    what = settings;
+  }
+  switch (what) {
     case stop:
       perform("stops the run, and starts it later", [&] {
+        if (onStop) {
+          onStop();
+        }
         program.stopRun();
         ledger_.excuse(Time(chance.between(0, 600'000)) + std::chrono::hours(1));
-        world_.agenda.in(Time(chance.between(0, 600'000)), [&world = world_, pump = world_.pumps.front(), &program] {
-          if (!world.pumps.empty() && world.pumps.front() == pump && !pump->closing()) {
-            world.journal.add("user", "starts the run");
-            program.startRun();
-          }
-        });
+        world_.agenda.in(Time(chance.between(0, 600'000)),
+                         [this, &world = world_, pump = world_.pumps.front(), &program] {
+                           if (!world.pumps.empty() && world.pumps.front() == pump && !pump->closing()) {
+                             world.journal.add("user", "starts the run");
+                             if (onStart) {
+                               onStart();
+                             }
+                             program.startRun();
+                           }
+                         });
       });
       break;
     case interval:
@@ -59,7 +83,7 @@ void User::act(Process& process, Chance chance) {
                            static_cast<std::int16_t>(std::stoi(minutes(chance))), chance.oneIn(2), "ann@example.org",
                            "", "");
         }
-        program.run().init();
+        showAfresh(program);
         ledger_.excuse(std::chrono::hours(3));
       });
       break;
@@ -76,7 +100,7 @@ void User::act(Process& process, Chance chance) {
         const std::int16_t made = data.addSite();
         data.updateSites(made, newUrl(), "get", true, static_cast<std::int16_t>(std::stoi(minutes(chance))), false, "",
                          "", "");
-        program.run().init();
+        showAfresh(program);
       });
       break;
     case remove:
@@ -85,7 +109,7 @@ void User::act(Process& process, Chance chance) {
         if (data.getArraySites(0).lastRow() > 5) {
           data.deleteSite(id);
         }
-        program.run().init();
+        showAfresh(program);
       });
       break;
     case clearLog:
@@ -115,6 +139,9 @@ void User::verb(const std::vector<std::string>& arguments) {
   ++verbsAtWork_;
   runVerb(world_, arguments);
   --verbsAtWork_;
+  if (onVerb) {
+    onVerb();
+  }
 }
 
 void User::runSomeVerb(Chance chance) {
@@ -123,7 +150,11 @@ void User::runSomeVerb(Chance chance) {
   }
   const std::string id = std::to_string(someSite(chance));
   enum What { sites, add, set, check, log, report, exporting, settings, diff, option, whats };
-  switch (static_cast<What>(chance.below(whats))) {
+  const auto what = static_cast<What>(chance.below(whats));
+  if ((edits && (what == check || what == option)) || (what == add && !addsSites)) {
+    return;
+  }
+  switch (what) {
     case sites:
       verb({"sites", "--json"});
       break;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,17 @@ class User {
  public:
   User(World& world, Ledger& ledger) : world_(world), ledger_(ledger) {}
 
+  /// Called when something was changed, and whether that was with an editor that was closed; after a verb; before the
+  /// run is stopped, and before it is started.
+  std::function<void(bool editor)> onEdited;
+  std::function<void()> onVerb;
+  std::function<void()> onStop;
+  std::function<void()> onStart;
+  /// No verb that makes checks of its own, or changes how many there are at a time.
+  bool edits = false;
+  /// Adds no site: without the option for new sites they would be unwatched, and the run stand still for them.
+  bool addsSites = true;
+
   /// Something in the window of the running program, also in the middle of a pass.
   void act(Process& process, Chance chance);
   /// Something in a terminal beside it.
@@ -27,6 +39,9 @@ class User {
   std::string newUrl() { return "http://added" + std::to_string(++added_) + ".example/"; }
 
  private:
+  void actAs(Process& process, Chance chance);
+  /// As the window does when an editor was closed.
+  void showAfresh(Program& program);
   void perform(const std::string& what, const std::function<void()>& action);
   void verb(const std::vector<std::string>& arguments);
   /// One of the sites in the list; 0 when there is none.
@@ -36,6 +51,7 @@ class User {
   Ledger& ledger_;
   std::uint64_t added_ = 0;
   int verbsAtWork_ = 0;
+  bool initialized_ = false;
 };
 
 }  // namespace tarnwick::simulation

@@ -77,8 +77,9 @@ void layFolder(World& world, bool original) {
   if (sqlite3_exec(database.get(), schema.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
     throw std::runtime_error(sqlite3_errmsg(database.get()));
   }
-  std::ofstream(world.disk.folder() + "/email.txt") << "At ~date~ the site ~idsite~, ~url~, failed.\r\n";
+  std::ofstream(world.disk.folder() + "/email.txt") << kMailTemplate;
   world.files.makeFolder(world.disk.folder() + "/reports");
+  std::ofstream(world.disk.folder() + "/reports/green.jpg") << "green";
 }
 
 std::vector<std::string> askDatabase(World& world, const std::string& sql) {

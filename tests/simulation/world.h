@@ -89,6 +89,9 @@ class LivingPump {
   SimulatedPump pump;
 };
 
+/// The text of the mails.
+inline constexpr const char* kMailTemplate = "At ~date~ the site ~idsite~, ~url~, failed.\r\n";
+
 /// Lays a fresh list and a mail template into the program folder; `original` without the recommended options.
 void layFolder(World& world, bool original);
 

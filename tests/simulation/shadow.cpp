@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: MIT
+#include "simulation/shadow.h"
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+#include <variant>
+
+#include "base/product.h"
+#include "simulation/model_list.h"
+
+namespace tarnwick::simulation {
+namespace {
+
+std::string dateOf(model::Time now) { return dateTimeText(now); }
+
+std::string requestLine(const std::string& method, const std::string& url, const std::string& user,
+                        const std::string& password, const std::string& header, const std::string& body,
+                        std::int64_t timeout) {
+  return "request " + method + " " + url + " as " + user + " " + password + " with " + header + " " + body +
+         " within " + std::to_string(timeout);
+}
+
+std::string programLine(const std::vector<std::string>& arguments) {
+  std::string line = "program ";
+  for (const std::string& argument : arguments) {
+    line += "[" + argument + "]";
+  }
+  return line;
+}
+
+}  // namespace
+
+Shadow::Shadow(World& world, Process& process, std::function<void(const std::string&)> fail)
+    : world_(world), process_(process), fail_(std::move(fail)) {
+  model::Surroundings surroundings;
+  surroundings.hostName = "watcher.example";
+  surroundings.hostAddress = "192.0.2.7";
+  surroundings.website = kProductHomePage;
+  surroundings.mailTemplate = kMailTemplate;
+  surroundings.dateText = dateOf;
+  model_ = std::make_unique<model::Model>(surroundings, sitesOf(world_), settingsOf(world_));
+  model_->takeEffects();
+  asksAfresh_ = settingsOf(world_).newSites == model::NewSites::kAtOnce;
+  logBefore_ = std::stoull(askDatabase(world_, "select count(*) from log").front());
+  watch();
+}
+
+Shadow::~Shadow() {
+  world_.web.onRequest = nullptr;
+  world_.web.onAnswer = nullptr;
+  world_.mail.onConnect = nullptr;
+  world_.mail.onSent = nullptr;
+  world_.mail.onEnd = nullptr;
+  world_.desktop.onSound = nullptr;
+  world_.desktop.onBox = nullptr;
+}
+
+void Shadow::watch() {
+  world_.web.onRequest = [this](const Request& request) {
+    see(requestLine(request.method, request.url, request.userName, request.password, request.headers, request.body,
+                    request.timeout.count()));
+  };
+  world_.web.onAnswer = [this](const std::string& url, const TransferResult& result) { answered(url, result); };
+  world_.mail.onConnect = [this](const std::string& server) { see("mail to " + server); };
+  world_.mail.onSent = [this](const std::string& command) { mailed(command); };
+  world_.mail.onEnd = [this] {
+    model_->mailEnded(now());
+    moved_ = true;
+  };
+  world_.desktop.onSound = [this](const std::string& file) { see("sound " + file); };
+  world_.desktop.onBox = [this](const std::string&) { see("box"); };
+  world_.desktop.onStart = [this](const std::vector<std::string>& arguments) { see(programLine(arguments)); };
+  process_.view().onLamp = [this](RunState state) {
+    see(state == RunState::start ? "lamp start" : state == RunState::pause ? "lamp pause" : "lamp stop");
+  };
+  process_.view().onStatus = [this](const std::string& text) { see("status " + text); };
+  Program& program = process_.program();
+  SimulatedTimers::of(program.run().tmrCheckSites()).before = [this] { second(); };
+  SimulatedTimers::of(program.report().tmrReport()).before = [this] { model_->minute(now()); };
+  process_.pump().onPumped = [this] { look(); };
+  process_.pump().onWait = [this] { compare(); };
+}
+
+// A run that takes on new sites at once asks afresh when others have changed the list, which its first question cannot
+// rule out.
+void Shadow::second() {
+  if (asksAfresh_ && model_->countdown() > 1) {
+    asksAfresh_ = false;
+    model_->editorClosed();
+  }
+  model_->second(now());
+}
+
+void Shadow::answered(const std::string& url, const TransferResult& result) {
+  moved_ = true;
+  model::Answer answer;
+  if (result.fault != TransferFault::none) {
+    answer.kind =
+        result.fault == TransferFault::shortage ? model::Answer::Kind::kNotMade : model::Answer::Kind::kFailed;
+    answer.code = static_cast<std::int32_t>(result.code());
+    answer.text = result.cause;
+  }
+  answer.page = result.page;
+  for (const model::Effect& effect : model_->takeEffects()) {
+    expect(effect);
+  }
+  if (!model_->answered(asked_[url], std::move(answer), now())) {
+    fail_("the program has a request to " + url + " in flight, and the model has none");
+  }
+  answered_ = true;
+}
+
+// The program looks for slots that have come free as soon as there is an answer; of several at one moment it sees all.
+void Shadow::look() {
+  if (std::exchange(answered_, false)) {
+    model_->sweep(now());
+  }
+}
+
+void Shadow::mailed(const std::string& command) {
+  if (mail_.empty() || mail_.front() != command) {
+    fail_("the program mails " + command + "and the model " + (mail_.empty() ? "nothing" : mail_.front()));
+    return;
+  }
+  mail_.pop_front();
+}
+
+void Shadow::expect(const model::Effect& effect) {
+  if (const auto* lamp = std::get_if<model::LampLit>(&effect)) {
+    expected_.push_back(lamp->lamp == model::Lamp::kStart   ? "lamp start"
+                        : lamp->lamp == model::Lamp::kPause ? "lamp pause"
+                                                            : "lamp stop");
+  } else if (const auto* status = std::get_if<model::StatusShown>(&effect)) {
+    expected_.push_back("status " + status->text);
+  } else if (const auto* request = std::get_if<model::Request>(&effect)) {
+    asked_[request->url] = request->idSite;
+    expected_.push_back(requestLine(request->method, request->url, request->userName, request->passWord,
+                                    request->header, request->body, request->timeout));
+  } else if (const auto* mail = std::get_if<model::Mail>(&effect)) {
+    const auto commands = model::mailCommands(*mail, kProductHomePage);
+    mail_.assign(commands.begin(), commands.end());
+    expected_.push_back("mail to " + mail->server);
+  } else if (const auto* sound = std::get_if<model::Sound>(&effect)) {
+    expected_.push_back("sound " + sound->file);
+  } else if (const auto* program = std::get_if<model::Program>(&effect)) {
+    expected_.push_back(programLine(program->arguments));
+  } else if (std::holds_alternative<model::ErrorBox>(effect)) {
+    expected_.push_back("box");
+  }
+}
+
+void Shadow::compare() {
+  look();
+  ++comparisons_;
+  try {
+    compareEffects();
+    if (std::exchange(moved_, false)) {
+      compareRows();
+      compareLog();
+    }
+  } catch (const std::exception& error) {
+    fail_(std::string("the list cannot be compared with the model: ") + error.what());
+  }
+}
+
+void Shadow::compareEffects() {
+  for (const model::Effect& effect : model_->takeEffects()) {
+    expect(effect);
+  }
+  if (expected_ == seen_) {
+    expected_.clear();
+    seen_.clear();
+    return;
+  }
+  const auto [expected, seen] = std::ranges::mismatch(expected_, seen_);
+  fail_("the program does \"" + (seen == seen_.end() ? "nothing" : *seen) + "\" where the model does \"" +
+        (expected == expected_.end() ? "nothing" : *expected) + "\"");
+}
+
+void Shadow::compareRows() {
+  const model::Sites stored = sitesOf(world_);
+  const model::Sites& rows = model_->rows();
+  for (const auto& [id, site] : rows) {
+    const auto found = stored.find(id);
+    if (found == stored.end()) {
+      fail_("the model has a site that the list has not: " + lineOf(site));
+      return;
+    }
+    if (lineOf(found->second) != lineOf(site)) {
+      fail_("the list has\n  " + lineOf(found->second) + "\nwhere the model has\n  " + lineOf(site));
+      return;
+    }
+  }
+  if (stored.size() != rows.size()) {
+    fail_("the list has sites that the model has not");
+  }
+}
+
+void Shadow::compareLog() {
+  const std::vector<model::LogRow> stored = logOf(world_, logBefore_ + logSeen_);
+  const std::vector<model::LogRow>& log = model_->log();
+  for (std::size_t i = 0; i < std::max(stored.size(), log.size() - logSeen_); ++i) {
+    const bool listed = i < stored.size();
+    const bool modelled = logSeen_ + i < log.size();
+    if (!listed || !modelled || !(stored[i] == log[logSeen_ + i])) {
+      fail_("the log has\n  " + (listed ? lineOf(stored[i]) : "nothing") + "\nwhere the model has\n  " +
+            (modelled ? lineOf(log[logSeen_ + i]) : "nothing"));
+      return;
+    }
+  }
+  logSeen_ = log.size();
+}
+
+void Shadow::editedByOthers() {
+  edited(false);
+  asksAfresh_ = settingsOf(world_).newSites == model::NewSites::kAtOnce;
+}
+
+// What a user types is no matter of the model: it is told the outcome, and has to go on alike from there.
+void Shadow::edited(bool editor) {
+  moved_ = true;
+  const model::Sites stored = sitesOf(world_);
+  const model::Sites before = model_->rows();
+  for (const auto& [id, site] : before) {
+    if (!stored.contains(id)) {
+      model_->deleted(id);
+    }
+  }
+  for (const auto& [id, site] : stored) {
+    if (!before.contains(id) && model_->added() != id) {
+      fail_("the new site has another number than the model gives");
+    }
+    const model::Site& known = model_->rows().at(id);
+    if (site.baseline != known.baseline) {
+      model_->baselineStored(id, site.baseline.value_or(""));
+    }
+    if (site.success != known.success || site.failure != known.failure) {
+      model_->countersCleared(id);
+    }
+    model_->edited(site);
+  }
+  if (std::stoull(askDatabase(world_, "select count(*) from log").front()) < logBefore_ + logSeen_) {
+    model_->logCleared();
+    logBefore_ = 0;
+    logSeen_ = 0;
+  }
+  model_->settingsStored(settingsOf(world_));
+  if (editor) {
+    model_->editorClosed();
+  }
+}
+
+}  // namespace tarnwick::simulation
