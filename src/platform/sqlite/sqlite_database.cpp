@@ -101,7 +101,8 @@ bool haveAloneIfNeeded(sqlite3* database, const std::string& path) {
 
 SqliteDatabase::SqliteDatabase(std::string path) : path_(std::move(path)) {
   openInPlace(path_, [this](const auto& before) { open(before); });
-  if (!unchanged_ && !liesOnNetwork(path_)) {  // where a file may be known by another number every time
+  // The watch looks into the shared memory, which who has the database alone does not open.
+  if (!unchanged_ && !alone_ && !liesOnNetwork(path_)) {  // where a file may be known by another number every time
     watch_.emplace(path_, handle());
     sqlite3_wal_hook(handle(), &takeLogIn, this);
   }
