@@ -178,9 +178,6 @@ void TestPass::sendInto(const std::vector<std::int16_t>& freeSlots) {
         std::rethrow_exception(outOfMemoryFor(sites_.idSite(row)));
       }
       takeRow(row);
-      if (inFlight_.left() == 0) {
-        return;  // what has come meanwhile is recorded when all have
-      }
     }
   }
 }

@@ -184,7 +184,8 @@ void Model::endPass() {
   slots_.clear();
   table_.clear();
   offered_.clear();
-  emptied_.reset();
+  waiting_.clear();
+  recording_ = false;
   mailing_ = false;
   stage_ = Stage::kIdle;
   light(running_ ? Lamp::kPause : Lamp::kStop);
@@ -213,26 +214,50 @@ bool Model::step(Time now) {
   return allFree;
 }
 
-// Visits the free slots in their order: the result of a slot is recorded first, then the slot takes the next row. A
-// slot that comes free while a mail is under way is only seen at the next look.
+// A look at the free slots takes their results out. One alone is recorded before anything is sent; where several have
+// come together the next rows are sent first, and then they are recorded, one after the other. A slot that comes free
+// while a mail is under way is only seen at the next look.
 bool Model::dispatchStep(Time now) {
-  if (emptied_) {
-    dispatch(slots_[*emptied_]);
-    emptied_.reset();
-    if (nextRow_ == table_.size())
-      stage_ = Stage::kAwait;
-    return true;
+  const bool allSent = nextRow_ == table_.size();
+  recording_ = recording_ && !waiting_.empty();
+  if (offered_.empty() && !recording_ && !allSent) {
+    look();
   }
-  for (std::size_t s = 0, seen = offered_.size(); seen == 0 && s < slots_.size(); ++s) {
-    if (slots_[s].state == SlotState::kFree)
-      offered_.push_back(s);
-  }
-  if (offered_.empty())
+  recording_ = !waiting_.empty() && (recording_ || offered_.empty() || allSent);
+  if (recording_) {
+    Slot next = std::move(waiting_.front());
+    waiting_.erase(waiting_.begin());
+    record(next, now);
+  } else if (allSent) {
+    offered_.clear();
+    stage_ = Stage::kAwait;
+  } else if (!offered_.empty()) {
+    dispatch(slots_[offered_.front()]);
+    offered_.erase(offered_.begin());
+  } else {
     return false;
-  emptied_ = offered_.front();
-  offered_.erase(offered_.begin());
-  record(slots_[*emptied_], now);
+  }
   return true;
+}
+
+// Nothing to look for among slots that were free and empty before, once something waits to be recorded.
+void Model::look() {
+  const auto isFree = [](const Slot& slot) { return slot.state == SlotState::kFree; };
+  const bool anyDone = std::any_of(slots_.begin(), slots_.end(), [&](const Slot& s) { return isFree(s) && s.done; });
+  if (!anyDone && !waiting_.empty()) {
+    return;
+  }
+  for (std::size_t s = 0; s < slots_.size(); ++s) {
+    if (!isFree(slots_[s])) {
+      continue;
+    }
+    offered_.push_back(s);
+    if (slots_[s].done) {
+      waiting_.push_back(slots_[s]);
+      slots_[s].done = false;
+    }
+  }
+  recording_ = waiting_.size() == 1;
 }
 
 // With every row sent, results wait until the last answer is in and are then recorded in the order of the slots.

@@ -231,6 +231,7 @@ class Model {
   void proceed(Time now);
   bool step(Time now);
   bool dispatchStep(Time now);
+  void look();
   bool drainStep(Time now);
   void dispatch(Slot& slot);
   void record(Slot& slot, Time now);
@@ -260,7 +261,8 @@ class Model {
   std::vector<Slot> slots_;
   std::vector<std::size_t> offered_;  // slots found free at the last look, not yet visited
   std::size_t nextRow_ = 0, nextDrained_ = 0;
-  std::optional<std::size_t> emptied_;  // a visited slot whose result is recorded and which takes the next row
+  std::vector<Slot> waiting_;  // results that are taken out of their slots and not recorded yet
+  bool recording_ = false;     // until none of them is left
   int timeout_ = 0;
   Verdict verdict_;
   bool mailing_ = false;
