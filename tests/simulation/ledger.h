@@ -66,7 +66,8 @@ class Ledger {
   World& world_;
   bool known_ = false;
   bool diskFails_ = false;
-  std::uint64_t logBefore_ = 0;  ///< rows that were there when the comparison began
+  std::uint64_t logBefore_ = 0;  ///< the last row of the log that has been compared
+  bool unshown_ = false;         ///< a row is there that was not shown yet
   std::deque<Row> expected_;
   std::map<std::int16_t, Counts> countersBefore_;
   std::map<std::int16_t, Counts> seen_;

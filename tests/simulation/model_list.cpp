@@ -124,7 +124,7 @@ std::vector<model::LogRow> logOf(World& world, std::uint64_t from) {
   for (const std::string& row : askDatabase(
            world, "select " +
                       columns({"idSite", "url", "status", "errCode", "errDescription", "content", "dateStamp"}) +
-                      " from log order by rowid limit -1 offset " + std::to_string(from))) {
+                      " from log where rowid > " + std::to_string(from) + " order by rowid")) {
     Fields fields(row);
     model::LogRow& read = rows.emplace_back();
     read.idSite = fields.number().value_or(0);

@@ -42,7 +42,7 @@ Shadow::Shadow(World& world, Process& process, std::function<void(const std::str
   model_ = std::make_unique<model::Model>(surroundings, sitesOf(world_), settingsOf(world_));
   model_->takeEffects();
   asksAfresh_ = settingsOf(world_).newSites == model::NewSites::kAtOnce;
-  logBefore_ = std::stoull(askDatabase(world_, "select count(*) from log").front());
+  logBefore_ = lastLogRow(world_);
   watch();
 }
 
@@ -198,7 +198,7 @@ void Shadow::compareRows() {
 }
 
 void Shadow::compareLog() {
-  const std::vector<model::LogRow> stored = logOf(world_, logBefore_ + logSeen_);
+  const std::vector<model::LogRow> stored = logOf(world_, logBefore_);
   const std::vector<model::LogRow>& log = model_->log();
   for (std::size_t i = 0; i < std::max(stored.size(), log.size() - logSeen_); ++i) {
     const bool listed = i < stored.size();
@@ -210,6 +210,7 @@ void Shadow::compareLog() {
     }
   }
   logSeen_ = log.size();
+  logBefore_ = lastLogRow(world_);
 }
 
 void Shadow::editedByOthers() {
@@ -240,9 +241,9 @@ void Shadow::edited(bool editor) {
     }
     model_->edited(site);
   }
-  if (std::stoull(askDatabase(world_, "select count(*) from log").front()) < logBefore_ + logSeen_) {
+  logBefore_ = lastLogRow(world_);
+  if (logBefore_ == 0) {
     model_->logCleared();
-    logBefore_ = 0;
     logSeen_ = 0;
   }
   model_->settingsStored(settingsOf(world_));

@@ -125,6 +125,7 @@ void User::actAs(Process& process, Chance chance) {
       });
       break;
     case compact:
+      ledger_.disturb();
       perform("compacts the list", [&] { world_.journal.add("user", data.compact() ? "it is smaller" : "it is not"); });
       break;
     default:
@@ -168,6 +169,7 @@ void User::runSomeVerb(Chance chance) {
     case check:
       ledger_.disturb();
       verb({"check", id});
+      ledger_.disturb();  // what was settled meanwhile did not know of its result
       ledger_.excuse(static_cast<std::int16_t>(std::stoi(id)), Time(0));
       break;
     case log:

@@ -106,4 +106,8 @@ std::vector<std::string> askDatabase(World& world, const std::string& sql) {
   return rows;
 }
 
+std::uint64_t lastLogRow(World& world) {
+  return std::stoull(askDatabase(world, "select coalesce(max(rowid), 0) from log").front());
+}
+
 }  // namespace tarnwick::simulation

@@ -98,4 +98,7 @@ void layFolder(World& world, bool original);
 /// Runs one statement of SQLite's own SQL as another program would, and returns its rows, their fields joined with "|".
 std::vector<std::string> askDatabase(World& world, const std::string& sql);
 
+/// The number of the last row of the log. A compaction may number them anew, and so does a log that was cleared.
+std::uint64_t lastLogRow(World& world);
+
 }  // namespace tarnwick::simulation
