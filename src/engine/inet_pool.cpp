@@ -74,7 +74,6 @@ void InetPool::killAllSockets() {
 void InetPool::stateChanged(Slot& slot, int state) {
   slot.lastState = state;
   if (transfer_state::isLast(state)) {
-    slot.result = slot.inet->takeResult();
     slot.done = true;
   }
 }
@@ -100,7 +99,6 @@ void InetPool::testInetConnection() {
 void InetPool::send(std::int16_t slot, std::size_t row, Request request) {
   Slot& sending = at(slot);
   sending.row = row;
-  sending.result = {};
   sending.done = false;
   request.timeout = timeout_;
   sending.inet->execute(std::move(request));
@@ -108,7 +106,7 @@ void InetPool::send(std::int16_t slot, std::size_t row, Request request) {
 
 void InetPool::saveSocketData(std::int16_t slot) {
   Slot& finished = at(slot);
-  TransferResult result = std::exchange(finished.result, {});
+  TransferResult result = finished.inet->takeResult();
   const bool failed = result.fault != TransferFault::none;
   Row& row = rows_.at(finished.row);
   row.content = failed ? "11:" + result.cause : std::move(result.page);

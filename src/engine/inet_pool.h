@@ -79,7 +79,6 @@ class InetPool {
   struct Slot {
     std::unique_ptr<TransferControl> inet;
     int lastState = 0;
-    TransferResult result;
     bool done = false;
     std::size_t row = 0;
   };

@@ -141,6 +141,7 @@ std::optional<PassRecording::Stored> PassRecording::store(std::size_t row, const
     needs_.keptPages.forgetLogSize();
     return error.forWantOfRoom();
   };
+  const std::unique_ptr<StoredText> ahead = storeAhead(row, fetched);
   try {
     return storeResult(row, fetched, keptPage(), false);
   } catch (const DataAccessError& error) {
@@ -156,6 +157,17 @@ std::optional<PassRecording::Stored> PassRecording::store(std::size_t row, const
       alertUnrecorded(row, fetched);
     }
     throw;
+  }
+}
+
+// A long page takes its time, in which the window is to go on.
+std::unique_ptr<StoredText> PassRecording::storeAhead(std::size_t row, const Fetched& fetched) {
+  try {
+    return keptPage() == KeptPage::whole
+               ? needs_.results.storeAhead(sites_.idSite(row), fetched.content, [this] { needs_.pump.pump(); })
+               : nullptr;
+  } catch (const DataAccessError&) {
+    return nullptr;  // whatever it is, recording it meets it, too
   }
 }
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <exception>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -71,6 +72,7 @@ class PassRecording {
 
   /// Takes a row whose request has ended; it is not recorded yet.
   void add(std::size_t row);
+  bool hasLargePage() const { return hasLargePage_; }
   /// Whether the rows that wait may do so while further requests are sent.
   bool mayWait() const;
   /// Whether some wait that should be recorded before anything is waited for.
@@ -95,6 +97,7 @@ class PassRecording {
   std::size_t recordTogether(std::span<const std::size_t> rows);
   void guarded(std::size_t row, const std::function<void()>& action);
   void tell(std::size_t row, const Fetched& fetched, const Stored& stored);
+  std::unique_ptr<StoredText> storeAhead(std::size_t row, const Fetched& fetched);
   KeptPage keptPage() const;
   std::optional<Stored> store(std::size_t row, const Fetched& fetched);
   std::optional<Stored> storeResult(std::size_t row, const Fetched& fetched, KeptPage kept, bool isTooFull);

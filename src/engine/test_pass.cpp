@@ -232,6 +232,9 @@ void TestPass::emptySlots(const std::vector<std::int16_t>& slots) {
     if (needs_.pool.socketDone(slot)) {
       emptySlot(slot);
     }
+    if (recording_.hasLargePage()) {
+      recording_.recordWaiting();  // one at a time in memory
+    }
   }
 }
 

@@ -170,7 +170,6 @@ class SqliteConnection final : public SqlConnection {
 
   std::unique_ptr<Recordset> run(std::string_view sql, const std::optional<LongText>& text) {
     return told(sql, [&](SqliteDatabase& database) -> std::unique_ptr<Recordset> {
-      database.fitCache(text ? text->text.size() : sql.size());
       SqlCommand command = translateSql(sql, clock_, database.pages());
       if (text) {
         putIn(command, sql.data() + text->place, text->text);

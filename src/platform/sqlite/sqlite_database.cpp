@@ -22,10 +22,8 @@ constexpr std::size_t kStatementsKept = 64;
 /// How long the database is kept from others where it must be had alone, before it is looked whether it still must.
 constexpr std::chrono::seconds kAloneAtMost{5};
 constexpr const char* kAlone = "pragma main.locking_mode = exclusive";
-/// 2 MiB, and 32 MiB while a text longer than `kLargeText` is being stored.
-constexpr const char* kUsualCache = "pragma cache_size = -2048";
-constexpr const char* kLargeCache = "pragma cache_size = -32768";
-constexpr std::size_t kLargeText = std::size_t{512} * 1024;
+/// 2 MiB.
+constexpr const char* kCache = "pragma cache_size = -2048";
 
 /// Binds parameters, one after the other, to their places.
 class Binder {
@@ -267,21 +265,7 @@ void SqliteDatabase::chooseJournal() noexcept {
   sqlite3_exec(database, "pragma journal_size_limit = 8388608", nullptr, nullptr, nullptr);
   // A check reads and writes a handful of pages that no other check needs: a larger cache would only fill with what is
   // never asked for again, and the due query reads faster from the system's own.
-  sqlite3_exec(database, kUsualCache, nullptr, nullptr, nullptr);
-}
-
-/// Every statement of a check rewrites the site's row. One with a page of many megabytes, which the small cache cannot
-/// hold, would be read from the file again each time, and the window would stand still meanwhile.
-void SqliteDatabase::fitCache(std::size_t statementLength) noexcept {
-  const bool large = statementLength > kLargeText;
-  if (large && !cachesLargePage_) {
-    cachesLargePage_ = true;
-    sqlite3_exec(handle(), kLargeCache, nullptr, nullptr, nullptr);
-  } else if (!large && cachesLargePage_ && sqlite3_get_autocommit(handle()) != 0) {
-    cachesLargePage_ = false;
-    sqlite3_exec(handle(), kUsualCache, nullptr, nullptr, nullptr);
-    sqlite3_db_release_memory(handle());
-  }
+  sqlite3_exec(database, kCache, nullptr, nullptr, nullptr);
 }
 
 StatementLoan SqliteDatabase::prepare(const PlainStatement& statement) {

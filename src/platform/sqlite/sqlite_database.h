@@ -74,9 +74,6 @@ class SqliteDatabase {
 
   sqlite3* handle() const { return handle_.get(); }
 
-  /// Fits the cache to a statement of that length, pages in it included.
-  void fitCache(std::size_t statementLength) noexcept;
-
   /// Prepares the statement, or takes it from the ones kept, and gives it its values. What it does not copy must stay
   /// in place until it is given back: `statement`, and the text that its values refer to.
   StatementLoan prepare(const PlainStatement& statement);
@@ -143,7 +140,6 @@ class SqliteDatabase {
   std::unordered_map<std::string_view, Kept::iterator> keptByText_;
   std::vector<SqliteRecordset*> open_;
   std::optional<Pages> pages_;
-  bool cachesLargePage_ = false;
   bool outdated_ = false;
   // Opened as a file that nobody changes.
   bool unchanged_ = false;

@@ -111,6 +111,9 @@ void SqliteStoredText::removeUnused() noexcept {
 std::string SqlitePages::read(std::int64_t page) {
   std::string text;
   readPieces(database_, page, [&](std::string_view piece) {
+    if (piece.size() == kPieceLength && text.empty()) {
+      text.reserve(kPieceLength * kPiecesOfPage);
+    }
     text.append(piece);
     return true;
   });

@@ -246,7 +246,7 @@ TransferResult CurlRequest::finish(CURLcode reported) {
     result = CURLE_BAD_CONTENT_ENCODING;
   }
   completeStates(result);
-  return result == CURLE_OK ? TransferResult{.page = std::move(page_)} : failure(result);
+  return result == CURLE_OK ? TransferResult() : failure(result);
 }
 
 // A page without a length ends where its connection does; a secured one tells that from a cut. Over FTP a reply does.

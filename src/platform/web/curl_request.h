@@ -9,10 +9,12 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/web/content_decoder.h"
 #include "platform/web/curl_event_loop.h"
 #include "platform/web/curl_transfers.h"
+#include "platform/web/page_body.h"
 #include "platform/web/response_header.h"
 #include "platform/web/transfer_failure.h"
 
@@ -38,6 +40,8 @@ class CurlRequest {
   /// Hands over what a transfer that libcurl ended with `reported` came to, after the states that it had reached but
   /// that were not seen on the way have been reported.
   TransferResult finish(CURLcode reported);
+  /// Hands over the page that belongs to it, once.
+  PageBody takePage() { return std::exchange(page_, {}); }
 
  private:
   static constexpr int kMaxRedirects = 20;
@@ -109,7 +113,7 @@ class CurlRequest {
   LineList linesWithoutBody_;
   bool hasCredentials_ = false;
   std::array<char, CURL_ERROR_SIZE> detail_{};
-  std::string page_;
+  PageBody page_;
   std::size_t headerBytes_ = 0;
   ResponseHeader header_;
   // Of an answer whose page comes compressed.

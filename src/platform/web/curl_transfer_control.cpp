@@ -3,6 +3,7 @@
 
 #include <exception>
 #include <list>
+#include <new>
 #include <utility>
 
 namespace tarnwick {
@@ -13,6 +14,7 @@ struct CurlTransferControl::Run {
   bool over = false;
   std::unique_ptr<CurlRequest> request;
   TransferResult result{};
+  PageBody page{};
   /// What to say and to do when there is no memory left for either.
   TransferResult shortage = noMemory();
   std::list<CurlEventLoop::Event> lastEvent;
@@ -26,6 +28,7 @@ CurlTransferControl::~CurlTransferControl() { endRun(); }
 void CurlTransferControl::execute(Request request) {
   endRun();
   result_ = {};
+  page_ = {};
   if (request.timeout <= std::chrono::seconds::zero()) {
     request.timeout = kDefaultRequestTimeout;
   }
@@ -62,6 +65,9 @@ void CurlTransferControl::start(Request request) {
 void CurlTransferControl::finish(Run& run, CURLcode reported) noexcept {
   try {
     run.result = run.request->finish(reported);
+    if (run.result.fault == TransferFault::none) {
+      run.page = run.request->takePage();
+    }
   } catch (const std::exception&) {
     run.result = std::move(run.shortage);
   }
@@ -88,6 +94,7 @@ void CurlTransferControl::report(int state) {
 
 void CurlTransferControl::deliverLast(const std::shared_ptr<Run>& run) {
   result_ = std::move(run->result);
+  page_ = std::move(run->page);
   const int state = result_.fault == TransferFault::none ? transfer_state::responseCompleted : transfer_state::error;
   try {
     if (const auto handler = stateHandler_) {
@@ -113,7 +120,18 @@ void CurlTransferControl::cancel() {
   if (run_) {
     endRun();
     result_ = {};
+    page_ = {};
   }
+}
+
+TransferResult CurlTransferControl::takeResult() {
+  TransferResult result = std::exchange(result_, {});
+  try {
+    result.page = std::exchange(page_, {}).take();
+  } catch (const std::bad_alloc&) {
+    return noMemory();
+  }
+  return result;
 }
 
 void CurlTransferControl::endRun() {

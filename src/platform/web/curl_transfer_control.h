@@ -2,10 +2,10 @@
 #pragma once
 
 #include <memory>
-#include <utility>
 
 #include "platform/transfer_control.h"
 #include "platform/web/curl_request.h"
+#include "platform/web/page_body.h"
 
 namespace tarnwick {
 
@@ -21,7 +21,7 @@ class CurlTransferControl final : public TransferControl {
   bool stillExecuting() const override { return run_ != nullptr; }
   void cancel() override;
 
-  TransferResult takeResult() override { return std::exchange(result_, {}); }
+  TransferResult takeResult() override;
 
   void onStateChanged(std::function<void(int state)> handler) override { stateHandler_ = std::move(handler); }
   void onIdle(std::function<void()> handler) override { idleHandler_ = std::move(handler); }
@@ -42,7 +42,9 @@ class CurlTransferControl final : public TransferControl {
   std::function<void()> idleHandler_;
   // The request under way, from `execute` until its last event.
   std::shared_ptr<Run> run_;
+  // Without its page.
   TransferResult result_;
+  PageBody page_;
 };
 
 }  // namespace tarnwick
