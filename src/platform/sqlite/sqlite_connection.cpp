@@ -285,9 +285,6 @@ class SqliteConnection final : public SqlConnection {
                                             std::string_view sql) {
     StatementLoan loan = database.prepare(statement);
     const bool onRow = database.step(loan.get());
-    if (!statement.reusable && sqlite3_stmt_readonly(loan.get()) == 0) {
-      database.forgetTables();
-    }
     if (sqlite3_column_count(loan.get()) == 0) {
       return std::make_unique<NoRows>();
     }

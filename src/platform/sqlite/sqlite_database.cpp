@@ -143,7 +143,6 @@ void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
 void SqliteDatabase::openFile(const std::optional<FileIdentity>& before) {
   keptByText_.clear();
   kept_.clear();
-  forgetTables();
   handle_.reset();
   requireFile(path_);
   // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
@@ -319,13 +318,12 @@ SqliteStatement SqliteDatabase::compile(const PlainStatement& statement) {
   return prepared;
 }
 
-// Another program may bring an older list to the form of today meanwhile; then the view serves every statement.
-Pages SqliteDatabase::pages() {
-  if (!pages_) {
-    const bool apart = !rows("select 1 from sqlite_master where type = 'table' and name = 'siteRows'").empty();
-    pages_ = apart ? Pages::apart : Pages::inSites;
-  }
-  return *pages_;
+// Another program may bring an older list to the form of today meanwhile; until that is noticed the view serves every
+// statement.
+Pages SqliteDatabase::pages() const noexcept {
+  const int found = sqlite3_table_column_metadata(handle(), "main", "siteRows", "comparePage", nullptr, nullptr,
+                                                  nullptr, nullptr, nullptr);
+  return found == SQLITE_OK ? Pages::apart : Pages::inSites;
 }
 
 bool SqliteDatabase::step(sqlite3_stmt* prepared) {

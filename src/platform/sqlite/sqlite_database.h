@@ -101,9 +101,7 @@ class SqliteDatabase {
   bool isOutdated() const { return outdated_; }
 
   /// Where the pages of the sites lie.
-  Pages pages();
-  /// Tables may have been changed.
-  void forgetTables() noexcept { pages_.reset(); }
+  Pages pages() const noexcept;
 
   /// What became of the files since they were opened. May be noticed only some time later, for it is asked before
   /// every statement.
@@ -139,7 +137,6 @@ class SqliteDatabase {
   Kept kept_;
   std::unordered_map<std::string_view, Kept::iterator> keptByText_;
   std::vector<SqliteRecordset*> open_;
-  std::optional<Pages> pages_;
   bool outdated_ = false;
   // Opened as a file that nobody changes.
   bool unchanged_ = false;

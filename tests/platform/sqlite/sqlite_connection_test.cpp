@@ -70,28 +70,6 @@ TEST_F(SqliteConnectionTest, ClosingLeavesTheDatabaseAlone) {
   EXPECT_EQ(folder_.queryText("select count(*) from sites"), "1");
 }
 
-TEST_F(SqliteConnectionTest, ALargePageHasRoomInMemoryUntilItIsStoredAndNoLonger) {
-  const auto conn = databases_.makeSqlConnection();
-  conn->open(OpenDatabase::connStringFor(folder_.databasePath()));
-  const auto cache = [&] { return conn->execute("pragma cache_size")->field(0).toInt64(); };
-  const std::int64_t usual = cache();
-  conn->execute("insert into sites (idSite) values (1)");
-
-  conn->begin();
-  conn->execute("update sites set content_runtime = '" + std::string(1'000'000, 'x') + "' where idsite = 1");
-  conn->execute("update sites set status = True where idsite = 1");
-  EXPECT_LT(cache(), usual) << "in KiB, below zero";
-  conn->commit();
-  EXPECT_EQ(cache(), usual);
-
-  conn->begin();
-  conn->execute("update sites set content_runtime = '" + std::string(10'000, 'x') + "' where idsite = 1");
-  EXPECT_EQ(cache(), usual);
-  conn->rollback();
-  conn->close();
-  EXPECT_EQ(folder_.queryText("select length(content_runtime) from sites"), "1000000");
-}
-
 TEST_F(SqliteConnectionTest, OpensAndClosesAgain) {
   const auto conn = databases_.makeSqlConnection();
   for (int i = 0; i < 2; ++i) {
