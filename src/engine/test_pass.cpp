@@ -233,7 +233,11 @@ void TestPass::emptySlots(const std::vector<std::int16_t>& slots) {
       emptySlot(slot);
     }
     if (recording_.hasLargePage()) {
-      recording_.recordWaiting();  // one at a time in memory
+      recording_.recordWaiting();  // one at a time in memory, and events between them
+      needs_.pump.pump();
+    }
+    if (stopped()) {
+      return;
     }
   }
 }

@@ -109,8 +109,12 @@ SqliteDatabase::SqliteDatabase(std::string path) : path_(std::move(path)) {
 // As SQLite itself does it, but for the looks.
 int SqliteDatabase::takeLogIn(void* self, sqlite3* database, const char* name, int pages) noexcept {
   constexpr int kPagesOfLog = 1000;
-  SqliteFileWatch& watch = *static_cast<SqliteDatabase*>(self)->watch_;
-  if (watch.look() == SqliteFileWatch::Finding::same && pages >= kPagesOfLog) {
+  constexpr int kLongTransaction = 8192;
+  SqliteDatabase& of = *static_cast<SqliteDatabase*>(self);
+  SqliteFileWatch& watch = *of.watch_;
+  // Whoever has waited for a transaction as long as that of a large page is not made to wait for this as well.
+  const bool waited = pages - std::exchange(of.pagesInLog_, pages) > kLongTransaction;
+  if (watch.look() == SqliteFileWatch::Finding::same && pages >= kPagesOfLog && !waited) {
     sqlite3_wal_checkpoint_v2(database, name, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
     watch.remember();
   }

@@ -137,6 +137,7 @@ class SqliteDatabase {
   Kept kept_;
   std::unordered_map<std::string_view, Kept::iterator> keptByText_;
   std::vector<SqliteRecordset*> open_;
+  int pagesInLog_ = 0;
   bool outdated_ = false;
   // Opened as a file that nobody changes.
   bool unchanged_ = false;
