@@ -12,7 +12,7 @@ namespace tarnwick {
 /// Another process has the right to run.
 class RunIsOn : public std::runtime_error {
  public:
-  RunIsOn(const std::string& folder, std::string holder, std::string lockFile)
+  RunIsOn(const std::string& folder, std::string holder, const std::string& lockFile)
       : std::runtime_error("A run is on in this folder already: " + holder + " checks the sites of " + folder +
                            ", and a second run would check each of them twice. " + remedyFor(lockFile)),
         holder_(std::move(holder)),

@@ -22,7 +22,7 @@ constexpr std::uint64_t kFreeShare = 20;  // one part of so many: 5 %
 
 constexpr std::uint64_t kMost = kMib;
 /// Less is of no use.
-constexpr std::uint64_t kLeast = 64 * 1024;
+constexpr std::uint64_t kLeast = std::uint64_t{64} * 1024;
 /// The part of a small disk's last room that is taken for it.
 constexpr std::uint64_t kPartOfRoom = 4;
 
