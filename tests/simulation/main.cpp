@@ -24,6 +24,7 @@ struct Wishes {
   std::uint64_t seeds = 1;
   bool onceOnly = false;
   bool cutsEverywhere = false;
+  bool firstOnly = false;
   bool shrinks = true;
   double hours = 0;
   std::string journal{};
@@ -103,6 +104,8 @@ Wishes wishesOf(const std::vector<std::string>& arguments) {
       wishes.plan.without.insert({Trouble::clock, Trouble::locks, Trouble::disk});
     } else if (name == "--cut-everywhere") {
       wishes.cutsEverywhere = true;
+    } else if (name == "--first") {
+      wishes.firstOnly = true;
     } else if (name == "--once") {
       wishes.onceOnly = true;
     } else if (name == "--no-shrinking") {
@@ -151,6 +154,9 @@ int runAll(const Wishes& wishes) {
   Plan plan = wishes.plan;
   for (std::uint64_t run = 0; wishes.hours > 0 ? realNow() < end : run < wishes.seeds; ++run, ++plan.seed) {
     good = runTwice(wishes, plan) && good;
+    if (!good && wishes.firstOnly) {
+      break;
+    }
   }
   return good ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -70,6 +70,18 @@ void Simulation::schedule() {
     }
   });
   lookNow();
+  clearCounters();
+}
+
+// A site that is checked every ten minutes has a full counter after 227 days: its owner is told so, and does this.
+void Simulation::clearCounters() {
+  constexpr Time kEvery = 24h * 80;
+  world_.agenda.in(kEvery, [this] {
+    if (process_ && process_->program().isOpen() && !world_.isDead() && !isOver()) {
+      user_.clearCounters(*process_);
+    }
+    clearCounters();
+  });
 }
 
 void Simulation::lookNow() {
@@ -124,7 +136,7 @@ void Simulation::changeSites(Chance chance) {
   if (plan_.model && mood == SiteMood::shortage) {
     mood = SiteMood::changing;  // what is tried again is no matter of the model
   }
-  const Time lasts(chance.between(60'000, 86'400'000));
+  const Time lasts(chance.between(60'000, mood == SiteMood::shortage ? 600'000 : 86'400'000));
   world_.journal.add("web", url + " turns to mood " + std::to_string(static_cast<int>(mood)));
   world_.web.setMood(url, mood);
   if (mood == SiteMood::shortage) {

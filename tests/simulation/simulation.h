@@ -54,6 +54,7 @@ class Simulation {
   void kill(Chance chance);
   void restart(Chance chance);
   void lookNow();
+  void clearCounters();
   void liveOnce();
   void stayOff();
   void bringInTheModel();

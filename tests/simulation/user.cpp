@@ -43,6 +43,16 @@ void User::act(Process& process, Chance chance) {
   }
 }
 
+void User::clearCounters(Process& process) {
+  perform("clears the counters", [&] {
+    ledger_.disturb();
+    process.program().data().clearCounters(-1);
+  });
+  if (onEdited) {
+    onEdited(false);
+  }
+}
+
 void User::actAs(Process& process, Chance chance) {
   Program& program = process.program();
   if (!program.isOpen()) {
@@ -50,7 +60,7 @@ void User::actAs(Process& process, Chance chance) {
   }
   const std::int16_t id = someSite(chance);
   m& data = program.data();
-  enum What { stop, interval, baseline, adopt, add, remove, clearLog, clearCounters, compact, settings, whats };
+  enum What { stop, interval, baseline, adopt, add, remove, clearLog, counters, compact, settings, whats };
   auto what = static_cast<What>(chance.below(whats));
   if (what == add && !addsSites) {
     what = settings;
@@ -118,11 +128,8 @@ void User::actAs(Process& process, Chance chance) {
         data.clearLog();
       });
       break;
-    case clearCounters:
-      perform("clears the counters", [&] {
-        ledger_.disturb();
-        data.clearCounters(-1);
-      });
+    case counters:
+      clearCounters(process);
       break;
     case compact:
       ledger_.disturb();

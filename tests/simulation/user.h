@@ -31,6 +31,7 @@ class User {
 
   /// Something in the window of the running program, also in the middle of a pass.
   void act(Process& process, Chance chance);
+  void clearCounters(Process& process);
   /// Something in a terminal beside it.
   void runSomeVerb(Chance chance);
   /// The same while no program has the list open.

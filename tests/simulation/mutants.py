@@ -1,0 +1,140 @@
+#!/usr/bin/env python3
+"""Puts one fault after the other into the program and looks whether the simulation finds it within 100 seeds.
+
+    mutants.py SOURCE_FOLDER WORK_FOLDER [--only TEXT]
+
+The sources are copied to WORK_FOLDER, so that nothing is ever broken in place. Exit status 1 when a fault is not found,
+or when the code that it is put into is not there any more.
+"""
+
+from __future__ import annotations
+
+import argparse
+import shutil
+import subprocess
+import sys
+import time
+from dataclasses import dataclass
+from pathlib import Path
+
+SEEDS = 100
+# What looks for a fault, the likeliest first.
+HUNTS = (
+    ["--seed", "1", "--seeds", str(SEEDS), "--days", "0.5", "--model", "--first"],
+    ["--cut-everywhere"],
+    ["--seed", "1", "--seeds", str(SEEDS), "--days", "1", "--first"],
+)
+
+
+@dataclass(frozen=True)
+class Mutant:
+    title: str
+    file: str
+    before: str
+    after: str
+
+
+MUTANTS = (
+    Mutant("a site is due a minute late", "engine/due_sites.cpp", "now()) >= tInterval", "now()) > tInterval"),
+    Mutant("the countdown counts two seconds at a time", "engine/run_controller.cpp", "  --secondsToNext_;",
+           "  secondsToNext_ -= 2;"),
+    Mutant("the countdown asks a second early", "engine/run_controller.cpp", "|| secondsToNext_ < 0)",
+           "|| secondsToNext_ <= 0)"),
+    Mutant("a closed editor does not count", "engine/run_controller.cpp",
+           "  // An edit may have made a site due sooner than the countdown says.\n  secondsToNext_ = 0;\n", ""),
+    Mutant("Start goes on with the countdown of before", "engine/run_controller.cpp",
+           "tested now.\n  secondsToNext_ = 0;\n", "tested now.\n"),
+    Mutant("Stop leaves the yellow lamp out", "engine/run_controller.cpp",
+           "  needs_.view.indicators(RunState::pause);\n  running_ = false;", "  running_ = false;"),
+    Mutant("any page passes", "engine/result_recording.cpp", 'hasBaseline && rows->holds("content_compare", content)',
+           "hasBaseline"),
+    Mutant("a failure does not count as a check", "engine/result_recording.cpp", "  xupdateLastChecked(idSite);\n\n",
+           "  if (result) {\n    xupdateLastChecked(idSite);\n  }\n\n"),
+    Mutant("the log keeps the pages that passed", "engine/result_recording.cpp", "result || !keeps ? std::string_view()",
+           "!result || !keeps ? std::string_view()"),
+    Mutant("the status stays what it was", "engine/pass_recording.cpp", "  needs_.results.setStatus(id, passed);\n", ""),
+    Mutant("a failure is counted twice", "engine/pass_recording.cpp",
+           "      needs_.results.updateStatusCounter(id, false);\n",
+           "      needs_.results.updateStatusCounter(id, false);\n"
+           "      needs_.results.updateStatusCounter(id, false);\n"),
+    Mutant("a failure is counted before its mail", "engine/pass_recording.cpp", "const bool counts = passed ||",
+           "const bool counts = true || passed ||"),
+    Mutant("what comes together is shown and not committed", "engine/pass_recording.cpp",
+           "        break;\n      }\n    }\n    whole.commit();\n", "        break;\n      }\n    }\n"),
+    Mutant("a changed site waits for its interval", "engine/pass_recording.cpp",
+           "    debts_.checks.owe(sites_.idSite(row));\n", "    static_cast<void>(row);\n"),
+    Mutant("the end of a pass is recorded in the wrong order", "engine/test_pass.cpp",
+           "for (std::int16_t slot = 1; slot <= needs_.pool.poolSize() && !stopped(); ++slot) {",
+           "for (std::int16_t slot = needs_.pool.poolSize(); slot >= 1 && !stopped(); --slot) {"),
+    Mutant("the cause of a failure is forgotten", "engine/inet_pool.cpp",
+           "  row.errDescription = std::move(result.cause);\n", ""),
+    Mutant("a lost mail keeps the sound away", "alerts/alert_dispatch.cpp", "  if (bySound) {",
+           "  if (bySound && !mailOutcome_.lost) {"),
+    Mutant("sites that want no mail are mailed, too", "alerts/alert_dispatch.cpp", "byMail && site.alertEmail ?",
+           "byMail ?"),
+    Mutant("the soonest site is the latest", "engine/due_sites.cpp",
+           '" ORDER BY (tinterval*60)-datediff(\'s\',[lastChecked],now()) "',
+           '" ORDER BY (tinterval*60)-datediff(\'s\',[lastChecked],now()) desc "'),
+    Mutant("a transaction is not on the disk when it ends", "platform/sqlite/sqlite_database.cpp",
+           "for each transaction.\n    sqlite3_exec(database, \"pragma synchronous = full\"",
+           "for each transaction.\n    sqlite3_exec(database, \"pragma synchronous = normal\""),
+    Mutant("a copy is not on the disk when it is renamed", "platform/os/local_files.cpp",
+           "    syncToDisk(file.get(), path);\n", ""),
+    Mutant("a new name is not on the disk when it is told", "platform/os/local_files_posix.cpp",
+           "  syncFolder(pathOf(to).parent_path());\n", "  static_cast<void>(syncFolder);\n"),
+)
+
+
+def build(work: Path) -> None:
+    subprocess.run(["cmake", "--build", "--preset", "release", "--target", "simulate"], cwd=work, check=True,
+                   stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+
+
+def found_by(work: Path) -> str | None:
+    for hunt in HUNTS:
+        ran = subprocess.run(["build/release/tests/simulation/simulate", *hunt, "--once", "--no-shrinking"], cwd=work,
+                             stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace")
+        if ran.returncode != 0:
+            telling = [line.strip() for line in ran.stdout.splitlines() if "FAILED" in line or line.startswith("  ")]
+            return " ".join(telling[:2])[:230] or f"it ends with {ran.returncode}"
+    return None
+
+
+def hunt_down(mutant: Mutant, work: Path) -> bool:
+    file = work / "src" / mutant.file
+    text = file.read_text(encoding="utf-8")
+    if text.count(mutant.before) != 1:
+        print(f"{mutant.title}: its code is not in src/{mutant.file} any more; write the fault anew.")
+        return False
+    file.write_text(text.replace(mutant.before, mutant.after), encoding="utf-8")
+    begun = time.monotonic()
+    try:
+        build(work)
+        found = found_by(work)
+    except subprocess.CalledProcessError as failed:
+        print(f"{mutant.title}: it does not build.\n{failed.stdout[-2000:]}")
+        return False
+    finally:
+        file.write_text(text, encoding="utf-8")
+    print(f"{mutant.title}: {'found' if found else 'NOT FOUND'} in {time.monotonic() - begun:.0f} s"
+          f"{': ' + found if found else ''}", flush=True)
+    return found is not None
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("source", type=Path)
+    parser.add_argument("work", type=Path)
+    parser.add_argument("--only", default="")
+    wanted = parser.parse_args()
+    shutil.copytree(wanted.source, wanted.work, ignore=shutil.ignore_patterns("build", ".git"), dirs_exist_ok=True)
+    subprocess.run(["cmake", "--preset", "release", "-DBUILD_TESTING=ON"], cwd=wanted.work, check=True,
+                   stdout=subprocess.DEVNULL)
+    chosen = [mutant for mutant in MUTANTS if wanted.only in mutant.title]
+    missed = sum(not hunt_down(mutant, wanted.work) for mutant in chosen)
+    print(f"{len(chosen) - missed} of {len(chosen)} faults were found.")
+    return 1 if missed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
