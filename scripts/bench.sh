@@ -3,7 +3,7 @@
 #
 #   scripts/bench.sh                  everything: about an hour
 #   scripts/bench.sh --quick          one run of each with up to 2000 sites: two minutes
-#   scripts/bench.sh --only slow      one part: fast, secure, slow, parallel, scale or window
+#   scripts/bench.sh --only slow      one part: fast, secure, names, slow, parallel, scale, window or large
 #   scripts/bench.sh --help           the other options
 #
 # Every program and server stays on this machine. Close other programs first: the load is printed beside each figure.
@@ -18,5 +18,5 @@ fi
 
 need_packages "${build_packages[@]}" "${bench_packages[@]}"
 cmake -S . -B build/bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=OFF -DTARNWICK_BENCH=ON >/dev/null
-cmake --build build/bench --target tarnwickctl sql_floor window_bench -- -j"$jobs"
+cmake --build build/bench --target tarnwickctl sql_floor fetch_floor window_bench -- -j"$jobs"
 exec python3 scripts/lib/bench_table.py --build build/bench "$@"

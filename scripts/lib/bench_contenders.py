@@ -17,7 +17,8 @@ def own_count(place):
 class Place:
     """Where one round of runs happens: how many sites, which server, a folder for what the programs keep."""
 
-    def __init__(self, folder, sites, size, port, changed, server=None, scheme="http", hosts=1, dead=0):
+    def __init__(self, folder, sites, size, port, changed, server=None, scheme="http", hosts=1, dead=0,
+                 names=0):
         self.folder = Path(folder)
         self.sites = sites
         self.size = size
@@ -27,8 +28,11 @@ class Place:
         self.scheme = scheme
         self.hosts = hosts
         self.dead = dead
+        self.names = names
 
     def url(self, number):
+        if self.names:
+            return f"{self.scheme}://s{1 + number % self.names}.bench.test:{self.port}/p{number}"
         return f"{self.scheme}://127.0.0.{1 + number % self.hosts}:{self.port}/p{number}"
 
     def urls(self):
@@ -64,18 +68,19 @@ class Contender:
         return status == 0
 
 
-def fill_database(database, schema, place, log_rows=0):
-    """Makes a database of the product whose baselines are the unchanged pages."""
+def fill_database(database, schema, place, log_rows=0, checked=True):
+    """Makes a database of the product whose baselines are the unchanged pages; not `checked`, one without any."""
     database.unlink(missing_ok=True)
     with sqlite3.connect(database) as connection:
         connection.execute("pragma synchronous = off")
         connection.executescript(schema)
         connection.executemany(
             "insert into sites (idSite, url, method, active, tInterval, lastChecked, alertEmail, email, sUserName,"
-            " sPassWord, status, success, failure, content_compare, content_runtime)"
-            " values (?1, ?2, 'GET', 1, 10, '2026-01-01 00:00:00', 0, '', '', '', 1, 10, 0, cast(?3 as text),"
-            " cast(?3 as text))",
-            ((n, place.url(n), page(n, place.size)) for n in range(1, place.sites + 1)))
+            " sPassWord, status, success, failure, content_compare)"
+            " values (?1, ?2, 'GET', 1, 10, '2026-01-01 00:00:00', 0, '', '', '', 1, 10, 0, cast(?3 as text))",
+            ((n, place.url(n), page(n, place.size) if checked else None) for n in range(1, place.sites + 1)))
+        # The page of the last check is the baseline, so that it is stored once.
+        connection.execute("update siteRows set runtimePage = comparePage")
         connection.executemany(
             "insert into log (idSite, url, status, errCode, errDescription, dateStamp, content)"
             " values (?, ?, 1, 0, '', datetime('2026-01-01', '+' || ? || ' seconds'), '')",
@@ -147,12 +152,20 @@ class BareStatements(Tarnwick):
         return status == 0
 
 
+class BareTransfers(Curl):
+    """What curl itself cannot be told: to read the authorities once, not with each connection."""
+
+    name = "bare libcurl, five at a time"
+    note = "fetches only, authorities read once"
+
+    def command(self, place):
+        return [str(self.tools.fetch_floor), str(place.folder / "curl.conf")]
+
+
 class Urlwatch(Contender):
-    name = "urlwatch, five at a time"
+    name = "urlwatch, its own ten at a time"
     note = "compares, records"
-    # How it is started: five workers instead of its fixed ten.
-    START = ("import sys, urlwatch.worker; urlwatch.worker.MAX_WORKERS = 5; from urlwatch.cli import main; "
-             "sys.argv[0] = 'urlwatch'; main()")
+    START = "import sys; from urlwatch.cli import main; sys.argv[0] = 'urlwatch'; main()"
 
     def reason_to_skip(self, place):
         if place.sites > 2000:
@@ -190,6 +203,11 @@ class Urlwatch(Contender):
                 str(folder / "config.yaml"), "--hooks", str(folder / "hooks.py"), "--cache", str(folder / "cache.db")]
 
 
+class UrlwatchFive(Urlwatch):
+    name = "urlwatch, five at a time"
+    START = "import urlwatch.worker; urlwatch.worker.MAX_WORKERS = 5; " + Urlwatch.START
+
+
 class CheckHttp(Contender):
     name = "check_http by xargs -P5"
     note = "compares nothing, records nothing"
@@ -201,6 +219,15 @@ class CheckHttp(Contender):
     def command(self, place):
         return ["xargs", "-a", str(place.folder / "paths"), "-P5", "-n1", "/usr/lib/nagios/plugins/check_http", "-I",
                 "127.0.0.1", "-p", str(place.port), "-u"]
+
+
+class CheckCurl(CheckHttp):
+    name = "check_curl -S -D by xargs -P5"
+    note = "verifies; compares nothing, records nothing"
+
+    def command(self, place):
+        return ["xargs", "-a", str(place.folder / "paths"), "-P5", "-n1", "/usr/lib/nagios/plugins/check_curl", "-S",
+                "-D", "-I", "127.0.0.1", "-p", str(place.port), "-u"]
 
 
 ALL = (Tarnwick, Curl, BareStatements, Urlwatch, CheckHttp)

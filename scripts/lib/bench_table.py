@@ -6,116 +6,23 @@ the machine falls on all of them. What a run starts from is put back before it, 
 """
 
 import argparse
-import json
 import os
 import shutil
-import socket
 import statistics
 import subprocess
 import sys
 import tempfile
-import time
-import urllib.request
 from pathlib import Path
 from types import SimpleNamespace
 
 import bench_contenders
-from bench_pages import page
+from bench_large import large_round
+from bench_measure import FastServer, SlowServer, load, measured, print_row
 
 MOST_SITES = 32767
-# What the system counts output in, bytes.
-BLOCK = 512
 BUNDLE = "/etc/ssl/certs/ca-certificates.crt"
-HERE = Path(__file__).resolve().parent
-ROOT = HERE.parent.parent
-
-
-def measured(command, environment):
-    """Runs a command: wall seconds, processor seconds of it and all it started, its peak memory in MiB, status, output."""
-    with tempfile.TemporaryFile() as output, tempfile.NamedTemporaryFile() as peak:
-        # A process inherits the peak memory of the one it was forked from, so a small one stands between.
-        watched = ["/usr/bin/time", "--quiet", "--format", "%M", "--output", peak.name, *command]
-        begin = time.monotonic()
-        process = subprocess.Popen(watched, env=environment, stdin=subprocess.DEVNULL, stdout=output,
-                                   stderr=subprocess.STDOUT)
-        _, status, usage = os.wait4(process.pid, 0)
-        wall = time.monotonic() - begin
-        process.returncode = os.waitstatus_to_exitcode(status)
-        output.seek(0)
-        said = output.read()
-        memory = int(peak.read()) / 1024
-    return SimpleNamespace(wall=wall, cpu=usage.ru_utime + usage.ru_stime, memory=memory,
-                           written=usage.ru_oublock * BLOCK, status=process.returncode, said=said)
-
-
-class FastServer:
-    """nginx with one worker over files in memory."""
-
-    def __init__(self, folder, certificate=None):
-        self.folder = folder
-        self.pages = folder / "pages"
-        self.pages.mkdir(parents=True)
-        with subprocess.Popen([sys.executable, "-c", "import socket; s = socket.socket(); s.bind(('127.0.0.1', 0)); "
-                               "print(s.getsockname()[1])"], stdout=subprocess.PIPE) as chooser:
-            self.port = int(chooser.stdout.read())
-        config = folder / "nginx.conf"
-        config.write_text(
-            f"worker_processes 1; daemon off; user root; pid {folder}/nginx.pid; error_log {folder}/nginx.log;\n"
-            "events { worker_connections 1024; }\n"
-            f"http {{ access_log off; client_body_temp_path {folder}/t1; proxy_temp_path {folder}/t2;"
-            f" fastcgi_temp_path {folder}/t3; uwsgi_temp_path {folder}/t4; scgi_temp_path {folder}/t5;"
-            f" keepalive_timeout 0;"
-            f" server {{ listen 127.0.0.1:{self.port} {'ssl' if certificate else ''} backlog=1024; root {self.pages};"
-            + (f" ssl_certificate {certificate}.crt; ssl_certificate_key {certificate}.key;" if certificate else "")
-            + " } }\n",
-            encoding="ascii")
-        self.process = subprocess.Popen(["/usr/sbin/nginx", "-c", str(config)], stderr=subprocess.DEVNULL)
-        self.await_page()
-
-    def await_page(self):
-        for _ in range(100):
-            try:
-                socket.create_connection(("127.0.0.1", self.port)).close()
-                return
-            except OSError:
-                time.sleep(0.05)
-        sys.exit(f"The local server did not start; {self.folder}/nginx.log says why.")
-
-    def lay(self, sites, size, changed_every):
-        """The pages of a round. Replaced as a whole file each, never written in place."""
-        for number in range(1, sites + 1):
-            fresh = self.pages / "fresh"
-            fresh.write_bytes(page(number, size, changed_every))
-            fresh.rename(self.pages / f"p{number}")
-
-    def close(self):
-        self.process.terminate()
-        self.process.wait()
-
-
-class SlowServer:
-    """The benchmark's own server, which answers after a while and counts."""
-
-    def __init__(self, delay, size, hosts=1, dead=0):
-        self.process = subprocess.Popen([sys.executable, str(HERE / "bench_server.py"), "--delay", str(delay), "--size",
-                                         str(size), "--hosts", str(hosts), "--dead", str(dead)],
-                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-        self.port = int(self.process.stdout.readline())
-
-    def in_flight(self):
-        with urllib.request.urlopen(f"http://127.0.0.1:{self.port}/-/in-flight") as answer:
-            told = json.load(answer)
-        total = sum(told["seconds"].values()) or 1
-        mean = sum(int(count) * seconds for count, seconds in told["seconds"].items()) / total
-        return f"{told['served']} requests, at most {told['most']} in flight, {mean:.2f} on average"
-
-    def close(self):
-        self.process.stdin.close()
-        self.process.wait()
-
-
-def load():
-    return f"{os.getloadavg()[0]:.1f}"
+HOSTS = "/etc/hosts"
+ROOT = Path(__file__).resolve().parent.parent.parent
 
 
 def round_of(contenders, place, runs, after=None):
@@ -145,10 +52,6 @@ def round_of(contenders, place, runs, after=None):
             run.note = after() if after else ""
             taken.append(run)
     return results, skipped
-
-
-def print_row(cells):
-    print("| " + " | ".join(cells) + " |", flush=True)
 
 
 def print_head(title):
@@ -220,8 +123,9 @@ def secure_round(options, tools, folder):
         sites = min(options.sites[-1], 200)
         server.lay(sites, options.size, 0)
         place = bench_contenders.Place(folder / "place", sites, options.size, server.port, False, scheme="https")
-        kinds = (bench_contenders.Tarnwick, bench_contenders.Curl)
-        contenders = [in_namespace(kind, bundle)(tools) for kind in kinds]
+        kinds = (bench_contenders.Tarnwick, bench_contenders.BareTransfers, bench_contenders.Curl,
+                 bench_contenders.Urlwatch, bench_contenders.CheckCurl)
+        contenders = [in_namespace(kind, bundle, BUNDLE)(tools) for kind in kinds]
         results, _ = round_of(contenders, place, options.runs)
         print_head(f"{sites} https sites of {options.size} bytes, the system's bundle of authorities")
         print_results(results, place)
@@ -229,13 +133,34 @@ def secure_round(options, tools, folder):
         server.close()
 
 
-def in_namespace(kind, bundle):
-    """The contender, run where `bundle` lies in the place of the system's; also for who is not the superuser."""
+def names_round(options, tools, folder):
+    """The same list by address and by name: as many names as the slow list has hosts, which this machine knows."""
+    server = FastServer(folder / "names-server")
+    hosts = folder / "hosts"
+    hosts.write_text(Path(HOSTS).read_text(encoding="utf-8")
+                     + "".join(f"127.0.0.1 s{n}.bench.test\n" for n in range(1, 200)), encoding="utf-8")
+    try:
+        sites = min(options.sites[-1], 2000)
+        server.lay(sites, options.size, 0)
+        for names in (0, 199):
+            place = bench_contenders.Place(folder / "place", sites, options.size, server.port, False, names=names)
+            kinds = (bench_contenders.Tarnwick, bench_contenders.Curl, bench_contenders.Urlwatch)
+            results, _ = round_of([in_namespace(kind, hosts, HOSTS)(tools) for kind in kinds], place, options.runs)
+            print_head(f"{sites} sites of {options.size} bytes, "
+                       + (f"under {names} names of /etc/hosts" if names else "by address"))
+            print_results(results, place)
+            shutil.rmtree(place.folder)
+    finally:
+        server.close()
+
+
+def in_namespace(kind, own, system):
+    """The contender, run where the file `own` lies in the place of the system's; also for who is not the superuser."""
 
     class Shielded(kind):
         def command(self, place):
-            return ["unshare", "--map-root-user", "--mount", "sh", "-c",
-                    f'mount --bind "$0" {BUNDLE} && exec "$@"', str(bundle), *super().command(place)]
+            return ["unshare", "--map-root-user", "--mount", "sh", "-c", f'mount --bind "$0" {system} && exec "$@"',
+                    str(own), *super().command(place)]
 
     return Shielded
 
@@ -271,7 +196,7 @@ def slow_round(options, tools, folder):
     server = SlowServer(options.delay, options.size)
     try:
         place = bench_contenders.Place(folder / "slow", options.slow_sites, options.size, server.port, False)
-        kinds = (bench_contenders.Tarnwick, bench_contenders.Curl, bench_contenders.Urlwatch, bench_contenders.CheckHttp)
+        kinds = (bench_contenders.Tarnwick, bench_contenders.Curl, bench_contenders.UrlwatchFive, bench_contenders.CheckHttp)
         results, _ = round_of([kind(tools) for kind in kinds], place, options.runs, server.in_flight)
         ideal = options.slow_sites / 5 * options.delay / 1000
         print_head(f"{options.slow_sites} sites, each answer after {options.delay} ms: at best {ideal:.2f} s")
@@ -318,7 +243,7 @@ def window_round(options, tools, folder):
             contender = bench_contenders.Tarnwick(tools)
             contender.prepare(place)
             contender.restore(place)
-            shutil.copytree(ROOT / "assets" / "images", contender.folder(place) / "images")
+            shutil.copytree(tools.images, contender.folder(place) / "images")
             (contender.folder(place) / "reports").mkdir()
             print(f"\nThe window with {sites} sites of {size} bytes (load {load()}):\n")
             print(subprocess.run([str(tools.window_bench), str(contender.folder(place)), str(rest)], env=environment,
@@ -328,8 +253,8 @@ def window_round(options, tools, folder):
         server.close()
 
 
-PARTS = {"fast": fast_rounds, "secure": secure_round, "slow": slow_round, "parallel": parallel_round,
-         "scale": scale_round, "window": window_round}
+PARTS = {"fast": fast_rounds, "secure": secure_round, "names": names_round, "slow": slow_round, "parallel": parallel_round,
+         "scale": scale_round, "window": window_round, "large": large_round}
 
 
 def arguments():
@@ -359,7 +284,9 @@ def main():
     options = arguments()
     tools = SimpleNamespace(tarnwickctl=options.build / "tarnwick" / "tarnwickctl",
                             sql_floor=options.build / "bench" / "sql_floor",
+                            fetch_floor=options.build / "bench" / "fetch_floor",
                             window_bench=options.build / "bench" / "window_bench",
+                            images=ROOT / "assets" / "images",
                             schema=(ROOT / "assets" / "schema.sql").read_text(encoding="utf-8"))
     # Pages in memory, databases on the disk that TMPDIR names.
     with tempfile.TemporaryDirectory(prefix="tarnwick-bench-") as disk:

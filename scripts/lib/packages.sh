@@ -29,7 +29,10 @@ package_packages=(dpkg-dev file fakeroot gzip xz-utils)
 package_test_packages=(lintian appstream desktop-file-utils man-db)
 
 # What the benchmark runs beside the product, and the server they all fetch from.
-bench_packages=(python3 time curl nginx-light urlwatch monitoring-plugins-basic libbenchmark-dev)
+bench_packages=(
+  python3 time curl nginx-light urlwatch monitoring-plugins-basic monitoring-plugins-standard liburiparser1
+  libbenchmark-dev
+)
 
 # The style checks.
 style_packages=(clang-format python3)
