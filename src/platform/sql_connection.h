@@ -64,16 +64,15 @@ class SqlConnection {
   /// Runs the statement that `before`, `text` with its quotes doubled and `behind` make, where quotes stand around the
   /// text, and which does not copy it: a page may be long. Nothing, with nothing done, from a connection that takes
   /// whole statements only.
-  virtual std::unique_ptr<Recordset> execute(std::string_view before, std::string_view text, std::string_view behind) {
-    static_cast<void>(before), static_cast<void>(text), static_cast<void>(behind);
+  virtual std::unique_ptr<Recordset> execute(std::string_view /*before*/, std::string_view /*text*/,
+                                             std::string_view /*behind*/) {
     return nullptr;
   }
 
   /// Writes a long text before the statement that stores it as a site's page, a part at a time, with `between` called
   /// after each, so that the transaction of that statement, which must name the text at this very place during the
   /// returned object's life, is a short one. Nothing where that is not possible. REQUIRES: no transaction.
-  virtual std::unique_ptr<StoredText> storeAhead(std::string_view text, const std::function<void()>& between) {
-    static_cast<void>(text), static_cast<void>(between);
+  virtual std::unique_ptr<StoredText> storeAhead(std::string_view /*text*/, const std::function<void()>& /*between*/) {
     return nullptr;
   }
 

@@ -131,20 +131,32 @@ bool isOrdinary(SqlConnection& connection) {
       "select (select count(*) <> 15 or sum(lower(name) in ('idsite', 'url', 'method', 'active', 'tinterval', "
       "'lastchecked', 'alertemail', 'email', 'susername', 'spassword', 'status', 'success', 'failure', "
       "'content_compare', 'content_runtime')) <> 15 or sum(lower(name) = 'idsite' and pk = 1 and "
-      "lower(type) = 'integer') <> 1 from pragma_table_info('sites')) "
+      "lower(type) = 'integer') <> 1 or sum(hidden <> 0 or \"notnull\" <> 0 or dflt_value is not null) <> 0 "
+      "from pragma_table_xinfo('sites')) "
       "+ (select count(*) from sqlite_master where lower(tbl_name) = 'sites' and lower(name) <> 'sites_list' and "
-      "(lower(name) <> 'sites' or type <> 'table' or lower(sql) like '%without%rowid%')) "
+      "(lower(name) <> 'sites' or type <> 'table')) "
+      "+ (select count(*) from sqlite_master where lower(name) = 'sites' and (lower(sql) like '%without%rowid%' or "
+      "lower(sql) like '%collate%' or lower(sql) like '%autoincrement%' or "
+      "replace(replace(lower(sql), 'lastchecked', ''), 'check (typeof(', '') like '%check%(%')) "
+      "+ (select count(*) from sqlite_master where lower(name) = 'sites_list' and "
+      "(lower(tbl_name) <> 'sites' or replace(replace(lower(sql), ' ', ''), char(10), '') not like "
+      "'createindexsites_listonsites(idsite,url,method,active,tinterval,lastchecked,alertemail,email,susername,"
+      "spassword,status,success,failure)')) "
+      "+ (select count(*) from sqlite_master where lower(sql) like '%references%sites%') "
       "+ (select count(*) from sqlite_master where lower(name) in ('siterows', 'pagepieces'))";
-  return numberOf(connection, kOddities) == 0;
+  // Numbers of pages are made of those of the sites.
+  constexpr std::string_view kFarIds =
+      "select count(*) from sites where idSite < -1099511627776 or idSite > 1099511627776";
+  return numberOf(connection, kOddities) == 0 && numberOf(connection, kFarIds) == 0;
 }
 
-/// The pages are in the file twice until the whole is committed, and in the log beside it.
+/// The pages are in the file twice until the whole is committed, and in the log beside it; and something is to be left.
 bool hasRoom(SqlConnection& connection, const std::string& path) {
   std::error_code unknown;
   const auto space = std::filesystem::space(pathOf(path).parent_path(), unknown);
   const auto size = static_cast<std::uintmax_t>(std::max<std::int64_t>(
       numberOf(connection, "select page_count * page_size from pragma_page_count, pragma_page_size"), 0));
-  return unknown || space.available / 2 > size;
+  return unknown || space.available / 4 > size;
 }
 
 }  // namespace

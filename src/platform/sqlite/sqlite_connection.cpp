@@ -88,8 +88,9 @@ class SqliteConnection final : public SqlConnection {
   std::unique_ptr<Recordset> execute(std::string_view sql) override { return run(sql, {}); }
 
   std::unique_ptr<Recordset> execute(std::string_view before, std::string_view text, std::string_view behind) override {
-    const std::string sql = std::string(before).append(behind);
-    return run(sql, LongText{before.size(), text});
+    std::string sql(before);
+    sql.append(behind);
+    return run(sql, LongText{sql.data() + before.size(), text});
   }
 
   std::unique_ptr<StoredText> storeAhead(std::string_view text, const std::function<void()>& between) override {
@@ -164,7 +165,7 @@ class SqliteConnection final : public SqlConnection {
  private:
   /// A text that belongs between the quotes of an empty one in a statement.
   struct LongText {
-    std::size_t place;
+    const char* place;
     std::string_view text;
   };
 
@@ -172,17 +173,17 @@ class SqliteConnection final : public SqlConnection {
     return told(sql, [&](SqliteDatabase& database) -> std::unique_ptr<Recordset> {
       SqlCommand command = translateSql(sql, clock_, database.pages());
       if (text) {
-        putIn(command, sql.data() + text->place, text->text);
+        putIn(command, *text);
       }
       return carryOut(database, command, sql);
     });
   }
 
   /// Gives the empty text at that place of the statement its true length.
-  static void putIn(SqlCommand& command, const char* place, std::string_view text) {
+  static void putIn(SqlCommand& command, const LongText& text) {
     const auto fill = [&](SqlParameter& parameter) {
-      if (auto* empty = std::get_if<std::string_view>(&parameter); empty != nullptr && empty->data() == place) {
-        *empty = text;
+      if (auto* empty = std::get_if<std::string_view>(&parameter); empty != nullptr && empty->data() == text.place) {
+        *empty = text.text;
       }
     };
     if (auto* statement = std::get_if<PlainStatement>(&command)) {
@@ -209,9 +210,22 @@ class SqliteConnection final : public SqlConnection {
   void storePage(SqliteDatabase& database, const StorePage& command) {
     const auto* const value = std::get_if<SqlValue>(&command.text);
     const std::string copy = value == nullptr ? std::string() : value->toText();
-    AtomicChange change(database);
-    SqlitePages(database).store(command, value == nullptr ? std::get<std::string_view>(command.text) : copy, ahead_);
-    change.keep();
+    const std::string_view text = value == nullptr ? std::get<std::string_view>(command.text) : copy;
+    if (inTransaction()) {
+      AtomicChange change(database);
+      SqlitePages(database).store(command, text, ahead_);
+      change.keep();
+      return;
+    }
+    // Takes the lock for writing at once, for which another program's is waited for; one that reads first is refused.
+    database.run(PlainStatement{"BEGIN IMMEDIATE", {}, true});
+    try {
+      SqlitePages(database).store(command, text, ahead_);
+      database.run(PlainStatement{"COMMIT", {}, true});
+    } catch (...) {
+      rollback();
+      throw;
+    }
   }
 
   /// Runs `action` on the open database; where it fails, the error carries the statement.

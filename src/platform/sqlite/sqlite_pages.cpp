@@ -13,6 +13,15 @@ constexpr std::size_t kPieceLength = std::size_t{16} << 20U;
 
 constexpr const char* kPieces = "select content from pagePieces where piece >= ?1 and piece < ?2 order by piece";
 constexpr const char* kNextPage = "select coalesce(max(piece) / 4, 0) + 1 from pagePieces";
+/// A number that no other program takes, the present second and something random in it: what is written ahead is
+/// nobody's yet, and whoever finds it there must neither take it for his own nor give the number again.
+constexpr const char* kPageAhead = "select (cast(strftime('%s', 'now') as integer) << 20) | (random() & 1048575)";
+/// Left behind by a program that was killed, or by a tool that replaces rows. What is less than an hour old may be
+/// about to be used.
+constexpr const char* kRemoveUnused =
+    "delete from pagePieces where (piece / 4) >> 20 < cast(strftime('%s', 'now') as integer) - 3600 "
+    "and piece / 4 not in (select comparePage from siteRows where comparePage > 0 "
+    "union select runtimePage from siteRows where runtimePage > 0)";
 
 /// The last piece takes what is left.
 std::string_view pieceOf(std::string_view text, std::int64_t piece) {
@@ -72,12 +81,8 @@ void SqliteStoredText::write(const std::function<void()>& between) {
     connection_.begin();
     try {
       if (pieces_ == 0) {
-        // Left behind by a program that was killed here. Should another one be about to use them, it will see.
-        connection_.execute(
-            "delete from pagePieces where piece / 4 not in (select comparePage from siteRows where comparePage > 0 "
-            "union select runtimePage from siteRows where runtimePage > 0)",
-            {});
-        page_ = numberOf(connection_.execute(kNextPage, {})->field(std::size_t{0}));
+        connection_.execute(kRemoveUnused, {});
+        page_ = numberOf(connection_.execute(kPageAhead, {})->field(std::size_t{0}));
       }
       connection_.execute(
           "insert into pagePieces (piece, content) values (" + std::to_string(page_ * kPiecesOfPage + pieces_) + ",'",

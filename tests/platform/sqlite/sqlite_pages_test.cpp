@@ -2,9 +2,11 @@
 // The pages of the sites lie apart; whoever reads and writes the sites does not notice.
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <memory>
 #include <random>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "base/errors.h"
@@ -108,10 +110,14 @@ TEST_F(SqlitePagesTest, WhatIsStoredAheadAndNotTakenGoes) {
   database_.conn->storeAhead(stored, [] {}).reset();
   EXPECT_EQ(pieces(), "0");
   store("content_compare", "a page");
-  // What a killed program has left behind goes with the next one.
-  database_.folder.execute("insert into pagePieces (piece, content) values (400, 'left'), (401, 'behind')");
+  // What a killed program has left behind goes with the next one, unless it may be still at work.
+  database_.folder.execute(
+      "insert into pagePieces (piece, content) values (400, 'left'), "
+      "(((cast(strftime('%s', 'now') as integer) - 3700) << 22) + 1, 'behind'), "
+      "((cast(strftime('%s', 'now') as integer) << 22), 'at work')");
   const auto ahead = database_.conn->storeAhead(stored, [] {});
-  EXPECT_EQ(pieces(), "2");
+  EXPECT_EQ(pieces(), "3");
+  EXPECT_EQ(database_.folder.queryText("select count(*) from pagePieces where content = 'at work'"), "1");
   EXPECT_EQ(page("content_compare"), "a page");
 }
 
@@ -121,6 +127,41 @@ TEST_F(SqlitePagesTest, WhatIsStoredAheadAndTakenAwayByOthersIsStoredAgain) {
   database_.folder.execute("delete from pagePieces where piece % 4 = 1");
   store("content_runtime", stored);
   EXPECT_TRUE(page("content_runtime") == stored);
+}
+
+TEST_F(SqlitePagesTest, TwoThatStoreAheadAtOnceEachGetTheirOwn) {
+  database_.run("insert into sites (idSite) values (8)");
+  const auto other = database_.databases.makeSqlConnection();
+  other->open(database_.connString());
+  const std::string mine = longPage(20 * kMib);
+  const std::string theirs(33 * kMib, 'y');
+  std::unique_ptr<StoredText> theirsAhead;
+  const auto mineAhead = database_.conn->storeAhead(mine, [&] {
+    if (!theirsAhead) {
+      theirsAhead = other->storeAhead(theirs, [] {});
+      other->execute("update sites set content_runtime = '", theirs, "' where idsite = 8");
+    }
+  });
+  store("content_runtime", mine);
+  EXPECT_TRUE(page("content_runtime") == mine);
+  EXPECT_TRUE(database_.folder.queryText("select content_runtime from sites where idSite = 8") == theirs);
+  EXPECT_EQ(pieces(), "5");
+}
+
+TEST_F(SqlitePagesTest, ALockOfAnotherProgramIsWaitedFor) {
+  const auto other = database_.databases.makeSqlConnection();
+  other->open(database_.connString());
+  other->begin();
+  const auto impatient = SqliteConnections(database_.clock, std::chrono::milliseconds(1)).makeSqlConnection();
+  impatient->open(database_.connString());
+  EXPECT_THROW(impatient->execute("update sites set content_compare = 'x' where idsite = 7"), DataAccessError);
+  EXPECT_FALSE(impatient->inTransaction());
+  std::jthread writer([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));  // sleeps because the lock is held for a while
+    other->rollback();
+  });
+  store("content_compare", "waited for");
+  EXPECT_EQ(page("content_compare"), "waited for");
 }
 
 TEST_F(SqlitePagesTest, AKeyThatIsTakenIsToldByTheNameThatIsKnown) {
