@@ -196,7 +196,8 @@ def slow_round(options, tools, folder):
     server = SlowServer(options.delay, options.size)
     try:
         place = bench_contenders.Place(folder / "slow", options.slow_sites, options.size, server.port, False)
-        kinds = (bench_contenders.Tarnwick, bench_contenders.Curl, bench_contenders.UrlwatchFive, bench_contenders.CheckHttp)
+        kinds = (bench_contenders.Tarnwick, bench_contenders.Curl, bench_contenders.UrlwatchFive,
+                 bench_contenders.CheckHttp)
         results, _ = round_of([kind(tools) for kind in kinds], place, options.runs, server.in_flight)
         ideal = options.slow_sites / 5 * options.delay / 1000
         print_head(f"{options.slow_sites} sites, each answer after {options.delay} ms: at best {ideal:.2f} s")
@@ -253,8 +254,8 @@ def window_round(options, tools, folder):
         server.close()
 
 
-PARTS = {"fast": fast_rounds, "secure": secure_round, "names": names_round, "slow": slow_round, "parallel": parallel_round,
-         "scale": scale_round, "window": window_round, "large": large_round}
+PARTS = {"fast": fast_rounds, "secure": secure_round, "names": names_round, "slow": slow_round,
+         "parallel": parallel_round, "scale": scale_round, "window": window_round, "large": large_round}
 
 
 def arguments():
