@@ -260,6 +260,10 @@ void PassRecording::alertAndCount(std::size_t row, bool counted) {
   }
   needs_.alerts.sendAlerts(id);
   tellLostMail(row);
+  if (fetchedBy(row).content.size() > kLargePage) {
+    // The next write takes the page's log into the database: not in one go with recording it.
+    needs_.pump.pump();
+  }
   if (!sites_.hasAddressAsSelected(row) && !needs_.dueSites.wasChecked(id)) {
     failure.counted();
     return;
