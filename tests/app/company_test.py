@@ -40,14 +40,18 @@ class Pages(http.server.BaseHTTPRequestHandler):
 class Tool:
     """The terminal tool on one folder; `complaints` holds all that did not go well."""
 
-    def __init__(self, path: str, place: str):
+    def __init__(self, path: str, place: str, beside_run: bool = False):
         self.path = path
         self.place = place
+        self.beside_run = beside_run
         self.complaints: list[str] = []
 
     def __call__(self, *arguments: str) -> str:
         ended = subprocess.run([self.path, "--folder", self.place, *arguments], capture_output=True, text=True,
                                timeout=LIMIT, stdin=subprocess.DEVNULL, check=False)
+        # A run has the list open for as long as it is on, which on a busy machine is longer than a compaction waits.
+        if self.beside_run and arguments == ("compact",) and "is in use by another program" in ended.stderr:
+            return ended.stdout
         if ended.returncode != 0 or ended.stderr:
             self.expect(False, f"{' '.join(arguments)} ended with {ended.returncode}: {ended.stderr.strip()}")
         return ended.stdout
@@ -173,7 +177,7 @@ def main() -> int:
         for roles in pairs:
             with tempfile.TemporaryDirectory(prefix="tarnwick-company-") as place:
                 make_list(place, parsed.schema, address)
-                tool = Tool(parsed.tool, place)
+                tool = Tool(parsed.tool, place, "watch" in roles)
                 side_by_side(tool, roles, parsed.rounds)
                 look_at(place, tool, None if "watch" in roles else parsed.rounds * roles.count("check"))
                 failed += len(tool.complaints)
