@@ -200,6 +200,29 @@ class WithoutSuperuser {
   bool given_ = true;
 };
 
+struct ReadOnlyFolder : SqliteFaults {
+  /// The list in `folder` has one site, with that address, and cannot be changed.
+  void expectReadInAFolderThatMayNotBeWritten(const std::string& folder, const std::string& url) {
+    fs::permissions(folder_.path(), fs::perms::all);
+    constexpr auto kNobodyWrites = static_cast<fs::perms>(0555);
+    fs::permissions(folder, kNobodyWrites);
+    {
+      const WithoutSuperuser user;
+      if (!user.given()) {
+        GTEST_SKIP() << "the superuser's rights cannot be given up here, and no file mode stops him";
+      }
+      const auto conn = databases_.makeSqlConnection();
+      conn->open(OpenDatabase::connStringFor(folder + "/tarnwick.mdb"));
+      EXPECT_EQ(conn->execute("select url from sites")->field(0).toText(), url);
+      EXPECT_EQ(conn->execute("select count(*) from sites")->field(0).toInt64(), 1);
+      EXPECT_TRUE(conn->readOnly());
+      const std::string fault = causeOf([&] { conn->execute("delete from sites"); });
+      EXPECT_TRUE(contains(fault, "the file or its folder is read-only")) << fault;
+    }
+    fs::permissions(folder, fs::perms::all);
+  }
+};
+
 TEST_F(SqliteFaults, AReadOnlyFileIsReadAndSaysSoWhenItIsToBeChanged) {
   folder_.execute("insert into sites (idSite,url) values (1,'u')");
   fs::permissions(folder_.path(), fs::perms::all);
@@ -218,32 +241,17 @@ TEST_F(SqliteFaults, AReadOnlyFileIsReadAndSaysSoWhenItIsToBeChanged) {
   EXPECT_TRUE(contains(fault, "(attempt to write a readonly database)")) << fault;
 }
 
-TEST_F(SqliteFaults, AFolderThatMayNotBeWrittenCanBeRead) {
+TEST_F(ReadOnlyFolder, AFolderThatMayNotBeWrittenCanBeRead) {
   folder_.execute("pragma journal_mode = wal; insert into sites (idSite,url) values (1,'u')");
   const std::string folder = folder_.file("read only # 100%?");
   fs::create_directory(folder);
   const std::string path = folder + "/tarnwick.mdb";
   fs::copy_file(folder_.databasePath(), path);
   fs::permissions(path, fs::perms::all);
-  fs::permissions(folder_.path(), fs::perms::all);
-  constexpr auto kNobodyWrites = static_cast<fs::perms>(0555);
-  fs::permissions(folder, kNobodyWrites);
-  {
-    const WithoutSuperuser user;
-    if (!user.given()) {
-      GTEST_SKIP() << "the superuser's rights cannot be given up here, and no file mode stops him";
-    }
-    const auto conn = databases_.makeSqlConnection();
-    conn->open(OpenDatabase::connStringFor(path));
-    EXPECT_EQ(conn->execute("select url from sites")->field(0).toText(), "u");
-    EXPECT_TRUE(conn->readOnly());
-    const std::string fault = causeOf([&] { conn->execute("delete from sites"); });
-    EXPECT_TRUE(contains(fault, "the file or its folder is read-only")) << fault;
-  }
-  fs::permissions(folder, fs::perms::all);
+  expectReadInAFolderThatMayNotBeWritten(folder, "u");
 }
 
-TEST_F(SqliteFaults, WhatAKillLeftInAFolderThatMayNotBeWrittenIsRead) {
+TEST_F(ReadOnlyFolder, WhatAKillLeftInAFolderThatMayNotBeWrittenIsRead) {
   const std::string folder = folder_.file("read only # 100%?");
   fs::create_directory(folder);
   const std::string path = folder + "/tarnwick.mdb";
@@ -260,23 +268,7 @@ TEST_F(SqliteFaults, WhatAKillLeftInAFolderThatMayNotBeWrittenIsRead) {
     ASSERT_FALSE(wal.empty());
   }
   const std::string before = bytesOfFile(path);
-  fs::permissions(folder_.path(), fs::perms::all);
-  constexpr auto kNobodyWrites = static_cast<fs::perms>(0555);
-  fs::permissions(folder, kNobodyWrites);
-  {
-    const WithoutSuperuser user;
-    if (!user.given()) {
-      GTEST_SKIP() << "the superuser's rights cannot be given up here, and no file mode stops him";
-    }
-    const auto conn = databases_.makeSqlConnection();
-    conn->open(OpenDatabase::connStringFor(path));
-    EXPECT_EQ(conn->execute("select url from sites")->field(0).toText(), "in the log");
-    EXPECT_EQ(conn->execute("select count(*) from sites")->field(0).toInt64(), 1);
-    EXPECT_TRUE(conn->readOnly());
-    const std::string fault = causeOf([&] { conn->execute("delete from sites"); });
-    EXPECT_TRUE(contains(fault, "the file or its folder is read-only")) << fault;
-  }
-  fs::permissions(folder, fs::perms::all);
+  expectReadInAFolderThatMayNotBeWritten(folder, "in the log");
   EXPECT_EQ(bytesOfFile(path), before);
   EXPECT_EQ(bytesOfFile(path + "-wal"), wal);
   {
