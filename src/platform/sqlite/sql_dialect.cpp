@@ -42,7 +42,7 @@ class RowsTranslator {
       }
     }
     const std::string_view last = tokens_.back().source;
-    statement_.text.append(copied_, last.data() + last.size()).append(limit_);
+    statement_.text.append(copied_, last.data() + last.size()).append(limits_.front());
     return std::move(statement_);
   }
 
@@ -87,7 +87,7 @@ class RowsTranslator {
 
   void takeNumber(const SqlToken& token) {
     if (before(1).is("top") && before(2).is("select")) {
-      limit_ = " limit " + std::string(token.source);
+      limits_.back() = " limit " + std::string(token.source);
       replace(1, {});
       return;
     }
@@ -112,13 +112,22 @@ class RowsTranslator {
   }
 
   void takeSymbol(const SqlToken& token) {
-    if (token.is("(") && before(1).is("datevalue")) {
-      replace(1, "date(");
-    } else if (token.is(")") && before(1).is("(") && before(2).is("now")) {
-      if (now_.empty()) {
-        now_ = parameter(SqlValue(dateTimeText(clock_.localNow())));
+    if (token.is("(")) {
+      limits_.emplace_back();
+      if (before(1).is("datevalue")) {
+        replace(1, "date(");
       }
-      replace(2, now_);
+    } else if (token.is(")") && limits_.size() > 1) {
+      const std::string limit = std::move(limits_.back());
+      limits_.pop_back();
+      if (!limit.empty()) {
+        replace(0, limit + ")");
+      } else if (before(1).is("(") && before(2).is("now")) {
+        if (now_.empty()) {
+          now_ = parameter(SqlValue(dateTimeText(clock_.localNow())));
+        }
+        replace(2, now_);
+      }
     }
   }
 
@@ -140,7 +149,8 @@ class RowsTranslator {
   PlainStatement statement_;
   std::size_t position_ = 0;
   const char* copied_ = tokens_.front().source.data();
-  std::string limit_;
+  /// Of the statement and of each pair of brackets that is open around the piece that is looked at.
+  std::vector<std::string> limits_ = std::vector<std::string>(1);
   std::string now_;
   bool inCondition_ = false;
   bool inValues_ = false;

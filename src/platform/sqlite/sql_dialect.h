@@ -58,7 +58,7 @@ enum class Pages { inSites, apart };
 /// Turns a statement of the program's dialect into what SQLite understands. In a statement that reads or writes rows
 /// the quoted texts, and the whole numbers that it compares with or inserts, become parameters, so that statements
 /// which differ only in these share one prepared statement. Beside SQLite's own SQL the dialect knows
-/// - `select top n ...`: the first n rows;
+/// - `select top n ...`: the first n rows, also of a select in brackets;
 /// - `x = true` and `x = false` in a condition: any number but 0 is true;
 /// - `now()`: the local date and time of `clock`, the same throughout a statement;
 /// - `datediff`, a function of its own (sqlite_functions.h), and `datevalue`, which is SQLite's own `date`: of that an

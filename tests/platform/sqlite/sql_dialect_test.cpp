@@ -38,6 +38,8 @@ TEST(SqlDialect, ATextParameterRefersToTheStatementAndIsNotCopied) {
 TEST(SqlDialect, TopBecomesTheLimitOfTheSelect) {
   EXPECT_EQ(translated("SELECT TOP 1 idsite From sites ORDER BY url ; -- the first"),
             "SELECT  idsite From sites ORDER BY url limit 1");
+  EXPECT_EQ(translated("select count(*) from (select top 2 url from sites where status=now()) where url = 'a'"),
+            "select count(*) from (select  url from sites where status=?1 limit 2) where url = ?2");
   EXPECT_EQ(translated("select top, 5 from hills"), "select top, 5 from hills");
 }
 
