@@ -1,11 +1,11 @@
 # Lays the files of ASSETS into the program folder FOLDER, and where these are given the pages of the help that lie in
-# HELP and the translations that lie in TRANSLATIONS. What the user may change (the database, the mail template, the
-# report) is laid there only when it is missing; the rest is brought up to date. Needs the sqlite3 tool SQLITE3.
+# HELP and the translations that lie in TRANSLATIONS. What is there is brought up to date. What the user may change (the
+# database, the mail template, the report) is none of it: the program's first start lays that, from the folder `fresh`.
+# Needs the sqlite3 tool SQLITE3.
 file(MAKE_DIRECTORY "${FOLDER}/images" "${FOLDER}/reports" "${FOLDER}/fresh")
 set(readable PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 
-# The pristine database, from which a folder for another user can be made. Made under another name first: a failure
-# leaves no half-made database behind.
+# The pristine database. Made under another name first: a failure leaves no half-made one behind.
 set(fresh "${FOLDER}/fresh/tarnwick.mdb")
 file(REMOVE "${fresh}.new")
 execute_process(
@@ -15,19 +15,6 @@ execute_process(
   COMMAND_ERROR_IS_FATAL ANY)
 file(CHMOD "${fresh}.new" ${readable})
 file(RENAME "${fresh}.new" "${fresh}")
-
-if(NOT EXISTS "${FOLDER}/tarnwick.mdb")
-  # Passwords of sites are kept in it, so it is its owner's alone from the start.
-  set(unfinished "${FOLDER}/tarnwick.mdb.new")
-  file(COPY_FILE "${fresh}" "${unfinished}")
-  file(CHMOD "${unfinished}" PERMISSIONS OWNER_READ OWNER_WRITE)
-  file(RENAME "${unfinished}" "${FOLDER}/tarnwick.mdb")
-endif()
-
-if(NOT EXISTS "${FOLDER}/email.txt")
-  file(COPY_FILE "${ASSETS}/email.txt" "${FOLDER}/email.txt")
-  file(CHMOD "${FOLDER}/email.txt" ${readable})
-endif()
 
 # lay(FROM NAME): brings the file NAME of the program folder up to date with the file FROM.
 function(lay from name)

@@ -107,4 +107,5 @@ if [[ $place == window ]]; then
 fi
 
 echo "${said}Ctrl+C ends it." >&2
-exec "$folder/tarnwickctl" --folder "$folder" run "$@"
+# Not by --folder: the first start of the program that lies there lays its list.
+exec "$folder/tarnwickctl" run "$@"

@@ -46,7 +46,8 @@ lay_demo_folder() {
 
 # fill_demo_folder: puts the pages into the list, as anybody would.
 fill_demo_folder() {
-  local tool=("$demo_folder/tarnwickctl" --folder "$demo_folder") id
+  # Its first start lays the list beside it.
+  local tool=("$demo_folder/tarnwickctl") id
   {
     "${tool[@]}" add "$demo_site/steady" --interval 1
     "${tool[@]}" add "$demo_site/news" --interval 1

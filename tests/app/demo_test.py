@@ -145,6 +145,7 @@ def page_of(url: str) -> str:
 
 def demo_finds_ups_and_downs_in_the_terminal(built: Built) -> None:
     database = built.folder / "tarnwick.mdb"
+    shutil.copy(built.folder / "fresh" / "tarnwick.mdb", database)
     before = database.read_bytes()
     with Script("--built", str(built.path), "--demo", "--", "--json") as demo:
         done = json.loads(demo.wait_for_line(is_event("pass"), "the end of the first pass", FIRST_PASS_WITHIN_SECONDS))

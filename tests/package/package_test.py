@@ -142,11 +142,23 @@ def makes_the_packages(case: Case) -> None:
 
 
 def expect_program_folder(folder: Path) -> None:
-    expected = {*PROGRAMS, *USER_FILES, *PROGRAM_FILES, "fresh/tarnwick.mdb", "fresh/email.txt"}
+    """Nothing in it is the user's: whatever it is laid over, no list and no template is touched."""
+    expected = {*PROGRAMS, *PROGRAM_FILES, "fresh/tarnwick.mdb", "fresh/email.txt"}
     expect(without_translations(files_in(folder)) == expected,
            f"the folder differs: {without_translations(files_in(folder)) ^ expected}")
-    expect(mode_of(folder / "tarnwick.mdb") == 0o600, "others can read the database")
-    expect(rows(folder / "tarnwick.mdb", "select count(*) from sites") == [(0,)], "the database is not fresh")
+    expect(rows(folder / "fresh/tarnwick.mdb", "select count(*) from sites") == [(0,)], "the database is not fresh")
+
+
+def addresses(tool: Path, case: Case) -> list[str]:
+    return [line.split()[-1] for line in case.tool(tool, "sites").splitlines()[1:]]
+
+
+def fill(tool: Path, case: Case, count: int) -> list[str]:
+    """A list of so many sites, and a mail template of the user's own; the addresses."""
+    wanted = [f"http://127.0.0.1:9/{number}" for number in range(count)]
+    lines = "".join(f"{url}\n" for url in wanted)
+    run(tool, "import", "-", "--format", "csv", env=case.env, input="url\n" + lines)
+    return wanted
 
 
 def installs_the_program_folder(case: Case) -> None:
@@ -177,7 +189,50 @@ def archive_works_anywhere(case: Case) -> None:
     expect_program_folder(folder)
     case.starts(folder / "tarnwick", folder / "tarnwick.mdb")
     expect(not (case.home / ".local").exists(), "a folder in the home was made for a program that has its own")
+    expect(USER_FILES <= files_in(folder), "the first start has laid no list or no template")
     expect(mode_of(folder / "tarnwick.mdb") == 0o600, "others can read the database")
+
+
+def archive_over_archive_keeps_what_the_user_has(case: Case) -> None:
+    unpack = ("tar", "-xzf", case.archive(), "-C", case.work)
+    run(*unpack)
+    folder = case.work / "tarnwick"
+    tool = folder / "tarnwickctl"
+    wanted = fill(tool, case, 100)
+    (folder / "email.txt").write_text("my text")
+    run(*unpack)
+    expect(addresses(tool, case) == wanted, "the list is another one behind the unpacking")
+    expect((folder / "email.txt").read_text() == "my text", "the template is another one behind the unpacking")
+    with subprocess.Popen([tool, "run"], env=case.env, stdout=subprocess.PIPE, text=True) as running:
+        try:
+            expect("Run started" in running.stdout.readline(), "no run has begun")
+            # Unpacking writes other files and gives them the names; the run goes on with the ones that it has.
+            run(*unpack)
+            expect(running.poll() is None, "the run has ended under the unpacking")
+            expect(addresses(tool, case) == wanted, "the list is another one behind an unpacking under a run")
+        finally:
+            running.send_signal(signal.SIGTERM)
+            running.stdout.read()
+    expect(running.returncode == 0, f"the run ended with {running.returncode}")
+    for file in folder.glob("tarnwick.mdb*"):
+        file.unlink()
+    run(*unpack)
+    expect("tarnwick.mdb is missing" in case.tool(tool, "sites", status=2), "a lost list is no error")
+    expect(not (folder / "tarnwick.mdb").exists(), "an empty list came into the place of a lost one")
+
+
+def list_of_an_older_archive_stays(case: Case) -> None:
+    """Older archives brought the list along, and left no mark."""
+    folder = case.work / "tarnwick"
+    run("tar", "-xzf", case.archive(), "-C", case.work)
+    shutil.copy(folder / "fresh/tarnwick.mdb", folder)
+    shutil.copy(folder / "fresh/email.txt", folder)
+    wanted = fill(folder / "tarnwickctl", case, 100)
+    run("tar", "-xzf", case.archive(), "-C", case.work)
+    expect(addresses(folder / "tarnwickctl", case) == wanted, "the list is another one behind the unpacking")
+    for file in folder.glob("tarnwick.mdb*"):
+        file.unlink()
+    expect("tarnwick.mdb is missing" in case.tool(folder / "tarnwickctl", "sites", status=2), "a lost list is no error")
 
 
 def debian_package_lies_in_the_systems_places(case: Case) -> None:
@@ -250,7 +305,8 @@ def each_user_has_a_folder_of_his_own(case: Case) -> None:
     before = files_in(usr)
     case.starts(usr / "bin" / "tarnwick", case.user_folder / "tarnwick.mdb")
     expect(files_in(usr) == before, "something was written into the installation")
-    expect(PROGRAM_FILES | USER_FILES <= files_in(case.user_folder), "the user's folder is not whole")
+    expect({name for name in files_in(case.user_folder) if not name.startswith("tarnwick.mdb-")} ==
+           {*USER_FILES, "reports/green.jpg", "reports/red.jpg"}, "the user's folder differs")
     expect(mode_of(case.user_folder) == 0o700, "others can look into the user's folder")
     expect(mode_of(case.user_folder / "tarnwick.mdb") == 0o600, "others can read the database")
     # The tool finds the list that the window works on.
@@ -260,12 +316,12 @@ def each_user_has_a_folder_of_his_own(case: Case) -> None:
 
 
 def newer_package(case: Case) -> Path:
-    """The package with a higher version and another help page."""
+    """The package with a higher version and another picture of the report."""
     tree = case.work / "newer"
     run("dpkg-deb", "--raw-extract", case.debian_package(), tree)
     control = tree / "DEBIAN" / "control"
     control.write_text(re.sub(r"^Version: .*$", "Version: 99.0.0-1", control.read_text(), flags=re.MULTILINE))
-    (tree / "usr/lib/tarnwick/help.html").write_text("a newer help page")
+    (tree / "usr/lib/tarnwick/reports/red.jpg").write_text("a newer red")
     package = case.work / "newer.deb"
     run("dpkg-deb", "--root-owner-group", "--build", tree, package)
     return package
@@ -282,12 +338,22 @@ def upgrade_keeps_what_the_user_has(case: Case) -> None:
     env = {**case.env, "PATH": case.env["PATH"] + ":/usr/sbin:/sbin"}
     run(*install, case.debian_package(), env=env)
     tool = root / "usr/bin/tarnwickctl"
-    case.tool(tool, "add", "http://127.0.0.1/")
+    wanted = fill(tool, case, 100)
     (case.user_folder / "email.txt").write_text("my text")
-    run(*install, newer_package(case), env=env)
-    expect("http://127.0.0.1/" in case.tool(tool, "sites"), "the list is gone")
+    with subprocess.Popen([tool, "run"], env=case.env, stdout=subprocess.PIPE, text=True) as running:
+        try:
+            expect("Run started" in running.stdout.readline(), "no run has begun")
+            run(*install, newer_package(case), env=env)
+            expect(running.poll() is None, "the run has ended under the upgrade")
+        finally:
+            running.send_signal(signal.SIGTERM)
+            running.stdout.read()
+    expect(addresses(tool, case) == wanted, "the list is another one behind the upgrade")
     expect((case.user_folder / "email.txt").read_text() == "my text", "the template was replaced")
-    expect((case.user_folder / "help.html").read_text() == "a newer help page", "the help page is still the old one")
+    expect((case.user_folder / "reports/red.jpg").read_text() == "a newer red", "the picture is still the old one")
+    run(*install, case.debian_package(), env=env)
+    expect(addresses(tool, case) == wanted, "the list is another one behind the downgrade")
+    expect((case.user_folder / "email.txt").read_text() == "my text", "the template was replaced by the downgrade")
 
 
 def lost_database_is_an_error(case: Case) -> None:
@@ -310,6 +376,7 @@ def no_path_of_the_build_is_left(case: Case) -> None:
 
 CASES = {case.__name__: case for case in
          (makes_the_packages, installs_the_program_folder, installs_over_an_older_one, archive_works_anywhere,
+          archive_over_archive_keeps_what_the_user_has, list_of_an_older_archive_stays,
           debian_package_lies_in_the_systems_places, debian_package_satisfies_lintian, desktop_accepts_the_metadata,
           manual_pages_are_well_formed, one_version_everywhere, each_user_has_a_folder_of_his_own,
           upgrade_keeps_what_the_user_has, lost_database_is_an_error, no_path_of_the_build_is_left)}

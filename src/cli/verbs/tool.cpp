@@ -79,6 +79,7 @@ int runTool(const std::vector<std::string>& arguments, const std::string& progra
     folder = absoluteFolder(line.folder ? *line.folder : programFolderFor(programFolder));
     ToolPrompts prompts(console);
     Tool tool(folder, services.with({.prompts = &prompts}), console, fields);
+    tool.setInstallation(programFolder);
     return statusWithOutput(console, line.action(tool));
   } catch (const DataAccessError& error) {
     console.complain(error.what() + adviceOn(services.files, folder));

@@ -44,6 +44,9 @@ class Tool {
     return *data_;
   }
   const std::string& programFolder() const { return folder_; }
+  /// The folder of the executable, in which the files of the program lie. Empty where the tool was made without one.
+  const std::string& installation() const { return installation_; }
+  void setInstallation(std::string folder) { installation_ = std::move(folder); }
   const Services& services() const { return services_; }
   Console& console() { return console_; }
   /// What can be set.
@@ -51,6 +54,7 @@ class Tool {
 
  private:
   std::string folder_;
+  std::string installation_;
   Services services_;
   Console& console_;
   const Fields& fields_;

@@ -22,6 +22,7 @@ std::vector<Verb> allVerbs(const Fields& fields) {
   all.push_back(logVerb());
   add(upkeepVerbs());
   add(exchangeVerbs());
+  all.push_back(initVerb());
   return all;
 }
 

@@ -24,6 +24,7 @@ Verb settingsVerb(const Fields& fields);
 /// The verb with all options in its help.
 Verb optionVerb(const Fields& fields);
 Verb logVerb();
+Verb initVerb();
 /// report, compact, restore
 std::vector<Verb> upkeepVerbs();
 /// export, import

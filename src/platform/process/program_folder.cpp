@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/program_folder.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <QByteArray>
@@ -21,10 +22,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
+const QString kReports = QStringLiteral("reports");
 constexpr const char* kFolderName = "tarnwick";
 constexpr const char* kDatabase = "/tarnwick.mdb";
-// What the user may change: laid out once.
-constexpr const char* kUserFiles[] = {"/tarnwick.mdb", "/email.txt"};
+constexpr const char* kTemplate = "/email.txt";
+constexpr const char* kLaidText =
+    "The first start has laid the list and the mail template into this folder. While this file is here, a list that "
+    "is\n"
+    "missing is reported, and never replaced by an empty one.\n";
+// What nothing but a database leaves: one whose list is gone was laid before there was a mark. The template came with
+// it.
+constexpr const char* kTraces[] = {"/tarnwick.mdb-wal",     "/tarnwick.mdb-shm", "/tarnwick.mdb-journal",
+                                   "/tarnwick.mdb-wal.old", "/backup.mdb",       "/temp.mdb",
+                                   "/tarnwick.lock",        "/email.txt",        "/reports/report.html"};
 
 QString qt(const std::string& text) { return QString::fromStdString(text); }
 
@@ -57,35 +67,30 @@ void makePrivateFolder(const fs::path& folder) {
   }
 }
 
-/// The files that belong to the program and not to the user, relative to the folder.
-QStringList programFiles(const QDir& installation) {
-  QStringList files;
-  for (const QString& pattern : {QStringLiteral("help.html"), QStringLiteral("help/*"), QStringLiteral("help/images/*"),
-                                 QStringLiteral("images/*"), QStringLiteral("reports/*.jpg")}) {
-    const QFileInfo place(pattern);
-    const QDir folder(installation.filePath(place.path()));
-    for (const QString& name : folder.entryList({place.fileName()}, QDir::Files, QDir::Name)) {
-      files << (place.path() == QStringLiteral(".") ? name : place.path() + QLatin1Char('/') + name);
-    }
-  }
-  return files;
-}
-
 bool isUpToDate(const QString& path, const QByteArray& contents) {
   QFile present(path);
   return present.open(QIODevice::ReadOnly) && present.readAll() == contents;
 }
 
-/// Copies the program's own files where they are missing or differ.
-void layProgramFiles(const QDir& installation, const QDir& folder) {
-  for (const QString& name : programFiles(installation)) {
-    const QByteArray contents = contentsOf(installation.filePath(name));
-    const QString target = folder.filePath(name);
-    if (isUpToDate(target, contents)) {
-      continue;
+/// Copies the bars of the report, which its page looks for beside it, where they are missing or differ.
+void layBars(const QDir& installation, const QDir& folder) {
+  const QStringList bars = QDir(installation.filePath(kReports)).entryList({QStringLiteral("*.jpg")}, QDir::Files);
+  for (const QString& name : bars) {
+    const QString place = kReports + QLatin1Char('/') + name;
+    const QByteArray contents = contentsOf(installation.filePath(place));
+    const QString target = folder.filePath(place);
+    if (!isUpToDate(target, contents)) {
+      folder.mkpath(kReports);
+      write(target, contents);
     }
-    folder.mkpath(QFileInfo(target).path());
-    write(target, contents);
+  }
+}
+
+/// The same where an older bar keeps nobody from working.
+void bringBarsUpToDate(const std::string& installation, const std::string& folder) {
+  try {
+    layBars(QDir(qt(installation)), QDir(qt(folder)));
+  } catch (const FileError&) {
   }
 }
 
@@ -95,16 +100,46 @@ void layNewFolder(const std::string& installation, const std::string& folder) {
   if (!fresh.isValid()) {
     throw FileError(folder, fresh.errorString().toStdString());
   }
-  for (const char* const name : kUserFiles) {
+  for (const char* const name : {kDatabase, kTemplate}) {
     write(fresh.path() + qt(name), contentsOf(qt(installation + kFreshFolder + name)));
   }
-  layProgramFiles(QDir(qt(installation)), QDir(fresh.path()));
+  layBars(QDir(qt(installation)), QDir(fresh.path()));
   std::error_code fault;
   fs::rename(pathOf(fresh.path().toStdString()), pathOf(folder), fault);
   if (!fault) {
     fresh.setAutoRemove(false);
   } else if (!LocalFiles().exists(folder)) {
     throw FileError(folder, fault.message());
+  }
+}
+
+/// Copies the fresh file to its place, for the user alone, whole or not at all. What has come there meanwhile stays.
+void layFresh(const std::string& installation, const std::string& folder, const char* name) {
+  LocalFiles files;
+  const std::string target = folder + name;
+  const QByteArray contents = contentsOf(qt(installation + kFreshFolder + name));
+  const std::string unfinished = files.unusedNameBeside(target);
+  files.write(unfinished, "", [&contents](const ByteSink& sink) { sink(contents.toStdString()); });
+  // Unlike the system's, this one never takes another file's place.
+  if (!QFile::rename(qt(unfinished), qt(target))) {
+    files.remove(unfinished);
+    if (!files.exists(target)) {
+      throw FileError(target, "The fresh file cannot be given this name.");
+    }
+  }
+}
+
+bool hasTraces(const std::string& folder) {
+  LocalFiles files;
+  return std::ranges::any_of(kTraces, [&](const char* name) { return files.exists(folder + name); }) ||
+         !QDir(qt(folder)).entryList({QStringLiteral("replaced-*.mdb")}, QDir::Files).isEmpty();
+}
+
+/// Where it cannot be laid, the traces have to do.
+void markAsLaid(const std::string& folder) {
+  try {
+    LocalFiles().overwrite(folder + kLaidMark, FileRest::removed, [](const ByteSink& sink) { sink(kLaidText); });
+  } catch (const FileError&) {
   }
 }
 
@@ -144,11 +179,7 @@ std::string chooseFolder(const ExecutableFolder& executable, const UserEnvironme
 
 void layUserFolder(const std::string& installation, const std::string& folder) {
   if (LocalFiles().exists(folder)) {
-    try {
-      layProgramFiles(QDir(qt(installation)), QDir(qt(folder)));
-    } catch (const FileError&) {
-      // An older picture or help page keeps nobody from working.
-    }
+    bringBarsUpToDate(installation, folder);
     return;
   }
   try {
@@ -159,10 +190,43 @@ void layUserFolder(const std::string& installation, const std::string& folder) {
   }
 }
 
+Laid layOnce(const std::string& installation, const std::string& folder) {
+  LocalFiles files;
+  const bool hasDatabase = files.exists(folder + kDatabase);
+  if (files.exists(folder + kLaidMark)) {
+    return hasDatabase ? Laid::before : Laid::lost;
+  }
+  if (!files.exists(installation + kFreshFolder + kDatabase)) {
+    return Laid::nothing;
+  }
+  if (!hasDatabase && hasTraces(folder)) {
+    return Laid::lost;
+  }
+  try {
+    makePrivateFolder(pathOf(folder));
+  } catch (const fs::filesystem_error& error) {
+    throw FileError(folder, error.code().message());
+  }
+  // In this order: a start that is killed leaves what the next one takes up.
+  for (const char* const name : {kDatabase, kTemplate}) {
+    if (!files.exists(folder + name)) {
+      layFresh(installation, folder, name);
+    }
+  }
+  if (folder != installation) {
+    bringBarsUpToDate(installation, folder);
+  }
+  markAsLaid(folder);
+  return hasDatabase ? Laid::before : Laid::now;
+}
+
 std::string programFolderFor(const std::string& executableFolder) {
-  const std::string folder = chooseFolder(lookAt(executableFolder), userEnvironment());
+  const ExecutableFolder executable = lookAt(executableFolder);
+  const std::string folder = chooseFolder(executable, userEnvironment());
   if (folder != executableFolder) {
     layUserFolder(executableFolder, folder);
+  } else if (executable.isWritable && !executable.isShared) {
+    layOnce(executableFolder, folder);
   }
   return folder;
 }

@@ -18,12 +18,13 @@
 #include "ui/controls/boxes.h"
 #include "ui/controls/display_text.h"
 #include "ui/controls/page_opener.h"
+#include "ui/controls/program_file.h"
 #include "ui/main_window/damage_box.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr const char* kHelpFile = "/help.html";
+const QString kHelpFile = QStringLiteral("/help.html");
 constexpr QSize kDefaultSize{820, 580};
 constexpr QSize kSmallestSize{660, 380};
 
@@ -110,7 +111,7 @@ void Master::fullInit() {
   program_.start();
 }
 
-QString Master::fileOf(const QString& name) const { return QString::fromStdString(program_.programFolder()) + name; }
+QString Master::fileOf(const QString& name) const { return programFile(program_.programFolder(), name); }
 
 void Master::loadPictures() {
   const auto load = [this](PictureButton& image, const QString& name) {
@@ -195,7 +196,7 @@ void Master::grid1_Click(int row) {
   }
 }
 
-void Master::Label1_Click() { openPage(program_.services(), program_.programFolder() + kHelpFile); }
+void Master::Label1_Click() { openPage(program_.services(), fileOf(kHelpFile).toStdString()); }
 
 void Master::imgLogoSmall_Click() { visitPage(program_.services(), kProductHomePage); }
 

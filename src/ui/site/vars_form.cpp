@@ -7,13 +7,14 @@
 #include "platform/prompts.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/picture_button.h"
+#include "ui/controls/program_file.h"
 
 namespace tarnwick {
 
 VarsForm::VarsForm(const std::string& programFolder, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("vars"));
   auto* picture = named(new QLabel(this), "Picture1", QString::fromLatin1(kProductName));
-  picture->setPixmap(loadPicture(QString::fromStdString(programFolder) + QStringLiteral("/images/logosmall.bmp")));
+  picture->setPixmap(loadPicture(programFile(programFolder, QStringLiteral("/images/logosmall.bmp"))));
   auto* all = new QVBoxLayout(this);
   all->addWidget(picture, 0, Qt::AlignCenter);
   all->addWidget(addButton(*this, "Command1", tr("Command1")));

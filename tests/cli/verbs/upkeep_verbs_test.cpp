@@ -111,5 +111,35 @@ TEST_F(RestoreVerb, IsRefusedWhileARunIsOn) {
   EXPECT_THAT(err, Not(HasSubstr("second run")));
 }
 
+using InitVerb = UpkeepVerbs;
+
+TEST_F(InitVerb, LaysAFreshListIntoANamedFolderOnce) {
+  std::filesystem::create_directories(folder.file("fresh"));
+  std::filesystem::copy_file(folder.databasePath(), folder.file("fresh/tarnwick.mdb"));
+  std::ofstream(folder.file("fresh/email.txt")) << "template";
+  const std::string named = folder.file("named");
+  EXPECT_EQ(run({"init", "--folder", named}), exit_status::ok) << err;
+  EXPECT_EQ(out, "A fresh list lies in " + named + ".\n");
+  EXPECT_EQ(run({"--folder", named, "add", "http://a/"}), exit_status::ok) << err;
+  EXPECT_EQ(runJson({"init", "--folder", named, "--json"}), Json({{"folder", named}, {"laid", false}}));
+  EXPECT_EQ(run({"--folder", named, "sites"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("http://a/"));
+  std::filesystem::remove(named + "/tarnwick.mdb");
+  EXPECT_EQ(run({"init", "--folder", named}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("has had a list"));
+  EXPECT_FALSE(std::filesystem::exists(named + "/tarnwick.mdb"));
+}
+
+TEST_F(InitVerb, SaysThatThereIsNothingToLay) {
+  EXPECT_EQ(run({"init", "--folder", folder.file("named")}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("install it again"));
+  EXPECT_FALSE(std::filesystem::exists(folder.file("named")));
+}
+
+TEST_F(InitVerb, LeavesAListThatIsThere) {
+  EXPECT_EQ(run({"init"}), exit_status::ok) << err;
+  EXPECT_THAT(out, HasSubstr("already"));
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

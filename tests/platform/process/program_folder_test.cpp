@@ -152,9 +152,7 @@ class SharedInstallationTest : public ::testing::Test {
 
 TEST_F(SharedInstallationTest, TheFirstStartLaysTheUsersFolder) {
   EXPECT_EQ(start(), user.generic_string());
-  EXPECT_THAT(namesIn(user),
-              UnorderedElementsAre("tarnwick.mdb", "email.txt", "help.html", "help/index.html",
-                                   "help/images/main-window.png", "images/start.bmp", "reports/green.jpg"));
+  EXPECT_THAT(namesIn(user), UnorderedElementsAre("tarnwick.mdb", "email.txt", "reports/green.jpg"));
   EXPECT_EQ(get(user / "tarnwick.mdb"), "a fresh database");
   EXPECT_EQ(get(user / "email.txt"), "a fresh template");
   EXPECT_EQ(std::distance(fs::directory_iterator(user.parent_path()), {}), 1) << "something was left beside it";
@@ -180,16 +178,12 @@ TEST_F(SharedInstallationTest, ALaterStartLeavesWhatIsTheUsersAlone) {
   EXPECT_EQ(get(user / "reports" / "report.html"), "my report");
 }
 
-TEST_F(SharedInstallationTest, AnUpgradeBringsThePicturesAndTheHelpPageUpToDate) {
+TEST_F(SharedInstallationTest, AnUpgradeBringsTheBarsOfTheReportUpToDate) {
   start();
-  put(installation + "/help.html", "new help");
-  put(installation + "/help/alerts.html", "another page of the guide");
-  put(installation + "/images/stop.bmp", "another picture");
+  put(installation + "/reports/green.jpg", "another green");
   put(installation + "/fresh/tarnwick.mdb", "a newer fresh database");
   start();
-  EXPECT_EQ(get(user / "help.html"), "new help");
-  EXPECT_EQ(get(user / "help" / "alerts.html"), "another page of the guide");
-  EXPECT_EQ(get(user / "images" / "stop.bmp"), "another picture");
+  EXPECT_EQ(get(user / "reports" / "green.jpg"), "another green");
   EXPECT_EQ(get(user / "tarnwick.mdb"), "a fresh database");
 }
 
@@ -243,14 +237,6 @@ TEST_F(SharedInstallationTest, TheInstallationIsOnlyRead) {
   EXPECT_EQ(namesIn(installation), before);
 }
 
-TEST_F(SharedInstallationTest, APortableFolderIsUsedAsItStandsAndNothingIsCreated) {
-  fs::remove(installation + kSharedMark);
-  const auto before = namesIn(installation);
-  EXPECT_EQ(start(), installation);
-  EXPECT_EQ(namesIn(installation), before);
-  EXPECT_FALSE(fs::exists(user.parent_path()));
-}
-
 TEST_F(SharedInstallationTest, AFolderOfSomebodyElseLeadsToTheUsersOwn) {
   fs::remove(installation + kSharedMark);
   fs::permissions(installation, fs::perms::owner_read | fs::perms::owner_exec);
@@ -260,6 +246,107 @@ TEST_F(SharedInstallationTest, AFolderOfSomebodyElseLeadsToTheUsersOwn) {
   EXPECT_EQ(start(), user.generic_string());
   EXPECT_EQ(get(user / "tarnwick.mdb"), "a fresh database");
   fs::permissions(installation, fs::perms::owner_all);
+}
+
+/// A folder that one user has unpacked, which brings no list of its own.
+class UnpackedFolderTest : public SharedInstallationTest {
+ protected:
+  UnpackedFolderTest() { fs::remove(installation + kSharedMark); }
+
+  std::string database() const { return get(fs::path(installation) / "tarnwick.mdb"); }
+  bool hasDatabase() const { return fs::exists(installation + "/tarnwick.mdb"); }
+  fs::path own(const char* name) const { return fs::path(installation) / name; }
+};
+
+TEST_F(UnpackedFolderTest, TheFirstStartLaysListAndTemplate) {
+  auto expected = namesIn(installation);
+  expected.insert({"tarnwick.mdb", "email.txt", "laid-once.txt"});
+  EXPECT_EQ(start(), installation);
+  EXPECT_EQ(namesIn(installation), expected);
+  EXPECT_EQ(database(), "a fresh database");
+  EXPECT_EQ(get(own("email.txt")), "a fresh template");
+  EXPECT_FALSE(fs::exists(user.parent_path())) << "a folder was made for a program that has its own";
+}
+
+TEST_F(UnpackedFolderTest, TheListIsItsOwnersAlone) {
+  SKIP_ON_WINDOWS("There a file takes its rights from its folder, and the user's own is private.");
+  start();
+  EXPECT_EQ(fs::status(own("tarnwick.mdb")).permissions(), kOwnerFile);
+}
+
+TEST_F(UnpackedFolderTest, LaterStartsAndNewerFreshFilesLeaveWhatIsThere) {
+  start();
+  put(own("tarnwick.mdb"), "my sites");
+  put(own("email.txt"), "my text");
+  put(own("fresh/tarnwick.mdb"), "a newer fresh database");
+  start();
+  EXPECT_EQ(database(), "my sites");
+  EXPECT_EQ(get(own("email.txt")), "my text");
+}
+
+TEST_F(UnpackedFolderTest, AListThatIsLostLaterIsNotMadeAgain) {
+  start();
+  fs::remove(own("tarnwick.mdb"));
+  fs::remove(own("email.txt"));
+  EXPECT_EQ(start(), installation);
+  EXPECT_FALSE(hasDatabase());
+  EXPECT_FALSE(fs::exists(own("email.txt")));
+}
+
+TEST_F(UnpackedFolderTest, AListFromBeforeThereWasAMarkCounts) {
+  put(own("tarnwick.mdb"), "a list of an older program");
+  put(own("email.txt"), "my text");
+  start();
+  EXPECT_EQ(database(), "a list of an older program");
+  EXPECT_EQ(get(own("email.txt")), "my text");
+  fs::remove(own("tarnwick.mdb"));
+  start();
+  EXPECT_FALSE(hasDatabase()) << "an empty list came into the place of an older program's";
+}
+
+TEST_F(UnpackedFolderTest, EveryTraceOfAListThatIsGoneKeepsAFreshOneAway) {
+  for (const char* const trace :
+       {"tarnwick.mdb-wal", "tarnwick.mdb-shm", "tarnwick.mdb-journal", "tarnwick.mdb-wal.old", "backup.mdb",
+        "temp.mdb", "tarnwick.lock", "email.txt", "reports/report.html", "replaced-2026-11-21-063912.mdb"}) {
+    put(own(trace), "left");
+    start();
+    EXPECT_FALSE(hasDatabase()) << "beside " << trace;
+    fs::remove(own(trace));
+  }
+  start();
+  EXPECT_TRUE(hasDatabase());
+}
+
+TEST_F(UnpackedFolderTest, AStartThatWasKilledBeforeTheTemplateIsTakenUp) {
+  put(own("tarnwick.mdb"), "a fresh database");
+  start();
+  EXPECT_EQ(get(own("email.txt")), "a fresh template");
+  EXPECT_TRUE(fs::exists(installation + kLaidMark));
+}
+
+TEST_F(UnpackedFolderTest, ALinkThatLeadsNowhereIsAListThatIsMissing) {
+  SKIP_ON_WINDOWS("There a link needs rights that a tester seldom has.");
+  fs::create_symlink(work / "unplugged" / "tarnwick.mdb", own("tarnwick.mdb"));
+  start();
+  EXPECT_FALSE(fs::exists(work / "unplugged"));
+  EXPECT_TRUE(fs::is_symlink(own("tarnwick.mdb")));
+}
+
+TEST_F(UnpackedFolderTest, WithoutFreshFilesNothingIsCreated) {
+  fs::remove_all(own("fresh"));
+  const auto before = namesIn(installation);
+  EXPECT_EQ(start(), installation);
+  EXPECT_EQ(namesIn(installation), before);
+}
+
+TEST_F(UnpackedFolderTest, AFolderThatIsNamedIsLaidOnceAndWithItsBars) {
+  const fs::path named = work / "srv" / "watch";
+  EXPECT_EQ(layOnce(installation, named.generic_string()), Laid::now);
+  EXPECT_THAT(namesIn(named), UnorderedElementsAre("tarnwick.mdb", "email.txt", "laid-once.txt", "reports/green.jpg"));
+  EXPECT_EQ(layOnce(installation, named.generic_string()), Laid::before);
+  fs::remove(named / "tarnwick.mdb");
+  EXPECT_EQ(layOnce(installation, named.generic_string()), Laid::lost);
+  EXPECT_FALSE(fs::exists(named / "tarnwick.mdb"));
 }
 
 }  // namespace
