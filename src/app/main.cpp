@@ -1,20 +1,38 @@
 // SPDX-License-Identifier: MIT
 #include <cstdlib>
+#include <iostream>
 #include <limits>
+#include <optional>
 #include <QApplication>
 
 #include "app/desktop_platform.h"
+#include "app/display_guard.h"
 #include "app/translations.h"
+#include "app/window_arguments.h"
 #include "platform/process/unwanted_signals.h"
 #include "platform/program_folder.h"
+#include "platform/terminal.h"
 #include "program/fault_box.h"
 #include "ui/main_window/master.h"
 #include "ui/settings/control_dialog.h"
 #include "ui/site/one_site_editor.h"
 
+namespace {
+
+/// The status of arguments that cannot be understood, as the terminal tool has it.
+constexpr int kNotUnderstood = 2;
+
+}  // namespace
+
 int main(int argc, char** argv) {
   tarnwick::ignoreUnwantedSignals();
+  if (const auto answer = tarnwick::answerTo(tarnwick::programArguments(argc, argv))) {
+    (answer->isComplaint ? std::cerr : std::cout) << answer->text << std::endl;
+    return answer->isComplaint ? kNotUnderstood : EXIT_SUCCESS;
+  }
+  auto guard = std::make_optional<tarnwick::DisplayGuard>();
   QApplication application(argc, argv);
+  guard.reset();
   QApplication::setApplicationName(QString::fromLatin1(tarnwick::kProductName));
   QApplication::setApplicationVersion(QStringLiteral(TARNWICK_VERSION));
   // The desktop finds icon and name of the window by it.
