@@ -82,12 +82,14 @@ void Shadow::watch() {
   process_.pump().onWait = [this] { compare(); };
 }
 
-// A run that takes on new sites at once asks afresh when others have changed the list, which its first question cannot
-// rule out.
+// A run that takes on new sites at once asks afresh when others have changed the list, by what SQLite tells it: of a
+// file that was just opened, as after a compaction, that may be anything.
 void Shadow::second() {
   if (asksAfresh_ && model_->countdown() > 1) {
-    asksAfresh_ = false;
-    model_->editorClosed();
+    const auto told = process_.program().data().database().conn().execute("pragma data_version", {});
+    if (const std::int64_t version = told->field(0).toInt64(); std::exchange(listVersion_, version) != version) {
+      model_->editorClosed();
+    }
   }
   model_->second(now());
 }
@@ -211,11 +213,6 @@ void Shadow::compareLog() {
   }
   logSeen_ = log.size();
   logBefore_ = lastLogRow(world_);
-}
-
-void Shadow::editedByOthers() {
-  edited(false);
-  asksAfresh_ = settingsOf(world_).newSites == model::NewSites::kAtOnce;
 }
 
 // What a user types is no matter of the model: it is told the outcome, and has to go on alike from there.

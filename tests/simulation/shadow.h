@@ -29,7 +29,6 @@ class Shadow {
   void stops() { model_->stop(now()); }
   /// The user, or another program, has changed something: it is read from the list. `editor` when one was closed.
   void edited(bool editor);
-  void editedByOthers();
 
   std::uint64_t comparisons() const { return comparisons_; }
 
@@ -61,6 +60,7 @@ class Shadow {
   bool moved_ = true;
   bool answered_ = false;
   bool asksAfresh_ = false;
+  std::int64_t listVersion_ = 0;
 };
 
 }  // namespace tarnwick::simulation

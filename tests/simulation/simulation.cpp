@@ -257,7 +257,7 @@ void Simulation::bringInTheModel() {
   };
   user_.onVerb = [this] {
     if (shadow_ && !world_.isDead()) {
-      shadow_->editedByOthers();
+      shadow_->edited(false);
     }
   };
   user_.onStop = [this] { shadow_->stops(); };
