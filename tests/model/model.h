@@ -38,6 +38,7 @@ struct Site {
   std::optional<int> success, failure;
   Text baseline, latestPage;
   std::string postBody;  // the POST variables, already encoded; only a POST carries them
+  bool operator==(const Site&) const = default;
 };
 using Sites = std::map<int, Site>;
 

@@ -4,32 +4,23 @@
 #include <optional>
 
 #include "base/visible_text.h"
+#include "platform/clock.h"
 
 namespace tarnwick::simulation {
 namespace {
 
-/// Reads the fields of a row, one after the other. They stand in the row as hexadecimal digits, Null as nothing, each
-/// behind a letter.
+/// Reads the fields of a row, one after the other.
 class Fields {
  public:
-  explicit Fields(const std::string& row) : row_(row) {}
+  explicit Fields(const Recordset& row) : row_(row) {}
 
   model::Text text() {
-    const std::size_t end = std::min(row_.find('|', at_), row_.size());
-    const std::string field = row_.substr(at_, end - at_);
-    at_ = end + 1;
-    if (field == "NULL") {
-      return std::nullopt;
-    }
-    std::string bytes;
-    for (std::size_t i = 0; i + 1 < field.size(); i += 2) {
-      bytes += static_cast<char>(std::stoi(field.substr(i, 2), nullptr, 16));
-    }
-    return bytes;
+    SqlValue field = row_.field(next_++);
+    return field.isNull() ? std::nullopt : std::optional(std::move(field).toText());
   }
   std::optional<int> number() {
-    const model::Text field = text();
-    return field ? std::optional(std::stoi(*field)) : std::nullopt;
+    const SqlValue field = row_.field(next_++);
+    return field.isNull() ? std::nullopt : std::optional(static_cast<int>(field.toInt64()));
   }
   std::optional<model::Time> time() {
     const model::Text field = text();
@@ -37,18 +28,14 @@ class Fields {
   }
 
  private:
-  const std::string& row_;
-  std::size_t at_ = 0;
+  const Recordset& row_;
+  std::size_t next_ = 0;
 };
 
-/// `hex(null)` is an empty text.
-std::string columns(std::initializer_list<const char*> names) {
-  std::string list;
-  for (const char* name : names) {
-    list.append(list.empty() ? "" : ", ").append("case when ").append(name).append(" is null then null else hex(");
-    list.append(name).append(") end");
-  }
-  return list;
+/// A statement with a value is kept for the next time.
+std::unique_ptr<Recordset> ask(SqlConnection& list, std::string_view sql, std::uint64_t value) {
+  const SqlValue bound(static_cast<std::int64_t>(value));
+  return list.execute(sql, {&bound, 1});
 }
 
 std::string shown(const model::Text& text) { return text ? "'" + visibleText(*text) + "'" : "Null"; }
@@ -57,15 +44,16 @@ std::string shown(const std::optional<model::Time>& time) { return time ? dateTi
 
 }  // namespace
 
-model::Sites sitesOf(World& world) {
+// A yes/no that is reckoned with is the number that stands there.
+model::Sites sitesOf(SqlConnection& list) {
   model::Sites sites;
-  for (const std::string& row :
-       askDatabase(world, "select " +
-                              columns({"idSite", "url", "method", "active", "tInterval", "lastChecked", "alertEmail",
-                                       "email", "sUserName", "sPassWord", "status", "success", "failure",
-                                       "content_compare", "content_runtime"}) +
-                              " from sites order by idSite")) {
-    Fields fields(row);
+  for (const auto row = ask(list,
+                            "select idSite, url, method, active + 0, tInterval, lastChecked, alertEmail + 0, email, "
+                            "sUserName, sPassWord, status + 0, success, failure, content_compare, content_runtime "
+                            "from sites where idSite > ?1",
+                            0);
+       !row->eof(); row->moveNext()) {
+    Fields fields(*row);
     model::Site site;
     site.id = fields.number().value_or(0);
     site.url = fields.text();
@@ -82,19 +70,18 @@ model::Sites sitesOf(World& world) {
     site.failure = fields.number();
     site.baseline = fields.text();
     site.latestPage = fields.text();
-    sites[site.id] = site;
+    sites[site.id] = std::move(site);
   }
   return sites;
 }
 
-model::Settings settingsOf(World& world) {
+model::Settings settingsOf(SqlConnection& list) {
   model::Settings settings;
-  const std::string row = askDatabase(world, "select " +
-                                                 columns({"email", "smtp", "audio", "program", "timeout", "clogs",
-                                                          "creports", "cemail", "caudio", "cprogram"}) +
-                                                 " from control")
-                              .front();
-  Fields fields(row);
+  const auto row = ask(list,
+                       "select email, smtp, audio, program, timeout, clogs + 0, creports + 0, cemail + 0, caudio + 0, "
+                       "cprogram + 0 from control where id > ?1",
+                       0);
+  Fields fields(*row);
   settings.email = fields.text();
   settings.smtp = fields.text();
   settings.audio = fields.text();
@@ -105,9 +92,10 @@ model::Settings settingsOf(World& world) {
   settings.sendMail = fields.number();
   settings.playSound = fields.number();
   settings.startProgram = fields.number();
-  for (const std::string& option : askDatabase(world, "select name, value from siteOptions where idSite = 0")) {
-    const std::string name = option.substr(0, option.find('|'));
-    const std::string value = option.substr(option.find('|') + 1);
+  for (const auto option = ask(list, "select name, value from siteOptions where idSite = ?1", 0); !option->eof();
+       option->moveNext()) {
+    const std::string name = option->field("name").toText();
+    const std::string value = option->field("value").toText();
     if (name == "newSites" && value == "at once") {
       settings.newSites = model::NewSites::kAtOnce;
     } else if (name == "adopt" && value == "pages only") {
@@ -119,13 +107,14 @@ model::Settings settingsOf(World& world) {
   return settings;
 }
 
-std::vector<model::LogRow> logOf(World& world, std::uint64_t from) {
+std::vector<model::LogRow> logOf(SqlConnection& list, std::uint64_t from) {
   std::vector<model::LogRow> rows;
-  for (const std::string& row : askDatabase(
-           world, "select " +
-                      columns({"idSite", "url", "status", "errCode", "errDescription", "content", "dateStamp"}) +
-                      " from log where rowid > " + std::to_string(from) + " order by rowid")) {
-    Fields fields(row);
+  for (const auto row = ask(list,
+                            "select idSite, url, status + 0, errCode, errDescription, content, dateStamp from log "
+                            "where rowid > ?1 order by rowid",
+                            from);
+       !row->eof(); row->moveNext()) {
+    Fields fields(*row);
     model::LogRow& read = rows.emplace_back();
     read.idSite = fields.number().value_or(0);
     read.url = fields.text().value_or("");
@@ -136,6 +125,11 @@ std::vector<model::LogRow> logOf(World& world, std::uint64_t from) {
     read.dateStamp = fields.time().value_or(model::Time{});
   }
   return rows;
+}
+
+std::uint64_t lastLogRow(SqlConnection& list) {
+  const auto row = ask(list, "select coalesce(max(rowid), ?1) from log", 0);
+  return static_cast<std::uint64_t>(row->field(0).toInt64());
 }
 
 std::string lineOf(const model::Site& site) {

@@ -5,15 +5,17 @@
 #include <vector>
 
 #include "model/model.h"
-#include "simulation/world.h"
+#include "platform/sql_connection.h"
 
 namespace tarnwick::simulation {
 
-/// The list as the model has it, read as another program would.
-model::Sites sitesOf(World& world);
-model::Settings settingsOf(World& world);
+/// The list as the model has it, read through the program's own connection: that costs a fraction of opening it as
+/// another program would, which the ledger does.
+model::Sites sitesOf(SqlConnection& list);
+model::Settings settingsOf(SqlConnection& list);
 /// The rows behind that number.
-std::vector<model::LogRow> logOf(World& world, std::uint64_t from);
+std::vector<model::LogRow> logOf(SqlConnection& list, std::uint64_t from);
+std::uint64_t lastLogRow(SqlConnection& list);
 
 /// A site in one line, pages and all.
 std::string lineOf(const model::Site& site);

@@ -39,10 +39,10 @@ Shadow::Shadow(World& world, Process& process, std::function<void(const std::str
   surroundings.website = kProductHomePage;
   surroundings.mailTemplate = kMailTemplate;
   surroundings.dateText = dateOf;
-  model_ = std::make_unique<model::Model>(surroundings, sitesOf(world_), settingsOf(world_));
+  model_ = std::make_unique<model::Model>(surroundings, sitesOf(list()), settingsOf(list()));
   model_->takeEffects();
-  asksAfresh_ = settingsOf(world_).newSites == model::NewSites::kAtOnce;
-  logBefore_ = lastLogRow(world_);
+  asksAfresh_ = settingsOf(list()).newSites == model::NewSites::kAtOnce;
+  logBefore_ = lastLogRow(list());
   watch();
 }
 
@@ -86,7 +86,7 @@ void Shadow::watch() {
 // file that was just opened, as after a compaction, that may be anything.
 void Shadow::second() {
   if (asksAfresh_ && model_->countdown() > 1) {
-    const auto told = process_.program().data().database().conn().execute("pragma data_version", {});
+    const auto told = list().execute("pragma data_version", {});
     if (const std::int64_t version = told->field(0).toInt64(); std::exchange(listVersion_, version) != version) {
       model_->editorClosed();
     }
@@ -157,6 +157,9 @@ void Shadow::compare() {
   ++comparisons_;
   try {
     compareEffects();
+    if (list().inTransaction()) {
+      fail_("the program waits with a transaction open");
+    }
     if (std::exchange(moved_, false)) {
       compareRows();
       compareLog();
@@ -181,7 +184,7 @@ void Shadow::compareEffects() {
 }
 
 void Shadow::compareRows() {
-  const model::Sites stored = sitesOf(world_);
+  const model::Sites stored = sitesOf(list());
   const model::Sites& rows = model_->rows();
   for (const auto& [id, site] : rows) {
     const auto found = stored.find(id);
@@ -189,7 +192,7 @@ void Shadow::compareRows() {
       fail_("the model has a site that the list has not: " + lineOf(site));
       return;
     }
-    if (lineOf(found->second) != lineOf(site)) {
+    if (found->second != site) {
       fail_("the list has\n  " + lineOf(found->second) + "\nwhere the model has\n  " + lineOf(site));
       return;
     }
@@ -200,7 +203,7 @@ void Shadow::compareRows() {
 }
 
 void Shadow::compareLog() {
-  const std::vector<model::LogRow> stored = logOf(world_, logBefore_);
+  const std::vector<model::LogRow> stored = logOf(list(), logBefore_);
   const std::vector<model::LogRow>& log = model_->log();
   for (std::size_t i = 0; i < std::max(stored.size(), log.size() - logSeen_); ++i) {
     const bool listed = i < stored.size();
@@ -212,13 +215,13 @@ void Shadow::compareLog() {
     }
   }
   logSeen_ = log.size();
-  logBefore_ = lastLogRow(world_);
+  logBefore_ = lastLogRow(list());
 }
 
 // What a user types is no matter of the model: it is told the outcome, and has to go on alike from there.
 void Shadow::edited(bool editor) {
   moved_ = true;
-  const model::Sites stored = sitesOf(world_);
+  const model::Sites stored = sitesOf(list());
   const model::Sites before = model_->rows();
   for (const auto& [id, site] : before) {
     if (!stored.contains(id)) {
@@ -238,12 +241,12 @@ void Shadow::edited(bool editor) {
     }
     model_->edited(site);
   }
-  logBefore_ = lastLogRow(world_);
+  logBefore_ = lastLogRow(list());
   if (logBefore_ == 0) {
     model_->logCleared();
     logSeen_ = 0;
   }
-  model_->settingsStored(settingsOf(world_));
+  model_->settingsStored(settingsOf(list()));
   if (editor) {
     model_->editorClosed();
   }

@@ -34,6 +34,7 @@ class Shadow {
 
  private:
   model::Time now() const { return world_.clock.localNow(); }
+  SqlConnection& list() { return process_.program().data().database().conn(); }
   void watch();
   void second();
   void see(std::string effect) { seen_.push_back(std::move(effect)); }

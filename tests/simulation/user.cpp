@@ -36,9 +36,10 @@ std::int16_t User::someSite(Chance& chance) const {
 }
 
 void User::act(Process& process, Chance chance) {
+  edited_ = true;
   initialized_ = false;
   actAs(process, chance);
-  if (onEdited) {
+  if (edited_ && onEdited) {
     onEdited(initialized_);
   }
 }
@@ -67,6 +68,7 @@ void User::actAs(Process& process, Chance chance) {
   }
   switch (what) {
     case stop:
+      edited_ = false;
       perform("stops the run, and starts it later", [&] {
         if (onStop) {
           onStop();

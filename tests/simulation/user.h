@@ -52,6 +52,7 @@ class User {
   Ledger& ledger_;
   std::uint64_t added_ = 0;
   int verbsAtWork_ = 0;
+  bool edited_ = false;
   bool initialized_ = false;
 };
 
