@@ -5,7 +5,8 @@
 set(TARNWICK_CORE_ROOMS base platform platform/os platform/sqlite store uucode mail alerts report engine program)
 # The machine with its network and its desktop, and the two front ends.
 set(TARNWICK_OUTER_ROOMS platform/web platform/events platform/process platform/sound platform/desktop
-    cli/terminal cli/pages cli/list cli/verbs
+    exchange/json exchange/list exchange/foreign
+    cli/terminal cli/pages cli/verbs
     ui/controls ui/baseline ui/site ui/settings ui/main_window
     app)
 set(TARNWICK_ROOMS ${TARNWICK_CORE_ROOMS})

@@ -60,7 +60,7 @@ NO_MESSAGES = {
     "src/alerts/alert_dispatch.cpp": ("the subject of the mails", ("A WEB SITE ERROR",)),
     "src/cli/verbs/command_line.cpp": ("the tool's own help", ("Tarnwick watches", "Exit status:")),
     "src/cli/verbs/option_verb.cpp": ("the options in the verb's help", ("Names, and", " In a new")),
-    "src/cli/verbs/exchange_verbs.cpp": ("a line of a dry run", ("change the options",)),
+    "src/cli/verbs/import_verb.cpp": ("a line of a dry run", ("change the options",)),
     "src/cli/verbs/page_verbs.cpp": ("the head of a diff", ("--- baseline", "+++ latest")),
     "src/cli/pages/unified_diff.cpp": ("the word of every diff for it", (" No newline",)),
     "src/cli/verbs/site_verbs.cpp": ("cells of the verb site", ("set; --show", "none yet:")),

@@ -20,6 +20,9 @@ LIBRARY_TARGETS = (
     ("Zstandard::Zstandard", r"zstd\w*\.h", ()),
     ("CLI11::CLI11", r"CLI/.*", ()),
     ("nlohmann_json::nlohmann_json", r"nlohmann/.*", ()),
+    ("LibXml2::LibXml2", r"libxml/.*", ()),
+    ("Yaml::Yaml", r"yaml-cpp/.*", ()),
+    ("Zip::Zip", r"zip\.h", ()),
     ("Qt6::Network", r"Q(Tcp|Host|Network|Ssl|LocalS|AbstractSocket)\w*", ("Qt6::Core",)),
     ("Qt6::Widgets", r"Q(Application|StylePainter|\w*(Widget|Dialog|Layout|Button|Edit|Box|TableView|HeaderView|Bar|Label"
                      r"|Menu|Style|StyleOption\w*|Delegate|MainWindow|ToolTip))", ("Qt6::Core", "Qt6::Gui")),
@@ -27,7 +30,7 @@ LIBRARY_TARGETS = (
 )
 ANY_LIBRARY = re.compile("|".join(headers for _, headers, _ in LIBRARY_TARGETS))
 # The rooms whose tests drive the whole tool, with its transfers and its event loop, though they know no Qt themselves.
-WHOLE_TOOL = {"cli/list", "cli/verbs"}
+WHOLE_TOOL = {"exchange/list", "exchange/foreign", "cli/verbs"}
 
 COMMAND = re.compile(r"^[ \t]*(\w+)[ \t]*\(((?:[^()]|\([^()]*\))*)\)", re.MULTILINE)
 SOURCE_NAME = re.compile(r"(?<![\w./${}-])[\w./${}-]+\.cpp(?![\w.])")

@@ -23,10 +23,10 @@ TREES = {
     "Qt in the terminal": ("belong in cli/verbs/", {"src/cli/verbs/a.h": HEADER + "#include <QString>\n"}),
     "Qt in the database": ("belong in platform/sqlite/", {
         "src/platform/sqlite/a.h": HEADER + "#include <QString>\n"}),
-    "a library by way of a header": ("src/cli/pages/a.h:1: includes <nlohmann/json.hpp> through src/cli/terminal/b.h", {
-        "src/cli/list/a.h": HEADER + '#include "cli/terminal/b.h"\n',
-        "src/cli/terminal/b.h": HEADER + "#include <nlohmann/json.hpp>\n",
-        "src/cli/pages/a.h": HEADER + '#include "cli/terminal/b.h"\n'}),
+    "a library by way of a header": ("src/cli/terminal/a.h:1: includes <nlohmann/json.hpp> through src/exchange/json/b.h", {
+        "src/exchange/list/a.h": HEADER + '#include "exchange/json/b.h"\n',
+        "src/exchange/json/b.h": HEADER + "#include <nlohmann/json.hpp>\n",
+        "src/cli/terminal/a.h": HEADER + '#include "exchange/json/b.h"\n'}),
     "a room that looks up": ('includes "engine/e.h": store/ may include only base, platform', {
         "src/store/a.h": HEADER + '#include "engine/e.h"\n', "src/engine/e.h": HEADER}),
     "a window in the terminal": ('includes "ui/site/s.h": cli/verbs/ may include only', {
@@ -41,7 +41,7 @@ TREES = {
         "src/platform/web/CMakeLists.txt": "tarnwick_room(web SOURCES a.cpp b.cpp)\n"}),
     "SQL in a window": ("src/ui/site/a.h:2: writes SQL", {
         "src/ui/site/a.h": HEADER + 'auto sql = "select url from sites";\n'}),
-    "SQL in the terminal": ("writes SQL", {"src/cli/list/a.h": HEADER + 'auto sql = "UPDATE sites set a = 1";\n'}),
+    "SQL in the terminal": ("writes SQL", {"src/cli/verbs/a.h": HEADER + 'auto sql = "UPDATE sites set a = 1";\n'}),
     "a file in no room": ("src/stray/a.h:1: lies in src/stray, which is no room", {"src/stray/a.h": HEADER}),
     "a long source": ("has 501 lines", {"src/store/a.h": HEADER + "\n" * 500}),
     "a long form": ("has 301 lines", {"src/ui/site/a.h": HEADER + "\n" * 300}),

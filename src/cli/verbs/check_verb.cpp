@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <set>
 
-#include "cli/terminal/json_text.h"
+#include "cli/terminal/json_output.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "engine/cause.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/terminal/json_text.h"
+#include "cli/terminal/json_output.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "platform/program_folder.h"

@@ -3,7 +3,7 @@
 #include <ostream>
 
 #include "cli/terminal/consent.h"
-#include "cli/terminal/json_text.h"
+#include "cli/terminal/json_output.h"
 #include "cli/terminal/moment.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"

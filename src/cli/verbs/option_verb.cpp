@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "base/text.h"
-#include "cli/terminal/json_text.h"
+#include "cli/terminal/json_output.h"
 #include "cli/terminal/text_grid.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"

@@ -4,7 +4,7 @@
 
 #include "cli/pages/unified_diff.h"
 #include "cli/terminal/input_file.h"
-#include "cli/terminal/json_text.h"
+#include "cli/terminal/json_output.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "platform/interrupts.h"

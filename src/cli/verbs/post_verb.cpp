@@ -3,13 +3,13 @@
 #include <optional>
 #include <set>
 
-#include "cli/list/site_facts.h"
 #include "cli/terminal/input_file.h"
-#include "cli/terminal/json_text.h"
+#include "cli/terminal/json_output.h"
 #include "cli/terminal/text_grid.h"
 #include "cli/verbs/site_edit_verbs.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
+#include "exchange/list/site_facts.h"
 
 namespace tarnwick {
 namespace {

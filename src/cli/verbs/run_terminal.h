@@ -6,7 +6,7 @@
 #include <string>
 
 #include "cli/terminal/console.h"
-#include "cli/terminal/json_text.h"
+#include "cli/terminal/json_output.h"
 #include "engine/run_view.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"

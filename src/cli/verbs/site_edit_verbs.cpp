@@ -11,12 +11,12 @@
 
 #include "base/one_line.h"
 #include "base/text.h"
-#include "cli/list/site_import.h"
-#include "cli/list/site_list.h"
 #include "cli/terminal/input_file.h"
-#include "cli/terminal/json_text.h"
+#include "cli/terminal/json_output.h"
 #include "cli/verbs/unwatched.h"
 #include "cli/verbs/verbs.h"
+#include "exchange/list/site_import.h"
+#include "exchange/list/site_list.h"
 #include "platform/address.h"
 #include "program/site_draft.h"
 

@@ -4,12 +4,12 @@
 #include <set>
 #include <utility>
 
-#include "cli/list/site_facts.h"
 #include "cli/terminal/consent.h"
-#include "cli/terminal/json_text.h"
+#include "cli/terminal/json_output.h"
 #include "cli/terminal/text_grid.h"
 #include "cli/verbs/site_edit_verbs.h"
 #include "cli/verbs/verbs.h"
+#include "exchange/list/site_facts.h"
 
 namespace tarnwick {
 namespace {
@@ -38,6 +38,26 @@ struct DeleteOptions {
 bool isWanted(const SiteFacts& facts, const SitesOptions& options) {
   return (!options.down || facts.down()) && (!options.active || facts.site.active) &&
          (!options.inactive || !facts.site.active);
+}
+
+/// "up", "not a page", "down" or "-", in its colour, and whether the site is left out of runs.
+struct StateText {
+  std::string text;
+  Console::Colour colour = Console::Colour::plain;
+};
+
+StateText stateOf(const SiteFacts& facts) {
+  StateText state{"-", Console::Colour::plain};
+  if (facts.status) {
+    state = *facts.status ? StateText{"up", Console::Colour::green} : StateText{"down", Console::Colour::red};
+  }
+  if (facts.notAPage) {
+    state.text = "not a page";
+  }
+  if (!facts.site.active) {
+    state.text += " (inactive)";
+  }
+  return state;
 }
 
 void printSites(Console& console, const std::vector<SiteFacts>& sites) {

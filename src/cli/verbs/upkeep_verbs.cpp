@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "base/text.h"
-#include "cli/terminal/json_text.h"
+#include "cli/terminal/json_output.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "store/restoration.h"

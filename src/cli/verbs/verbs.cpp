@@ -21,7 +21,8 @@ std::vector<Verb> allVerbs(const Fields& fields) {
   all.push_back(optionVerb(fields));
   all.push_back(logVerb());
   add(upkeepVerbs());
-  add(exchangeVerbs());
+  all.push_back(exportVerb());
+  all.push_back(importVerb());
   all.push_back(initVerb());
   return all;
 }

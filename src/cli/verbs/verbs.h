@@ -27,8 +27,8 @@ Verb logVerb();
 Verb initVerb();
 /// report, compact, restore
 std::vector<Verb> upkeepVerbs();
-/// export, import
-std::vector<Verb> exchangeVerbs();
+Verb exportVerb();
+Verb importVerb();
 
 /// All of them, in the order of the help.
 std::vector<Verb> allVerbs(const Fields& fields);

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "cli/list/site_list_csv.h"
-#include "cli/list/site_list_json.h"
+#include "exchange/list/site_list_csv.h"
+#include "exchange/list/site_list_json.h"
 
 namespace tarnwick::testing {
 namespace {

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <ostream>
+
+#include "base/text.h"
+#include "cli/verbs/tool.h"
+#include "cli/verbs/verbs.h"
+#include "exchange/list/site_import.h"
+#include "exchange/list/site_list_csv.h"
+#include "exchange/list/site_list_json.h"
+#include "exchange/list/site_list_stored.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kStream = "-";
+
+enum class Format { csv, json };
+
+struct ExportOptions {
+  std::string file;
+  std::string format;
+  bool noPasswords = false;
+  bool baselines = false;
+};
+
+Format formatOf(const std::string& file, const std::string& format) {
+  const std::string end =
+      format.empty() ? lowerCase(file.substr(std::min(file.rfind('.'), file.size()))) : "." + format;
+  if (end == ".csv") {
+    return Format::csv;
+  }
+  if (end == ".json") {
+    return Format::json;
+  }
+  throw std::runtime_error("The format of \"" + visibleText(file) +
+                           "\" does not show in its name. Add --format csv or --format json.");
+}
+
+std::string shownName(const std::string& file) { return file == kStream ? "standard input" : visibleText(file); }
+
+std::string countText(std::size_t count) { return std::to_string(count) + (count == 1 ? " site" : " sites"); }
+
+/// Tells which of the sites that are exported an import would refuse, since the list has not only been edited here.
+class ImportWarnings {
+ public:
+  ImportWarnings(Console& console, const Fields& fields) : console_(console), fields_(fields) {}
+
+  void look(const ListedSite& site) {
+    ListFaults faults;
+    ListValues values(0, faults);
+    values.id(std::to_string(site.idSite.value_or(0)));
+    for (const SiteField& field : fields_.site) {
+      const FieldValue value = valueOf(field, site.site);
+      if (const auto* const text = std::get_if<std::string>(&value)) {
+        values.value(field, *text);
+      }
+    }
+    checkTexts(site.site, values);
+    if (!faults.none() && ++count_ <= ListFaults::kMostKept) {
+      console_.complain("An import will refuse site " + std::to_string(site.idSite.value_or(0)) + ": " +
+                        faults.kept().front().text + ".");
+    }
+  }
+
+  void end() {
+    if (count_ > ListFaults::kMostKept) {
+      console_.complain("An import will refuse " + countText(count_) + "; the first " +
+                        std::to_string(ListFaults::kMostKept) + " are named.");
+    }
+  }
+
+ private:
+  Console& console_;
+  const Fields& fields_;
+  std::size_t count_ = 0;
+};
+
+/// A list on its way to standard output: every byte into a file or a pipe, so that an import finds it as it was, and
+/// lines that act on nothing to a terminal.
+class ListOutput {
+ public:
+  explicit ListOutput(Console& console) : console_(console) {}
+
+  void write(std::string_view bytes) {
+    if (!console_.isTerminal()) {
+      console_.out() << bytes;
+      return;
+    }
+    line_ += bytes;
+    std::size_t begin = 0;
+    for (auto end = line_.find('\n'); end != std::string::npos; end = line_.find('\n', begin)) {
+      std::string_view line = std::string_view(line_).substr(begin, end - begin);
+      if (line.ends_with('\r')) {
+        line.remove_suffix(1);
+      }
+      console_.out() << visibleText(line) << '\n';
+      begin = end + 1;
+    }
+    line_.erase(0, begin);
+  }
+  void end() { console_.out() << visibleText(line_); }
+
+ private:
+  Console& console_;
+  std::string line_;
+};
+
+std::size_t writeList(Tool& tool, Format format, ListColumns columns, const ByteSink& sink) {
+  m& data = tool.data();
+  // Whether options are columns is of the same state as the options, whoever sets one meanwhile.
+  const Snapshot oneState(data.database());
+  columns.options = hasOptions(data);
+  const auto writer = format == Format::csv ? makeCsvWriter(columns, sink, tool.fields())
+                                            : makeJsonWriter(columns, sink, tool.fields());
+  ImportWarnings warnings(tool.console(), tool.fields());
+  std::size_t count = 0;
+  writer->begin(columns.options ? knownOptions(data, kAllSites) : OptionValues());
+  readListedSites(data, columns, [&](const ListedSite& site) {
+    writer->add(site);
+    warnings.look(site);
+    ++count;
+  });
+  writer->end();
+  warnings.end();
+  return count;
+}
+
+int exportList(Tool& tool, const ExportOptions& options) {
+  const Format format = formatOf(options.file, options.format);
+  const ListColumns columns{.passwords = !options.noPasswords, .baselines = options.baselines};
+  Console& console = tool.console();
+  if (options.file == kStream) {
+    ListOutput out(console);
+    writeList(tool, format, columns, [&out](std::string_view bytes) { out.write(bytes); });
+    out.end();
+    return exit_status::ok;
+  }
+  // Also a folder without a list is told before anything is made.
+  if (tool.services().files.isSameFile(options.file, tool.data().database().dbPath())) {
+    throw std::runtime_error("The file \"" + visibleText(options.file) +
+                             "\" is the list itself. Export to a file of another name.");
+  }
+  std::size_t count = 0;
+  tool.services().files.writePrivately(options.file,
+                                       [&](const ByteSink& sink) { count = writeList(tool, format, columns, sink); });
+  console.say("Exported " + countText(count) + " to " + shownName(options.file) + ".");
+  return exit_status::ok;
+}
+
+}  // namespace
+
+Verb exportVerb() {
+  auto options = std::make_shared<ExportOptions>();
+  return Verb{
+      "export",
+      "Write the list of sites to a CSV or JSON file",
+      {{.name = "FILE",
+        .target = &options->file,
+        .meaning = "The file, whose name ends in .csv or .json; - is standard output",
+        .required = true},
+       {.name = "--format",
+        .target = &options->format,
+        .meaning = "The file's format, whatever its name: csv or json",
+        .oneOf = {"csv", "json"}},
+       {"--no-passwords", &options->noPasswords, "Leave the passwords out; an import then keeps those stored"},
+       {"--baselines", &options->baselines, "Write the pages that the sites are compared with as well"}},
+      "The file holds what has been set for each site, with its POST variables; what checks have found is not part "
+      "of it. Only you can read it, and one that is there already is replaced when the new one is complete.\n" +
+          examples({{"export sites.csv", "for a spreadsheet, or for another computer"},
+                    {"export --baselines sites.json", "a copy of the whole list"},
+                    {"export - --format json --no-passwords", "to standard output"}}),
+      [options](Tool& tool) { return exportList(tool, *options); }};
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "exchange/foreign/foreign_list.h"
+#include "exchange/list/site_import.h"
+#include "exchange/list/site_list.h"
+
+namespace tarnwick {
+
+/// The words for all kinds of files that can be imported: "csv", "json", "addresses", ...
+std::vector<std::string> importWords();
+
+/// The word for the kind of a file: by the ending of its name where that is .csv or .json, otherwise by its content.
+/// Nothing when it does not show itself.
+std::optional<std::string> wordOfFile(const std::string& name, std::string_view bytes);
+
+/// A file of any kind, read.
+struct AnyList {
+  ForeignList content;
+  /// Whether another program wrote it: its sites have no ids.
+  bool foreign = false;
+};
+
+/// Reads a file of the kind of that word. What is wrong with it is added to `faults`; then nothing of it is to be used.
+AnyList readAnyList(const std::string& word, std::string_view bytes, const Fields& fields, ListFaults& faults);
+
+/// Notes the addresses that the plan has left out since the file has them twice.
+void noteRepeated(const ImportPlan& plan, ForeignList& list);
+
+/// What is told of a note, for a terminal: `line 12, https://example.org/: not taken over: title "News"`.
+std::string lineOf(const ForeignNote& note);
+
+}  // namespace tarnwick

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "exchange/list/site_list.h"
+#include "program/m.h"
+
+namespace tarnwick {
+
+/// Which mail addresses `m::isEmail` takes.
+inline constexpr const char* kMailAddressRule =
+    "letters a to z, digits, \".\", \"-\", \"_\" before the \"@\" only, and at most 3 characters behind the last \".\"";
+
+struct ImportOptions {
+  /// Adds every site of the file as a new one, whatever id it has there. What is set for all sites stays.
+  bool asNew = false;
+  /// Deletes the sites that the file does not name.
+  bool replace = false;
+  /// Takes a site without an id for that of the list which has its address, as files of other programs need it; one
+  /// address is one site then, also within the file.
+  bool byAddress = false;
+};
+
+/// An address that the file holds twice.
+struct RepeatedAddress {
+  std::size_t line = 0;
+  std::size_t firstLine = 0;
+  std::string url;
+};
+
+/// What an import does to one site.
+struct ImportStep {
+  enum class Action { add, change, remove };
+
+  Action action = Action::add;
+  std::int16_t idSite = 0;
+  /// The site as it will be stored, with all that the file leaves out; of one that is deleted its address only.
+  ListedSite listed;
+  /// What a change changes; what the file gives of a site that is added.
+  ListFields fields;
+};
+
+struct ImportPlan {
+  /// The sites of the file in its order, without those that stay as they are, and then those that are deleted.
+  std::vector<ImportStep> steps;
+  std::size_t unchanged = 0;
+  /// What is to be set for all sites in place of what is; nothing when that stays.
+  std::optional<OptionValues> optionsOfAll;
+  /// What was left out since it stands in the file already.
+  std::vector<RepeatedAddress> repeated;
+  /// What is imported, but could not be typed in.
+  ListFaults doubts;
+
+  std::size_t count(ImportStep::Action action) const;
+};
+
+/// What an import of `sites` would do, faults of the single sites added to `faults`; a plan with faults is not to be
+/// carried out. Raises DataAccessError.
+ImportPlan planImport(m& data, std::vector<ListedSite> sites, const ImportOptions& options, ListFaults& faults);
+
+/// Does it. REQUIRES: one transaction around the planning and this, which is committed when this returns.
+void carryOut(m& data, const ImportPlan& plan);
+
+/// Adds what an import would refuse in the texts of a site.
+void checkTexts(const SiteDraft& site, ListValues& values);
+
+/// "add", "change" or "delete"
+const char* wordOf(ImportStep::Action action);
+
+}  // namespace tarnwick

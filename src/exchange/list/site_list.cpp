@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/list/site_list.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+#include "base/text.h"
+#include "base/visible_text.h"
+#include "platform/transfer_control.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kLongestQuoted = 60;
+constexpr std::int16_t kHighest = std::numeric_limits<std::int16_t>::max();
+
+bool isOneOf(std::string_view text, std::initializer_list<std::string_view> words) {
+  return std::ranges::any_of(words, [&](std::string_view word) { return equalsIgnoringCase(text, word); });
+}
+
+std::string summaryOf(const ListFaults& faults) {
+  const std::size_t count = faults.count();
+  return "The file has " + std::to_string(count) + (count == 1 ? " fault" : " faults");
+}
+
+}  // namespace
+
+ListForm::ListForm(const Fields& fields) : fields_(fields) {
+  using enum ListField::Role;
+  all_.push_back({std::string(list_name::idSite), idSite});
+  for (const SiteField& field : fields.site) {
+    all_.push_back({field.name, siteField, &field});
+  }
+  all_.push_back({std::string(list_name::postVars), postVars});
+  all_.push_back({std::string(list_name::baseline), baseline});
+  all_.push_back({std::string(list_name::options), options});
+}
+
+const ListField* ListForm::find(std::string_view name) const {
+  const auto found =
+      std::ranges::find_if(all_, [&](const ListField& known) { return equalsIgnoringCase(known.name, name); });
+  return found == all_.end() ? nullptr : &*found;
+}
+
+std::string ListForm::names() const {
+  std::string names;
+  for (const ListField& field : all_) {
+    names += (names.empty() ? "" : ", ") + field.name;
+  }
+  return names;
+}
+
+void ListFaults::add(std::size_t line, std::string text) {
+  ++count_;
+  if (faults_.size() < kMostKept) {
+    faults_.push_back({line, std::move(text)});
+  }
+}
+
+std::vector<ListFaults::Fault> ListFaults::kept() const {
+  std::vector<Fault> sorted = faults_;
+  std::ranges::stable_sort(sorted, {}, &Fault::line);
+  return sorted;
+}
+
+SiteListError::SiteListError(const ListFaults& faults) : std::runtime_error(summaryOf(faults)), faults_(faults) {}
+
+std::optional<std::int16_t> ListValues::number(std::string_view text, std::string_view field,
+                                               const std::string& remedy) {
+  const std::string name(field);
+  const std::string_view digits = withoutBlanks(text);
+  const std::string_view unsignedPart = digits.starts_with('-') ? digits.substr(1) : digits;
+  if (unsignedPart.empty() || unsignedPart.find_first_not_of("0123456789") != std::string_view::npos) {
+    fault(name + " " + quotedForMessage(text) + " is no whole number: " + remedy);
+    return std::nullopt;
+  }
+  std::int32_t value = 0;
+  const auto [end, cause] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  if (cause != std::errc() || value < 1 || value > kHighest) {
+    fault(name + " " + quotedForMessage(digits) + " is outside 1 to " + std::to_string(kHighest) + ": " + remedy);
+    return std::nullopt;
+  }
+  return static_cast<std::int16_t>(value);
+}
+
+std::optional<std::int16_t> ListValues::id(std::string_view text) {
+  return number(text, list_name::idSite, "give the site's id, or leave it out to add the site as a new one");
+}
+
+std::optional<std::string> ListValues::interval(const std::string& name, std::string_view text) {
+  const auto minutes = number(text, name, "give the whole minutes between two checks");
+  return minutes ? std::optional(std::to_string(*minutes)) : std::nullopt;
+}
+
+std::optional<bool> ListValues::yesNo(const std::string& name, std::string_view text) {
+  const std::string_view word = withoutBlanks(text);
+  if (isOneOf(word, {"true", "yes", "on", "1"})) {
+    return true;
+  }
+  if (isOneOf(word, {"false", "no", "off", "0"})) {
+    return false;
+  }
+  fault(name + " " + quotedForMessage(text) + " is neither yes nor no: give True or False");
+  return std::nullopt;
+}
+
+std::optional<std::string> ListValues::method(const std::string& name, std::string_view text) {
+  if (isOneOf(text, {"get", "post"})) {
+    return std::string(text);
+  }
+  fault(name + " " + quotedForMessage(text) + " is none that is sent: give get or post");
+  return std::nullopt;
+}
+
+std::optional<FieldValue> ListValues::value(const SiteField& field, std::string text) {
+  switch (field.kind) {
+    case FieldKind::flag:
+      return yesNo(field.name, text);
+    case FieldKind::method:
+      return method(field.name, text);
+    case FieldKind::minutes:
+      return interval(field.name, text);
+    default:
+      return text;
+  }
+}
+
+void ListValues::option(const Fields& fields, OptionValues& options, std::string_view name, std::string_view text) {
+  const auto option = std::ranges::find_if(
+      fields.options, [&](const OptionField& known) { return equalsIgnoringCase(known.name, name); });
+  if (option == fields.options.end()) {
+    fault("there is no option " + quotedForMessage(name) + ": they are listed by tarnwickctl option --help");
+    return;
+  }
+  if (options.contains(option->name)) {
+    fault("the option " + option->name + " is given twice: leave one of them out");
+    return;
+  }
+  try {
+    options[option->name] = option->checked(text);
+  } catch (const std::runtime_error&) {
+    fault("the option " + option->name + " does not take " + quotedForMessage(text) + ": give " + option->values());
+  }
+}
+
+std::optional<std::string> ListValues::baseline(std::string bytes) {
+  if (bytes.size() > kLargestPage) {
+    fault("the baseline is larger than the largest page that is fetched, 64 MiB: leave it out");
+    return std::nullopt;
+  }
+  return bytes;
+}
+
+std::string quotedForMessage(std::string_view text) { return '"' + visibleText(text, kLongestQuoted) + '"'; }
+
+std::string_view withoutBlanks(std::string_view text) { return trimmed(text, " \t"); }
+
+}  // namespace tarnwick
