@@ -9,13 +9,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// The alert program of the simulated lists, with the site's id as its argument.
-constexpr const char* kAlertProgram = "alert";
-
-/// How much later than its interval a site may be checked: the rest of the minute in which it falls due, the requests
-/// that run into their time-out before it, and a mail server that takes its time for each failure.
-constexpr Time kLatest = 15min;
-
 std::string rowText(std::int64_t idSite, std::string_view url, bool passed, std::int64_t errCode) {
   return std::to_string(idSite)
       .append("|")
@@ -43,6 +36,8 @@ void Ledger::fail(const std::string& what) {
 
 void Ledger::shown(const CheckResult& result) {
   ++results_;
+  alertWatch_.shown(result);
+  sawSign();
   excuse(result.idSite, Time(0));
   if (known_) {
     expected_.push_back({result.idSite, rowText(result.idSite, result.url, result.passed, result.errCode)});
@@ -51,8 +46,8 @@ void Ledger::shown(const CheckResult& result) {
 }
 
 void Ledger::started(const std::vector<std::string>& program) {
-  if (program.size() == 2 && program.front() == kAlertProgram) {
-    ++alerts_[static_cast<std::int16_t>(std::stoi(program.back()))];
+  if (const std::int16_t site = AlertWatch::siteOfProgram(program)) {
+    ++alerts_[site];
   }
 }
 
@@ -194,11 +189,24 @@ void Ledger::watchLiveness() {
   if (now < excusedUntil_) {
     return;
   }
+  watchChecks();
+  alertWatch_.watch(excusedUntil_);
+  if (now - std::max(lastSign_, excusedUntil_) > kLatest) {
+    fail("the run has shown nothing for more than a quarter of an hour");
+  }
+}
+
+// A site that was never checked waits for the next Start, unless the list has it taken on at once.
+void Ledger::watchChecks() {
+  const Time now = world_.agenda.now();
   for (const std::string& row :
-       askDatabase(world_, "select idSite, tInterval from sites where active and lastChecked is not null")) {
+       askDatabase(world_,
+                   "select idSite, tInterval from sites where active and (lastChecked is not null or exists "
+                   "(select 1 from siteOptions where name = 'newSites' and value = 'at once'))")) {
     const auto id = static_cast<std::int16_t>(std::stoi(row));
+    lastSeen_.try_emplace(id, now);
     const std::chrono::minutes interval(std::stoll(row.substr(row.find('|') + 1)));
-    const Time since = std::max(lastSeen_.contains(id) ? lastSeen_[id] : Time(0), excusedUntil_);
+    const Time since = std::max(lastSeen_[id], excusedUntil_);
     if (now - since > interval + kLatest) {
       fail("site " + row + " was not checked for " +
            std::to_string(std::chrono::floor<std::chrono::minutes>(now - since).count()) + " minutes");

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "engine/run_view.h"
+#include "simulation/alert_watch.h"
 #include "simulation/world.h"
 
 namespace tarnwick::simulation {
@@ -19,6 +20,9 @@ class Ledger {
 
   void shown(const CheckResult& result);
   void started(const std::vector<std::string>& program);
+  /// The run shows that it is there.
+  void sawSign() { lastSign_ = world_.agenda.now(); }
+  AlertWatch& alerts() { return alertWatch_; }
 
   /// Something is about to change rows or counters, or has, that is not written down here: from here on only what
   /// comes later, from when the run is at rest and `settle` is called, is compared.
@@ -32,7 +36,8 @@ class Ledger {
   /// The machine is up again after a cut or a kill: what was shown is there, and nothing is half done.
   void compareAfterDeath();
 
-  /// Whether every active site that is due was checked in time.
+  /// Whether every active site that is due was checked in time, every alert has left in time, and the run shows what it
+  /// does, or waits for.
   void watchLiveness();
   /// No promise about the time of checks holds until then.
   void excuse(Time time) { excusedUntil_ = std::max(excusedUntil_, world_.agenda.now() + time); }
@@ -63,7 +68,11 @@ class Ledger {
   void compareLog();
   void compareCounters(bool afterDeath);
 
+  void watchChecks();
+
   World& world_;
+  AlertWatch alertWatch_{world_, [this](const std::string& what) { fail(what); }};
+  Time lastSign_{0};
   bool known_ = false;
   bool diskFails_ = false;
   std::uint64_t logBefore_ = 0;  ///< the last row of the log that has been compared

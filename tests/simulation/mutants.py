@@ -47,7 +47,7 @@ MUTANTS = (
     Mutant("Stop leaves the yellow lamp out", "engine/run_controller.cpp",
            "  needs_.view.indicators(RunState::pause);\n  running_ = false;", "  running_ = false;"),
     Mutant("any page passes", "engine/result_recording.cpp", 'hasBaseline && rows->holds("content_compare", content)',
-           "hasBaseline"),
+           "hasBaseline && !content.empty()"),
     Mutant("a failure does not count as a check", "engine/result_recording.cpp", "  xupdateLastChecked(idSite);\n\n",
            "  if (result) {\n    xupdateLastChecked(idSite);\n  }\n\n"),
     Mutant("the log keeps the pages that passed", "engine/result_recording.cpp", "result || !keeps ? std::string_view()",

@@ -37,6 +37,9 @@ class WatchedView final : public RunView {
   void fillGrid() override { terminal_.fillGrid(); }
   void showStatus(const std::string& text) override {
     world_.journal.addTick("status", text);
+    if (onSign) {
+      onSign();
+    }
     if (onStatus) {
       onStatus(text);
     }
@@ -62,13 +65,20 @@ class WatchedView final : public RunView {
     }
     terminal_.showResult(result);
   }
-  void showLostMail(const LostMail& mail) override { terminal_.showLostMail(mail); }
+  void showLostMail(const LostMail& mail) override {
+    if (!world_.isDead() && onLostMail) {
+      onLostMail(mail);
+    }
+    terminal_.showLostMail(mail);
+  }
   void showDropped(std::int16_t idSite, const std::string& url) override { terminal_.showDropped(idSite, url); }
   void setLastChecked(std::int16_t idSite, const std::string& dateTime) override {
     terminal_.setLastChecked(idSite, dateTime);
   }
 
   std::function<void(const CheckResult&)> onResult;
+  std::function<void(const LostMail&)> onLostMail;
+  std::function<void()> onSign;
   std::function<void(RunState)> onLamp;
   std::function<void(const std::string&)> onStatus;
 

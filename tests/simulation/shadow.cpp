@@ -53,6 +53,7 @@ Shadow::~Shadow() {
   world_.mail.onSent = nullptr;
   world_.mail.onEnd = nullptr;
   world_.desktop.onSound = nullptr;
+  world_.desktop.onStart = nullptr;
   world_.desktop.onBox = nullptr;
 }
 

@@ -49,9 +49,15 @@ class SimulatedDesktop final : public Prompts, public SoundPlayer, public Progra
     for (const std::string& argument : arguments) {
       line += "[" + argument + "]";
     }
-    journal_.add("program", line);
+    journal_.add(startsPrograms ? "program" : "no program", line);
     if (onStart) {
       onStart(arguments);
+    }
+    if (!startsPrograms) {
+      if (onNoProgram) {
+        onNoProgram(arguments);
+      }
+      return false;
     }
     if (onProgram) {
       onProgram(arguments);
@@ -61,7 +67,10 @@ class SimulatedDesktop final : public Prompts, public SoundPlayer, public Progra
   bool openFile(const std::string&) override { return true; }
   bool openAddress(const std::string&) override { return true; }
 
+  /// Whether a program can be started; a sound is always played, as far as anybody can tell.
+  bool startsPrograms = true;
   std::function<void(const std::vector<std::string>&)> onProgram;
+  std::function<void(const std::vector<std::string>&)> onNoProgram;
   std::function<void(const std::vector<std::string>&)> onStart;
   std::function<void(const std::string&)> onSound;
   std::function<void(const std::string&)> onBox;

@@ -17,7 +17,6 @@ class SimulatedMail::Socket final : public TcpSocket {
       mail_.onConnect(host);
     }
     inExchange_ = true;
-    ++mail_.begun_;
     state_ = SocketState::connecting;
     answers_ = 0;
     next_.in(delay(), [this] {
@@ -39,15 +38,19 @@ class SimulatedMail::Socket final : public TcpSocket {
       mail_.onSent(data);
     }
     ++answers_;
-    if (mail_.mood_ == MailMood::cutting && answers_ == kMailItself) {
+    const bool isMail = answers_ == kMailItself;
+    if (mail_.mood_ == MailMood::cutting && isMail) {
       next_.in(delay(), [this] { state_ = SocketState::closed; });
     } else if (mail_.mood_ == MailMood::refusing && answers_ > 1) {
       answer("550 not here\r\n");
-    } else if (mail_.mood_ == MailMood::garbled) {
-      answer(mail_.chance_.oneIn(2) ? "what?\r\n" : "99999 much\r\n");
     } else {
-      mail_.taken_ += answers_ == kMailItself ? 1 : 0;
-      answer("250 ok\r\n");
+      // What a garbled answer means nobody knows: it is designed to pass for a good one unless it is too large a
+      // number.
+      if (isMail && mail_.onTaken) {
+        mail_.onTaken(data);
+      }
+      const bool clear = mail_.mood_ != MailMood::garbled;
+      answer(clear ? "250 ok\r\n" : mail_.chance_.oneIn(2) ? "what?\r\n" : "99999 much\r\n");
     }
   }
   std::string getData() override { return std::exchange(data_, {}); }

@@ -31,9 +31,8 @@ class SimulatedMail final : public TcpSocketMaker {
   std::function<void(const std::string& server)> onConnect;
   std::function<void(const std::string& command)> onSent;
   std::function<void()> onEnd;
-  /// How many exchanges were begun, and how many mails were taken.
-  std::uint64_t begun() const { return begun_; }
-  std::uint64_t taken() const { return taken_; }
+  /// The server takes a mail.
+  std::function<void(const std::string& mail)> onTaken;
 
  private:
   class Socket;
@@ -42,8 +41,6 @@ class SimulatedMail final : public TcpSocketMaker {
   Journal& journal_;
   Chance chance_;
   MailMood mood_ = MailMood::good;
-  std::uint64_t begun_ = 0;
-  std::uint64_t taken_ = 0;
 };
 
 }  // namespace tarnwick::simulation

@@ -126,6 +126,8 @@ void Simulation::begin(const Happening& happening) {
       return kill(chance);
     case Trouble::restart:
       return restart(chance);
+    case Trouble::programs:
+      return breakPrograms(chance);
   }
 }
 
@@ -159,8 +161,23 @@ void Simulation::changeMail(Chance chance) {
   world_.journal.add("mail", "the server turns to mood " + std::to_string(static_cast<int>(mood)));
   world_.mail.setMood(mood);
   const Time lasts(chance.between(60'000, 10'800'000));
-  ledger_.excuse(lasts + kAfterTrouble);
-  world_.agenda.in(lasts, [this] { world_.mail.setMood(MailMood::good); });
+  ledger_.excuse(lasts);
+  const bool takes = mood == MailMood::good || mood == MailMood::slow;
+  takes ? ledger_.alerts().healed(AlertWatch::mail) : ledger_.alerts().broken(AlertWatch::mail);
+  mailHeals_.in(lasts, [this] {
+    world_.mail.setMood(MailMood::good);
+    ledger_.alerts().healed(AlertWatch::mail);
+  });
+}
+
+// It is not there, or may not be run. Nobody is told, so it is designed.
+void Simulation::breakPrograms(Chance chance) {
+  world_.desktop.startsPrograms = false;
+  ledger_.alerts().broken(AlertWatch::program);
+  programsHeal_.in(Time(chance.between(60'000, 10'800'000)), [this] {
+    world_.desktop.startsPrograms = true;
+    ledger_.alerts().healed(AlertWatch::program);
+  });
 }
 
 void Simulation::setClock(Chance chance) {
@@ -228,7 +245,13 @@ void Simulation::restart(Chance chance) {
 
 void Simulation::liveOnce() {
   process_ = std::make_unique<Process>(world_);
+  ledger_.alerts().begin();
   process_->view().onResult = [this](const CheckResult& result) { ledger_.shown(result); };
+  process_->view().onLostMail = [this](const LostMail& mail) {
+    ledger_.alerts().lost(AlertWatch::mail, mail.idSite);
+    ledger_.sawSign();
+  };
+  process_->view().onSign = [this] { ledger_.sawSign(); };
   if (plan_.model) {
     process_->onStarted = [this] { bringInTheModel(); };
   }
@@ -274,7 +297,16 @@ void Simulation::stayOff() {
 }
 
 Outcome Simulation::run() {
-  world_.desktop.onProgram = [this](const std::vector<std::string>& program) { ledger_.started(program); };
+  AlertWatch& alerts = ledger_.alerts();
+  world_.desktop.onProgram = [&](const std::vector<std::string>& program) {
+    ledger_.started(program);
+    alerts.left(AlertWatch::program, AlertWatch::siteOfProgram(program));
+  };
+  world_.desktop.onNoProgram = [&](const std::vector<std::string>& program) {
+    ledger_.started(program);
+    alerts.lost(AlertWatch::program, AlertWatch::siteOfProgram(program));
+  };
+  world_.mail.onTaken = [&](const std::string& mail) { alerts.left(AlertWatch::mail, AlertWatch::siteOfMail(mail)); };
   layOut();
   ledger_.settle();
   schedule();

@@ -53,6 +53,7 @@ class Simulation {
   void cutPower(Chance chance);
   void kill(Chance chance);
   void restart(Chance chance);
+  void breakPrograms(Chance chance);
   void lookNow();
   void clearCounters();
   void liveOnce();
@@ -65,6 +66,8 @@ class Simulation {
   Ledger ledger_{world_};
   User user_{world_, ledger_};
   Neighbour neighbour_{world_};
+  Appointment mailHeals_{world_.agenda};
+  Appointment programsHeal_{world_.agenda};
   std::unique_ptr<Process> process_;
   std::unique_ptr<Shadow> shadow_;
   std::vector<std::string> urls_;

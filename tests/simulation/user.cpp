@@ -88,6 +88,7 @@ void User::actAs(Process& process, Chance chance) {
       });
       break;
     case interval:
+      ledger_.alerts().mayChange();
       perform("changes site " + std::to_string(id), [&] {
         const TextTable row = data.getArraySites(id);
         if (row.lastRow() == 1) {
@@ -138,6 +139,7 @@ void User::actAs(Process& process, Chance chance) {
       perform("compacts the list", [&] { world_.journal.add("user", data.compact() ? "it is smaller" : "it is not"); });
       break;
     default:
+      ledger_.alerts().mayChange();
       perform("changes the settings", [&] {
         data.storeSettings({{"timeout", std::to_string(chance.between(5, 60))}, {"cemail", chance.oneIn(2)}});
       });
