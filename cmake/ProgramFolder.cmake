@@ -1,5 +1,6 @@
 # The program folder: the executables and everything that must lie beside them, in one folder that can be moved anywhere.
-# The build lays it out in ${CMAKE_BINARY_DIR}/tarnwick, `cmake --install` in <prefix>/tarnwick, CPack in an archive.
+# The build lays it out in ${CMAKE_BINARY_DIR}/tarnwick, `cmake --install --component portable` in <prefix>/tarnwick, CPack
+# in an archive.
 find_program(SQLITE3_PROGRAM sqlite3 REQUIRED)
 
 set(TARNWICK_FOLDER ${CMAKE_BINARY_DIR}/tarnwick)
@@ -21,11 +22,12 @@ if(TARGET translations)
 endif()
 
 # Installing over an older version keeps the user's files as rebuilding does.
-install(TARGETS tarnwick tarnwickctl RUNTIME DESTINATION tarnwick)
+set(portable COMPONENT portable EXCLUDE_FROM_ALL)
+install(TARGETS tarnwick tarnwickctl RUNTIME DESTINATION tarnwick ${portable})
 install(CODE "
   set(FOLDER \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/tarnwick\")
   set(ASSETS \"${CMAKE_SOURCE_DIR}/assets\")
   set(HELP \"${TARNWICK_HELP}\")
   set(TRANSLATIONS \"${TARNWICK_TRANSLATIONS}\")
   set(SQLITE3 \"${SQLITE3_PROGRAM}\")
-  include(\"${CMAKE_SOURCE_DIR}/cmake/LayProgramFolder.cmake\")")
+  include(\"${CMAKE_SOURCE_DIR}/cmake/LayProgramFolder.cmake\")" ${portable})

@@ -36,7 +36,7 @@ make_packages() {
 
 # sums FOLDER: the sums of what was built, by its name alone.
 sums() {
-  (cd "$1/build/package" && sha256sum tarnwick/tarnwick tarnwick/tarnwickctl tarnwick-*.tar.gz tarnwick_*.deb)
+  (cd "$1/build/package" && sha256sum tarnwick/tarnwick tarnwick/tarnwickctl tarnwick-*.tar.gz tarnwick*_*.deb)
 }
 
 # Both before the first build: the sources may be edited meanwhile.

@@ -20,7 +20,7 @@ case "${1:-}" in
   -h | --help) show_help ;;
 esac
 
-need_packages "${build_packages[@]}" "${test_packages[@]}"
+need_packages "${build_packages[@]}" "${test_packages[@]}" "${package_packages[@]}"
 configure "$preset" -DBUILD_TESTING=ON
 build "$preset"
 

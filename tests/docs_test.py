@@ -59,6 +59,7 @@ NO_MESSAGES = {
     "src/app/window_arguments.cpp": ("what --help prints", ("Usage:",)),
     "src/alerts/alert_dispatch.cpp": ("the subject of the mails", ("A WEB SITE ERROR",)),
     "src/cli/verbs/command_line.cpp": ("the tool's own help", ("Tarnwick watches", "Exit status:")),
+    "src/cli/verbs/completion.cpp": ("what shells read", ()),
     "src/cli/verbs/option_verb.cpp": ("the options in the verb's help", ("Names, and", " In a new")),
     "src/cli/verbs/import_verb.cpp": ("a line of a dry run", ("change the options",)),
     "src/cli/verbs/page_verbs.cpp": ("the head of a diff", ("--- baseline", "+++ latest")),

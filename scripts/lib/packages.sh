@@ -24,10 +24,11 @@ test_packages=(
   pulseaudio pulseaudio-utils sharutils
 )
 
-# What makes the packages: dependencies and compression.
-package_packages=(dpkg-dev file fakeroot gzip xz-utils)
-# What looks at them.
-package_test_packages=(lintian appstream desktop-file-utils man-db)
+# What makes the packages: dependencies and compression; and for the archive what lets a program find the libraries
+# beside it, the texts of Qt's own boxes, and everything that ends up in it.
+package_packages=(dpkg-dev binutils file fakeroot gzip xz-utils patchelf qt6-translations-l10n)
+# What looks at them, and makes the bare systems that they are tried on.
+package_test_packages=(lintian appstream desktop-file-utils man-db mmdebstrap zsh fish)
 
 # What the benchmark runs beside the product, and the server they all fetch from.
 bench_packages=(

@@ -14,6 +14,7 @@ import pty
 import re
 import select
 import signal
+import socket
 import sqlite3
 import subprocess
 import sys
@@ -116,6 +117,33 @@ def line_with(process, text: str) -> list[str]:
 def expect(condition, *what):
     if not condition:
         raise AssertionError(" ".join(str(each) for each in what) or "the expectation does not hold")
+
+
+def tells_the_service_manager_how_it_is():
+    with web() as server, folder(f"http://127.0.0.1:{server.server_port}/steady") as place, \
+            tempfile.TemporaryDirectory() as sockets:
+        for name in (f"{sockets}/notify", f"@tarnwick-test-{os.getpid()}"):
+            with socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM) as manager:
+                manager.settimeout(LIMIT)
+                manager.bind(name.replace("@", "\0", 1))
+                process = start(place, "run", env={**os.environ, "NOTIFY_SOCKET": name, "WATCHDOG_USEC": "200000"})
+                expect(manager.recv(100) == b"READY=1", "it is not ready")
+                for _ in range(3):
+                    expect(manager.recv(100) == b"WATCHDOG=1", "it gives no sign of life")
+                process.send_signal(signal.SIGTERM)
+                said = b"WATCHDOG=1"
+                while said == b"WATCHDOG=1":
+                    said = manager.recv(100)
+                expect(said == b"STOPPING=1", said)
+                process.communicate(timeout=LIMIT)
+                expect(process.returncode == 0, process.returncode)
+        # Not for this process, and to nobody.
+        for env in ({"NOTIFY_SOCKET": f"{sockets}/none"}, {"NOTIFY_SOCKET": "x" * 200}, {"WATCHDOG_USEC": "many"}):
+            process = start(place, "run", env={**os.environ, **env})
+            line_with(process, "Checked 1 site")
+            process.send_signal(signal.SIGTERM)
+            _, err = process.communicate(timeout=LIMIT)
+            expect((process.returncode, err) == (0, ""), process.returncode, err)
 
 
 def writes_lines_with_their_time_and_stops_as_asked():

@@ -9,6 +9,7 @@ Exit status 0: passed, 1: failed, 77: the machine lacks the tools for it.
 from __future__ import annotations
 
 import json
+import platform
 import re
 import shutil
 import subprocess
@@ -18,6 +19,8 @@ from pathlib import Path
 SKIPPED = 77
 PROGRAMS = ("tarnwick", "tarnwickctl")
 FLAGS = ("-fstack-protector-strong", "-fstack-clash-protection", "-D_FORTIFY_SOURCE=3", "-D_GLIBCXX_ASSERTIONS")
+# What the build as people get it has beside these.
+GUARDS = ("-Wformat", "-Werror=format-security", *(["-fcf-protection"] if platform.machine() == "x86_64" else []))
 # What a program shows of each guard: in which part of the answer, and what stands there.
 SIGNS = {
     "it can lie at any address": ("-h", r"Type:\s+DYN"),
@@ -31,12 +34,14 @@ SIGNS = {
 
 
 def faults_of_flags(build: Path, source: Path):
+    has_guards = "TARNWICK_GUARDS:BOOL=ON" in (build / "CMakeCache.txt").read_text(encoding="utf-8")
+    flags = (*FLAGS, *GUARDS) if has_guards else FLAGS
     for entry in json.loads((build / "compile_commands.json").read_text(encoding="utf-8")):
         name = Path(entry["directory"], entry["file"]).resolve()
         if not name.is_relative_to(source / "src"):
             continue
         words = entry["command"].split()
-        for flag in FLAGS:
+        for flag in flags:
             if flag not in words or any(word.startswith("-U_FORTIFY_SOURCE") for word in words):
                 yield f"{name.relative_to(source)} is compiled without {flag}"
 

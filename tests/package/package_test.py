@@ -10,7 +10,9 @@ others look at. Exit status 0: passed, 1: failed, 77: the machine lacks a tool f
 from __future__ import annotations
 
 import gzip
+import json
 import os
+import platform
 import re
 import shutil
 import signal
@@ -99,14 +101,17 @@ class Case:
     def archive(self) -> Path:
         return next(self.packages.glob("tarnwick-*.tar.gz"))
 
-    def debian_package(self) -> Path:
+    def debian_packages(self) -> dict[str, Path]:
+        """Each by its name, in the order in which they can be installed."""
         need("dpkg-deb", "dpkg-shlibdeps")
-        return next(self.packages.glob("tarnwick_*.deb"))
+        return {name: next(self.packages.glob(f"{name}_*.deb")) for name in ("tarnwick-cli", "tarnwick")}
 
-    def system(self) -> Path:
-        """The Debian package, unpacked; the folder /usr of that system."""
+    def system(self, *names: str) -> Path:
+        """The Debian packages, or those of these names, unpacked; the folder /usr of that system."""
         root = self.work / "system"
-        run("dpkg-deb", "--extract", self.debian_package(), root)
+        for name, package in self.debian_packages().items():
+            if name in (names or (name,)):
+                run("dpkg-deb", "--extract", package, root)
         return root / "usr"
 
     def tool(self, program: Path, *arguments: str, status: int = 0) -> str:
@@ -136,14 +141,14 @@ def makes_the_packages(case: Case) -> None:
     shutil.rmtree(case.packages, ignore_errors=True)
     case.packages.mkdir(parents=True)
     run("cpack", "--config", case.build / "CPackConfig.cmake", "-B", case.work / "made", cwd=case.build)
-    for package in (case.work / "made").glob("tarnwick[-_]*"):
+    for package in (case.work / "made").glob("tarnwick*.*"):
         shutil.copy(package, case.packages)
     expect(len(list(case.packages.glob("*.tar.gz"))) == 1, "there is no archive")
 
 
-def expect_program_folder(folder: Path) -> None:
+def expect_program_folder(folder: Path, *more: str) -> None:
     """Nothing in it is the user's: whatever it is laid over, no list and no template is touched."""
-    expected = {*PROGRAMS, *PROGRAM_FILES, "fresh/tarnwick.mdb", "fresh/email.txt"}
+    expected = {*PROGRAMS, *PROGRAM_FILES, "fresh/tarnwick.mdb", "fresh/email.txt", *more}
     expect(without_translations(files_in(folder)) == expected,
            f"the folder differs: {without_translations(files_in(folder)) ^ expected}")
     expect(rows(folder / "fresh/tarnwick.mdb", "select count(*) from sites") == [(0,)], "the database is not fresh")
@@ -161,10 +166,28 @@ def fill(tool: Path, case: Case, count: int) -> list[str]:
     return wanted
 
 
+def install(case: Case, prefix: Path, *options: str) -> None:
+    run("cmake", "--install", case.build, "--prefix", prefix, *options)
+
+
 def installs_the_program_folder(case: Case) -> None:
-    run("cmake", "--install", case.build, "--prefix", case.work / "prefix")
+    install(case, case.work / "prefix", "--component", "portable")
     expect([path.name for path in (case.work / "prefix").iterdir()] == ["tarnwick"], "more than one folder was made")
     expect_program_folder(case.work / "prefix" / "tarnwick")
+
+
+def installs_into_the_places_of_a_system(case: Case) -> None:
+    prefix = case.work / "prefix"
+    install(case, prefix)
+    expect({path.name for path in prefix.iterdir()} == {"bin", "lib", "share"}, f"laid {list(prefix.iterdir())}")
+    unit = (prefix / "lib/systemd/system/tarnwick.service").read_text(encoding="utf-8")
+    expect(f"ExecStart={prefix}/bin/tarnwickctl " in unit and "/usr/bin" not in unit, "the unit names another place")
+    wanted = fill(prefix / "bin/tarnwickctl", case, 3)
+    before = files_in(prefix)
+    install(case, prefix)
+    expect(addresses(prefix / "bin/tarnwickctl", case) == wanted, "the list is another one behind the second installation")
+    case.starts(prefix / "bin/tarnwick", case.user_folder / "tarnwick.mdb")
+    expect(files_in(prefix) == before, "something was written into the installation")
 
 
 def installs_over_an_older_one(case: Case) -> None:
@@ -174,19 +197,38 @@ def installs_over_an_older_one(case: Case) -> None:
     (folder / "tarnwick.mdb").chmod(0o640)
     (folder / "email.txt").write_text("my text")
     (folder / "help.html").write_text("an older page")
-    run("cmake", "--install", case.build, "--prefix", case.work)
+    install(case, case.work, "--component", "portable")
     expect((folder / "tarnwick.mdb").read_text() == "my list", "the list was overwritten")
     expect(mode_of(folder / "tarnwick.mdb") == 0o640, "the rights of the user's file were changed")
     expect((folder / "email.txt").read_text() == "my text", "the template was overwritten")
     expect("Tarnwick Help" in (folder / "help.html").read_text(encoding="utf-8"), "the help page is still the old one")
 
 
+def of_the_archive(folder: Path) -> set[str]:
+    """What an archive holds beside the program folder."""
+    kinds = ("lib/*", "plugins/*/*", "licenses/*", "translations/qt/*")
+    return {path.relative_to(folder).as_posix() for kind in kinds for path in folder.glob(kind)} | {
+        "LICENSE", "README.txt", "needs.txt", "qt.conf", "tarnwick.spdx.json", "systemd/tarnwick.service",
+        *(f"man/man1/{name}.1" for name in PROGRAMS),
+        *(f"completions/tarnwickctl.{shell}" for shell in ("bash", "zsh", "fish"))}
+
+
 def archive_works_anywhere(case: Case) -> None:
     place = case.work / "another place"
     place.mkdir()
+    expect(case.archive().name == f"tarnwick-{case.version}-linux-{platform.machine()}.tar.gz",
+           f"the archive is named {case.archive().name}")
     run("tar", "-xzf", case.archive(), "-C", place)
     folder = place / "tarnwick"
-    expect_program_folder(folder)
+    expect_program_folder(folder, *of_the_archive(folder))
+    for name in ("lib/libQt6Widgets.so.6", "lib/libsqlite3.so.0", "plugins/platforms/libqxcb.so",
+                 "licenses/libqt6core6.txt", "licenses/libcli11-dev.txt"):
+        expect((folder / name).is_file(), f"the archive has no {name}")
+    for name in PROGRAMS:
+        for line in run("ldd", folder / name).splitlines():
+            library, _, found = line.strip().partition(" => ")
+            expect(not found or found.startswith(str(folder)) or library.startswith(("libc.so", "libm.so", "libstdc++.so",
+                   "libgcc_s.so", "libresolv.so")), f"{name} takes {line.strip()} from the machine")
     case.starts(folder / "tarnwick", folder / "tarnwick.mdb")
     expect(not (case.home / ".local").exists(), "a folder in the home was made for a program that has its own")
     expect(USER_FILES <= files_in(folder), "the first start has laid no list or no template")
@@ -235,40 +277,76 @@ def list_of_an_older_archive_stays(case: Case) -> None:
     expect("tarnwick.mdb is missing" in case.tool(folder / "tarnwickctl", "sites", status=2), "a lost list is no error")
 
 
-def debian_package_lies_in_the_systems_places(case: Case) -> None:
-    package = case.debian_package()
+def made_of(file: Path) -> dict[str, dict]:
+    """What a list of what something is made of names, by the names."""
+    listed = json.loads(file.read_text(encoding="utf-8"))
+    expect(listed["spdxVersion"] == "SPDX-2.3", f"{file.name} is of another kind")
+    ids = {package["SPDXID"] for package in listed["packages"]}
+    expect(len(ids) == len(listed["packages"]), f"{file.name} has one id for two things")
+    expect(all(one["relatedSpdxElement"] in ids for one in listed["relationships"]), f"{file.name} names what it has not")
+    return {package["name"]: package for package in listed["packages"]}
+
+
+def lists_name_what_is_inside(case: Case) -> None:
+    run("tar", "-xzf", case.archive(), "-C", case.work)
+    folder = case.work / "tarnwick"
+    archive = made_of(folder / "tarnwick.spdx.json")
+    expect(archive["tarnwick"]["versionInfo"] == case.version, "the list is of another version")
+    expect(set(archive) - {"tarnwick"} == {path.stem for path in (folder / "licenses").iterdir()},
+           "the licences and the list differ")
     usr = case.system()
-    files = files_in(usr)
-    expected = {f"bin/{name}" for name in PROGRAMS} | {f"lib/tarnwick/{name}" for name in (*PROGRAMS, *PROGRAM_FILES)}
-    expected |= {"lib/tarnwick/shared-installation.txt", "lib/tarnwick/fresh/tarnwick.mdb",
-                 "lib/tarnwick/fresh/email.txt", "share/applications/tarnwick.desktop",
-                 "share/metainfo/example.tarnwick.tarnwick.metainfo.xml", "share/doc/tarnwick/copyright",
-                 "share/doc/tarnwick/changelog.gz", "share/doc/tarnwick/changelog.Debian.gz",
-                 "share/lintian/overrides/tarnwick", "share/icons/hicolor/scalable/apps/tarnwick.svg"}
-    expected |= {f"share/icons/hicolor/{size}x{size}/apps/tarnwick.png" for size in ICON_SIZES}
-    expected |= {f"share/man/man1/{page.name}.gz" for page in (case.source / "docs" / "man").glob("*.1")}
-    expected |= {f"share/doc/tarnwick/examples/{unit.name}" for unit in (case.source / "docs" / "systemd").glob("*")}
-    expect(without_translations(files) == expected, f"the package differs: {without_translations(files) ^ expected}")
+    tool = made_of(usr / "share/doc/tarnwick-cli/tarnwickctl.spdx.json")
+    expect({"libcurl4", "libsqlite3-0", "libcli11-dev"} <= set(tool) and "libqt6widgets6" not in tool, f"it lists {tool}")
+    expect("libqt6widgets6" in made_of(usr / "share/doc/tarnwick/tarnwick.spdx.json"), "the window's list lacks its toolkit")
+
+
+def debian_packages_lie_in_the_systems_places(case: Case) -> None:
+    def documentation(package: str, program: str) -> set[str]:
+        names = ("copyright", "changelog.gz", "changelog.Debian.gz", f"{program}.spdx.json")
+        return {f"bin/{program}", f"lib/tarnwick/{program}", f"share/man/man1/{program}.1.gz",
+                f"share/lintian/overrides/{package}", *(f"share/doc/{package}/{name}" for name in names)}
+
+    bars = {"reports/green.jpg", "reports/red.jpg"}
+    cli = documentation("tarnwick-cli", "tarnwickctl") | {
+        f"lib/tarnwick/{name}" for name in ("shared-installation.txt", "fresh/tarnwick.mdb", "fresh/email.txt", *bars)} | {
+        "lib/systemd/system/tarnwick.service", "lib/sysusers.d/tarnwick.conf",
+        "share/bash-completion/completions/tarnwickctl", "share/fish/vendor_completions.d/tarnwickctl.fish"}
+    zsh = {"share/zsh/vendor-completions/_tarnwickctl", "share/zsh/site-functions/_tarnwickctl"}
+    found = files_in(case.system("tarnwick-cli"))
+    expect(len(found & zsh) == 1 and found - zsh == cli, f"tarnwick-cli differs: {(found - zsh) ^ cli}")
+    usr = case.system()
+    window = documentation("tarnwick", "tarnwick") | {f"lib/tarnwick/{name}" for name in PROGRAM_FILES - bars} | {
+        "share/applications/tarnwick.desktop", "share/metainfo/example.tarnwick.tarnwick.metainfo.xml",
+        "share/icons/hicolor/scalable/apps/tarnwick.svg",
+        *(f"share/icons/hicolor/{size}x{size}/apps/tarnwick.png" for size in ICON_SIZES)}
+    added = without_translations(files_in(usr)) - found
+    expect(added == window, f"tarnwick differs: {added ^ window}")
+    expect(any(usr.glob("lib/tarnwick/translations/*.qm")), "the window speaks one language only")
     for name in PROGRAMS:
         expect(os.readlink(usr / "bin" / name) == f"../lib/tarnwick/{name}", f"bin/{name} leads elsewhere")
-    writable = [line for line in run("dpkg-deb", "--contents", package).splitlines()
-                if re.match(r"[-d].{4}w|[-d].{7}w", line) or " root/root " not in line]
-    expect(not writable, "others can write or own:\n" + "\n".join(writable))
-    depends = run("dpkg-deb", "--field", package, "Depends")
-    for library in ("libqt6widgets6", "libcurl4", "libsqlite3-0"):
-        expect(library in depends, f"the package does not depend on {library}: {depends}")
-    recommends = run("dpkg-deb", "--field", package, "Recommends")
-    expect("pipewire-bin | pulseaudio-utils | alsa-utils" in recommends, f"nothing plays the alert sound: {recommends}")
+    for package in case.debian_packages().values():
+        writable = [line for line in run("dpkg-deb", "--contents", package).splitlines()
+                    if re.match(r"[-d].{4}w|[-d].{7}w", line) or " root/root " not in line]
+        expect(not writable, "others can write or own:\n" + "\n".join(writable))
+    depends, recommends = ({name: run("dpkg-deb", "--field", package, field)
+                            for name, package in case.debian_packages().items()} for field in ("Depends", "Recommends"))
+    for library in ("libqt6core6", "libcurl4", "libsqlite3-0"):
+        expect(library in depends["tarnwick-cli"], f"tarnwick-cli does not depend on {library}: {depends}")
+    expect(not re.search("libqt6(gui|widgets)|libx11", depends["tarnwick-cli"]), f"tarnwick-cli needs a desktop: {depends}")
+    version = run("dpkg-deb", "--field", case.debian_packages()["tarnwick-cli"], "Version").strip()
+    expect("libqt6widgets6" in depends["tarnwick"] and f"tarnwick-cli (= {version})" in depends["tarnwick"], f"{depends}")
+    expect("pipewire-bin | pulseaudio-utils | alsa-utils" in recommends["tarnwick"],
+           f"nothing plays the alert sound: {recommends}")
     sizes = {size: (usr / f"share/icons/hicolor/{size}x{size}/apps/tarnwick.png").read_bytes()[16:24]
              for size in ICON_SIZES}
     wrong = [size for size, found in sizes.items() if found != size.to_bytes(4, "big") * 2]
     expect(not wrong, f"icons of another size than their folder's: {wrong}")
 
 
-def debian_package_satisfies_lintian(case: Case) -> None:
+def debian_packages_satisfy_lintian(case: Case) -> None:
     need("lintian")
     # Run by the administrator it says that it should not be.
-    said = run("lintian", "--fail-on", "error,warning", case.debian_package())
+    said = run("lintian", "--fail-on", "error,warning", *case.debian_packages().values())
     expect(not re.search("^[EW]: ", said, re.MULTILINE), said)
 
 
@@ -290,10 +368,10 @@ def manual_pages_are_well_formed(case: Case) -> None:
 def one_version_everywhere(case: Case) -> None:
     usr = case.system()
     expect(case.tool(usr / "bin/tarnwickctl", "--version").split() == ["tarnwickctl", case.version], "--version differs")
-    expect(run("dpkg-deb", "--field", case.debian_package(), "Version").strip() == case.version + "-1",
-           "the package's version differs")
+    versions = {run("dpkg-deb", "--field", package, "Version").strip() for package in case.debian_packages().values()}
+    expect(len(versions) == 1 and re.fullmatch(re.escape(case.version) + r"-\d+", *versions), f"packages of {versions}")
     with gzip.open(usr / "share/doc/tarnwick/changelog.Debian.gz", "rt") as changes:
-        expect(changes.readline().startswith(f"tarnwick ({case.version}-1) "), "the package's changes differ")
+        expect(changes.readline().startswith(f"tarnwick ({versions.pop()}) "), "the package's changes differ")
     metainfo = next(usr.glob("share/metainfo/*.xml")).read_text(encoding="utf-8")
     expect(f'<release version="{case.version}"' in metainfo, "the metadata's version differs")
     released = re.findall(r"^## \[([\d.]+)\]", (case.source / "CHANGELOG.md").read_text(encoding="utf-8"), re.MULTILINE)
@@ -315,45 +393,134 @@ def each_user_has_a_folder_of_his_own(case: Case) -> None:
            "the tool worked on another list")
 
 
-def newer_package(case: Case) -> Path:
-    """The package with a higher version and another picture of the report."""
-    tree = case.work / "newer"
-    run("dpkg-deb", "--raw-extract", case.debian_package(), tree)
+def edited_package(case: Case, source: Path, version: str, change) -> Path:
+    """The package in another version, with what `change` does to its tree."""
+    tree = case.work / f"tree-{source.name}-{version}"
+    run("dpkg-deb", "--raw-extract", source, tree)
     control = tree / "DEBIAN" / "control"
-    control.write_text(re.sub(r"^Version: .*$", "Version: 99.0.0-1", control.read_text(), flags=re.MULTILINE))
-    (tree / "usr/lib/tarnwick/reports/red.jpg").write_text("a newer red")
-    package = case.work / "newer.deb"
+    text = re.sub(r"^Version: .*$", f"Version: {version}", control.read_text(), flags=re.MULTILINE)
+    control.write_text(re.sub(r"tarnwick-cli \(= .*?\)", f"tarnwick-cli (= {version})", text))
+    change(tree)
+    package = case.work / f"{source.name}-{version}.deb"
     run("dpkg-deb", "--root-owner-group", "--build", tree, package)
     return package
 
 
+def newer_packages(case: Case) -> list[Path]:
+    """The packages with a higher version and another picture of the report."""
+    def change(tree: Path) -> None:
+        if (tree / "usr/lib/tarnwick/reports").exists():
+            (tree / "usr/lib/tarnwick/reports/red.jpg").write_text("a newer red")
+
+    return [edited_package(case, package, "99.0.0-1", change) for package in case.debian_packages().values()]
+
+
+def single_package(case: Case) -> Path:
+    """All in one package, as it was until 1.0.0-1."""
+    def change(tree: Path) -> None:
+        run("dpkg-deb", "--extract", case.debian_packages()["tarnwick-cli"], tree)
+        control = tree / "DEBIAN" / "control"
+        control.write_text(re.sub(r"^Depends: .*\n", "", control.read_text(), flags=re.MULTILINE))
+
+    return edited_package(case, case.debian_packages()["tarnwick"], "1.0.0-1", change)
+
+
+class DpkgRoot:
+    """A system of dpkg's in a folder."""
+
+    def __init__(self, case: Case):
+        need("dpkg")
+        self.root = case.work / "system"
+        for folder in ("var/lib/dpkg/updates", "var/lib/dpkg/info", "var/lib/dpkg/triggers"):
+            (self.root / folder).mkdir(parents=True)
+        (self.root / "var/lib/dpkg/status").touch()
+        self.command = ("dpkg", f"--root={self.root}", "--force-not-root", "--force-depends",
+                        "--force-script-chrootless", "--auto-deconfigure",  # as apt has it
+                        f"--log={case.work}/dpkg.log")
+        # The scripts of the packages find nothing of the machine that they could change.
+        tools = case.work / "tools"
+        tools.mkdir()
+        for tool in ("dpkg-deb", "dpkg-split", "tar", "rm", "sh", "ldconfig", "start-stop-daemon", "diff", "dpkg-query"):
+            found = shutil.which(tool, path=case.env["PATH"] + ":/usr/sbin:/sbin")
+            if found is not None:
+                (tools / tool).symlink_to(found)
+        self.env = {**case.env, "PATH": str(tools)}
+        self.dpkg = shutil.which("dpkg")
+
+    def do(self, *arguments) -> str:
+        return run(self.dpkg, *self.command[1:], *arguments, env=self.env)
+
+    def installed(self) -> list[str]:
+        states = self.do("--list").splitlines()
+        return [line.split()[1] for line in states if line.startswith("ii")]
+
+
 def upgrade_keeps_what_the_user_has(case: Case) -> None:
-    need("dpkg")
-    root = case.work / "system"
-    for folder in ("var/lib/dpkg/updates", "var/lib/dpkg/info", "var/lib/dpkg/triggers"):
-        (root / folder).mkdir(parents=True)
-    (root / "var/lib/dpkg/status").touch()
-    install = ("dpkg", f"--root={root}", "--force-not-root", "--force-depends", "--force-script-chrootless",
-               f"--log={case.work}/dpkg.log", "--install")
-    env = {**case.env, "PATH": case.env["PATH"] + ":/usr/sbin:/sbin"}
-    run(*install, case.debian_package(), env=env)
-    tool = root / "usr/bin/tarnwickctl"
+    system = DpkgRoot(case)
+    tool = system.root / "usr/bin/tarnwickctl"
+    system.do("--install", single_package(case))
     wanted = fill(tool, case, 100)
     (case.user_folder / "email.txt").write_text("my text")
+    system.do("--install", *case.debian_packages().values())
+    expect(system.installed() == ["tarnwick", "tarnwick-cli"], f"installed are {system.installed()}")
+    expect(addresses(tool, case) == wanted, "the list is another one behind the upgrade from the single package")
     with subprocess.Popen([tool, "run"], env=case.env, stdout=subprocess.PIPE, text=True) as running:
         try:
             expect("Run started" in running.stdout.readline(), "no run has begun")
-            run(*install, newer_package(case), env=env)
+            system.do("--install", *newer_packages(case))
             expect(running.poll() is None, "the run has ended under the upgrade")
         finally:
             running.send_signal(signal.SIGTERM)
             running.stdout.read()
     expect(addresses(tool, case) == wanted, "the list is another one behind the upgrade")
     expect((case.user_folder / "email.txt").read_text() == "my text", "the template was replaced")
+    case.tool(tool, "report")
     expect((case.user_folder / "reports/red.jpg").read_text() == "a newer red", "the picture is still the old one")
-    run(*install, case.debian_package(), env=env)
+    system.do("--install", *case.debian_packages().values())
     expect(addresses(tool, case) == wanted, "the list is another one behind the downgrade")
     expect((case.user_folder / "email.txt").read_text() == "my text", "the template was replaced by the downgrade")
+    system.do("--remove", "tarnwick")
+    expect(addresses(tool, case) == wanted, "the tool went with the window")
+    system.do("--purge", "tarnwick-cli")
+    left = {name for name in files_in(system.root) if not name.startswith("var/lib/dpkg/")}
+    expect(not left, f"the packages have left {left}")
+    expect((case.user_folder / "tarnwick.mdb").exists(), "the list went with the packages")
+
+
+def shells_complete_the_tool(case: Case) -> None:
+    need("bash", "zsh", "fish")
+    usr = case.system("tarnwick-cli")
+    fish = usr / "share/fish/vendor_completions.d/tarnwickctl.fish"
+    said = run("fish", "--no-config", "-c", f"source {fish}; complete -C 'tarnwickctl expo'; "
+               "complete -C 'tarnwickctl export x --format '; complete -C 'tarnwickctl sites --d'", env=case.env)
+    expect([line.split("\t")[0] for line in said.splitlines()] == ["export", "csv", "json", "--down"], said)
+    bash = usr / "share/bash-completion/completions/tarnwickctl"
+    for words, wanted in ((("expo",), "export"), (("export", "x", "--format", ""), "csv json"), (("sites", "--d"), "--down"),
+                          (("--folder", "/us"), "/usr"), (("counters", "cl"), "clear")):
+        line = " ".join(f"'{word}'" for word in ("tarnwickctl", *words))
+        said = run("bash", "-c", f"compopt() {{ :; }}; source {bash}; COMP_WORDS=({line}); COMP_CWORD={len(words)}; "
+                   "_tarnwickctl; echo ${COMPREPLY[*]}", env=case.env)
+        expect(said.strip() == wanted, f"bash completes {words} by {said}")
+    for file in usr.glob("share/zsh/*/_tarnwickctl"):
+        expect(run("zsh", "-n", file) == "", "zsh does not understand its completion")
+        text = file.read_text(encoding="utf-8")
+        expect(text.startswith("#compdef tarnwickctl\n") and "'--format[" in text, "zsh is told nothing")
+
+
+def service_is_well_formed(case: Case) -> None:
+    need("systemd-analyze", "systemd-sysusers")
+    usr = case.system("tarnwick-cli")
+    root = usr.parent
+    for user in ("passwd", "group"):
+        (root / "etc").mkdir(exist_ok=True)
+        (root / "etc" / user).touch()
+    run("systemd-sysusers", f"--root={root}", "tarnwick.conf")
+    expect(re.search(r"^tarnwick:.*:/var/lib/tarnwick:\S*/nologin$", (root / "etc/passwd").read_text(), re.MULTILINE),
+           "there is no user of the service")
+    unit = usr / "lib/systemd/system/tarnwick.service"
+    own = case.work / "tarnwick.service"
+    own.write_text(unit.read_text().replace("/usr/bin/", f"{usr}/bin/").replace("man:tarnwickctl(1)", "http://localhost/"))
+    expect(run("systemd-analyze", "verify", "--man=no", own) == "", "the unit is odd")
 
 
 def lost_database_is_an_error(case: Case) -> None:
@@ -375,10 +542,11 @@ def no_path_of_the_build_is_left(case: Case) -> None:
 
 
 CASES = {case.__name__: case for case in
-         (makes_the_packages, installs_the_program_folder, installs_over_an_older_one, archive_works_anywhere,
-          archive_over_archive_keeps_what_the_user_has, list_of_an_older_archive_stays,
-          debian_package_lies_in_the_systems_places, debian_package_satisfies_lintian, desktop_accepts_the_metadata,
-          manual_pages_are_well_formed, one_version_everywhere, each_user_has_a_folder_of_his_own,
+         (makes_the_packages, installs_the_program_folder, installs_into_the_places_of_a_system,
+          installs_over_an_older_one, archive_works_anywhere, archive_over_archive_keeps_what_the_user_has,
+          list_of_an_older_archive_stays, lists_name_what_is_inside, debian_packages_lie_in_the_systems_places,
+          debian_packages_satisfy_lintian, desktop_accepts_the_metadata, manual_pages_are_well_formed,
+          shells_complete_the_tool, service_is_well_formed, one_version_everywhere, each_user_has_a_folder_of_his_own,
           upgrade_keeps_what_the_user_has, lost_database_is_an_error, no_path_of_the_build_is_left)}
 
 

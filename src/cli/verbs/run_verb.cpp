@@ -3,6 +3,7 @@
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "platform/interrupts.h"
+#include "platform/service_notice.h"
 #include "program/program.h"
 
 namespace tarnwick {
@@ -28,6 +29,7 @@ int run(Tool& tool, const RunTerminal::Style& style) {
   if (!program.run().running() && !pump.closing()) {
     return exit_status::failed;  // why has been told
   }
+  const ServiceNotice notice(tool.services().timers);
   while (!pump.closing()) {
     pump.waitForEvent();
   }

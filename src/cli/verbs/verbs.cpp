@@ -24,6 +24,7 @@ std::vector<Verb> allVerbs(const Fields& fields) {
   all.push_back(exportVerb());
   all.push_back(importVerb());
   all.push_back(initVerb());
+  all.push_back(completionVerb());
   return all;
 }
 

@@ -25,6 +25,8 @@ Verb settingsVerb(const Fields& fields);
 Verb optionVerb(const Fields& fields);
 Verb logVerb();
 Verb initVerb();
+/// Prints the completions of all verbs.
+Verb completionVerb();
 /// report, compact, restore
 std::vector<Verb> upkeepVerbs();
 Verb exportVerb();

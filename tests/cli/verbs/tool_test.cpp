@@ -18,9 +18,9 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-const std::vector<const char*> kVerbs = {"sites",   "site",     "add",    "set",      "delete", "post",   "baseline",
-                                         "diff",    "counters", "check",  "settings", "log",    "report", "compact",
-                                         "restore", "export",   "import", "init",     "run"};
+const std::vector<const char*> kVerbs = {"sites",   "site",     "add",    "set",      "delete", "post",      "baseline",
+                                         "diff",    "counters", "check",  "settings", "log",    "report",    "compact",
+                                         "restore", "export",   "import", "init",     "run",    "completion"};
 
 /// Takes nothing, for a reason that the system has.
 class FullBuffer final : public std::streambuf {
