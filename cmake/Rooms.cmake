@@ -7,7 +7,7 @@ set(TARNWICK_CORE_ROOMS base platform platform/os platform/sqlite store uucode m
 set(TARNWICK_OUTER_ROOMS platform/web platform/events platform/process platform/sound platform/desktop
     exchange/json exchange/list exchange/foreign
     cli/terminal cli/pages cli/verbs
-    ui/controls ui/baseline ui/site ui/settings ui/main_window
+    ui/controls ui/baseline ui/site ui/settings ui/exchange ui/main_window
     app)
 set(TARNWICK_ROOMS ${TARNWICK_CORE_ROOMS})
 if(NOT TARNWICK_CORE_ONLY)

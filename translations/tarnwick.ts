@@ -663,6 +663,30 @@
         <source>The copy is in its place. The list before is kept as %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List: menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is done with the list as a whole</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists and bookmarks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>
@@ -781,6 +805,93 @@
     </message>
     <message>
         <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ImportDialog</name>
+    <message>
+        <source>Import %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As its content shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV of Tarnwick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON of Tarnwick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List of addresses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bookmarks of a browser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OPML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List of urlwatch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List or backup of changedetection.io</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is not taken over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Kind of file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What kind of file this is does not show in its content. Choose it above, or see whether it is the right one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing can be imported. Faults of the file: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 new sites, %2 to change, %3 there already. What is not taken over is named below: %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites were added, %2 were changed. What was not taken over is named below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -663,6 +663,30 @@
         <source>The copy is in its place. The list before is kept as %1</source>
         <translation>Die Kopie ist an ihrer Stelle. Die Liste davor ist aufgehoben als %1</translation>
     </message>
+    <message>
+        <source>&amp;List</source>
+        <translation>&amp;Liste</translation>
+    </message>
+    <message>
+        <source>List: menu</source>
+        <translation>Liste: Menü</translation>
+    </message>
+    <message>
+        <source>What is done with the list as a whole</source>
+        <translation>Was mit der Liste im Ganzen geschieht</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importieren...</translation>
+    </message>
+    <message>
+        <source>Lists and bookmarks</source>
+        <translation>Listen und Lesezeichen</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>
@@ -782,6 +806,93 @@
     <message>
         <source>Cancel</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ImportDialog</name>
+    <message>
+        <source>Import %1</source>
+        <translation>%1 importieren</translation>
+    </message>
+    <message>
+        <source>Kind of file</source>
+        <translation>Art der Datei</translation>
+    </message>
+    <message>
+        <source>As its content shows</source>
+        <translation>Wie ihr Inhalt zeigt</translation>
+    </message>
+    <message>
+        <source>CSV of Tarnwick</source>
+        <translation>CSV von Tarnwick</translation>
+    </message>
+    <message>
+        <source>JSON of Tarnwick</source>
+        <translation>JSON von Tarnwick</translation>
+    </message>
+    <message>
+        <source>List of addresses</source>
+        <translation>Liste von Adressen</translation>
+    </message>
+    <message>
+        <source>Bookmarks of a browser</source>
+        <translation>Lesezeichen eines Browsers</translation>
+    </message>
+    <message>
+        <source>OPML</source>
+        <translation>OPML</translation>
+    </message>
+    <message>
+        <source>List of urlwatch</source>
+        <translation>Liste von urlwatch</translation>
+    </message>
+    <message>
+        <source>List or backup of changedetection.io</source>
+        <translation>Liste oder Sicherung von changedetection.io</translation>
+    </message>
+    <message>
+        <source>Reading the file</source>
+        <translation>Lesen der Datei</translation>
+    </message>
+    <message>
+        <source>What is not taken over</source>
+        <translation>Was nicht übernommen wird</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of file:</source>
+        <translation>&amp;Art der Datei:</translation>
+    </message>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>%1 wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>What kind of file this is does not show in its content. Choose it above, or see whether it is the right one.</source>
+        <translation>Was für eine Datei das ist, zeigt ihr Inhalt nicht. Wählen Sie es oben, oder sehen Sie nach, ob es die richtige ist.</translation>
+    </message>
+    <message>
+        <source>Nothing can be imported. Faults of the file: %1.</source>
+        <translation>Es kann nichts importiert werden. Fehler der Datei: %1.</translation>
+    </message>
+    <message>
+        <source>%1 new sites, %2 to change, %3 there already. What is not taken over is named below: %4.</source>
+        <translation>%1 neue Seiten, %2 zu ändern, %3 schon da. Was nicht übernommen wird, steht unten: %4.</translation>
+    </message>
+    <message>
+        <source>%1 sites were added, %2 were changed. What was not taken over is named below.</source>
+        <translation>%1 Seiten wurden hinzugefügt, %2 geändert. Was nicht übernommen wurde, steht unten.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>

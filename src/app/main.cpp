@@ -13,6 +13,7 @@
 #include "platform/program_folder.h"
 #include "platform/terminal.h"
 #include "program/fault_box.h"
+#include "ui/exchange/import_dialog.h"
 #include "ui/main_window/master.h"
 #include "ui/settings/control_dialog.h"
 #include "ui/site/one_site_editor.h"
@@ -55,7 +56,8 @@ int main(int argc, char** argv) {
   tarnwick::loadTranslations(application, {QString::fromStdString(folder), executableFolder});
   tarnwick::Master window(folder, machine.services());
   window.setEditors({.site = tarnwick::siteEditorOf(window.program(), window),
-                     .settings = tarnwick::settingsDialogOf(window.program(), window)});
+                     .settings = tarnwick::settingsDialogOf(window.program(), window),
+                     .importList = tarnwick::importOf(window.program(), window)});
   if (!window.load()) {
     failed();
     return window.isLoaded() ? EXIT_SUCCESS : EXIT_FAILURE;

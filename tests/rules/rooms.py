@@ -33,7 +33,7 @@ ROOMS = {
     "program": RUN,
     "exchange/json": MACHINE,
     "exchange/list": EXCHANGE,
-    "exchange/foreign": (*EXCHANGE, "exchange/list"),
+    "exchange/foreign": (*EXCHANGE, "exchange/list", "platform/os"),
     "cli/terminal": (*MACHINE, "exchange/json"),
     "cli/pages": (*RUN, "cli/terminal"),
     "cli/verbs": (*TOOL, "cli/pages"),
@@ -41,6 +41,7 @@ ROOMS = {
     "ui/baseline": WINDOW,
     "ui/site": (*WINDOW, "ui/baseline", "platform/desktop"),
     "ui/settings": WINDOW,
+    "ui/exchange": (*WINDOW, "exchange/list", "exchange/foreign", "platform/os"),
     "ui/main_window": WINDOW,
     "app": None,  # puts together whatever there is
 }
@@ -64,6 +65,7 @@ LIBRARIES = {
     "ui/baseline": QT,
     "ui/site": QT,
     "ui/settings": QT,
+    "ui/exchange": QT,
     "ui/main_window": QT,
     "app": QT,
 }

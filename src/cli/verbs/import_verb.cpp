@@ -9,6 +9,7 @@
 #include "cli/verbs/unwatched.h"
 #include "cli/verbs/verbs.h"
 #include "exchange/foreign/any_list.h"
+#include "exchange/foreign/list_reading.h"
 #include "exchange/list/site_facts.h"
 #include "exchange/list/site_import.h"
 
@@ -37,25 +38,18 @@ std::string inWords(const std::vector<std::string>& words, std::string_view last
   return text;
 }
 
-/// The list of a file, and the word for its kind.
-struct ReadFile {
-  std::string word;
-  AnyList list;
-};
-
-ReadFile readFile(FileSystem& files, const ImportVerbOptions& options, const Fields& fields, ListFaults& faults) {
-  const std::string bytes = readInput(files, options.file);
-  ReadFile file;
-  if (!options.format.empty()) {
-    file.word = options.format;
-  } else if (const auto word = wordOfFile(options.file, bytes)) {
-    file.word = *word;
-  } else {
+ReadList readFile(FileSystem& files, const ImportVerbOptions& options, const Fields& fields) {
+  // Standard input is this process's own.
+  const std::string typed = options.file == kStream ? readInput(files, options.file) : std::string();
+  ListReading reading(
+      options.file, options.format, [&] { return options.file == kStream ? typed : readInput(files, options.file); },
+      fields);
+  ReadList file = reading.finish();
+  if (file.word.empty()) {
     throw std::runtime_error("What kind of file \"" + shownName(options.file) +
                              "\" is does not show in its content. Add --format with " + inWords(importWords(), " or ") +
                              ".");
   }
-  file.list = readAnyList(file.word, bytes, fields, faults);
   return file;
 }
 
@@ -119,7 +113,7 @@ void addNotes(JsonValue& json, const std::vector<ForeignNote>& notes) {
   json["leftOut"] = std::move(leftOut);
 }
 
-void tellJson(Tool& tool, const ImportPlan& plan, const ReadFile& file, const ImportVerbOptions& options) {
+void tellJson(Tool& tool, const ImportPlan& plan, const ReadList& file, const ImportVerbOptions& options) {
   JsonValue json = jsonOf(tool.fields(), plan, options.dryRun);
   if (plan.optionsOfAll) {
     json["optionsOfAll"] = optionsJson(*plan.optionsOfAll);
@@ -135,7 +129,7 @@ std::string counted(std::size_t count, const char* one, const char* more) {
   return std::to_string(count) + (count == 1 ? one : more);
 }
 
-void tell(Tool& tool, const ImportPlan& plan, const ReadFile& file, const ImportVerbOptions& options) {
+void tell(Tool& tool, const ImportPlan& plan, const ReadList& file, const ImportVerbOptions& options) {
   using enum ImportStep::Action;
   if (options.json) {
     return tellJson(tool, plan, file, options);
@@ -224,8 +218,8 @@ std::vector<std::int16_t> takenIn(const ImportPlan& plan) {
 }
 
 int importList(Tool& tool, const ImportVerbOptions& options) {
-  ListFaults faults;
-  ReadFile file = readFile(tool.services().files, options, tool.fields(), faults);
+  ReadList file = readFile(tool.services().files, options, tool.fields());
+  ListFaults& faults = file.faults;
   ForeignList& content = file.list.content;
   ImportOptions how = options.how;
   how.byAddress = file.list.foreign;

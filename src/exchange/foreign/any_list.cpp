@@ -72,6 +72,10 @@ void noteRepeated(const ImportPlan& plan, ForeignList& list) {
   }
 }
 
+std::string lineOf(const ListFaults::Fault& fault) {
+  return (fault.line == 0 ? std::string() : "line " + std::to_string(fault.line) + ": ") + fault.text;
+}
+
 std::string lineOf(const ForeignNote& note) {
   std::string text = note.line == 0 ? std::string() : "line " + std::to_string(note.line);
   if (!note.subject.empty()) {

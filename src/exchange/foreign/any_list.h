@@ -34,5 +34,7 @@ void noteRepeated(const ImportPlan& plan, ForeignList& list);
 
 /// What is told of a note, for a terminal: `line 12, https://example.org/: not taken over: title "News"`.
 std::string lineOf(const ForeignNote& note);
+/// The same of a fault: "line 12: the file breaks off here".
+std::string lineOf(const ListFaults::Fault& fault);
 
 }  // namespace tarnwick

@@ -5,6 +5,7 @@
 #include <array>
 #include <exception>
 #include <new>
+#include <utility>
 
 #include "base/text.h"
 #include "base/visible_text.h"
@@ -140,7 +141,7 @@ ForeignList readForeign(ForeignKind kind, std::string_view bytes, ListFaults& fa
   } catch (const std::exception& error) {
     faults.add(0, std::string("the file cannot be read as ") + nameOf(kind) + ": " + visibleText(error.what()));
   }
-  return list;
+  return faults.none() ? std::move(list) : ForeignList();
 }
 
 }  // namespace tarnwick

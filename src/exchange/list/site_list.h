@@ -65,6 +65,7 @@ class ListFields {
   bool has(std::string_view name) const { return names_.contains(name); }
   void set(std::string_view name) { names_.emplace(name); }
   bool none() const { return names_.empty(); }
+  std::vector<std::string> names() const { return {names_.begin(), names_.end()}; }
 
  private:
   std::set<std::string, std::less<>> names_;

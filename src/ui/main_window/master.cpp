@@ -134,6 +134,7 @@ void Master::connectControls() {
   connectAction(controls_.stop, Qt::SHIFT | Qt::Key_F5, &Master::btnStop_Click);
   connectAction(controls_.makeNew, QKeySequence::New, &Master::btnNew_Click);
   connectAction(controls_.setup, {}, &Master::btnSetup_Click);
+  connect(controls_.importList, &QAction::triggered, this, [this] { program_.faults().run(editors_.importList); });
   connect(controls_.grid1, &SiteGridView::rowChosen, this, &Master::grid1_Click);
   connect(controls_.Label1, &LinkButton::clicked, this, &Master::Label1_Click);
   // In every window of the program.
@@ -157,11 +158,8 @@ void Master::setEditors(Editors editors) {
   const QString toolTip =
       settings ? tr("Change the settings")
                : tr("The settings are kept in the table \"control\" of the database; this window cannot change them");
-  for (QAbstractButton* button :
-       {static_cast<QAbstractButton*>(controls_.setup.image), static_cast<QAbstractButton*>(controls_.setup.button)}) {
-    button->setEnabled(settings);
-    button->setToolTip(toolTip);
-  }
+  controls_.setup.allow(settings, toolTip);
+  controls_.importList->setEnabled(static_cast<bool>(editors_.importList));
 }
 
 void Master::btnStart_Click() { program_.startRun(); }

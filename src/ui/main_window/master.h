@@ -22,6 +22,8 @@ struct Editors {
   SiteEditing site;
   /// Opens the settings.
   std::function<void()> settings;
+  /// Lets the user choose a file whose sites come into the list.
+  std::function<void()> importList{};
 };
 
 /// The main window, the only one that stands as long as the program runs: the list of sites, the lamps of the run, its

@@ -2,6 +2,7 @@
 #include "ui/main_window/master_layout.h"
 
 #include <QHBoxLayout>
+#include <QMenu>
 #include <QVBoxLayout>
 
 #include "platform/prompts.h"
@@ -44,6 +45,15 @@ void makeActions(QWidget& canvas, MasterControls& controls) {
   controls.setup = makeAction(canvas, {"imgSetup", "btnSetup", QObject::tr("Set&up"), QObject::tr("Setup"), QString()});
 }
 
+void makeListMenu(QWidget& canvas, MasterControls& controls) {
+  controls.listButton = named(new QPushButton(QObject::tr("&List"), &canvas), "listButton", QObject::tr("List: menu"));
+  controls.listButton->setToolTip(QObject::tr("What is done with the list as a whole"));
+  auto* menu = new QMenu(controls.listButton);
+  controls.importList = menu->addAction(QObject::tr("&Import..."));
+  controls.importList->setObjectName(QStringLiteral("importList"));
+  controls.listButton->setMenu(menu);
+}
+
 std::array<Lamp*, 3> makeLamps(QWidget& canvas) {
   const auto lamp = [&](const char* name, const QString& state, std::string_view dim, std::string_view bright) {
     return new Lamp(QString::fromLatin1(name), state, colourFromText(dim), colourFromText(bright), &canvas);
@@ -78,9 +88,18 @@ QLayout* buttonsOf(const MasterControls& controls) {
     row->addWidget(action.image);
   }
   row->addStretch(1);
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(6);
   for (const ActionControls& action : actions) {
-    row->addWidget(action.button, 0, Qt::AlignBottom);
+    buttons->addWidget(action.button);
   }
+  // The strip above the buttons, beside the pictures.
+  auto* right = new QVBoxLayout;
+  right->setSpacing(0);
+  right->addWidget(controls.listButton, 0, Qt::AlignRight | Qt::AlignTop);
+  right->addStretch(1);
+  right->addLayout(buttons);
+  row->addLayout(right);
   return row;
 }
 
@@ -101,10 +120,18 @@ QLabel* plainLabel(QWidget& canvas) {
 
 }  // namespace
 
+void ActionControls::allow(bool enabled, const QString& toolTip) const {
+  for (QWidget* widget : {static_cast<QWidget*>(image), static_cast<QWidget*>(button)}) {
+    widget->setEnabled(enabled);
+    widget->setToolTip(toolTip);
+  }
+}
+
 MasterControls layOutMaster(QWidget& canvas, SiteGridModel& sites) {
   // The order of making is the order of the Tab key.
   MasterControls controls{};
   makeActions(canvas, controls);
+  makeListMenu(canvas, controls);
   controls.grid1 = named(new SiteGridView(sites, &canvas), "grid1", QObject::tr("Sites"));
   controls.noticeBar = named(new NoticeBar(&canvas), "noticeBar", QObject::tr("Notices"));
   controls.Label1 = named(new LinkButton(QObject::tr("Online Help"), &canvas), "Label1", QObject::tr("Online Help"));

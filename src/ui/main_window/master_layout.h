@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <QAction>
 #include <QLabel>
 #include <QPushButton>
 
@@ -20,6 +21,8 @@ namespace tarnwick {
 struct ActionControls {
   PictureButton* image;
   QPushButton* button;
+
+  void allow(bool enabled, const QString& toolTip) const;
 };
 
 /// The main window's controls; the window owns them. Each has its name as object name.
@@ -32,6 +35,9 @@ struct MasterControls {
   ActionControls stop;
   ActionControls makeNew;
   ActionControls setup;
+  /// What is done with the list as a whole, as a menu.
+  QPushButton* listButton;
+  QAction* importList;
   SiteGridView* grid1;
   StatusLine* lStatus;
   SiteReason* lReason;

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace tarnwick {
+
+/// A piece of work in a process of its own, where the system can do that: it neither holds up this process nor ends it,
+/// whatever a library makes of a damaged file. On other systems it is done at once, in this process.
+///
+///     WorkApart reading([&] { return packed(read(file)); });
+///     while (!reading.take()) { ... }   // whenever `handle` can be read
+///     const auto result = reading.result();
+class WorkApart {
+ public:
+  /// The bytes of the result. Nothing of this process may be changed by it; it raises nothing.
+  using Work = std::function<std::string()>;
+
+  /// Starts it. Raises std::system_error when the system has no room for a process.
+  explicit WorkApart(const Work& work);
+  /// Ends it where it is not done.
+  ~WorkApart();
+  WorkApart(const WorkApart&) = delete;
+  WorkApart& operator=(const WorkApart&) = delete;
+
+  /// What can be read when there is something to take; -1 where the work is done already.
+  int handle() const;
+  /// Takes what has come so far, without waiting. True once the work is done.
+  bool take();
+  /// Waits until it is done.
+  void wait();
+  /// What the work has returned; nothing when it came to a bad end. REQUIRES: it is done.
+  std::optional<std::string> result();
+
+ private:
+  struct Process;
+  std::unique_ptr<Process> process_;
+};
+
+}  // namespace tarnwick

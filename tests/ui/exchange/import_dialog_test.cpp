@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "ui/exchange/import_dialog.h"
+
+#include <gmock/gmock.h>
+
+#include <QAbstractItemView>
+#include <QMenu>
+#include <QSignalSpy>
+
+#include "support/file_bytes.h"
+#include "ui/support/dialog_fixture.h"
+
+namespace tarnwick::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+const std::string kBookmarks =
+    "<!DOCTYPE NETSCAPE-Bookmark-file-1>\n<DL><p>\n<DT><A HREF=\"http://a.example/\">First</A>\n"
+    "<DT><A HREF=\"http://b.example\">Second</A>\n<DT><A HREF=\"javascript:void(0)\">Third</A>\n</DL>\n";
+
+class ImportDialogTest : public DialogTest {
+ protected:
+  ImportDialogTest() {
+    addSite(1, "http://b.example/");
+    open();
+    master->setEditors({.site = {}, .settings = {}, .importList = importOf(master->program(), *master)});
+  }
+
+  /// Chooses the file by the menu, as a user does, and waits until it is read.
+  ImportDialog& choose(const std::string& bytes) {
+    const std::string path = folder.file("import.html");
+    writeFile(path, bytes);
+    machine.prompts.answerFile(path);
+    find<QAction>("importList").trigger();
+    auto& dialog = opened<ImportDialog>();
+    waitUntil([&] { return !in<QWidget>(dialog, "importBar").isVisible(); });
+    return dialog;
+  }
+
+  static std::string state(ImportDialog& dialog) { return in<QLabel>(dialog, "importState").text().toStdString(); }
+  static std::vector<std::string> notes(ImportDialog& dialog) {
+    auto* model = in<QAbstractItemView>(dialog, "importNotes").model();
+    std::vector<std::string> lines;
+    for (int row = 0; row < model->rowCount(); ++row) {
+      lines.push_back(model->index(row, 0).data().toString().toStdString());
+    }
+    return lines;
+  }
+  std::string urls() { return folder.queryRows("select idSite, url from sites"); }
+};
+
+TEST_F(ImportDialogTest, ShowsWhatWouldComeAndTakesItWhenTheUserAgrees) {
+  auto& dialog = choose(kBookmarks);
+  EXPECT_EQ(state(dialog), "1 new sites, 0 to change, 1 there already. What is not taken over is named below: 3.");
+  EXPECT_THAT(notes(dialog), ElementsAre("line 3, http://a.example/: not taken over: title \"First\"",
+                                         "line 4, http://b.example: not taken over: title \"Second\"",
+                                         "line 5, javascript:void(0): left out: it is the address of no page"));
+  EXPECT_EQ(urls(), "1|http://b.example/\n") << "nothing is taken before the user agrees";
+  EXPECT_EQ(rows(), 1);
+  press(dialog, "btnImport");
+  EXPECT_EQ(urls(), "1|http://b.example/\n2|http://a.example/\n");
+  EXPECT_EQ(rows(), 2) << "the list shows it at once";
+  EXPECT_EQ(state(dialog), "1 sites were added, 0 were changed. What was not taken over is named below.");
+  EXPECT_FALSE(in<QPushButton>(dialog, "btnImport").isEnabled());
+  EXPECT_EQ(caption<QPushButton>(dialog, "btnCancel"), "Close");
+  press(dialog, "btnCancel");
+  waitUntil([&] { return shown<ImportDialog>() == nullptr; });
+}
+
+TEST_F(ImportDialogTest, TakesNothingWhenTheUserDoesNotAgree) {
+  auto& dialog = choose(kBookmarks);
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+  waitUntil([&] { return shown<ImportDialog>() == nullptr; });
+  EXPECT_EQ(urls(), "1|http://b.example/\n");
+}
+
+TEST_F(ImportDialogTest, TellsTheFaultsOfABadFile) {
+  auto& dialog = choose(kBookmarks.substr(0, kBookmarks.size() - 6));
+  EXPECT_EQ(state(dialog), "Nothing can be imported. Faults of the file: 1.");
+  EXPECT_THAT(notes(dialog),
+              ElementsAre("line 6: the file breaks off here: a folder of it has no end. Export the bookmarks anew"));
+  EXPECT_FALSE(in<QPushButton>(dialog, "btnImport").isEnabled());
+}
+
+TEST_F(ImportDialogTest, LetsTheUserSayWhatKindOfFileItIs) {
+  auto& dialog = choose("localhost\n");
+  EXPECT_THAT(state(dialog), HasSubstr("Choose it above"));
+  auto& kind = in<QComboBox>(dialog, "importKind");
+  kind.setFocus();
+  QTest::keyClicks(&kind, QStringLiteral("List of a"));
+  waitUntil([&] { return in<QPushButton>(dialog, "btnImport").isEnabled(); });
+  EXPECT_THAT(state(dialog), HasSubstr("1 new sites"));
+  EXPECT_THAT(notes(dialog), IsEmpty());
+}
+
+TEST_F(ImportDialogTest, IsOfferedForEveryKindOfFileThatCanBeRead) {
+  auto& dialog = choose(kBookmarks);
+  auto& kind = in<QComboBox>(dialog, "importKind");
+  std::vector<std::string> words;
+  for (int i = 1; i < kind.count(); ++i) {
+    words.push_back(kind.itemData(i).toString().toStdString());
+  }
+  EXPECT_EQ(words, importWords());
+}
+
+TEST_F(ImportDialogTest, AFileThatIsNotThereIsTold) {
+  machine.prompts.answerFile(folder.file("gone.html"));
+  find<QAction>("importList").trigger();
+  auto& dialog = opened<ImportDialog>();
+  waitUntil([&] { return !in<QWidget>(dialog, "importBar").isVisible(); });
+  EXPECT_THAT(state(dialog), HasSubstr("gone.html"));
+}
+
+TEST_F(ImportDialogTest, ClosesWithTheProgramWhileItReads) {
+  const std::string path = folder.file("many.txt");
+  std::string lines;
+  for (int i = 0; i < 30000; ++i) {
+    lines += "http://a.example/" + std::to_string(i) + "\n";
+  }
+  writeFile(path, lines);
+  machine.prompts.answerFile(path);
+  find<QAction>("importList").trigger();
+  EXPECT_NE(shown<ImportDialog>(), nullptr);
+  master->close();
+  EXPECT_FALSE(master->isVisible());
+}
+
+TEST_F(ImportDialogTest, EveryControlHasANameForThoseWhoDoNotSeeIt) {
+  auto& dialog = choose(kBookmarks);
+  for (const char* name : {"importKind", "importNotes", "importBar", "btnImport", "btnCancel"}) {
+    EXPECT_NE(spoken(in<QWidget>(dialog, name)), QString()) << name;
+  }
+  EXPECT_EQ(find<QPushButton>("listButton").text(), QStringLiteral("&List"));
+  EXPECT_EQ(find<QPushButton>("listButton").accessibleName(), QStringLiteral("List: menu"));
+}
+
+}  // namespace
+}  // namespace tarnwick::testing
