@@ -65,7 +65,7 @@ class Ledger {
   std::vector<std::string> newLogRows() const;
   std::map<std::int16_t, Counts> counters() const;
   void begin();
-  void compareLog();
+  void compareLog(bool afterDeath);
   void compareCounters(bool afterDeath);
 
   void watchChecks();

@@ -13,9 +13,9 @@
 namespace tarnwick::simulation {
 
 /// What can befall a machine, in classes that can be left out one by one.
-enum class Trouble { sites, mail, clock, user, verbs, locks, disk, power, kill, restart, programs };
-inline constexpr std::array<std::string_view, 11> kTroubleNames{
-    "sites", "mail", "clock", "user", "verbs", "locks", "disk", "power", "kill", "restart", "programs"};
+enum class Trouble { sites, mail, clock, user, verbs, locks, disk, power, kill, restart, programs, sleep };
+inline constexpr std::array<std::string_view, 12> kTroubleNames{
+    "sites", "mail", "clock", "user", "verbs", "locks", "disk", "power", "kill", "restart", "programs", "sleep"};
 inline constexpr std::size_t kTroubles = kTroubleNames.size();
 
 /// Something that is going to happen. What exactly is drawn from `draw`, so that it is the same whatever else happens.

@@ -20,7 +20,7 @@ class SimulatedClock final : public Clock {
   std::chrono::milliseconds steadyNow() const override { return kSinceTheMachineStarted + steady(); }
 
   /// Sets the clock on the wall forward, or back.
-  void setBy(std::chrono::seconds change) { wall_ += change; }
+  void setBy(std::chrono::milliseconds change) { wall_ += change; }
 
  private:
   static constexpr std::chrono::milliseconds kSinceTheMachineStarted{1'000'000};

@@ -69,6 +69,9 @@ void Simulation::schedule() {
       process_->program().close();
     }
   });
+  if (!plan_.without.contains(Trouble::clock)) {
+    changeToSummerTime();
+  }
   lookNow();
   clearCounters();
 }
@@ -128,6 +131,8 @@ void Simulation::begin(const Happening& happening) {
       return restart(chance);
     case Trouble::programs:
       return breakPrograms(chance);
+    case Trouble::sleep:
+      return sleep(chance);
   }
 }
 
@@ -185,9 +190,45 @@ void Simulation::setClock(Chance chance) {
   const std::int64_t most = kMost.at(chance.below(kMost.size()));
   std::int64_t by = most == 3600 && chance.oneIn(2) ? most : chance.between(1, most);
   by = chance.oneIn(2) ? -by : by;
-  world_.journal.add("clock", "set by " + std::to_string(by) + " s");
-  world_.clock.setBy(std::chrono::seconds(by));
-  ledger_.excuse(std::chrono::seconds(by < 0 ? -by : 0) + kAfterTrouble);
+  stepClock(std::chrono::seconds(by));
+  if (chance.oneIn(3)) {  // and put right
+    world_.agenda.in(Time(chance.between(1000, 600'000)), [this, by] { stepClock(std::chrono::seconds(-by)); });
+  }
+}
+
+void Simulation::stepClock(std::chrono::milliseconds by) {
+  world_.journal.add("clock", "set by " + std::to_string(by.count()) + " ms");
+  world_.clock.setBy(by);
+  ledger_.excuse(std::max(-by, 0ms) + kAfterTrouble);
+}
+
+// At two in the morning clocks go forward by an hour, and at three back.
+void Simulation::changeToSummerTime() {
+  using namespace std::chrono;
+  for (int ahead = 0; ahead < 3; ++ahead) {
+    const year later = year{2026} + years{ahead};
+    const LocalTime forward = local_days{later / March / Sunday[last]} + 2h;
+    const LocalTime back = local_days{later / October / Sunday[last]} + 3h;
+    for (const auto& [time, by] : {std::pair{forward, 1h}, std::pair{back, -1h}}) {
+      const Time at = time - world_.clock.localNow();
+      if (at > 0ms && at < plan_.length) {
+        world_.agenda.at(at, [this, step = by] { stepClock(step); });
+      }
+    }
+  }
+}
+
+// The machine sleeps. On some the clock that timers go by stands still meanwhile, on others all that has fallen due
+// happens at once.
+void Simulation::sleep(Chance chance) {
+  const Time lasts(chance.between(10'000, chance.oneIn(2) ? 43'200'000 : 600'000));
+  world_.journal.add("clock", "the machine sleeps for " + std::to_string(lasts.count()) + " ms");
+  if (chance.oneIn(2)) {
+    stepClock(lasts);
+  } else {
+    world_.agenda.passBlocked(lasts);
+    ledger_.excuse(kAfterTrouble);
+  }
 }
 
 void Simulation::breakDisk(Chance chance) {

@@ -54,6 +54,9 @@ class Simulation {
   void kill(Chance chance);
   void restart(Chance chance);
   void breakPrograms(Chance chance);
+  void sleep(Chance chance);
+  void changeToSummerTime();
+  void stepClock(std::chrono::milliseconds by);
   void lookNow();
   void clearCounters();
   void liveOnce();

@@ -12,7 +12,6 @@
 namespace tarnwick::simulation {
 namespace {
 
-constexpr LocalTime kBeginning = std::chrono::local_days{std::chrono::year{2026} / 1 / 1} + std::chrono::hours{8};
 constexpr Time kLamps = std::chrono::seconds(20);
 
 std::unique_ptr<sqlite3, decltype(&sqlite3_close)> openList(const World& world, int flags) {
@@ -27,13 +26,20 @@ std::unique_ptr<sqlite3, decltype(&sqlite3_close)> openList(const World& world, 
   return database;
 }
 
+// In the morning: of an ordinary day, or of the day before the clocks go forward or back.
+LocalTime beginningOf(std::uint64_t seed) {
+  using namespace std::chrono;
+  constexpr year_month_day kDays[]{year{2026} / 1 / 1, year{2026} / 3 / 28, year{2026} / 10 / 24};
+  return local_days{kDays[seed % std::size(kDays)]} + hours{8};
+}
+
 }  // namespace
 
 SystemTime* SystemTime::inUse = nullptr;
 
 World::World(std::uint64_t worldSeed, std::ostream* copy)
     : seed(worldSeed),
-      clock(agenda, kBeginning),
+      clock(agenda, beginningOf(worldSeed)),
       journal(agenda, copy),
       timers(agenda, kLamps),
       web(agenda, journal, chance(Part::web)),
