@@ -9,7 +9,8 @@
 #   scripts/simulate.sh --hours 8 --days 20                 as many as there is time for
 #   scripts/simulate.sh --seed 7 --journal FILE --once      every line of what happens; not run a second time
 #   scripts/simulate.sh --seed 7 --without disk,power       leaves classes of troubles out: sites, mail, clock, user,
-#                                                           verbs, locks, disk, power, kill, restart, programs, sleep
+#                                                           verbs, locks, disk, power, kill, restart, programs, sleep,
+#                                                           memory
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/lib/packages.sh

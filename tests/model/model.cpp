@@ -393,6 +393,9 @@ void Model::deleted(int idSite) {
 // The next tick asks afresh, so that what was edited takes effect at once. A pass in progress is left alone.
 void Model::editorClosed() { secondsToNext_ = 0; }
 
+// What was counted by another clock says nothing about the sites. One whose stamp lies ahead simply waits.
+void Model::clockSet() { secondsToNext_ = 0; }
+
 // An empty text makes the next page the baseline.
 void Model::baselineStored(int idSite, const std::string& text) {
   if (sites_.contains(idSite))

@@ -188,6 +188,7 @@ class Model {
   void edited(const Site& typed);
   void deleted(int idSite);
   void editorClosed();
+  void clockSet();
   void baselineStored(int idSite, const std::string& text);
   void countersCleared(int idSite);
   void logCleared() { log_.clear(); }

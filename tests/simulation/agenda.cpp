@@ -4,9 +4,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "simulation/simulated_memory.h"
+
 namespace tarnwick::simulation {
 
 Agenda::Entry Agenda::at(Time time, Action action, Where where) {
+  const SimulatedMemory::OfWorld ours;
   std::uint32_t place = 0;
   if (free_.empty()) {
     place = static_cast<std::uint32_t>(places_.size());
@@ -24,6 +27,7 @@ Agenda::Entry Agenda::at(Time time, Action action, Where where) {
 }
 
 void Agenda::cancel(Entry& entry) {
+  const SimulatedMemory::OfWorld ours;
   if (entry.turn != 0 && places_[entry.place].turn == entry.turn) {
     ++places_[entry.place].turn;
     places_[entry.place].action = nullptr;
@@ -42,6 +46,7 @@ const Agenda::Due* Agenda::first(Heap& heap) {
 }
 
 void Agenda::run(Heap& heap) {
+  const SimulatedMemory::OfWorld ours;
   const Due due = heap.front();
   std::pop_heap(heap.begin(), heap.end());
   heap.pop_back();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "simulation/journal.h"
 
+#include "simulation/simulated_memory.h"
+
 namespace tarnwick::simulation {
 
 void Journal::mix(std::string_view bytes) {
@@ -19,6 +21,7 @@ void Journal::add(std::string_view kind, std::string_view text) {
   if (muted_) {
     return;
   }
+  const SimulatedMemory::OfWorld ours;
   ++lines_;
   std::string line(text);
   for (std::size_t at = text_.empty() ? std::string::npos : line.find(text_); at != std::string::npos;

@@ -28,8 +28,10 @@ class Ledger {
   /// comes later, from when the run is at rest and `settle` is called, is compared.
   void disturb() { known_ = false; }
   void settle();
-  /// While the disk fails an alert can go out before its failure is recorded, and a failure be counted later.
+  /// While the disk fails an alert can go out before its failure is recorded, and a failure be counted later; without
+  /// memory any result can be recorded that could not be shown.
   void setDiskFails(bool fails);
+  void setMemoryFails(bool fails);
 
   /// Compares log, counters and alerts with what was shown.
   void compare();
@@ -75,6 +77,7 @@ class Ledger {
   Time lastSign_{0};
   bool known_ = false;
   bool diskFails_ = false;
+  bool memoryFails_ = false;
   std::uint64_t logBefore_ = 0;  ///< the last row of the log that has been compared
   bool unshown_ = false;         ///< a row is there that was not shown yet
   std::deque<Row> expected_;

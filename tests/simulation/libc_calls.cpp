@@ -17,11 +17,13 @@
 #include <vector>
 
 #include "simulation/simulated_disk.h"
+#include "simulation/simulated_memory.h"
 #include "simulation/system_time.h"
 
 namespace {
 
 using tarnwick::simulation::SimulatedDisk;
+using tarnwick::simulation::SimulatedMemory;
 using tarnwick::simulation::SystemTime;
 
 /// The library's own function of that name.
@@ -47,6 +49,7 @@ int failed(int error) {
 
 template <typename Open>
 int openFile(Open* open, const char* path, int flags, mode_t rights) {
+  const SimulatedMemory::OfWorld ours;
   SimulatedDisk* const disk = diskOf(path);
   if (disk == nullptr) {
     return open(path, flags, rights);
@@ -71,6 +74,7 @@ std::int64_t growthOf(int descriptor, std::size_t length, std::int64_t offset) {
 
 template <typename Write>
 ssize_t writeAt(Write* write, int descriptor, const void* bytes, std::size_t length, std::int64_t offset) {
+  const SimulatedMemory::OfWorld ours;
   if (SimulatedDisk* const disk = diskOf(descriptor)) {
     const std::int64_t growth = disk->isLimited() ? growthOf(descriptor, length, offset) : 0;
     if (const int error = disk->write(descriptor, bytes, length, offset, growth)) {
@@ -82,6 +86,7 @@ ssize_t writeAt(Write* write, int descriptor, const void* bytes, std::size_t len
 
 template <typename Truncate>
 int truncateFile(Truncate* truncate, int descriptor, std::int64_t size) {
+  const SimulatedMemory::OfWorld ours;
   if (SimulatedDisk* const disk = diskOf(descriptor)) {
     if (const int error = disk->truncate(descriptor, size)) {
       return failed(error);
@@ -92,6 +97,7 @@ int truncateFile(Truncate* truncate, int descriptor, std::int64_t size) {
 
 // Its own syncs go nowhere: the disk is in memory.
 int syncFile(int (*sync)(int), int descriptor) {
+  const SimulatedMemory::OfWorld ours;
   if (SimulatedDisk* const disk = diskOf(descriptor)) {
     const int error = disk->sync(descriptor);
     return error == 0 ? 0 : failed(error);
@@ -171,6 +177,7 @@ int open64(const char* path, int flags, ...) {
 
 int close(int descriptor) {
   TARNWICK_REAL(close);
+  const SimulatedMemory::OfWorld ours;
   if (SimulatedDisk* const disk = diskOf(descriptor)) {
     disk->closed(descriptor);
   }
@@ -179,6 +186,7 @@ int close(int descriptor) {
 
 FILE* fdopen(int descriptor, const char* mode) noexcept {
   TARNWICK_REAL(fdopen);
+  const SimulatedMemory::OfWorld ours;
   if (SimulatedDisk* const disk = diskOf(descriptor); disk != nullptr && mode[0] != 'r') {
     disk->throughStream(descriptor);
   }
@@ -188,6 +196,7 @@ FILE* fdopen(int descriptor, const char* mode) noexcept {
 // A stream closes its descriptor without asking anybody.
 int fclose(FILE* stream) {
   TARNWICK_REAL(fclose);
+  const SimulatedMemory::OfWorld ours;
   const int descriptor = fileno(stream);
   if (SimulatedDisk* const disk = diskOf(descriptor)) {
     disk->closed(descriptor);
@@ -217,6 +226,7 @@ int ftruncate64(int descriptor, off64_t size) noexcept {
 
 int stat64(const char* path, struct stat64* facts) noexcept {
   TARNWICK_REAL(stat64);
+  const SimulatedMemory::OfWorld ours;
   SimulatedDisk* const disk = diskOf(path);
   if (disk == nullptr) {
     return next(path, facts);
@@ -240,6 +250,7 @@ int stat(const char* path, struct stat* facts) noexcept {
 
 ssize_t pread64(int descriptor, void* bytes, size_t length, off64_t offset) {
   TARNWICK_REAL(pread64);
+  const SimulatedMemory::OfWorld ours;
   SimulatedDisk* const disk = length <= kShortPiece ? diskOf(descriptor) : nullptr;
   if (disk == nullptr) {
     return next(descriptor, bytes, length, offset);
@@ -270,6 +281,7 @@ int fdatasync(int descriptor) {
 
 int rename(const char* from, const char* to) noexcept {
   TARNWICK_REAL(rename);
+  const SimulatedMemory::OfWorld ours;
   if (SimulatedDisk* const disk = diskOf(to)) {
     if (const int error = disk->rename(from, to)) {
       return failed(error);
@@ -280,6 +292,7 @@ int rename(const char* from, const char* to) noexcept {
 
 int unlink(const char* path) noexcept {
   TARNWICK_REAL(unlink);
+  const SimulatedMemory::OfWorld ours;
   if (SimulatedDisk* const disk = diskOf(path)) {
     if (const int error = disk->unlink(path)) {
       return failed(error);
@@ -290,6 +303,7 @@ int unlink(const char* path) noexcept {
 
 int remove(const char* path) noexcept {
   TARNWICK_REAL(remove);
+  const SimulatedMemory::OfWorld ours;
   if (SimulatedDisk* const disk = diskOf(path)) {
     if (const int error = disk->unlink(path)) {
       return failed(error);

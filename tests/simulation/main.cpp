@@ -101,7 +101,7 @@ Wishes wishesOf(const std::vector<std::string>& arguments) {
       wishes.plan.original = true;
     } else if (name == "--model") {
       wishes.plan.model = true;
-      wishes.plan.without.insert({Trouble::clock, Trouble::locks, Trouble::disk});
+      wishes.plan.without.insert({Trouble::locks, Trouble::disk, Trouble::memory});
     } else if (name == "--cut-everywhere") {
       wishes.cutsEverywhere = true;
     } else if (name == "--first") {

@@ -12,7 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 
 /// How often each class strikes, on average.
-constexpr std::array<Time, kTroubles> kEvery{4h, 24h, 120h, 8h, 6h, 12h, 48h, 60h, 60h, 72h, 48h, 96h};
+constexpr std::array<Time, kTroubles> kEvery{4h, 24h, 120h, 8h, 6h, 12h, 48h, 60h, 60h, 72h, 48h, 96h, 48h};
 
 /// A short run has as many troubles as a day of a long one.
 constexpr Time kShortest = 48h;

@@ -13,9 +13,10 @@
 namespace tarnwick::simulation {
 
 /// What can befall a machine, in classes that can be left out one by one.
-enum class Trouble { sites, mail, clock, user, verbs, locks, disk, power, kill, restart, programs, sleep };
-inline constexpr std::array<std::string_view, 12> kTroubleNames{
-    "sites", "mail", "clock", "user", "verbs", "locks", "disk", "power", "kill", "restart", "programs", "sleep"};
+enum class Trouble { sites, mail, clock, user, verbs, locks, disk, power, kill, restart, programs, sleep, memory };
+inline constexpr std::array<std::string_view, 13> kTroubleNames{"sites",    "mail",  "clock", "user", "verbs",
+                                                                "locks",    "disk",  "power", "kill", "restart",
+                                                                "programs", "sleep", "memory"};
 inline constexpr std::size_t kTroubles = kTroubleNames.size();
 
 /// Something that is going to happen. What exactly is drawn from `draw`, so that it is the same whatever else happens.
@@ -36,8 +37,8 @@ struct Plan {
   std::set<std::size_t> leftOut{};
   /// Without any recommended option; drawn from the seed when it is not said.
   bool original = false;
-  /// Compared with the executable model at each wait. That knows nothing of clocks that are set, of failing disks, of
-  /// locks, nor of what other programs check and set: these troubles are left out.
+  /// Compared with the executable model at each wait. That knows nothing of failing disks, of locks, of want of memory,
+  /// nor of what other programs check and set: these troubles are left out.
   bool model = false;
 
   /// Everything that happens, in the order of its numbers.

@@ -35,12 +35,18 @@ Process::Process(World& world)
 
 bool Process::live() {
   try {
-    program_.start();
-    terminal_.prepare(program_.data());
+    {
+      const SimulatedMemory::OfProgram program;
+      program_.start();
+      terminal_.prepare(program_.data());
+    }
     if (onStarted) {
       onStarted();
     }
-    program_.startRun();
+    {
+      const SimulatedMemory::OfProgram program;
+      program_.startRun();
+    }
     while (!loop_.pump.closing()) {
       loop_.pump.waitForEvent();
     }
@@ -48,6 +54,7 @@ bool Process::live() {
     return true;
   } catch (const std::exception& error) {
     world_.journal.add("err", error.what());
+    why_ = error.what();
     return false;
   }
 }
@@ -66,6 +73,7 @@ int runVerb(World& world, const std::vector<std::string>& arguments) {
   Console console(outStream, errStream, TerminalFacts{});
   std::vector<std::string> whole = arguments;
   whole.insert(whole.begin(), {"--folder", world.disk.folder()});
+  const SimulatedMemory::OfProgram program;
   const int status = runTool(whole, world.disk.folder(), world.services(loop.pump), console);
   world.journal.add("verb", "ends with " + std::to_string(status));
   return status;

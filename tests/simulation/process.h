@@ -9,6 +9,7 @@
 #include "cli/terminal/console.h"
 #include "cli/verbs/run_terminal.h"
 #include "program/program.h"
+#include "simulation/simulated_memory.h"
 #include "simulation/world.h"
 
 namespace tarnwick::simulation {
@@ -36,18 +37,22 @@ class WatchedView final : public RunView {
   void setCaption(const std::string& caption) override { terminal_.setCaption(caption); }
   void fillGrid() override { terminal_.fillGrid(); }
   void showStatus(const std::string& text) override {
-    world_.journal.addTick("status", text);
-    if (onSign) {
-      onSign();
-    }
-    if (onStatus) {
-      onStatus(text);
+    {
+      const SimulatedMemory::OfWorld ours;
+      world_.journal.addTick("status", text);
+      if (onSign) {
+        onSign();
+      }
+      if (onStatus) {
+        onStatus(text);
+      }
     }
     terminal_.showStatus(text);
   }
   void indicators(RunState state) override {
     world_.journal.addTick("lamp", state == RunState::start ? "start" : state == RunState::pause ? "pause" : "stop");
     if (onLamp) {
+      const SimulatedMemory::OfWorld ours;
       onLamp(state);
     }
     terminal_.indicators(state);
@@ -61,12 +66,14 @@ class WatchedView final : public RunView {
   void updateGridRow(std::int16_t idSite, bool passed) override { terminal_.updateGridRow(idSite, passed); }
   void showResult(const CheckResult& result) override {
     if (!world_.isDead() && onResult) {
+      const SimulatedMemory::OfWorld ours;
       onResult(result);
     }
     terminal_.showResult(result);
   }
   void showLostMail(const LostMail& mail) override {
     if (!world_.isDead() && onLostMail) {
+      const SimulatedMemory::OfWorld ours;
       onLostMail(mail);
     }
     terminal_.showLostMail(mail);
@@ -94,6 +101,8 @@ class Process {
 
   /// Starts the program and its run, and lives until it is closed or its process ends. False when it did not start.
   bool live();
+  /// What it has died of when it did not live to its end.
+  const std::string& why() const { return why_; }
   Program& program() { return program_; }
   WatchedView& view() { return view_; }
   SimulatedPump& pump() { return loop_.pump; }
@@ -102,6 +111,7 @@ class Process {
 
  private:
   World& world_;
+  std::string why_;
   LivingPump loop_;
   JournalStream out_;
   JournalStream err_;

@@ -29,6 +29,8 @@ class Shadow {
   void stops() { model_->stop(now()); }
   /// The user, or another program, has changed something: it is read from the list. `editor` when one was closed.
   void edited(bool editor);
+  /// The clock on the wall was set.
+  void clockSet() { model_->clockSet(); }
 
   std::uint64_t comparisons() const { return comparisons_; }
 

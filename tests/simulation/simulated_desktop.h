@@ -12,6 +12,7 @@
 #include "platform/prompts.h"
 #include "platform/run_lock.h"
 #include "simulation/journal.h"
+#include "simulation/simulated_memory.h"
 
 namespace tarnwick::simulation {
 
@@ -21,11 +22,7 @@ class SimulatedDesktop final : public Prompts, public SoundPlayer, public Progra
   explicit SimulatedDesktop(Journal& journal) : journal_(journal) {}
 
   void inform(const Message& message, std::function<void()> closed = {}) override {
-    ++boxes_;
-    if (onBox) {
-      onBox(message.text);
-    }
-    journal_.add("box", message.text);
+    note(message.text);
     if (closed) {
       closed();
     }
@@ -37,6 +34,7 @@ class SimulatedDesktop final : public Prompts, public SoundPlayer, public Progra
   void chooseFile(const FileChoice&, std::function<void(const std::string& path)>) override {}
 
   long play(const std::string& fileName) override {
+    const SimulatedMemory::OfWorld ours;
     ++sounds_;
     if (onSound) {
       onSound(fileName);
@@ -45,6 +43,7 @@ class SimulatedDesktop final : public Prompts, public SoundPlayer, public Progra
     return 1;
   }
   bool start(const std::vector<std::string>& arguments) override {
+    const SimulatedMemory::OfWorld ours;
     std::string line;
     for (const std::string& argument : arguments) {
       line += "[" + argument + "]";
@@ -78,6 +77,15 @@ class SimulatedDesktop final : public Prompts, public SoundPlayer, public Progra
   std::uint64_t boxes() const { return boxes_; }
 
  private:
+  void note(const std::string& box) {
+    const SimulatedMemory::OfWorld ours;
+    ++boxes_;
+    if (onBox) {
+      onBox(box);
+    }
+    journal_.add("box", box);
+  }
+
   Journal& journal_;
   std::uint64_t sounds_ = 0;
   std::uint64_t boxes_ = 0;

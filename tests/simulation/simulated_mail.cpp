@@ -4,6 +4,8 @@
 #include <functional>
 #include <utility>
 
+#include "simulation/simulated_memory.h"
+
 namespace tarnwick::simulation {
 
 // What a server in a bad mood leaves out it does later: one that is silent without end would hold a list for ever that
@@ -13,6 +15,7 @@ class SimulatedMail::Socket final : public TcpSocket {
   explicit Socket(SimulatedMail& mail) : mail_(mail), next_(mail.agenda_) {}
 
   void connectTo(const std::string& host, std::uint16_t) override {
+    const SimulatedMemory::OfWorld ours;
     if (mail_.onConnect) {
       mail_.onConnect(host);
     }
@@ -33,6 +36,7 @@ class SimulatedMail::Socket final : public TcpSocket {
     if (state_ != SocketState::connected) {
       return;
     }
+    const SimulatedMemory::OfWorld ours;
     mail_.journal_.add("mail", data);
     if (mail_.onSent) {
       mail_.onSent(data);
@@ -58,6 +62,7 @@ class SimulatedMail::Socket final : public TcpSocket {
     next_.cancel();
     state_ = SocketState::closed;
     if (std::exchange(inExchange_, false) && mail_.onEnd) {
+      const SimulatedMemory::OfWorld ours;
       mail_.onEnd();
     }
   }
@@ -83,6 +88,7 @@ class SimulatedMail::Socket final : public TcpSocket {
     next_.in(delay(), [this, text = std::move(text)] {
       data_ += text;
       if (arrived_) {
+        const SimulatedMemory::OfProgram program;
         arrived_();
       }
     });

@@ -8,6 +8,7 @@
 #include "platform/event_pump.h"
 #include "platform/timer.h"
 #include "simulation/agenda.h"
+#include "simulation/simulated_memory.h"
 
 namespace tarnwick::simulation {
 
@@ -66,6 +67,7 @@ class SimulatedTimers final : public TimerMaker {
 
    private:
     void wait() {
+      const SimulatedMemory::OfWorld ours;
       next_.cancel();
       if (enabled_ && interval_.count() > 0) {
         next_.in(interval_ == kLamps ? maker_.lamps_ : interval_, [this] {
@@ -74,6 +76,7 @@ class SimulatedTimers final : public TimerMaker {
             before();
           }
           const auto tick = tick_;  // the tick may destroy this timer
+          const SimulatedMemory::OfProgram program;
           (*tick)();
         });
       }
@@ -106,11 +109,13 @@ class SimulatedPump final : public EventPump {
       agenda_.happenNow();
     }
     if (!closing_ && onPumped) {
+      const SimulatedMemory::OfWorld ours;
       onPumped();
     }
   }
   void waitForEvent() override {
     if (!closing_ && onWait) {
+      const SimulatedMemory::OfWorld ours;
       onWait();
     }
     if (!closing_) {

@@ -4,6 +4,8 @@
 #include <functional>
 #include <utility>
 
+#include "simulation/simulated_memory.h"
+
 namespace tarnwick::simulation {
 
 class SimulatedWeb::Control final : public TransferControl {
@@ -11,6 +13,7 @@ class SimulatedWeb::Control final : public TransferControl {
   explicit Control(SimulatedWeb& web) : web_(web), next_(web.agenda_) {}
 
   void execute(Request request) override {
+    const SimulatedMemory::OfWorld ours;
     executing_ = true;
     taken_ = {};
     if (web_.onRequest) {
@@ -36,6 +39,7 @@ class SimulatedWeb::Control final : public TransferControl {
     if (web_.onAnswer) {
       web_.onAnswer(url_, taken_);
     }
+    const SimulatedMemory::OfProgram program;
     if (stateChanged_) {
       stateChanged_(taken_.fault == TransferFault::none ? transfer_state::responseCompleted : transfer_state::error);
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "simulation/simulation.h"
 
+#include "simulation/simulated_memory.h"
+
 #include <array>
 #include <cinttypes>
 #include <cstdio>
@@ -13,6 +15,9 @@ using namespace std::chrono_literals;
 /// How long after a trouble nothing is promised about the time of a check: a fault lets passes wait for up to a minute
 /// longer each time, and a clock that was set back lets sites wait until it is there again.
 constexpr Time kAfterTrouble = 1h;
+
+/// A smaller step of the clock is none for the countdown, in seconds.
+constexpr std::int64_t kNoticed = 4;
 
 }  // namespace
 
@@ -120,6 +125,7 @@ void Simulation::begin(const Happening& happening) {
       return process_ ? user_.runSomeVerb(chance) : void();
     case Trouble::locks:
       ledger_.excuse(kAfterTrouble);
+      mayEnd(kAfterTrouble);
       return neighbour_.lock(chance);
     case Trouble::disk:
       return breakDisk(chance);
@@ -133,6 +139,8 @@ void Simulation::begin(const Happening& happening) {
       return breakPrograms(chance);
     case Trouble::sleep:
       return sleep(chance);
+    case Trouble::memory:
+      return takeMemory(chance);
   }
 }
 
@@ -190,6 +198,9 @@ void Simulation::setClock(Chance chance) {
   const std::int64_t most = kMost.at(chance.below(kMost.size()));
   std::int64_t by = most == 3600 && chance.oneIn(2) ? most : chance.between(1, most);
   by = chance.oneIn(2) ? -by : by;
+  if (plan_.model && by > -kNoticed && by < kNoticed) {
+    by = kNoticed;  // a step of a second or two the program takes for the next second
+  }
   stepClock(std::chrono::seconds(by));
   if (chance.oneIn(3)) {  // and put right
     world_.agenda.in(Time(chance.between(1000, 600'000)), [this, by] { stepClock(std::chrono::seconds(-by)); });
@@ -199,6 +210,9 @@ void Simulation::setClock(Chance chance) {
 void Simulation::stepClock(std::chrono::milliseconds by) {
   world_.journal.add("clock", "set by " + std::to_string(by.count()) + " ms");
   world_.clock.setBy(by);
+  if (shadow_ && !world_.isDead()) {
+    shadow_->clockSet();
+  }
   ledger_.excuse(std::max(-by, 0ms) + kAfterTrouble);
 }
 
@@ -216,6 +230,24 @@ void Simulation::changeToSummerTime() {
       }
     }
   }
+}
+
+// Other programs take the memory, for a while that is short: who has none for long has no computer any more.
+void Simulation::takeMemory(Chance chance) {
+  const Time lasts(chance.between(1000, 600'000));
+  const std::uint64_t oneIn = 1U << chance.between(5, 16);
+  world_.journal.add("memory", "refuses one allocation in " + std::to_string(oneIn));
+  ledger_.setMemoryFails(true);
+  ledger_.alerts().mayChange();
+  ledger_.excuse(lasts + kAfterTrouble);
+  mayEnd(lasts + kAfterTrouble);
+  SimulatedMemory::refuseOneIn(oneIn, Chance(chance.next()));
+  memoryHeals_.in(lasts, [this] {
+    world_.journal.add("memory", "is there again");
+    SimulatedMemory::refuseOneIn(0, Chance(0));
+    ledger_.setMemoryFails(false);
+    ledger_.alerts().mayChange();
+  });
 }
 
 // The machine sleeps. On some the clock that timers go by stands still meanwhile, on others all that has fallen due
@@ -239,6 +271,7 @@ void Simulation::breakDisk(Chance chance) {
       "disk", "fails one write in " + std::to_string(oneIn) + " by fault " + std::to_string(static_cast<int>(fault)));
   ledger_.setDiskFails(true);
   ledger_.excuse(lasts + kAfterTrouble);
+  mayEnd(lasts + kAfterTrouble);
   world_.disk.fail(fault, oneIn, Chance(chance.next()));
   world_.agenda.in(lasts, [this] {
     world_.journal.add("disk", "is well again");
@@ -297,6 +330,9 @@ void Simulation::liveOnce() {
     process_->onStarted = [this] { bringInTheModel(); };
   }
   const bool lived = process_->live();
+  if (!lived && !world_.isDead() && world_.agenda.now() > mayEndUntil_) {
+    ledger_.fail("the program has ended by itself: " + process_->why());
+  }
   shadow_.reset();
   process_.reset();
   neighbour_.letGo();

@@ -55,11 +55,14 @@ class Simulation {
   void restart(Chance chance);
   void breakPrograms(Chance chance);
   void sleep(Chance chance);
+  void takeMemory(Chance chance);
   void changeToSummerTime();
   void stepClock(std::chrono::milliseconds by);
   void lookNow();
   void clearCounters();
   void liveOnce();
+  /// For so long the program may fail to start, or end, for a reason that it names.
+  void mayEnd(Time time) { mayEndUntil_ = std::max(mayEndUntil_, world_.agenda.now() + time); }
   void stayOff();
   void bringInTheModel();
   bool isOver() const { return over_ || ledger_.hasFailed(); }
@@ -71,6 +74,8 @@ class Simulation {
   Neighbour neighbour_{world_};
   Appointment mailHeals_{world_.agenda};
   Appointment programsHeal_{world_.agenda};
+  Appointment memoryHeals_{world_.agenda};
+  Time mayEndUntil_{0};
   std::unique_ptr<Process> process_;
   std::unique_ptr<Shadow> shadow_;
   std::vector<std::string> urls_;

@@ -9,6 +9,8 @@
 #include <memory>
 #include <stdexcept>
 
+#include "simulation/simulated_memory.h"
+
 namespace tarnwick::simulation {
 namespace {
 
@@ -90,6 +92,7 @@ void layFolder(World& world, bool original) {
 
 std::vector<std::string> askDatabase(World& world, const std::string& sql) {
   const SimulatedDisk::Well well(world.disk);
+  const SimulatedMemory::OfWorld ours;
   const auto database = openList(world, SQLITE_OPEN_READWRITE);
   sqlite3_stmt* raw = nullptr;
   const int prepared = sqlite3_prepare_v2(database.get(), sql.c_str(), -1, &raw, nullptr);
