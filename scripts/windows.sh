@@ -1,7 +1,7 @@
 #!/bin/bash
-# Builds Tarnwick for 64-bit Windows on this Debian system, and packs its program folder as a zip archive.
+# Builds Tarnwick for 64-bit Windows on this Debian system, and packs it as a zip archive and as an installer.
 #
-#   scripts/windows.sh                     the archive, in build/windows-x86_64
+#   scripts/windows.sh                     both, in build/windows-x86_64
 #   scripts/windows.sh --test              and runs the tests under Wine
 #   scripts/windows.sh --core              builds and tests only what needs neither Qt nor libcurl, in some minutes
 #   scripts/windows.sh --libraries FOLDER  keeps the libraries in FOLDER instead of ~/.cache/tarnwick-windows; so does the
@@ -66,4 +66,7 @@ fi
 
 if [[ -n $test ]]; then
   run_under_wine "$folder"
+  if [[ $part == program ]]; then
+    /usr/bin/python3 tests/package/installer_test.py "$folder"
+  fi
 fi

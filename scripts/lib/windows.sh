@@ -14,7 +14,7 @@ windows_core_packages=(
 windows_packages=(
   "${windows_core_packages[@]}"
   qt6-base-dev qt6-base-dev-tools libz-mingw-w64-dev libcli11-dev nlohmann-json3-dev python3-markdown-it
-  zip openssl python3-aiosmtpd xvfb xdotool imagemagick
+  zip unzip nsis openssl python3-aiosmtpd xvfb openbox xdotool wmctrl imagemagick
 )
 
 # quietly LOG COMMAND...: runs the command with its output in the file LOG, which is shown when it fails.
@@ -75,6 +75,32 @@ fetch_source() {
   )
   mv "$target.part/source" "$target"
   rm -rf "$target.part"
+  keep_notice "$package"
+}
+
+# keep_notice PACKAGE: the licence of the library, beside what is built of it.
+keep_notice() {
+  mkdir -p "$windows_cache/notices"
+  cp "$windows_cache/src/$1/debian/copyright" "$windows_cache/notices/$1"
+}
+
+# need_notices: the licences of everything that ends up in the programs. Where a library was built without keeping its
+# own, its source is fetched once more.
+need_notices() {
+  local package
+  for package in sqlite3 curl qt6-base; do
+    if [[ ! -e $windows_cache/notices/$package ]]; then
+      if [[ -e $windows_cache/src/$package/debian/copyright ]]; then
+        keep_notice "$package"
+      else
+        fetch_source "$package"
+        rm -rf "${windows_cache:?}/src/$package"
+      fi
+    fi
+  done
+  for package in libz-mingw-w64-dev gcc-mingw-w64-base mingw-w64-common; do
+    cp -L "/usr/share/doc/$package/copyright" "$windows_cache/notices/$package"
+  done
 }
 
 # build_version NAME VERSION COMMAND...: runs the command, which installs a library into the cache's root folder, unless
@@ -198,20 +224,50 @@ build_libraries() {
   build_version qt "$(source_version qt6-base)" build_qt
 }
 
-# pack FOLDER: the program folder of the build in FOLDER as a zip archive beside it.
+# pack FOLDER: the program folder of the build in FOLDER as a zip archive beside it, and as an installer. Both are the same
+# to the byte whoever packs them, and when.
 pack() {
-  local stage=$1/stage version archive
+  local stage=$PWD/$1/stage version time name
   version=$(sed -n 's/^project(Tarnwick VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
-  archive=$PWD/$1/tarnwick-$version-windows-x86_64.zip
-  rm -rf "$stage" "$archive"
-  quietly "$1/install.log" cmake --install "$1" --strip --prefix "$stage"
+  time=${SOURCE_DATE_EPOCH:-$(date -u -d "$(sed -n 's/^## \[[0-9.]*\] - //p' CHANGELOG.md | head -1)" +%s)}
+  name=$PWD/$1/tarnwick-$version-windows-x86_64
+  rm -rf "$stage" "$name.zip" "$name-setup.exe"
+  quietly "$1/install.log" cmake --install "$1" --strip --component portable --prefix "$stage"
   if x86_64-w64-mingw32-objdump -p "$stage"/tarnwick/*.exe | grep -iE 'DLL Name: (lib|zlib|qt|sqlite)'; then
     echo "The program needs the libraries named above, which Windows does not have." >&2
     exit 1
   fi
   library_versions >"$stage/tarnwick/libraries.txt"
-  (cd "$stage" && zip -qr -X "$archive" tarnwick)
-  echo "The program folder for Windows is packed as $archive"
+  need_notices
+  sed 's/$/\r/' LICENSE >"$stage/tarnwick/LICENSE.txt"
+  sed 's/$/\r/' packaging/windows/README.txt >"$stage/tarnwick/README.txt"
+  /usr/bin/python3 packaging/made_of.py windows --version "$version" --time "$time" --folder "$stage/tarnwick" \
+    --libraries "$stage/tarnwick/libraries.txt" --notices "$windows_cache/notices"
+  find "$stage" -exec touch --date="@$time" {} +
+  (
+    cd "$stage"
+    find tarnwick -print | LC_ALL=C sort | TZ=UTC zip -q -X -@ "$name.zip"
+  )
+  make_installer "$stage/tarnwick" "$version" "$time" "$name-setup.exe"
+  echo "The program for Windows is packed as $name.zip and $name-setup.exe"
+}
+
+# make_installer PROGRAM_FOLDER VERSION TIME INSTALLER
+make_installer() {
+  local folder=$1 version=$2 time=$3 installer=$4
+  local files=$folder.files.nsh
+  # The mark of an installation that all share: also for one user alone the list lies elsewhere.
+  cp packaging/shared-installation.txt "$folder/"
+  touch --date="@$time" "$folder/shared-installation.txt"
+  (
+    cd "$folder"
+    find . -type f -printf 'Delete "$INSTDIR\\%P"\n' | LC_ALL=C sort
+    find . -mindepth 1 -type d -printf 'RMDir "$INSTDIR\\%P"\n' | LC_ALL=C sort -r
+  ) | tr / '\\' >"$files"
+  quietly "$folder.nsis.log" env SOURCE_DATE_EPOCH="$time" makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" \
+    -DSTAGE="$folder" -DFILES="$files" -DICON="$PWD/assets/windows/tarnwick.ico" -DOUTPUT="$installer" \
+    packaging/windows/installer.nsi
+  rm -f "$folder/shared-installation.txt" "$files"
 }
 
 # skipped_under_wine PROGRAM: the tests of the program that Wine cannot run, as a filter; they are named with the reason.
