@@ -138,7 +138,7 @@ void Simulation::begin(const Happening& happening) {
     case Trouble::programs:
       return breakPrograms(chance);
     case Trouble::sleep:
-      return sleep(chance);
+      return sendToSleep(chance);
     case Trouble::memory:
       return takeMemory(chance);
   }
@@ -252,7 +252,7 @@ void Simulation::takeMemory(Chance chance) {
 
 // The machine sleeps. On some the clock that timers go by stands still meanwhile, on others all that has fallen due
 // happens at once.
-void Simulation::sleep(Chance chance) {
+void Simulation::sendToSleep(Chance chance) {
   const Time lasts(chance.between(10'000, chance.oneIn(2) ? 43'200'000 : 600'000));
   world_.journal.add("clock", "the machine sleeps for " + std::to_string(lasts.count()) + " ms");
   if (chance.oneIn(2)) {

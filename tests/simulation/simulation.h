@@ -54,7 +54,7 @@ class Simulation {
   void kill(Chance chance);
   void restart(Chance chance);
   void breakPrograms(Chance chance);
-  void sleep(Chance chance);
+  void sendToSleep(Chance chance);
   void takeMemory(Chance chance);
   void changeToSummerTime();
   void stepClock(std::chrono::milliseconds by);
