@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <exception>
+#include <fstream>
+#include <iterator>
 #include <utility>
 #include <variant>
 
@@ -27,6 +29,21 @@ std::string programLine(const std::vector<std::string>& arguments) {
     line += "[" + argument + "]";
   }
   return line;
+}
+
+std::vector<std::string> reportCells(const model::ReportFigures& figures) {
+  std::vector<std::string> cells;
+  if (!figures.lines.empty()) {
+    cells = {"url", "total", "status"};
+  }
+  for (const model::ReportLine& line : figures.lines) {
+    cells.insert(cells.end(), {line.url, std::to_string(line.total),
+                               "<img height=12 width=" + std::to_string(line.barWidth.value_or(0)) +
+                                   (line.status ? " src=green.jpg>" : " src=red.jpg>")});
+  }
+  cells.insert(cells.end(), {"Total Log Entries", std::to_string(figures.entries), "Total Errors",
+                             std::to_string(figures.errors), "Total Success", std::to_string(figures.successes)});
+  return cells;
 }
 
 }  // namespace
@@ -78,7 +95,7 @@ void Shadow::watch() {
   process_.view().onStatus = [this](const std::string& text) { see("status " + text); };
   Program& program = process_.program();
   SimulatedTimers::of(program.run().tmrCheckSites()).before = [this] { second(); };
-  SimulatedTimers::of(program.report().tmrReport()).before = [this] { model_->minute(now()); };
+  SimulatedTimers::of(program.report().tmrReport()).before = [this] { minute(); };
   process_.pump().onPumped = [this] { look(); };
   process_.pump().onWait = [this] { compare(); };
 }
@@ -93,6 +110,43 @@ void Shadow::second() {
     }
   }
   model_->second(now());
+}
+
+// What is in the log at this moment counts: it may be of an earlier process.
+void Shadow::minute() {
+  const auto take = [this] {
+    bool reported = false;
+    for (const model::Effect& effect : model_->takeEffects()) {
+      expect(effect);
+      reported = reported || std::holds_alternative<model::ReportWritten>(effect);
+    }
+    return reported;
+  };
+  take();
+  model_->minute(now());
+  if (take()) {
+    constexpr std::uint64_t kMostOfADay = 50'000;
+    const std::uint64_t last = lastLogRow(list());
+    const auto rows = logOf(list(), last - std::min(last, kMostOfADay));
+    report_ = reportCells(model::reportFigures(rows, now()));
+  }
+}
+
+void Shadow::compareReport() {
+  std::ifstream file(world_.disk.folder() + "/reports/report.html", std::ios::binary);
+  const std::string html(std::istreambuf_iterator<char>(file), {});
+  std::vector<std::string> cells;
+  const std::string begin = "<td>";
+  for (std::size_t at = html.find(begin); at != std::string::npos; at = html.find(begin, at)) {
+    at += begin.size();
+    cells.push_back(html.substr(at, html.find("</td>", at) - at));
+  }
+  const auto [written, wanted] = std::ranges::mismatch(cells, report_);
+  if (written != cells.end() || wanted != report_.end()) {
+    fail_("the report says \"" + (written == cells.end() ? "nothing" : *written) + "\" where the model has \"" +
+          (wanted == report_.end() ? "nothing" : *wanted) + "\"");
+  }
+  report_.clear();
 }
 
 void Shadow::answered(const std::string& url, const TransferResult& result) {
@@ -158,6 +212,9 @@ void Shadow::compare() {
   ++comparisons_;
   try {
     compareEffects();
+    if (!report_.empty()) {
+      compareReport();
+    }
     if (list().inTransaction()) {
       fail_("the program waits with a transaction open");
     }

@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "model/model.h"
 #include "simulation/process.h"
@@ -45,7 +46,9 @@ class Shadow {
   void expect(const model::Effect& effect);
   void look();
   void compare();
+  void minute();
   void compareEffects();
+  void compareReport();
   void compareRows();
   void compareLog();
 
@@ -56,6 +59,7 @@ class Shadow {
   std::deque<std::string> expected_;
   std::deque<std::string> seen_;
   std::map<std::string, int> asked_;  ///< whose request goes to that address
+  std::vector<std::string> report_;   ///< the cells of the report that was just made
   std::deque<std::string> mail_;      ///< what is still to be sent of the mail
   std::uint64_t logBefore_ = 0;
   std::uint64_t logSeen_ = 0;

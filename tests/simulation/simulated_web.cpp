@@ -23,6 +23,9 @@ class SimulatedWeb::Control final : public TransferControl {
     url_ = request.url;
     result_ = std::move(answer.result);
     next_.in(answer.after, [this] { end(); });
+    if (web_.onBegin) {
+      web_.onBegin();
+    }
   }
   bool stillExecuting() const override { return executing_; }
   void cancel() override {

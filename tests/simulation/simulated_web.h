@@ -41,6 +41,8 @@ class SimulatedWeb final : public TransferMaker {
   SiteMood moodOf(const std::string& url) { return sites_[url].mood; }
   /// Gives the site another page for good.
   void publish(const std::string& url) { ++sites_[url].edition; }
+  /// A request is on its way.
+  std::function<void()> onBegin;
   /// What is asked for, and what comes back, just before the program hears of it.
   std::function<void(const Request&)> onRequest;
   std::function<void(const std::string& url, const TransferResult&)> onAnswer;

@@ -120,7 +120,7 @@ void Simulation::begin(const Happening& happening) {
     case Trouble::clock:
       return setClock(chance);
     case Trouble::user:
-      return process_ ? user_.act(*process_, chance) : void();
+      return actAsUser(chance);
     case Trouble::verbs:
       return process_ ? user_.runSomeVerb(chance) : void();
     case Trouble::locks:
@@ -141,6 +141,15 @@ void Simulation::begin(const Happening& happening) {
       return sendToSleep(chance);
     case Trouble::memory:
       return takeMemory(chance);
+  }
+}
+
+// One time in two while something is being fetched, which is a matter of moments.
+void Simulation::actAsUser(Chance chance) {
+  if (chance.oneIn(2)) {
+    actsAtRequest_ = chance;
+  } else if (process_) {
+    user_.act(*process_, chance);
   }
 }
 
@@ -374,6 +383,15 @@ void Simulation::stayOff() {
 }
 
 Outcome Simulation::run() {
+  world_.web.onBegin = [this] {
+    if (actsAtRequest_) {
+      world_.agenda.in(Time(5), [this, chance = *std::exchange(actsAtRequest_, std::nullopt)] {
+        if (process_ && !world_.isDead() && !isOver()) {
+          user_.act(*process_, chance);
+        }
+      });
+    }
+  };
   AlertWatch& alerts = ledger_.alerts();
   world_.desktop.onProgram = [&](const std::vector<std::string>& program) {
     ledger_.started(program);

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -46,6 +47,7 @@ class Simulation {
   void mustRun(const std::vector<std::string>& arguments);
   void schedule();
   void begin(const Happening& happening);
+  void actAsUser(Chance chance);
   void changeSites(Chance chance);
   void changeMail(Chance chance);
   void setClock(Chance chance);
@@ -76,6 +78,7 @@ class Simulation {
   Appointment programsHeal_{world_.agenda};
   Appointment memoryHeals_{world_.agenda};
   Time mayEndUntil_{0};
+  std::optional<Chance> actsAtRequest_;  ///< what the user does then
   std::unique_ptr<Process> process_;
   std::unique_ptr<Shadow> shadow_;
   std::vector<std::string> urls_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "simulation/user.h"
 
+#include <algorithm>
 #include <exception>
 
 namespace tarnwick::simulation {
@@ -92,9 +93,12 @@ void User::actAs(Process& process, Chance chance) {
       perform("changes site " + std::to_string(id), [&] {
         const TextTable row = data.getArraySites(id);
         if (row.lastRow() == 1) {
-          data.updateSites(id, row.at(2, 1), "get", !chance.oneIn(4),
-                           static_cast<std::int16_t>(std::stoi(minutes(chance))), chance.oneIn(2), "ann@example.org",
-                           "", "");
+          const auto every = static_cast<std::int16_t>(std::stoi(minutes(chance)));
+          const bool active = !chance.oneIn(4);
+          const bool mails = chance.oneIn(2);
+          // Asked under another name, a page that is under way answers a question that nobody asks any more.
+          data.updateSites(id, row.at(2, 1), "get", active, every, mails, "ann@example.org",
+                           chance.oneIn(2) ? "bob" : "", "");
         }
         showAfresh(program);
         ledger_.excuse(std::chrono::hours(3));
@@ -204,8 +208,34 @@ void User::runSomeVerb(Chance chance) {
   }
 }
 
+// None of them changes what the list says.
 void User::runVerbOffline(Chance chance) {
   ledger_.disturb();
+  const std::vector<std::string> before = wholeList();
+  runUpkeep(chance);
+  if (world_.isDead()) {
+    return;
+  }
+  if (const std::vector<std::string> after = wholeList(); after != before) {
+    const auto [was, is] = std::ranges::mismatch(before, after);
+    ledger_.fail("upkeep has made of\n  " + (was == before.end() ? "nothing" : *was) + "\nthis\n  " +
+                 (is == after.end() ? "nothing" : *is));
+  }
+}
+
+std::vector<std::string> User::wholeList() const {
+  std::vector<std::string> rows;
+  for (const char* what :
+       {"* from sites order by idSite", "* from control", "idSite, pname, pvalue from postVars",
+        "idSite, name, value from siteOptions order by idSite, name",
+        "idSite, url, status, errCode, errDescription, content, dateStamp from log order by rowid"}) {
+    const std::vector<std::string> table = askDatabase(world_, std::string("select ") + what);
+    rows.insert(rows.end(), table.begin(), table.end());
+  }
+  return rows;
+}
+
+void User::runUpkeep(Chance chance) {
   enum What { compact, exportAndImport, restore, whats };
   switch (static_cast<What>(chance.below(whats))) {
     case compact:

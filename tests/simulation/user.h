@@ -41,6 +41,8 @@ class User {
 
  private:
   void actAs(Process& process, Chance chance);
+  void runUpkeep(Chance chance);
+  std::vector<std::string> wholeList() const;
   /// As the window does when an editor was closed.
   void showAfresh(Program& program);
   void perform(const std::string& what, const std::function<void()>& action);
