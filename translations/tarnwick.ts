@@ -851,6 +851,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Jet database of these tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Reading the file</source>
         <translation type="unfinished"></translation>
     </message>

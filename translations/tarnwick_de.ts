@@ -851,6 +851,10 @@
         <translation>Liste oder Sicherung von changedetection.io</translation>
     </message>
     <message>
+        <source>Jet database of these tables</source>
+        <translation>Jet-Datenbank mit diesen Tabellen</translation>
+    </message>
+    <message>
         <source>Reading the file</source>
         <translation>Lesen der Datei</translation>
     </message>

@@ -23,6 +23,7 @@ LIBRARY_TARGETS = (
     ("LibXml2::LibXml2", r"libxml/.*", ()),
     ("Yaml::Yaml", r"yaml-cpp/.*", ()),
     ("Zip::Zip", r"zip\.h", ()),
+    ("PkgConfig::MDB", r"mdbtools\.h", ()),
     ("Qt6::Network", r"Q(Tcp|Host|Network|Ssl|LocalS|AbstractSocket)\w*", ("Qt6::Core",)),
     ("Qt6::Widgets", r"Q(Application|StylePainter|\w*(Widget|Dialog|Layout|Button|Edit|Box|TableView|HeaderView|Bar|Label"
                      r"|Menu|Style|StyleOption\w*|Delegate|MainWindow|ToolTip))", ("Qt6::Core", "Qt6::Gui")),

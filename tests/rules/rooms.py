@@ -46,7 +46,7 @@ ROOMS = {
     "app": None,  # puts together whatever there is
 }
 # What reads the files of other programs.
-FOREIGN = r"libxml/.*|yaml-cpp/.*|zip\.h"
+FOREIGN = r"libxml/.*|yaml-cpp/.*|zip\.h|mdbtools\.h"
 # The libraries of others that a room may include, by the headers' names; all others include standard C++ and the system
 # alone.
 CODINGS = r"zlib\.h|brotli/.*|zstd\w*\.h"

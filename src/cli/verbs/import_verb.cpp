@@ -120,6 +120,8 @@ void tellJson(Tool& tool, const ImportPlan& plan, const ReadList& file, const Im
   }
   if (file.list.foreign) {
     json["format"] = file.word;
+    json["settings"] = file.list.content.settings.size();
+    json["log"] = file.list.content.log.size();
     addNotes(json, file.list.content.notes);
   }
   sayJson(tool.console(), std::move(json));
@@ -158,6 +160,10 @@ void tell(Tool& tool, const ImportPlan& plan, const ReadList& file, const Import
   };
   console.say(part(add, "add", "added") + part(change, "change", "changed") + part(remove, "delete", "deleted") +
               std::to_string(plan.unchanged) + " unchanged.");
+  if (const ForeignList& list = file.list.content; !list.settings.empty() || !list.log.empty()) {
+    console.say(std::string("The settings and ") + counted(list.log.size(), " result", " results") + " of the log " +
+                (options.dryRun ? "would be taken, too." : "are taken, too."));
+  }
   if (leftOut + inPart > 0) {
     console.say(counted(inPart, " note tells", " notes tell") + " what was not taken over, " +
                 counted(leftOut, " entry was left out.", " entries were left out."));
@@ -186,13 +192,11 @@ void complainOf(Console& console, const std::string& file, const ListFaults& fau
                                           : std::string(".")));
 }
 
-/// The plan, whose repeated addresses become notes of the file.
-ImportPlan planOrRaise(m& data, ForeignList& content, const ImportOptions& how, ListFaults& faults) {
-  ImportPlan plan = planImport(data, std::move(content.sites), how, faults);
+ImportPlan planOrRaise(m& data, AnyList& list, const ImportOptions& how, ListFaults& faults) {
+  ImportPlan plan = planAnyList(data, list, how, faults);
   if (!faults.none()) {
     throw SiteListError(faults);
   }
-  noteRepeated(plan, content);
   return plan;
 }
 
@@ -220,24 +224,21 @@ std::vector<std::int16_t> takenIn(const ImportPlan& plan) {
 int importList(Tool& tool, const ImportVerbOptions& options) {
   ReadList file = readFile(tool.services().files, options, tool.fields());
   ListFaults& faults = file.faults;
-  ForeignList& content = file.list.content;
-  ImportOptions how = options.how;
-  how.byAddress = file.list.foreign;
   m& data = tool.data();
-  if (!options.dryRun && faults.none() && !mayReplace(tool, options, content.sites)) {
+  if (!options.dryRun && faults.none() && !mayReplace(tool, options, file.list.content.sites)) {
     return exit_status::failed;
   }
   try {
     if (options.dryRun) {
       const Snapshot oneState(data.database());
-      const ImportPlan plan = planOrRaise(data, content, how, faults);
+      const ImportPlan plan = planOrRaise(data, file.list, options.how, faults);
       tell(tool, plan, file, options);
       complainOfDoubts(tool.console(), options.file, plan.doubts);
       return exit_status::ok;
     }
     Transaction whole(data.database());
-    const ImportPlan plan = planOrRaise(data, content, how, faults);
-    carryOut(data, plan);
+    const ImportPlan plan = planOrRaise(data, file.list, options.how, faults);
+    carryOut(data, plan, file.list);
     whole.commit();
     tell(tool, plan, file, options);
     complainOfDoubts(tool.console(), options.file, plan.doubts);
@@ -279,7 +280,8 @@ Verb importVerb() {
       "method, tInterval or yes/no is as one left out. A JSON file has the form {\"tarnwick\": 1, \"sites\": "
       "[{\"url\": ...}, ...]}.\n"
       "Also taken are a list of addresses, one a line, the bookmarks of a browser (HTML), OPML, the lists of urlwatch, "
-      "and the list or the backup of changedetection.io. A site of theirs whose address is in the list is that site. "
+      "the list or the backup of changedetection.io, and a Jet database of the same tables. A site of theirs whose "
+      "address is in the list is that site. "
       "What has no place in the list is named, site by site.\n" +
           examples({{"import sites.csv --dry-run", "what would be added and changed"},
                     {"import sites.csv", "do it"},

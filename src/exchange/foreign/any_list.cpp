@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "base/text.h"
 #include "base/visible_text.h"
@@ -61,6 +62,9 @@ AnyList readAnyList(const std::string& word, std::string_view bytes, const Field
   return list;
 }
 
+namespace {
+
+/// Notes the addresses that the plan has left out since the file has them twice.
 void noteRepeated(const ImportPlan& plan, ForeignList& list) {
   for (const RepeatedAddress& repeated : plan.repeated) {
     list.notes.push_back(
@@ -69,6 +73,39 @@ void noteRepeated(const ImportPlan& plan, ForeignList& list) {
          {"the address stands in the file before" +
           (repeated.firstLine == 0 ? std::string() : ", on line " + std::to_string(repeated.firstLine))},
          true});
+  }
+}
+
+/// Those of a list that is in use are its own.
+void keepOwnRecords(m& data, ForeignList& list) {
+  if ((!list.settings.empty() || !list.log.empty()) && !isFresh(data.database())) {
+    list.notes.push_back({0,
+                          "",
+                          {"the settings and the " + std::to_string(list.log.size()) +
+                           " results of the log, which only an empty list takes"},
+                          false});
+    list.settings.clear();
+    list.log.clear();
+  }
+}
+
+}  // namespace
+
+ImportPlan planAnyList(m& data, AnyList& list, ImportOptions how, ListFaults& faults) {
+  how.byAddress = list.foreign;
+  keepOwnRecords(data, list.content);
+  ImportPlan plan = planImport(data, std::exchange(list.content.sites, {}), how, faults);
+  noteRepeated(plan, list.content);
+  return plan;
+}
+
+void carryOut(m& data, const ImportPlan& plan, const AnyList& list) {
+  carryOut(data, plan);
+  if (!list.content.settings.empty()) {
+    data.storeSettings(list.content.settings);
+  }
+  for (const LogRow& row : list.content.log) {
+    adoptLogRow(data.database(), row);
   }
 }
 

@@ -29,8 +29,12 @@ struct AnyList {
 /// Reads a file of the kind of that word. What is wrong with it is added to `faults`; then nothing of it is to be used.
 AnyList readAnyList(const std::string& word, std::string_view bytes, const Fields& fields, ListFaults& faults);
 
-/// Notes the addresses that the plan has left out since the file has them twice.
-void noteRepeated(const ImportPlan& plan, ForeignList& list);
+/// What an import of the list would do, as `planImport` tells it; `list` has its notes completed then, and keeps the
+/// settings and the log that would be taken: those of a database come into an empty list alone. Raises DataAccessError.
+ImportPlan planAnyList(m& data, AnyList& list, ImportOptions how, ListFaults& faults);
+
+/// Does it. REQUIRES: one transaction around the planning and this, which is committed when this returns.
+void carryOut(m& data, const ImportPlan& plan, const AnyList& list);
 
 /// What is told of a note, for a terminal: `line 12, https://example.org/: not taken over: title "News"`.
 std::string lineOf(const ForeignNote& note);

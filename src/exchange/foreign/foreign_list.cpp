@@ -17,6 +17,7 @@ namespace {
 
 constexpr std::string_view kUtf8Mark = "\xef\xbb\xbf";
 constexpr std::string_view kUtf16Marks[] = {"\xff\xfe", "\xfe\xff"};
+constexpr std::string_view kJetMark("\0\1\0\0Standard ", 13);
 constexpr std::string_view kZipMark = "PK\x03\x04";
 /// What a file is shows within so many bytes.
 constexpr std::size_t kLookedAt = std::size_t{64} * 1024;
@@ -35,6 +36,7 @@ constexpr std::array kKinds{
     Kind{ForeignKind::urlwatch, "urlwatch", "a list of urlwatch", readUrlwatch},
     Kind{ForeignKind::changedetection, "changedetection", "the list or backup of changedetection.io",
          readChangedetection},
+    Kind{ForeignKind::jet, "jet", "a Jet database of the same tables", readJet},
 };
 
 const Kind& kindOf(ForeignKind kind) { return *std::ranges::find(kKinds, kind, &Kind::kind); }
@@ -100,6 +102,9 @@ std::string_view wordOf(ForeignKind kind) { return kindOf(kind).word; }
 const char* nameOf(ForeignKind kind) { return kindOf(kind).name; }
 
 std::optional<ForeignKind> recognisedKind(std::string_view bytes) {
+  if (bytes.starts_with(kJetMark)) {
+    return ForeignKind::jet;
+  }
   if (bytes.starts_with(kZipMark)) {
     return ForeignKind::changedetection;
   }
@@ -123,13 +128,16 @@ std::optional<ForeignKind> recognisedKind(std::string_view bytes) {
 ForeignList readForeign(ForeignKind kind, std::string_view bytes, ListFaults& faults) {
   ForeignList list;
   try {
-    if (bytes.size() > kLargestForeign) {
+    if (bytes.size() > kLargestForeign && kind != ForeignKind::jet) {
       throw ForeignError(0, "the file is larger than 64 MiB, and no list of sites is: see whether it is the right one");
     }
     if (std::ranges::any_of(kUtf16Marks, [&](std::string_view mark) { return bytes.starts_with(mark); })) {
       throw ForeignError(1, "the file is UTF-16: save it as UTF-8");
     }
     ForeignSites sites(list);
+    if (kind == ForeignKind::jet && !bytes.starts_with(kJetMark)) {
+      throw ForeignError(0, "this is no Jet database: see whether it is the right file");
+    }
     kindOf(kind).read(withoutMark(bytes), sites);
     if (list.sites.empty() && list.notes.empty()) {
       throw ForeignError(1, std::string("the file holds no address: see whether it is ") + nameOf(kind));

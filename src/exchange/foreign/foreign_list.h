@@ -9,11 +9,13 @@
 #include <vector>
 
 #include "exchange/list/site_list.h"
+#include "store/result_log.h"
+#include "store/settings_and_log.h"
 
 namespace tarnwick {
 
 /// The kinds of files in which other programs keep what they watch or know.
-enum class ForeignKind { addresses, bookmarks, opml, urlwatch, changedetection };
+enum class ForeignKind { addresses, bookmarks, opml, urlwatch, changedetection, jet };
 
 /// The kinds by the words of the command line: "addresses", "bookmarks", ...
 std::vector<std::string> foreignWords();
@@ -37,13 +39,16 @@ struct ForeignNote {
   bool leftOut = false;
 };
 
-/// What a file holds, as sites without ids.
+/// What a file holds: sites, which have ids in a database of the same tables alone.
 struct ForeignList {
   std::vector<ListedSite> sites;
   std::vector<ForeignNote> notes;
+  /// Of a database: its settings and the results of its checks.
+  std::vector<Setting> settings{};
+  std::vector<LogRow> log{};
 };
 
-/// The largest file of these kinds: a list of 32767 sites takes a tenth of it.
+/// The largest file of these kinds, but of a database: a list of 32767 sites takes a tenth of it.
 inline constexpr std::size_t kLargestForeign = std::size_t{64} * 1024 * 1024;
 
 /// Reads the file. What is wrong with it is added to `faults`; then nothing of it is to be used. Raises nothing.

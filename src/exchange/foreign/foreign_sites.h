@@ -63,6 +63,7 @@ class ForeignSites {
   void leaveOut(std::size_t line, std::string_view subject, std::string why);
   /// Notes what is not taken over of the whole file.
   void lacks(std::string thing);
+  ForeignList& list() { return list_; }
 
  private:
   ForeignList& list_;
@@ -83,5 +84,6 @@ void readBookmarks(std::string_view text, ForeignSites& sites);
 void readOpml(std::string_view text, ForeignSites& sites);
 void readUrlwatch(std::string_view text, ForeignSites& sites);
 void readChangedetection(std::string_view bytes, ForeignSites& sites);
+void readJet(std::string_view bytes, ForeignSites& sites);
 
 }  // namespace tarnwick

@@ -128,6 +128,38 @@ void pack(Way& way, SiteDraft& site) {
 }
 
 template <typename Way>
+void pack(Way& way, CheckedState& state) {
+  pack(way, state.lastChecked);
+  pack(way, state.status);
+  pack(way, state.success);
+  pack(way, state.failure);
+  pack(way, state.contentRuntime);
+}
+
+template <typename Way>
+void pack(Way& way, Setting& setting) {
+  bool isFlag = std::holds_alternative<bool>(setting.value);
+  pack(way, setting.key);
+  pack(way, isFlag);
+  if (isFlag) {
+    pack(way, Way::reading ? setting.value.emplace<bool>() : std::get<bool>(setting.value));
+  } else {
+    pack(way, Way::reading ? setting.value.emplace<std::string>() : std::get<std::string>(setting.value));
+  }
+}
+
+template <typename Way>
+void pack(Way& way, LogRow& row) {
+  pack(way, row.idSite);
+  pack(way, row.url);
+  pack(way, row.status);
+  pack(way, row.errCode);
+  pack(way, row.errDescription);
+  pack(way, row.dateStamp);
+  pack(way, row.content);
+}
+
+template <typename Way>
 void pack(Way& way, ListedSite& site) {
   pack(way, site.line);
   pack(way, site.idSite);
@@ -135,6 +167,7 @@ void pack(Way& way, ListedSite& site) {
   pack(way, site.postVars);
   pack(way, site.baseline);
   pack(way, site.options);
+  pack(way, site.state);
   pack(way, site.given);
 }
 
@@ -172,6 +205,8 @@ void pack(Way& way, ReadList& read) {
   pack(way, read.list.foreign);
   pack(way, read.list.content.sites);
   pack(way, read.list.content.notes);
+  pack(way, read.list.content.settings);
+  pack(way, read.list.content.log);
   pack(way, read.faults);
 }
 

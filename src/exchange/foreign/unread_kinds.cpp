@@ -28,6 +28,12 @@ void readUrlwatch(std::string_view /*text*/, ForeignSites& /*sites*/) {
 }
 #endif
 
+#ifndef TARNWICK_JET
+void readJet(std::string_view /*bytes*/, ForeignSites& /*sites*/) {
+  refuse("Jet databases", "mdbtools", "mdbtools-dev");
+}
+#endif
+
 #ifndef TARNWICK_ZIP
 std::vector<ZipMember> zipMembers(std::string_view /*bytes*/, const ZipFilter& /*isWanted*/) {
   refuse("zip archives", "libzip", "libzip-dev");

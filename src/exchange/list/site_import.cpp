@@ -281,6 +281,9 @@ void carryOut(m& data, const ImportPlan& plan) {
     if (step.action != Action::remove) {
       storeListed(data, step);
     }
+    if (step.action == Action::add && step.listed.state) {
+      adoptState(data.database(), step.idSite, *step.listed.state);
+    }
   }
 }
 

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "platform/file_system.h"
+#include "store/adoption.h"
 #include "store/fields.h"
 #include "store/site_options.h"
 
@@ -81,6 +82,8 @@ struct ListedSite {
   std::vector<PostVar> postVars;
   std::string baseline;
   OptionValues options;
+  /// What checks have found, of a site that comes from another database; it counts for a site that is added.
+  std::optional<CheckedState> state{};
   /// What the file tells of the site.
   ListFields given;
 };

@@ -41,6 +41,11 @@ bool writeAll(int pipe, std::string_view bytes) {
   for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) {
     std::signal(signal, SIG_DFL);
   }
+  // What a library says of a damaged file is not for people.
+  if (const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC); nowhere >= 0) {
+    ::dup2(nowhere, STDOUT_FILENO);
+    ::dup2(nowhere, STDERR_FILENO);
+  }
   const rlimit seconds{kMostProcessorSeconds, kMostProcessorSeconds};
   ::setrlimit(RLIMIT_CPU, &seconds);
   const rlimit noCore{0, 0};

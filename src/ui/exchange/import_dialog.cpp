@@ -63,7 +63,8 @@ void ImportDialog::makeKinds() {
       {tr("Bookmarks of a browser"), "bookmarks"},
       {tr("OPML"), "opml"},
       {tr("List of urlwatch"), "urlwatch"},
-      {tr("List or backup of changedetection.io"), "changedetection"}};
+      {tr("List or backup of changedetection.io"), "changedetection"},
+      {tr("Jet database of these tables"), "jet"}};
   for (const auto& [name, word] : kinds) {
     importKind_->addItem(name, QString::fromLatin1(word));
   }
@@ -162,20 +163,18 @@ void ImportDialog::tellPlan() {
   using enum ImportStep::Action;
   const Snapshot oneState(program_.data().database());
   ListFaults faults;
-  const ImportPlan plan =
-      planImport(program_.data(), list_.list.content.sites, {.byAddress = list_.list.foreign}, faults);
+  AnyList told = list_.list;
+  const ImportPlan plan = planAnyList(program_.data(), told, {}, faults);
   if (!faults.none()) {
     tellFaults(faults);
     return;
   }
-  ForeignList told{{}, list_.list.content.notes};
-  noteRepeated(plan, told);
-  notes_->setLines(linesOf(told));
+  notes_->setLines(linesOf(told.content));
   importState_->setText(tr("%1 new sites, %2 to change, %3 there already. What is not taken over is named below: %4.")
                             .arg(plan.count(add))
                             .arg(plan.count(change))
                             .arg(plan.unchanged)
-                            .arg(told.notes.size()));
+                            .arg(told.content.notes.size()));
   btnImport_->setEnabled(!plan.steps.empty() || plan.optionsOfAll);
   btnImport_->setDefault(true);
   if (!btnImport_->isEnabled()) {
@@ -188,12 +187,13 @@ void ImportDialog::btnImport_Click() {
   m& list = program_.data();
   ListFaults faults;
   Transaction whole(list.database());
-  const ImportPlan plan = planImport(list, list_.list.content.sites, {.byAddress = list_.list.foreign}, faults);
+  AnyList taken = list_.list;
+  const ImportPlan plan = planAnyList(list, taken, {}, faults);
   if (!faults.none()) {
     tellFaults(faults);
     return;
   }
-  carryOut(list, plan);
+  carryOut(list, plan, taken);
   whole.commit();
   importState_->setText(tr("%1 sites were added, %2 were changed. What was not taken over is named below.")
                             .arg(plan.count(add))
@@ -214,8 +214,8 @@ std::function<void()> importOf(Program& program, QWidget& parent) {
   return [&program, &parent] {
     const QString filter = QObject::tr("Lists and bookmarks") +
                            QStringLiteral(
-                               " (*.txt;*.html;*.htm;*.opml;*.xml;*.yaml;*.yml;*.json;*.zip;*.csv)"
-                               "|*.txt;*.html;*.htm;*.opml;*.xml;*.yaml;*.yml;*.json;*.zip;*.csv|") +
+                               " (*.txt;*.html;*.htm;*.opml;*.xml;*.yaml;*.yml;*.json;*.zip;*.csv;*.mdb)"
+                               "|*.txt;*.html;*.htm;*.opml;*.xml;*.yaml;*.yml;*.json;*.zip;*.csv;*.mdb|") +
                            QObject::tr("All files") + QStringLiteral(" (*.*)|*.*");
     program.services().prompts.chooseFile(
         {.folder = QDir::homePath().toStdString(), .filter = filter.toStdString(), .owner = &parent},
