@@ -30,7 +30,7 @@ if [[ $tests == ON ]]; then
   need_packages "${test_packages[@]}" "${package_test_packages[@]}"
 fi
 configure package -DBUILD_TESTING=$tests
-build package
+build package tarnwick tarnwickctl completions program_folder
 (
   cd build/package
   rm -f tarnwick-*.tar.gz tarnwick*_*.deb

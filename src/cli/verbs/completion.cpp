@@ -193,7 +193,8 @@ std::string fishCompletion(const std::vector<Verb>& verbs) {
                                 : !option.oneOf.empty() ? " -x -a '" + joined(option.oneOf) + "'"
                                 : takesFile(option)     ? " -r -F"
                                                         : " -x";
-      script += behind + "-l " + option.name.substr(2) + value + " -d " + fishText(option.meaning) + "\n";
+      script += behind;
+      script.append("-l ").append(option.name, 2).append(value).append(" -d ").append(fishText(option.meaning)) += '\n';
     }
     script += takesFileByPlace(verb) ? behind + "-F\n" : "";
   }

@@ -222,7 +222,7 @@ Laid layOnce(const std::string& installation, const std::string& folder) {
 
 std::string programFolderFor(const std::string& executableFolder) {
   const ExecutableFolder executable = lookAt(executableFolder);
-  const std::string folder = chooseFolder(executable, userEnvironment());
+  std::string folder = chooseFolder(executable, userEnvironment());
   if (folder != executableFolder) {
     layUserFolder(executableFolder, folder);
   } else if (executable.isWritable && !executable.isShared) {
