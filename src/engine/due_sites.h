@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <unordered_set>
 #include <vector>
@@ -42,10 +43,12 @@ class DueSites {
 
   /// The sites of one pass, columns as in `site_column`, by rising id. `mode` is one of `site_choice`; any other raises
   /// std::invalid_argument. An active site that was never checked is not due, but is among the active ones.
-  TextTable getArraySitesActiveTrue(std::int16_t mode);
+  ///
+  /// A long list is read in slices, and `between` is called after each but the last: no statement is open then.
+  TextTable getArraySitesActiveTrue(std::int16_t mode, const std::function<void()>& between = [] {});
 
-  /// The active sites that are due, and those that were never checked; columns and order as above.
-  TextTable getSitesDueOrNeverChecked();
+  /// The active sites that are due, and those that were never checked; columns, order and `between` as above.
+  TextTable getSitesDueOrNeverChecked(const std::function<void()>& between = [] {});
 
   /// The soonest-due active site. Raises OverflowError when its id does not fit 16 bits, or its check interval 32.
   MinWaitTime getMinWaitTime();
@@ -59,9 +62,9 @@ class DueSites {
   SomeSites neverChecked();
   /// Their ids, rising.
   std::vector<std::int64_t> idsNeverChecked();
-  /// Whether there is such a site and it has ever been checked.
-  /// The sites whose last request took longer than its time-out. Raises DataAccessError.
+  /// The sites whose last request took longer than its time-out.
   std::unordered_set<std::int64_t> idsThatTookTooLong();
+  /// Whether there is such a site and it has ever been checked.
   bool wasChecked(std::int16_t idSite);
 
   /// Whether another program has changed the database since this was asked last.
@@ -75,6 +78,7 @@ class DueSites {
   std::vector<std::int16_t> xgetSitesToTest();
 
  private:
+  TextTable readSites(std::string sql, const std::string& condition, const std::function<void()>& between);
   std::vector<std::int16_t> readIds(std::string sql);
   SomeSites countOf(const char* condition);
 

@@ -97,7 +97,8 @@ void RunController::runTestPass(std::int16_t mode) {
     TestPass pass(*this, needs_, busy_, {sites_, uncounted_});
     readOptions();
     needs_.reserve.keepReserve();
-    TextTable sites = sites_.choose(mode, mode == kDueSites && (takesWhatWasLeft || newSitesAtOnce_));
+    TextTable sites = sites_.choose(mode, mode == kDueSites && (takesWhatWasLeft || newSitesAtOnce_),
+                                    [this] { needs_.pump.pump(); });
     if (mode == kDueSites) {
       sites = sites_.withoutUnrecorded(sites, needs_.clock.steadyNow());
     }
@@ -243,7 +244,7 @@ void RunController::proveThatAPassIsOfUse() {
     if (!error.forWantOfRoom()) {
       throw;
     }
-    const TextTable due = sites_.choose(kDueSites, somethingWasLeft_ || newSitesAtOnce_);
+    const TextTable due = sites_.choose(kDueSites, somethingWasLeft_ || newSitesAtOnce_, [] {});
     if (sites_.withoutUnrecorded(due, needs_.clock.steadyNow()).lastRow() == 0) {
       throw;
     }

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -21,8 +22,8 @@ class SitesToTest {
   explicit SitesToTest(DueSites& dueSites) : dueSites_(dueSites) {}
 
   /// The sites of a pass of `mode` (see `DueSites::getArraySitesActiveTrue`); `neverCheckedToo` adds to the due ones
-  /// those that were never checked. Raises DataAccessError.
-  TextTable choose(std::int16_t mode, bool neverCheckedToo);
+  /// those that were never checked. Calls `between` now and then while a long list is read. Raises DataAccessError.
+  TextTable choose(std::int16_t mode, bool neverCheckedToo, const std::function<void()>& between);
 
   /// The page of a site was dropped, or a pass left it out: it is due at once, whatever the time of its last check.
   void owe(std::int16_t idSite) { owed_.insert(idSite); }

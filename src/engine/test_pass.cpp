@@ -27,6 +27,9 @@ constexpr int kTestingBrightness = 36;
 /// How often waiting hosts are looked after where they are to be spared.
 constexpr std::chrono::milliseconds kSpacedSweep{50};
 
+/// How many addresses are looked into between two looks at the events: some milliseconds' worth.
+constexpr std::size_t kPlannedAtOnce = 4096;
+
 constexpr const char* kNoAddress = "The address of the site is empty.";
 
 InFlight::End endOf(std::int32_t errCode) {
@@ -118,6 +121,9 @@ InFlight TestPass::planned(const InFlightPolicy& policy) const {
   for (std::size_t row = 1; row <= sites_.count(); ++row) {
     if (!sites_.url(row).empty() && !sites_.unusableId(row)) {
       rows[row - 1] = {hostOfAddress(sites_.url(row)), slow.contains(sites_.idSite(row))};
+    }
+    if (row % kPlannedAtOnce == 0) {
+      needs_.pump.pump();
     }
   }
   return {policy, rows};

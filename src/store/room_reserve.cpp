@@ -77,10 +77,6 @@ void RoomReserve::runFreeing(const std::function<void()>& action) {
     action();
     return;
   }
-  if (hasRoomFor(action)) {
-    return;
-  }
-  const LittleWritten written(db_);
   if (!hasRoomFor(action)) {
     runWithoutReserve(action);
   }
@@ -105,21 +101,6 @@ void RoomReserve::giveUp() noexcept {
     }
   } catch (const std::exception&) {
     // What needs the room tells that there is none.
-  }
-}
-
-RoomReserve::LittleWritten::LittleWritten(Database& database) : db_(database) {
-  const auto before = db_.conn().execute("pragma secure_delete", {});
-  before_ = before->field(std::size_t{0}).toText();
-  before->close();
-  db_.conn().execute("pragma secure_delete = fast", {})->close();
-}
-
-RoomReserve::LittleWritten::~LittleWritten() {
-  try {
-    db_.conn().execute("pragma secure_delete = " + before_, {})->close();
-  } catch (const std::exception&) {
-    // The next opening has it as before.
   }
 }
 

@@ -21,26 +21,13 @@ class RoomReserve {
   /// as that. Where neither can be done there is none.
   void keepReserve() noexcept;
 
-  /// Runs `action`, which frees room in the list. Where the disk has no room for that, it is run again so that it takes
-  /// less, and then with the reserve given up; inside a transaction that is left to its owner.
+  /// Runs `action`, which frees room in the list. Where the disk has no room for that, it is run again with the
+  /// reserve given up; inside a transaction that is left to its owner.
   void runFreeing(const std::function<void()>& action);
   /// Gives the reserve up for `action`.
   void runWithoutReserve(const std::function<void()>& action);
 
  private:
-  /// Leaves what is deleted where it is until its place is used again: to blank it takes as much room as it has.
-  class LittleWritten {
-   public:
-    explicit LittleWritten(Database& database);
-    ~LittleWritten();
-    LittleWritten(const LittleWritten&) = delete;
-    LittleWritten& operator=(const LittleWritten&) = delete;
-
-   private:
-    Database& db_;
-    std::string before_;
-  };
-
   std::string path() const;
   void giveUp() noexcept;
 

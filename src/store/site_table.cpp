@@ -5,15 +5,21 @@
 
 namespace tarnwick {
 
-TextTable siteTableOf(Recordset& rows) {
-  TextTable table(site_column::last);
-  for (; !rows.eof(); rows.moveNext()) {
+std::size_t addSites(TextTable& table, Recordset& rows, std::size_t most) {
+  std::size_t added = 0;
+  for (; added < most && !rows.eof(); rows.moveNext(), ++added) {
     const std::size_t row = table.addRow();
     for (std::size_t column = site_column::idSite; column <= site_column::last; ++column) {
       table.at(column, row) = rows.field(column - 1).toTableText();
     }
   }
   rows.close();
+  return added;
+}
+
+TextTable siteTableOf(Recordset& rows) {
+  TextTable table(site_column::last);
+  addSites(table, rows);
   return table;
 }
 

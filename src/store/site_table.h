@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <limits>
 #include <string>
 
 #include "store/database.h"
@@ -31,7 +32,11 @@ inline constexpr std::size_t failure = 13;
 inline constexpr std::size_t last = failure;
 }  // namespace site_column
 
-/// The rows left of `rows`, whose fields are `kSiteFields`, in the order they come. Raises DataAccessError.
+/// Adds up to `most` of the rows left of `rows`, whose fields are `kSiteFields`, in the order they come; returns how
+/// many. Raises DataAccessError.
+std::size_t addSites(TextTable& table, Recordset& rows, std::size_t most = std::numeric_limits<std::size_t>::max());
+
+/// All rows left of `rows`; else as above.
 TextTable siteTableOf(Recordset& rows);
 
 /// Runs `sql`, whose select list is `kSiteFields`, and returns its rows in the order they come. Raises DataAccessError.

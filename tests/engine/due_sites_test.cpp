@@ -78,6 +78,34 @@ TEST_F(DueSitesTest, DueSitesAreActiveOnesInTheOrderOfTheirIds) {
   EXPECT_THAT(due.xgetSitesToTest(), ElementsAre(2, 9));
 }
 
+// Nothing may be open between two slices: a click that is served there may close the file, compact it or change it.
+TEST_F(DueSitesTest, ALongListIsReadInSlices) {
+  setTime("2024-05-17 12:00:00");
+  folder.execute(
+      "insert into sites (idSite,url,active,tInterval,lastChecked) with recursive n (i) as (select 1 union all select "
+      "i + 1 from n where i < 9000) select i, 'http://' || i, i % 3 <> 0, 10, case i % 2 when 0 then '2024-05-17 "
+      "11:00:00' end from n");
+  const auto expectInSlices = [&](std::size_t count, int slices, const auto& read) {
+    int between = 0;
+    const TextTable sites = read([&] {
+      ++between;
+      folder.execute("vacuum");
+    });
+    EXPECT_EQ(sites.lastRow(), count);
+    EXPECT_EQ(between, slices - 1);
+    int last = 0;
+    for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+      const int id = std::stoi(sites.at(site_column::idSite, row));
+      EXPECT_GT(id, last);
+      last = id;
+    }
+  };
+  expectInSlices(9000, 3, [&](const auto& between) { return due.getArraySitesActiveTrue(site_choice::all, between); });
+  expectInSlices(6000, 2, [&](const auto& b) { return due.getArraySitesActiveTrue(site_choice::active, b); });
+  expectInSlices(3000, 1, [&](const auto& between) { return due.getArraySitesActiveTrue(site_choice::due, between); });
+  expectInSlices(6000, 2, [&](const auto& between) { return due.getSitesDueOrNeverChecked(between); });
+}
+
 // With some ten thousand sites the window would stand still while the pages of the file that hold them are read.
 TEST_F(DueSitesTest, ListAndCountdownAreReadWithoutAnyPage) {
   for (const std::string& sql : {"select " + std::string(kSiteFields) + " from sites where active = 1 order by idSite",

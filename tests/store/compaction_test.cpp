@@ -51,6 +51,13 @@ TEST_F(CompactionTest, ALinkToTheDatabaseStaysOne) {
   EXPECT_LT(fs::file_size(elsewhere.file("list.mdb")), before);
 }
 
+TEST_F(CompactionTest, PagesThatNoSiteHasAnyMoreAreGone) {
+  folder.execute("replace into sites (idSite, url, content_compare) values (3, 'http://a/', 'another page')");
+  ASSERT_EQ(folder.queryText("select group_concat(content) from pagePieces"), "page,another page");
+  ASSERT_TRUE(compaction.compact());
+  EXPECT_EQ(folder.queryText("select group_concat(content) from pagePieces"), "another page");
+}
+
 TEST_F(CompactionTest, EveryByteOfATextIsKept) {
   for (const std::string& text : trickyTexts()) {
     database.execute(joinSql("update sites set content_compare = '", sqlQuote(text), "' where idSite = 9"));

@@ -13,6 +13,7 @@
 #include "platform/sqlite/sqlite_file.h"
 #include "platform/sqlite/sqlite_file_watch.h"
 #include "platform/sqlite/sqlite_log.h"
+#include "platform/sqlite/sqlite_pages.h"
 
 namespace tarnwick {
 namespace {
@@ -100,8 +101,17 @@ std::string SqliteHold::run(sqlite3* database, const std::string& sql) const {
 void SqliteHold::compactInto(const std::string& destination) {
   const std::string path = dataSource(destination);
   makeEmpty(path, path_);
+  removeUnusedPages();
   vacuumInto(path);
   check(path);
+}
+
+// Another tool that replaces a site's row leaves its pages behind, a program that was killed those that it had begun.
+void SqliteHold::removeUnusedPages() {
+  if (run(handle_.get(), "select 1 from sqlite_schema where type = 'table' and name = 'pagePieces'").empty()) {
+    return;
+  }
+  run(handle_.get(), std::string("delete from pagePieces where ") + kPageIsUnused);
 }
 
 void SqliteHold::vacuumInto(const std::string& path) {

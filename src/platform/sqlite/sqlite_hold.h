@@ -26,6 +26,7 @@ class SqliteHold final : public HeldDatabase {
   void leaveLogAndLock(sqlite3* database) const;
   /// Runs a statement; the first field of its last row, empty without one.
   std::string run(sqlite3* database, const std::string& sql) const;
+  void removeUnusedPages();
   void vacuumInto(const std::string& path);
   void check(const std::string& path) const;
   [[noreturn]] void fail(sqlite3* database, std::string_view sql) const;

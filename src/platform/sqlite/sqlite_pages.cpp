@@ -19,9 +19,7 @@ constexpr const char* kPageAhead = "select (cast(strftime('%s', 'now') as intege
 /// Left behind by a program that was killed, or by a tool that replaces rows. What is less than an hour old may be
 /// about to be used.
 constexpr const char* kRemoveUnused =
-    "delete from pagePieces where (piece / 4) >> 20 < cast(strftime('%s', 'now') as integer) - 3600 "
-    "and piece / 4 not in (select comparePage from siteRows where comparePage > 0 "
-    "union select runtimePage from siteRows where runtimePage > 0)";
+    "delete from pagePieces where (piece / 4) >> 20 < cast(strftime('%s', 'now') as integer) - 3600 and ";
 
 /// The last piece takes what is left.
 std::string_view pieceOf(std::string_view text, std::int64_t piece) {
@@ -81,7 +79,7 @@ void SqliteStoredText::write(const std::function<void()>& between) {
     connection_.begin();
     try {
       if (pieces_ == 0) {
-        connection_.execute(kRemoveUnused, {});
+        connection_.execute(std::string(kRemoveUnused) + kPageIsUnused, {});
         page_ = numberOf(connection_.execute(kPageAhead, {})->field(std::size_t{0}));
       }
       connection_.execute(
@@ -156,14 +154,15 @@ void SqlitePages::store(const StorePage& command, std::string_view text, const S
     own = pageIn(command.compare ? 0 : 1);
     other = pageIn(command.compare ? 1 : 0);
   }
-  if (!own.isNull() && holds(own.toInt64(), text)) {
+  // What lies ahead was found to be neither of the site's pages before it was written.
+  const bool isAhead = ahead != nullptr && ahead->is(text) && isComplete(*ahead);
+  if (!isAhead && !own.isNull() && holds(own.toInt64(), text)) {
     return;
   }
-  std::int64_t page = 0;
-  if (!text.empty()) {
+  std::int64_t page = isAhead ? ahead->page() : 0;
+  if (!isAhead && !text.empty()) {
     const bool shared = !other.isNull() && other != own && holds(other.toInt64(), text);
-    const bool isAhead = !shared && ahead != nullptr && ahead->is(text) && isComplete(*ahead);
-    page = shared ? other.toInt64() : isAhead ? ahead->page() : write(text);
+    page = shared ? other.toInt64() : write(text);
   }
   database_.run({std::string("update siteRows set ") + column + " = ?1 where idSite = ?2",
                  {SqlValue(page), SqlValue(command.idSite)},

@@ -12,6 +12,11 @@
 
 namespace tarnwick {
 
+/// Of a row of `pagePieces`: no site names it.
+inline constexpr const char* kPageIsUnused =
+    "piece / 4 not in (select comparePage from siteRows where comparePage > 0 "
+    "union select runtimePage from siteRows where runtimePage > 0)";
+
 /// A text that is written before the statement that stores it, piece by piece, each in a transaction of its own. What
 /// no site has taken by the end of this object's life is removed.
 class SqliteStoredText final : public StoredText {
