@@ -9,11 +9,11 @@
     </message>
     <message>
         <source>Audio file</source>
-        <translation>Audio-Datei</translation>
+        <translation>Audiodatei</translation>
     </message>
     <message>
         <source>Program file</source>
-        <translation>Program-Datei</translation>
+        <translation>Programmdatei</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Stored TCP Timeout</source>
-        <translation>Gespeicherter TCP Timeout</translation>
+        <translation>Gespeichertes TCP-Zeitlimit</translation>
     </message>
     <message>
         <source>OK stores no time-out while none is selected; a fetch may then take %1</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>SMTP</source>
-        <translation type="unfinished"></translation>
+        <translation>SMTP</translation>
     </message>
     <message>
         <source>The mail server; it takes mail on port 25 without a log-in</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>&amp;Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wählen</translation>
     </message>
     <message>
         <source>Choose a sound file</source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Test</translation>
     </message>
     <message>
         <source>Play this sound now</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>Bro&amp;wse</source>
-        <translation type="unfinished"></translation>
+        <translation>Wä&amp;hlen</translation>
     </message>
     <message>
         <source>Choose a program</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>T&amp;est</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;est</translation>
     </message>
     <message>
         <source>Start this program now, with sample values</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>Lo&amp;gs</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo&amp;g</translation>
     </message>
     <message>
         <source>Keep a log of all checks</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>&amp;Reports</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Berichte</translation>
     </message>
     <message>
         <source>Write the report of the day during a run</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>Emai&amp;l</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mai&amp;l</translation>
     </message>
     <message>
         <source>Send alert mails for the sites that ask for them</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>A&amp;udio</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;udio</translation>
     </message>
     <message>
         <source>Play the alert sound</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>Pr&amp;ogram</source>
-        <translation type="unfinished"></translation>
+        <translation>Pr&amp;ogramm</translation>
     </message>
     <message>
         <source>Start the alert program</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>TCP Timeout in seconds</source>
-        <translation>TCP Timeout in Sekunden</translation>
+        <translation>TCP-Zeitlimit in Sekunden</translation>
     </message>
     <message>
         <source>How many seconds the fetch of a page may take</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>O&amp;K</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;K</translation>
     </message>
     <message>
         <source>Store the settings and close</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Close without storing (Esc)</source>
@@ -153,27 +153,27 @@
     </message>
     <message>
         <source>E&amp;mail</source>
-        <translation type="unfinished"></translation>
+        <translation>E-&amp;Mail</translation>
     </message>
     <message>
         <source>&amp;SMTP</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;SMTP</translation>
     </message>
     <message>
         <source>&amp;Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Audio</translation>
     </message>
     <message>
         <source>&amp;Program</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Programm</translation>
     </message>
     <message>
         <source>TCP T&amp;imeout</source>
-        <translation type="unfinished"></translation>
+        <translation>TCP-Ze&amp;itlimit</translation>
     </message>
     <message>
         <source>&amp;Clear Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Log lee&amp;ren</translation>
     </message>
     <message>
         <source>Delete every log line</source>
@@ -181,15 +181,15 @@
     </message>
     <message>
         <source>logs ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Log ...</translation>
     </message>
     <message>
         <source>Status of Clear Logs</source>
-        <translation>Stand von Clear Logs</translation>
+        <translation>Stand von „Log leeren“</translation>
     </message>
     <message>
         <source>Compact &amp;Database</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datenbank verdichten</translation>
     </message>
     <message>
         <source>Back the database up, then make its file as small as it can be</source>
@@ -197,15 +197,15 @@
     </message>
     <message>
         <source>compact ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdichten ...</translation>
     </message>
     <message>
         <source>Status of Compact Database</source>
-        <translation>Stand von Compact Database</translation>
+        <translation>Stand von „Datenbank verdichten“</translation>
     </message>
     <message>
         <source>Create / &amp;View Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht schreiben / &amp;zeigen</translation>
     </message>
     <message>
         <source>Write the report of today and open it</source>
@@ -213,27 +213,27 @@
     </message>
     <message>
         <source>report ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht ...</translation>
     </message>
     <message>
         <source>Status of Create / View Report</source>
-        <translation>Stand von Create / View Report</translation>
+        <translation>Stand von „Bericht schreiben / zeigen“</translation>
     </message>
     <message>
         <source>Configuration Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Administration Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwaltung</translation>
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Start</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Start a run: tests every active site now (F5)</source>
@@ -241,11 +241,11 @@
     </message>
     <message>
         <source>S&amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;topp</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp</translation>
     </message>
     <message>
         <source>Stop the run (Shift+F5)</source>
@@ -253,11 +253,11 @@
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Add a site (Ctrl+N)</source>
@@ -265,11 +265,11 @@
     </message>
     <message>
         <source>Set&amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einrichten</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Einrichten</translation>
     </message>
     <message>
         <source>Stopped</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Online Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Open the help page (F1)</source>
@@ -325,11 +325,11 @@
     </message>
     <message>
         <source>Url</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>&amp;Visit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Besuchen</translation>
     </message>
     <message>
         <source>Open the site in the browser</source>
@@ -337,15 +337,15 @@
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>&amp;Get</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Get</translation>
     </message>
     <message>
         <source>Method: Get</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>P&amp;ost</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;ost</translation>
     </message>
     <message>
         <source>Method: Post</source>
@@ -361,11 +361,11 @@
     </message>
     <message>
         <source>&amp;Active</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aktiv</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktiv</translation>
     </message>
     <message>
         <source>Interval in minutes</source>
@@ -373,23 +373,23 @@
     </message>
     <message>
         <source>&amp;Url</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;URL</translation>
     </message>
     <message>
         <source>User&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;nutzername</translation>
     </message>
     <message>
         <source>&amp;Password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Passwort</translation>
     </message>
     <message>
         <source>Method</source>
-        <translation type="unfinished"></translation>
+        <translation>Methode</translation>
     </message>
     <message>
         <source>&amp;Interval ( in minutes )</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand ( &amp;in Minuten )</translation>
     </message>
     <message>
         <source>POST variables</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>enter name here</source>
-        <translation type="unfinished"></translation>
+        <translation>hier Namen eingeben</translation>
     </message>
     <message>
         <source>Value of the new variable</source>
@@ -409,19 +409,19 @@
     </message>
     <message>
         <source>enter value here</source>
-        <translation type="unfinished"></translation>
+        <translation>hier Wert eingeben</translation>
     </message>
     <message>
         <source>Add PO&amp;ST Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>PO&amp;ST-Variable hinzufügen</translation>
     </message>
     <message>
         <source>Clear POST Varia&amp;bles</source>
-        <translation type="unfinished"></translation>
+        <translation>POST-&amp;Variablen löschen</translation>
     </message>
     <message>
         <source>&amp;Email</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;E-Mail</translation>
     </message>
     <message>
         <source>Alert by e-mail</source>
@@ -433,7 +433,7 @@
     </message>
     <message>
         <source>Page&amp;r</source>
-        <translation type="unfinished"></translation>
+        <translation>Page&amp;r</translation>
     </message>
     <message>
         <source>Alert by pager</source>
@@ -441,7 +441,7 @@
     </message>
     <message>
         <source>Pager</source>
-        <translation type="unfinished"></translation>
+        <translation>Pager</translation>
     </message>
     <message>
         <source>Save and close</source>
@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>App&amp;ly</source>
-        <translation type="unfinished"></translation>
+        <translation>Überne&amp;hmen</translation>
     </message>
     <message>
         <source>Save</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>&amp;Content</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhal&amp;t</translation>
     </message>
     <message>
         <source>Save, then show the page that every check is compared with</source>
@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>Delete this site</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>Coun&amp;ters</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zähler</translation>
     </message>
     <message>
         <source>Reset counters</source>
@@ -485,19 +485,19 @@
     </message>
     <message>
         <source>Site ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten-ID:</translation>
     </message>
     <message>
         <source>Alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>Alarme</translation>
     </message>
     <message>
         <source>HTTP Post Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>HTTP-Post-Variablen</translation>
     </message>
     <message>
         <source>Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Steuerung</translation>
     </message>
     <message>
         <source>All Files (*)</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>General</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>Site</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite</translation>
     </message>
     <message>
         <source>Options</source>
@@ -719,19 +719,19 @@
     <name>tarnwick::ContentDialog</name>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt</translation>
     </message>
     <message>
         <source>Url: </source>
-        <translation type="unfinished"></translation>
+        <translation>URL: </translation>
     </message>
     <message>
         <source>Url</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>&amp;Load From Url</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der URL &amp;laden</translation>
     </message>
     <message>
         <source>Fetch the page now; nothing is stored yet</source>
@@ -739,7 +739,7 @@
     </message>
     <message>
         <source>O&amp;K</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;K</translation>
     </message>
     <message>
         <source>Store this content and close</source>
@@ -747,7 +747,7 @@
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Close without storing (Esc)</source>
@@ -755,7 +755,7 @@
     </message>
     <message>
         <source>LOADING: Please Wait ...</source>
-        <translation type="unfinished"></translation>
+        <translation>LÄDT: Bitte warten ...</translation>
     </message>
     <message>
         <source>the content of site %1</source>
@@ -766,19 +766,19 @@
     <name>tarnwick::ControlDialog</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>In Progress ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft ...</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Gescheitert</translation>
     </message>
     <message>
         <source>Complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>the settings</source>
@@ -789,23 +789,23 @@
     <name>tarnwick::CountersDialog</name>
     <message>
         <source>counters</source>
-        <translation type="unfinished"></translation>
+        <translation>Zähler</translation>
     </message>
     <message>
         <source>Counter Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Zähler zurücksetzen</translation>
     </message>
     <message>
         <source>Clear This &amp;Site&apos;s Counter</source>
-        <translation type="unfinished"></translation>
+        <translation>Zähler dieser &amp;Seite löschen</translation>
     </message>
     <message>
         <source>Clear Counter For &amp;All Sites</source>
-        <translation type="unfinished"></translation>
+        <translation>Zähler &amp;aller Seiten löschen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -949,47 +949,47 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <name>tarnwick::NewPostVar</name>
     <message>
         <source>Add / Edit Post Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Post-Variable hinzufügen / ändern</translation>
     </message>
     <message>
         <source>HTTP Post Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>HTTP-Post-Variablen</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>enter name here</source>
-        <translation type="unfinished"></translation>
+        <translation>hier Namen eingeben</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>enter value here</source>
-        <translation type="unfinished"></translation>
+        <translation>hier Wert eingeben</translation>
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Name</translation>
     </message>
     <message>
         <source>&amp;Value</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wert</translation>
     </message>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Än&amp;dern</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>This variable was changed or removed by another program. Press Cancel, and look at the list.</source>
@@ -1086,22 +1086,22 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <name>tarnwick::PostVarModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
     <name>tarnwick::SiteEditor</name>
     <message>
         <source>Site</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite</translation>
     </message>
     <message>
         <source>Site ID: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten-ID: %1</translation>
     </message>
     <message>
         <source>Do You Want To Discard The Changes To Site %1?</source>
@@ -1144,42 +1144,42 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Gut</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlecht</translation>
     </message>
     <message>
         <source>Time Of Last Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit der letzten Prüfung</translation>
     </message>
 </context>
 <context>
     <name>tarnwick::SiteGridView</name>
     <message>
         <source>Method ( get,post )</source>
-        <translation type="unfinished"></translation>
+        <translation>Methode ( get,post )</translation>
     </message>
     <message>
         <source>Active ( true,false )</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktiv ( true,false )</translation>
     </message>
     <message>
         <source>Minutes Until Next Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuten bis zur nächsten Prüfung</translation>
     </message>
     <message>
         <source>Date Last Checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum der letzten Prüfung</translation>
     </message>
 </context>
 <context>
@@ -1224,7 +1224,7 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <name>tarnwick::VarsForm</name>
     <message>
         <source>Command1</source>
-        <translation type="unfinished"></translation>
+        <translation>Command1</translation>
     </message>
 </context>
 </TS>

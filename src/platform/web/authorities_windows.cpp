@@ -1,16 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "platform/web/authorities.h"
 
+#include <utility>
+
 namespace tarnwick {
 
 // Windows itself judges certificates, by a list that it keeps in memory.
 
-void shareAuthorities(CURL* easy, const std::string& file) {
-  if (!file.empty()) {
-    curl_easy_setopt(easy, CURLOPT_CAINFO, file.c_str());
+struct Authorities::Store {};
+
+Authorities::Authorities(std::string file, std::string folder) : file_(std::move(file)), folder_(std::move(folder)) {}
+
+Authorities::~Authorities() = default;
+
+bool Authorities::areRead() const { return true; }
+
+void Authorities::whenRead(CurlEventLoop&, std::function<void()> then) { then(); }
+
+void Authorities::prepare(CURL* easy) const {
+  if (!file_.empty()) {
+    curl_easy_setopt(easy, CURLOPT_CAINFO, file_.c_str());
   }
 }
 
-void trustFolder(void*, const std::string&) {}
+CURLcode Authorities::trust(void*) { return CURLE_OK; }
 
 }  // namespace tarnwick

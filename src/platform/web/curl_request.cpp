@@ -53,10 +53,11 @@ AbortReason reasonOf(HeaderFault fault) {
 
 }  // namespace
 
-CurlRequest::CurlRequest(Request request, const CurlTransfers::Options& options, CurlEventLoop& loop,
-                         std::function<void(int)> onState)
+CurlRequest::CurlRequest(Request request, const CurlTransfers::Options& options, Authorities& authorities,
+                         CurlEventLoop& loop, std::function<void(int)> onState)
     : request_(std::move(request)),
       options_(options),
+      authorities_(authorities),
       loop_(loop),
       onState_(std::move(onState)),
       caches_(curl_share_init(), &curl_share_cleanup),
@@ -78,6 +79,11 @@ CurlRequest::~CurlRequest() {
   if (easy_) {
     loop_.stop(easy_.get());
   }
+}
+
+bool CurlRequest::isSecured() const {
+  const auto address = parseAddress(request_.url);
+  return address && (address->scheme == "https" || address->scheme == "ftps");
 }
 
 bool CurlRequest::start(std::function<void(CURLcode)> done) {
@@ -105,7 +111,9 @@ int CurlRequest::onSocket(void* self, curl_socket_t socket, curlsocktype) {
 
 CURLcode CurlRequest::onHandshake(CURL*, void* context, void* self) {
   auto* const request = static_cast<CurlRequest*>(self);
-  trustFolder(context, request->options_.caFolder);
+  if (const CURLcode trusted = request->authorities_.trust(context); trusted != CURLE_OK) {
+    return trusted;
+  }
   request->connection_.tellsGoodbye = watchGoodbye(context, request->goodbye_);
   request->connection_.handshaking = true;
   request->reach(transfer_state::connected);

@@ -20,6 +20,8 @@
 
 namespace tarnwick {
 
+class Authorities;
+
 /// Why `request` cannot be sent at all; nothing when it can.
 std::optional<TransferResult> refusalOf(const Request& request);
 
@@ -27,12 +29,16 @@ std::optional<TransferResult> refusalOf(const Request& request);
 class CurlRequest {
  public:
   /// `onState` is called from inside libcurl with each state that is reached, in rising order without gaps; it must
-  /// not touch any transfer. REQUIRES: `refusalOf(request)` is nothing. `loop` outlives the request.
-  CurlRequest(Request request, const CurlTransfers::Options& options, CurlEventLoop& loop,
+  /// not touch any transfer. REQUIRES: `refusalOf(request)` is nothing. `authorities` and `loop` outlive
+  /// the request.
+  CurlRequest(Request request, const CurlTransfers::Options& options, Authorities& authorities, CurlEventLoop& loop,
               std::function<void(int)> onState);
   ~CurlRequest();
   CurlRequest(const CurlRequest&) = delete;
   CurlRequest& operator=(const CurlRequest&) = delete;
+
+  /// Whether its own address, whatever it is led to, is that of a server that has to prove who it is.
+  bool isSecured() const;
 
   /// Starts it; `done` is called from the event loop with libcurl's result. False when there is no memory for it.
   bool start(std::function<void(CURLcode)> done);
@@ -102,6 +108,7 @@ class CurlRequest {
 
   Request request_;
   CurlTransfers::Options options_;
+  Authorities& authorities_;
   CurlEventLoop& loop_;
   std::function<void(int)> onState_;
   // The last connection has ended in the way of TLS. Told as long as there are connections, which are among the caches.

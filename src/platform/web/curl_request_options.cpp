@@ -117,7 +117,7 @@ void CurlRequest::setTarget() {
   set(easy, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
   set(easy, CURLOPT_SSL_VERIFYPEER, 1L);
   set(easy, CURLOPT_SSL_VERIFYHOST, 2L);
-  shareAuthorities(easy, options_.caFile);
+  authorities_.prepare(easy);
 }
 
 void CurlRequest::setMethod() {

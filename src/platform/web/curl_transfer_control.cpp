@@ -6,6 +6,8 @@
 #include <new>
 #include <utility>
 
+#include "platform/web/authorities.h"
+
 namespace tarnwick {
 
 /// One request from `execute` until its last event has been delivered, or until it is cancelled.
@@ -20,8 +22,9 @@ struct CurlTransferControl::Run {
   std::list<CurlEventLoop::Event> lastEvent;
 };
 
-CurlTransferControl::CurlTransferControl(std::shared_ptr<CurlEventLoop> loop, CurlTransfers::Options options)
-    : loop_(std::move(loop)), options_(std::move(options)) {}
+CurlTransferControl::CurlTransferControl(std::shared_ptr<CurlEventLoop> loop, std::shared_ptr<Authorities> authorities,
+                                         CurlTransfers::Options options)
+    : loop_(std::move(loop)), authorities_(std::move(authorities)), options_(std::move(options)) {}
 
 CurlTransferControl::~CurlTransferControl() { endRun(); }
 
@@ -54,8 +57,26 @@ void CurlTransferControl::start(Request request) {
     finishWith(run, std::move(*refusal));
     return;
   }
-  run.request =
-      std::make_unique<CurlRequest>(std::move(request), options_, *loop_, [this](int state) { report(state); });
+  run.request = std::make_unique<CurlRequest>(std::move(request), options_, *authorities_, *loop_,
+                                              [this](int state) { report(state); });
+  if (!run.request->isSecured() || authorities_->areRead()) {
+    begin(run);
+    return;
+  }
+  authorities_->whenRead(*loop_, [this, weak = std::weak_ptr(run_)] {
+    const auto waiting = weak.lock();
+    if (!waiting || waiting->over) {
+      return;
+    }
+    try {
+      begin(*waiting);
+    } catch (const std::exception&) {
+      finishWith(*waiting, std::move(waiting->shortage));
+    }
+  });
+}
+
+void CurlTransferControl::begin(Run& run) {
   // The request ends its transfer when it goes, so `run` and `this` are there when it is called.
   if (!run.request->start([this, &run](CURLcode result) { finish(run, result); })) {
     finishWith(run, noMemory());

@@ -12,7 +12,8 @@ namespace tarnwick {
 /// A control that fetches by libcurl.
 class CurlTransferControl final : public TransferControl {
  public:
-  CurlTransferControl(std::shared_ptr<CurlEventLoop> loop, CurlTransfers::Options options);
+  CurlTransferControl(std::shared_ptr<CurlEventLoop> loop, std::shared_ptr<Authorities> authorities,
+                      CurlTransfers::Options options);
   ~CurlTransferControl() override;
   CurlTransferControl(const CurlTransferControl&) = delete;
   CurlTransferControl& operator=(const CurlTransferControl&) = delete;
@@ -30,6 +31,7 @@ class CurlTransferControl final : public TransferControl {
   struct Run;
 
   void start(Request request);
+  void begin(Run& run);
   void finish(Run& run, CURLcode reported) noexcept;
   void finishWith(Run& run, TransferResult result) noexcept;
   void report(int state);
@@ -37,6 +39,7 @@ class CurlTransferControl final : public TransferControl {
   void endRun();
 
   std::shared_ptr<CurlEventLoop> loop_;
+  std::shared_ptr<Authorities> authorities_;
   CurlTransfers::Options options_;
   std::function<void(int)> stateHandler_;
   std::function<void()> idleHandler_;

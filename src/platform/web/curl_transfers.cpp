@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/web/curl_transfers.h"
 
+#include "platform/web/authorities.h"
 #include "platform/web/curl_event_loop.h"
 #include "platform/web/curl_transfer_control.h"
 
@@ -9,12 +10,14 @@ namespace tarnwick {
 CurlTransfers::CurlTransfers() : CurlTransfers(Options{}) {}
 
 CurlTransfers::CurlTransfers(Options options)
-    : options_(std::move(options)), loop_(std::make_shared<CurlEventLoop>()) {}
+    : options_(std::move(options)),
+      loop_(std::make_shared<CurlEventLoop>()),
+      authorities_(std::make_shared<Authorities>(options_.caFile, options_.caFolder)) {}
 
 CurlTransfers::~CurlTransfers() = default;
 
 std::unique_ptr<TransferControl> CurlTransfers::makeTransferControl() {
-  return std::make_unique<CurlTransferControl>(loop_, options_);
+  return std::make_unique<CurlTransferControl>(loop_, authorities_, options_);
 }
 
 }  // namespace tarnwick

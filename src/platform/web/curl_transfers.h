@@ -9,6 +9,7 @@
 
 namespace tarnwick {
 
+class Authorities;
 class CurlEventLoop;
 
 /// The transfer controls of libcurl, driven by the Qt event loop: a silent server costs no processor time.
@@ -35,6 +36,7 @@ class CurlTransfers final : public TransferMaker {
  private:
   Options options_;
   std::shared_ptr<CurlEventLoop> loop_;
+  std::shared_ptr<Authorities> authorities_;
 };
 
 }  // namespace tarnwick

@@ -6,8 +6,11 @@
 
 #include <array>
 #include <cstring>
+#include <filesystem>
+#include <QTimer>
 
 #include "platform/web/curl_transfers.h"
+#include "support/file_bytes.h"
 #include "support/http_server.h"
 #include "support/test_certificates.h"
 #include "transfer_probe.h"
@@ -57,6 +60,71 @@ TEST_F(TransferAuthorities, FileIsReadOnceForAllTransfers) {
   }
   EXPECT_EQ(eventsOf(watch), 1);
   ::close(watch);
+}
+
+TEST_F(TransferAuthorities, AFileThatHasChangedCountsAtOnce) {
+  const TlsIdentity strange = certificates_.ofAStranger();
+  const std::string folder = certificates_.folderOfStrangers();
+  std::string strangers;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    strangers = bytesOfFile(entry.path());
+  }
+  const std::string file = folder + "/bundle.pem";
+  writeFile(file, bytesOfFile(certificates_.authorityFile()));
+  CurlTransfers transfers({.caFile = file});
+  EXPECT_EQ(fetch(transfers, strange), "");
+  writeFile(file, bytesOfFile(certificates_.authorityFile()) + strangers);
+  EXPECT_EQ(fetch(transfers, strange), "secret page");
+  writeFile(file, strangers);
+  EXPECT_EQ(fetch(transfers, certificates_.good()), "");
+  writeFile(file, "no certificate");
+  EXPECT_EQ(fetch(transfers, strange), "");
+  writeFile(file, strangers);
+  EXPECT_EQ(fetch(transfers, strange), "secret page");
+}
+
+// A system's file takes 25 milliseconds, which can be seen in a window.
+TEST_F(TransferAuthorities, OthersAreServedWhileALongFileIsRead) {
+  constexpr int kCertificates = 3000;
+  const std::string file = certificates_.folderOfStrangers() + "/bundle.pem";
+  const std::string one = bytesOfFile(certificates_.authorityFile());
+  std::string many;
+  for (int i = 0; i < kCertificates; ++i) {
+    many += one;
+  }
+  writeFile(file, many);
+  CurlTransfers transfers({.caFile = file});
+  HttpServer server(certificates_.good());
+  server.respond("/a", {.body = "secret page"});
+  TransferProbe given(transfers);
+  TransferProbe givenUp(transfers);
+  int rounds = 0;
+  QTimer others;
+  QObject::connect(&others, &QTimer::timeout, [&] { ++rounds; });
+  others.start(0);
+  given.start(server.url("/a"));
+  givenUp.start(server.url("/a"));
+  waitUntil([&] { return rounds > 2; });
+  givenUp.control->cancel();
+  waitUntil([&] { return given.ended(); });
+  EXPECT_EQ(given.page(), "secret page");
+  EXPECT_GT(rounds, kCertificates / 10);
+  EXPECT_EQ(givenUp.idles, 0);
+}
+
+TEST_F(TransferAuthorities, ATransferThatWaitsForThemMayGo) {
+  const std::string file = certificates_.folderOfStrangers() + "/bundle.pem";
+  std::string many;
+  for (int i = 0; i < 100; ++i) {
+    many += bytesOfFile(certificates_.authorityFile());
+  }
+  writeFile(file, many);
+  CurlTransfers transfers({.caFile = file});
+  {
+    TransferProbe gone(transfers);
+    gone.start("https://127.0.0.1:1/");
+  }
+  EXPECT_EQ(fetch(transfers, certificates_.good()), "secret page");
 }
 
 TEST_F(TransferAuthorities, FolderIsTrustedToo) {
