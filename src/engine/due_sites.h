@@ -45,7 +45,8 @@ class DueSites {
   /// std::invalid_argument. An active site that was never checked is not due, but is among the active ones.
   ///
   /// A long list is read in slices, and `between` is called after each but the last: no statement is open then.
-  TextTable getArraySitesActiveTrue(std::int16_t mode, const std::function<void()>& between = [] {});
+  TextTable getArraySitesActiveTrue(
+      std::int16_t mode, const std::function<void()>& between = [] {});
 
   /// The active sites that are due, and those that were never checked; columns, order and `between` as above.
   TextTable getSitesDueOrNeverChecked(const std::function<void()>& between = [] {});

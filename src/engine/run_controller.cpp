@@ -97,8 +97,8 @@ void RunController::runTestPass(std::int16_t mode) {
     TestPass pass(*this, needs_, busy_, {sites_, uncounted_});
     readOptions();
     needs_.reserve.keepReserve();
-    TextTable sites = sites_.choose(mode, mode == kDueSites && (takesWhatWasLeft || newSitesAtOnce_),
-                                    [this] { needs_.pump.pump(); });
+    TextTable sites =
+        sites_.choose(mode, mode == kDueSites && (takesWhatWasLeft || newSitesAtOnce_), [this] { needs_.pump.pump(); });
     if (mode == kDueSites) {
       sites = sites_.withoutUnrecorded(sites, needs_.clock.steadyNow());
     }

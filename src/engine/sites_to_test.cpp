@@ -42,8 +42,8 @@ TextTable withoutRow(const TextTable& sites, std::size_t left) {
 }  // namespace
 
 TextTable SitesToTest::choose(std::int16_t mode, bool neverCheckedToo, const std::function<void()>& between) {
-  TextTable sites = neverCheckedToo ? dueSites_.getSitesDueOrNeverChecked(between)
-                                    : dueSites_.getArraySitesActiveTrue(mode, between);
+  TextTable sites =
+      neverCheckedToo ? dueSites_.getSitesDueOrNeverChecked(between) : dueSites_.getArraySitesActiveTrue(mode, between);
   addOwed(sites);
   if (const std::size_t row = typed_ ? rowOf(sites, *typed_) : 0; row > 0) {
     owe(*typed_);

@@ -111,7 +111,7 @@ void SqliteHold::removeUnusedPages() {
   if (run(handle_.get(), "select 1 from sqlite_schema where type = 'table' and name = 'pagePieces'").empty()) {
     return;
   }
-  run(handle_.get(), std::string("delete from pagePieces where ") + kPageIsUnused);
+  run(handle_.get(), kRemoveUnusedPages);
 }
 
 void SqliteHold::vacuumInto(const std::string& path) {

@@ -18,8 +18,7 @@ constexpr const char* kNextPage = "select coalesce(max(piece) / 4, 0) + 1 from p
 constexpr const char* kPageAhead = "select (cast(strftime('%s', 'now') as integer) << 20) | (random() & 1048575)";
 /// Left behind by a program that was killed, or by a tool that replaces rows. What is less than an hour old may be
 /// about to be used.
-constexpr const char* kRemoveUnused =
-    "delete from pagePieces where (piece / 4) >> 20 < cast(strftime('%s', 'now') as integer) - 3600 and ";
+constexpr const char* kNotOfThisHour = " and (piece / 4) >> 20 < cast(strftime('%s', 'now') as integer) - 3600";
 
 /// The last piece takes what is left.
 std::string_view pieceOf(std::string_view text, std::int64_t piece) {
@@ -79,7 +78,7 @@ void SqliteStoredText::write(const std::function<void()>& between) {
     connection_.begin();
     try {
       if (pieces_ == 0) {
-        connection_.execute(std::string(kRemoveUnused) + kPageIsUnused, {});
+        connection_.execute(std::string(kRemoveUnusedPages) + kNotOfThisHour, {});
         page_ = numberOf(connection_.execute(kPageAhead, {})->field(std::size_t{0}));
       }
       connection_.execute(

@@ -12,9 +12,9 @@
 
 namespace tarnwick {
 
-/// Of a row of `pagePieces`: no site names it.
-inline constexpr const char* kPageIsUnused =
-    "piece / 4 not in (select comparePage from siteRows where comparePage > 0 "
+/// Removes the pages that no site has, also those that somebody has just written ahead.
+inline constexpr const char* kRemoveUnusedPages =
+    "delete from pagePieces where piece / 4 not in (select comparePage from siteRows where comparePage > 0 "
     "union select runtimePage from siteRows where runtimePage > 0)";
 
 /// A text that is written before the statement that stores it, piece by piece, each in a transaction of its own. What

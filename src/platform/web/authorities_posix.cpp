@@ -36,7 +36,7 @@ std::string textOf(const char* text) { return text == nullptr ? std::string() : 
 using Stamp = std::tuple<dev_t, ino_t, off_t, time_t, long>;
 
 Stamp stampOf(const std::string& file) {
-  struct stat found{};
+  struct stat found {};
   if (::stat(file.c_str(), &found) != 0) {
     return {};
   }
@@ -62,7 +62,9 @@ struct Authorities::Store {
   enum class State { reading, read, unreadable };
 
   Store(const std::string& file, const std::string& folder)
-      : stamp(stampOf(file)), trusted(X509_STORE_new()), source(file.empty() ? nullptr : BIO_new_file(file.c_str(), "r")) {
+      : stamp(stampOf(file)),
+        trusted(X509_STORE_new()),
+        source(file.empty() ? nullptr : BIO_new_file(file.c_str(), "r")) {
     if (trusted == nullptr || (source == nullptr && !file.empty())) {
       ERR_clear_error();
       state = State::unreadable;
@@ -106,7 +108,8 @@ Authorities::Authorities(std::string file, std::string folder)
 Authorities::~Authorities() = default;
 
 bool Authorities::areRead() const {
-  return !usesOpenSsl() || (store_ != nullptr && store_->state == Store::State::read && store_->stamp == stampOf(file_));
+  return !usesOpenSsl() ||
+         (store_ != nullptr && store_->state == Store::State::read && store_->stamp == stampOf(file_));
 }
 
 void Authorities::whenRead(CurlEventLoop& loop, std::function<void()> then) {
