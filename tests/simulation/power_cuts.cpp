@@ -206,7 +206,10 @@ class PowerCuts {
     Bench bench(seed_);
     World& world = bench.world;
     Ledger ledger(world);
-    world.desktop.onProgram = [&](const std::vector<std::string>& program) { ledger.started(program); };
+    world.desktop.onProgram = [&](const std::vector<std::string>& program) {
+      ledger.started(program);
+      ledger.alerts().left(AlertWatch::program, AlertWatch::siteOfProgram(program));
+    };
     ledger.settle();
     std::uint64_t syncs = 0;
     {
