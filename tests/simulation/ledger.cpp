@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <exception>
 
+#include "engine/result_recording.h"
+
 namespace tarnwick::simulation {
 namespace {
 
@@ -201,9 +203,40 @@ void Ledger::watchLiveness() {
     return;
   }
   watchChecks();
+  watchPages();
   alertWatch_.watch(excusedUntil_);
   if (now - std::max(lastSign_, excusedUntil_) > kLatest) {
     fail("the run has shown nothing for more than a quarter of an hour");
+  }
+}
+
+// Of a log with a bound the oldest pages are emptied, and no more of them than there must be. On a full disk a page is
+// not kept in the first place, which its row says.
+void Ledger::watchPages() {
+  constexpr std::int64_t kMebibyte = std::int64_t{1} << 20U;
+  constexpr std::int64_t kLongestPage = 40'000;
+  const std::vector<std::string> limit =
+      askDatabase(world_, "select value from siteOptions where idSite = 0 and name = 'logLimit'");
+  if (limit.empty()) {
+    return;
+  }
+  const std::string pages =
+      askDatabase(
+          world_,
+          std::string("with pages as (select rowid as id, length(cast(content as blob)) as bytes from log where "
+                      "status = 0 and errDescription <> '") +
+              kPageNotKept +
+              "') select coalesce(sum(bytes), 0), coalesce(max(id) filter (where bytes = 0), 0), "
+              "coalesce(min(id) filter (where bytes > 0), 9e15) from pages")
+          .front();
+  const std::size_t first = pages.find('|');
+  const std::size_t second = pages.find('|', first + 1);
+  const std::int64_t most = std::stoll(limit.front()) * kMebibyte;
+  const std::int64_t bytes = std::stoll(pages);
+  const double lastEmptied = std::stod(pages.substr(first + 1));
+  if (bytes > most || (lastEmptied > 0 && bytes < most - kLongestPage) ||
+      lastEmptied > std::stod(pages.substr(second + 1))) {
+    fail("the log may keep pages of " + std::to_string(most) + " bytes, and keeps, empties and begins with " + pages);
   }
 }
 

@@ -71,6 +71,7 @@ class Ledger {
   void compareCounters(bool afterDeath);
 
   void watchChecks();
+  void watchPages();
 
   World& world_;
   AlertWatch alertWatch_{world_, [this](const std::string& what) { fail(what); }};

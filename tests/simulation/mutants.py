@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Puts one fault after the other into the program and looks whether the simulation finds it within 100 seeds.
 
-    mutants.py SOURCE_FOLDER WORK_FOLDER [--only TEXT]
+    mutants.py SOURCE_FOLDER WORK_FOLDER [--only TEXT] [--first NUMBER]
 
 The sources are copied to WORK_FOLDER, so that nothing is ever broken in place. Exit status 1 when a fault is not found,
 or when the code that it is put into is not there any more.
@@ -82,6 +82,33 @@ MUTANTS = (
            "    syncToDisk(file.get(), path);\n", ""),
     Mutant("a new name is not on the disk when it is told", "platform/os/local_files_posix.cpp",
            "  syncFolder(pathOf(to).parent_path());\n", "  static_cast<void>(syncFolder);\n"),
+    Mutant("the report counts an error too many", "report/daily_report.cpp", "select count(*) as [Total Errors]",
+           "select count(*) + 1 as [Total Errors]"),
+    Mutant("a failed fetch becomes the baseline where only pages may", "engine/result_recording.cpp",
+           "FirstBaseline::anything || errCode == 0)", "FirstBaseline::anything || errCode >= 0)"),
+    Mutant("the time-out of the settings is ignored", "engine/inet_pool.cpp", "  request.timeout = timeout_;\n",
+           "  request.timeout = kDefaultRequestTimeout;\n"),
+    Mutant("Stop waits for a mail", "engine/run_controller.cpp", "  needs_.alerts.giveUpMail();\n", ""),
+    Mutant("a mail is waited for without end", "alerts/alert_dispatch.cpp", "    end->setEnabled(true);\n",
+           "    end->setEnabled(false);\n"),
+    Mutant("a mail server that was slow once is never asked again", "alerts/alert_dispatch.cpp",
+           "  tooSlow_.clear();\n", ""),
+    Mutant("a mail that is left out is not told", "engine/pass_recording.cpp", "needs_.alerts.mailOutcome(); mail.lost)",
+           "needs_.alerts.mailOutcome(); mail.lost && !mail.leftOut)"),
+    Mutant("the countdown goes on under a clock that was set", "engine/run_controller.cpp",
+           "if (wallClockWasSet() || secondsToNext_ < 0)", "if (secondsToNext_ < 0)"),
+    Mutant("new sites wait for the next start", "engine/run_controller.cpp",
+           "newSitesAtOnce_ = needs_.options.optionsInForce().newSitesAtOnce();", "newSitesAtOnce_ = false;"),
+    Mutant("more of the log is emptied than must be", "store/kept_pages.cpp", "std::min(bytes_ - most, atOnce)",
+           "std::min(bytes_, atOnce)"),
+    Mutant("the log has no bound", "store/kept_pages.cpp", "  if (bytes_ > most) {", "  if (bytes_ > 64 * most) {"),
+    Mutant("a changed site is asked again and again", "engine/pass_recording.cpp", "  debts_.checks.settle(id);\n", ""),
+    Mutant("a host is asked for a page too many", "engine/in_flight.cpp", "host.inFlight >= policy_.perHost",
+           "host.inFlight > policy_.perHost"),
+    Mutant("failures that a lock kept from being counted are forgotten", "engine/uncounted_failures.cpp",
+           "  if (sites_.empty() || !backOff_.tick())", "  sites_.clear();\n  if (sites_.empty() || !backOff_.tick())"),
+    Mutant("what a fault has left is not taken up again", "engine/run_controller.cpp",
+           "    backOff_.failed();\n    somethingWasLeft_ = true;\n", "    backOff_.failed();\n"),
 )
 
 
@@ -126,11 +153,12 @@ def main() -> int:
     parser.add_argument("source", type=Path)
     parser.add_argument("work", type=Path)
     parser.add_argument("--only", default="")
+    parser.add_argument("--first", type=int, default=1, help="the number of the first fault to try")
     wanted = parser.parse_args()
     shutil.copytree(wanted.source, wanted.work, ignore=shutil.ignore_patterns("build", ".git"), dirs_exist_ok=True)
     subprocess.run(["cmake", "--preset", "release", "-DBUILD_TESTING=ON"], cwd=wanted.work, check=True,
                    stdout=subprocess.DEVNULL)
-    chosen = [mutant for mutant in MUTANTS if wanted.only in mutant.title]
+    chosen = [mutant for mutant in MUTANTS[wanted.first - 1:] if wanted.only in mutant.title]
     missed = sum(not hunt_down(mutant, wanted.work) for mutant in chosen)
     print(f"{len(chosen) - missed} of {len(chosen)} faults were found.")
     return 1 if missed else 0

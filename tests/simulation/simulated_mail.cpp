@@ -30,6 +30,9 @@ class SimulatedMail::Socket final : public TcpSocket {
       state_ = SocketState::connected;
       answer("220 ready\r\n");
     });
+    if (mail_.onBegin) {
+      mail_.onBegin();
+    }
   }
   SocketState state() const override { return state_; }
   void send(const std::string& data) override {

@@ -31,6 +31,8 @@ class SimulatedMail final : public TcpSocketMaker {
   std::function<void(const std::string& server)> onConnect;
   std::function<void(const std::string& command)> onSent;
   std::function<void()> onEnd;
+  /// An exchange is on its way.
+  std::function<void()> onBegin;
   /// The server takes a mail.
   std::function<void(const std::string& mail)> onTaken;
 

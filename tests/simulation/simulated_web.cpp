@@ -8,6 +8,12 @@
 
 namespace tarnwick::simulation {
 
+namespace {
+
+constexpr std::size_t kLongPage = 30'000;
+
+}  // namespace
+
 class SimulatedWeb::Control final : public TransferControl {
  public:
   explicit Control(SimulatedWeb& web) : web_(web), next_(web.agenda_) {}
@@ -21,6 +27,7 @@ class SimulatedWeb::Control final : public TransferControl {
     }
     Answer answer = web_.answerTo(request);
     url_ = request.url;
+    web_.begins(url_);
     result_ = std::move(answer.result);
     next_.in(answer.after, [this] { end(); });
     if (web_.onBegin) {
@@ -28,15 +35,23 @@ class SimulatedWeb::Control final : public TransferControl {
     }
   }
   bool stillExecuting() const override { return executing_; }
+  ~Control() override { leave(); }
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
   void cancel() override {
     next_.cancel();
-    executing_ = false;
+    leave();
   }
   TransferResult takeResult() override { return std::exchange(taken_, {}); }
   void onStateChanged(std::function<void(int state)> handler) override { stateChanged_ = std::move(handler); }
   void onIdle(std::function<void()> handler) override { idle_ = std::move(handler); }
 
  private:
+  void leave() {
+    if (std::exchange(executing_, false)) {
+      web_.ends(url_);
+    }
+  }
   void end() {
     taken_ = std::move(result_);
     if (web_.onAnswer) {
@@ -46,7 +61,7 @@ class SimulatedWeb::Control final : public TransferControl {
     if (stateChanged_) {
       stateChanged_(taken_.fault == TransferFault::none ? transfer_state::responseCompleted : transfer_state::error);
     }
-    executing_ = false;
+    leave();
     if (idle_) {
       const auto idle = idle_;  // it may destroy this control
       idle();
@@ -67,8 +82,29 @@ std::unique_ptr<TransferControl> SimulatedWeb::makeTransferControl() { return st
 
 void SimulatedWeb::setMood(const std::string& url, SiteMood mood) { sites_[url].mood = mood; }
 
+std::string SimulatedWeb::hostOf(const std::string& url) {
+  const std::size_t begin = url.find("//") + 2;
+  return url.substr(begin, url.find('/', begin) - begin);
+}
+
+// More than five there are only where that is wished, and then a host is asked for two pages at a time.
+void SimulatedWeb::begins(const std::string& url) {
+  constexpr std::size_t kMost = 12;
+  constexpr std::size_t kUsual = 5;
+  constexpr std::size_t kOfOneHost = 2;
+  const std::string host = hostOf(url);
+  inFlight_.insert(host);
+  const std::size_t all = inFlight_.size();
+  if (onTooMany && !isShared &&
+      (all > (mayBeMany ? kMost : kUsual) || (all > kUsual && inFlight_.count(host) > kOfOneHost))) {
+    onTooMany(std::to_string(all) + " requests are on their way, " + std::to_string(inFlight_.count(host)) +
+              " of them to " + host);
+  }
+}
+
 std::string SimulatedWeb::pageOf(const std::string& url, std::uint64_t edition) {
-  return "<html><body><h1>It's " + url + "</h1>\r\n<p>edition " + std::to_string(edition) + "</p></body></html>\n";
+  return "<html><body><h1>It's " + url + "</h1>\r\n<p>edition " + std::to_string(edition) + "</p>" +
+         std::string(edition % 4 == 3 ? kLongPage : 0, 'x') + "</body></html>\n";
 }
 
 SimulatedWeb::Answer SimulatedWeb::answerTo(const Request& request) {

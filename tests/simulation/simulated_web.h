@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 #include "platform/transfer_control.h"
@@ -41,11 +42,17 @@ class SimulatedWeb final : public TransferMaker {
   SiteMood moodOf(const std::string& url) { return sites_[url].mood; }
   /// Gives the site another page for good.
   void publish(const std::string& url) { ++sites_[url].edition; }
+  /// Whether somebody has asked for more than the usual five requests at a time.
+  bool mayBeMany = false;
+  /// Whether another program asks for pages beside the run.
+  bool isShared = false;
   /// A request is on its way.
   std::function<void()> onBegin;
   /// What is asked for, and what comes back, just before the program hears of it.
   std::function<void(const Request&)> onRequest;
   std::function<void(const std::string& url, const TransferResult&)> onAnswer;
+  /// More requests are on their way than there may be.
+  std::function<void(const std::string& what)> onTooMany;
   std::uint64_t requests() const { return requests_; }
 
  private:
@@ -60,12 +67,16 @@ class SimulatedWeb final : public TransferMaker {
   class Control;
 
   Answer answerTo(const Request& request);
+  void begins(const std::string& url);
+  void ends(const std::string& url) { inFlight_.extract(hostOf(url)); }
+  static std::string hostOf(const std::string& url);
   static std::string pageOf(const std::string& url, std::uint64_t edition);
 
   Agenda& agenda_;
   Journal& journal_;
   Chance chance_;
   std::map<std::string, Site> sites_;
+  std::multiset<std::string> inFlight_;  ///< the hosts that are asked
   std::uint64_t requests_ = 0;
 };
 

@@ -34,8 +34,12 @@ Simulation::Simulation(const Plan& plan, std::ostream* copy) : plan_(plan), worl
 
 void Simulation::layOut() {
   layFolder(world_, plan_.original);
+  if (!plan_.original && plan_.seed % 2 == 0) {
+    mustRun({"option", "all", "logLimit=1"});  // a mebibyte, which is soon full
+  }
   for (int i = 1; i <= plan_.sites; ++i) {
-    urls_.push_back("http://site" + std::to_string(i) + ".example/");
+    const std::string number = std::to_string(i);
+    urls_.push_back(i % 3 == 0 ? "http://shared.example/" + number : "http://site" + number + ".example/");
     mustRun({"add", urls_.back(), "--alert-email", "ann@example.org"});
   }
   for (const auto& [name, value] :
@@ -144,10 +148,10 @@ void Simulation::begin(const Happening& happening) {
   }
 }
 
-// One time in two while something is being fetched, which is a matter of moments.
+// Two times in three while something is being fetched or mailed, which is a matter of moments.
 void Simulation::actAsUser(Chance chance) {
-  if (chance.oneIn(2)) {
-    actsAtRequest_ = chance;
+  if (const std::uint64_t when = chance.below(3); when < 2) {
+    (when == 0 ? actsAtRequest_ : actsAtMail_) = chance;
   } else if (process_) {
     user_.act(*process_, chance);
   }
@@ -383,15 +387,18 @@ void Simulation::stayOff() {
 }
 
 Outcome Simulation::run() {
-  world_.web.onBegin = [this] {
-    if (actsAtRequest_) {
-      world_.agenda.in(Time(5), [this, chance = *std::exchange(actsAtRequest_, std::nullopt)] {
+  const auto actSoon = [this](std::optional<Chance>& user) {
+    if (user) {
+      world_.agenda.in(Time(5), [this, chance = *std::exchange(user, std::nullopt)] {
         if (process_ && !world_.isDead() && !isOver()) {
           user_.act(*process_, chance);
         }
       });
     }
   };
+  world_.web.onBegin = [this, actSoon] { actSoon(actsAtRequest_); };
+  world_.mail.onBegin = [this, actSoon] { actSoon(actsAtMail_); };
+  world_.web.onTooMany = [this](const std::string& what) { ledger_.fail(what); };
   AlertWatch& alerts = ledger_.alerts();
   world_.desktop.onProgram = [&](const std::vector<std::string>& program) {
     ledger_.started(program);

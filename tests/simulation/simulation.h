@@ -79,6 +79,7 @@ class Simulation {
   Appointment memoryHeals_{world_.agenda};
   Time mayEndUntil_{0};
   std::optional<Chance> actsAtRequest_;  ///< what the user does then
+  std::optional<Chance> actsAtMail_;
   std::unique_ptr<Process> process_;
   std::unique_ptr<Shadow> shadow_;
   std::vector<std::string> urls_;

@@ -7,6 +7,8 @@
 namespace tarnwick::simulation {
 namespace {
 
+constexpr std::int64_t kMostParallel = 12;
+
 std::string minutes(Chance& chance) {
   return std::to_string(chance.oneIn(3) ? chance.between(1, 5) : chance.between(5, 120));
 }
@@ -106,7 +108,7 @@ void User::actAs(Process& process, Chance chance) {
       break;
     case baseline:
       perform("types a baseline for site " + std::to_string(id),
-              [&] { data.updateContentCompare(id, "It's typed.\r\n"); });
+              [&] { data.updateContentCompare(id, chance.oneIn(2) ? "" : "It's typed.\r\n"); });
       break;
     case adopt:
       perform("takes the last page of site " + std::to_string(id) + " as the baseline",
@@ -183,7 +185,9 @@ void User::runSomeVerb(Chance chance) {
       break;
     case check:
       ledger_.disturb();
+      world_.web.isShared = true;
       verb({"check", id});
+      world_.web.isShared = false;
       ledger_.disturb();  // what was settled meanwhile did not know of its result
       ledger_.excuse(static_cast<std::int16_t>(std::stoi(id)), Time(0));
       break;
@@ -203,7 +207,8 @@ void User::runSomeVerb(Chance chance) {
       verb({"diff", id});
       break;
     default:
-      verb({"option", "all", "parallel=" + std::to_string(chance.between(5, 12))});
+      world_.web.mayBeMany = true;
+      verb({"option", "all", "parallel=" + std::to_string(chance.between(5, kMostParallel))});
       break;
   }
 }
