@@ -17,11 +17,12 @@ build_packages=(
 run_packages=(ca-certificates fonts-dejavu-core xdg-utils pulseaudio-utils)
 
 # The test libraries, the mail server of the tests, the system's certificates and what makes the tests' own, a display
-# to start the program on, a sound server that records what is played, and other people's encoders.
+# to start the program on, a sound server that records what is played, other people's encoders, and what the documentation
+# reads JSON with.
 test_packages=(
   libgtest-dev libgmock-dev ca-certificates openssl python3 python3-aiosmtpd
   xvfb openbox xdotool wmctrl fonts-dejavu-core
-  pulseaudio pulseaudio-utils sharutils
+  pulseaudio pulseaudio-utils sharutils jq
 )
 
 # What makes the packages: dependencies and compression; and for the archive what lets a program find the libraries
