@@ -887,11 +887,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 new sites, %2 to change, %3 there already. What is not taken over is named below: %4.</source>
+        <source>New sites: %1. To change: %2. There already: %3. Not taken over, and named below: %4.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 sites were added, %2 were changed. What was not taken over is named below.</source>
+        <source>Sites added: %1. Changed: %2. What was not taken over is named below.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

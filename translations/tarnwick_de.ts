@@ -887,12 +887,12 @@
         <translation>Es kann nichts importiert werden. Fehler der Datei: %1.</translation>
     </message>
     <message>
-        <source>%1 new sites, %2 to change, %3 there already. What is not taken over is named below: %4.</source>
-        <translation>%1 neue Seiten, %2 zu ändern, %3 schon da. Was nicht übernommen wird, steht unten: %4.</translation>
+        <source>New sites: %1. To change: %2. There already: %3. Not taken over, and named below: %4.</source>
+        <translation>Neue Seiten: %1. Zu ändern: %2. Schon da: %3. Nicht übernommen und unten genannt: %4.</translation>
     </message>
     <message>
-        <source>%1 sites were added, %2 were changed. What was not taken over is named below.</source>
-        <translation>%1 Seiten wurden hinzugefügt, %2 geändert. Was nicht übernommen wurde, steht unten.</translation>
+        <source>Sites added: %1. Changed: %2. What was not taken over is named below.</source>
+        <translation>Seiten hinzugefügt: %1. Geändert: %2. Was nicht übernommen wurde, steht unten.</translation>
     </message>
     <message>
         <source>Close</source>

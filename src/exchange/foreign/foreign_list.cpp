@@ -86,6 +86,7 @@ std::optional<ForeignKind> kindOfText(std::string_view text) {
 
 std::vector<std::string> foreignWords() {
   std::vector<std::string> words;
+  words.reserve(kKinds.size());
   for (const Kind& kind : kKinds) {
     words.emplace_back(kind.word);
   }

@@ -104,7 +104,7 @@ class JetTable {
     for (unsigned i = 0; i < table_->num_cols; ++i) {
       MdbColumn& column = *static_cast<MdbColumn*>(g_ptr_array_index(table_->columns, i));
       const bool isLong = column.col_type == MDB_MEMO || column.col_type == MDB_OLE;
-      columns_.push_back({&column, lowerCase(std::string(column.name)), column.col_type, isLong ? kPieceRoom : 0});
+      columns_.emplace_back(&column, lowerCase(std::string(column.name)), column.col_type, isLong ? kPieceRoom : 0);
       if (isLong) {
         column.col_type = MDB_OLE;  // whose bytes come as they are
       }
@@ -131,7 +131,7 @@ class JetTable {
       take(row);
     }
     // A page that is not there ends the table without a word.
-    if (rows != table_->num_rows) {
+    if (rows < table_->num_rows) {
       raiseDamaged("of the " + std::to_string(table_->num_rows) + " rows of the table " + std::string(table_->name) +
                    " " + std::to_string(rows) + " can be read");
     }
@@ -281,7 +281,7 @@ JetTables::JetTables(std::string_view bytes) : library_(std::make_unique<Library
   catalog.object_type = MDB_TABLE;
   catalog.table_pg = kCatalogPage;
   const std::unique_ptr<MdbTableDef, TableFree> table(mdb_read_table(&catalog));
-  if (table == nullptr || table->num_rows != handle->num_catalog ||
+  if (table == nullptr || handle->num_catalog < table->num_rows ||
       bytes.size() % static_cast<std::size_t>(handle->fmt->pg_size) != 0) {
     raiseDamaged("it is cut short, or its list of tables is not whole");
   }

@@ -163,14 +163,18 @@ void ImportDialog::tellPlan() {
   using enum ImportStep::Action;
   const Snapshot oneState(program_.data().database());
   ListFaults faults;
+  // The results of a log may be large, and only their number is told.
+  std::vector<LogRow> log = std::exchange(list_.list.content.log, {});
   AnyList told = list_.list;
+  told.content.log.resize(log.size());
+  list_.list.content.log = std::move(log);
   const ImportPlan plan = planAnyList(program_.data(), told, {}, faults);
   if (!faults.none()) {
     tellFaults(faults);
     return;
   }
   notes_->setLines(linesOf(told.content));
-  importState_->setText(tr("%1 new sites, %2 to change, %3 there already. What is not taken over is named below: %4.")
+  importState_->setText(tr("New sites: %1. To change: %2. There already: %3. Not taken over, and named below: %4.")
                             .arg(plan.count(add))
                             .arg(plan.count(change))
                             .arg(plan.unchanged)
@@ -184,20 +188,25 @@ void ImportDialog::tellPlan() {
 
 void ImportDialog::btnImport_Click() {
   using enum ImportStep::Action;
-  m& list = program_.data();
-  ListFaults faults;
-  Transaction whole(list.database());
-  AnyList taken = list_.list;
-  const ImportPlan plan = planAnyList(list, taken, {}, faults);
-  if (!faults.none()) {
-    tellFaults(faults);
-    return;
+  try {
+    m& list = program_.data();
+    ListFaults faults;
+    Transaction whole(list.database());
+    AnyList taken = std::exchange(list_.list, {});
+    const ImportPlan plan = planAnyList(list, taken, {}, faults);
+    if (!faults.none()) {
+      tellFaults(faults);
+      return;
+    }
+    carryOut(list, plan, taken);
+    whole.commit();
+    importState_->setText(tr("Sites added: %1. Changed: %2. What was not taken over is named below.")
+                              .arg(plan.count(add))
+                              .arg(plan.count(change)));
+  } catch (...) {
+    read();  // for the next attempt
+    throw;
   }
-  carryOut(list, plan, taken);
-  whole.commit();
-  importState_->setText(tr("%1 sites were added, %2 were changed. What was not taken over is named below.")
-                            .arg(plan.count(add))
-                            .arg(plan.count(change)));
   showNothingLeftToDo();
   program_.run().init();
 }

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "exchange/foreign/any_list.h"
+#include "exchange/list/site_import.h"
 #include "exchange/list/site_list_csv.h"
 #include "exchange/list/site_list_json.h"
 
@@ -62,10 +64,39 @@ void readAndWrite(std::string_view input, Reader read, WriterMaker make) {
   require(std::ranges::equal(sites, back, isSame), "what was written does not come back");
 }
 
+void requireLine(const std::string& text) {
+  require(!text.empty() && text.find_first_of("\r\n\x1b") == std::string::npos, "what is told is no line");
+}
+
 }  // namespace
 
 void fuzzSiteListCsv(std::string_view input) { readAndWrite(input, readSiteListCsv, makeCsvWriter); }
 
 void fuzzSiteListJson(std::string_view input) { readAndWrite(input, readSiteListJson, makeJsonWriter); }
+
+void fuzzForeignList(std::string_view input) {
+  using enum ForeignKind;
+  recognisedKind(input);
+  // A database is read by a library that damages may end; that is done in a process of its own.
+  for (const ForeignKind kind : {addresses, bookmarks, opml, urlwatch, changedetection}) {
+    ListFaults faults;
+    const ForeignList list = readForeign(kind, input, faults);
+    require(list.sites.size() <= list_bound::sites, "there are more sites than ids");
+    require(faults.none() || list.sites.empty(), "there are sites of a bad file");
+    require(!faults.none() || !list.sites.empty() || !list.notes.empty(), "nothing is told of the file");
+    for (const ListFaults::Fault& fault : faults.kept()) {
+      requireLine(lineOf(fault));
+    }
+    for (const ForeignNote& note : list.notes) {
+      requireLine(lineOf(note));
+    }
+    for (const ListedSite& site : list.sites) {
+      ListFaults none;
+      ListValues values(0, none);
+      checkTexts(site.site, values);
+      require(none.none(), "a site is none that an import takes");
+    }
+  }
+}
 
 }  // namespace tarnwick::testing

@@ -12,8 +12,10 @@ namespace tarnwick::testing {
 // back when they are written and read again.
 void fuzzSiteListCsv(std::string_view input);
 void fuzzSiteListJson(std::string_view input);
+// So does a file of another program, by whatever reader; what is told of it are lines.
+void fuzzForeignList(std::string_view input);
 
-inline constexpr std::array<FuzzTarget, 2> kSiteListFuzzTargets{
-    {{"site_list_csv", fuzzSiteListCsv}, {"site_list_json", fuzzSiteListJson}}};
+inline constexpr std::array<FuzzTarget, 3> kSiteListFuzzTargets{
+    {{"site_list_csv", fuzzSiteListCsv}, {"site_list_json", fuzzSiteListJson}, {"foreign_list", fuzzForeignList}}};
 
 }  // namespace tarnwick::testing

@@ -17,9 +17,8 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-const std::string kBookmarks =
-    "<!DOCTYPE NETSCAPE-Bookmark-file-1>\n<DL><p>\n<DT><A HREF=\"http://a.example/\">First</A>\n"
-    "<DT><A HREF=\"http://b.example\">Second</A>\n<DT><A HREF=\"javascript:void(0)\">Third</A>\n</DL>\n";
+// In every build there is a reader for it.
+const std::string kAddresses = "http://a.example/ First\nhttp://b.example Second\nmailto:me@example.org\n";
 
 class ImportDialogTest : public DialogTest {
  protected:
@@ -31,7 +30,7 @@ class ImportDialogTest : public DialogTest {
 
   /// Chooses the file by the menu, as a user does, and waits until it is read.
   ImportDialog& choose(const std::string& bytes) {
-    const std::string path = folder.file("import.html");
+    const std::string path = folder.file("import.txt");
     writeFile(path, bytes);
     machine.prompts.answerFile(path);
     find<QAction>("importList").trigger();
@@ -53,17 +52,17 @@ class ImportDialogTest : public DialogTest {
 };
 
 TEST_F(ImportDialogTest, ShowsWhatWouldComeAndTakesItWhenTheUserAgrees) {
-  auto& dialog = choose(kBookmarks);
-  EXPECT_EQ(state(dialog), "1 new sites, 0 to change, 1 there already. What is not taken over is named below: 3.");
-  EXPECT_THAT(notes(dialog), ElementsAre("line 3, http://a.example/: not taken over: title \"First\"",
-                                         "line 4, http://b.example: not taken over: title \"Second\"",
-                                         "line 5, javascript:void(0): left out: it is the address of no page"));
+  auto& dialog = choose(kAddresses);
+  EXPECT_EQ(state(dialog), "New sites: 1. To change: 0. There already: 1. Not taken over, and named below: 3.");
+  EXPECT_THAT(notes(dialog), ElementsAre("line 1, http://a.example/: not taken over: the text behind it, \"First\"",
+                                         "line 2, http://b.example: not taken over: the text behind it, \"Second\"",
+                                         "line 3, mailto:me@example.org: left out: it is the address of no page"));
   EXPECT_EQ(urls(), "1|http://b.example/\n") << "nothing is taken before the user agrees";
   EXPECT_EQ(rows(), 1);
   press(dialog, "btnImport");
   EXPECT_EQ(urls(), "1|http://b.example/\n2|http://a.example/\n");
   EXPECT_EQ(rows(), 2) << "the list shows it at once";
-  EXPECT_EQ(state(dialog), "1 sites were added, 0 were changed. What was not taken over is named below.");
+  EXPECT_EQ(state(dialog), "Sites added: 1. Changed: 0. What was not taken over is named below.");
   EXPECT_FALSE(in<QPushButton>(dialog, "btnImport").isEnabled());
   EXPECT_EQ(caption<QPushButton>(dialog, "btnCancel"), "Close");
   press(dialog, "btnCancel");
@@ -71,17 +70,18 @@ TEST_F(ImportDialogTest, ShowsWhatWouldComeAndTakesItWhenTheUserAgrees) {
 }
 
 TEST_F(ImportDialogTest, TakesNothingWhenTheUserDoesNotAgree) {
-  auto& dialog = choose(kBookmarks);
+  auto& dialog = choose(kAddresses);
   QTest::keyClick(&dialog, Qt::Key_Escape);
   waitUntil([&] { return shown<ImportDialog>() == nullptr; });
   EXPECT_EQ(urls(), "1|http://b.example/\n");
 }
 
 TEST_F(ImportDialogTest, TellsTheFaultsOfABadFile) {
-  auto& dialog = choose(kBookmarks.substr(0, kBookmarks.size() - 6));
+  auto& dialog = choose(kAddresses + "\x01\n");
   EXPECT_EQ(state(dialog), "Nothing can be imported. Faults of the file: 1.");
-  EXPECT_THAT(notes(dialog),
-              ElementsAre("line 6: the file breaks off here: a folder of it has no end. Export the bookmarks anew"));
+  EXPECT_THAT(
+      notes(dialog),
+      ElementsAre("line 4: a control character stands here, so this is no list of addresses: give a text file"));
   EXPECT_FALSE(in<QPushButton>(dialog, "btnImport").isEnabled());
 }
 
@@ -92,18 +92,31 @@ TEST_F(ImportDialogTest, LetsTheUserSayWhatKindOfFileItIs) {
   kind.setFocus();
   QTest::keyClicks(&kind, QStringLiteral("List of a"));
   waitUntil([&] { return in<QPushButton>(dialog, "btnImport").isEnabled(); });
-  EXPECT_THAT(state(dialog), HasSubstr("1 new sites"));
+  EXPECT_THAT(state(dialog), HasSubstr("New sites: 1."));
   EXPECT_THAT(notes(dialog), IsEmpty());
 }
 
 TEST_F(ImportDialogTest, IsOfferedForEveryKindOfFileThatCanBeRead) {
-  auto& dialog = choose(kBookmarks);
+  auto& dialog = choose(kAddresses);
   auto& kind = in<QComboBox>(dialog, "importKind");
   std::vector<std::string> words;
   for (int i = 1; i < kind.count(); ++i) {
     words.push_back(kind.itemData(i).toString().toStdString());
   }
   EXPECT_EQ(words, importWords());
+}
+
+TEST_F(ImportDialogTest, AnImportThatFailsTakesNothingAndCanBeTriedAgain) {
+  auto& dialog = choose(kAddresses);
+  folder.execute("create trigger full before insert on siteRows begin select raise(abort, 'no room'); end");
+  press(dialog, "btnImport");
+  ASSERT_EQ(machine.prompts.texts().size(), 2U) << "the file chooser and the box";
+  EXPECT_THAT(machine.prompts.texts()[1], HasSubstr("no room"));
+  EXPECT_EQ(urls(), "1|http://b.example/\n");
+  folder.execute("drop trigger full");
+  waitUntil([&] { return in<QPushButton>(dialog, "btnImport").isEnabled(); });
+  press(dialog, "btnImport");
+  EXPECT_EQ(urls(), "1|http://b.example/\n2|http://a.example/\n");
 }
 
 TEST_F(ImportDialogTest, AFileThatIsNotThereIsTold) {
@@ -129,7 +142,7 @@ TEST_F(ImportDialogTest, ClosesWithTheProgramWhileItReads) {
 }
 
 TEST_F(ImportDialogTest, EveryControlHasANameForThoseWhoDoNotSeeIt) {
-  auto& dialog = choose(kBookmarks);
+  auto& dialog = choose(kAddresses);
   for (const char* name : {"importKind", "importNotes", "importBar", "btnImport", "btnCancel"}) {
     EXPECT_NE(spoken(in<QWidget>(dialog, name)), QString()) << name;
   }
