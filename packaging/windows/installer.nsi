@@ -9,6 +9,7 @@
 ; installs: each user has a folder of his own, %LOCALAPPDATA%\tarnwick, which neither it nor the uninstaller touches.
 ;   tarnwick-VERSION-windows-x86_64-setup.exe /S              without any question
 ;   tarnwick-VERSION-windows-x86_64-setup.exe /S /AllUsers    the same for all users, run by an administrator
+;   ... /D=C:\folder                                           there; as the last, and without quotes
 ; Exit status: 0 done, 1 cancelled, 2 not done.
 ; Like the program for 64 bit alone; so it runs where nothing of 32 bit is, as under Wine without it.
 Unicode true
@@ -62,6 +63,8 @@ VIAddVersionKey /LANG=${LANG_ENGLISH} "FileVersion" "${VERSION}"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "FileDescription" "Installs Tarnwick"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "LegalCopyright" "The Tarnwick developers"
 
+Var named
+
 ; %LOCALAPPDATA%\Tarnwick, which would be the usual one for a user alone, is where his list lies.
 Function chooseFolder
   ${If} $MultiUser.InstallMode == "CurrentUser"
@@ -70,11 +73,9 @@ Function chooseFolder
       StrCpy $INSTDIR "$LOCALAPPDATA\Programs\Tarnwick"
     ${EndIf}
   ${EndIf}
-  ; A folder that is named counts.
-  ${GetParameters} $0
-  ${GetOptions} $CMDLINE "/D=" $1
-  ${IfNot} ${Errors}
-    StrCpy $INSTDIR $1
+  ; One that is named by /D= counts.
+  ${If} $named != ""
+    StrCpy $INSTDIR $named
   ${EndIf}
 FunctionEnd
 
@@ -101,6 +102,7 @@ FunctionEnd
 !insertmacro refuseWhileRunning "un."
 
 Function .onInit
+  StrCpy $named $INSTDIR
   SetRegView 64
   !insertmacro MULTIUSER_INIT
 FunctionEnd

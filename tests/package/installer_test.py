@@ -173,10 +173,10 @@ def refused_while_running(windows: Windows, installer: Path, mode: str, tool: Pa
 
 
 def refuses_a_folder_with_a_list(windows: Windows, installer: Path) -> None:
-    place = windows.drive / "with a list"
+    place = windows.drive / "with-a-list"
     place.mkdir()
     (place / "tarnwick.mdb").write_text("a list")
-    windows.run(installer, "/S", "/CurrentUser", "/D=C:\\with a list", status=2)
+    windows.run(installer, "/S", "/CurrentUser", "/D=C:\\with-a-list", status=2)
     expect([path.name for path in place.iterdir()] == ["tarnwick.mdb"], "something was laid beside a list")
 
 
