@@ -52,7 +52,7 @@ install(FILES assets/help.html DESTINATION ${shared} COMPONENT window)
 install(DIRECTORY assets/images DESTINATION ${shared} COMPONENT window FILES_MATCHING PATTERN *.bmp PATTERN *.png)
 install(DIRECTORY ${TARNWICK_HELP} DESTINATION ${shared} COMPONENT window)
 if(TARGET translations)
-  install(DIRECTORY ${TARNWICK_TRANSLATIONS} DESTINATION ${shared} COMPONENT window FILES_MATCHING PATTERN *.qm)
+  install(DIRECTORY ${TARNWICK_TRANSLATIONS} DESTINATION ${shared} COMPONENT cli FILES_MATCHING PATTERN *.qm)
 endif()
 
 # The shells', the service manager's and the desktop's places.

@@ -40,7 +40,7 @@ build package tarnwick tarnwickctl completions program_folder
   }
 )
 if [[ $tests == ON ]]; then
-  ctest --test-dir build/package --output-on-failure --no-tests=error -L package
+  LC_ALL=C.UTF-8 ctest --test-dir build/package --output-on-failure --no-tests=error -L package
   /usr/bin/python3 tests/package/bare_test.py build/package "$systems_cache"
 fi
 sha256sum build/package/tarnwick-*.tar.gz build/package/tarnwick*_*.deb

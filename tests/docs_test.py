@@ -21,7 +21,7 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True  # nothing is left among the sources
 
-from rules import names, picture  # noqa: E402
+from rules import names, picture, wordings  # noqa: E402
 
 MESSAGES = "docs/guide/troubleshooting.md"
 
@@ -63,7 +63,6 @@ NO_MESSAGES = {
     "src/cli/verbs/command_line.cpp": ("the tool's own help", ("Tarnwick watches", "Exit status:")),
     "src/cli/verbs/completion.cpp": ("what shells read", ()),
     "src/cli/verbs/option_verb.cpp": ("the options in the verb's help", ("Names, and", " In a new")),
-    "src/cli/verbs/import_verb.cpp": ("a line of a dry run", ("change the options",)),
     "src/cli/verbs/page_verbs.cpp": ("the head of a diff", ("--- baseline", "+++ latest")),
     "src/cli/pages/unified_diff.cpp": ("the word of every diff for it", (" No newline",)),
     "src/cli/verbs/site_verbs.cpp": ("cells of the verb site", ("set; --show", "none yet:")),
@@ -140,6 +139,18 @@ def worded(root: Path):
 
 def messages(root: Path):
     return ((name, line, text) for name, line, text in worded(root) if not is_excepted(name, text))
+
+
+def told_in_a_terminal(root: Path):
+    """Help and results of the tool, without the examples' commands: of each two texts of theirs the first."""
+    for path in sorted((root / "src" / "cli").rglob("*.cpp")):
+        name = path.relative_to(root).as_posix()
+        is_command = False
+        for line, text, calls in Source(path.read_text(encoding="utf-8")).texts:
+            is_command = "examples" in calls and not is_command
+            told = (HELP_CALLS | RESULT_CALLS).intersection(calls) and words_in(text) >= 3
+            if told and not is_command and not is_excepted(name, text):
+                yield name, line, text
 
 
 def plain(text: str) -> str:
@@ -221,7 +232,12 @@ def no_exception_is_stale(root: Path):
                        "out of NO_MESSAGES.")
 
 
-CHECKS = (every_message_is_explained, every_link_leads_somewhere, every_picture_is_used, *names.CHECKS,
+def every_message_can_be_translated(root: Path):
+    """Of the rooms that know no language; and what the terminal tool prints beside messages."""
+    return wordings.every_text_has_a_template(root, (*messages(root), *told_in_a_terminal(root)))
+
+
+CHECKS = (every_message_is_explained, every_message_can_be_translated, *wordings.CHECKS, every_link_leads_somewhere, every_picture_is_used, *names.CHECKS,
           picture.the_picture_is_that_of_the_table)
 
 

@@ -2,6 +2,3029 @@
 <!DOCTYPE TS>
 <TS version="2.1">
 <context>
+    <name>Messages</name>
+    <message>
+        <source>Loading ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ready ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Testing:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Testing: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time Until Next Check: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run Time: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No countdown: site %1 is still being entered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No countdown: site %1, never checked, waits for the next Start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No countdown: %1 sites, never checked, wait for the next Start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creating Report ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report Done ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You must enter a valid email address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are You Sure You Want To Delete All Logs?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compacting the database may take several minutes and disable this application during that time. Are You Sure You Want To Compact This DataBase?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compact Failed - Data May Be Corrupt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compact Successful</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logs Cleared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aborting compact:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do You Want To Delete This Site?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This site is fetched with GET; what it has of POST variables is kept but not sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The site %1 is not in the list any more. Close its editor; to watch it again, add it with New.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The interval of site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists of Sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail is left out, since the mail server %1 has not taken an earlier one in time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail server %1 has not taken the mail within %2; the other mails of this pass to it are left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No mail server is set, so the mail could not be sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail was given up when the run was stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail server %1 could not be reached or refused the mail.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the baseline was changed meanwhile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: the page goes on behind this line, the baseline ends with it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: the page ends with this line, the baseline goes on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: expected %2, found %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the fetch fails, and its text is the baseline: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the page differs from the baseline, and was not kept: there is too little room on the disk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page was not kept: there is too little room on the disk.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address of the site is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Site %2 is due again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the check of site %1. End other programs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overflow: the %1 counter of site %2 (%3) stands at %4 and cannot count further. Clear the counters in the site&apos;s Counters dialog.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no choice of sites with the number %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The request took longer than %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No connection to the proxy server %1 could be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 gives its files out at a port that cannot be reached.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection to %1 was refused.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The host %1 cannot be reached from this machine.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The host %1 does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No connection to %1 could be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The certificate of the server %1 could not be verified: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not valid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nobody whom this machine trusts has issued it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it was issued for another host</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has expired</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not valid yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 redirected to an address that is not valid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This machine has no more file handles for Tarnwick.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This machine has not enough memory for another connection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 closed the connection without an answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No secure connection to %1 could be made: the server closed the connection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No secure connection to %1 could be made: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No secure connection to %1 could be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of the host %1 could not be found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of the proxy server could not be found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The system&apos;s file of trusted certificates could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file of trusted certificates %1 could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transfer library cannot be used: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The header of the answer is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 did not answer in the language of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The answer of the server %1 is damaged: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its length is not clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bad trailer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bad chunk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The compressed answer of the server %1 could not be decoded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The compressed answer of the server %1 is incomplete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page is larger than %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The proxy server %1 made no connection to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 broke the connection off during its answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 redirected to an address of a kind that is not fetched; only http, https, ftp and ftps are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 asked for the user name and the password again and again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server redirected more than %1 times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 did not confirm the end of the transfer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 is not available for now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 redirected to an address that holds a name and a password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 refused the user name or the password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server %1 does not give the file out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transfer from %1 failed: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 port %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address %1 is not valid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Addresses of the kind %1 are not fetched, only http, https, ftp and ftps.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The method %1 is not valid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user name or the password holds a line end, and a file server takes none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overflow: %1 is %2, which does not fit 32 bits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overflow: %1 is %2, which is outside the range of -32768 to 32767.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overflow: no site can be added, since the site id %1 is in use and ids end at %2. Delete the site with the highest id, then add the new one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the site id %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the new site&apos;s id</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the setting timeout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the check interval of site %1 in seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the id of a POST variable of site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the width of a report bar (5 more than the count)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>report minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A file&apos;s name cannot hold a NUL character.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a folder, where a file was expected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program is using the file. Close that program and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Windows reports the error %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run is on in this folder already: %1 checks the sites of %2, and a second run would check each of them twice. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop that run first; when no such process exists on that machine any more, remove %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, so no run can be started in it.%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file system of this folder has no locks (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the folder to another disk.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder cannot be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a program (process %1 on %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (process %2 on %3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (process %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No pipe for the signals could be made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. The installation of Tarnwick is not whole: install it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The fresh file cannot be given this name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reports folder is there but holds no file. Put green.jpg and red.jpg into it, or remove it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text in the statement has no end: a single quote is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name in the statement has no end: a quote or bracket is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement holds a character outside its quoted texts that has no meaning there (character code %1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection string names no database: &quot;Data Source=&quot; is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection to the database is open already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection to the database is not open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the form of the tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the end of the file is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one statement can be run at a time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. Nothing was stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2 was not stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A record with this key is there already; nothing was stored. (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database does not allow this value; nothing was stored. (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 is in use by another program, which has locked it. Close that program, or wait until it is done, and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 could not be locked. Try again; if it lies on a network disk, move it to one of this machine.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A table of the database is still being read; the change cannot be made now. Try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be changed: the file %2, which belongs to it, is read-only. Allow writing to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be changed: the file or its folder is read-only. Allow writing to both.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be opened. Allow reading and writing the file and its folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk is full: the database %1 could not store this. Free some space and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk is full: even reading the database %1 needs room for a small file beside it. Free some space and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading or writing the database %1 failed. Check the disk it lies on, and its free space.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text is too large for the database; nothing was stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The record&apos;s number must be a whole number; nothing was stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database refused the statement: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or is no database. Put back a good copy, for instance backup.mdb. (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 is missing. Put the file back, for instance by copying backup.mdb to its name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 is a folder. Put the database file in its place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 is no file: a device, a pipe or a link that leads in a circle has its name. Put the database file in its place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 was exchanged for another file while it was in use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The files %1-wal and -shm, which belong to the database, were removed or exchanged while it was in use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was stored last may be lost. From now on the files that are there are used: look whether they are the right ones, and try again. Close every Tarnwick before you touch them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>datediff knows the units n and s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 is there already and would be overwritten. Remove it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written. Allow writing to its folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 belongs to another database than %2. Remove it. (%3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no current record: the statement returned none, or all have been read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The records have been closed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement returns no field &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement returns no field number %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer Tarnwick: its tables have form %2, and this program knows forms up to %3. Use the newer program, or put back a copy from before, for instance backup.mdb.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 has no settings row, so nothing could be stored. Put back a good copy, for instance backup.mdb.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 has no settings row. Put back a good copy, for instance backup.mdb.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The option %1 does not take &quot;%2&quot;. It takes %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no option &quot;%1&quot;. The options are: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The option %1 holds for all sites, and none has a value of its own.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run is on in this folder: %1 checks the sites of %2, and would go on with the list that is to be replaced. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, so the list in it cannot be replaced.%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no file, so it cannot be put in the place of the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 is the list itself. Name the copy to go back to, for instance backup.mdb.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 is a database, but no list of Tarnwick.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 is no sound copy of a list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 is no sound copy of a list. Nothing was changed. (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The option %1 does not take &quot;%2&quot;. It takes &quot;%3&quot; or &quot;%4&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The option %1 does not take &quot;%2&quot;. It takes &quot;%3&quot; or &quot;%4&quot; or &quot;%5&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2 (%3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2 or &quot;%3&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2 (%3) or &quot;%4&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has %1 fault</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has %1 faults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1, %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left out: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not taken over: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: left out: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: not taken over: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1, %2: left out: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1, %2: not taken over: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: left out: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: not taken over: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a control character stands here, so this is no list of addresses: give a text file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a command, and only pages are watched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text behind it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text behind it, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the address stands in the file before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the address stands in the file before, on line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the dates and icons of the bookmarks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>post data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file breaks off here: a folder of it has no end. Export the bookmarks anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file holds NUL bytes, so these are no bookmarks: export them as HTML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is no JSON: %1. The file may be cut short: copy it anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is no JSON: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the general setting %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is no list of changedetection.io: a watch in it is no object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>counters, times and the pages of the past</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is no list of changedetection.io: it has no member &quot;watching&quot; with an object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the zip archive holds no list: it is no backup of changedetection.io</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a list of addresses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the bookmarks of a browser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a list of urlwatch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the list or backup of changedetection.io</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is larger than 64 MiB, and no list of sites is: see whether it is the right one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is UTF-16: save it as UTF-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file holds no address: see whether it is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the file: see whether it is the right one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file cannot be read as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file cannot be read as %1: see whether it is the right one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is damaged so badly that it cannot be read: copy it anew, or export it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list was not handed over whole.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>method %1 (so it is switched off)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>interval of %1 seconds (taken as %2 min)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>request body %1, which is no form (so it is switched off)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>header %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is the address of no page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is no whole OPML: %1. Export it anew, or correct it here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is no OPML: its outermost element is %1 instead of &quot;opml&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this Tarnwick was built without %1, so it does not read %2: install %3 and build it again, or give a plain list of addresses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lists of urlwatch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>zip archives</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has no url</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time-out of %1 seconds (there is one for all sites: the setting timeout)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rendering by a browser (navigate)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is larger than 16 MiB, and no list of urlwatch is: see whether it is the right one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is no job of urlwatch: give one like url: https://...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is no YAML: %1. Correct it here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the zip archive is damaged or cut short (%1): copy or download it anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a file in it does not come to its end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the lists in the zip archive are larger than 64 MiB, and none is: see whether it is the right one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text is expected: a string, or {&quot;base64&quot;: &quot;...&quot;} for bytes that are no UTF-8.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>idSite %1 stands on line %2 already: give each site an id of its own, or none to add it as a new one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the option %1 holds for all sites, and none has a value of its own: set it for all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the url is empty: give the site&apos;s address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no id is left for a new site, since ids end at %1: give it one that is free, or delete the site of the highest id</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>site %1: the email %2 is imported, but is none that add takes: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 holds a line end or a NUL byte: give it without</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>url %1 is no address: give one like https://example.org/page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>url %1 cannot be fetched: give an address of http, https, ftp or ftps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>email %1 is no mail address: give one for the alerts, or set alertEmail to False</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>letters a to z, digits, &quot;.&quot;, &quot;-&quot;, &quot;_&quot; before the &quot;@&quot; only, and at most 3 characters behind the last &quot;.&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is no whole number: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is outside 1 to %3: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>give the site&apos;s id, or leave it out to add the site as a new one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>give the whole minutes between two checks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is neither yes nor no: give True or False</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is none that is sent: give get or post</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no option %1: they are listed by tarnwickctl option --help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the option %1 is given twice: leave one of them out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the option %1 does not take %2: give %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the baseline is larger than the largest page that is fetched, 64 MiB: leave it out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file holds more than 32767 sites, and a list has no ids for more: leave some out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the column url is missing: the first line names the columns, of which url must be one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the fields are separated by %1: save the file with commas between the fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>semicolons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no column %1: the first line names the columns, which are %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the column %1 is named twice: leave one of them out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>idSite 0 stands for all sites, which have options and nothing else: leave the other fields empty, or give a site&apos;s id</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the baseline is no base64 text: export it anew, or leave its column out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is empty: its first line names the columns, which are %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the number of fields is %1 and that of columns %2: give each column its field, and put one that holds a comma in quotes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the row has more than %1 fields, and the list has no such columns: leave them out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the quote that begins a field here is never closed: end the field with a quote, and double the quotes inside it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text stands behind the quote that ends a field (it begins on line %1): double the quotes inside a field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text stands behind the quote that ends a field: double the quotes inside a field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a quote stands inside a field that does not begin with one: put the field in quotes, and double the quotes inside it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a NUL character stands outside of quotes: save the file as UTF-8, or put the field in quotes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a carriage return stands alone: end lines with CR LF or LF, or put the field in quotes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the member &quot;tarnwick&quot;: 1 is missing, so this is no list of sites: begin the file with {&quot;tarnwick&quot;: 1, &quot;sites&quot;: [</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the member &quot;sites&quot; is missing: give an array with an object for each site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an object of more than %1 members</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an array of more than %1 values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the member %1 is given twice: leave one of them out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no member %1 beside the sites: the members are &quot;tarnwick&quot;, &quot;options&quot; and &quot;sites&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is of version %1 of the list&apos;s format, and version 1 can be read: export it with the same program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the site holds objects in objects that no member has: leave them out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the site holds %1, and none has so many: leave them out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the array &quot;sites&quot; holds something else than objects: give an object for each site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is no list of sites: it has the form {&quot;tarnwick&quot;: 1, &quot;sites&quot;: [{...}, ...]}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no member %1: the members are %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is no whole number: give one without quotes, a point or an exponent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is neither yes nor no: give true or false, without quotes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is no text: give a string, or {&quot;base64&quot;: &quot;...&quot;} for bytes that are no UTF-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>postVars is no array of {&quot;pname&quot;: &quot;...&quot;, &quot;pvalue&quot;: &quot;...&quot;}: give one such object a variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the option %1 is no text: give a string, or {&quot;base64&quot;: &quot;...&quot;} for bytes that are no UTF-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>options is no object: give {&quot;NAME&quot;: &quot;VALUE&quot;, ...}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the member url is missing: give the site&apos;s address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no encoded byte: write a percent sign as %%25</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no &quot;=&quot;: write name=value, and between two of them one &quot;&amp;&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are more than %1 variables, and no site has so many: leave them out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody can be asked here: to do it without a question, add --yes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 [y/N]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no moment. Write it as %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>YYYY-MM-DD, &quot;YYYY-MM-DD HH:MM:SS&quot;, today, or an age like 90s, 15m, 2h, 7d</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the site was changed, switched off or deleted while it was checked, so its page was dropped; check it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out, since never checked: %1. Check once with: tarnwickctl check%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No site is due.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no active site to check. Add one with: tarnwickctl add URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interrupted: %1 of %2 sites were checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A verb is missing, for instance: tarnwickctl sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no verb &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no whole number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no id: ids are whole numbers from 1 to 32767</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See: tarnwickctl%1 --help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See: tarnwickctl --help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The counters of all sites are 0 now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The counters of site %1 are 0 now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The format of &quot;%1&quot; does not show in its name. Add --format csv or --format json.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An import will refuse site %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An import will refuse %1; the first %2 are named.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is the list itself. Export to a file of another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exported %1 to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What kind of file &quot;%1&quot; is does not show in its content. Add --format with %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>change the options of all sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The options of all sites are changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to add, %2 to change, %3 to delete, %4 unchanged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 added, %2 changed, %3 deleted, %4 unchanged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 note tells what was not taken over, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 notes tell what was not taken over, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 entry was left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 entries were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 more like these are not shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was imported; %1 more faults are not shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has no site. Delete all that are in the list (%1) with their POST variables and baselines?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no fresh list beside the tool to lay into %1. The installation of Tarnwick is not whole: install it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder %1 has had a list, which is missing. Put tarnwick.mdb back, for instance with: tarnwickctl restore backup.mdb</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A fresh list lies in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a list in %1 already. It stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only &quot;log clear&quot; takes --yes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The log holds no such result.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The log holds no such result, and none is written. To write them: tarnwickctl settings clogs on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;log clear&quot; empties the whole log; it takes no option but --yes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete the whole log?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The log is empty now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither all nor the id of a site. The ids are listed by: tarnwickctl sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The option %1 of %2 is removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The option %1 of %2 is stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The option %1 is not set: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has no baseline yet: the next page that is fetched becomes it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interrupted; the baseline is as it was.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page of site %1 could not be fetched; the baseline is as it was. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page of site %1 is empty, which cannot be a baseline; the baseline is as it was.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page that was fetched now is the baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page that was fetched now is the baseline. (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is empty. To remove the baseline, use: tarnwickctl baseline %2 clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is larger than the largest page that is fetched, 64 MiB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is the baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is the baseline. (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has no latest page. Fetch it with: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has no latest page yet. Fetch it with: tarnwickctl check %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest check of site %1 brought no page but &quot;%2&quot;. Check again with: %3; if that is the page&apos;s own text, use --force.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest page is the baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest page is the baseline. (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only &quot;set&quot; takes a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only &quot;accept&quot; takes --force.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name the file: tarnwickctl baseline %1 set FILE (- for standard input)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The baseline is cleared: the next page that is fetched becomes it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--- baseline of site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>+++ latest page of site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is: tarnwickctl post %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has no POST variables. Add one with: tarnwickctl post %2 add NAME VALUE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has no variable %2. Letter case and blanks count; they are listed by: tarnwickctl post %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of the value %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has several variables %2. Add behind the name the value of the one that is meant: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has the variable %2 now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The variable is %1 = %2 now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The variable %1 is removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only &quot;list&quot; prints JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only &quot;add&quot; takes --value-file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run started: %1 active in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checked %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checked %1: %2; %3 left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mails</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(was down)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run goes on, but its lines cannot be written: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no active site to watch yet. Add one and check it once, so that this run takes it on: tarnwickctl add URL, then: tarnwickctl check ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The run has ended, since nobody reads its lines any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is an option, and no setting. See: tarnwickctl option all %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no setting &quot;%1&quot;. The settings are: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The setting %1 is on or off (also yes or no, true or false, 1 or 0), and &quot;%2&quot; is neither.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The setting %1 is a whole number of seconds from 1 to %2, and &quot;%3&quot; is none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The setting %1 is stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--post takes NAME=VALUE, and &quot;%1&quot; has no &quot;=&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user name &quot;%1&quot; holds a line end, which could become a command to a server. Give it as one line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say what is to be changed of site %1. See: tarnwickctl set --help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 is changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a valid address. One looks like https://example.org/page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be fetched: %2 is none of http, https, ftp and ftps.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a valid email address. One address is taken, like name@example.org: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no method. Take get or post.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 is fetched with GET, so its POST variables are kept but not sent. To send them: tarnwickctl set %2 --method post</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no interval. Take a number of minutes from 1 to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no site in the list yet. Add the first one with: tarnwickctl add URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No site of the list is like that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete %1, with its POST variables and its baseline?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete %1 sites (%2) with their POST variables and baselines?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 is deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--folder names no folder. Give the one in which tarnwick.mdb lies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard output took not all of it: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Or name the right folder with --folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no site %1. The ids are listed by: tarnwickctl sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A copy is put in its place by: tarnwickctl restore backup.mdb</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run that is on takes the site on once it was checked. Check it with: tarnwickctl check%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run that is on takes %1 of the sites on once they were checked. Check them with: tarnwickctl check%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compact Failed. The database is as it was: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compact Failed. There is no room for the compacted copy; the database is as it was: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database is compacted: %1 bytes before, %2 bytes after. backup.mdb is the copy from before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The one before is kept as %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>STATE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>METHOD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>INTERVAL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LAST TEST</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DOWN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OPTION</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OWN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EFFECTIVE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>VALUE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SETTING</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alert mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Baseline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not a page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>up (inactive)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down (inactive)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not a page (inactive)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>- (inactive)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yes, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>set; --show-password shows it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none yet: the next page that is fetched becomes it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 byte</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete site %1 (%2), with its POST variables and its baseline?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list is a copy of %1 now, with %2 site.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list is a copy of %1 now, with %2 sites.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>POSITIONALS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>REQUIRED</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Needs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Excludes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verbs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Positionals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examples:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print this help message and exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display program version information and exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From this moment on: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The kind of the file, where its content does not show it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names, and what they take:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes &quot;%1&quot; or &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes &quot;%1&quot; or &quot;%2&quot;. In a new list: &quot;%3&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes %1. In a new list: &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not set: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user name for the fetch; &quot;&quot; for none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read the password from a file, without its line end; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A POST variable; may be given several times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mail no failures; the address is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is required</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 excludes %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 not in {%3}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: Value %2 not in range [%3 - %4]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: Value %2 not in range %3 to %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The following argument was not expected: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The following arguments were not expected: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not convert: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 required %3 missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 1 required %2 missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no display for the window: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The window cannot be opened on the display %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tarnwick: %1 Start it on a desktop, or watch your sites in a terminal with: tarnwickctl run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tarnwick: There is no option &quot;%1&quot;. See: tarnwick --help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: tarnwick [OPTIONS]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the window of Tarnwick, which watches web pages for changes of their content.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>-h, --help     Print this text and end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--version      Print the version and end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options of the Qt toolkit, for instance -style, -platform and -display, are understood.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In a terminal the same work is done by: tarnwickctl</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check sites once, now: all active ones, those named, or those that are due</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sites to check, active or not</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only the active sites whose interval has elapsed; one that was never checked is none of them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each result is recorded, and each failure raises the alerts that the settings switch on, as in a run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit status: 0 when every site is up, 1 when one is down, 2 when the check could not be made,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3 when none is down, but one was changed, switched off or deleted meanwhile and its page was dropped,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4 when neither is so, but one is up only because its baseline is the text of a fetch that fails.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>every active site, a line each</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>two sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is due, for a script</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tarnwick watches web sites for changes of their content: the terminal front end. It works on the list of sites of a program folder, with or without the window open on the same folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit status: 0 when all is well, 1 when a site is down or a page differs, 2 when the work failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each verb has a --help with examples.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program folder, in which tarnwick.mdb lies (default: the tool&apos;s own, or yours where that one is shared)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print what lets a shell complete the tool&apos;s verbs and options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bash, zsh or fish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The packages bring it along. From an archive, for your own shell:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for bash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for fish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the counters of successes and failures to 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The site&apos;s id, as the verb sites lists it; every site without one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether a site is up or down stays as it is; the log stays too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of one site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of all sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the list of sites to a CSV or JSON file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file, whose name ends in .csv or .json; - is standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file&apos;s format, whatever its name: csv or json</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave the passwords out; an import then keeps those stored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the pages that the sites are compared with as well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file holds what has been set for each site, with its POST variables; what checks have found is not part of it. Only you can read it, and one that is there already is replaced when the new one is complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for a spreadsheet, or for another computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a copy of the whole list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>to standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take sites into the list from a file of Tarnwick or of another program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add every site as a new one, whatever its id in the file; the options of all sites stay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete the sites that the file does not name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not ask when the file has no site, so that --replace deletes every one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only say what would be done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A site whose id is in the list is changed, in the fields that the file has; one with another id is added under it, and one without an id is added as a new one. All of the file is taken, or nothing: each fault is told with its line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A CSV file names its columns in the first line, separated by commas. Only url must be there; the others are idSite, method (get or post), active, tInterval (minutes), alertEmail, email, sUserName, sPassWord, postVars (name=value&amp;name=value, other bytes than letters and digits as %XX), baseline (base64). An empty idSite, method, tInterval or yes/no is as one left out. A JSON file has the form {&quot;tarnwick&quot;: 1, &quot;sites&quot;: [{&quot;url&quot;: ...}, ...]}.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what would be added and changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>do it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>make the list as the file has it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the list of somebody else, beside one&apos;s own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what of a browser&apos;s bookmarks would be watched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lay a fresh list and mail template into a folder that has never had any</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder is made when it is missing. What is there stays as it is, and a list that has gone missing is an error. Without --folder the first start of the program does it by itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for a list beside your own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>whether one was laid, for a script</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the log of check results, the oldest first, or empty it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>show (default), clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only this site, also one that is deleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only checks that failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only the N newest of them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pages of the checks that failed as well; none is kept of the others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For &quot;clear&quot;: do not ask; needed where nobody can be asked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The setting clogs says whether results are written to the log.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what has failed today</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last 20 checks of a site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how often each address has failed in the last two hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>empty it, without a question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or change what a site, or the program, does otherwise than originally</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all, or the id of a site as the verb sites lists it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NAME shows an option, NAME=VALUE sets it, NAME= removes it; all are listed without one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A site without a value of its own goes by the one for all. Where neither is set, the program does as it did originally.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is set for all sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hand over a mail in half a minute at most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one site does otherwise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and again as all others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or change the page that a site is compared with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>show (default), load (fetch it from the URL now), set FILE, clear, accept (take the latest page)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file for &quot;set&quot;; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For &quot;accept&quot;: also a latest page that looks like a failed fetch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the baseline, byte for byte</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an edited one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what the last check fetched is how the page shall be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fetch the page now and take it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare a site&apos;s baseline with its latest page, as a unified diff</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest page is that of the last check. Exit status: 0 when equal, 1 when they differ.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what has changed, coloured on a terminal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for the program patch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List, add, change or remove the POST variables of a site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list (default), add, change, remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The variable&apos;s name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its value; not needed to find the only one of a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For &quot;change&quot;: the new name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For &quot;change&quot;: the new value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For &quot;change&quot;: the new name alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For &quot;change&quot;: the new value alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For &quot;add&quot;: read the value from a file, without its line end, so that no other user of this machine sees it on the command line; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names and values are found exactly as they are: letter case and blanks count. What begins with a minus sign is written behind --.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the variables, in the order in which they are sent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the one of this name and value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same, where it is the only one of its name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one less</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a value with a minus sign</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watch the sites until interrupted: check all active ones, then each when it is due</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A line for every result, not only for failures and recoveries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print an object a line for every event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+C (SIGINT) and SIGTERM stop the run and close the database; so does the end of what reads its output. One run at a time is possible on a folder. A site that is added meanwhile is taken on once it was checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a countdown on a terminal, lines with their time elsewhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only the failures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or change the program&apos;s settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A setting, in any letter case; all of them without one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its new value: a text, seconds, or on or off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A change takes effect at the next check, also in a run that is on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all of them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>wait a minute for a page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>send alert mails</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an empty text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The password for the fetch; other users of this machine may see it on the command line, so prefer --password-file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave it out of runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a site to the list and print its id</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without options it is fetched with GET every 10 minutes; with --post it is fetched with POST. The first page that is fetched becomes its baseline. A run that is on takes the site on once it was checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>watch a page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and check it at once, so that a run takes it on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what a form answers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>behind a password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with alert mails</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address of the page: http, https, ftp or ftps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let runs check it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change a site; what is not named stays as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --post the variables given replace all that the site has; the verb post changes single ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>check it more often</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the page has moved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no credentials any more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List the sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only those whose last check failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only those that a run checks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only those that a run leaves out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>STATE is &quot;up&quot; or &quot;down&quot; as the last check found, and &quot;-&quot; where none has been made. It is &quot;not a page&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where a site is up only because the text of a fetch that fails is its baseline, which the log tells.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what needs a look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the addresses that are down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all about one site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the password too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its settings, counters, POST variables, and the size of its baseline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same for a script, with the password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete sites with their POST variables and baselines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The ids of the sites, as the verb sites lists them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not ask; needed where nobody can be asked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All of them are deleted, or none when one is not in the list. What the log says of them stays.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>asks first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>three sites, without a question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put a copy of the list in its place, and keep the list as it was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy, for instance backup.mdb; it stays as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy must be a sound list. The list before, damaged or not, is kept beside it under a name with the date. No other program may have the list open: end a run and close the window first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>goes back to the list before the last compaction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same with a copy, for a script</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the report of today&apos;s log and print its path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is reports/report.html in the program folder; only the newest is kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the path of the page that was written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same for a script</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shrink the database, and keep a copy of it as it was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy is backup.mdb in the program folder. No other program may have the database open: end a run and close the window first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>prints the sizes before and after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The site&apos;s id, as the verb sites lists it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the page is fetched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether runs check it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time between two checks, 1 to 32767 minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alert mails</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether its failures are mailed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mail address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mail its failures to this address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user name for the fetch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The password for the fetch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the address that alert mails come from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mail server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the mail server that alert mails are handed to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the .wav file that an alert plays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the program that an alert starts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how long a fetch may take, in seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write every result to the log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write the daily report during a run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>play the alert sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start the alert program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aborting compact: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: changed while it was checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is: tarnwickctl post %1 NAME VALUE, or: NAME --value-file FILE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is: tarnwickctl post %1 NAME VALUE NEW_NAME NEW_VALUE, or: NAME [VALUE] [--name NEW_NAME] [--value NEW_VALUE]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the settings and the %1 results of the log, which only an empty list takes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a Jet database of the same tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is no Jet database: see whether it is the right file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the database has no table sites, so it is none of this program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 POST variable of a site that is not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 POST variables of sites that are not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its id is %1, and ids are 1 to 32767, each of them once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>interval of %1 min (taken as %2 min)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the database is damaged (%1): have its own program repair it, or take an older copy of it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of the %1 rows of the table %2 %3 can be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a row of the table %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its list of tables cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is cut short, or its list of tables is not whole</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings and %1 result of the log would be taken, too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings and %1 results of the log would be taken, too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings and %1 result of the log are taken, too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings and %1 results of the log are taken, too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Also taken are a list of addresses, one a line, the bookmarks of a browser (HTML), OPML, the lists of urlwatch, the list or the backup of changedetection.io, and a Jet database of the same tables. A site of theirs whose address is in the list is that site. What has no place in the list is named, site by site.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mails to %1, which is no mail address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 or jet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: At Most 1 required but received %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Email address</source>

@@ -2,6 +2,3029 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Messages</name>
+    <message>
+        <source>Loading ...</source>
+        <translation>Lädt ...</translation>
+    </message>
+    <message>
+        <source>Ready ...</source>
+        <translation>Bereit ...</translation>
+    </message>
+    <message>
+        <source>Running.</source>
+        <translation>Läuft.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Angehalten.</translation>
+    </message>
+    <message>
+        <source>Testing:</source>
+        <translation>Prüft:</translation>
+    </message>
+    <message>
+        <source>Testing: %1</source>
+        <translation>Prüft: %1</translation>
+    </message>
+    <message>
+        <source>Time Until Next Check: %1</source>
+        <translation>Zeit bis zur nächsten Prüfung: %1</translation>
+    </message>
+    <message>
+        <source>Run Time: %1</source>
+        <translation>Laufzeit: %1</translation>
+    </message>
+    <message>
+        <source>No countdown: site %1 is still being entered.</source>
+        <translation>Kein Countdown: Seite %1 wird noch eingegeben.</translation>
+    </message>
+    <message>
+        <source>No countdown: site %1, never checked, waits for the next Start.</source>
+        <translation>Kein Countdown: Seite %1, nie geprüft, wartet auf den nächsten Start.</translation>
+    </message>
+    <message>
+        <source>No countdown: %1 sites, never checked, wait for the next Start.</source>
+        <translation>Kein Countdown: %1 Seiten, nie geprüft, warten auf den nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Creating Report ...</source>
+        <translation>Schreibt den Bericht ...</translation>
+    </message>
+    <message>
+        <source>Report Done ...</source>
+        <translation>Bericht fertig ...</translation>
+    </message>
+    <message>
+        <source>You must enter a valid email address.</source>
+        <translation>Geben Sie bitte eine gültige E-Mail-Adresse ein.</translation>
+    </message>
+    <message>
+        <source>Are You Sure You Want To Delete All Logs?</source>
+        <translation>Möchten Sie wirklich das ganze Log löschen?</translation>
+    </message>
+    <message>
+        <source>Compacting the database may take several minutes and disable this application during that time. Are You Sure You Want To Compact This DataBase?</source>
+        <translation>Das Verdichten der Datenbank kann mehrere Minuten dauern, in denen dieses Programm nichts anderes tut. Möchten Sie die Datenbank wirklich verdichten?</translation>
+    </message>
+    <message>
+        <source>Compact Failed - Data May Be Corrupt</source>
+        <translation>Verdichten gescheitert - die Daten können beschädigt sein</translation>
+    </message>
+    <message>
+        <source>Compact Successful</source>
+        <translation>Verdichten gelungen</translation>
+    </message>
+    <message>
+        <source>Logs Cleared</source>
+        <translation>Log geleert</translation>
+    </message>
+    <message>
+        <source>Aborting compact:</source>
+        <translation>Verdichten abgebrochen:</translation>
+    </message>
+    <message>
+        <source>Do You Want To Delete This Site?</source>
+        <translation>Möchten Sie diese Seite löschen?</translation>
+    </message>
+    <message>
+        <source>This site is fetched with GET; what it has of POST variables is kept but not sent.</source>
+        <translation>Diese Seite wird mit GET geholt; ihre POST-Variablen bleiben erhalten, werden aber nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>The site %1 is not in the list any more. Close its editor; to watch it again, add it with New.</source>
+        <translation>Die Seite %1 steht nicht mehr in der Liste. Schließen Sie ihr Fenster; um sie wieder zu beobachten, fügen Sie sie mit „Neu“ hinzu.</translation>
+    </message>
+    <message>
+        <source>The interval of site %1</source>
+        <translation>Der Abstand von Seite %1</translation>
+    </message>
+    <message>
+        <source>Lists of Sites</source>
+        <translation>Listen von Seiten</translation>
+    </message>
+    <message>
+        <source>All Files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Audio Files</source>
+        <translation>Tondateien</translation>
+    </message>
+    <message>
+        <source>Program Files</source>
+        <translation>Programmdateien</translation>
+    </message>
+    <message>
+        <source>The mail is left out, since the mail server %1 has not taken an earlier one in time.</source>
+        <translation>Die Mail entfällt, da der Mail-Server %1 eine frühere nicht rechtzeitig angenommen hat.</translation>
+    </message>
+    <message>
+        <source>The mail server %1 has not taken the mail within %2; the other mails of this pass to it are left out.</source>
+        <translation>Der Mail-Server %1 hat die Mail nicht innerhalb von %2 angenommen; die übrigen Mails dieses Durchgangs an ihn entfallen.</translation>
+    </message>
+    <message>
+        <source>1 second</source>
+        <translation>1 Sekunde</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 Sekunden</translation>
+    </message>
+    <message>
+        <source>No mail server is set, so the mail could not be sent.</source>
+        <translation>Es ist kein Mail-Server eingestellt, daher konnte die Mail nicht gesendet werden.</translation>
+    </message>
+    <message>
+        <source>The mail was given up when the run was stopped.</source>
+        <translation>Die Mail wurde aufgegeben, als der Lauf beendet wurde.</translation>
+    </message>
+    <message>
+        <source>The mail server %1 could not be reached or refused the mail.</source>
+        <translation>Der Mail-Server %1 war nicht erreichbar oder hat die Mail abgelehnt.</translation>
+    </message>
+    <message>
+        <source>the baseline was changed meanwhile</source>
+        <translation>die Basis wurde inzwischen geändert</translation>
+    </message>
+    <message>
+        <source>line %1: the page goes on behind this line, the baseline ends with it</source>
+        <translation>Zeile %1: Die Seite geht hinter dieser Zeile weiter, die Basis endet mit ihr</translation>
+    </message>
+    <message>
+        <source>line %1: the page ends with this line, the baseline goes on</source>
+        <translation>Zeile %1: Die Seite endet mit dieser Zeile, die Basis geht weiter</translation>
+    </message>
+    <message>
+        <source>line %1: expected %2, found %3</source>
+        <translation>Zeile %1: erwartet %2, gefunden %3</translation>
+    </message>
+    <message>
+        <source>the fetch fails, and its text is the baseline: %1</source>
+        <translation>der Abruf scheitert, und sein Text ist die Basis: %1</translation>
+    </message>
+    <message>
+        <source>the page differs from the baseline, and was not kept: there is too little room on the disk</source>
+        <translation>die Seite weicht von der Basis ab und wurde nicht aufgehoben: Auf der Platte ist zu wenig Platz</translation>
+    </message>
+    <message>
+        <source>The page was not kept: there is too little room on the disk.</source>
+        <translation>Die Seite wurde nicht aufgehoben: Auf der Platte ist zu wenig Platz.</translation>
+    </message>
+    <message>
+        <source>The address of the site is empty.</source>
+        <translation>Die Adresse der Seite ist leer.</translation>
+    </message>
+    <message>
+        <source>%1 Site %2 is due again.</source>
+        <translation>%1 Seite %2 ist wieder fällig.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the check of site %1. End other programs.</source>
+        <translation>Für die Prüfung von Seite %1 reicht der Speicher nicht. Beenden Sie andere Programme.</translation>
+    </message>
+    <message>
+        <source>Overflow: the %1 counter of site %2 (%3) stands at %4 and cannot count further. Clear the counters in the site&apos;s Counters dialog.</source>
+        <translation>Überlauf: Der Zähler %1 von Seite %2 (%3) steht auf %4 und kann nicht weiter zählen. Setzen Sie die Zähler im Fenster „Zähler“ der Seite zurück.</translation>
+    </message>
+    <message>
+        <source>There is no choice of sites with the number %1.</source>
+        <translation>Es gibt keine Auswahl von Seiten mit der Nummer %1.</translation>
+    </message>
+    <message>
+        <source>The request took longer than %1.</source>
+        <translation>Die Abfrage dauerte länger als %1.</translation>
+    </message>
+    <message>
+        <source>No connection to the proxy server %1 could be made.</source>
+        <translation>Zum Proxy-Server %1 kam keine Verbindung zustande.</translation>
+    </message>
+    <message>
+        <source>The server %1 gives its files out at a port that cannot be reached.</source>
+        <translation>Der Server %1 gibt seine Dateien auf einem Port aus, der nicht erreichbar ist.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was refused.</source>
+        <translation>Die Verbindung zu %1 wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>The host %1 cannot be reached from this machine.</source>
+        <translation>Der Rechner %1 ist von diesem Rechner aus nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The host %1 does not answer.</source>
+        <translation>Der Rechner %1 antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>No connection to %1 could be made.</source>
+        <translation>Zu %1 kam keine Verbindung zustande.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server %1 could not be verified: %2.</source>
+        <translation>Das Zertifikat des Servers %1 konnte nicht geprüft werden: %2.</translation>
+    </message>
+    <message>
+        <source>it is not valid</source>
+        <translation>es ist nicht gültig</translation>
+    </message>
+    <message>
+        <source>nobody whom this machine trusts has issued it</source>
+        <translation>niemand, dem dieser Rechner vertraut, hat es ausgestellt</translation>
+    </message>
+    <message>
+        <source>it was issued for another host</source>
+        <translation>es wurde für einen anderen Rechner ausgestellt</translation>
+    </message>
+    <message>
+        <source>it has expired</source>
+        <translation>es ist abgelaufen</translation>
+    </message>
+    <message>
+        <source>it is not valid yet</source>
+        <translation>es ist noch nicht gültig</translation>
+    </message>
+    <message>
+        <source>The server %1 redirected to an address that is not valid.</source>
+        <translation>Der Server %1 leitete an eine ungültige Adresse weiter.</translation>
+    </message>
+    <message>
+        <source>This machine has no more file handles for Tarnwick.</source>
+        <translation>Dieser Rechner hat keine Dateihandles mehr für Tarnwick.</translation>
+    </message>
+    <message>
+        <source>This machine has not enough memory for another connection.</source>
+        <translation>Dieser Rechner hat nicht genug Speicher für eine weitere Verbindung.</translation>
+    </message>
+    <message>
+        <source>The server %1 closed the connection without an answer.</source>
+        <translation>Der Server %1 schloss die Verbindung ohne Antwort.</translation>
+    </message>
+    <message>
+        <source>No secure connection to %1 could be made: the server closed the connection.</source>
+        <translation>Zu %1 kam keine sichere Verbindung zustande: Der Server schloss die Verbindung.</translation>
+    </message>
+    <message>
+        <source>No secure connection to %1 could be made: %2.</source>
+        <translation>Zu %1 kam keine sichere Verbindung zustande: %2.</translation>
+    </message>
+    <message>
+        <source>No secure connection to %1 could be made.</source>
+        <translation>Zu %1 kam keine sichere Verbindung zustande.</translation>
+    </message>
+    <message>
+        <source>The name of the host %1 could not be found.</source>
+        <translation>Der Name des Rechners %1 wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>The name of the proxy server could not be found.</source>
+        <translation>Der Name des Proxy-Servers wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>The system&apos;s file of trusted certificates could not be read.</source>
+        <translation>Die Datei der vertrauenswürdigen Zertifikate des Systems konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The file of trusted certificates %1 could not be read.</source>
+        <translation>Die Datei der vertrauenswürdigen Zertifikate %1 konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The transfer library cannot be used: %1</source>
+        <translation>Die Übertragungsbibliothek lässt sich nicht benutzen: %1</translation>
+    </message>
+    <message>
+        <source>The header of the answer is too large.</source>
+        <translation>Der Kopf der Antwort ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The server %1 did not answer in the language of %2.</source>
+        <translation>Der Server %1 antwortete nicht in der Sprache von %2.</translation>
+    </message>
+    <message>
+        <source>The answer of the server %1 is damaged: %2.</source>
+        <translation>Die Antwort des Servers %1 ist beschädigt: %2.</translation>
+    </message>
+    <message>
+        <source>its length is not clear</source>
+        <translation>ihre Länge ist nicht klar</translation>
+    </message>
+    <message>
+        <source>bad trailer</source>
+        <translation>der Nachspann ist fehlerhaft</translation>
+    </message>
+    <message>
+        <source>bad chunk</source>
+        <translation>ein Stück ist fehlerhaft</translation>
+    </message>
+    <message>
+        <source>The compressed answer of the server %1 could not be decoded.</source>
+        <translation>Die komprimierte Antwort des Servers %1 konnte nicht entpackt werden.</translation>
+    </message>
+    <message>
+        <source>The compressed answer of the server %1 is incomplete.</source>
+        <translation>Die komprimierte Antwort des Servers %1 ist unvollständig.</translation>
+    </message>
+    <message>
+        <source>The page is larger than %1.</source>
+        <translation>Die Seite ist größer als %1.</translation>
+    </message>
+    <message>
+        <source>The proxy server %1 made no connection to %2.</source>
+        <translation>Der Proxy-Server %1 stellte keine Verbindung zu %2 her.</translation>
+    </message>
+    <message>
+        <source>The server %1 broke the connection off during its answer.</source>
+        <translation>Der Server %1 brach die Verbindung während seiner Antwort ab.</translation>
+    </message>
+    <message>
+        <source>The server %1 redirected to an address of a kind that is not fetched; only http, https, ftp and ftps are.</source>
+        <translation>Der Server %1 leitete an eine Adresse einer Art weiter, die nicht geholt wird; geholt werden nur http, https, ftp und ftps.</translation>
+    </message>
+    <message>
+        <source>The server %1 asked for the user name and the password again and again.</source>
+        <translation>Der Server %1 fragte immer wieder nach Benutzername und Passwort.</translation>
+    </message>
+    <message>
+        <source>The server redirected more than %1 times.</source>
+        <translation>Der Server leitete mehr als %1 Mal weiter.</translation>
+    </message>
+    <message>
+        <source>The server %1 did not confirm the end of the transfer.</source>
+        <translation>Der Server %1 bestätigte das Ende der Übertragung nicht.</translation>
+    </message>
+    <message>
+        <source>The server %1 is not available for now.</source>
+        <translation>Der Server %1 steht zurzeit nicht zur Verfügung.</translation>
+    </message>
+    <message>
+        <source>The server %1 redirected to an address that holds a name and a password.</source>
+        <translation>Der Server %1 leitete an eine Adresse weiter, die Name und Passwort enthält.</translation>
+    </message>
+    <message>
+        <source>The server %1 refused the user name or the password.</source>
+        <translation>Der Server %1 lehnte Benutzername oder Passwort ab.</translation>
+    </message>
+    <message>
+        <source>The server %1 does not give the file out.</source>
+        <translation>Der Server %1 gibt die Datei nicht aus.</translation>
+    </message>
+    <message>
+        <source>The transfer from %1 failed: %2.</source>
+        <translation>Die Übertragung von %1 scheiterte: %2.</translation>
+    </message>
+    <message>
+        <source>the server</source>
+        <translation>dem Server</translation>
+    </message>
+    <message>
+        <source>%1 port %2</source>
+        <translation>%1 Port %2</translation>
+    </message>
+    <message>
+        <source>The address is empty.</source>
+        <translation>Die Adresse ist leer.</translation>
+    </message>
+    <message>
+        <source>The address %1 is not valid.</source>
+        <translation>Die Adresse %1 ist nicht gültig.</translation>
+    </message>
+    <message>
+        <source>Addresses of the kind %1 are not fetched, only http, https, ftp and ftps.</source>
+        <translation>Adressen der Art %1 werden nicht geholt, nur http, https, ftp und ftps.</translation>
+    </message>
+    <message>
+        <source>The method %1 is not valid.</source>
+        <translation>Die Methode %1 ist nicht gültig.</translation>
+    </message>
+    <message>
+        <source>The user name or the password holds a line end, and a file server takes none.</source>
+        <translation>Benutzername oder Passwort enthält ein Zeilenende, und ein Datei-Server nimmt keines an.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the page.</source>
+        <translation>Für die Seite reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this.</source>
+        <translation>Dafür reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>Overflow: %1 is %2, which does not fit 32 bits.</source>
+        <translation>Überlauf: %1 ist %2, was nicht in 32 Bit passt.</translation>
+    </message>
+    <message>
+        <source>Overflow: %1 is %2, which is outside the range of -32768 to 32767.</source>
+        <translation>Überlauf: %1 ist %2, was außerhalb von -32768 bis 32767 liegt.</translation>
+    </message>
+    <message>
+        <source>Overflow: no site can be added, since the site id %1 is in use and ids end at %2. Delete the site with the highest id, then add the new one.</source>
+        <translation>Überlauf: Es kann keine Seite hinzugefügt werden, da die Seiten-ID %1 vergeben ist und die IDs bei %2 enden. Löschen Sie die Seite mit der höchsten ID und fügen Sie dann die neue hinzu.</translation>
+    </message>
+    <message>
+        <source>the site id %1</source>
+        <translation>die Seiten-ID %1</translation>
+    </message>
+    <message>
+        <source>the new site&apos;s id</source>
+        <translation>die ID der neuen Seite</translation>
+    </message>
+    <message>
+        <source>the setting timeout</source>
+        <translation>die Einstellung timeout</translation>
+    </message>
+    <message>
+        <source>the check interval of site %1 in seconds</source>
+        <translation>der Prüfabstand von Seite %1 in Sekunden</translation>
+    </message>
+    <message>
+        <source>the id of a POST variable of site %1</source>
+        <translation>die ID einer POST-Variablen von Seite %1</translation>
+    </message>
+    <message>
+        <source>the width of a report bar (5 more than the count)</source>
+        <translation>die Breite eines Balkens im Bericht (5 mehr als die Anzahl)</translation>
+    </message>
+    <message>
+        <source>report minutes</source>
+        <translation>die Minuten bis zum Bericht</translation>
+    </message>
+    <message>
+        <source>A file&apos;s name cannot hold a NUL character.</source>
+        <translation>Ein Dateiname kann kein NUL-Zeichen enthalten.</translation>
+    </message>
+    <message>
+        <source>This is a folder, where a file was expected.</source>
+        <translation>Dies ist ein Ordner, wo eine Datei erwartet wurde.</translation>
+    </message>
+    <message>
+        <source>Another program is using the file. Close that program and try again.</source>
+        <translation>Ein anderes Programm benutzt die Datei. Schließen Sie es und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Windows reports the error %1.</source>
+        <translation>Windows meldet den Fehler %1.</translation>
+    </message>
+    <message>
+        <source>A run is on in this folder already: %1 checks the sites of %2, and a second run would check each of them twice. %3</source>
+        <translation>In diesem Ordner ist schon ein Lauf im Gange: %1 prüft die Seiten von %2, und ein zweiter Lauf würde jede zweimal prüfen. %3</translation>
+    </message>
+    <message>
+        <source>Stop that run first; when no such process exists on that machine any more, remove %1.</source>
+        <translation>Beenden Sie erst diesen Lauf; gibt es den Prozess auf jenem Rechner nicht mehr, so löschen Sie %1.</translation>
+    </message>
+    <message>
+        <source>%1, so no run can be started in it.%2</source>
+        <translation>%1, daher kann darin kein Lauf beginnen.%2</translation>
+    </message>
+    <message>
+        <source>The file system of this folder has no locks (%1)</source>
+        <translation>Das Dateisystem dieses Ordners kennt keine Sperren (%1)</translation>
+    </message>
+    <message>
+        <source>Move the folder to another disk.</source>
+        <translation>Verlegen Sie den Ordner auf eine andere Platte.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written</source>
+        <translation>Der Ordner lässt sich nicht beschreiben</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>ein anderes Programm</translation>
+    </message>
+    <message>
+        <source>a program (process %1 on %2)</source>
+        <translation>ein Programm (Prozess %1 auf %2)</translation>
+    </message>
+    <message>
+        <source>%1 (process %2 on %3)</source>
+        <translation>%1 (Prozess %2 auf %3)</translation>
+    </message>
+    <message>
+        <source>%1 (process %2)</source>
+        <translation>%1 (Prozess %2)</translation>
+    </message>
+    <message>
+        <source>No pipe for the signals could be made</source>
+        <translation>Für die Signale ließ sich keine Pipe anlegen</translation>
+    </message>
+    <message>
+        <source>%1. The installation of Tarnwick is not whole: install it again.</source>
+        <translation>%1. Die Installation von Tarnwick ist unvollständig: Installieren Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The fresh file cannot be given this name.</source>
+        <translation>Die frische Datei lässt sich nicht so benennen.</translation>
+    </message>
+    <message>
+        <source>The reports folder is there but holds no file. Put green.jpg and red.jpg into it, or remove it.</source>
+        <translation>Der Ordner reports ist da, enthält aber keine Datei. Legen Sie green.jpg und red.jpg hinein oder löschen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>A text in the statement has no end: a single quote is missing.</source>
+        <translation>Ein Text in der Anweisung hat kein Ende: Ein einfaches Anführungszeichen fehlt.</translation>
+    </message>
+    <message>
+        <source>A name in the statement has no end: a quote or bracket is missing.</source>
+        <translation>Ein Name in der Anweisung hat kein Ende: Ein Anführungszeichen oder eine Klammer fehlt.</translation>
+    </message>
+    <message>
+        <source>The statement holds a character outside its quoted texts that has no meaning there (character code %1).</source>
+        <translation>Die Anweisung enthält außerhalb ihrer Texte ein Zeichen, das dort keine Bedeutung hat (Zeichencode %1).</translation>
+    </message>
+    <message>
+        <source>The connection string names no database: &quot;Data Source=&quot; is missing.</source>
+        <translation>Die Verbindungszeichenfolge nennt keine Datenbank: „Data Source=“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The connection to the database is open already.</source>
+        <translation>Die Verbindung zur Datenbank ist schon offen.</translation>
+    </message>
+    <message>
+        <source>The connection to the database is not open.</source>
+        <translation>Die Verbindung zur Datenbank ist nicht offen.</translation>
+    </message>
+    <message>
+        <source>the form of the tables</source>
+        <translation>die Form der Tabellen</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>the end of the file is missing</source>
+        <translation>das Ende der Datei fehlt</translation>
+    </message>
+    <message>
+        <source>The statement is empty.</source>
+        <translation>Die Anweisung ist leer.</translation>
+    </message>
+    <message>
+        <source>Only one statement can be run at a time.</source>
+        <translation>Es kann nur eine Anweisung auf einmal ausgeführt werden.</translation>
+    </message>
+    <message>
+        <source>Nothing was stored.</source>
+        <translation>Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>%1. Nothing was stored.</source>
+        <translation>%1. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>%1; %2 was not stored.</source>
+        <translation>%1; %2 wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>A record with this key is there already; nothing was stored. (%1)</source>
+        <translation>Einen Datensatz mit diesem Schlüssel gibt es schon; es wurde nichts gespeichert. (%1)</translation>
+    </message>
+    <message>
+        <source>The database does not allow this value; nothing was stored. (%1)</source>
+        <translation>Die Datenbank lässt diesen Wert nicht zu; es wurde nichts gespeichert. (%1)</translation>
+    </message>
+    <message>
+        <source>The database %1 is in use by another program, which has locked it. Close that program, or wait until it is done, and try again.</source>
+        <translation>Die Datenbank %1 wird von einem anderen Programm benutzt, das sie gesperrt hat. Schließen Sie es oder warten Sie, bis es fertig ist, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The database %1 could not be locked. Try again; if it lies on a network disk, move it to one of this machine.</source>
+        <translation>Die Datenbank %1 ließ sich nicht sperren. Versuchen Sie es noch einmal; liegt sie auf einem Netzlaufwerk, so verlegen Sie sie auf eines dieses Rechners.</translation>
+    </message>
+    <message>
+        <source>A table of the database is still being read; the change cannot be made now. Try again.</source>
+        <translation>Eine Tabelle der Datenbank wird noch gelesen; die Änderung ist jetzt nicht möglich. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be changed: the file %2, which belongs to it, is read-only. Allow writing to it.</source>
+        <translation>Die Datenbank %1 lässt sich nicht ändern: Die Datei %2, die zu ihr gehört, ist schreibgeschützt. Erlauben Sie das Schreiben.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be changed: the file or its folder is read-only. Allow writing to both.</source>
+        <translation>Die Datenbank %1 lässt sich nicht ändern: Die Datei oder ihr Ordner ist schreibgeschützt. Erlauben Sie das Schreiben in beides.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be opened. Allow reading and writing the file and its folder.</source>
+        <translation>Die Datenbank %1 lässt sich nicht öffnen. Erlauben Sie das Lesen und Schreiben der Datei und ihres Ordners.</translation>
+    </message>
+    <message>
+        <source>The disk is full: the database %1 could not store this. Free some space and try again.</source>
+        <translation>Die Platte ist voll: Die Datenbank %1 konnte dies nicht speichern. Schaffen Sie Platz und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The disk is full: even reading the database %1 needs room for a small file beside it. Free some space and try again.</source>
+        <translation>Die Platte ist voll: Schon das Lesen der Datenbank %1 braucht Platz für eine kleine Datei daneben. Schaffen Sie Platz und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Reading or writing the database %1 failed. Check the disk it lies on, and its free space.</source>
+        <translation>Das Lesen oder Schreiben der Datenbank %1 ist gescheitert. Prüfen Sie ihre Platte und deren freien Platz.</translation>
+    </message>
+    <message>
+        <source>The text is too large for the database; nothing was stored.</source>
+        <translation>Der Text ist zu groß für die Datenbank; es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The record&apos;s number must be a whole number; nothing was stored.</source>
+        <translation>Die Nummer des Datensatzes muss eine ganze Zahl sein; es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The database refused the statement: %1</source>
+        <translation>Die Datenbank lehnte die Anweisung ab: %1</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or is no database. Put back a good copy, for instance backup.mdb. (%2)</source>
+        <translation>Die Datei %1 ist beschädigt oder keine Datenbank. Legen Sie eine gute Kopie zurück, zum Beispiel backup.mdb. (%2)</translation>
+    </message>
+    <message>
+        <source>The database %1 is missing. Put the file back, for instance by copying backup.mdb to its name.</source>
+        <translation>Die Datenbank %1 fehlt. Legen Sie die Datei zurück, indem Sie zum Beispiel backup.mdb auf ihren Namen kopieren.</translation>
+    </message>
+    <message>
+        <source>The database %1 is a folder. Put the database file in its place.</source>
+        <translation>Die Datenbank %1 ist ein Ordner. Legen Sie die Datenbankdatei an seine Stelle.</translation>
+    </message>
+    <message>
+        <source>The database %1 is no file: a device, a pipe or a link that leads in a circle has its name. Put the database file in its place.</source>
+        <translation>Die Datenbank %1 ist keine Datei: Ein Gerät, eine Pipe oder ein Verweis, der im Kreis führt, hat ihren Namen. Legen Sie die Datenbankdatei an seine Stelle.</translation>
+    </message>
+    <message>
+        <source>The database %1 was exchanged for another file while it was in use.</source>
+        <translation>Die Datenbank %1 wurde während der Benutzung gegen eine andere Datei getauscht.</translation>
+    </message>
+    <message>
+        <source>The files %1-wal and -shm, which belong to the database, were removed or exchanged while it was in use.</source>
+        <translation>Die Dateien %1-wal und -shm, die zur Datenbank gehören, wurden während der Benutzung gelöscht oder getauscht.</translation>
+    </message>
+    <message>
+        <source>What was stored last may be lost. From now on the files that are there are used: look whether they are the right ones, and try again. Close every Tarnwick before you touch them.</source>
+        <translation>Was zuletzt gespeichert wurde, kann verloren sein. Von jetzt an werden die Dateien benutzt, die da sind: Sehen Sie nach, ob es die richtigen sind, und versuchen Sie es noch einmal. Schließen Sie jedes Tarnwick, bevor Sie sie anfassen.</translation>
+    </message>
+    <message>
+        <source>datediff knows the units n and s</source>
+        <translation>datediff kennt die Einheiten n und s</translation>
+    </message>
+    <message>
+        <source>The file %1 is there already and would be overwritten. Remove it.</source>
+        <translation>Die Datei %1 ist schon da und würde überschrieben. Löschen Sie sie.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written. Allow writing to its folder.</source>
+        <translation>Die Datei %1 lässt sich nicht schreiben. Erlauben Sie das Schreiben in ihren Ordner.</translation>
+    </message>
+    <message>
+        <source>The file %1 belongs to another database than %2. Remove it. (%3)</source>
+        <translation>Die Datei %1 gehört zu einer anderen Datenbank als %2. Löschen Sie sie. (%3)</translation>
+    </message>
+    <message>
+        <source>There is no current record: the statement returned none, or all have been read.</source>
+        <translation>Es gibt keinen aktuellen Datensatz: Die Anweisung ergab keinen, oder alle sind gelesen.</translation>
+    </message>
+    <message>
+        <source>The records have been closed.</source>
+        <translation>Die Datensätze wurden geschlossen.</translation>
+    </message>
+    <message>
+        <source>The statement returns no field &quot;%1&quot;.</source>
+        <translation>Die Anweisung ergibt kein Feld „%1“.</translation>
+    </message>
+    <message>
+        <source>The statement returns no field number %1.</source>
+        <translation>Die Anweisung ergibt kein Feld Nummer %1.</translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer Tarnwick: its tables have form %2, and this program knows forms up to %3. Use the newer program, or put back a copy from before, for instance backup.mdb.</source>
+        <translation>Die Datenbank %1 wurde von einem neueren Tarnwick geschrieben: Ihre Tabellen haben die Form %2, und dieses Programm kennt Formen bis %3. Benutzen Sie das neuere Programm oder legen Sie eine Kopie von vorher zurück, zum Beispiel backup.mdb.</translation>
+    </message>
+    <message>
+        <source>The database %1 has no settings row, so nothing could be stored. Put back a good copy, for instance backup.mdb.</source>
+        <translation>Die Datenbank %1 hat keine Zeile mit Einstellungen, daher konnte nichts gespeichert werden. Legen Sie eine gute Kopie zurück, zum Beispiel backup.mdb.</translation>
+    </message>
+    <message>
+        <source>The database %1 has no settings row. Put back a good copy, for instance backup.mdb.</source>
+        <translation>Die Datenbank %1 hat keine Zeile mit Einstellungen. Legen Sie eine gute Kopie zurück, zum Beispiel backup.mdb.</translation>
+    </message>
+    <message>
+        <source>The option %1 does not take &quot;%2&quot;. It takes %3.</source>
+        <translation>Die Option %1 nimmt „%2“ nicht an. Sie nimmt %3.</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>eine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>There is no option &quot;%1&quot;. The options are: %2.</source>
+        <translation>Es gibt keine Option „%1“. Die Optionen sind: %2.</translation>
+    </message>
+    <message>
+        <source>The option %1 holds for all sites, and none has a value of its own.</source>
+        <translation>Die Option %1 gilt für alle Seiten, und keine hat einen eigenen Wert.</translation>
+    </message>
+    <message>
+        <source>A run is on in this folder: %1 checks the sites of %2, and would go on with the list that is to be replaced. %3</source>
+        <translation>In diesem Ordner ist ein Lauf im Gange: %1 prüft die Seiten von %2 und ginge mit der Liste weiter, die ersetzt werden soll. %3</translation>
+    </message>
+    <message>
+        <source>%1, so the list in it cannot be replaced.%2</source>
+        <translation>%1, daher lässt sich die Liste darin nicht ersetzen.%2</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Es gibt keine Datei %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no file, so it cannot be put in the place of the list.</source>
+        <translation>%1 ist keine Datei und kann nicht an die Stelle der Liste treten.</translation>
+    </message>
+    <message>
+        <source>The file %1 is the list itself. Name the copy to go back to, for instance backup.mdb.</source>
+        <translation>Die Datei %1 ist die Liste selbst. Nennen Sie die Kopie, zu der Sie zurückwollen, zum Beispiel backup.mdb.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database, but no list of Tarnwick.</source>
+        <translation>Die Datei %1 ist eine Datenbank, aber keine Liste von Tarnwick.</translation>
+    </message>
+    <message>
+        <source>The file %1 is no sound copy of a list.</source>
+        <translation>Die Datei %1 ist keine heile Kopie einer Liste.</translation>
+    </message>
+    <message>
+        <source>The file %1 is no sound copy of a list. Nothing was changed. (%2)</source>
+        <translation>Die Datei %1 ist keine heile Kopie einer Liste. Es wurde nichts geändert. (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1; %2</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Site %1: %2</source>
+        <translation>Seite %1: %2</translation>
+    </message>
+    <message>
+        <source>site %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>1 site</source>
+        <translation>1 Seite</translation>
+    </message>
+    <message>
+        <source>%1 sites</source>
+        <translation>%1 Seiten</translation>
+    </message>
+    <message>
+        <source>all sites</source>
+        <translation>alle Seiten</translation>
+    </message>
+    <message>
+        <source>The option %1 does not take &quot;%2&quot;. It takes &quot;%3&quot; or &quot;%4&quot;.</source>
+        <translation>Die Option %1 nimmt „%2“ nicht an. Sie nimmt „%3“ oder „%4“.</translation>
+    </message>
+    <message>
+        <source>The option %1 does not take &quot;%2&quot;. It takes &quot;%3&quot; or &quot;%4&quot; or &quot;%5&quot;.</source>
+        <translation>Die Option %1 nimmt „%2“ nicht an. Sie nimmt „%3“, „%4“ oder „%5“.</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2 (%3)</source>
+        <translation>eine ganze Zahl von %1 bis %2 (%3)</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2 or &quot;%3&quot;</source>
+        <translation>eine ganze Zahl von %1 bis %2 oder „%3“</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2 (%3) or &quot;%4&quot;</source>
+        <translation>eine ganze Zahl von %1 bis %2 (%3) oder „%4“</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>einen Text</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation>Millisekunden</translation>
+    </message>
+    <message>
+        <source>The file has %1 fault</source>
+        <translation>Die Datei hat %1 Fehler</translation>
+    </message>
+    <message>
+        <source>The file has %1 faults</source>
+        <translation>Die Datei hat %1 Fehler</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2.</source>
+        <translation>Zeile %1: %2.</translation>
+    </message>
+    <message>
+        <source>line %1, %2: %3</source>
+        <translation>Zeile %1, %2: %3</translation>
+    </message>
+    <message>
+        <source>left out: %1</source>
+        <translation>weggelassen: %1</translation>
+    </message>
+    <message>
+        <source>not taken over: %1</source>
+        <translation>nicht übernommen: %1</translation>
+    </message>
+    <message>
+        <source>line %1: left out: %2</source>
+        <translation>Zeile %1: weggelassen: %2</translation>
+    </message>
+    <message>
+        <source>line %1: not taken over: %2</source>
+        <translation>Zeile %1: nicht übernommen: %2</translation>
+    </message>
+    <message>
+        <source>line %1, %2: left out: %3</source>
+        <translation>Zeile %1, %2: weggelassen: %3</translation>
+    </message>
+    <message>
+        <source>line %1, %2: not taken over: %3</source>
+        <translation>Zeile %1, %2: nicht übernommen: %3</translation>
+    </message>
+    <message>
+        <source>%1: left out: %2</source>
+        <translation>%1: weggelassen: %2</translation>
+    </message>
+    <message>
+        <source>%1: not taken over: %2</source>
+        <translation>%1: nicht übernommen: %2</translation>
+    </message>
+    <message>
+        <source>a control character stands here, so this is no list of addresses: give a text file</source>
+        <translation>hier steht ein Steuerzeichen, daher ist dies keine Liste von Adressen: Geben Sie eine Textdatei an</translation>
+    </message>
+    <message>
+        <source>it is a command, and only pages are watched</source>
+        <translation>es ist ein Befehl, und nur Seiten werden beobachtet</translation>
+    </message>
+    <message>
+        <source>the text behind it</source>
+        <translation>der Text dahinter</translation>
+    </message>
+    <message>
+        <source>the text behind it, %1</source>
+        <translation>der Text dahinter, %1</translation>
+    </message>
+    <message>
+        <source>the address stands in the file before</source>
+        <translation>die Adresse steht in der Datei schon vorher</translation>
+    </message>
+    <message>
+        <source>the address stands in the file before, on line %1</source>
+        <translation>die Adresse steht in der Datei schon vorher, in Zeile %1</translation>
+    </message>
+    <message>
+        <source>the dates and icons of the bookmarks</source>
+        <translation>Datum und Symbol der Lesezeichen</translation>
+    </message>
+    <message>
+        <source>post data</source>
+        <translation>Post-Daten</translation>
+    </message>
+    <message>
+        <source>the file breaks off here: a folder of it has no end. Export the bookmarks anew</source>
+        <translation>die Datei bricht hier ab: Einer ihrer Ordner hat kein Ende. Exportieren Sie die Lesezeichen neu</translation>
+    </message>
+    <message>
+        <source>the file holds NUL bytes, so these are no bookmarks: export them as HTML</source>
+        <translation>die Datei enthält NUL-Bytes, daher sind dies keine Lesezeichen: Exportieren Sie sie als HTML</translation>
+    </message>
+    <message>
+        <source>this is no JSON: %1. The file may be cut short: copy it anew</source>
+        <translation>dies ist kein JSON: %1. Die Datei kann abgeschnitten sein: Kopieren Sie sie neu</translation>
+    </message>
+    <message>
+        <source>this is no JSON: %1</source>
+        <translation>dies ist kein JSON: %1</translation>
+    </message>
+    <message>
+        <source>the general setting %1</source>
+        <translation>die allgemeine Einstellung %1</translation>
+    </message>
+    <message>
+        <source>this is no list of changedetection.io: a watch in it is no object</source>
+        <translation>dies ist keine Liste von changedetection.io: Ein Eintrag darin ist kein Objekt</translation>
+    </message>
+    <message>
+        <source>counters, times and the pages of the past</source>
+        <translation>Zähler, Zeiten und die Seiten von früher</translation>
+    </message>
+    <message>
+        <source>this is no list of changedetection.io: it has no member &quot;watching&quot; with an object</source>
+        <translation>dies ist keine Liste von changedetection.io: Sie hat kein Element „watching“ mit einem Objekt</translation>
+    </message>
+    <message>
+        <source>the zip archive holds no list: it is no backup of changedetection.io</source>
+        <translation>das ZIP-Archiv enthält keine Liste: Es ist keine Sicherung von changedetection.io</translation>
+    </message>
+    <message>
+        <source>a list of addresses</source>
+        <translation>eine Liste von Adressen</translation>
+    </message>
+    <message>
+        <source>the bookmarks of a browser</source>
+        <translation>die Lesezeichen eines Browsers</translation>
+    </message>
+    <message>
+        <source>a list of urlwatch</source>
+        <translation>eine Liste von urlwatch</translation>
+    </message>
+    <message>
+        <source>the list or backup of changedetection.io</source>
+        <translation>die Liste oder Sicherung von changedetection.io</translation>
+    </message>
+    <message>
+        <source>the file is larger than 64 MiB, and no list of sites is: see whether it is the right one</source>
+        <translation>die Datei ist größer als 64 MiB, und das ist keine Liste von Seiten: Sehen Sie nach, ob es die richtige ist</translation>
+    </message>
+    <message>
+        <source>the file is UTF-16: save it as UTF-8</source>
+        <translation>die Datei ist UTF-16: Speichern Sie sie als UTF-8</translation>
+    </message>
+    <message>
+        <source>the file holds no address: see whether it is %1</source>
+        <translation>die Datei enthält keine Adresse: Sehen Sie nach, ob es %1 ist</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the file: see whether it is the right one</source>
+        <translation>zum Lesen der Datei reicht der Speicher nicht: Sehen Sie nach, ob es die richtige ist</translation>
+    </message>
+    <message>
+        <source>the file cannot be read as %1</source>
+        <translation>die Datei lässt sich nicht lesen als %1</translation>
+    </message>
+    <message>
+        <source>the file cannot be read as %1: see whether it is the right one</source>
+        <translation>die Datei lässt sich nicht lesen als %1: Sehen Sie nach, ob es die richtige ist</translation>
+    </message>
+    <message>
+        <source>the file is damaged so badly that it cannot be read: copy it anew, or export it again</source>
+        <translation>die Datei ist so beschädigt, dass sie sich nicht lesen lässt: Kopieren oder exportieren Sie sie neu</translation>
+    </message>
+    <message>
+        <source>The list was not handed over whole.</source>
+        <translation>Die Liste wurde nicht ganz übergeben.</translation>
+    </message>
+    <message>
+        <source>method %1 (so it is switched off)</source>
+        <translation>Methode %1 (daher ist sie ausgeschaltet)</translation>
+    </message>
+    <message>
+        <source>interval of %1 seconds (taken as %2 min)</source>
+        <translation>Abstand von %1 Sekunden (übernommen als %2 min)</translation>
+    </message>
+    <message>
+        <source>request body %1, which is no form (so it is switched off)</source>
+        <translation>Inhalt der Abfrage %1, der kein Formular ist (daher ist sie ausgeschaltet)</translation>
+    </message>
+    <message>
+        <source>header %1</source>
+        <translation>Kopfzeile %1</translation>
+    </message>
+    <message>
+        <source>there is no address</source>
+        <translation>es gibt keine Adresse</translation>
+    </message>
+    <message>
+        <source>it is the address of no page</source>
+        <translation>es ist nicht die Adresse einer Seite</translation>
+    </message>
+    <message>
+        <source>this is no whole OPML: %1. Export it anew, or correct it here</source>
+        <translation>dies ist kein ganzes OPML: %1. Exportieren Sie es neu oder berichtigen Sie es hier</translation>
+    </message>
+    <message>
+        <source>this is no OPML: its outermost element is %1 instead of &quot;opml&quot;</source>
+        <translation>dies ist kein OPML: Sein äußerstes Element ist %1 statt „opml“</translation>
+    </message>
+    <message>
+        <source>this Tarnwick was built without %1, so it does not read %2: install %3 and build it again, or give a plain list of addresses</source>
+        <translation>dieses Tarnwick wurde ohne %1 gebaut und liest daher %2 nicht: Installieren Sie %3 und bauen Sie es noch einmal, oder geben Sie eine einfache Liste von Adressen an</translation>
+    </message>
+    <message>
+        <source>lists of urlwatch</source>
+        <translation>Listen von urlwatch</translation>
+    </message>
+    <message>
+        <source>zip archives</source>
+        <translation>ZIP-Archive</translation>
+    </message>
+    <message>
+        <source>it has no url</source>
+        <translation>es hat keine url</translation>
+    </message>
+    <message>
+        <source>time-out of %1 seconds (there is one for all sites: the setting timeout)</source>
+        <translation>Zeitlimit von %1 Sekunden (es gibt eines für alle Seiten: die Einstellung timeout)</translation>
+    </message>
+    <message>
+        <source>rendering by a browser (navigate)</source>
+        <translation>Darstellung durch einen Browser (navigate)</translation>
+    </message>
+    <message>
+        <source>the file is larger than 16 MiB, and no list of urlwatch is: see whether it is the right one</source>
+        <translation>die Datei ist größer als 16 MiB, und das ist keine Liste von urlwatch: Sehen Sie nach, ob es die richtige ist</translation>
+    </message>
+    <message>
+        <source>this is no job of urlwatch: give one like url: https://...</source>
+        <translation>dies ist kein Auftrag von urlwatch: Geben Sie einen an wie url: https://...</translation>
+    </message>
+    <message>
+        <source>this is no YAML: %1. Correct it here</source>
+        <translation>dies ist kein YAML: %1. Berichtigen Sie es hier</translation>
+    </message>
+    <message>
+        <source>the zip archive is damaged or cut short (%1): copy or download it anew</source>
+        <translation>das ZIP-Archiv ist beschädigt oder abgeschnitten (%1): Kopieren Sie es neu oder laden Sie es noch einmal herunter</translation>
+    </message>
+    <message>
+        <source>a file in it does not come to its end</source>
+        <translation>eine Datei darin kommt nicht zu ihrem Ende</translation>
+    </message>
+    <message>
+        <source>the lists in the zip archive are larger than 64 MiB, and none is: see whether it is the right one</source>
+        <translation>die Listen im ZIP-Archiv sind größer als 64 MiB, und das ist keine: Sehen Sie nach, ob es das richtige ist</translation>
+    </message>
+    <message>
+        <source>A text is expected: a string, or {&quot;base64&quot;: &quot;...&quot;} for bytes that are no UTF-8.</source>
+        <translation>Erwartet wird ein Text: eine Zeichenkette, oder {&quot;base64&quot;: &quot;...&quot;} für Bytes, die kein UTF-8 sind.</translation>
+    </message>
+    <message>
+        <source>idSite %1 stands on line %2 already: give each site an id of its own, or none to add it as a new one</source>
+        <translation>idSite %1 steht schon in Zeile %2: Geben Sie jeder Seite eine eigene ID, oder keine, um sie als neue hinzuzufügen</translation>
+    </message>
+    <message>
+        <source>the option %1 holds for all sites, and none has a value of its own: set it for all</source>
+        <translation>die Option %1 gilt für alle Seiten, und keine hat einen eigenen Wert: Setzen Sie sie für alle</translation>
+    </message>
+    <message>
+        <source>the url is empty: give the site&apos;s address</source>
+        <translation>die url ist leer: Geben Sie die Adresse der Seite an</translation>
+    </message>
+    <message>
+        <source>no id is left for a new site, since ids end at %1: give it one that is free, or delete the site of the highest id</source>
+        <translation>für eine neue Seite ist keine ID übrig, da die IDs bei %1 enden: Geben Sie ihr eine freie oder löschen Sie die Seite mit der höchsten ID</translation>
+    </message>
+    <message>
+        <source>site %1: the email %2 is imported, but is none that add takes: %3</source>
+        <translation>Seite %1: Die E-Mail-Adresse %2 wird übernommen, ist aber keine, die „add“ annimmt: %3</translation>
+    </message>
+    <message>
+        <source>%1 %2 holds a line end or a NUL byte: give it without</source>
+        <translation>%1 %2 enthält ein Zeilenende oder ein NUL-Byte: Geben Sie es ohne an</translation>
+    </message>
+    <message>
+        <source>url %1 is no address: give one like https://example.org/page</source>
+        <translation>url %1 ist keine Adresse: Geben Sie eine an wie https://example.org/page</translation>
+    </message>
+    <message>
+        <source>url %1 cannot be fetched: give an address of http, https, ftp or ftps</source>
+        <translation>url %1 kann nicht geholt werden: Geben Sie eine Adresse mit http, https, ftp oder ftps an</translation>
+    </message>
+    <message>
+        <source>email %1 is no mail address: give one for the alerts, or set alertEmail to False</source>
+        <translation>email %1 ist keine E-Mail-Adresse: Geben Sie eine für die Alarme an oder setzen Sie alertEmail auf False</translation>
+    </message>
+    <message>
+        <source>letters a to z, digits, &quot;.&quot;, &quot;-&quot;, &quot;_&quot; before the &quot;@&quot; only, and at most 3 characters behind the last &quot;.&quot;</source>
+        <translation>Buchstaben a bis z, Ziffern, „.“, „-“, „_“ nur vor dem „@“, und höchstens 3 Zeichen hinter dem letzten „.“</translation>
+    </message>
+    <message>
+        <source>%1 %2 is no whole number: %3</source>
+        <translation>%1 %2 ist keine ganze Zahl: %3</translation>
+    </message>
+    <message>
+        <source>%1 %2 is outside 1 to %3: %4</source>
+        <translation>%1 %2 liegt nicht in 1 bis %3: %4</translation>
+    </message>
+    <message>
+        <source>give the site&apos;s id, or leave it out to add the site as a new one</source>
+        <translation>Geben Sie die ID der Seite an, oder lassen Sie sie weg, um die Seite als neue hinzuzufügen</translation>
+    </message>
+    <message>
+        <source>give the whole minutes between two checks</source>
+        <translation>Geben Sie die ganzen Minuten zwischen zwei Prüfungen an</translation>
+    </message>
+    <message>
+        <source>%1 %2 is neither yes nor no: give True or False</source>
+        <translation>%1 %2 ist weder ja noch nein: Geben Sie True oder False an</translation>
+    </message>
+    <message>
+        <source>%1 %2 is none that is sent: give get or post</source>
+        <translation>%1 %2 ist keine, die gesendet wird: Geben Sie get oder post an</translation>
+    </message>
+    <message>
+        <source>there is no option %1: they are listed by tarnwickctl option --help</source>
+        <translation>es gibt keine Option %1: „tarnwickctl option --help“ führt sie auf</translation>
+    </message>
+    <message>
+        <source>the option %1 is given twice: leave one of them out</source>
+        <translation>die Option %1 ist zweimal angegeben: Lassen Sie eine weg</translation>
+    </message>
+    <message>
+        <source>the option %1 does not take %2: give %3</source>
+        <translation>die Option %1 nimmt %2 nicht an: Geben Sie %3 an</translation>
+    </message>
+    <message>
+        <source>the baseline is larger than the largest page that is fetched, 64 MiB: leave it out</source>
+        <translation>die Basis ist größer als die größte Seite, die geholt wird, 64 MiB: Lassen Sie sie weg</translation>
+    </message>
+    <message>
+        <source>the file holds more than 32767 sites, and a list has no ids for more: leave some out</source>
+        <translation>die Datei enthält mehr als 32767 Seiten, und für mehr hat eine Liste keine IDs: Lassen Sie einige weg</translation>
+    </message>
+    <message>
+        <source>the column url is missing: the first line names the columns, of which url must be one</source>
+        <translation>die Spalte url fehlt: Die erste Zeile nennt die Spalten, und url muss dabei sein</translation>
+    </message>
+    <message>
+        <source>the fields are separated by %1: save the file with commas between the fields</source>
+        <translation>die Felder sind durch %1 getrennt: Speichern Sie die Datei mit Kommas zwischen den Feldern</translation>
+    </message>
+    <message>
+        <source>semicolons</source>
+        <translation>Semikolons</translation>
+    </message>
+    <message>
+        <source>tabs</source>
+        <translation>Tabulatoren</translation>
+    </message>
+    <message>
+        <source>there is no column %1: the first line names the columns, which are %2</source>
+        <translation>es gibt keine Spalte %1: Die erste Zeile nennt die Spalten, diese sind %2</translation>
+    </message>
+    <message>
+        <source>the column %1 is named twice: leave one of them out</source>
+        <translation>die Spalte %1 ist zweimal genannt: Lassen Sie eine weg</translation>
+    </message>
+    <message>
+        <source>idSite 0 stands for all sites, which have options and nothing else: leave the other fields empty, or give a site&apos;s id</source>
+        <translation>idSite 0 steht für alle Seiten, die nur Optionen haben: Lassen Sie die anderen Felder leer oder geben Sie die ID einer Seite an</translation>
+    </message>
+    <message>
+        <source>the baseline is no base64 text: export it anew, or leave its column out</source>
+        <translation>die Basis ist kein base64-Text: Exportieren Sie sie neu oder lassen Sie ihre Spalte weg</translation>
+    </message>
+    <message>
+        <source>the file is empty: its first line names the columns, which are %1</source>
+        <translation>die Datei ist leer: Ihre erste Zeile nennt die Spalten, diese sind %1</translation>
+    </message>
+    <message>
+        <source>the number of fields is %1 and that of columns %2: give each column its field, and put one that holds a comma in quotes</source>
+        <translation>die Zahl der Felder ist %1 und die der Spalten %2: Geben Sie jeder Spalte ihr Feld, und setzen Sie eines mit einem Komma in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>the row has more than %1 fields, and the list has no such columns: leave them out</source>
+        <translation>die Zeile hat mehr als %1 Felder, und solche Spalten hat die Liste nicht: Lassen Sie sie weg</translation>
+    </message>
+    <message>
+        <source>the quote that begins a field here is never closed: end the field with a quote, and double the quotes inside it</source>
+        <translation>das Anführungszeichen, das hier ein Feld beginnt, wird nie geschlossen: Beenden Sie das Feld mit einem Anführungszeichen und verdoppeln Sie die darin</translation>
+    </message>
+    <message>
+        <source>text stands behind the quote that ends a field (it begins on line %1): double the quotes inside a field</source>
+        <translation>hinter dem Anführungszeichen, das ein Feld beendet, steht Text (es beginnt in Zeile %1): Verdoppeln Sie die Anführungszeichen in einem Feld</translation>
+    </message>
+    <message>
+        <source>text stands behind the quote that ends a field: double the quotes inside a field</source>
+        <translation>hinter dem Anführungszeichen, das ein Feld beendet, steht Text: Verdoppeln Sie die Anführungszeichen in einem Feld</translation>
+    </message>
+    <message>
+        <source>a quote stands inside a field that does not begin with one: put the field in quotes, and double the quotes inside it</source>
+        <translation>in einem Feld, das nicht mit einem Anführungszeichen beginnt, steht eines: Setzen Sie das Feld in Anführungszeichen und verdoppeln Sie die darin</translation>
+    </message>
+    <message>
+        <source>a NUL character stands outside of quotes: save the file as UTF-8, or put the field in quotes</source>
+        <translation>ein NUL-Zeichen steht außerhalb von Anführungszeichen: Speichern Sie die Datei als UTF-8 oder setzen Sie das Feld in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>a carriage return stands alone: end lines with CR LF or LF, or put the field in quotes</source>
+        <translation>ein Wagenrücklauf steht allein: Beenden Sie Zeilen mit CR LF oder LF, oder setzen Sie das Feld in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>the member &quot;tarnwick&quot;: 1 is missing, so this is no list of sites: begin the file with {&quot;tarnwick&quot;: 1, &quot;sites&quot;: [</source>
+        <translation>das Element &quot;tarnwick&quot;: 1 fehlt, daher ist dies keine Liste von Seiten: Beginnen Sie die Datei mit {&quot;tarnwick&quot;: 1, &quot;sites&quot;: [</translation>
+    </message>
+    <message>
+        <source>the member &quot;sites&quot; is missing: give an array with an object for each site</source>
+        <translation>das Element &quot;sites&quot; fehlt: Geben Sie ein Array mit einem Objekt für jede Seite an</translation>
+    </message>
+    <message>
+        <source>an object of more than %1 members</source>
+        <translation>ein Objekt mit mehr als %1 Elementen</translation>
+    </message>
+    <message>
+        <source>an array of more than %1 values</source>
+        <translation>ein Array mit mehr als %1 Werten</translation>
+    </message>
+    <message>
+        <source>the member %1 is given twice: leave one of them out</source>
+        <translation>das Element %1 ist zweimal angegeben: Lassen Sie eines weg</translation>
+    </message>
+    <message>
+        <source>there is no member %1 beside the sites: the members are &quot;tarnwick&quot;, &quot;options&quot; and &quot;sites&quot;</source>
+        <translation>neben den Seiten gibt es kein Element %1: Die Elemente sind &quot;tarnwick&quot;, &quot;options&quot; und &quot;sites&quot;</translation>
+    </message>
+    <message>
+        <source>the file is of version %1 of the list&apos;s format, and version 1 can be read: export it with the same program</source>
+        <translation>die Datei hat Version %1 des Listenformats, und gelesen wird Version 1: Exportieren Sie sie mit demselben Programm</translation>
+    </message>
+    <message>
+        <source>the site holds objects in objects that no member has: leave them out</source>
+        <translation>die Seite enthält Objekte in Objekten, die kein Element hat: Lassen Sie sie weg</translation>
+    </message>
+    <message>
+        <source>the site holds %1, and none has so many: leave them out</source>
+        <translation>die Seite enthält %1, und keine hat so viele: Lassen Sie sie weg</translation>
+    </message>
+    <message>
+        <source>the array &quot;sites&quot; holds something else than objects: give an object for each site</source>
+        <translation>das Array &quot;sites&quot; enthält anderes als Objekte: Geben Sie ein Objekt für jede Seite an</translation>
+    </message>
+    <message>
+        <source>this is no list of sites: it has the form {&quot;tarnwick&quot;: 1, &quot;sites&quot;: [{...}, ...]}</source>
+        <translation>dies ist keine Liste von Seiten: Sie hat die Form {&quot;tarnwick&quot;: 1, &quot;sites&quot;: [{...}, ...]}</translation>
+    </message>
+    <message>
+        <source>there is no member %1: the members are %2</source>
+        <translation>es gibt kein Element %1: Die Elemente sind %2</translation>
+    </message>
+    <message>
+        <source>%1 %2 is no whole number: give one without quotes, a point or an exponent</source>
+        <translation>%1 %2 ist keine ganze Zahl: Geben Sie eine ohne Anführungszeichen, Punkt und Exponent an</translation>
+    </message>
+    <message>
+        <source>%1 %2 is neither yes nor no: give true or false, without quotes</source>
+        <translation>%1 %2 ist weder ja noch nein: Geben Sie true oder false ohne Anführungszeichen an</translation>
+    </message>
+    <message>
+        <source>%1 %2 is no text: give a string, or {&quot;base64&quot;: &quot;...&quot;} for bytes that are no UTF-8</source>
+        <translation>%1 %2 ist kein Text: Geben Sie eine Zeichenkette an, oder {&quot;base64&quot;: &quot;...&quot;} für Bytes, die kein UTF-8 sind</translation>
+    </message>
+    <message>
+        <source>postVars is no array of {&quot;pname&quot;: &quot;...&quot;, &quot;pvalue&quot;: &quot;...&quot;}: give one such object a variable</source>
+        <translation>postVars ist kein Array von {&quot;pname&quot;: &quot;...&quot;, &quot;pvalue&quot;: &quot;...&quot;}: Geben Sie ein solches Objekt je Variable an</translation>
+    </message>
+    <message>
+        <source>the option %1 is no text: give a string, or {&quot;base64&quot;: &quot;...&quot;} for bytes that are no UTF-8</source>
+        <translation>die Option %1 ist kein Text: Geben Sie eine Zeichenkette an, oder {&quot;base64&quot;: &quot;...&quot;} für Bytes, die kein UTF-8 sind</translation>
+    </message>
+    <message>
+        <source>options is no object: give {&quot;NAME&quot;: &quot;VALUE&quot;, ...}</source>
+        <translation>options ist kein Objekt: Geben Sie {&quot;NAME&quot;: &quot;VALUE&quot;, ...} an</translation>
+    </message>
+    <message>
+        <source>the member url is missing: give the site&apos;s address</source>
+        <translation>das Element url fehlt: Geben Sie die Adresse der Seite an</translation>
+    </message>
+    <message>
+        <source>%1 is no encoded byte: write a percent sign as %%25</source>
+        <translation>%1 ist kein kodiertes Byte: Schreiben Sie ein Prozentzeichen als %%25</translation>
+    </message>
+    <message>
+        <source>%1 has no &quot;=&quot;: write name=value, and between two of them one &quot;&amp;&quot;</source>
+        <translation>%1 hat kein „=“: Schreiben Sie name=value und zwischen zwei davon ein „&amp;“</translation>
+    </message>
+    <message>
+        <source>there are more than %1 variables, and no site has so many: leave them out</source>
+        <translation>es sind mehr als %1 Variablen, und keine Seite hat so viele: Lassen Sie sie weg</translation>
+    </message>
+    <message>
+        <source>Nobody can be asked here: to do it without a question, add --yes.</source>
+        <translation>Hier ist niemand, den man fragen kann: Um es ohne Frage zu tun, fügen Sie --yes hinzu.</translation>
+    </message>
+    <message>
+        <source>%1 [y/N]</source>
+        <translation>%1 [j/N]</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no moment. Write it as %2.</source>
+        <translation>„%1“ ist kein Zeitpunkt. Schreiben Sie ihn als %2.</translation>
+    </message>
+    <message>
+        <source>YYYY-MM-DD, &quot;YYYY-MM-DD HH:MM:SS&quot;, today, or an age like 90s, 15m, 2h, 7d</source>
+        <translation>YYYY-MM-DD, &quot;YYYY-MM-DD HH:MM:SS&quot;, today oder ein Alter wie 90s, 15m, 2h, 7d</translation>
+    </message>
+    <message>
+        <source>the site was changed, switched off or deleted while it was checked, so its page was dropped; check it again</source>
+        <translation>die Seite wurde während ihrer Prüfung geändert, ausgeschaltet oder gelöscht, daher wurde das Geholte verworfen; prüfen Sie sie noch einmal</translation>
+    </message>
+    <message>
+        <source>Left out, since never checked: %1. Check once with: tarnwickctl check%2</source>
+        <translation>Weggelassen, da nie geprüft: %1. Einmal prüfen mit: tarnwickctl check%2</translation>
+    </message>
+    <message>
+        <source>No site is due.</source>
+        <translation>Keine Seite ist fällig.</translation>
+    </message>
+    <message>
+        <source>There is no active site to check. Add one with: tarnwickctl add URL</source>
+        <translation>Es gibt keine aktive Seite zu prüfen. Fügen Sie eine hinzu mit: tarnwickctl add URL</translation>
+    </message>
+    <message>
+        <source>Interrupted: %1 of %2 sites were checked.</source>
+        <translation>Unterbrochen: %1 von %2 Seiten wurden geprüft.</translation>
+    </message>
+    <message>
+        <source>A verb is missing, for instance: tarnwickctl sites</source>
+        <translation>Ein Verb fehlt, zum Beispiel: tarnwickctl sites</translation>
+    </message>
+    <message>
+        <source>There is no verb &quot;%1&quot;.</source>
+        <translation>Es gibt kein Verb „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>Es gibt keine Option „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no whole number</source>
+        <translation>„%1“ ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no id: ids are whole numbers from 1 to 32767</source>
+        <translation>„%1“ ist keine ID: IDs sind ganze Zahlen von 1 bis 32767</translation>
+    </message>
+    <message>
+        <source>See: tarnwickctl%1 --help</source>
+        <translation>Siehe: tarnwickctl%1 --help</translation>
+    </message>
+    <message>
+        <source>See: tarnwickctl --help</source>
+        <translation>Siehe: tarnwickctl --help</translation>
+    </message>
+    <message>
+        <source>The counters of all sites are 0 now.</source>
+        <translation>Die Zähler aller Seiten stehen jetzt auf 0.</translation>
+    </message>
+    <message>
+        <source>The counters of site %1 are 0 now.</source>
+        <translation>Die Zähler von Seite %1 stehen jetzt auf 0.</translation>
+    </message>
+    <message>
+        <source>The format of &quot;%1&quot; does not show in its name. Add --format csv or --format json.</source>
+        <translation>Der Name „%1“ zeigt kein Format. Fügen Sie --format csv oder --format json hinzu.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>Standardausgabe</translation>
+    </message>
+    <message>
+        <source>An import will refuse site %1: %2.</source>
+        <translation>Ein Import wird Seite %1 ablehnen: %2.</translation>
+    </message>
+    <message>
+        <source>An import will refuse %1; the first %2 are named.</source>
+        <translation>Ein Import wird %1 ablehnen; die ersten %2 sind genannt.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is the list itself. Export to a file of another name.</source>
+        <translation>Die Datei „%1“ ist die Liste selbst. Exportieren Sie in eine Datei mit anderem Namen.</translation>
+    </message>
+    <message>
+        <source>Exported %1 to %2.</source>
+        <translation>%1 exportiert nach %2.</translation>
+    </message>
+    <message>
+        <source>What kind of file &quot;%1&quot; is does not show in its content. Add --format with %2.</source>
+        <translation>Welcher Art die Datei „%1“ ist, zeigt ihr Inhalt nicht. Fügen Sie --format hinzu mit %2.</translation>
+    </message>
+    <message>
+        <source>change the options of all sites</source>
+        <translation>die Optionen aller Seiten ändern</translation>
+    </message>
+    <message>
+        <source>The options of all sites are changed.</source>
+        <translation>Die Optionen aller Seiten sind geändert.</translation>
+    </message>
+    <message>
+        <source>%1 to add, %2 to change, %3 to delete, %4 unchanged.</source>
+        <translation>%1 hinzuzufügen, %2 zu ändern, %3 zu löschen, %4 unverändert.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 changed, %3 deleted, %4 unchanged.</source>
+        <translation>%1 hinzugefügt, %2 geändert, %3 gelöscht, %4 unverändert.</translation>
+    </message>
+    <message>
+        <source>1 note tells what was not taken over, %1</source>
+        <translation>1 Hinweis sagt, was nicht übernommen wurde, %1</translation>
+    </message>
+    <message>
+        <source>%1 notes tell what was not taken over, %2</source>
+        <translation>%1 Hinweise sagen, was nicht übernommen wurde, %2</translation>
+    </message>
+    <message>
+        <source>%1 entry was left out.</source>
+        <translation>%1 Eintrag wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>%1 entries were left out.</source>
+        <translation>%1 Einträge wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3.</source>
+        <translation>%1, Zeile %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1 more like these are not shown.</source>
+        <translation>%1 weitere dieser Art sind nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Es wurde nichts importiert.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; %1 more faults are not shown.</source>
+        <translation>Es wurde nichts importiert; %1 weitere Fehler sind nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>The file has no site. Delete all that are in the list (%1) with their POST variables and baselines?</source>
+        <translation>Die Datei hat keine Seite. Alle löschen, die in der Liste stehen (%1), mit ihren POST-Variablen und Basen?</translation>
+    </message>
+    <message>
+        <source>There is no fresh list beside the tool to lay into %1. The installation of Tarnwick is not whole: install it again.</source>
+        <translation>Neben dem Werkzeug liegt keine frische Liste, die nach %1 gelegt werden könnte. Die Installation von Tarnwick ist unvollständig: Installieren Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The folder %1 has had a list, which is missing. Put tarnwick.mdb back, for instance with: tarnwickctl restore backup.mdb</source>
+        <translation>Der Ordner %1 hatte eine Liste, die fehlt. Legen Sie tarnwick.mdb zurück, zum Beispiel mit: tarnwickctl restore backup.mdb</translation>
+    </message>
+    <message>
+        <source>A fresh list lies in %1.</source>
+        <translation>Eine frische Liste liegt in %1.</translation>
+    </message>
+    <message>
+        <source>There is a list in %1 already. It stays as it is.</source>
+        <translation>In %1 gibt es schon eine Liste. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Only &quot;log clear&quot; takes --yes.</source>
+        <translation>Nur „log clear“ nimmt --yes.</translation>
+    </message>
+    <message>
+        <source>The log holds no such result.</source>
+        <translation>Das Log enthält kein solches Ergebnis.</translation>
+    </message>
+    <message>
+        <source>The log holds no such result, and none is written. To write them: tarnwickctl settings clogs on</source>
+        <translation>Das Log enthält kein solches Ergebnis, und es wird keines geschrieben. Um sie zu schreiben: tarnwickctl settings clogs on</translation>
+    </message>
+    <message>
+        <source>&quot;log clear&quot; empties the whole log; it takes no option but --yes.</source>
+        <translation>„log clear“ leert das ganze Log; es nimmt keine Option außer --yes.</translation>
+    </message>
+    <message>
+        <source>Delete the whole log?</source>
+        <translation>Das ganze Log löschen?</translation>
+    </message>
+    <message>
+        <source>The log is empty now.</source>
+        <translation>Das Log ist jetzt leer.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither all nor the id of a site. The ids are listed by: tarnwickctl sites</source>
+        <translation>„%1“ ist weder all noch die ID einer Seite. Die IDs zeigt: tarnwickctl sites</translation>
+    </message>
+    <message>
+        <source>The option %1 of %2 is removed.</source>
+        <translation>Die Option %1 von %2 ist entfernt.</translation>
+    </message>
+    <message>
+        <source>The option %1 of %2 is stored.</source>
+        <translation>Die Option %1 von %2 ist gespeichert.</translation>
+    </message>
+    <message>
+        <source>The option %1 is not set: %2.</source>
+        <translation>Die Option %1 ist nicht gesetzt: %2.</translation>
+    </message>
+    <message>
+        <source>Site %1 has no baseline yet: the next page that is fetched becomes it.</source>
+        <translation>Seite %1 hat noch keine Basis: Die nächste Seite, die geholt wird, wird es.</translation>
+    </message>
+    <message>
+        <source>Interrupted; the baseline is as it was.</source>
+        <translation>Unterbrochen; die Basis ist, wie sie war.</translation>
+    </message>
+    <message>
+        <source>The page of site %1 could not be fetched; the baseline is as it was. %2</source>
+        <translation>Der Inhalt von Seite %1 ließ sich nicht holen; die Basis ist, wie sie war. %2</translation>
+    </message>
+    <message>
+        <source>The page of site %1 is empty, which cannot be a baseline; the baseline is as it was.</source>
+        <translation>Der Inhalt von Seite %1 ist leer, was keine Basis sein kann; die Basis ist, wie sie war.</translation>
+    </message>
+    <message>
+        <source>The page that was fetched now is the baseline.</source>
+        <translation>Die eben geholte Seite ist die Basis.</translation>
+    </message>
+    <message>
+        <source>The page that was fetched now is the baseline. (%1)</source>
+        <translation>Die eben geholte Seite ist die Basis. (%1)</translation>
+    </message>
+    <message>
+        <source>%1 is empty. To remove the baseline, use: tarnwickctl baseline %2 clear</source>
+        <translation>%1 ist leer. Um die Basis zu entfernen: tarnwickctl baseline %2 clear</translation>
+    </message>
+    <message>
+        <source>%1 is larger than the largest page that is fetched, 64 MiB.</source>
+        <translation>%1 ist größer als die größte Seite, die geholt wird, 64 MiB.</translation>
+    </message>
+    <message>
+        <source>The file is the baseline.</source>
+        <translation>Die Datei ist die Basis.</translation>
+    </message>
+    <message>
+        <source>The file is the baseline. (%1)</source>
+        <translation>Die Datei ist die Basis. (%1)</translation>
+    </message>
+    <message>
+        <source>Site %1 has no latest page. Fetch it with: %2</source>
+        <translation>Seite %1 hat keinen letzten Inhalt. Holen Sie ihn mit: %2</translation>
+    </message>
+    <message>
+        <source>Site %1 has no latest page yet. Fetch it with: tarnwickctl check %2</source>
+        <translation>Seite %1 hat noch keinen letzten Inhalt. Holen Sie ihn mit: tarnwickctl check %2</translation>
+    </message>
+    <message>
+        <source>The latest check of site %1 brought no page but &quot;%2&quot;. Check again with: %3; if that is the page&apos;s own text, use --force.</source>
+        <translation>Die letzte Prüfung von Seite %1 brachte keine Seite, sondern „%2“. Prüfen Sie noch einmal mit: %3; ist das der Text der Seite selbst, so nehmen Sie --force.</translation>
+    </message>
+    <message>
+        <source>The latest page is the baseline.</source>
+        <translation>Der letzte Inhalt ist die Basis.</translation>
+    </message>
+    <message>
+        <source>The latest page is the baseline. (%1)</source>
+        <translation>Der letzte Inhalt ist die Basis. (%1)</translation>
+    </message>
+    <message>
+        <source>Only &quot;set&quot; takes a file.</source>
+        <translation>Nur „set“ nimmt eine Datei.</translation>
+    </message>
+    <message>
+        <source>Only &quot;accept&quot; takes --force.</source>
+        <translation>Nur „accept“ nimmt --force.</translation>
+    </message>
+    <message>
+        <source>Name the file: tarnwickctl baseline %1 set FILE (- for standard input)</source>
+        <translation>Nennen Sie die Datei: tarnwickctl baseline %1 set FILE (- für die Standardeingabe)</translation>
+    </message>
+    <message>
+        <source>The baseline is cleared: the next page that is fetched becomes it.</source>
+        <translation>Die Basis ist gelöscht: Die nächste Seite, die geholt wird, wird es.</translation>
+    </message>
+    <message>
+        <source>--- baseline of site %1</source>
+        <translation>--- Basis von Seite %1</translation>
+    </message>
+    <message>
+        <source>+++ latest page of site %1</source>
+        <translation>+++ letzter Inhalt von Seite %1</translation>
+    </message>
+    <message>
+        <source>It is: tarnwickctl post %1</source>
+        <translation>Richtig ist: tarnwickctl post %1</translation>
+    </message>
+    <message>
+        <source>Site %1 has no POST variables. Add one with: tarnwickctl post %2 add NAME VALUE</source>
+        <translation>Seite %1 hat keine POST-Variablen. Fügen Sie eine hinzu mit: tarnwickctl post %2 add NAME VALUE</translation>
+    </message>
+    <message>
+        <source>Site %1 has no variable %2. Letter case and blanks count; they are listed by: tarnwickctl post %3</source>
+        <translation>Seite %1 hat keine Variable %2. Groß- und Kleinschreibung und Leerzeichen zählen; es zeigt sie: tarnwickctl post %3</translation>
+    </message>
+    <message>
+        <source>%1 of the value %2</source>
+        <translation>%1 mit dem Wert %2</translation>
+    </message>
+    <message>
+        <source>Site %1 has several variables %2. Add behind the name the value of the one that is meant: %3</source>
+        <translation>Seite %1 hat mehrere Variablen %2. Fügen Sie hinter dem Namen den Wert der gemeinten an: %3</translation>
+    </message>
+    <message>
+        <source>Site %1 has the variable %2 now.</source>
+        <translation>Seite %1 hat jetzt die Variable %2.</translation>
+    </message>
+    <message>
+        <source>The variable is %1 = %2 now.</source>
+        <translation>Die Variable ist jetzt %1 = %2.</translation>
+    </message>
+    <message>
+        <source>The variable %1 is removed.</source>
+        <translation>Die Variable %1 ist entfernt.</translation>
+    </message>
+    <message>
+        <source>Only &quot;list&quot; prints JSON.</source>
+        <translation>Nur „list“ gibt JSON aus.</translation>
+    </message>
+    <message>
+        <source>Only &quot;add&quot; takes --value-file.</source>
+        <translation>Nur „add“ nimmt --value-file.</translation>
+    </message>
+    <message>
+        <source>Run started: %1 active in %2.</source>
+        <translation>Lauf begonnen: %1 aktiv in %2.</translation>
+    </message>
+    <message>
+        <source>Run stopped.</source>
+        <translation>Lauf beendet.</translation>
+    </message>
+    <message>
+        <source>Checked %1: %2.</source>
+        <translation>%1 geprüft: %2.</translation>
+    </message>
+    <message>
+        <source>Checked %1: %2; %3 left out.</source>
+        <translation>%1 geprüft: %2; %3 weggelassen.</translation>
+    </message>
+    <message>
+        <source>%1 mail</source>
+        <translation>%1 Mail</translation>
+    </message>
+    <message>
+        <source>%1 mails</source>
+        <translation>%1 Mails</translation>
+    </message>
+    <message>
+        <source>(was down)</source>
+        <translation>(war down)</translation>
+    </message>
+    <message>
+        <source>The run goes on, but its lines cannot be written: %1.</source>
+        <translation>Der Lauf geht weiter, aber seine Zeilen lassen sich nicht schreiben: %1.</translation>
+    </message>
+    <message>
+        <source>There is no active site to watch yet. Add one and check it once, so that this run takes it on: tarnwickctl add URL, then: tarnwickctl check ID</source>
+        <translation>Es gibt noch keine aktive Seite zu beobachten. Fügen Sie eine hinzu und prüfen Sie sie einmal, damit dieser Lauf sie aufnimmt: tarnwickctl add URL, dann: tarnwickctl check ID</translation>
+    </message>
+    <message>
+        <source>The run has ended, since nobody reads its lines any more.</source>
+        <translation>Der Lauf ist zu Ende, da niemand mehr seine Zeilen liest.</translation>
+    </message>
+    <message>
+        <source>%1 is an option, and no setting. See: tarnwickctl option all %2</source>
+        <translation>%1 ist eine Option und keine Einstellung. Siehe: tarnwickctl option all %2</translation>
+    </message>
+    <message>
+        <source>There is no setting &quot;%1&quot;. The settings are: %2.</source>
+        <translation>Es gibt keine Einstellung „%1“. Die Einstellungen sind: %2.</translation>
+    </message>
+    <message>
+        <source>The setting %1 is on or off (also yes or no, true or false, 1 or 0), and &quot;%2&quot; is neither.</source>
+        <translation>Die Einstellung %1 ist on oder off (auch yes oder no, true oder false, 1 oder 0), und „%2“ ist keines davon.</translation>
+    </message>
+    <message>
+        <source>The setting %1 is a whole number of seconds from 1 to %2, and &quot;%3&quot; is none.</source>
+        <translation>Die Einstellung %1 ist eine ganze Zahl von Sekunden von 1 bis %2, und „%3“ ist keine.</translation>
+    </message>
+    <message>
+        <source>The setting %1 is stored.</source>
+        <translation>Die Einstellung %1 ist gespeichert.</translation>
+    </message>
+    <message>
+        <source>--post takes NAME=VALUE, and &quot;%1&quot; has no &quot;=&quot;.</source>
+        <translation>--post nimmt NAME=VALUE, und „%1“ hat kein „=“.</translation>
+    </message>
+    <message>
+        <source>The user name &quot;%1&quot; holds a line end, which could become a command to a server. Give it as one line.</source>
+        <translation>Der Benutzername „%1“ enthält ein Zeilenende, aus dem ein Befehl an einen Server werden könnte. Geben Sie ihn in einer Zeile an.</translation>
+    </message>
+    <message>
+        <source>Say what is to be changed of site %1. See: tarnwickctl set --help</source>
+        <translation>Sagen Sie, was an Seite %1 geändert werden soll. Siehe: tarnwickctl set --help</translation>
+    </message>
+    <message>
+        <source>Site %1 is changed.</source>
+        <translation>Seite %1 ist geändert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a valid address. One looks like https://example.org/page.</source>
+        <translation>„%1“ ist keine gültige Adresse. Eine sieht so aus: https://example.org/page.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be fetched: %2 is none of http, https, ftp and ftps.</source>
+        <translation>„%1“ kann nicht geholt werden: %2 ist weder http noch https, ftp oder ftps.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a valid email address. One address is taken, like name@example.org: %2.</source>
+        <translation>„%1“ ist keine gültige E-Mail-Adresse. Angenommen wird eine Adresse wie name@example.org: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no method. Take get or post.</source>
+        <translation>„%1“ ist keine Methode. Nehmen Sie get oder post.</translation>
+    </message>
+    <message>
+        <source>Site %1 is fetched with GET, so its POST variables are kept but not sent. To send them: tarnwickctl set %2 --method post</source>
+        <translation>Seite %1 wird mit GET geholt, daher bleiben ihre POST-Variablen erhalten, werden aber nicht gesendet. Um sie zu senden: tarnwickctl set %2 --method post</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no interval. Take a number of minutes from 1 to %2.</source>
+        <translation>„%1“ ist kein Abstand. Nehmen Sie eine Zahl von Minuten von 1 bis %2.</translation>
+    </message>
+    <message>
+        <source>There is no site in the list yet. Add the first one with: tarnwickctl add URL</source>
+        <translation>In der Liste steht noch keine Seite. Fügen Sie die erste hinzu mit: tarnwickctl add URL</translation>
+    </message>
+    <message>
+        <source>No site of the list is like that.</source>
+        <translation>Keine Seite der Liste ist so.</translation>
+    </message>
+    <message>
+        <source>Delete %1, with its POST variables and its baseline?</source>
+        <translation>%1 löschen, mit ihren POST-Variablen und ihrer Basis?</translation>
+    </message>
+    <message>
+        <source>Delete %1 sites (%2) with their POST variables and baselines?</source>
+        <translation>%1 Seiten löschen (%2), mit ihren POST-Variablen und Basen?</translation>
+    </message>
+    <message>
+        <source>Site %1 is deleted.</source>
+        <translation>Seite %1 ist gelöscht.</translation>
+    </message>
+    <message>
+        <source>--folder names no folder. Give the one in which tarnwick.mdb lies.</source>
+        <translation>--folder nennt keinen Ordner. Geben Sie den an, in dem tarnwick.mdb liegt.</translation>
+    </message>
+    <message>
+        <source>Standard output took not all of it: %1.</source>
+        <translation>Die Standardausgabe nahm nicht alles an: %1.</translation>
+    </message>
+    <message>
+        <source>Or name the right folder with --folder.</source>
+        <translation>Oder nennen Sie den richtigen Ordner mit --folder.</translation>
+    </message>
+    <message>
+        <source>There is no site %1. The ids are listed by: tarnwickctl sites</source>
+        <translation>Es gibt keine Seite %1. Die IDs zeigt: tarnwickctl sites</translation>
+    </message>
+    <message>
+        <source>A copy is put in its place by: tarnwickctl restore backup.mdb</source>
+        <translation>Eine Kopie setzt an ihre Stelle: tarnwickctl restore backup.mdb</translation>
+    </message>
+    <message>
+        <source>A run that is on takes the site on once it was checked. Check it with: tarnwickctl check%1</source>
+        <translation>Ein Lauf nimmt die Seite auf, sobald sie einmal geprüft wurde. Prüfen Sie sie mit: tarnwickctl check%1</translation>
+    </message>
+    <message>
+        <source>A run that is on takes %1 of the sites on once they were checked. Check them with: tarnwickctl check%2</source>
+        <translation>Ein Lauf nimmt %1 der Seiten auf, sobald sie geprüft wurden. Prüfen Sie sie mit: tarnwickctl check%2</translation>
+    </message>
+    <message>
+        <source>Compact Failed. The database is as it was: %1</source>
+        <translation>Verdichten gescheitert. Die Datenbank ist, wie sie war: %1</translation>
+    </message>
+    <message>
+        <source>Compact Failed. There is no room for the compacted copy; the database is as it was: %1</source>
+        <translation>Verdichten gescheitert. Für die verdichtete Kopie ist kein Platz; die Datenbank ist, wie sie war: %1</translation>
+    </message>
+    <message>
+        <source>The database is compacted: %1 bytes before, %2 bytes after. backup.mdb is the copy from before.</source>
+        <translation>Die Datenbank ist verdichtet: vorher %1 Bytes, nachher %2 Bytes. backup.mdb ist die Kopie von vorher.</translation>
+    </message>
+    <message>
+        <source>The one before is kept as %1.</source>
+        <translation>Die von vorher ist aufgehoben als %1.</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>STATE</source>
+        <translation>STAND</translation>
+    </message>
+    <message>
+        <source>METHOD</source>
+        <translation>METHODE</translation>
+    </message>
+    <message>
+        <source>INTERVAL</source>
+        <translation>ABSTAND</translation>
+    </message>
+    <message>
+        <source>LAST TEST</source>
+        <translation>LETZTE PRÜFUNG</translation>
+    </message>
+    <message>
+        <source>UP</source>
+        <translation>UP</translation>
+    </message>
+    <message>
+        <source>DOWN</source>
+        <translation>DOWN</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>OPTION</source>
+        <translation>OPTION</translation>
+    </message>
+    <message>
+        <source>OWN</source>
+        <translation>EIGEN</translation>
+    </message>
+    <message>
+        <source>EFFECTIVE</source>
+        <translation>WIRKSAM</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>VALUE</source>
+        <translation>WERT</translation>
+    </message>
+    <message>
+        <source>SETTING</source>
+        <translation>EINSTELLUNG</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Last test</source>
+        <translation>Letzte Prüfung</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Up</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Down</translation>
+    </message>
+    <message>
+        <source>Alert mail</source>
+        <translation>Alarm-Mail</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Baseline</source>
+        <translation>Basis</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>not a page</source>
+        <translation>keine Seite</translation>
+    </message>
+    <message>
+        <source>up (inactive)</source>
+        <translation>up (inaktiv)</translation>
+    </message>
+    <message>
+        <source>down (inactive)</source>
+        <translation>down (inaktiv)</translation>
+    </message>
+    <message>
+        <source>not a page (inactive)</source>
+        <translation>keine Seite (inaktiv)</translation>
+    </message>
+    <message>
+        <source>- (inactive)</source>
+        <translation>- (inaktiv)</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>yes, %1</source>
+        <translation>ja, %1</translation>
+    </message>
+    <message>
+        <source>no, %1</source>
+        <translation>nein, %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>set; --show-password shows it</source>
+        <translation>gesetzt; --show-password zeigt es</translation>
+    </message>
+    <message>
+        <source>none yet: the next page that is fetched becomes it</source>
+        <translation>noch keine: Die nächste Seite, die geholt wird, wird es</translation>
+    </message>
+    <message>
+        <source>1 byte</source>
+        <translation>1 Byte</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Delete site %1 (%2), with its POST variables and its baseline?</source>
+        <translation>Seite %1 (%2) löschen, mit ihren POST-Variablen und ihrer Basis?</translation>
+    </message>
+    <message>
+        <source>The list is a copy of %1 now, with %2 site.</source>
+        <translation>Die Liste ist jetzt eine Kopie von %1, mit %2 Seite.</translation>
+    </message>
+    <message>
+        <source>The list is a copy of %1 now, with %2 sites.</source>
+        <translation>Die Liste ist jetzt eine Kopie von %1, mit %2 Seiten.</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Aufruf</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>OPTIONEN</translation>
+    </message>
+    <message>
+        <source>POSITIONALS</source>
+        <translation>ARGUMENTE</translation>
+    </message>
+    <message>
+        <source>REQUIRED</source>
+        <translation>NÖTIG</translation>
+    </message>
+    <message>
+        <source>Needs</source>
+        <translation>Braucht</translation>
+    </message>
+    <message>
+        <source>Excludes</source>
+        <translation>Nicht mit</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Verbs</source>
+        <translation>Verben</translation>
+    </message>
+    <message>
+        <source>Positionals</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>Examples:</source>
+        <translation>Beispiele:</translation>
+    </message>
+    <message>
+        <source>Print this help message and exit</source>
+        <translation>Diese Hilfe ausgeben und enden</translation>
+    </message>
+    <message>
+        <source>Display program version information and exit</source>
+        <translation>Die Version ausgeben und enden</translation>
+    </message>
+    <message>
+        <source>From this moment on: %1</source>
+        <translation>Von diesem Zeitpunkt an: %1</translation>
+    </message>
+    <message>
+        <source>The kind of the file, where its content does not show it: %1</source>
+        <translation>Die Art der Datei, wo ihr Inhalt sie nicht zeigt: %1</translation>
+    </message>
+    <message>
+        <source>Names, and what they take:</source>
+        <translation>Namen, und was sie nehmen:</translation>
+    </message>
+    <message>
+        <source>Takes %1.</source>
+        <translation>Nimmt %1.</translation>
+    </message>
+    <message>
+        <source>Takes &quot;%1&quot; or &quot;%2&quot;.</source>
+        <translation>Nimmt „%1“ oder „%2“.</translation>
+    </message>
+    <message>
+        <source>Takes &quot;%1&quot; or &quot;%2&quot;. In a new list: &quot;%3&quot;.</source>
+        <translation>Nimmt „%1“ oder „%2“. In einer neuen Liste: „%3“.</translation>
+    </message>
+    <message>
+        <source>Takes %1. In a new list: &quot;%2&quot;.</source>
+        <translation>Nimmt %1. In einer neuen Liste: „%2“.</translation>
+    </message>
+    <message>
+        <source>Not set: %1.</source>
+        <translation>Nicht gesetzt: %1.</translation>
+    </message>
+    <message>
+        <source>The user name for the fetch; &quot;&quot; for none</source>
+        <translation>Der Benutzername für den Abruf; &quot;&quot; für keinen</translation>
+    </message>
+    <message>
+        <source>Read the password from a file, without its line end; - is standard input</source>
+        <translation>Das Passwort aus einer Datei lesen, ohne ihr Zeilenende; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>A POST variable; may be given several times</source>
+        <translation>Eine POST-Variable; kann mehrmals angegeben werden</translation>
+    </message>
+    <message>
+        <source>Mail no failures; the address is kept</source>
+        <translation>Keine Fehlschläge mailen; die Adresse bleibt</translation>
+    </message>
+    <message>
+        <source>%1 is required</source>
+        <translation>%1 ist nötig</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 braucht %2</translation>
+    </message>
+    <message>
+        <source>%1 excludes %2</source>
+        <translation>%1 geht nicht mit %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 not in {%3}</source>
+        <translation>%1: %2 ist keines von {%3}</translation>
+    </message>
+    <message>
+        <source>%1: Value %2 not in range [%3 - %4]</source>
+        <translation>%1: Der Wert %2 liegt nicht im Bereich [%3 - %4]</translation>
+    </message>
+    <message>
+        <source>%1: Value %2 not in range %3 to %4</source>
+        <translation>%1: Der Wert %2 liegt nicht im Bereich %3 bis %4</translation>
+    </message>
+    <message>
+        <source>The following argument was not expected: %1</source>
+        <translation>Dieses Argument wurde nicht erwartet: %1</translation>
+    </message>
+    <message>
+        <source>The following arguments were not expected: %1</source>
+        <translation>Diese Argumente wurden nicht erwartet: %1</translation>
+    </message>
+    <message>
+        <source>Could not convert: %1</source>
+        <translation>Nicht zu verstehen: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 required %3 missing</source>
+        <translation>%1: %2 nötig, %3 fehlt</translation>
+    </message>
+    <message>
+        <source>%1: 1 required %2 missing</source>
+        <translation>%1: %2 fehlt</translation>
+    </message>
+    <message>
+        <source>There is no display for the window: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>Es gibt keine Anzeige für das Fenster: Weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt.</translation>
+    </message>
+    <message>
+        <source>The window cannot be opened on the display %1.</source>
+        <translation>Das Fenster lässt sich auf der Anzeige %1 nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>tarnwick: %1 Start it on a desktop, or watch your sites in a terminal with: tarnwickctl run</source>
+        <translation>tarnwick: %1 Starten Sie es auf einem Desktop, oder beobachten Sie Ihre Seiten in einem Terminal mit: tarnwickctl run</translation>
+    </message>
+    <message>
+        <source>tarnwick: There is no option &quot;%1&quot;. See: tarnwick --help</source>
+        <translation>tarnwick: Es gibt keine Option „%1“. Siehe: tarnwick --help</translation>
+    </message>
+    <message>
+        <source>Usage: tarnwick [OPTIONS]</source>
+        <translation>Aufruf: tarnwick [OPTIONEN]</translation>
+    </message>
+    <message>
+        <source>Opens the window of Tarnwick, which watches web pages for changes of their content.</source>
+        <translation>Öffnet das Fenster von Tarnwick, das Webseiten auf Änderungen ihres Inhalts beobachtet.</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>-h, --help     Print this text and end</source>
+        <translation>-h, --help     Diesen Text ausgeben und enden</translation>
+    </message>
+    <message>
+        <source>--version      Print the version and end</source>
+        <translation>--version      Die Version ausgeben und enden</translation>
+    </message>
+    <message>
+        <source>Options of the Qt toolkit, for instance -style, -platform and -display, are understood.</source>
+        <translation>Optionen des Qt-Toolkits, zum Beispiel -style, -platform und -display, werden verstanden.</translation>
+    </message>
+    <message>
+        <source>In a terminal the same work is done by: tarnwickctl</source>
+        <translation>In einem Terminal tut dieselbe Arbeit: tarnwickctl</translation>
+    </message>
+    <message>
+        <source>Check sites once, now: all active ones, those named, or those that are due</source>
+        <translation>Seiten einmal prüfen, jetzt: alle aktiven, die genannten oder die fälligen</translation>
+    </message>
+    <message>
+        <source>The sites to check, active or not</source>
+        <translation>Die zu prüfenden Seiten, aktiv oder nicht</translation>
+    </message>
+    <message>
+        <source>Only the active sites whose interval has elapsed; one that was never checked is none of them</source>
+        <translation>Nur die aktiven Seiten, deren Abstand verstrichen ist; eine nie geprüfte gehört nicht dazu</translation>
+    </message>
+    <message>
+        <source>Each result is recorded, and each failure raises the alerts that the settings switch on, as in a run.</source>
+        <translation>Jedes Ergebnis wird aufgezeichnet, und jeder Fehlschlag löst die eingestellten Alarme aus, wie in einem Lauf.</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 when every site is up, 1 when one is down, 2 when the check could not be made,</source>
+        <translation>Exit-Status: 0: jede Seite ist „up“, 1: eine ist „down“, 2: die Prüfung war nicht möglich,</translation>
+    </message>
+    <message>
+        <source>3 when none is down, but one was changed, switched off or deleted meanwhile and its page was dropped,</source>
+        <translation>3: keine „down“, aber eine inzwischen geändert, ausgeschaltet oder gelöscht und verworfen,</translation>
+    </message>
+    <message>
+        <source>4 when neither is so, but one is up only because its baseline is the text of a fetch that fails.</source>
+        <translation>4: weder noch, aber eine ist nur „up“, weil ein scheiternder Abruf ihre Basis ist.</translation>
+    </message>
+    <message>
+        <source>every active site, a line each</source>
+        <translation>jede aktive Seite, je eine Zeile</translation>
+    </message>
+    <message>
+        <source>two sites</source>
+        <translation>zwei Seiten</translation>
+    </message>
+    <message>
+        <source>what is due, for a script</source>
+        <translation>was fällig ist, für ein Skript</translation>
+    </message>
+    <message>
+        <source>Tarnwick watches web sites for changes of their content: the terminal front end. It works on the list of sites of a program folder, with or without the window open on the same folder.</source>
+        <translation>Tarnwick beobachtet Webseiten auf Änderungen ihres Inhalts: die Bedienung im Terminal. Sie arbeitet mit der Liste von Seiten eines Programmordners, ob das Fenster auf demselben Ordner offen ist oder nicht.</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 when all is well, 1 when a site is down or a page differs, 2 when the work failed.</source>
+        <translation>Exit-Status: 0: alles in Ordnung, 1: eine Seite ist „down“ oder weicht ab, 2: gescheitert.</translation>
+    </message>
+    <message>
+        <source>Each verb has a --help with examples.</source>
+        <translation>Jedes Verb hat ein --help mit Beispielen.</translation>
+    </message>
+    <message>
+        <source>The program folder, in which tarnwick.mdb lies (default: the tool&apos;s own, or yours where that one is shared)</source>
+        <translation>Der Programmordner, in dem tarnwick.mdb liegt (sonst der des Werkzeugs, oder Ihr eigener, wo jener geteilt ist)</translation>
+    </message>
+    <message>
+        <source>Print what lets a shell complete the tool&apos;s verbs and options</source>
+        <translation>Ausgeben, womit eine Shell Verben und Optionen des Werkzeugs ergänzt</translation>
+    </message>
+    <message>
+        <source>bash, zsh or fish</source>
+        <translation>bash, zsh oder fish</translation>
+    </message>
+    <message>
+        <source>The packages bring it along. From an archive, for your own shell:</source>
+        <translation>Die Pakete bringen es mit. Aus einem Archiv, für Ihre eigene Shell:</translation>
+    </message>
+    <message>
+        <source>for bash</source>
+        <translation>für bash</translation>
+    </message>
+    <message>
+        <source>for fish</source>
+        <translation>für fish</translation>
+    </message>
+    <message>
+        <source>Set the counters of successes and failures to 0</source>
+        <translation>Die Zähler der Erfolge und Fehlschläge auf 0 setzen</translation>
+    </message>
+    <message>
+        <source>The site&apos;s id, as the verb sites lists it; every site without one</source>
+        <translation>Die ID der Seite, wie das Verb sites sie zeigt; ohne sie jede Seite</translation>
+    </message>
+    <message>
+        <source>Whether a site is up or down stays as it is; the log stays too.</source>
+        <translation>Ob eine Seite „up“ oder „down“ ist, bleibt; das Log bleibt auch.</translation>
+    </message>
+    <message>
+        <source>of one site</source>
+        <translation>die einer Seite</translation>
+    </message>
+    <message>
+        <source>of all sites</source>
+        <translation>die aller Seiten</translation>
+    </message>
+    <message>
+        <source>Write the list of sites to a CSV or JSON file</source>
+        <translation>Die Liste der Seiten in eine CSV- oder JSON-Datei schreiben</translation>
+    </message>
+    <message>
+        <source>The file, whose name ends in .csv or .json; - is standard output</source>
+        <translation>Die Datei, deren Name auf .csv oder .json endet; - ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>The file&apos;s format, whatever its name: csv or json</source>
+        <translation>Das Format der Datei, wie immer sie heißt: csv oder json</translation>
+    </message>
+    <message>
+        <source>Leave the passwords out; an import then keeps those stored</source>
+        <translation>Die Passwörter weglassen; ein Import behält dann die gespeicherten</translation>
+    </message>
+    <message>
+        <source>Write the pages that the sites are compared with as well</source>
+        <translation>Auch die Seiten schreiben, mit denen verglichen wird</translation>
+    </message>
+    <message>
+        <source>The file holds what has been set for each site, with its POST variables; what checks have found is not part of it. Only you can read it, and one that is there already is replaced when the new one is complete.</source>
+        <translation>Die Datei enthält, was für jede Seite eingestellt ist, mit ihren POST-Variablen; was Prüfungen ergaben, gehört nicht dazu. Nur Sie können sie lesen, und eine vorhandene wird erst ersetzt, wenn die neue vollständig ist.</translation>
+    </message>
+    <message>
+        <source>for a spreadsheet, or for another computer</source>
+        <translation>für eine Tabelle oder einen anderen Rechner</translation>
+    </message>
+    <message>
+        <source>a copy of the whole list</source>
+        <translation>eine Kopie der ganzen Liste</translation>
+    </message>
+    <message>
+        <source>to standard output</source>
+        <translation>auf die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Take sites into the list from a file of Tarnwick or of another program</source>
+        <translation>Seiten in die Liste aufnehmen, aus einer Datei von Tarnwick oder eines anderen Programms</translation>
+    </message>
+    <message>
+        <source>The file; - is standard input</source>
+        <translation>Die Datei; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>Add every site as a new one, whatever its id in the file; the options of all sites stay</source>
+        <translation>Jede Seite als neue hinzufügen, was immer ihre ID in der Datei ist; die Optionen aller Seiten bleiben</translation>
+    </message>
+    <message>
+        <source>Delete the sites that the file does not name</source>
+        <translation>Die Seiten löschen, die die Datei nicht nennt</translation>
+    </message>
+    <message>
+        <source>Do not ask when the file has no site, so that --replace deletes every one</source>
+        <translation>Nicht fragen, wenn die Datei keine Seite hat und --replace daher jede löscht</translation>
+    </message>
+    <message>
+        <source>Only say what would be done</source>
+        <translation>Nur sagen, was geschähe</translation>
+    </message>
+    <message>
+        <source>A site whose id is in the list is changed, in the fields that the file has; one with another id is added under it, and one without an id is added as a new one. All of the file is taken, or nothing: each fault is told with its line.</source>
+        <translation>Eine Seite, deren ID in der Liste steht, wird geändert, in den Feldern, die die Datei hat; eine mit anderer ID wird unter dieser hinzugefügt, eine ohne ID als neue. Die Datei wird ganz übernommen oder gar nicht: Jeder Fehler wird mit seiner Zeile gemeldet.</translation>
+    </message>
+    <message>
+        <source>A CSV file names its columns in the first line, separated by commas. Only url must be there; the others are idSite, method (get or post), active, tInterval (minutes), alertEmail, email, sUserName, sPassWord, postVars (name=value&amp;name=value, other bytes than letters and digits as %XX), baseline (base64). An empty idSite, method, tInterval or yes/no is as one left out. A JSON file has the form {&quot;tarnwick&quot;: 1, &quot;sites&quot;: [{&quot;url&quot;: ...}, ...]}.</source>
+        <translation>Eine CSV-Datei nennt ihre Spalten in der ersten Zeile, durch Kommas getrennt. Nur url muss da sein; die übrigen sind idSite, method (get oder post), active, tInterval (Minuten), alertEmail, email, sUserName, sPassWord, postVars (name=value&amp;name=value, andere Bytes als Buchstaben und Ziffern als %XX), baseline (base64). Ein leeres idSite, method, tInterval oder Ja/Nein-Feld gilt als weggelassen. Eine JSON-Datei hat die Form {&quot;tarnwick&quot;: 1, &quot;sites&quot;: [{&quot;url&quot;: ...}, ...]}.</translation>
+    </message>
+    <message>
+        <source>what would be added and changed</source>
+        <translation>was hinzugefügt und geändert würde</translation>
+    </message>
+    <message>
+        <source>do it</source>
+        <translation>es tun</translation>
+    </message>
+    <message>
+        <source>make the list as the file has it</source>
+        <translation>die Liste so machen, wie die Datei sie hat</translation>
+    </message>
+    <message>
+        <source>the list of somebody else, beside one&apos;s own</source>
+        <translation>die Liste eines anderen, neben der eigenen</translation>
+    </message>
+    <message>
+        <source>what of a browser&apos;s bookmarks would be watched</source>
+        <translation>was von den Lesezeichen eines Browsers beobachtet würde</translation>
+    </message>
+    <message>
+        <source>Lay a fresh list and mail template into a folder that has never had any</source>
+        <translation>Eine frische Liste und Mail-Vorlage in einen Ordner legen, der nie eine hatte</translation>
+    </message>
+    <message>
+        <source>The folder is made when it is missing. What is there stays as it is, and a list that has gone missing is an error. Without --folder the first start of the program does it by itself.</source>
+        <translation>Der Ordner wird angelegt, wenn er fehlt. Was da ist, bleibt, und eine verschwundene Liste ist ein Fehler. Ohne --folder tut es der erste Start des Programms von selbst.</translation>
+    </message>
+    <message>
+        <source>for a list beside your own</source>
+        <translation>für eine Liste neben Ihrer eigenen</translation>
+    </message>
+    <message>
+        <source>whether one was laid, for a script</source>
+        <translation>ob eine gelegt wurde, für ein Skript</translation>
+    </message>
+    <message>
+        <source>Show the log of check results, the oldest first, or empty it</source>
+        <translation>Das Log der Prüfergebnisse zeigen, das älteste zuerst, oder es leeren</translation>
+    </message>
+    <message>
+        <source>show (default), clear</source>
+        <translation>show (sonst), clear</translation>
+    </message>
+    <message>
+        <source>Only this site, also one that is deleted</source>
+        <translation>Nur diese Seite, auch eine gelöschte</translation>
+    </message>
+    <message>
+        <source>Only checks that failed</source>
+        <translation>Nur Prüfungen, die scheiterten</translation>
+    </message>
+    <message>
+        <source>Only the N newest of them</source>
+        <translation>Nur die N neuesten davon</translation>
+    </message>
+    <message>
+        <source>The pages of the checks that failed as well; none is kept of the others</source>
+        <translation>Auch die Seiten der gescheiterten Prüfungen; von den anderen wird keine aufgehoben</translation>
+    </message>
+    <message>
+        <source>For &quot;clear&quot;: do not ask; needed where nobody can be asked</source>
+        <translation>Für „clear“: nicht fragen; nötig, wo niemand gefragt werden kann</translation>
+    </message>
+    <message>
+        <source>The setting clogs says whether results are written to the log.</source>
+        <translation>Die Einstellung clogs sagt, ob Ergebnisse ins Log geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>what has failed today</source>
+        <translation>was heute gescheitert ist</translation>
+    </message>
+    <message>
+        <source>the last 20 checks of a site</source>
+        <translation>die letzten 20 Prüfungen einer Seite</translation>
+    </message>
+    <message>
+        <source>how often each address has failed in the last two hours</source>
+        <translation>wie oft jede Adresse in den letzten zwei Stunden scheiterte</translation>
+    </message>
+    <message>
+        <source>empty it, without a question</source>
+        <translation>es leeren, ohne Frage</translation>
+    </message>
+    <message>
+        <source>Show or change what a site, or the program, does otherwise than originally</source>
+        <translation>Zeigen oder ändern, was eine Seite oder das Programm anders macht als ursprünglich</translation>
+    </message>
+    <message>
+        <source>all, or the id of a site as the verb sites lists it</source>
+        <translation>all, oder die ID einer Seite, wie das Verb sites sie zeigt</translation>
+    </message>
+    <message>
+        <source>NAME shows an option, NAME=VALUE sets it, NAME= removes it; all are listed without one</source>
+        <translation>NAME zeigt eine Option, NAME=VALUE setzt sie, NAME= entfernt sie; ohne eine werden alle gezeigt</translation>
+    </message>
+    <message>
+        <source>A site without a value of its own goes by the one for all. Where neither is set, the program does as it did originally.</source>
+        <translation>Eine Seite ohne eigenen Wert richtet sich nach dem für alle. Ist keiner gesetzt, verhält sich das Programm wie ursprünglich.</translation>
+    </message>
+    <message>
+        <source>what is set for all sites</source>
+        <translation>was für alle Seiten gesetzt ist</translation>
+    </message>
+    <message>
+        <source>hand over a mail in half a minute at most</source>
+        <translation>eine Mail in höchstens einer halben Minute übergeben</translation>
+    </message>
+    <message>
+        <source>one site does otherwise</source>
+        <translation>eine Seite macht es anders</translation>
+    </message>
+    <message>
+        <source>and again as all others</source>
+        <translation>und wieder wie alle anderen</translation>
+    </message>
+    <message>
+        <source>Show or change the page that a site is compared with</source>
+        <translation>Die Seite zeigen oder ändern, mit der verglichen wird</translation>
+    </message>
+    <message>
+        <source>show (default), load (fetch it from the URL now), set FILE, clear, accept (take the latest page)</source>
+        <translation>show (sonst), load (jetzt von der URL holen), set FILE, clear, accept (den letzten Inhalt nehmen)</translation>
+    </message>
+    <message>
+        <source>The file for &quot;set&quot;; - is standard input</source>
+        <translation>Die Datei für „set“; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>For &quot;accept&quot;: also a latest page that looks like a failed fetch</source>
+        <translation>Für „accept“: auch einen letzten Inhalt, der nach gescheitertem Abruf aussieht</translation>
+    </message>
+    <message>
+        <source>the baseline, byte for byte</source>
+        <translation>die Basis, Byte für Byte</translation>
+    </message>
+    <message>
+        <source>an edited one</source>
+        <translation>eine bearbeitete</translation>
+    </message>
+    <message>
+        <source>what the last check fetched is how the page shall be</source>
+        <translation>was die letzte Prüfung holte, ist so, wie die Seite sein soll</translation>
+    </message>
+    <message>
+        <source>fetch the page now and take it</source>
+        <translation>die Seite jetzt holen und nehmen</translation>
+    </message>
+    <message>
+        <source>Compare a site&apos;s baseline with its latest page, as a unified diff</source>
+        <translation>Die Basis einer Seite mit ihrem letzten Inhalt vergleichen, als Unified Diff</translation>
+    </message>
+    <message>
+        <source>The latest page is that of the last check. Exit status: 0 when equal, 1 when they differ.</source>
+        <translation>Der letzte Inhalt ist der der letzten Prüfung. Exit-Status: 0, wenn gleich, 1, wenn verschieden.</translation>
+    </message>
+    <message>
+        <source>what has changed, coloured on a terminal</source>
+        <translation>was sich geändert hat, auf einem Terminal farbig</translation>
+    </message>
+    <message>
+        <source>for the program patch</source>
+        <translation>für das Programm patch</translation>
+    </message>
+    <message>
+        <source>List, add, change or remove the POST variables of a site</source>
+        <translation>Die POST-Variablen einer Seite zeigen, hinzufügen, ändern oder entfernen</translation>
+    </message>
+    <message>
+        <source>list (default), add, change, remove</source>
+        <translation>list (sonst), add, change, remove</translation>
+    </message>
+    <message>
+        <source>The variable&apos;s name</source>
+        <translation>Der Name der Variablen</translation>
+    </message>
+    <message>
+        <source>Its value; not needed to find the only one of a name</source>
+        <translation>Ihr Wert; nicht nötig, um die einzige eines Namens zu finden</translation>
+    </message>
+    <message>
+        <source>For &quot;change&quot;: the new name</source>
+        <translation>Für „change“: der neue Name</translation>
+    </message>
+    <message>
+        <source>For &quot;change&quot;: the new value</source>
+        <translation>Für „change“: der neue Wert</translation>
+    </message>
+    <message>
+        <source>For &quot;change&quot;: the new name alone</source>
+        <translation>Für „change“: nur der neue Name</translation>
+    </message>
+    <message>
+        <source>For &quot;change&quot;: the new value alone</source>
+        <translation>Für „change“: nur der neue Wert</translation>
+    </message>
+    <message>
+        <source>For &quot;add&quot;: read the value from a file, without its line end, so that no other user of this machine sees it on the command line; - is standard input</source>
+        <translation>Für „add“: den Wert aus einer Datei lesen, ohne ihr Zeilenende, damit kein anderer Benutzer dieses Rechners ihn in der Befehlszeile sieht; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>Names and values are found exactly as they are: letter case and blanks count. What begins with a minus sign is written behind --.</source>
+        <translation>Namen und Werte werden genau so gefunden, wie sie sind: Groß- und Kleinschreibung und Leerzeichen zählen. Was mit einem Minuszeichen beginnt, wird hinter -- geschrieben.</translation>
+    </message>
+    <message>
+        <source>the variables, in the order in which they are sent</source>
+        <translation>die Variablen in der Reihenfolge, in der sie gesendet werden</translation>
+    </message>
+    <message>
+        <source>one more</source>
+        <translation>eine mehr</translation>
+    </message>
+    <message>
+        <source>the one of this name and value</source>
+        <translation>die mit diesem Namen und Wert</translation>
+    </message>
+    <message>
+        <source>the same, where it is the only one of its name</source>
+        <translation>dasselbe, wo es die einzige ihres Namens ist</translation>
+    </message>
+    <message>
+        <source>one less</source>
+        <translation>eine weniger</translation>
+    </message>
+    <message>
+        <source>a value with a minus sign</source>
+        <translation>ein Wert mit einem Minuszeichen</translation>
+    </message>
+    <message>
+        <source>Watch the sites until interrupted: check all active ones, then each when it is due</source>
+        <translation>Die Seiten bis zur Unterbrechung beobachten: alle aktiven prüfen, dann jede, wenn sie fällig ist</translation>
+    </message>
+    <message>
+        <source>A line for every result, not only for failures and recoveries</source>
+        <translation>Eine Zeile für jedes Ergebnis, nicht nur für Fehlschläge und Erholungen</translation>
+    </message>
+    <message>
+        <source>Print an object a line for every event</source>
+        <translation>Je Ereignis ein Objekt in einer Zeile ausgeben</translation>
+    </message>
+    <message>
+        <source>Ctrl+C (SIGINT) and SIGTERM stop the run and close the database; so does the end of what reads its output. One run at a time is possible on a folder. A site that is added meanwhile is taken on once it was checked.</source>
+        <translation>Strg+C (SIGINT) und SIGTERM beenden den Lauf und schließen die Datenbank; ebenso das Ende dessen, was die Ausgabe liest. Auf einem Ordner ist ein Lauf auf einmal möglich. Eine inzwischen hinzugefügte Seite wird aufgenommen, sobald sie einmal geprüft wurde.</translation>
+    </message>
+    <message>
+        <source>a countdown on a terminal, lines with their time elsewhere</source>
+        <translation>ein Countdown auf einem Terminal, sonst Zeilen mit ihrer Zeit</translation>
+    </message>
+    <message>
+        <source>only the failures</source>
+        <translation>nur die Fehlschläge</translation>
+    </message>
+    <message>
+        <source>Show or change the program&apos;s settings</source>
+        <translation>Die Einstellungen des Programms zeigen oder ändern</translation>
+    </message>
+    <message>
+        <source>A setting, in any letter case; all of them without one</source>
+        <translation>Eine Einstellung, groß oder klein geschrieben; ohne sie alle</translation>
+    </message>
+    <message>
+        <source>Its new value: a text, seconds, or on or off</source>
+        <translation>Ihr neuer Wert: ein Text, Sekunden, oder on oder off</translation>
+    </message>
+    <message>
+        <source>A change takes effect at the next check, also in a run that is on.</source>
+        <translation>Eine Änderung wirkt ab der nächsten Prüfung, auch in einem Lauf, der im Gange ist.</translation>
+    </message>
+    <message>
+        <source>all of them</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>wait a minute for a page</source>
+        <translation>eine Minute auf eine Seite warten</translation>
+    </message>
+    <message>
+        <source>send alert mails</source>
+        <translation>Alarm-Mails senden</translation>
+    </message>
+    <message>
+        <source>an empty text</source>
+        <translation>ein leerer Text</translation>
+    </message>
+    <message>
+        <source>The password for the fetch; other users of this machine may see it on the command line, so prefer --password-file</source>
+        <translation>Das Passwort für den Abruf; andere Benutzer dieses Rechners können es in der Befehlszeile sehen, nehmen Sie daher lieber --password-file</translation>
+    </message>
+    <message>
+        <source>Leave it out of runs</source>
+        <translation>Sie aus Läufen heraushalten</translation>
+    </message>
+    <message>
+        <source>Add a site to the list and print its id</source>
+        <translation>Eine Seite in die Liste aufnehmen und ihre ID ausgeben</translation>
+    </message>
+    <message>
+        <source>Without options it is fetched with GET every 10 minutes; with --post it is fetched with POST. The first page that is fetched becomes its baseline. A run that is on takes the site on once it was checked.</source>
+        <translation>Ohne Optionen wird sie alle 10 Minuten mit GET geholt; mit --post wird sie mit POST geholt. Die erste Seite, die geholt wird, wird ihre Basis. Ein Lauf, der im Gange ist, nimmt sie auf, sobald sie einmal geprüft wurde.</translation>
+    </message>
+    <message>
+        <source>watch a page</source>
+        <translation>eine Seite beobachten</translation>
+    </message>
+    <message>
+        <source>and check it at once, so that a run takes it on</source>
+        <translation>und sie gleich prüfen, damit ein Lauf sie aufnimmt</translation>
+    </message>
+    <message>
+        <source>what a form answers</source>
+        <translation>was ein Formular antwortet</translation>
+    </message>
+    <message>
+        <source>behind a password</source>
+        <translation>hinter einem Passwort</translation>
+    </message>
+    <message>
+        <source>with alert mails</source>
+        <translation>mit Alarm-Mails</translation>
+    </message>
+    <message>
+        <source>The address of the page: http, https, ftp or ftps</source>
+        <translation>Die Adresse der Seite: http, https, ftp oder ftps</translation>
+    </message>
+    <message>
+        <source>Let runs check it</source>
+        <translation>Sie in Läufen prüfen lassen</translation>
+    </message>
+    <message>
+        <source>Change a site; what is not named stays as it is</source>
+        <translation>Eine Seite ändern; was nicht genannt ist, bleibt, wie es ist</translation>
+    </message>
+    <message>
+        <source>With --post the variables given replace all that the site has; the verb post changes single ones.</source>
+        <translation>Mit --post ersetzen die angegebenen Variablen alle der Seite; das Verb post ändert einzelne.</translation>
+    </message>
+    <message>
+        <source>check it more often</source>
+        <translation>sie öfter prüfen</translation>
+    </message>
+    <message>
+        <source>the page has moved</source>
+        <translation>die Seite ist umgezogen</translation>
+    </message>
+    <message>
+        <source>no credentials any more</source>
+        <translation>keine Zugangsdaten mehr</translation>
+    </message>
+    <message>
+        <source>List the sites</source>
+        <translation>Die Seiten zeigen</translation>
+    </message>
+    <message>
+        <source>Only those whose last check failed</source>
+        <translation>Nur die, deren letzte Prüfung scheiterte</translation>
+    </message>
+    <message>
+        <source>Only those that a run checks</source>
+        <translation>Nur die, die ein Lauf prüft</translation>
+    </message>
+    <message>
+        <source>Only those that a run leaves out</source>
+        <translation>Nur die, die ein Lauf auslässt</translation>
+    </message>
+    <message>
+        <source>STATE is &quot;up&quot; or &quot;down&quot; as the last check found, and &quot;-&quot; where none has been made. It is &quot;not a page&quot;</source>
+        <translation>STAND ist „up“ oder „down“ nach der letzten Prüfung, „-“ ohne eine, und „keine Seite“,</translation>
+    </message>
+    <message>
+        <source>where a site is up only because the text of a fetch that fails is its baseline, which the log tells.</source>
+        <translation>wo eine Seite nur „up“ ist, weil ein scheiternder Abruf ihre Basis ist; das sagt das Log.</translation>
+    </message>
+    <message>
+        <source>what needs a look</source>
+        <translation>was Aufmerksamkeit braucht</translation>
+    </message>
+    <message>
+        <source>the addresses that are down</source>
+        <translation>die Adressen, die „down“ sind</translation>
+    </message>
+    <message>
+        <source>Show all about one site</source>
+        <translation>Alles über eine Seite zeigen</translation>
+    </message>
+    <message>
+        <source>Show the password too</source>
+        <translation>Auch das Passwort zeigen</translation>
+    </message>
+    <message>
+        <source>its settings, counters, POST variables, and the size of its baseline</source>
+        <translation>ihre Einstellungen, Zähler, POST-Variablen und die Größe ihrer Basis</translation>
+    </message>
+    <message>
+        <source>the same for a script, with the password</source>
+        <translation>dasselbe für ein Skript, mit dem Passwort</translation>
+    </message>
+    <message>
+        <source>Delete sites with their POST variables and baselines</source>
+        <translation>Seiten mit ihren POST-Variablen und Basen löschen</translation>
+    </message>
+    <message>
+        <source>The ids of the sites, as the verb sites lists them</source>
+        <translation>Die IDs der Seiten, wie das Verb sites sie zeigt</translation>
+    </message>
+    <message>
+        <source>Do not ask; needed where nobody can be asked</source>
+        <translation>Nicht fragen; nötig, wo niemand gefragt werden kann</translation>
+    </message>
+    <message>
+        <source>All of them are deleted, or none when one is not in the list. What the log says of them stays.</source>
+        <translation>Alle werden gelöscht, oder keine, wenn eine nicht in der Liste steht. Was das Log von ihnen sagt, bleibt.</translation>
+    </message>
+    <message>
+        <source>asks first</source>
+        <translation>fragt zuerst</translation>
+    </message>
+    <message>
+        <source>three sites, without a question</source>
+        <translation>drei Seiten, ohne Frage</translation>
+    </message>
+    <message>
+        <source>Put a copy of the list in its place, and keep the list as it was</source>
+        <translation>Eine Kopie der Liste an deren Stelle setzen und die Liste so aufheben, wie sie war</translation>
+    </message>
+    <message>
+        <source>The copy, for instance backup.mdb; it stays as it is</source>
+        <translation>Die Kopie, zum Beispiel backup.mdb; sie bleibt, wie sie ist</translation>
+    </message>
+    <message>
+        <source>The copy must be a sound list. The list before, damaged or not, is kept beside it under a name with the date. No other program may have the list open: end a run and close the window first.</source>
+        <translation>Die Kopie muss eine heile Liste sein. Die Liste von vorher, beschädigt oder nicht, wird daneben unter einem Namen mit dem Datum aufgehoben. Kein anderes Programm darf die Liste offen haben: Beenden Sie erst einen Lauf und schließen Sie das Fenster.</translation>
+    </message>
+    <message>
+        <source>goes back to the list before the last compaction</source>
+        <translation>geht auf die Liste vor dem letzten Verdichten zurück</translation>
+    </message>
+    <message>
+        <source>the same with a copy, for a script</source>
+        <translation>dasselbe mit einer Kopie, für ein Skript</translation>
+    </message>
+    <message>
+        <source>Write the report of today&apos;s log and print its path</source>
+        <translation>Den Bericht aus dem heutigen Log schreiben und seinen Pfad ausgeben</translation>
+    </message>
+    <message>
+        <source>It is reports/report.html in the program folder; only the newest is kept.</source>
+        <translation>Er ist reports/report.html im Programmordner; nur der neueste bleibt.</translation>
+    </message>
+    <message>
+        <source>the path of the page that was written</source>
+        <translation>der Pfad der geschriebenen Seite</translation>
+    </message>
+    <message>
+        <source>the same for a script</source>
+        <translation>dasselbe für ein Skript</translation>
+    </message>
+    <message>
+        <source>Shrink the database, and keep a copy of it as it was</source>
+        <translation>Die Datenbank verkleinern und eine Kopie davon aufheben, wie sie war</translation>
+    </message>
+    <message>
+        <source>The copy is backup.mdb in the program folder. No other program may have the database open: end a run and close the window first.</source>
+        <translation>Die Kopie ist backup.mdb im Programmordner. Kein anderes Programm darf die Datenbank offen haben: Beenden Sie erst einen Lauf und schließen Sie das Fenster.</translation>
+    </message>
+    <message>
+        <source>prints the sizes before and after</source>
+        <translation>gibt die Größen vorher und nachher aus</translation>
+    </message>
+    <message>
+        <source>The site&apos;s id, as the verb sites lists it</source>
+        <translation>Die ID der Seite, wie das Verb sites sie zeigt</translation>
+    </message>
+    <message>
+        <source>Print JSON</source>
+        <translation>JSON ausgeben</translation>
+    </message>
+    <message>
+        <source>How the page is fetched</source>
+        <translation>Wie die Seite geholt wird</translation>
+    </message>
+    <message>
+        <source>Whether runs check it</source>
+        <translation>Ob Läufe sie prüfen</translation>
+    </message>
+    <message>
+        <source>The time between two checks, 1 to 32767 minutes</source>
+        <translation>Die Zeit zwischen zwei Prüfungen, 1 bis 32767 Minuten</translation>
+    </message>
+    <message>
+        <source>Alert mails</source>
+        <translation>Alarm-Mails</translation>
+    </message>
+    <message>
+        <source>Whether its failures are mailed</source>
+        <translation>Ob ihre Fehlschläge gemailt werden</translation>
+    </message>
+    <message>
+        <source>Mail address</source>
+        <translation>E-Mail-Adresse</translation>
+    </message>
+    <message>
+        <source>Mail its failures to this address</source>
+        <translation>Ihre Fehlschläge an diese Adresse mailen</translation>
+    </message>
+    <message>
+        <source>The user name for the fetch</source>
+        <translation>Der Benutzername für den Abruf</translation>
+    </message>
+    <message>
+        <source>The password for the fetch</source>
+        <translation>Das Passwort für den Abruf</translation>
+    </message>
+    <message>
+        <source>the address that alert mails come from</source>
+        <translation>die Adresse, von der Alarm-Mails kommen</translation>
+    </message>
+    <message>
+        <source>Mail server</source>
+        <translation>Mail-Server</translation>
+    </message>
+    <message>
+        <source>the mail server that alert mails are handed to</source>
+        <translation>der Mail-Server, dem Alarm-Mails übergeben werden</translation>
+    </message>
+    <message>
+        <source>the .wav file that an alert plays</source>
+        <translation>die .wav-Datei, die ein Alarm abspielt</translation>
+    </message>
+    <message>
+        <source>the program that an alert starts</source>
+        <translation>das Programm, das ein Alarm startet</translation>
+    </message>
+    <message>
+        <source>how long a fetch may take, in seconds</source>
+        <translation>wie lange ein Abruf dauern darf, in Sekunden</translation>
+    </message>
+    <message>
+        <source>write every result to the log</source>
+        <translation>jedes Ergebnis ins Log schreiben</translation>
+    </message>
+    <message>
+        <source>write the daily report during a run</source>
+        <translation>während eines Laufs den Tagesbericht schreiben</translation>
+    </message>
+    <message>
+        <source>Play sound</source>
+        <translation>Ton abspielen</translation>
+    </message>
+    <message>
+        <source>play the alert sound</source>
+        <translation>den Alarmton abspielen</translation>
+    </message>
+    <message>
+        <source>Start program</source>
+        <translation>Programm starten</translation>
+    </message>
+    <message>
+        <source>start the alert program</source>
+        <translation>das Alarmprogramm starten</translation>
+    </message>
+    <message>
+        <source>Aborting compact: %1</source>
+        <translation>Verdichten abgebrochen: %1</translation>
+    </message>
+    <message>
+        <source>%1: changed while it was checked</source>
+        <translation>%1: während der Prüfung geändert</translation>
+    </message>
+    <message>
+        <source>It is: tarnwickctl post %1 NAME VALUE, or: NAME --value-file FILE</source>
+        <translation>Richtig ist: tarnwickctl post %1 NAME VALUE, oder: NAME --value-file FILE</translation>
+    </message>
+    <message>
+        <source>It is: tarnwickctl post %1 NAME VALUE NEW_NAME NEW_VALUE, or: NAME [VALUE] [--name NEW_NAME] [--value NEW_VALUE]</source>
+        <translation>Richtig ist: tarnwickctl post %1 NAME VALUE NEW_NAME NEW_VALUE, oder: NAME [VALUE] [--name NEW_NAME] [--value NEW_VALUE]</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>the settings and the %1 results of the log, which only an empty list takes</source>
+        <translation>die Einstellungen und die %1 Ergebnisse des Logs, die nur eine leere Liste aufnimmt</translation>
+    </message>
+    <message>
+        <source>a Jet database of the same tables</source>
+        <translation>eine Jet-Datenbank mit denselben Tabellen</translation>
+    </message>
+    <message>
+        <source>this is no Jet database: see whether it is the right file</source>
+        <translation>dies ist keine Jet-Datenbank: Sehen Sie nach, ob es die richtige Datei ist</translation>
+    </message>
+    <message>
+        <source>the database has no table sites, so it is none of this program</source>
+        <translation>die Datenbank hat keine Tabelle sites, daher ist sie keine dieses Programms</translation>
+    </message>
+    <message>
+        <source>%1 POST variable of a site that is not there</source>
+        <translation>%1 POST-Variable einer Seite, die nicht da ist</translation>
+    </message>
+    <message>
+        <source>%1 POST variables of sites that are not there</source>
+        <translation>%1 POST-Variablen von Seiten, die nicht da sind</translation>
+    </message>
+    <message>
+        <source>its id is %1, and ids are 1 to 32767, each of them once</source>
+        <translation>ihre ID ist %1, und IDs sind 1 bis 32767, jede einmal</translation>
+    </message>
+    <message>
+        <source>interval of %1 min (taken as %2 min)</source>
+        <translation>Abstand von %1 min (übernommen als %2 min)</translation>
+    </message>
+    <message>
+        <source>the database is damaged (%1): have its own program repair it, or take an older copy of it</source>
+        <translation>die Datenbank ist beschädigt (%1): Lassen Sie sie von ihrem eigenen Programm reparieren oder nehmen Sie eine ältere Kopie</translation>
+    </message>
+    <message>
+        <source>of the %1 rows of the table %2 %3 can be read</source>
+        <translation>von den %1 Zeilen der Tabelle %2 sind %3 lesbar</translation>
+    </message>
+    <message>
+        <source>a row of the table %1</source>
+        <translation>eine Zeile der Tabelle %1</translation>
+    </message>
+    <message>
+        <source>its list of tables cannot be read</source>
+        <translation>ihre Liste der Tabellen ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>it is cut short, or its list of tables is not whole</source>
+        <translation>sie ist abgeschnitten, oder ihre Liste der Tabellen ist unvollständig</translation>
+    </message>
+    <message>
+        <source>The settings and %1 result of the log would be taken, too.</source>
+        <translation>Auch die Einstellungen und %1 Ergebnis des Logs würden übernommen.</translation>
+    </message>
+    <message>
+        <source>The settings and %1 results of the log would be taken, too.</source>
+        <translation>Auch die Einstellungen und %1 Ergebnisse des Logs würden übernommen.</translation>
+    </message>
+    <message>
+        <source>The settings and %1 result of the log are taken, too.</source>
+        <translation>Auch die Einstellungen und %1 Ergebnis des Logs sind übernommen.</translation>
+    </message>
+    <message>
+        <source>The settings and %1 results of the log are taken, too.</source>
+        <translation>Auch die Einstellungen und %1 Ergebnisse des Logs sind übernommen.</translation>
+    </message>
+    <message>
+        <source>Also taken are a list of addresses, one a line, the bookmarks of a browser (HTML), OPML, the lists of urlwatch, the list or the backup of changedetection.io, and a Jet database of the same tables. A site of theirs whose address is in the list is that site. What has no place in the list is named, site by site.</source>
+        <translation>Auch übernommen werden eine Liste von Adressen, je Zeile eine, die Lesezeichen eines Browsers (HTML), OPML, die Listen von urlwatch, die Liste oder Sicherung von changedetection.io und eine Jet-Datenbank mit denselben Tabellen. Eine Seite daraus, deren Adresse in der Liste steht, ist diese Seite. Was in der Liste keinen Platz hat, wird Seite für Seite genannt.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>mails to %1, which is no mail address</source>
+        <translation>Mails an %1, was keine E-Mail-Adresse ist</translation>
+    </message>
+    <message>
+        <source>%1  %2</source>
+        <translation>%1  %2</translation>
+    </message>
+    <message>
+        <source>%1 or jet</source>
+        <translation>%1 oder jet</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>Einstellungen:</translation>
+    </message>
+    <message>
+        <source>%1: At Most 1 required but received %2</source>
+        <translation>%1: höchstens einmal, nicht %2-mal</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Email address</source>

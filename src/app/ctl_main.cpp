@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 
 #include "app/headless_platform.h"
+#include "app/translations.h"
 #include "base/errors.h"
 #include "cli/verbs/tool.h"
 #include "platform/process/unwanted_signals.h"
@@ -20,7 +21,8 @@ int run(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("tarnwickctl"));
   tarnwick::HeadlessPlatform machine;
-  tarnwick::Console console(std::cout, std::cerr, tarnwick::standardOutputFacts(), tarnwick::terminalWidth);
+  tarnwick::Console console(std::cout, std::cerr, tarnwick::standardOutputFacts(), tarnwick::terminalWidth,
+                            tarnwick::loadTranslations(application, QCoreApplication::applicationDirPath()));
   return tarnwick::runTool(arguments, QCoreApplication::applicationDirPath().toStdString(), machine.services(),
                            console);
 }

@@ -18,6 +18,7 @@ struct Remark {
 
 QtMessageHandler usual = nullptr;
 std::vector<Remark> remarks;
+Wording messages;
 
 std::string valueOf(const char* name) { return visibleText(qEnvironmentVariable(name).toStdString()); }
 
@@ -43,14 +44,18 @@ void listen(QtMsgType type, const QMessageLogContext&, const QString& text) {
     remarks.push_back({type, text});
     return;
   }
-  std::cerr << "tarnwick: " << whatIsMissing()
-            << " Start it on a desktop, or watch your sites in a terminal with: tarnwickctl run" << std::endl;
+  std::cerr << messages("tarnwick: " + whatIsMissing() +
+                        " Start it on a desktop, or watch your sites in a terminal with: tarnwickctl run")
+            << std::endl;
   std::_Exit(EXIT_FAILURE);
 }
 
 }  // namespace
 
-DisplayGuard::DisplayGuard() { usual = qInstallMessageHandler(listen); }
+DisplayGuard::DisplayGuard(const Wording& wording) {
+  messages = wording;
+  usual = qInstallMessageHandler(listen);
+}
 
 DisplayGuard::~DisplayGuard() {
   qInstallMessageHandler(usual);

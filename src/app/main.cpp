@@ -23,15 +23,23 @@ namespace {
 /// The status of arguments that cannot be understood, as the terminal tool has it.
 constexpr int kNotUnderstood = 2;
 
+// Without a display there will never be the application that has them.
+tarnwick::Wording messagesBeforeAll(int& argc, char** argv) {
+  QCoreApplication early(argc, argv);
+  return tarnwick::loadTranslations(early, QCoreApplication::applicationDirPath());
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   tarnwick::ignoreUnwantedSignals();
-  if (const auto answer = tarnwick::answerTo(tarnwick::programArguments(argc, argv))) {
-    (answer->isComplaint ? std::cerr : std::cout) << answer->text << std::endl;
+  const auto arguments = tarnwick::programArguments(argc, argv);
+  const tarnwick::Wording messages = messagesBeforeAll(argc, argv);
+  if (const auto answer = tarnwick::answerTo(arguments)) {
+    (answer->isComplaint ? std::cerr : std::cout) << messages(answer->text) << std::endl;
     return answer->isComplaint ? kNotUnderstood : EXIT_SUCCESS;
   }
-  auto guard = std::make_optional<tarnwick::DisplayGuard>();
+  auto guard = std::make_optional<tarnwick::DisplayGuard>(messages);
   QApplication application(argc, argv);
   guard.reset();
   QApplication::setApplicationName(QString::fromLatin1(tarnwick::kProductName));
@@ -50,10 +58,10 @@ int main(int argc, char** argv) {
     QApplication::exec();
     return EXIT_FAILURE;
   };
+  tarnwick::loadTranslations(application, executableFolder);
   if (!tarnwick::FaultBox(machine.services().prompts).run(choose)) {
     return failed();
   }
-  tarnwick::loadTranslations(application, {QString::fromStdString(folder), executableFolder});
   tarnwick::Master window(folder, machine.services());
   window.setEditors({.site = tarnwick::siteEditorOf(window.program(), window),
                      .settings = tarnwick::settingsDialogOf(window.program(), window),

@@ -10,6 +10,7 @@
 #include <QTranslator>
 
 #include "store/option_table.h"
+#include "ui/controls/display_text.h"
 #include "ui/main_window/master.h"
 
 namespace tarnwick::testing {
@@ -18,7 +19,9 @@ namespace {
 /// The user's language, until the end of the test; so is what was loaded for it.
 class TranslationsTest : public ::testing::Test {
  protected:
+  void SetUp() override { qunsetenv("LC_ALL"); }
   void TearDown() override {
+    locale.isNull() ? qunsetenv("LC_ALL") : qputenv("LC_ALL", locale);
     for (QTranslator* translator : qApp->findChildren<QTranslator*>(Qt::FindDirectChildrenOnly)) {
       QCoreApplication::removeTranslator(translator);
       delete translator;
@@ -29,12 +32,13 @@ class TranslationsTest : public ::testing::Test {
   static bool areCompiled() {
     return QDir(QStringLiteral(TARNWICK_BUILD)).exists(QStringLiteral("translations/tarnwick_de.qm"));
   }
-  static void load(QLocale::Language language) {
+  static Wording load(QLocale::Language language) {
     QLocale::setDefault(QLocale(language));
-    loadTranslations(*qApp, {QStringLiteral("/nowhere"), QStringLiteral(TARNWICK_BUILD)});
+    return loadTranslations(*qApp, QStringLiteral(TARNWICK_BUILD));
   }
 
   const QLocale before;
+  const QByteArray locale = qgetenv("LC_ALL");
 };
 
 TEST_F(TranslationsTest, TheUsersLanguageIsTakenWhereThereIsATranslation) {
@@ -59,6 +63,35 @@ TEST_F(TranslationsTest, EveryTextOfTheOptionsIsTranslated) {
       const bool isUnitOfMeasure = text == "MiB";
       EXPECT_TRUE(text.empty() || isUnitOfMeasure || QObject::tr(text.c_str()) != QString::fromStdString(text)) << text;
     }
+  }
+}
+
+TEST_F(TranslationsTest, MessagesOfTheRoomsBelowAreShownInTheUsersLanguage) {
+  if (!areCompiled()) {
+    GTEST_SKIP() << "the tool that compiles translations is not installed";
+  }
+  const Wording messages = load(QLocale::German);
+  EXPECT_EQ(messages("The connection to example.org port 80 was refused."),
+            "Die Verbindung zu example.org Port 80 wurde abgelehnt.");
+  EXPECT_EQ(messages("down 3 http://example.org/: The address is empty."),
+            "down 3 http://example.org/: Die Adresse ist leer.");
+  EXPECT_EQ(displayMessage("Time Until Next Check: 00:01:30"),
+            QStringLiteral("Zeit bis zur nächsten Prüfung: 00:01:30"));
+  EXPECT_EQ(displayMessage("line 3: expected \"Ready ...\", found \"Nothing was stored.\""),
+            QStringLiteral("Zeile 3: erwartet \"Ready ...\", gefunden \"Nothing was stored.\""));
+}
+
+TEST_F(TranslationsTest, MessagesStayAsTheyAreWithoutATranslation) {
+  const Wording messages = load(QLocale::English);
+  EXPECT_TRUE(messages.isEmpty());
+  EXPECT_EQ(displayMessage("Ready ..."), QStringLiteral("Ready ..."));
+  EXPECT_EQ(displayMessage(std::string("Ready\0 \xff", 8)), displayText(std::string("Ready\0 \xff", 8)));
+}
+
+TEST_F(TranslationsTest, AScriptGetsEnglishWhateverTheUserReads) {
+  for (const char* const plain : {"C", "C.UTF-8", "POSIX"}) {
+    qputenv("LC_ALL", plain);
+    EXPECT_TRUE(load(QLocale::German).isEmpty()) << plain;
   }
 }
 

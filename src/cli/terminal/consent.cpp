@@ -2,8 +2,19 @@
 #include "cli/terminal/consent.h"
 
 #include <stdexcept>
+#include <string_view>
+
+#include "base/text.h"
 
 namespace tarnwick {
+namespace {
+
+// The word or its first letter.
+bool isYes(std::string_view answer, std::string_view yes) {
+  return !answer.empty() && (equalsIgnoringCase(answer, yes) || equalsIgnoringCase(answer, yes.substr(0, 1)));
+}
+
+}  // namespace
 
 bool consents(Console& console, bool yes, const std::string& question) {
   if (yes) {
@@ -16,7 +27,7 @@ bool consents(Console& console, bool yes, const std::string& question) {
   while (!answer.empty() && (answer.back() == '\r' || answer.back() == ' ')) {
     answer.pop_back();
   }
-  if (answer == "y" || answer == "Y" || answer == "yes" || answer == "Yes" || answer == "YES") {
+  if (isYes(answer, "yes") || isYes(answer, console.worded("yes"))) {
     return true;
   }
   console.complain("Nothing was changed.");

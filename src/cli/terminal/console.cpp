@@ -92,13 +92,13 @@ void Console::say(std::string_view line) {
 void Console::complain(std::string_view line) {
   endLive();
   hasComplained_ = true;
-  err_ << "tarnwickctl: " << visibleLines(line) << '\n';
+  err_ << "tarnwickctl: " << visibleLines(worded(line)) << '\n';
   err_.flush();
 }
 
 std::string Console::ask(std::string_view question) {
   endLive();
-  err_ << visibleLines(question) << ' ';
+  err_ << visibleLines(worded(question)) << ' ';
   err_.flush();
   std::string answer;
   std::getline(std::cin, answer);

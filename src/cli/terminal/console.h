@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "base/visible_text.h"
+#include "base/wording.h"
 #include "platform/terminal.h"
 
 namespace tarnwick {
@@ -23,22 +24,34 @@ class Console {
   /// `width` tells how many characters a line of the terminal holds.
   Console(
       std::ostream& out, std::ostream& err, TerminalFacts facts,
-      std::function<std::size_t()> width = [] { return kUsualTerminalWidth; })
-      : written_(out), out_(&written_), err_(err), facts_(facts), width_(std::move(width)) {}
+      std::function<std::size_t()> width = [] { return kUsualTerminalWidth; }, Wording wording = {})
+      : written_(out),
+        out_(&written_),
+        err_(err),
+        facts_(facts),
+        width_(std::move(width)),
+        wording_(std::move(wording)) {}
 
   /// The stream of the data, with the live line out of the way.
   std::ostream& out();
   /// Writes a line of data and hands it on at once: who reads a pipe sees it now.
   void say(std::string_view line);
-  /// Writes a line about what went wrong, or about what is being done: never data.
+  /// Writes a line of words about a result, in the user's language.
+  void tell(std::string_view line) { say(worded(line)); }
+  /// Writes a line about what went wrong, or about what is being done: never data. In the user's language.
   void complain(std::string_view line);
   /// Shows `text` on the live line, cut to the terminal's width; nothing when the output is no terminal.
   void live(const std::string& text);
   /// Takes the live line away.
   void endLive();
 
-  /// Asks on the stream of the complaints, and returns the line that the user types; empty at the end of the input.
+  /// Asks on the stream of the complaints, in the user's language, and returns the line that the user types; empty at
+  /// the end of the input.
   std::string ask(std::string_view question);
+
+  /// A text in the user's language; what is for other programs to read does not come through here.
+  std::string worded(std::string_view text) const { return wording_(text); }
+  const Wording& wording() const { return wording_; }
 
   bool isTerminal() const { return facts_.isTerminal; }
   /// Whether there is a live line.
@@ -86,6 +99,7 @@ class Console {
   std::ostream& err_;
   TerminalFacts facts_;
   std::function<std::size_t()> width_;
+  Wording wording_;
   std::string live_;
   bool hasComplained_ = false;
 };

@@ -25,9 +25,11 @@ void TextGrid::addRow(std::vector<Cell> cells) {
 }
 
 void TextGrid::print(Console& console) const {
+  std::vector<std::string> titles;
   std::vector<std::size_t> widths;
   for (std::size_t i = 0; i < columns_.size(); ++i) {
-    std::size_t width = characterCount(columns_[i].title);
+    titles.push_back(console.worded(columns_[i].title));
+    std::size_t width = characterCount(titles[i]);
     for (const auto& row : rows_) {
       width = std::max(width, characterCount(row[i].text));
     }
@@ -45,7 +47,7 @@ void TextGrid::print(Console& console) const {
     return line;
   };
   std::ostream& out = console.out();
-  out << lineOf([&](std::size_t i) { return Cell{columns_[i].title, Console::Colour::bold}; }) << '\n';
+  out << lineOf([&](std::size_t i) { return Cell{titles[i], Console::Colour::bold}; }) << '\n';
   for (const auto& row : rows_) {
     out << lineOf([&](std::size_t i) { return row[i]; }) << '\n';
   }

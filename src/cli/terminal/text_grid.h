@@ -13,7 +13,7 @@ class TextGrid {
  public:
   enum class Align { left, right };
   struct Column {
-    std::string title;
+    std::string title;  ///< in English; shown in the user's language
     Align align = Align::left;
   };
   struct Cell {

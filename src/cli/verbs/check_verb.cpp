@@ -35,7 +35,7 @@ class CheckView final : public SilentView {
 
   void showStatus(const std::string& text) override {
     if (!json_) {
-      console_.live(text);
+      console_.live(console_.worded(text));
     }
   }
 
@@ -51,7 +51,7 @@ class CheckView final : public SilentView {
     std::string line = state + " " + std::to_string(result.idSite) + " " + visibleText(result.url);
     const std::string why = reasonOf(result);
     line += why.empty() ? why : ": " + why;
-    console_.say(line);
+    console_.tell(line);
   }
 
   void showDropped(std::int16_t idSite, const std::string& url) override {
@@ -65,7 +65,7 @@ class CheckView final : public SilentView {
                   {"cause", kDropped},
                   {"dropped", true}});
     } else {
-      console_.say("drop " + std::to_string(idSite) + " " + visibleText(url) + ": " + kDropped);
+      console_.tell("drop " + std::to_string(idSite) + " " + visibleText(url) + ": " + kDropped);
     }
   }
 

@@ -215,9 +215,27 @@ std::vector<std::string> complaintsOf(const CLI::App& app, const CLI::ParseError
           "See: tarnwickctl" + verb + " --help"};
 }
 
+// The help of `app` and of all its verbs.
+void translate(CLI::App& app, const Wording& wording) {
+  for (const char* const label : {"Usage", "OPTIONS", "POSITIONALS", "Positionals", "REQUIRED", "Needs", "Excludes"}) {
+    app.get_formatter()->label(label, wording(label));
+  }
+  app.description(wording(app.get_description()));
+  app.footer(wording(app.get_footer()));
+  for (CLI::Option* option : app.get_options()) {
+    option->description(wording(option->get_description()));
+    option->group(wording(option->get_group()));
+  }
+  for (CLI::App* verb : app.get_subcommands([](CLI::App*) { return true; })) {
+    verb->group(wording(verb->get_group()));
+    translate(*verb, wording);
+  }
+}
+
 }  // namespace
 
-CommandLine understand(const std::vector<std::string>& arguments, const std::vector<Verb>& verbs) {
+CommandLine understand(const std::vector<std::string>& arguments, const std::vector<Verb>& verbs,
+                       const Wording& wording) {
   CommandLine line;
   std::string folder;
   CLI::App app(kDescription, "tarnwickctl");
@@ -229,6 +247,9 @@ CommandLine understand(const std::vector<std::string>& arguments, const std::vec
   addFolder(app, folder);
   for (const Verb& verb : verbs) {
     addVerb(app, verb, folder, line.action);
+  }
+  if (!wording.isEmpty()) {
+    translate(app, wording);
   }
   try {
     std::vector<std::string> given = withEmptyValues(arguments, verbs);

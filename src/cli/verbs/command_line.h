@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/wording.h"
 #include "cli/verbs/verb.h"
 
 namespace tarnwick {
@@ -22,6 +23,7 @@ struct CommandLine {
 };
 
 /// Understands the arguments (without the program's name) and writes the values of the options where they belong.
-CommandLine understand(const std::vector<std::string>& arguments, const std::vector<Verb>& verbs);
+CommandLine understand(const std::vector<std::string>& arguments, const std::vector<Verb>& verbs,
+                       const Wording& wording = {});
 
 }  // namespace tarnwick

@@ -15,7 +15,7 @@ struct CountersOptions {
 int clearCounters(Tool& tool, const CountersOptions& options) {
   if (!options.idSite) {
     tool.data().clearCounters(kEverySite);
-    tool.console().say("The counters of all sites are 0 now.");
+    tool.console().tell("The counters of all sites are 0 now.");
     return exit_status::ok;
   }
   // An id below 0 would mean every site.
@@ -24,7 +24,7 @@ int clearCounters(Tool& tool, const CountersOptions& options) {
   }
   requireListed(tool, *options.idSite);
   tool.data().clearCounters(*options.idSite);
-  tool.console().say("The counters of site " + std::to_string(*options.idSite) + " are 0 now.");
+  tool.console().tell("The counters of site " + std::to_string(*options.idSite) + " are 0 now.");
   return exit_status::ok;
 }
 

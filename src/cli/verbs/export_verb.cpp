@@ -144,7 +144,7 @@ int exportList(Tool& tool, const ExportOptions& options) {
   std::size_t count = 0;
   tool.services().files.writePrivately(options.file,
                                        [&](const ByteSink& sink) { count = writeList(tool, format, columns, sink); });
-  console.say("Exported " + countText(count) + " to " + shownName(options.file) + ".");
+  console.tell("Exported " + countText(count) + " to " + shownName(options.file) + ".");
   return exit_status::ok;
 }
 

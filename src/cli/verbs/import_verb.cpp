@@ -138,7 +138,7 @@ void tell(Tool& tool, const ImportPlan& plan, const ReadList& file, const Import
   }
   Console& console = tool.console();
   if (options.dryRun && plan.optionsOfAll) {
-    console.out() << "change the options of all sites\n";
+    console.tell("change the options of all sites");
   }
   for (const ImportStep& step : plan.steps) {
     if (options.dryRun) {
@@ -148,25 +148,25 @@ void tell(Tool& tool, const ImportPlan& plan, const ReadList& file, const Import
   std::size_t leftOut = 0;
   std::size_t inPart = 0;
   for (const ForeignNote& note : file.list.content.notes) {
-    console.out() << lineOf(note) << '\n';
+    console.tell(lineOf(note));
     ++(note.leftOut ? leftOut : inPart);
   }
   if (!options.dryRun && plan.optionsOfAll) {
-    console.say("The options of all sites are changed.");
+    console.tell("The options of all sites are changed.");
   }
   const char* const to = options.dryRun ? " to " : " ";
   const auto part = [&](ImportStep::Action action, const char* coming, const char* done) {
     return std::to_string(plan.count(action)) + to + (options.dryRun ? coming : done) + ", ";
   };
-  console.say(part(add, "add", "added") + part(change, "change", "changed") + part(remove, "delete", "deleted") +
-              std::to_string(plan.unchanged) + " unchanged.");
+  console.tell(part(add, "add", "added") + part(change, "change", "changed") + part(remove, "delete", "deleted") +
+               std::to_string(plan.unchanged) + " unchanged.");
   if (const ForeignList& list = file.list.content; !list.settings.empty() || !list.log.empty()) {
-    console.say(std::string("The settings and ") + counted(list.log.size(), " result", " results") + " of the log " +
-                (options.dryRun ? "would be taken, too." : "are taken, too."));
+    console.tell(std::string("The settings and ") + counted(list.log.size(), " result", " results") + " of the log " +
+                 (options.dryRun ? "would be taken, too." : "are taken, too."));
   }
   if (leftOut + inPart > 0) {
-    console.say(counted(inPart, " note tells", " notes tell") + " what was not taken over, " +
-                counted(leftOut, " entry was left out.", " entries were left out."));
+    console.tell(counted(inPart, " note tells", " notes tell") + " what was not taken over, " +
+                 counted(leftOut, " entry was left out.", " entries were left out."));
   }
 }
 

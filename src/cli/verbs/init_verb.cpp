@@ -32,9 +32,9 @@ int init(Tool& tool, const InitOptions& options) {
   if (options.json) {
     sayJson(tool.console(), {{"folder", jsonText(folder)}, {"laid", laid == Laid::now}});
   } else {
-    tool.console().say(laid == Laid::now
-                           ? "A fresh list lies in " + visibleText(folder) + "."
-                           : "There is a list in " + visibleText(folder) + " already. It stays as it is.");
+    tool.console().tell(laid == Laid::now
+                            ? "A fresh list lies in " + visibleText(folder) + "."
+                            : "There is a list in " + visibleText(folder) + " already. It stays as it is.");
   }
   return exit_status::ok;
 }

@@ -87,7 +87,7 @@ void printRow(Console& console, const LogRow& row) {
   out << visibleText(row.dateStamp.value_or("-")) << "  " << stateText(console, row) << "  "
       << (row.idSite ? std::to_string(*row.idSite) : "-") << "  " << visibleText(row.url.value_or(""));
   if (row.errDescription && !row.errDescription->empty()) {
-    out << ": " << visibleText(*row.errDescription);
+    out << ": " << visibleText(console.worded(*row.errDescription));
   }
   out << '\n';
   printPage(out, row.content.value_or(""));
@@ -129,7 +129,7 @@ int clearLog(Tool& tool, const LogOptions& options) {
     return exit_status::failed;
   }
   data.clearLog();
-  tool.console().say("The log is empty now.");
+  tool.console().tell("The log is empty now.");
   return exit_status::ok;
 }
 

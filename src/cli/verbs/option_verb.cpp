@@ -85,8 +85,8 @@ void store(m& data, std::int16_t idSite, const std::vector<Wish>& wishes) {
 void tellWhatIsStored(Console& console, std::int16_t idSite, const std::vector<Wish>& wishes) {
   for (const auto& [option, value] : wishes) {
     if (value) {
-      console.say("The option " + option->name + " of " + nameOf(idSite) +
-                  (value->empty() ? " is removed." : " is stored."));
+      console.tell("The option " + option->name + " of " + nameOf(idSite) +
+                   (value->empty() ? " is removed." : " is stored."));
     }
   }
 }

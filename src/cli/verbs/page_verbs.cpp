@@ -34,7 +34,7 @@ int told(Tool& tool, const BaselineOptions& options, const std::string& text) {
   if (options.json) {
     sayJson(tool.console(), {{"idSite", options.idSite}, {"size", size}});
   } else {
-    tool.console().say(text + (size == 0 ? "" : " (" + sizeText(size) + ")"));
+    tool.console().tell(text + (size == 0 ? "" : " (" + sizeText(size) + ")"));
   }
   return exit_status::ok;
 }
@@ -160,8 +160,8 @@ int diff(Tool& tool, const DiffOptions& options) {
     });
     sayJson(console, {{"idSite", options.idSite}, {"equal", before == after}, {"diff", std::move(lines)}});
   } else if (before != after) {
-    console.out() << console.coloured(Console::Colour::bold, "--- baseline of site " + id) << '\n'
-                  << console.coloured(Console::Colour::bold, "+++ latest page of site " + id) << '\n';
+    console.out() << console.coloured(Console::Colour::bold, console.worded("--- baseline of site " + id)) << '\n'
+                  << console.coloured(Console::Colour::bold, console.worded("+++ latest page of site " + id)) << '\n';
     unifiedDiff(before, after, [&](const DiffLine& line) { printDiffLine(console, line); });
   }
   return before == after ? exit_status::ok : exit_status::down;

@@ -103,7 +103,7 @@ int addVar(Tool& tool, PostOptions options) {
   requireListed(tool, options.idSite);  // the variables of a site that is gone would be sent by the next one of its id
   data.addPostVars(options.idSite, *options.name, *options.value);
   whole.commit();
-  tool.console().say(siteName(options) + " has the variable " + inQuotes(*options.name) + " now.");
+  tool.console().tell(siteName(options) + " has the variable " + inQuotes(*options.name) + " now.");
   hintAtMethod(tool, options.idSite);
   return exit_status::ok;
 }
@@ -127,7 +127,7 @@ int changeVar(Tool& tool, const PostOptions& options) {
     storeAnew(data, options.idSite, vars);
   }
   whole.commit();
-  tool.console().say("The variable is " + inQuotes(var.name) + " = " + inQuotes(var.value) + " now.");
+  tool.console().tell("The variable is " + inQuotes(var.name) + " = " + inQuotes(var.value) + " now.");
   return exit_status::ok;
 }
 
@@ -147,7 +147,7 @@ int removeVar(Tool& tool, const PostOptions& options) {
     storeAnew(data, options.idSite, vars);
   }
   whole.commit();
-  tool.console().say("The variable " + inQuotes(*options.name) + " is removed.");
+  tool.console().tell("The variable " + inQuotes(*options.name) + " is removed.");
   return exit_status::ok;
 }
 

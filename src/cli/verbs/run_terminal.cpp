@@ -170,7 +170,7 @@ void RunTerminal::tell(const std::string& text, const char* event, JsonValue det
     }
     console_.say(jsonLine(std::move(line)));
   } else {
-    console_.say(now + " " + text);
+    console_.say(now + " " + console_.worded(text));
   }
   lookAfterTheOutput();
 }
@@ -183,12 +183,12 @@ void RunTerminal::showLive() {
   }
   const auto down = static_cast<std::size_t>(
       std::count_if(known_.begin(), known_.end(), [](const auto& site) { return !site.second; }));
-  std::string line = runTime_.empty() ? std::string() : runTime_ + "  ";
+  std::string line = runTime_.empty() ? std::string() : console_.worded(runTime_) + "  ";
   line += countText(known_.size() - down, down) + "  ";
   if (state_ == RunState::start) {
     line += std::to_string(progress_ * 100 / kFullWidth) + " %  ";
   }
-  console_.live(line + status_);
+  console_.live(line + console_.worded(status_));
   lookAfterTheOutput();
 }
 

@@ -133,7 +133,7 @@ int storeSetting(Tool& tool, const SettingField& key, const std::string& text, b
   if (json) {
     return showSetting(tool, key, true);
   }
-  tool.console().say("The setting " + key.name + " is stored.");
+  tool.console().tell("The setting " + key.name + " is stored.");
   return exit_status::ok;
 }
 

@@ -155,7 +155,7 @@ int setSite(Tool& tool, const SiteEdit& edit) {
   apply(tool.services().files, tool.fields(), known, site);
   storeSite(data, edit.idSite, site, newVars.empty() ? readPostVars(data, edit.idSite) : newVars);
   whole.commit();
-  tool.console().say("Site " + id + " is changed.");
+  tool.console().tell("Site " + id + " is changed.");
   if (edit.active || edit.url) {
     hintAtUnwatched(tool, {edit.idSite});
   }

@@ -73,7 +73,7 @@ void printSites(Console& console, const std::vector<SiteFacts>& sites) {
   for (const SiteFacts& facts : sites) {
     const StateText state = stateOf(facts);
     grid.addRow({{std::to_string(facts.idSite)},
-                 {state.text, state.colour},
+                 {console.worded(state.text), state.colour},
                  {facts.site.method},
                  {facts.site.tInterval},
                  {facts.lastChecked.empty() ? "-" : facts.lastChecked},
@@ -106,12 +106,14 @@ int listSites(Tool& tool, const SitesOptions& options) {
   return exit_status::ok;
 }
 
-std::string yesNo(bool flag) { return flag ? "yes" : "no"; }
+std::string yesNo(const Console& console, bool flag) { return console.worded(flag ? "yes" : "no"); }
 
-std::string orNone(const std::string& text) { return text.empty() ? "none" : visibleText(text); }
+std::string orNone(const Console& console, const std::string& text) {
+  return text.empty() ? console.worded("none") : visibleText(text);
+}
 
-std::string passwordText(const std::string& password, bool show) {
-  return password.empty() || show ? orNone(password) : "set; --show-password shows it";
+std::string passwordText(const Console& console, const std::string& password, bool show) {
+  return password.empty() || show ? orNone(console, password) : console.worded("set; --show-password shows it");
 }
 
 std::string baselineText(std::size_t size) {
@@ -119,8 +121,8 @@ std::string baselineText(std::size_t size) {
                    : std::to_string(size) + (size == 1 ? " byte" : " bytes");
 }
 
-std::string alertText(const SiteDraft& site) {
-  return yesNo(site.alertEmail) + (site.email.empty() ? "" : ", " + visibleText(site.email));
+std::string alertText(const Console& console, const SiteDraft& site) {
+  return yesNo(console, site.alertEmail) + (site.email.empty() ? "" : ", " + visibleText(site.email));
 }
 
 void printSite(Console& console, const Fields& fields, const SiteFacts& facts, const std::vector<PostVar>& vars,
@@ -130,32 +132,35 @@ void printSite(Console& console, const Fields& fields, const SiteFacts& facts, c
   std::vector<std::pair<std::string, std::string>> lines = {
       {"Site", std::to_string(facts.idSite)},
       {"URL", visibleText(site.url)},
-      {"State", console.coloured(state.colour, state.text)},
-      {"Active", yesNo(site.active)},
+      {"State", console.coloured(state.colour, console.worded(state.text))},
+      {"Active", yesNo(console, site.active)},
       {"Method", visibleText(site.method)},
-      {"Interval", site.tInterval.empty() ? "none" : visibleText(site.tInterval) + " min"},
-      {"Last test", facts.lastChecked.empty() ? "never" : visibleText(facts.lastChecked)},
+      {"Interval", site.tInterval.empty() ? console.worded("none") : visibleText(site.tInterval) + " min"},
+      {"Last test", facts.lastChecked.empty() ? console.worded("never") : visibleText(facts.lastChecked)},
       {"Up", std::to_string(facts.success)},
       {"Down", std::to_string(facts.failure)},
-      {"Alert mail", alertText(site)},
-      {"User name", orNone(site.sUserName)},
-      {"Password", passwordText(site.sPassWord, showPassword)},
-      {"Baseline", baselineText(baselineSize)},
-      {"Variables", vars.empty() ? "none" : std::to_string(vars.size())}};
+      {"Alert mail", alertText(console, site)},
+      {"User name", orNone(console, site.sUserName)},
+      {"Password", passwordText(console, site.sPassWord, showPassword)},
+      {"Baseline", console.worded(baselineText(baselineSize))},
+      {"Variables", vars.empty() ? console.worded("none") : std::to_string(vars.size())}};
   for (const SiteField& field : fields.site) {
     if (std::holds_alternative<std::monostate>(field.member)) {
       const FieldValue value = valueOf(field, site);
       const auto* const text = std::get_if<std::string>(&value);
-      lines.emplace_back(field.label, text == nullptr                   ? yesNo(std::get<bool>(value))
-                                      : field.kind == FieldKind::secret ? passwordText(*text, showPassword)
-                                                                        : orNone(*text));
+      lines.emplace_back(field.label, text == nullptr                   ? yesNo(console, std::get<bool>(value))
+                                      : field.kind == FieldKind::secret ? passwordText(console, *text, showPassword)
+                                                                        : orNone(console, *text));
     }
   }
-  const auto labelSize = [](const auto& line) { return line.first.size(); };
+  for (auto& [label, text] : lines) {
+    label = console.worded(label);
+  }
+  const auto labelSize = [](const auto& line) { return characterCount(line.first); };
   const std::size_t width = labelSize(*std::ranges::max_element(lines, {}, labelSize));
   std::ostream& out = console.out();
   for (const auto& [label, text] : lines) {
-    out << label << ':' << std::string(width + 2 - label.size(), ' ') << text << '\n';
+    out << label << ':' << std::string(width + 2 - characterCount(label), ' ') << text << '\n';
   }
   for (const PostVar& var : vars) {
     out << "  " << visibleText(var.name) << '=' << visibleText(var.value) << '\n';
@@ -238,7 +243,7 @@ int deleteSites(Tool& tool, const DeleteOptions& options) {
     whole.commit();
   });
   for (const std::int64_t id : ids) {
-    tool.console().say("Site " + std::to_string(id) + " is deleted.");
+    tool.console().tell("Site " + std::to_string(id) + " is deleted.");
   }
   return exit_status::ok;
 }

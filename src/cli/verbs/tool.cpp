@@ -67,7 +67,7 @@ int runTool(const std::vector<std::string>& arguments, const std::string& progra
   std::string folder;
   try {
     const std::vector<Verb> verbs = allVerbs(fields);
-    const CommandLine line = understand(arguments, verbs);
+    const CommandLine line = understand(arguments, verbs, console.wording());
     if (!line.complaints.empty()) {
       std::ranges::for_each(line.complaints, [&console](const std::string& text) { console.complain(text); });
       return exit_status::failed;

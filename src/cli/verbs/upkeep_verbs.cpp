@@ -59,8 +59,8 @@ int compact(Tool& tool, const UpkeepOptions& options) {
   if (options.json) {
     sayJson(tool.console(), {{"before", before}, {"after", after}});
   } else {
-    tool.console().say("The database is compacted: " + std::to_string(before) + " bytes before, " +
-                       std::to_string(after) + " bytes after. backup.mdb is the copy from before.");
+    tool.console().tell("The database is compacted: " + std::to_string(before) + " bytes before, " +
+                        std::to_string(after) + " bytes after. backup.mdb is the copy from before.");
   }
   return exit_status::ok;
 }
@@ -75,9 +75,9 @@ int restore(Tool& tool, const RestoreOptions& options) {
                              {"kept", outcome.kept.empty() ? JsonValue() : JsonValue(jsonText(outcome.kept))}});
     return exit_status::ok;
   }
-  tool.console().say("The list is a copy of " + visibleText(options.file) + " now, with " +
-                     std::to_string(outcome.sites) + (outcome.sites == 1 ? " site." : " sites.") +
-                     (outcome.kept.empty() ? "" : " The one before is kept as " + visibleText(outcome.kept) + "."));
+  tool.console().tell("The list is a copy of " + visibleText(options.file) + " now, with " +
+                      std::to_string(outcome.sites) + (outcome.sites == 1 ? " site." : " sites.") +
+                      (outcome.kept.empty() ? "" : " The one before is kept as " + visibleText(outcome.kept) + "."));
   return exit_status::ok;
 }
 

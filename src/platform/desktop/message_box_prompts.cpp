@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPointer>
 
+#include "base/wording.h"
 #include "platform/desktop/file_filters.h"
 
 namespace tarnwick {
@@ -42,14 +43,17 @@ QWidget* mainWindow() {
 /// A box must not be lost behind a window that is in nobody's way any more.
 QWidget* standingOwner(QWidget* owner) { return owner != nullptr && owner->isVisible() ? owner : nullptr; }
 
+/// Worded where no language is known.
+QString translated(const std::string& text) { return QCoreApplication::translate(kMessages, text.c_str()); }
+
 QMessageBox& makeBox(const Message& message, QMessageBox::StandardButtons buttons) {
   QWidget* owner = standingOwner(message.owner);
   auto* box = new QMessageBox(owner != nullptr ? owner : mainWindow());
   box->setTextFormat(Qt::PlainText);
   box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   box->setIcon(iconOf(message.icon));
-  box->setWindowTitle(QString::fromStdString(message.title));
-  box->setText(QString::fromStdString(message.text));
+  box->setWindowTitle(translated(message.title));
+  box->setText(translated(message.text));
   box->setStandardButtons(buttons);
   return *box;
 }
@@ -71,7 +75,7 @@ QStringList nameFilters(const std::string& filter) {
   QStringList filters;
   const QStringList pieces = QString::fromStdString(filter).split(QLatin1Char('|'));
   for (qsizetype piece = 0; piece + 1 < pieces.size(); piece += 2) {
-    const QString name = pieces[piece].section(QLatin1Char('('), 0, 0).trimmed();
+    const QString name = translated(pieces[piece].section(QLatin1Char('('), 0, 0).trimmed().toStdString());
     QString patterns = pieces[piece + 1];
     filters << QStringLiteral("%1 (%2)").arg(name, patterns.replace(QLatin1Char(';'), QLatin1Char(' ')));
   }

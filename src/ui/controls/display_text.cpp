@@ -2,9 +2,11 @@
 #include "ui/controls/display_text.h"
 
 #include <algorithm>
+#include <QCoreApplication>
 #include <QStringDecoder>
 
 #include "base/windows_1252.h"
+#include "base/wording.h"
 
 namespace tarnwick {
 namespace {
@@ -24,6 +26,12 @@ QString displayText(std::string_view bytes) {
   QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   const QString text = utf8(view);
   return utf8.hasError() ? fromWindows1252(view) : text;
+}
+
+QString displayMessage(std::string_view message) {
+  const QString text = displayText(message);
+  // A NUL would be its end.
+  return text.contains(QChar::Null) ? text : QCoreApplication::translate(kMessages, text.toUtf8().constData());
 }
 
 QString plainToolTip(const QString& text) {

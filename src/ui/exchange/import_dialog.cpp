@@ -146,7 +146,7 @@ void ImportDialog::finishReading() {
       tellPlan();
     }
   } catch (const std::exception& error) {
-    importState_->setText(displayText(error.what()));
+    importState_->setText(displayMessage(error.what()));
   }
 }
 

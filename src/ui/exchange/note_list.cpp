@@ -21,7 +21,7 @@ QVariant NoteList::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) {
     return {};
   }
-  const QString text = displayText(lines_.at(static_cast<std::size_t>(index.row())));
+  const QString text = displayMessage(lines_.at(static_cast<std::size_t>(index.row())));
   return role == Qt::DisplayRole ? QVariant(text) : role == Qt::ToolTipRole ? QVariant(plainToolTip(text)) : QVariant();
 }
 

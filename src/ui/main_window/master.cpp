@@ -232,13 +232,13 @@ void Master::fillGrid() {
 
 QString Master::reasonOf(std::int16_t idSite) {
   try {
-    return displayText(program_.data().reasonOf(idSite));
+    return displayMessage(program_.data().reasonOf(idSite));
   } catch (const std::exception&) {
     return {};
   }
 }
 
-void Master::showStatus(const std::string& text) { controls_.lStatus->showText(displayText(text)); }
+void Master::showStatus(const std::string& text) { controls_.lStatus->showText(displayMessage(text)); }
 
 void Master::indicators(RunState state) {
   state_ = state;
@@ -264,7 +264,7 @@ void Master::blinkLamps() {
   notices_->lookNowAndThen();
 }
 
-void Master::showClock(const std::string& text) { controls_.lClock->setText(QString::fromStdString(text)); }
+void Master::showClock(const std::string& text) { controls_.lClock->setText(displayMessage(text)); }
 
 std::int64_t Master::fullProgressWidth() { return controls_.pb1->takeFullWidth(); }
 

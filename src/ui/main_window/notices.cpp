@@ -21,7 +21,7 @@ constexpr std::size_t kMostListed = 20;
 constexpr qsizetype kLongestListed = 300;
 
 /// Bytes of elsewhere, for a line among others.
-QString onOneLine(std::string_view bytes) { return displayText(bytes).left(kLongestListed).simplified(); }
+QString onOneLine(const QString& text) { return text.left(kLongestListed).simplified(); }
 
 }  // namespace
 
@@ -109,7 +109,7 @@ void Notices::showFirstUnwatched() {
 }
 
 void Notices::add(const LostMail& mail) {
-  lost_.push_back({mail.idSite, onOneLine(mail.url), onOneLine(mail.why)});
+  lost_.push_back({mail.idSite, onOneLine(displayText(mail.url)), onOneLine(displayMessage(mail.why))});
   if (lost_.size() > kMostListed) {
     lost_.pop_front();
   }

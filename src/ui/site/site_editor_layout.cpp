@@ -204,7 +204,7 @@ void showReason(QDialog& dialog, const std::string& reason) {
     // Below all else, so that nothing moves.
     dialog.layout()->addWidget(label);
   }
-  label->setText(displayText(reason));
+  label->setText(displayMessage(reason));
 }
 
 }  // namespace tarnwick

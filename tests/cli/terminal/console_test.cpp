@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
+#include <vector>
+
+#include "cli/terminal/text_grid.h"
 
 namespace tarnwick {
 namespace {
@@ -45,6 +48,20 @@ TEST_F(ConsoleTest, TakesTheLiveLineAwayBeforeAComplaint) {
   terminal.complain("no");
   EXPECT_EQ(out.str(), "\r\x1b[K");
   EXPECT_EQ(err.str(), "tarnwickctl: no\n");
+}
+
+TEST_F(ConsoleTest, SaysWordsInTheUsersLanguageAndDataAsTheyAre) {
+  Console german(
+      out, err, {}, [] { return std::size_t{80}; },
+      Wording(std::vector<Wording::Entry>{{"Site %1 is up.", "Seite %1 steht."}, {"none", "keine"}}));
+  german.tell("Site 3 is up.");
+  german.say("Site 3 is up.");
+  TextGrid grid({{"none"}, {"URL"}});
+  grid.addRow({{"none"}, {"Site 3 is up."}});
+  grid.print(german);
+  EXPECT_EQ(out.str(), "Seite 3 steht.\nSite 3 is up.\nkeine  URL\nnone   Site 3 is up.\n");
+  german.complain("none");
+  EXPECT_EQ(err.str(), "tarnwickctl: keine\n");
 }
 
 TEST_F(ConsoleTest, HasNoLiveLineAndNoColourInAPipe) {

@@ -155,6 +155,20 @@ TEST_F(ToolItself, TakesAnEmptyValueForOneInEveryVerb) {
   EXPECT_GT(seen, 40U);
 }
 
+TEST_F(ToolItself, HelpsInTheUsersLanguage) {
+  const Wording wording(std::vector<Wording::Entry>{{"List the sites", "Die Seiten zeigen"},
+                                                    {"Usage", "Aufruf"},
+                                                    {"Verbs", "Verben"},
+                                                    {"Print JSON", "JSON ausgeben"},
+                                                    {"all of them", "alle"}});
+  const std::vector<Verb> verbs = allVerbs(fields);
+  EXPECT_THAT(
+      understand({"--help"}, verbs, wording).text,
+      ::testing::AllOf(HasSubstr("Aufruf: tarnwickctl"), HasSubstr("\nVerben:\n"), HasSubstr(" Die Seiten zeigen\n")));
+  EXPECT_THAT(understand({"sites", "--help"}, verbs, wording).text,
+              ::testing::AllOf(HasSubstr(" JSON ausgeben\n"), HasSubstr("  tarnwickctl sites\n      alle\n")));
+}
+
 TEST_F(ToolItself, StoresAnEmptyValueAndNotTheNextArgument) {
   ASSERT_EQ(run({"add", "http://a/", "--password=", "--inactive"}), exit_status::ok) << err;
   EXPECT_EQ(column(1, "sPassWord"), "");
