@@ -79,6 +79,9 @@ SelectedSites::Standing SelectedSites::standingOf(std::size_t row) const {
   if (sameAddress && isAsSelected(site_column::active) && wouldSendTheSame(row, stored)) {
     return Standing::asSelected;
   }
+  if (!SqlValue(stored.at(site_column::active, 1)).toBool()) {
+    return Standing::switchedOff;
+  }
   // A new site under the id has not been checked when the one that was selected had.
   return isAsSelected(site_column::lastChecked) ? Standing::changed : Standing::gone;
 }

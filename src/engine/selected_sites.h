@@ -21,8 +21,9 @@ class SelectedSites {
   /// What has become of a site since it was selected.
   enum class Standing {
     asSelected,
-    changed,  ///< it would be asked for its page otherwise than it was
-    gone,     ///< deleted; there may be another one under its id
+    changed,      ///< it would be asked for its page otherwise than it was
+    switchedOff,  ///< it is not to be checked any more
+    gone,         ///< deleted; there may be another one under its id
   };
 
   SelectedSites(const RunController::Needs& needs, TextTable sites);

@@ -98,6 +98,16 @@ TEST_F(EditsInMidPass, ADroppedPageIsToldAndLeavesNoLog) {
   EXPECT_THAT(server.requests(), SizeIs(1)) << "A site that is switched off is not checked.";
 }
 
+TEST_F(EditsInMidPass, ASiteThatIsSwitchedOffWithAnotherAddressOwesNoPass) {
+  const std::int16_t id = addSite(server.url("/old"));
+  addPage("/other", "other");
+  during("/old", [&] { set(id, server.url("/new"), false); });
+  program.startRun();
+  EXPECT_THAT(view.dropped, ElementsAre(id));
+  tick();
+  EXPECT_THAT(view.status(), HasSubstr("Time Until Next Check: 00:09:5")) << "and no pass without a site";
+}
+
 TEST_F(EditsInMidPass, ADeletedSiteOwesNothing) {
   const std::int16_t id = addSite(server.url("/old"));
   addPage("/other", "other");

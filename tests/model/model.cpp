@@ -301,9 +301,11 @@ void Model::record(Slot& slot, Time now) {
     count();
 }
 
-// The page answers a question that nobody asks any more: no verdict, no log row, and the site is asked again at once.
+// The page answers a question that nobody asks any more: no verdict, no log row, and the site is asked again at once if
+// it is watched still.
 void Model::dropPage(int idSite) {
-  if (!sites_.contains(idSite))
+  const auto site = sites_.find(idSite);
+  if (site == sites_.end() || !isYes(site->second.active))
     return;
   atOnce_.insert(idSite);
   secondsToNext_ = 0;

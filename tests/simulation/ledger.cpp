@@ -24,6 +24,10 @@ std::string rowText(std::int64_t idSite, std::string_view url, bool passed, std:
 /// Results that come together are in the log at once, and shown one after the other.
 constexpr std::size_t kMostTogether = 16;
 
+/// How long a failure may take to be counted that could not be at once: the program tries it with the ticks of the
+/// lamps, which are rare here.
+constexpr Time kCountedLater = 1h;
+
 bool isFailure(const std::string& row) { return row.find("|0|") != std::string::npos; }
 
 }  // namespace
@@ -56,22 +60,16 @@ void Ledger::started(const std::vector<std::string>& program) {
   }
 }
 
-void Ledger::setDiskFails(bool fails) {
-  if (diskFails_ && !fails) {
+void Ledger::setFails(bool& what, bool fails) {
+  if (what && !fails) {
     known_ = false;
+    settlesFrom_ = world_.agenda.now() + kCountedLater;
   }
-  diskFails_ = fails;
-}
-
-void Ledger::setMemoryFails(bool fails) {
-  if (memoryFails_ && !fails) {
-    known_ = false;
-  }
-  memoryFails_ = fails;
+  what = fails;
 }
 
 void Ledger::settle() {
-  if (!known_ && !diskFails_ && !memoryFails_ && !world_.isDead()) {
+  if (!known_ && !diskFails_ && !memoryFails_ && world_.agenda.now() >= settlesFrom_ && !world_.isDead()) {
     try {
       begin();
     } catch (const std::exception&) {
@@ -137,6 +135,7 @@ void Ledger::compareAfterDeath() {
     known_ = false;
     diskFails_ = false;
     memoryFails_ = false;
+    settlesFrom_ = {};
     settle();
   } catch (const std::exception& error) {
     fail(std::string("the list cannot be opened after the end of its processes: ") + error.what());
@@ -211,32 +210,31 @@ void Ledger::watchLiveness() {
 }
 
 // Of a log with a bound the oldest pages are emptied, and no more of them than there must be. On a full disk a page is
-// not kept in the first place, which its row says.
+// not kept in the first place, which its row says. The newest rows tell enough, of a list with the least bound.
 void Ledger::watchPages() {
-  constexpr std::int64_t kMebibyte = std::int64_t{1} << 20U;
-  constexpr std::int64_t kLongestPage = 40'000;
-  const std::vector<std::string> limit =
-      askDatabase(world_, "select value from siteOptions where idSite = 0 and name = 'logLimit'");
-  if (limit.empty()) {
+  constexpr std::int64_t kMost = std::int64_t{1} << 20U;
+  constexpr std::int64_t kLongestPage = 16'000;
+  constexpr std::uint64_t kNewest = 5000;
+  if (askDatabase(world_, "select 1 from siteOptions where idSite = 0 and name = 'logLimit' and value = '1'").empty()) {
     return;
   }
+  const std::uint64_t last = lastLogRow(world_);
   const std::string pages =
       askDatabase(
           world_,
           std::string("with pages as (select rowid as id, length(cast(content as blob)) as bytes from log where "
-                      "status = 0 and errDescription <> '") +
-              kPageNotKept +
+                      "status = 0 and rowid > ") +
+              std::to_string(last - std::min(last, kNewest)) + " and errDescription <> '" + kPageNotKept +
               "') select coalesce(sum(bytes), 0), coalesce(max(id) filter (where bytes = 0), 0), "
               "coalesce(min(id) filter (where bytes > 0), 9e15) from pages")
           .front();
   const std::size_t first = pages.find('|');
   const std::size_t second = pages.find('|', first + 1);
-  const std::int64_t most = std::stoll(limit.front()) * kMebibyte;
   const std::int64_t bytes = std::stoll(pages);
   const double lastEmptied = std::stod(pages.substr(first + 1));
-  if (bytes > most || (lastEmptied > 0 && bytes < most - kLongestPage) ||
+  if (bytes > kMost || (lastEmptied > 0 && bytes < kMost - kLongestPage) ||
       lastEmptied > std::stod(pages.substr(second + 1))) {
-    fail("the log may keep pages of " + std::to_string(most) + " bytes, and keeps, empties and begins with " + pages);
+    fail("the log may keep pages of " + std::to_string(kMost) + " bytes, and keeps, empties and begins with " + pages);
   }
 }
 

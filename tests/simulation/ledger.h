@@ -30,8 +30,8 @@ class Ledger {
   void settle();
   /// While the disk fails an alert can go out before its failure is recorded, and a failure be counted later; without
   /// memory any result can be recorded that could not be shown.
-  void setDiskFails(bool fails);
-  void setMemoryFails(bool fails);
+  void setDiskFails(bool fails) { setFails(diskFails_, fails); }
+  void setMemoryFails(bool fails) { setFails(memoryFails_, fails); }
 
   /// Compares log, counters and alerts with what was shown.
   void compare();
@@ -67,6 +67,7 @@ class Ledger {
   std::vector<std::string> newLogRows() const;
   std::map<std::int16_t, Counts> counters() const;
   void begin();
+  void setFails(bool& what, bool fails);
   void compareLog(bool afterDeath);
   void compareCounters(bool afterDeath);
 
@@ -79,6 +80,7 @@ class Ledger {
   bool known_ = false;
   bool diskFails_ = false;
   bool memoryFails_ = false;
+  Time settlesFrom_{0};
   std::uint64_t logBefore_ = 0;  ///< the last row of the log that has been compared
   bool unshown_ = false;         ///< a row is there that was not shown yet
   std::deque<Row> expected_;

@@ -73,7 +73,6 @@ int runVerb(World& world, const std::vector<std::string>& arguments) {
   Console console(outStream, errStream, TerminalFacts{});
   std::vector<std::string> whole = arguments;
   whole.insert(whole.begin(), {"--folder", world.disk.folder()});
-  const SimulatedMemory::OfProgram program;
   const int status = runTool(whole, world.disk.folder(), world.services(loop.pump), console);
   world.journal.add("verb", "ends with " + std::to_string(status));
   return status;

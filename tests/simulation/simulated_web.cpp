@@ -10,7 +10,7 @@ namespace tarnwick::simulation {
 
 namespace {
 
-constexpr std::size_t kLongPage = 30'000;
+constexpr std::size_t kLongPage = 12'000;
 
 }  // namespace
 

@@ -230,10 +230,9 @@ void User::runVerbOffline(Chance chance) {
 
 std::vector<std::string> User::wholeList() const {
   std::vector<std::string> rows;
-  for (const char* what :
-       {"* from sites order by idSite", "* from control", "idSite, pname, pvalue from postVars",
-        "idSite, name, value from siteOptions order by idSite, name",
-        "idSite, url, status, errCode, errDescription, content, dateStamp from log order by rowid"}) {
+  for (const char* what : {"* from sites order by idSite", "* from control", "idSite, pname, pvalue from postVars",
+                           "idSite, name, value from siteOptions order by idSite, name",
+                           "* from log where rowid > (select max(rowid) - 1000 from log) order by rowid"}) {
     const std::vector<std::string> table = askDatabase(world_, std::string("select ") + what);
     rows.insert(rows.end(), table.begin(), table.end());
   }

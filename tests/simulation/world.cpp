@@ -46,6 +46,7 @@ World::World(std::uint64_t worldSeed, std::ostream* copy)
       timers(agenda, kLamps),
       web(agenda, journal, chance(Part::web)),
       mail(agenda, journal, chance(Part::mail)) {
+  SimulatedMemory::refuseOneIn(0, Chance(0));
   setenv("TZ", "UTC", 1);
   sqlite3_initialize();
   sqlite3_test_control(SQLITE_TESTCTRL_PRNG_SEED, static_cast<int>(chance(Part::sqlite).next() | 1U), nullptr);
