@@ -256,6 +256,15 @@ def findings_of(files: dict[str, str]) -> list[str]:
         return findings(Path(folder))
 
 
+def catalogue(template: str, german: str | None = None) -> dict[str, str]:
+    """A template, and the files of two languages."""
+    form = ("<TS><context><name>Messages</name><message><source>{0}</source><translation>{1}</translation></message>"
+            "</context></TS>")
+    german = template if german is None else german
+    return {"translations/messages.txt": template + "\n", "translations/tarnwick.ts": form.format(template, ""),
+            "translations/tarnwick_de.ts": form.format(template, german)}
+
+
 def self_test() -> int:
     explained = {MESSAGES: "| \"The list ... is `empty`\nnow.\" | | |\n"}
     # One function that is called, and one whose name another class has as well.
@@ -279,6 +288,16 @@ def self_test() -> int:
         "an option's description, and a member that is none": ('says "The list is full now."', {
             "src/a.cpp": '{.label = "The name of it", .choices = {"the one or", "the other one"}, .text = "The list is full now."}'}),
         "a file that is excepted": (None, {"src/uucode/uu_code.cpp": 'f("No line begins here.");'}),
+        "a message that has a template": (None, {
+            "src/a.cpp": 'f("The list " + x + " is empty now.");', **explained, **catalogue("The list %1 is empty now.")}),
+        "one that has none": ('says "is empty now.", which translations/messages.txt does not have', {
+            "src/a.cpp": 'f("The list " + x + " is empty now.");', **explained, **catalogue("The list %1 is full.")}),
+        "a help that has none, and a command": ('says "what is due", which', {
+            "src/cli/a.cpp": 'examples({{"check --due x", "what is due"}});', **catalogue("The list is full.")}),
+        "a template that is not translated": ("tarnwick_de.ts:1: does not translate", {
+            **catalogue("The list is full.", "")}),
+        "one that is translated with other values": ("with other values", {
+            **catalogue("The list %1 is full.", "Die Liste %2 ist voll.")}),
         "a link to a file": (None, {"README.md": "[a](docs/index.md#docs) [b](https://example.org/x) `[c](d)`\n"}),
         "a dead link": ("README.md:2: links to docs/away.md", {"README.md": "\n[a](docs/away.md)\n"}),
         "a dead anchor": ("no heading there", {"README.md": "[a](docs/index.md#away)\n"}),
