@@ -10,46 +10,28 @@ Exit status 0: passed, 1: failed, 77: the machine lacks something for it.
 
 from __future__ import annotations
 
-import contextlib
-import http.server
 import os
 import shutil
 import subprocess
 import sys
 import tempfile
-import threading
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "support"))
 from desktop_session import DesktopSession, missing_tools, wait_until  # noqa: E402
+from steady_page import web  # noqa: E402
 
 SKIPPED = 77
 # The system that the packages are made for, and one with a newer C library.
 SUITES = ("bookworm", "trixie")
-MIRROR = "http://deb.debian.org/debian"
 MOST_PACKAGES_OF_THE_TOOL = 40
 
 
-class Pages(http.server.BaseHTTPRequestHandler):
-    def do_GET(self):  # noqa: N802 - the name is the library's
-        self.send_response(200)
-        self.send_header("Content-Length", "6")
-        self.end_headers()
-        self.wfile.write(b"steady")
-
-    def log_message(self, *_):
-        pass
-
-
-@contextlib.contextmanager
-def web():
-    server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Pages)
-    threading.Thread(target=server.serve_forever, daemon=True).start()
-    try:
-        yield f"http://127.0.0.1:{server.server_port}/"
-    finally:
-        server.shutdown()
-        server.server_close()
+def mirror() -> str:
+    """The archive of packages that this system is installed from."""
+    indexes = subprocess.run(["apt-get", "indextargets", "--format", "$(REPO_URI) $(CODENAME)", "Created-By: Packages"],
+                             capture_output=True, text=True, check=True).stdout
+    return next(line.split()[0] for line in indexes.splitlines() if "-" not in line.split()[1])
 
 
 def expect(condition: bool, what: str) -> None:
@@ -154,7 +136,7 @@ def bare_system(suite: str, systems: Path) -> Path:
         systems.mkdir(parents=True, exist_ok=True)
         unfinished = systems / f"{suite}.new.tar"
         subprocess.run(["mmdebstrap", "--quiet", "--variant=minbase", "--mode=root", "--aptopt=APT::Sandbox::User \"root\"",
-                        suite, unfinished, MIRROR], check=True)
+                        suite, unfinished, mirror()], check=True)
         unfinished.rename(archive)
     return archive
 

@@ -10,44 +10,20 @@ Exit status 0: passed, 1: failed, 77: the machine lacks something for it.
 
 from __future__ import annotations
 
-import contextlib
-import http.server
 import os
 import shutil
 import subprocess
 import sys
 import tempfile
-import threading
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "support"))
 from desktop_session import DesktopSession, missing_tools, wait_until  # noqa: E402
+from steady_page import web  # noqa: E402
 
 SKIPPED = 77
 ROOT = Path(__file__).resolve().parent.parent.parent
 UNINSTALL = r"Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarnwick"
-
-
-class Pages(http.server.BaseHTTPRequestHandler):
-    def do_GET(self):  # noqa: N802 - the name is the library's
-        self.send_response(200)
-        self.send_header("Content-Length", "6")
-        self.end_headers()
-        self.wfile.write(b"steady")
-
-    def log_message(self, *_):
-        pass
-
-
-@contextlib.contextmanager
-def web():
-    server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Pages)
-    threading.Thread(target=server.serve_forever, daemon=True).start()
-    try:
-        yield f"http://127.0.0.1:{server.server_port}/"
-    finally:
-        server.shutdown()
-        server.server_close()
 
 
 def expect(condition: bool, what: str) -> None:
