@@ -52,13 +52,15 @@ void RunTerminal::prepare(m& data) {
 void RunTerminal::begin() {
   begun_ = true;
   tell("Run started: " + sitesText(active_) + " active in " + visibleText(data_->programFolder()) + ".", "started",
-       {{"folder", jsonText(data_->programFolder())}, {"active", active_}});
+       [&] {
+         return JsonValue{{"folder", jsonText(data_->programFolder())}, {"active", active_}};
+       });
 }
 
 void RunTerminal::end() {
   console_.endLive();
   if (begun_) {
-    tell("Run stopped.", "stopped", JsonValue::object());
+    tell("Run stopped.", "stopped", [] { return JsonValue::object(); });
   }
   data_ = nullptr;
 }
@@ -102,18 +104,20 @@ void RunTerminal::showResult(const CheckResult& result) {
   const std::string cause = result.passed ? noteOf(result) : causeOf(result, data_->getContentCompare(result.idSite));
   const std::string state = result.passed ? console_.coloured(Console::Colour::green, "up  ")
                                           : console_.coloured(Console::Colour::red, "down");
-  JsonValue json{{"idSite", result.idSite},
-                 {"url", jsonText(result.url)},
-                 {"status", result.passed},
-                 {"errCode", result.errCode},
-                 {"errDescription", jsonText(result.errDescription)},
-                 {"cause", cause.empty() ? JsonValue() : JsonValue(cause)}};
-  if (hasFailureAsBaseline(result)) {
-    json["notAPage"] = true;
-  }
   tell(state + " " + std::to_string(result.idSite) + " " + visibleText(result.url) + (recovered ? " (was down)" : "") +
            (cause.empty() ? "" : ": " + cause),
-       "result", std::move(json));
+       "result", [&] {
+         JsonValue json{{"idSite", result.idSite},
+                        {"url", jsonText(result.url)},
+                        {"status", result.passed},
+                        {"errCode", result.errCode},
+                        {"errDescription", jsonText(result.errDescription)},
+                        {"cause", cause.empty() ? JsonValue() : JsonValue(cause)}};
+         if (hasFailureAsBaseline(result)) {
+           json["notAPage"] = true;
+         }
+         return json;
+       });
 }
 
 // A server that takes no mail would be told of with every failure; that others are left out is told with the first.
@@ -121,18 +125,21 @@ void RunTerminal::showLostMail(const LostMail& mail) {
   pass_.leftOutMails += mail.leftOut ? 1U : 0U;
   if (!mail.leftOut || style_.verbose || style_.json) {
     tell("mail " + std::to_string(mail.idSite) + " " + visibleText(mail.url) + ": " + visibleText(mail.why), "lostMail",
-         {{"idSite", mail.idSite},
-          {"url", jsonText(mail.url)},
-          {"server", jsonText(mail.server)},
-          {"leftOut", mail.leftOut},
-          {"cause", jsonText(mail.why)}});
+         [&] {
+           return JsonValue{{"idSite", mail.idSite},
+                            {"url", jsonText(mail.url)},
+                            {"server", jsonText(mail.server)},
+                            {"leftOut", mail.leftOut},
+                            {"cause", jsonText(mail.why)}};
+         });
   }
 }
 
 void RunTerminal::showDropped(std::int16_t idSite, const std::string& url) {
   if (style_.verbose || style_.json) {
-    tell("drop " + std::to_string(idSite) + " " + visibleText(url) + ": changed while it was checked", "dropped",
-         {{"idSite", idSite}, {"url", jsonText(url)}});
+    tell("drop " + std::to_string(idSite) + " " + visibleText(url) + ": changed while it was checked", "dropped", [&] {
+      return JsonValue{{"idSite", idSite}, {"url", jsonText(url)}};
+    });
   }
 }
 
@@ -141,7 +148,9 @@ void RunTerminal::endPass() {
   const std::size_t count = pass.up + pass.down;
   if (count > 0) {
     tell("Checked " + sitesText(count) + ": " + countText(pass.up, pass.down) + leftOutText(pass.leftOutMails) + ".",
-         "pass", {{"up", pass.up}, {"down", pass.down}});
+         "pass", [&] {
+           return JsonValue{{"up", pass.up}, {"down", pass.down}};
+         });
     forgetWhatIsNotWatched();
   }
 }
@@ -161,10 +170,11 @@ void RunTerminal::forgetWhatIsNotWatched() {
   std::erase_if(known_, [&watched](const auto& site) { return !watched.contains(site.first); });
 }
 
-void RunTerminal::tell(const std::string& text, const char* event, JsonValue details) {
+void RunTerminal::tell(const std::string& text, const char* event, const std::function<JsonValue()>& detailsOf) {
   const std::string now = dateTimeText(clock_.localNow());
   if (style_.json) {
     JsonValue line{{"time", now}, {"event", event}};
+    JsonValue details = detailsOf();
     for (JsonValue::Member& detail : std::get<JsonValue::Object>(details.content())) {
       line[detail.first] = std::move(detail.second);
     }

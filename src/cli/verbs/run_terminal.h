@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <string>
 
@@ -51,7 +52,8 @@ class RunTerminal final : public SilentView {
   };
 
   void begin();
-  void tell(const std::string& text, const char* event, JsonValue details);
+  /// `detailsOf` is asked where the run is told as JSON.
+  void tell(const std::string& text, const char* event, const std::function<JsonValue()>& detailsOf);
   void endPass();
   void forgetWhatIsNotWatched();
   bool hasLiveLine() const;
