@@ -286,7 +286,9 @@ void Model::record(Slot& slot, Time now) {
   if (!std::exchange(slot.done, false) || slot.answer.kind == Answer::Kind::kNotMade)
     return;
   const auto found = sites_.find(slot.request.idSite);
-  if (found == sites_.end() || requestFor(found->second, found->second.postBody, timeout_) != slot.request) {
+  const bool asked = found != sites_.end() && isYes(found->second.active) &&
+                     requestFor(found->second, found->second.postBody, timeout_) == slot.request;
+  if (!asked) {
     return dropPage(slot.request.idSite);
   }
   Site& site = found->second;
