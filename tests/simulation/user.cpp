@@ -216,6 +216,9 @@ void User::runSomeVerb(Chance chance) {
 // None of them changes what the list says.
 void User::runVerbOffline(Chance chance) {
   ledger_.disturb();
+  if (world_.isDead()) {
+    return;
+  }
   const std::vector<std::string> before = wholeList();
   runUpkeep(chance);
   if (world_.isDead()) {
