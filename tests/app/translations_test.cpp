@@ -7,8 +7,8 @@
 #include <vector>
 #include <QDir>
 #include <QLocale>
-#include <QTranslator>
 
+#include "app/users_language.h"
 #include "store/option_table.h"
 #include "ui/controls/display_text.h"
 #include "ui/main_window/master.h"
@@ -16,19 +16,8 @@
 namespace tarnwick::testing {
 namespace {
 
-/// The user's language, until the end of the test; so is what was loaded for it.
 class TranslationsTest : public ::testing::Test {
  protected:
-  void SetUp() override { qunsetenv("LC_ALL"); }
-  void TearDown() override {
-    locale.isNull() ? qunsetenv("LC_ALL") : qputenv("LC_ALL", locale);
-    for (QTranslator* translator : qApp->findChildren<QTranslator*>(Qt::FindDirectChildrenOnly)) {
-      QCoreApplication::removeTranslator(translator);
-      delete translator;
-    }
-    QLocale::setDefault(before);
-  }
-
   static bool areCompiled() {
     return QDir(QStringLiteral(TARNWICK_BUILD)).exists(QStringLiteral("translations/tarnwick_de.qm"));
   }
@@ -37,8 +26,7 @@ class TranslationsTest : public ::testing::Test {
     return loadTranslations(*qApp, QStringLiteral(TARNWICK_BUILD));
   }
 
-  const QLocale before;
-  const QByteArray locale = qgetenv("LC_ALL");
+  const UsersLanguage language;
 };
 
 TEST_F(TranslationsTest, TheUsersLanguageIsTakenWhereThereIsATranslation) {
