@@ -82,26 +82,6 @@ TEST_F(NoRoom, ASiteThatGoesDownWhileTheDiskIsFullIsTold) {
   EXPECT_EQ(alarms(running), 2U) << running.boxTexts();
 }
 
-TEST_F(NoRoom, TheLogCanBeClearedOnAFullDisk) {
-  used.folder.execute(
-      "with recursive n(i) as (select 1 union all select i + 1 from n where i < 3000) insert into log "
-      "(idSite,url,status,errCode,errDescription,dateStamp,content) select 4,'u',0,0,'','2024-05-16 10:00:00',"
-      "hex(zeroblob(5000)) from n");
-  const auto pages = [&] { return used.number("pragma page_count"); };
-  const int before = pages();
-  TestServices machine;
-  {
-    m data(used.folder.path(), machine.services());
-    disk.leaveRoom(120 * kKib);
-    data.clearLog();
-  }
-  disk.heal();
-  EXPECT_EQ(used.text("select count(*) from log"), "0");
-  EXPECT_LT(pages(), before / 10) << "the room is given back";
-  EXPECT_EQ(used.integrity(), "ok");
-  EXPECT_EQ(used.text("select count(*) from sites"), "4");
-}
-
 /// A disk as full as a case wants it.
 class FilledFiles final : public LocalFiles {
  public:
@@ -117,6 +97,28 @@ class FilledFiles final : public LocalFiles {
   /// Called with the size of each file that is removed.
   std::function<void(std::uint64_t)> givenBack;
 };
+
+TEST_F(NoRoom, TheLogCanBeClearedOnAFullDisk) {
+  used.folder.execute(
+      "with recursive n(i) as (select 1 union all select i + 1 from n where i < 3000) insert into log "
+      "(idSite,url,status,errCode,errDescription,dateStamp,content) select 4,'u',0,0,'','2024-05-16 10:00:00',"
+      "hex(zeroblob(5000)) from n");
+  const auto pages = [&] { return used.number("pragma page_count"); };
+  const int before = pages();
+  TestServices machine;
+  FilledFiles files;
+  files.room = DiskRoom{120 * kKib, 64 * 1024 * kKib};
+  {
+    m data(used.folder.path(), machine.services().with({.files = &files}));
+    disk.leaveRoom(120 * kKib);
+    data.clearLog();
+  }
+  disk.heal();
+  EXPECT_EQ(used.text("select count(*) from log"), "0");
+  EXPECT_LT(pages(), before / 10) << "the room is given back";
+  EXPECT_EQ(used.integrity(), "ok");
+  EXPECT_EQ(used.text("select count(*) from sites"), "4");
+}
 
 /// The program on such a disk.
 struct RunningOnFilledDisk {
