@@ -17,7 +17,10 @@ constexpr std::size_t kLongestValue = 200;
 // What holds whatever is watched.
 constexpr std::array<std::string_view, 2> kNothingSaid{"kind", "url"};
 
-std::size_t lineOf(const YAML::Mark& mark) { return mark.is_null() ? 0 : static_cast<std::size_t>(mark.line) + 1; }
+/// `before` is how many lines stand before the document.
+std::size_t lineOf(const YAML::Mark& mark, std::size_t before) {
+  return mark.is_null() ? 0 : before + static_cast<std::size_t>(mark.line) + 1;
+}
 
 /// A value on one line: `css:#main, html2text`. What is too long or too deep is cut.
 void appendShort(const YAML::Node& node, int depth, std::string& text) {
@@ -53,10 +56,10 @@ std::string shortText(const YAML::Node& node) {
 /// One job: a document of the file, or an entry of a list.
 class Job {
  public:
-  Job(const YAML::Node& node, ForeignSites& sites) : node_(node), sites_(sites) {}
+  Job(const YAML::Node& node, std::size_t before, ForeignSites& sites) : node_(node), before_(before), sites_(sites) {}
 
   void read() {
-    const std::size_t line = lineOf(node_.Mark());
+    const std::size_t line = lineOf(node_.Mark(), before_);
     const YAML::Node url = node_["url"] ? node_["url"] : node_["navigate"];
     if (!url || !url.IsScalar()) {
       const YAML::Node command = node_["command"];
@@ -126,8 +129,44 @@ class Job {
   }
 
   const YAML::Node& node_;
+  std::size_t before_;
   ForeignSites& sites_;
 };
+
+/// The lines of a text up to the next one that begins a document, "---", which is not taken; at least one.
+std::string_view takeDocument(std::string_view& text) {
+  const std::string_view all = text;
+  bool hasContent = false;
+  do {
+    const std::size_t end = std::min(text.find('\n'), text.size() - 1) + 1;
+    hasContent =
+        hasContent || (text.front() != '%' && text.front() != '#' && text.front() != '\n' && text.front() != '\r');
+    text.remove_prefix(end);
+  } while (!text.empty() && !(hasContent && text.starts_with("---")));
+  return all.substr(0, all.size() - text.size());
+}
+
+void readDocument(const std::string& text, std::size_t before, ForeignSites& sites) {
+  try {
+    const YAML::Node document = YAML::Load(text);
+    if (document.IsMap()) {
+      Job(document, before, sites).read();
+    } else if (document.IsSequence()) {
+      for (const auto& entry : document) {
+        if (!entry.IsMap()) {
+          throw ForeignError(lineOf(entry.Mark(), before),
+                             "this is no job of urlwatch: give one like url: https://...");
+        }
+        Job(entry, before, sites).read();
+      }
+    } else if (!document.IsNull()) {
+      throw ForeignError(std::max<std::size_t>(1, lineOf(document.Mark(), before)),
+                         "this is no job of urlwatch: give one like url: https://...");
+    }
+  } catch (const YAML::Exception& error) {
+    throw ForeignError(lineOf(error.mark, before), "this is no YAML: " + visibleText(error.msg) + ". Correct it here");
+  }
+}
 
 }  // namespace
 
@@ -136,25 +175,11 @@ void readUrlwatch(std::string_view text, ForeignSites& sites) {
     throw ForeignError(0,
                        "the file is larger than 16 MiB, and no list of urlwatch is: see whether it is the right one");
   }
-  try {
-    std::size_t line = 1;
-    for (const YAML::Node& document : YAML::LoadAll(std::string(text))) {
-      line = std::max(line, lineOf(document.Mark()));
-      if (document.IsMap()) {
-        Job(document, sites).read();
-      } else if (document.IsSequence()) {
-        for (const auto& entry : document) {
-          if (!entry.IsMap()) {
-            throw ForeignError(lineOf(entry.Mark()), "this is no job of urlwatch: give one like url: https://...");
-          }
-          Job(entry, sites).read();
-        }
-      } else if (!document.IsNull()) {
-        throw ForeignError(line, "this is no job of urlwatch: give one like url: https://...");
-      }
-    }
-  } catch (const YAML::Exception& error) {
-    throw ForeignError(lineOf(error.mark), "this is no YAML: " + visibleText(error.msg) + ". Correct it here");
+  // One after the other: asked for all at once the library finds documents without end in some damaged files.
+  for (std::size_t before = 0; !text.empty();) {
+    const std::string_view document = takeDocument(text);
+    readDocument(std::string(document), before, sites);
+    before += static_cast<std::size_t>(std::ranges::count(document, '\n'));
   }
 }
 
