@@ -99,8 +99,12 @@ std::size_t PassRecording::recordTogether(std::span<const std::size_t> rows) {
 
 void PassRecording::record(std::size_t row, const Fetched& fetched) {
   guarded(row, [&] {
+    const std::unique_ptr<StoredText> ahead = storeAhead(row, fetched);
     if (const std::optional<Stored> stored = store(row, fetched)) {
       tell(row, fetched, *stored);
+    }
+    if (ahead) {
+      ahead->settle([this] { needs_.pump.pump(); });
     }
   });
 }
@@ -141,7 +145,6 @@ std::optional<PassRecording::Stored> PassRecording::store(std::size_t row, const
     needs_.keptPages.forgetLogSize();
     return error.forWantOfRoom();
   };
-  const std::unique_ptr<StoredText> ahead = storeAhead(row, fetched);
   try {
     return storeResult(row, fetched, keptPage(), false);
   } catch (const DataAccessError& error) {

@@ -41,6 +41,11 @@ class Recordset {
 class StoredText {
  public:
   virtual ~StoredText() = default;
+
+  /// Removes the page that has given way to the text, a part at a time, with `between` called after each; otherwise
+  /// that is done at the end of this object's life, at once. What another program's lock or a fault keeps from it is
+  /// removed later. REQUIRES: no transaction.
+  virtual void settle(const std::function<void()>& between) = 0;
 };
 
 /// A connection to one database file. Statements are plain SQL text in the program's own dialect: quoted texts may

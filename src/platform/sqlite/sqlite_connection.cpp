@@ -310,7 +310,7 @@ class SqliteConnection final : public SqlConnection {
   std::chrono::milliseconds patience_;
   std::string path_;
   std::unique_ptr<SqliteDatabase> database_;
-  const SqliteStoredText* ahead_ = nullptr;
+  SqliteStoredText* ahead_ = nullptr;
 };
 
 }  // namespace

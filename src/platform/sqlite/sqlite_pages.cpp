@@ -2,6 +2,7 @@
 #include "platform/sqlite/sqlite_pages.h"
 
 #include <algorithm>
+#include <array>
 
 #include "base/errors.h"
 
@@ -19,6 +20,10 @@ constexpr const char* kPageAhead = "select (cast(strftime('%s', 'now') as intege
 /// Left behind by a program that was killed, or by a tool that replaces rows. What is less than an hour old may be
 /// about to be used.
 constexpr const char* kNotOfThisHour = " and (piece / 4) >> 20 < cast(strftime('%s', 'now') as integer) - 3600";
+
+/// What the file's form has; a tool may have added its own, which are to go on.
+constexpr const char* kHasOwnTriggersOnly =
+    "select count(*) = 2 from sqlite_master where type = 'trigger' and tbl_name = 'siteRows' collate nocase";
 
 /// The last piece takes what is left.
 std::string_view pieceOf(std::string_view text, std::int64_t piece) {
@@ -54,9 +59,23 @@ std::int64_t oneNumber(SqliteDatabase& database, const PlainStatement& statement
   return database.step(loan.get()) ? sqlite3_column_int64(loan.get(), 0) : 0;
 }
 
+/// A long page takes its time to go, so that the one that gives way to a text stored ahead outlives the transaction.
+class TriggersOff {
+ public:
+  explicit TriggersOff(SqliteDatabase& database) : database_(database) { set(0); }
+  ~TriggersOff() { set(1); }
+  TriggersOff(const TriggersOff&) = delete;
+  TriggersOff& operator=(const TriggersOff&) = delete;
+
+ private:
+  void set(int on) { sqlite3_db_config(database_.handle(), SQLITE_DBCONFIG_ENABLE_TRIGGER, on, nullptr); }
+
+  SqliteDatabase& database_;
+};
+
 }  // namespace
 
-SqliteStoredText::SqliteStoredText(SqlConnection& connection, const SqliteStoredText*& place, std::string_view text,
+SqliteStoredText::SqliteStoredText(SqlConnection& connection, SqliteStoredText*& place, std::string_view text,
                                    const std::function<void()>& between)
     : connection_(connection), place_(place), text_(text) {
   try {
@@ -94,19 +113,45 @@ void SqliteStoredText::write(const std::function<void()>& between) {
 }
 
 void SqliteStoredText::removeUnused() noexcept {
-  if (page_ == 0) {
-    return;
+  settle([] {});
+  removeUnused(page_, [] {});
+}
+
+void SqliteStoredText::settle(const std::function<void()>& between) {
+  while (!replaced_.empty()) {
+    removeUnused(replaced_.back(), between);
+    replaced_.pop_back();
+  }
+}
+
+// The last piece first: as long as one is left, nobody else gives the number away.
+void SqliteStoredText::removeUnused(std::int64_t page, const std::function<void()>& between) {
+  for (std::int64_t piece = kPiecesOfPage; page != 0 && piece-- > 0;) {
+    try {
+      removeUnusedPiece(page, piece);
+    } catch (const DataAccessError&) {
+      return;  // it is removed with the next text that is stored ahead
+    }
+    between();
+  }
+}
+
+void SqliteStoredText::removeUnusedPiece(std::int64_t page, std::int64_t piece) {
+  if (!connection_.tryBegin()) {
+    return;  // nobody is made to wait for that
   }
   try {
-    const SqlValue page(page_);
+    const std::array<SqlValue, 2> values{SqlValue(page), SqlValue(piece)};
     connection_
         .execute(
-            "delete from pagePieces where piece >= ?1 * 4 and piece < ?1 * 4 + 4 and not exists "
+            "delete from pagePieces where piece = ?1 * 4 + ?2 and not exists "
             "(select 1 from siteRows where comparePage = ?1 or runtimePage = ?1)",
-            {&page, 1})
+            values)
         ->close();
-  } catch (const std::exception&) {
-    // They are removed with the next text that is stored ahead.
+    connection_.commit();
+  } catch (...) {
+    connection_.rollback();
+    throw;
   }
 }
 
@@ -135,7 +180,7 @@ bool SqlitePages::holds(std::int64_t page, std::string_view text) {
   return begins && text.empty();
 }
 
-void SqlitePages::store(const StorePage& command, std::string_view text, const SqliteStoredText* ahead) {
+void SqlitePages::store(const StorePage& command, std::string_view text, SqliteStoredText* ahead) {
   const char* const column = command.compare ? "comparePage" : "runtimePage";
   SqlValue own;
   SqlValue other;
@@ -163,9 +208,16 @@ void SqlitePages::store(const StorePage& command, std::string_view text, const S
     const bool shared = !other.isNull() && other != own && holds(other.toInt64(), text);
     page = shared ? other.toInt64() : write(text);
   }
-  database_.run({std::string("update siteRows set ") + column + " = ?1 where idSite = ?2",
-                 {SqlValue(page), SqlValue(command.idSite)},
-                 true});
+  const PlainStatement update{std::string("update siteRows set ") + column + " = ?1 where idSite = ?2",
+                              {SqlValue(page), SqlValue(command.idSite)},
+                              true};
+  if (isAhead && !own.isNull() && oneNumber(database_, {kHasOwnTriggersOnly}) != 0) {
+    const TriggersOff later(database_);
+    database_.run(update);
+    ahead->replaces(own.toInt64());
+  } else {
+    database_.run(update);
+  }
 }
 
 bool SqlitePages::isComplete(const SqliteStoredText& ahead) {

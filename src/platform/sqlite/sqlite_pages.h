@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/sql_connection.h"
 #include "platform/sqlite/sql_dialect.h"
@@ -22,7 +23,7 @@ inline constexpr const char* kRemoveUnusedPages =
 class SqliteStoredText final : public StoredText {
  public:
   /// Calls `between` after each piece; `place` names this object from then on, for its life. Raises DataAccessError.
-  SqliteStoredText(SqlConnection& connection, const SqliteStoredText*& place, std::string_view text,
+  SqliteStoredText(SqlConnection& connection, SqliteStoredText*& place, std::string_view text,
                    const std::function<void()>& between);
   ~SqliteStoredText() override;
   SqliteStoredText(const SqliteStoredText&) = delete;
@@ -32,16 +33,22 @@ class SqliteStoredText final : public StoredText {
   bool is(std::string_view text) const { return text.data() == text_.data() && text.size() == text_.size(); }
   std::int64_t page() const { return page_; }
   std::int64_t pieces() const { return pieces_; }
+  /// `page` has given way to this text, and waits to be removed.
+  void replaces(std::int64_t page) { replaced_.push_back(page); }
+  void settle(const std::function<void()>& between) override;
 
  private:
   void write(const std::function<void()>& between);
   void removeUnused() noexcept;
+  void removeUnused(std::int64_t page, const std::function<void()>& between);
+  void removeUnusedPiece(std::int64_t page, std::int64_t piece);
 
   SqlConnection& connection_;
-  const SqliteStoredText*& place_;
+  SqliteStoredText*& place_;
   std::string_view text_;
   std::int64_t page_ = 0;
   std::int64_t pieces_ = 0;
+  std::vector<std::int64_t> replaced_;
 };
 
 /// The pages of the sites where they lie apart, in the table `pagePieces`, and `siteRows` holds their numbers (see
@@ -56,7 +63,7 @@ class SqlitePages {
 
   /// Stores a site's page: nothing where it is the one that is stored there, a number where the site's other page is
   /// the same or the text lies `ahead`, else its bytes. REQUIRES: a transaction.
-  void store(const StorePage& command, std::string_view text, const SqliteStoredText* ahead);
+  void store(const StorePage& command, std::string_view text, SqliteStoredText* ahead);
 
  private:
   bool isComplete(const SqliteStoredText& ahead);

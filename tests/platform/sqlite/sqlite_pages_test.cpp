@@ -121,6 +121,58 @@ TEST_F(SqlitePagesTest, WhatIsStoredAheadAndNotTakenGoes) {
   EXPECT_EQ(page("content_compare"), "a page");
 }
 
+TEST_F(SqlitePagesTest, APageThatGivesWayToWhatIsStoredAheadGoesPieceByPieceAfterwards) {
+  store("content_compare", longPage(40 * kMib));
+  const std::string stored = longPage(2 * kMib);
+  const auto ahead = database_.conn->storeAhead(stored, [] {});
+  store("content_compare", stored);
+  EXPECT_EQ(pieces(), "4");
+  std::vector<std::string> left;
+  ahead->settle([&] { left.push_back(pieces()); });
+  EXPECT_EQ(left, (std::vector<std::string>{"4", "3", "2", "1"}));
+  EXPECT_TRUE(page("content_compare") == stored);
+}
+
+TEST_F(SqlitePagesTest, APageThatTheSiteStillHasDoesNotGiveWay) {
+  const std::string baseline = longPage(2 * kMib);
+  store("content_compare", baseline);
+  store("content_runtime", baseline);
+  const std::string stored(3 * kMib, 'x');
+  {
+    const auto ahead = database_.conn->storeAhead(stored, [] {});
+    store("content_runtime", stored);
+    ahead->settle([] {});
+  }
+  EXPECT_TRUE(page("content_compare") == baseline);
+  EXPECT_EQ(pieces(), "2");
+}
+
+TEST_F(SqlitePagesTest, APageThatGivesWayIsNotWaitedForAndGoesWithTheNext) {
+  const auto other = database_.databases.makeSqlConnection();
+  other->open(database_.connString());
+  store("content_compare", longPage(3 * kMib));
+  const std::string stored = longPage(2 * kMib);
+  const auto ahead = database_.conn->storeAhead(stored, [] {});
+  store("content_compare", stored);
+  other->begin();
+  ahead->settle([] {});
+  other->rollback();
+  EXPECT_EQ(pieces(), "2");
+  EXPECT_TRUE(page("content_compare") == stored);
+}
+
+TEST_F(SqlitePagesTest, WhatAToolHasAddedGoesOnWhenAPageGivesWay) {
+  database_.folder.execute("create table changes (idSite)");
+  database_.folder.execute(
+      "create trigger noted after update on siteRows begin insert into changes values (new.idSite); end");
+  store("content_compare", longPage(3 * kMib));
+  const std::string stored = longPage(2 * kMib);
+  const auto ahead = database_.conn->storeAhead(stored, [] {});
+  store("content_compare", stored);
+  EXPECT_EQ(database_.folder.queryText("select count(*) from changes"), "2");
+  EXPECT_EQ(pieces(), "1");
+}
+
 TEST_F(SqlitePagesTest, WhatIsStoredAheadAndTakenAwayByOthersIsStoredAgain) {
   const std::string stored = longPage(20 * kMib);
   const auto ahead = database_.conn->storeAhead(stored, [] {});
