@@ -8,7 +8,7 @@
 PRAGMA encoding = 'UTF-8';
 PRAGMA auto_vacuum = NONE;
 -- The form of the tables: the original ones are form 0; the program brings an older list to today's form.
-PRAGMA user_version = 2;
+PRAGMA user_version = 3;
 
 BEGIN;
 
@@ -174,5 +174,25 @@ CREATE TABLE siteOptions (
 INSERT INTO siteOptions (idSite, name, value)
 VALUES (0, 'newSites', 'at once'), (0, 'adopt', 'pages only'), (0, 'mailLimit', '60'),
   (0, 'logLimit', '1024');
+
+-- How the sites stand whose options of the alarm make that matter; see src/store/site_standing.h.
+CREATE TABLE siteState (
+  idSite INTEGER PRIMARY KEY,
+  failures INTEGER,
+  downSince TEXT,
+  firstError TEXT,
+  told TEXT,
+  toldAt TEXT,
+  reminders INTEGER,
+  outageSince TEXT,
+  outageChecks INTEGER,
+  outageError TEXT,
+  changes TEXT,
+  unsteady INTEGER,
+  slow INTEGER,
+  toldSlow INTEGER,
+  unknownSince TEXT,
+  owed TEXT
+);
 
 COMMIT;

@@ -20,9 +20,18 @@ bool addSiteOptions(SqlConnection& connection, const std::string&) {
   return true;
 }
 
+bool addSiteState(SqlConnection& connection, const std::string&) {
+  connection.execute(
+      "create table if not exists siteState (idSite INTEGER PRIMARY KEY, failures INTEGER, downSince TEXT, "
+      "firstError TEXT, told TEXT, toldAt TEXT, reminders INTEGER, outageSince TEXT, outageChecks INTEGER, "
+      "outageError TEXT, changes TEXT, unsteady INTEGER, slow INTEGER, toldSlow INTEGER, unknownSince TEXT, owed TEXT)",
+      {});
+  return true;
+}
+
 /// What leads from each form to the next; the first makes form 1 of form 0. A step that has been in a release never
 /// changes: lists that have gone through it are in people's hands.
-constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense};
+constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense, &addSiteState};
 
 void refuseNewer(std::int64_t form, const std::string& path) {
   if (form > kFormOfTables) {

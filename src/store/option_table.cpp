@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <stdexcept>
 
 #include "base/text.h"
+#include "store/alarm_values.h"
 
 namespace tarnwick {
 namespace {
@@ -23,47 +25,133 @@ const std::vector<std::string>& words(const OptionField& option) {
   return option.kind == OptionKind::flag ? flag : option.choices;
 }
 
-}  // namespace
-
-std::string OptionField::values() const {
-  switch (kind) {
-    case OptionKind::number:
-      return "a whole number from " + std::to_string(least) + " to " + std::to_string(most) +
-             (unit.empty() ? std::string() : " (" + unit + ")") + (choices.empty() ? "" : " or " + inWords(choices));
-    case OptionKind::text:
-      return "a text";
-    case OptionKind::flag:
-    case OptionKind::choice:
-      break;
-  }
-  return inWords(words(*this));
+/// The form of a text that `read` understands and `write` tells again.
+template <auto read, auto write>
+std::optional<std::string> formBy(std::string_view text) {
+  const auto value = read(text);
+  return value ? std::optional(write(*value)) : std::nullopt;
 }
 
-std::string OptionField::checked(std::string_view value) const {
-  if (kind == OptionKind::text && !value.empty()) {
-    return std::string(value);
-  }
-  if (kind == OptionKind::number) {
-    std::int64_t number = 0;
-    const char* const end = value.data() + value.size();
-    const auto [rest, fault] = std::from_chars(value.data(), end, number);
-    if (fault == std::errc() && rest == end && number >= least && number <= most) {
-      return std::to_string(number);
-    }
-  }
-  if (kind != OptionKind::text) {
-    const auto word =
-        std::ranges::find_if(words(*this), [&](const std::string& known) { return equalsIgnoringCase(known, value); });
-    if (word != words(*this).end()) {
-      return *word;
-    }
-  }
-  throw std::runtime_error("The option " + name + " does not take \"" + std::string(value) + "\". It takes " +
-                           values() + ".");
+std::optional<std::string> unsteadyForm(std::string_view text) {
+  return equalsIgnoringCase(text, option_value::off) ? std::optional(std::string(option_value::off))
+                                                     : formBy<readUnsteadyLimit, unsteadyLimitText>(text);
 }
 
-const std::vector<OptionField>& programOptions() {
-  static const std::vector<OptionField> options{
+std::vector<OptionField> alarmOptions() {
+  return {
+      {.name = std::string(option_name::alerts),
+       .kind = OptionKind::flag,
+       .ofSite = true,
+       .original = "a failed check raises the alerts of the settings",
+       .label = "Alerts",
+       .meaning = "Whether anything is told at all; with \"off\" a site is checked and recorded, and nobody is told"},
+      {.name = std::string(option_name::confirm),
+       .kind = OptionKind::number,
+       .ofSite = true,
+       .least = 1,
+       .most = 20,
+       .unit = "failures",
+       .original = "the first failed check is told",
+       .label = "Down for real after",
+       .meaning =
+           "How many checks in a row must fail before it is told; the check is repeated in the same pass, at another "
+           "address of the host if it has several"},
+      {.name = std::string(option_name::confirmAfter),
+       .kind = OptionKind::text,
+       .ofSite = true,
+       .original = "5 s, 20 s",
+       .label = "Look again after",
+       .meaning = "The pauses before a failed check is repeated; the last one holds for all further ones",
+       .form = &formBy<readPauses, pausesText>,
+       .takes = "up to ten pauses of 1 to 300 seconds, as in \"5 s, 20 s\""},
+      {.name = std::string(option_name::recovery),
+       .kind = OptionKind::flag,
+       .ofSite = true,
+       .original = "nobody is told that a site is up again",
+       .label = "Tell when it is up again",
+       .meaning = "Whether one alert tells that a site is up again, how long it was down and why"},
+      {.name = std::string(option_name::remind),
+       .kind = OptionKind::number,
+       .ofSite = true,
+       .least = 1,
+       .most = 10080,
+       .choices = {std::string(option_value::never), std::string(option_value::growing),
+                   std::string(option_value::everyCheck)},
+       .unit = "minutes",
+       .original = "every failed check is told",
+       .label = "While it stays down remind every",
+       .meaning = "What follows the first alert of an outage: one every so many minutes, one after 1, 2, 4 ... hours "
+                  "(\"growing\"), none (\"never\") or one with every failed check"},
+      {.name = std::string(option_name::flapping),
+       .kind = OptionKind::text,
+       .ofSite = true,
+       .original = "each change is told for itself",
+       .label = "Unsteady: more changes than",
+       .meaning =
+           "More changes between up and down within that time are told as one alert, and then nothing until the site "
+           "has held still for as long",
+       .form = &unsteadyForm,
+       .takes = "a number of changes and of minutes, as in \"5 in 30 min\", or \"off\""},
+      {.name = std::string(option_name::slow),
+       .kind = OptionKind::number,
+       .ofSite = true,
+       .least = 1,
+       .most = 600000,
+       .choices = {std::string(option_value::off)},
+       .unit = "milliseconds",
+       .original = "it does not matter how long an answer takes",
+       .label = "Slow: an answer after",
+       .meaning = "A page that took longer is a warning, with a colour and an alert of its own; the site is up"},
+      {.name = std::string(option_name::quiet),
+       .kind = OptionKind::text,
+       .ofSite = true,
+       .original = "there are no quiet hours",
+       .label = "Quiet hours",
+       .meaning = "The hours of the week in which nothing is told; what is still so is told when they end",
+       .form = &formBy<readWeekHours, weekHoursText>,
+       .takes = "days and hours, as in \"Mon-Fri 22:00-6:00, Sat, Sun 0:00-24:00\" or \"daily 22-6\", or \"none\""},
+      {.name = std::string(option_name::quietHow),
+       .kind = OptionKind::choice,
+       .ofSite = true,
+       .choices = {std::string(option_value::keepAlerts), std::string(option_value::doNotCheck)},
+       .original = "sites are checked in quiet hours, too",
+       .label = "In quiet hours",
+       .meaning = "Whether a site is checked in its quiet hours"},
+      {.name = std::string(option_name::maintenance),
+       .kind = OptionKind::text,
+       .ofSite = true,
+       .original = "there is no maintenance",
+       .label = "Maintenance",
+       .meaning = "Dated times that are quiet as well",
+       .form = &formBy<readDatedWindows, datedWindowsText>,
+       .takes = "times parted by semicolons, each perhaps with \"do not check\" or \"keep alerts\" and a note, as in "
+                "\"2026-12-01 08:00 to 2026-12-01 12:00, do not check: new server\", or \"none\""},
+      {.name = std::string(option_name::pause),
+       .kind = OptionKind::text,
+       .ofSite = true,
+       .original = "the alerts are not paused",
+       .label = "Pause",
+       .meaning = "How long nothing is told; checks go on, and what is still so afterwards is told then",
+       .form = &formBy<readPause, pauseText>,
+       .takes = "\"until 2026-12-01 08:00\", \"for good\" or \"no\""},
+      {.name = std::string(option_name::ownNetwork),
+       .kind = OptionKind::flag,
+       .original = "a site whose server cannot be reached is down, also when this machine is offline",
+       .label = "This machine's own network",
+       .meaning = "When nothing answers, ask whether this machine is online; as long as it is not, nothing is counted "
+                  "as down"},
+      {.name = std::string(option_name::witnesses),
+       .kind = OptionKind::text,
+       .original = "no host is asked, the machine is online when it knows a way to the Internet",
+       .label = "Witness hosts",
+       .meaning = "Hosts of which at least one answers as long as this machine is online",
+       .form = &formBy<readHosts, hostsText>,
+       .takes = "hosts parted by commas, as in \"example.org, 192.0.2.1:53\", or \"none\""},
+  };
+}
+
+std::vector<OptionField> runOptions() {
+  return {
       {.name = std::string(option_name::newSites),
        .kind = OptionKind::choice,
        .choices = {std::string(option_value::atOnce), "at the next start"},
@@ -124,6 +212,55 @@ const std::vector<OptionField>& programOptions() {
        .label = "Pause between requests to one host",
        .meaning = "The least time between the starts of two requests to one host"},
   };
+}
+
+}  // namespace
+
+std::string OptionField::values() const {
+  switch (kind) {
+    case OptionKind::number:
+      return "a whole number from " + std::to_string(least) + " to " + std::to_string(most) +
+             (unit.empty() ? std::string() : " (" + unit + ")") + (choices.empty() ? "" : " or " + inWords(choices));
+    case OptionKind::text:
+      return form != nullptr ? takes : "a text";
+    case OptionKind::flag:
+    case OptionKind::choice:
+      break;
+  }
+  return inWords(words(*this));
+}
+
+std::string OptionField::checked(std::string_view value) const {
+  if (kind == OptionKind::text && !value.empty()) {
+    if (auto stored = form != nullptr ? form(value) : std::string(value)) {
+      return *std::move(stored);
+    }
+  }
+  if (kind == OptionKind::number) {
+    std::int64_t number = 0;
+    const char* const end = value.data() + value.size();
+    const auto [rest, fault] = std::from_chars(value.data(), end, number);
+    if (fault == std::errc() && rest == end && number >= least && number <= most) {
+      return std::to_string(number);
+    }
+  }
+  if (kind != OptionKind::text) {
+    const auto word =
+        std::ranges::find_if(words(*this), [&](const std::string& known) { return equalsIgnoringCase(known, value); });
+    if (word != words(*this).end()) {
+      return *word;
+    }
+  }
+  throw std::runtime_error("The option " + name + " does not take \"" + std::string(value) + "\". It takes " +
+                           values() + ".");
+}
+
+const std::vector<OptionField>& programOptions() {
+  static const std::vector<OptionField> options = [] {
+    std::vector<OptionField> all = runOptions();
+    std::ranges::move(alarmOptions(), std::back_inserter(all));
+    return all;
+  }();
   return options;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,7 +14,7 @@ enum class OptionKind {
   flag,    ///< "on" or "off"
   number,  ///< a whole number from `least` to `most`, or one of `choices` where there are any
   choice,  ///< one of `choices`
-  text,    ///< any text but the empty one
+  text,    ///< any text but the empty one; with a `form`, what that takes
 };
 
 /// Something that a site, or the program, does otherwise than it did originally, when its user wants it to. An option
@@ -31,6 +32,10 @@ struct OptionField {
   std::string original;       ///< what happens while it is unset: "the wait has no end"
   std::string label;          ///< a few words for people: "Longest mail exchange"
   std::string meaning;        ///< for a help text, without a full stop
+  /// Of a text: the form in which it is stored, or nothing for one that is not taken; null where any is.
+  std::optional<std::string> (*form)(std::string_view value) = nullptr;
+  /// Of a text with a form: what is taken, for people, with an example.
+  std::string takes{};
 
   /// The values that it takes, for people: "a number from 1 to 3600 (seconds)".
   std::string values() const;
@@ -48,6 +53,19 @@ inline constexpr std::string_view logLimit = "logLimit";
 inline constexpr std::string_view parallel = "parallel";
 inline constexpr std::string_view perHost = "perHost";
 inline constexpr std::string_view spacing = "spacing";
+inline constexpr std::string_view alerts = "alerts";
+inline constexpr std::string_view confirm = "confirm";
+inline constexpr std::string_view confirmAfter = "confirmAfter";
+inline constexpr std::string_view recovery = "recovery";
+inline constexpr std::string_view remind = "remind";
+inline constexpr std::string_view flapping = "flapping";
+inline constexpr std::string_view slow = "slow";
+inline constexpr std::string_view quiet = "quiet";
+inline constexpr std::string_view quietHow = "quietHow";
+inline constexpr std::string_view maintenance = "maintenance";
+inline constexpr std::string_view pause = "pause";
+inline constexpr std::string_view ownNetwork = "ownNetwork";
+inline constexpr std::string_view witnesses = "witnesses";
 }  // namespace option_name
 
 /// Values that it asks for.
@@ -55,6 +73,13 @@ namespace option_value {
 inline constexpr std::string_view atOnce = "at once";
 inline constexpr std::string_view pagesOnly = "pages only";
 inline constexpr std::string_view automatic = "auto";
+inline constexpr std::string_view on = "on";
+inline constexpr std::string_view off = "off";
+inline constexpr std::string_view never = "never";
+inline constexpr std::string_view growing = "growing";
+inline constexpr std::string_view everyCheck = "every check";
+inline constexpr std::string_view keepAlerts = "keep alerts";
+inline constexpr std::string_view doNotCheck = "do not check";
 }  // namespace option_value
 
 /// The options of this program, in the order in which they are shown.

@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "store/first_field.h"
 #include "store/site_options.h"
+#include "store/site_standing.h"
 #include "store/site_table.h"
 #include "store/sql_quote.h"
 
@@ -34,6 +35,12 @@ bool mayStandInAddress(char c) {
   return isLetter(c) || isDigit(c) || std::string_view("_.@-").find(c) != std::string_view::npos;
 }
 
+/// What lies beside the original tables.
+void removeWhatGoesWith(Database& database, std::int64_t idSite) {
+  removeOptionsOf(database, idSite);
+  SiteStandings(database).removeStanding(idSite);
+}
+
 }  // namespace
 
 std::int16_t SiteRecords::addSite() {
@@ -50,8 +57,8 @@ void SiteRecords::addSite(std::int16_t idSite) {
   std::string sql(kInsertTemplate);
   sql.replace(sql.find(kIdToken), kIdToken.size(), sqlQuote(idSite));
   db_.execute(std::move(sql));
-  // Left behind by a program that deleted a site and knew no options. Not before the id has turned out to be free.
-  removeOptionsOf(db_, idSite);
+  // Left behind by a program that deleted a site and knew nothing of it. Not before the id has turned out to be free.
+  removeWhatGoesWith(db_, idSite);
 }
 
 void SiteRecords::updateSites(std::int16_t idSite, const std::string& url, const std::string& method, bool active,
@@ -95,7 +102,7 @@ void SiteRecords::deleteSite(std::int16_t idSite) {
   Transaction whole(db_);
   db_.execute(joinSql("delete from sites ", " where idsite = ", sqlQuote(idSite)));
   db_.execute(joinSql("delete from postvars ", " where idsite = ", sqlQuote(idSite)));
-  removeOptionsOf(db_, idSite);
+  removeWhatGoesWith(db_, idSite);
   whole.commit();
 }
 
@@ -108,7 +115,7 @@ void SiteRecords::deleteSiteOfAnyId(std::int64_t idSite) {
   Transaction whole(db_);
   db_.conn().execute("delete from sites where idSite = ?1", {&id, 1});
   db_.conn().execute("delete from postVars where idSite = ?1", {&id, 1});
-  removeOptionsOf(db_, idSite);
+  removeWhatGoesWith(db_, idSite);
   whole.commit();
 }
 

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "engine/alarm_policy.h"
+#include "platform/clock.h"
+#include "store/site_standing.h"
+
+namespace tarnwick {
+
+/// What a check came to. None where only time has gone by.
+struct CheckOutcome {
+  bool passed = false;
+  std::string error;  ///< why not, in a few words
+  std::chrono::milliseconds took{0};
+};
+
+/// What follows.
+struct AlarmStep {
+  SiteStanding standing;
+  /// To be told now, in this order; also what is still owed.
+  std::vector<AlertKind> alerts;
+  /// The check that may confirm the failure is to be made so long from now.
+  std::optional<std::chrono::seconds> repeatAfter;
+};
+
+/// Decides what is told of a site after a check, or as time goes by. Everything that it needs to know it is given.
+///
+/// - Down for real is a site after `confirm` failed checks in a row. That is told once, and then as `remind` says.
+/// - Up again it is with the first check that passes; `recovery` tells that, if it was told to be down.
+/// - While a moment is quiet, or `alerts` is off, nothing is told; what is still so afterwards is told then.
+/// - More changes than `unsteady` bears are told as one alert; then nothing, until there was no change for as long.
+/// - A page that took longer than `slow` is told once, until one comes in time.
+AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& outcome, const AlarmPolicy& policy,
+                      LocalTime now);
+
+/// Whether time alone may bring something to be told of the site, so that it is to be asked about now and then.
+bool waitsForTime(const SiteStanding& standing, const AlarmPolicy& policy);
+
+}  // namespace tarnwick
