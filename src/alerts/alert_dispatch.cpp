@@ -18,9 +18,6 @@
 namespace tarnwick {
 namespace {
 
-/// The spelling is part of it: people's mail filters look for this text.
-constexpr const char* kSubject = "A WEB SITE ERROR HAS OCCURED - message from tarnwick";
-constexpr const char* kTemplateFile = "email.txt";
 /// The site id of a test alert.
 constexpr const char* kSampleSite = "27";
 
@@ -29,12 +26,16 @@ bool isFile(FileSystem& files, const std::string& path) {
 }
 
 /// A mail without its text is still an alert.
-std::string textOrNothing(TextFiles& files, const std::string& path) {
+std::string textOr(std::string_view otherwise, TextFiles& files, const std::string& path) {
   try {
     return files.getFile(path);
   } catch (const FileError&) {
-    return {};
+    return std::string(otherwise);
   }
+}
+
+bool makesSound(AlertKind kind) {
+  return kind == AlertKind::down || kind == AlertKind::stillDown || kind == AlertKind::unsteady;
 }
 
 }  // namespace
@@ -43,6 +44,12 @@ struct AlertDispatch::Site {
   std::string url;
   bool alertEmail = false;
   std::string email;
+};
+
+struct AlertDispatch::Mail {
+  std::string to;
+  std::string_view subject;
+  std::string body;
 };
 
 AlertDispatch::AlertDispatch(Database& database, SettingsAndLog& settings, TextFiles& files, MailSocket& mail,
@@ -60,7 +67,10 @@ void AlertDispatch::sendAlerts(std::int16_t idSite) {
   const Site site = readSite(idSite);
   const AlertFacts facts = factsOf(site.url, std::to_string(idSite), site.email);
 
-  mailOutcome_ = byMail && site.alertEmail ? sendMail(facts, server, from) : MailOutcome{};
+  const EventTexts& texts = textsOf(AlertKind::down);
+  mailOutcome_ = byMail && site.alertEmail ? sendMail({facts.email, texts.subject, bodyOf(texts, facts)}, server, from)
+                                           : MailOutcome{};
+  mailOutcome_.otherWay = bySound || byProgram;
   // The mail may have taken long: what follows is read as it stands now.
   if (bySound) {
     playWave(settings_.getControl("audio").toText());
@@ -68,6 +78,44 @@ void AlertDispatch::sendAlerts(std::int16_t idSite) {
   if (byProgram) {
     shellProgram(fillCommand(settings_.getControl("program").toText(), facts, services_.clock));
   }
+}
+
+void AlertDispatch::sendAlerts(std::int16_t idSite, AlertKind kind, const OutageFacts& outage) {
+  const bool byMail = settings_.getControl("cEmail").toBool();
+  const bool bySound = settings_.getControl("cAudio").toBool() && makesSound(kind);
+  const std::string server = settings_.getControl("smtp").toText();
+  const std::string from = settings_.getControl("email").toText();
+  const Site site = readSite(idSite);
+  const EventTexts& texts = textsOf(kind);
+  AlertFacts facts = factsOf(site.url, std::to_string(idSite), site.email);
+  facts.event = eventOf(texts.word, outage);
+
+  mailOutcome_ = byMail && site.alertEmail ? sendMail({facts.email, texts.subject, bodyOf(texts, facts)}, server, from)
+                                           : MailOutcome{};
+  if (bySound) {
+    playWave(settings_.getControl("audio").toText());
+  }
+  const bool byProgram = startFor(facts, kind == AlertKind::down);
+  mailOutcome_.otherWay = bySound || byProgram;
+}
+
+void AlertDispatch::sendOfflineNotice(LocalTime since) {
+  AlertFacts facts = factsOf("", "", settings_.getControl("email").toText());
+  facts.event = eventOf("offline", {.since = since, .now = since});
+  mailOutcome_ = {};
+  mailOutcome_.otherWay = startFor(facts, false);
+}
+
+void AlertDispatch::sendOnlineNotice(LocalTime since, LocalTime until) {
+  const bool byMail = settings_.getControl("cEmail").toBool();
+  const std::string server = settings_.getControl("smtp").toText();
+  const std::string from = settings_.getControl("email").toText();
+  const EventTexts& texts = textsOfReturn();
+  AlertFacts facts = factsOf("", "", from);
+  facts.event = eventOf(texts.word, {.since = since, .now = until});
+  mailOutcome_ = byMail && !trimmed(from).empty() ? sendMail({from, texts.subject, bodyOf(texts, facts)}, server, from)
+                                                  : MailOutcome{};
+  mailOutcome_.otherWay = startFor(facts, false);
 }
 
 void AlertDispatch::testShellExecuteAlert(const std::string& command) {
@@ -95,9 +143,12 @@ AlertFacts AlertDispatch::factsOf(const std::string& url, const std::string& idS
   return {url, idSite, email, socket.localHostName(), socket.localIP()};
 }
 
-MailOutcome AlertDispatch::sendMail(const AlertFacts& facts, const std::string& server, const std::string& from) {
-  const std::string path = db_.programFolder() + "/" + kTemplateFile;
-  const std::string body = fillTemplate(textOrNothing(files_, path), facts, services_.clock);
+std::string AlertDispatch::bodyOf(const EventTexts& texts, const AlertFacts& facts) {
+  const std::string path = db_.programFolder() + "/" + std::string(texts.file);
+  return fillTemplate(textOr(texts.text, files_, path), facts, services_.clock);
+}
+
+MailOutcome AlertDispatch::sendMail(const Mail& mail, const std::string& server, const std::string& from) {
   std::int16_t port = smtpPort_;
   const auto limit = readOptions(db_).valueOf(kAllSites, option_name::mailLimit);
   if (limit && tooSlow_.contains(server)) {
@@ -114,7 +165,7 @@ MailOutcome AlertDispatch::sendMail(const AlertFacts& facts, const std::string& 
     end->setInterval(std::chrono::seconds(std::stoi(*limit)));
     end->setEnabled(true);
   }
-  if (smtp(mailSocket_, services_.pump).sendEmail(server, facts.email, from, kSubject, body, port)) {
+  if (smtp(mailSocket_, services_.pump).sendEmail(server, mail.to, from, std::string(mail.subject), mail.body, port)) {
     return {};
   }
   if (!tookTooLong) {
@@ -142,6 +193,17 @@ std::string AlertDispatch::whyLost(const std::string& server) const {
 void AlertDispatch::endPass() {
   inPass_ = false;
   tooSlow_.clear();
+}
+
+/// Whether it was started.
+bool AlertDispatch::startFor(const AlertFacts& facts, bool whateverItNames) {
+  const std::string command = settings_.getControl("program").toText();
+  if (!settings_.getControl("cProgram").toBool() ||
+      (!whateverItNames && command.find(kEventPlaceholder) == std::string::npos)) {
+    return false;
+  }
+  shellProgram(fillCommand(command, facts, services_.clock));
+  return true;
 }
 
 void AlertDispatch::shellProgram(const std::string& command) {

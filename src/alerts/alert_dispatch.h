@@ -6,6 +6,7 @@
 #include <string>
 
 #include "alerts/alert_facts.h"
+#include "alerts/event_texts.h"
 #include "mail/mail_socket.h"
 #include "platform/services.h"
 #include "store/database.h"
@@ -14,12 +15,13 @@
 
 namespace tarnwick {
 
-/// What became of the mail of an alert.
+/// What became of the mail of an alert, and whether it was the only way.
 struct MailOutcome {
   bool lost = false;     ///< there was to be one, and no server has taken it
   bool leftOut = false;  ///< it was not even tried, since an earlier one of the same pass has lasted too long
   std::string server{};
-  std::string why{};  ///< for people, when it is lost: a sentence
+  std::string why{};      ///< for people, when it is lost: a sentence
+  bool otherWay = false;  ///< it was told by a sound or a started program as well
 };
 
 /// The alerts of a failed site: a mail, a sound, a started program, in this order, as far as the settings switch them
@@ -37,6 +39,20 @@ class AlertDispatch {
   /// The mail goes to the address of the site, when the site wants mails, and its text is the file `email.txt` of the
   /// program folder (nothing when that cannot be read) with its placeholders filled in.
   void sendAlerts(std::int16_t idSite);
+
+  /// Tells what has been decided about a site, in the same way: `down` as the other one does, the further kinds with
+  /// subjects and texts of their own (`EventTexts`). In all of them, and in the program's command line, the
+  /// placeholders of the event are filled in.
+  ///
+  /// There is no sound for good news and for warnings. A program is started for anything but `down` only if its command
+  /// line names `~event~`: one that restarts a server must not do so because it is up again.
+  void sendAlerts(std::int16_t idSite, AlertKind kind, const OutageFacts& outage);
+
+  /// Tells that this machine has no way to the net any more: by the program alone, if its command line names
+  /// `~event~`, since no mail could leave.
+  void sendOfflineNotice(LocalTime since);
+  /// Tells that it has one again: by the program likewise, and by a mail to the address of the settings.
+  void sendOnlineNotice(LocalTime since, LocalTime until);
 
   /// Ends the wait for a mail server of the alert in progress, if the option `mailLimit` bounds it: who stops a run
   /// does not want to wait for it.
@@ -62,10 +78,13 @@ class AlertDispatch {
 
  private:
   struct Site;
+  struct Mail;
 
   Site readSite(std::int16_t idSite);
   AlertFacts factsOf(const std::string& url, const std::string& idSite, const std::string& email);
-  MailOutcome sendMail(const AlertFacts& facts, const std::string& server, const std::string& from);
+  MailOutcome sendMail(const Mail& mail, const std::string& server, const std::string& from);
+  std::string bodyOf(const EventTexts& texts, const AlertFacts& facts);
+  bool startFor(const AlertFacts& facts, bool whateverItNames);
   std::string whyLost(const std::string& server) const;
   void shellProgram(const std::string& command);
 

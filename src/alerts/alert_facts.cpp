@@ -39,6 +39,25 @@ std::string fill(std::string text, const Placeholders& placeholders, const Alert
   return text;
 }
 
+/// Behind all others: what these bring in is filled in no more, but for what stands behind it here.
+std::string fillEvent(std::string text, const std::optional<AlertEvent>& event) {
+  if (event) {
+    text = replaceAll(text, kEventPlaceholder, event->event);
+    text = replaceAll(text, "~downSince~", event->downSince);
+    text = replaceAll(text, "~downFor~", event->downFor);
+    text = replaceAll(text, "~checks~", event->checks);
+    text = replaceAll(text, "~firstError~", event->firstError);
+  }
+  return text;
+}
+
+template <typename Change>
+std::optional<AlertEvent> changed(const std::optional<AlertEvent>& event, Change change) {
+  return event ? std::optional(AlertEvent{change(event->event), change(event->downSince), change(event->downFor),
+                                          change(event->checks), change(event->firstError)})
+               : std::nullopt;
+}
+
 // While a command is filled in, a NUL byte and what follows it is a mark: one each before and behind an address,
 // together with all that its own placeholders bring in, and one for the NUL byte that a literal quote is.
 constexpr char kMark = '\0';
@@ -90,7 +109,7 @@ std::string fillTemplate(std::string text, const AlertFacts& facts, const Clock&
   // A line of its own in the mail could end it, and what follows would be commands.
   const AlertFacts lines = {oneLine(facts.url), oneLine(facts.idSite), oneLine(facts.email),
                             oneLine(facts.localHostName), oneLine(facts.localIP)};
-  return fill(std::move(text), kNamed, lines, clock);
+  return fillEvent(fill(std::move(text), kNamed, lines, clock), changed(facts.event, &oneLine));
 }
 
 std::string fillCommand(std::string text, const AlertFacts& facts, const Clock& clock) {
@@ -98,7 +117,8 @@ std::string fillCommand(std::string text, const AlertFacts& facts, const Clock& 
   const AlertFacts values = {markedAddress(literalArgumentText(facts.url)), literal(facts.idSite), literal(facts.email),
                              literal(facts.localHostName), literal(facts.localIP)};
   text = fill(marked(text), kNamed, values, clock);
-  return withoutMarks(fill(std::move(text), kNumbered, values, clock));
+  text = fill(std::move(text), kNumbered, values, clock);
+  return withoutMarks(fillEvent(std::move(text), changed(facts.event, literal)));
 }
 
 }  // namespace tarnwick
