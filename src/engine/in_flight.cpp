@@ -77,6 +77,14 @@ std::size_t InFlight::firstReady(const std::deque<std::size_t>& rows, Time now) 
 }
 
 bool InFlight::isReady(std::size_t row, Time now) {
+  if (const auto repeated = repeatedFrom_.find(row); repeated != repeatedFrom_.end() && now < repeated->second) {
+    nothingBefore_ = std::min(nothingBefore_, repeated->second);
+    return false;
+  }
+  return hostIsReady(row, now);
+}
+
+bool InFlight::hostIsReady(std::size_t row, Time now) {
   if (isSentToNobody(row) || (policy_.perHost == 0 && policy_.spacing == Time(0))) {
     return true;
   }
@@ -128,6 +136,12 @@ bool InFlight::putBack(std::size_t row) {
   }
   (isSlow(row) ? slow_ : rest_).push_front(row);
   return true;
+}
+
+void InFlight::repeat(std::size_t row, Time from) {
+  repeatedFrom_[row] = from;
+  nothingBefore_ = Time::min();
+  (isSlow(row) ? slow_ : rest_).push_back(row);
 }
 
 std::string hostOfAddress(std::string_view url) {

@@ -63,6 +63,9 @@ class InFlight {
   /// no more than usual.
   bool putBack(std::size_t row);
 
+  /// A row that has ended is to be sent once more, not before `from`.
+  void repeat(std::size_t row, Time from);
+
   /// How many rows are still to be taken.
   std::size_t left() const { return rest_.size() + slow_.size(); }
 
@@ -74,6 +77,7 @@ class InFlight {
 
   std::size_t firstReady(const std::deque<std::size_t>& rows, Time now);
   bool isReady(std::size_t row, Time now);
+  bool hostIsReady(std::size_t row, Time now);
   bool isSentToNobody(std::size_t row) const { return hostOf_[row - 1] == 0; }
   Host& hostOf(std::size_t row) { return hosts_[hostOf_[row - 1]]; }
   bool isSlow(std::size_t row) const { return slowRows_[row - 1]; }
@@ -86,6 +90,8 @@ class InFlight {
   std::deque<std::size_t> rest_;
   std::deque<std::size_t> slow_;
   std::unordered_map<std::size_t, Time> sentAt_;
+  // When the rows that are repeated may be sent.
+  std::unordered_map<std::size_t, Time> repeatedFrom_;
   std::size_t slowInFlight_ = 0;
   std::optional<LatencyThrottle> throttle_;
   // While all that are left wait for their hosts: when the first may go on.

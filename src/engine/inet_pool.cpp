@@ -112,6 +112,8 @@ void InetPool::saveSocketData(std::int16_t slot) {
   row.content = failed ? "11:" + result.cause : std::move(result.page);
   row.errCode = static_cast<std::int32_t>(result.code());
   row.errDescription = std::move(result.cause);
+  row.took = result.took;
+  row.server = std::move(result.server);
 }
 
 void InetPool::releaseSiteContent(std::size_t row) { std::string().swap(rows_.at(row).content); }

@@ -68,6 +68,9 @@ class InetPool {
   const std::string& siteContent(std::size_t row) const { return rows_.at(row).content; }
   std::int32_t siteErrCode(std::size_t row) const { return rows_.at(row).errCode; }
   const std::string& siteErrDescription(std::size_t row) const { return rows_.at(row).errDescription; }
+  /// How long its request took, and the address of the server that was asked; none as long as nothing was saved.
+  std::chrono::milliseconds siteTook(std::size_t row) const { return rows_.at(row).took; }
+  const std::string& siteServer(std::size_t row) const { return rows_.at(row).server; }
   /// Frees the memory of a row's page text once it has been recorded.
   void releaseSiteContent(std::size_t row);
 
@@ -86,6 +89,8 @@ class InetPool {
     std::string content;
     std::int32_t errCode = 0;
     std::string errDescription;
+    std::chrono::milliseconds took{0};
+    std::string server;
   };
 
   Slot& at(std::int16_t slot) { return slots_.at(static_cast<std::size_t>(slot) - 1); }

@@ -9,6 +9,7 @@
 #include "alerts/alert_dispatch.h"
 #include "base/errors.h"
 #include "engine/due_sites.h"
+#include "engine/site_alarms.h"
 #include "engine/sites_to_test.h"
 #include "engine/uncounted_failures.h"
 #include "store/kept_pages.h"
@@ -22,6 +23,8 @@ constexpr std::size_t kMostTogether = 16;
 constexpr std::chrono::milliseconds kLongestWait{50};
 /// A longer page is recorded by itself.
 constexpr std::size_t kLargePage = std::size_t{1} << 20U;
+
+const std::string kPageDiffers = "the page differs from the baseline";
 
 }  // namespace
 
@@ -125,7 +128,12 @@ void PassRecording::tell(std::size_t row, const Fetched& fetched, const Stored& 
   if (!stored.passed) {
     // The alerts of a failure wait for the network, so they cannot be part of the transaction. The site is down from
     // here on, whatever becomes of them; and nothing is written before them that could fail and leave them out.
-    alertAndCount(row, stored.counted);
+    alertAndCount(row, stored);
+  } else if (stored.alarm) {
+    alert(row, stored);
+  }
+  if (stored.alarm && stored.alarm->repeatAfter) {
+    repeat_(row, *stored.alarm->repeatAfter);
   }
   std::erase(brightened_, id);
   needs_.view.showResult(
@@ -230,8 +238,13 @@ std::optional<PassRecording::Stored> PassRecording::storeResult(std::size_t row,
   if (counts) {
     count(id, passed);
   }
+  Stored stored{passed, counts};
+  if (debts_.alarms.decidesAbout(id)) {
+    stored.alarm =
+        debts_.alarms.take(id, {passed, errCode != 0 ? errDescription : kPageDiffers, needs_.pool.siteTook(row)});
+  }
   whole.commit();
-  return Stored{passed, counts};
+  return stored;
 }
 
 // The site stays due, and is recorded once there is room; until then it is told again at its own interval.
@@ -243,26 +256,56 @@ void PassRecording::alertUnrecorded(std::size_t row, const Fetched& fetched) {
   debts_.checks.checkedUnrecorded(id, needs_.clock.steadyNow());
   if (!needs_.results.wouldPass(id, fetched.content, fetched.errCode, firstBaselineOf(id))) {
     needs_.alerts.sendAlerts(id);
-    tellLostMail(row);
+    tellLostMail(id, sites_.url(row));
   }
 }
 
-void PassRecording::tellLostMail(std::size_t row) {
+void PassRecording::tellLostMail(std::int16_t id, const std::string& url) {
   if (const MailOutcome& mail = needs_.alerts.mailOutcome(); mail.lost) {
-    needs_.view.showLostMail({sites_.idSite(row), sites_.url(row), mail.server, mail.why, mail.leftOut});
+    needs_.view.showLostMail({id, url, mail.server, mail.why, mail.leftOut});
+  }
+}
+
+void PassRecording::alert(std::size_t row, const Stored& stored) {
+  const std::int16_t id = sites_.idSite(row);
+  if (stored.alarm) {
+    raiseAlarms(id, sites_.url(row), stored.alarm->alerts);
+  } else {
+    needs_.alerts.sendAlerts(id);
+    tellLostMail(id, sites_.url(row));
+  }
+}
+
+// Owed from the moment in which they were decided, so that none is lost with the program; and known to be told as soon
+// as possible, so that none is told twice.
+void PassRecording::raiseAlarms(std::int16_t id, const std::string& url, const std::vector<AlertKind>& alerts) {
+  bool told = true;
+  for (const AlertKind kind : alerts) {
+    told = debts_.alarms.raise(id, kind) && told;
+    tellLostMail(id, url);
+  }
+  if (alerts.empty() || !told) {
+    return;
+  }
+  try {
+    Transaction whole = writeTurn().take();
+    debts_.alarms.settle(id);
+    whole.commit();
+  } catch (const std::exception&) {
+    debts_.alarms.forgive(id);
+    throw;
   }
 }
 
 // The alerts take events in: meanwhile the site may be edited, switched off or deleted, the database be locked or taken
 // away. The failure is recorded, so it is counted all the same, now or later, unless its site is gone.
-void PassRecording::alertAndCount(std::size_t row, bool counted) {
+void PassRecording::alertAndCount(std::size_t row, const Stored& stored) {
   const std::int16_t id = sites_.idSite(row);
   UncountedFailures::Pending failure(debts_.failures, id);
-  if (counted) {
+  if (stored.counted) {
     failure.counted();
   }
-  needs_.alerts.sendAlerts(id);
-  tellLostMail(row);
+  alert(row, stored);
   if (fetchedBy(row).content.size() > kLargePage) {
     // The next write takes the page's log into the database: not in one go with recording it.
     needs_.pump.pump();
@@ -271,7 +314,7 @@ void PassRecording::alertAndCount(std::size_t row, bool counted) {
     failure.counted();
     return;
   }
-  if (!counted) {
+  if (!stored.counted) {
     try {
       Transaction whole = writeTurn().take();
       needs_.results.updateStatusCounter(id, false);

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/alarm_rule.h"
 #include "engine/result_recording.h"
 #include "engine/run_controller.h"
 #include "engine/selected_sites.h"
@@ -19,6 +20,7 @@
 
 namespace tarnwick {
 
+class SiteAlarms;
 class SitesToTest;
 class UncountedFailures;
 
@@ -26,6 +28,7 @@ class UncountedFailures;
 struct PassDebts {
   SitesToTest& checks;
   UncountedFailures& failures;
+  SiteAlarms& alarms;
 };
 
 /// The first faults of a pass that concern one site alone, told when the others have been tested.
@@ -50,6 +53,8 @@ class PassRecording {
     const OptionsInForce& options;
     std::vector<std::int16_t>& brightened;
     PassFaults& faults;
+    /// Has a row's check made once more, so long from now.
+    std::function<void(std::size_t row, std::chrono::seconds after)> repeat;
   };
   /// What a row's request came to.
   struct Fetched {
@@ -65,7 +70,8 @@ class PassRecording {
         sites_(shared.sites),
         options_(shared.options),
         brightened_(shared.brightened),
-        faults_(shared.faults) {}
+        faults_(shared.faults),
+        repeat_(shared.repeat) {}
 
   /// Lets even a single result wait a moment for others. REQUIRES: events that come more often than that.
   void waitForMore(bool waits) { waitsForMore_ = waits; }
@@ -84,11 +90,16 @@ class PassRecording {
   /// Records one result at once.
   void record(std::size_t row, const Fetched& fetched);
 
+  /// Tells alerts of a site that is down, or not, by its options of the alarm.
+  void raiseAlarms(std::int16_t id, const std::string& url, const std::vector<AlertKind>& alerts);
+
  private:
   /// What was recorded.
   struct Stored {
     bool passed;
     bool counted;
+    /// Nothing where the site follows the original rule.
+    std::optional<AlarmStep> alarm{};
   };
 
   bool stopped() const { return !run_.running() || needs_.pump.closing(); }
@@ -104,12 +115,13 @@ class PassRecording {
   void shortenLog();
   std::optional<std::uint64_t> logLimit() const;
   void alertUnrecorded(std::size_t row, const Fetched& fetched);
-  void tellLostMail(std::size_t row);
+  void tellLostMail(std::int16_t id, const std::string& url);
   void deferUnlessGeneral(const std::exception_ptr& fault);
   FirstBaseline firstBaselineOf(std::int16_t id) const;
   void count(std::int16_t id, bool passed);
   void dropPage(std::size_t row, SelectedSites::Standing standing);
-  void alertAndCount(std::size_t row, bool counted);
+  void alert(std::size_t row, const Stored& stored);
+  void alertAndCount(std::size_t row, const Stored& stored);
   WriteTurn writeTurn();
 
   RunController& run_;
@@ -119,6 +131,7 @@ class PassRecording {
   const OptionsInForce& options_;
   std::vector<std::int16_t>& brightened_;
   PassFaults& faults_;
+  std::function<void(std::size_t row, std::chrono::seconds after)> repeat_;
   // The rows whose requests have ended and are to be recorded, in that order.
   std::vector<std::size_t> waiting_;
   std::chrono::milliseconds waitingSince_{};

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstdio>
 #include <utility>
 
@@ -13,6 +14,7 @@
 #include "platform/prompts.h"
 #include "store/room_reserve.h"
 #include "store/site_options.h"
+#include "store/site_table.h"
 
 namespace tarnwick {
 namespace {
@@ -42,7 +44,8 @@ RunController::RunController(const Needs& needs, TimerMaker& timers, Guard guard
         guard_("counters", [this] { uncounted_.tick(); });
       })),
       sites_(needs.dueSites),
-      uncounted_(needs.results, needs.dueSites, needs.view) {}
+      uncounted_(needs.results, needs.dueSites, needs.view),
+      alarms_(needs.standings, needs.alerts, needs.clock) {}
 
 RunController::~RunController() { uncounted_.end(); }
 
@@ -94,7 +97,7 @@ void RunController::runTestPass(std::int16_t mode) {
   const bool takesWhatWasLeft = std::exchange(somethingWasLeft_, false);
   standstill_.reset();
   try {
-    TestPass pass(*this, needs_, busy_, {sites_, uncounted_});
+    TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_});
     readOptions();
     needs_.reserve.keepReserve();
     TextTable sites =
@@ -102,7 +105,10 @@ void RunController::runTestPass(std::int16_t mode) {
     if (mode == kDueSites) {
       sites = sites_.withoutUnrecorded(sites, needs_.clock.steadyNow());
     }
+    const bool someAreDue = sites.lastRow() > 0;
+    sites = withoutResting(std::move(sites));
     foundNothing_ = sites.lastRow() == 0;
+    allRest_ = someAreDue && foundNothing_;
     pass.test(std::move(sites));
     backOff_.succeeded();
   } catch (const OverflowError&) {
@@ -115,10 +121,37 @@ void RunController::runTestPass(std::int16_t mode) {
   }
 }
 
-void RunController::readOptions() { newSitesAtOnce_ = needs_.options.optionsInForce().newSitesAtOnce(); }
+void RunController::readOptions() {
+  OptionsInForce options = needs_.options.optionsInForce();
+  newSitesAtOnce_ = options.newSitesAtOnce();
+  alarms_.setOptions(std::move(options));
+}
+
+TextTable RunController::withoutResting(TextTable sites) {
+  if (!alarms_.watchesTime()) {
+    return sites;
+  }
+  return rowsWhere(sites, [&](std::size_t row) {
+    std::int64_t id = 0;
+    const std::string& text = sites.at(site_column::idSite, row);
+    std::from_chars(text.data(), text.data() + text.size(), id);
+    return !std::in_range<std::int16_t>(id) || !alarms_.restsNow(static_cast<std::int16_t>(id));
+  });
+}
+
+// Once a minute is as often as a time that people set can end.
+void RunController::tellWhatTimeHasBrought() {
+  if (busy_ || !running_ || !alarms_.watchesTime() || minuteOf(needs_.clock) == alarmsSeen_) {
+    return;
+  }
+  alarmsSeen_ = minuteOf(needs_.clock);
+  readOptions();
+  TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_});
+  pass.tellWhatTimeHasBrought();
+}
 
 bool RunController::testOnce(TextTable sites) {
-  TestPass pass(*this, needs_, busy_, {sites_, uncounted_});
+  TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_});
   // The pass looks at this flag; it is lowered before the pass puts the lamps right.
   const struct Running {
     explicit Running(bool& flag) : flag_(flag) { flag_ = true; }
@@ -164,6 +197,7 @@ void RunController::guardedTick() {
   if (due) {
     guard_("run", [this] { timerPass(); });
   }
+  guard_("alarms", [this] { tellWhatTimeHasBrought(); });
 }
 
 void RunController::tmrCheckSites_Timer() {
@@ -228,7 +262,11 @@ void RunController::timerPass() {
   runTestPass(kDueSites);
   if (foundNothing_ && running_) {
     needs_.dueSites.changedByAnyone();
-    if (std::string why = sites_.whatWaits(); !why.empty()) {
+    std::string why = sites_.whatWaits();
+    if (why.empty() && allRest_) {
+      why = "Waiting: the sites that are due are in their quiet hours.";
+    }
+    if (!why.empty()) {
       standstill_ = {minuteOf(needs_.clock), std::move(why)};
     }
   }

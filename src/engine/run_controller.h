@@ -13,6 +13,7 @@
 #include "engine/due_sites.h"
 #include "engine/inet_pool.h"
 #include "engine/run_view.h"
+#include "engine/site_alarms.h"
 #include "engine/sites_to_test.h"
 #include "engine/uncounted_failures.h"
 #include "platform/clock.h"
@@ -50,6 +51,7 @@ class RunController {
     SiteOptions& options;
     KeptPages& keptPages;
     RoomReserve& reserve;
+    SiteStandings& standings;
   };
 
   /// Wraps a timer's handler, for instance to show its failure in a box: called with the handler's name and itself.
@@ -70,6 +72,8 @@ class RunController {
   /// Tests the sites of a site table once, without a run: no countdown follows. Stop ends it as it ends a run's pass;
   /// false then. REQUIRES: no run is on and no pass in progress.
   bool testOnce(TextTable sites);
+  /// `sites` without those that are not to be checked now, since that is how their quiet time is to be spent.
+  TextTable withoutResting(TextTable sites);
   /// Vocabulary: no front end calls it.
   /// Stores one judged result, raises the alerts of a failure and repaints the site's row.
   void recordResult(std::int16_t idSite, bool result);
@@ -115,6 +119,7 @@ class RunController {
  private:
   void guardedTick();
   void readOptions();
+  void tellWhatTimeHasBrought();
   /// Counts one second down; true when a pass is to begin.
   bool countDown();
   void timerPass();
@@ -140,6 +145,11 @@ class RunController {
   std::chrono::seconds clockOffset_{0};
   SitesToTest sites_;
   UncountedFailures uncounted_;
+  SiteAlarms alarms_;
+  // When it was asked last what time has brought.
+  std::chrono::minutes alarmsSeen_{};
+  // Sites were due in the last pass, and each of them rests.
+  bool allRest_ = false;
   // How long the run waits after passes that failed, so that a fault here does not have every due site fetched each
   // second.
   BackOff backOff_;

@@ -29,16 +29,6 @@ std::size_t rowOf(const TextTable& sites, std::int16_t idSite) {
   return 0;
 }
 
-TextTable withoutRow(const TextTable& sites, std::size_t left) {
-  TextTable others(site_column::last);
-  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
-    if (row != left) {
-      copyRow(sites, row, others);
-    }
-  }
-  return others;
-}
-
 }  // namespace
 
 TextTable SitesToTest::choose(std::int16_t mode, bool neverCheckedToo, const std::function<void()>& between) {
@@ -47,7 +37,7 @@ TextTable SitesToTest::choose(std::int16_t mode, bool neverCheckedToo, const std
   addOwed(sites);
   if (const std::size_t row = typed_ ? rowOf(sites, *typed_) : 0; row > 0) {
     owe(*typed_);
-    sites = withoutRow(sites, row);
+    sites = rowsWhere(sites, [&](std::size_t other) { return other != row; });
   }
   taken_.clear();
   for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
@@ -62,16 +52,12 @@ TextTable SitesToTest::withoutUnrecorded(const TextTable& sites, std::chrono::mi
   if (unrecorded_.empty()) {
     return sites;
   }
-  TextTable others(site_column::last);
-  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+  return rowsWhere(sites, [&](std::size_t row) {
     const auto checked = unrecorded_.find(sites.at(site_column::idSite, row));
     const std::chrono::minutes interval(
         std::clamp<std::int64_t>(SqlValue(sites.at(site_column::tInterval, row)).toInt64(), 1, 1 << 20));
-    if (checked == unrecorded_.end() || now - checked->second >= interval) {
-      copyRow(sites, row, others);
-    }
-  }
-  return others;
+    return checked == unrecorded_.end() || now - checked->second >= interval;
+  });
 }
 
 SomeSites SitesToTest::leftOut(bool passIsOn) {

@@ -12,6 +12,7 @@
 #include "base/errors.h"
 #include "engine/due_sites.h"
 #include "engine/result_recording.h"
+#include "engine/site_alarms.h"
 #include "engine/sites_to_test.h"
 #include "engine/uncounted_failures.h"
 #include "store/kept_pages.h"
@@ -75,6 +76,7 @@ TestPass::~TestPass() {
 void TestPass::test(TextTable sites) {
   sites_ = SelectedSites(needs_, std::move(sites));
   options_ = needs_.options.optionsInForce();
+  debts_.alarms.setOptions(options_);
   setUpPool();
   if (sites_.count() == 0) {
     return;
@@ -88,6 +90,18 @@ void TestPass::test(TextTable sites) {
   } while (inFlight_.left() > 0 && !stopped());
   if (!stopped()) {
     raiseDeferred();
+  }
+}
+
+void TestPass::tellWhatTimeHasBrought() {
+  Transaction whole(needs_.standings.database());
+  const auto alerts = debts_.alarms.timeHasGoneBy();
+  whole.commit();
+  for (const auto& [id, kinds] : alerts) {
+    if (stopped()) {
+      return;
+    }
+    recording_.raiseAlarms(id, needs_.results.getUrl(id), kinds);
   }
 }
 
@@ -210,6 +224,7 @@ void TestPass::recordRowsWithoutAddress() {
 void TestPass::sendRequest(std::int16_t slot, std::size_t row) {
   const std::int16_t id = sites_.idSite(row);
   Request request = sites_.requestFor(row);
+  request.otherThan = needs_.pool.siteServer(row);
   needs_.view.showStatus("Testing: " + sites_.url(row));
   needs_.pool.send(slot, row, std::move(request));
   needs_.view.brighten(id, kTestingBrightness);
@@ -281,7 +296,8 @@ void TestPass::takeRow(std::size_t row) {
 void TestPass::showProgress() {
   const std::size_t next = sites_.count() - inFlight_.left() + 1;
   const std::int64_t width = static_cast<std::int64_t>(next) * progressStep_;
-  if (width != progressWidth_) {
+  // A check that is repeated makes nothing undone.
+  if (width > progressWidth_) {
     progressWidth_ = width;
     needs_.view.setProgressWidth(width);
   }

@@ -32,6 +32,9 @@ class TestPass {
   /// OverflowError when an id does not fit 16 bits or a counter was full.
   void test(TextTable sites);
 
+  /// Tells what time alone has brought to be told of sites, by their options of the alarm. Takes events in.
+  void tellWhatTimeHasBrought();
+
  private:
   /// The row to be sent next, 0 for none at present.
   std::size_t upcoming() { return inFlight_.upcoming(needs_.clock.steadyNow()); }
@@ -61,7 +64,13 @@ class TestPass {
   OptionsInForce options_;
   std::vector<std::int16_t> brightened_;
   PassFaults faults_;
-  PassRecording recording_{run_, needs_, debts_, {sites_, options_, brightened_, faults_}};
+  PassRecording recording_{
+      run_,
+      needs_,
+      debts_,
+      {sites_, options_, brightened_, faults_, [this](std::size_t row, std::chrono::seconds after) {
+         inFlight_.repeat(row, needs_.clock.steadyNow() + after);
+       }}};
   InFlight inFlight_{{}, {}};
   std::int64_t progressStep_ = 0;
   std::int64_t progressWidth_ = -1;

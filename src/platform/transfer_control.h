@@ -73,6 +73,8 @@ struct Request {
   std::string body{};
   /// Further header lines, separated by CR LF; empty for none.
   std::string headers{};
+  /// The IP address of a server that has failed: another one that the host has, too, is tried first.
+  std::string otherThan{};
 };
 
 /// What a request came to: a page, or a fault and its cause.
@@ -83,6 +85,10 @@ struct TransferResult {
   std::string cause{};
   /// Every byte as it came, decoded.
   std::string page{};
+  /// The IP address of the server that was asked last; empty where none was.
+  std::string server{};
+  /// How long the whole request took, look-up and redirects included.
+  std::chrono::milliseconds took{0};
 
   /// The fault as it is stored and shown; 0 for none.
   long code() const { return static_cast<long>(fault); }

@@ -9,6 +9,7 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       PostVars(ownedDatabase_),
       SettingsAndLog(ownedDatabase_, fields),
       SiteOptions(ownedDatabase_, fields.options),
+      SiteStandings(ownedDatabase_),
       ResultLog(ownedDatabase_),
       KeptPages(ownedDatabase_, services.files),
       RoomReserve(ownedDatabase_, services.files),

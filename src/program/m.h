@@ -22,6 +22,7 @@
 #include "store/settings_and_log.h"
 #include "store/site_options.h"
 #include "store/site_records.h"
+#include "store/site_standing.h"
 #include "store/text_files.h"
 
 namespace tarnwick {
@@ -53,6 +54,7 @@ class m : private MembersOfM,
           public PostVars,
           public SettingsAndLog,
           public SiteOptions,
+          public SiteStandings,
           public ResultLog,
           public KeptPages,
           public RoomReserve,

@@ -22,7 +22,8 @@ struct Program::Parts {
              .pump = services.pump,
              .options = data,
              .keptPages = data,
-             .reserve = data},
+             .reserve = data,
+             .standings = data},
             services.timers,
             [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }),
         report(

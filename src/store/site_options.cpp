@@ -47,6 +47,12 @@ std::optional<std::string> OptionsInForce::valueOf(std::int64_t idSite, std::str
   return std::nullopt;
 }
 
+bool OptionsInForce::setsAnyOf(std::span<const std::string_view> names) const {
+  return std::ranges::any_of(values_, [&](const auto& ofSite) {
+    return std::ranges::any_of(names, [&](std::string_view name) { return ofSite.second.contains(name); });
+  });
+}
+
 const OptionField& SiteOptions::optionField(std::string_view name) const {
   const auto found =
       std::ranges::find_if(fields_, [&](const OptionField& field) { return equalsIgnoringCase(field.name, name); });

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -28,6 +29,9 @@ class OptionsInForce {
   /// The site's own value, else the one for all, else nothing: the original behaviour. `kAllSites` asks for the one
   /// for all.
   std::optional<std::string> valueOf(std::int64_t idSite, std::string_view name) const;
+
+  /// Whether one of these is set for any site, or for all.
+  bool setsAnyOf(std::span<const std::string_view> names) const;
 
   /// Whether a site that was never checked is taken on with those that are due.
   bool newSitesAtOnce() const { return valueOf(kAllSites, option_name::newSites) == option_value::atOnce; }

@@ -60,6 +60,8 @@ class SiteStandings {
  public:
   explicit SiteStandings(Database& database) : db_(database) {}
 
+  Database& database() { return db_; }
+
   /// Whether the list can hold them. One that lacks the table, and could not be given it, is judged by the original
   /// rule.
   bool canBeKept();

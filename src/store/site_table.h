@@ -42,4 +42,19 @@ TextTable siteTableOf(Recordset& rows);
 /// Runs `sql`, whose select list is `kSiteFields`, and returns its rows in the order they come. Raises DataAccessError.
 TextTable readSiteTable(Database& database, std::string sql);
 
+/// The rows of a site table for whose numbers `keeps` is true.
+template <typename Keeps>
+TextTable rowsWhere(const TextTable& sites, Keeps keeps) {
+  TextTable kept(sites.lastColumn());
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    if (keeps(row)) {
+      const std::size_t added = kept.addRow();
+      for (std::size_t column = 1; column <= sites.lastColumn(); ++column) {
+        kept.at(column, added) = sites.at(column, row);
+      }
+    }
+  }
+  return kept;
+}
+
 }  // namespace tarnwick

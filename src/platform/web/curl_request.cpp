@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/web/curl_request.h"
 
+#if __has_include(<arpa/inet.h>)
+#include <arpa/inet.h>
+#endif
+
 #include <algorithm>
 #include <string_view>
 
@@ -35,6 +39,19 @@ int numberOf(CURL* easy, CURLINFO what) {
   long number = 0;
   curl_easy_getinfo(easy, what, &number);
   return static_cast<int>(number);
+}
+
+/// As libcurl writes it.
+std::string addressText(const sockaddr& address) {
+  std::array<char, INET6_ADDRSTRLEN> text{};
+  const void* number = nullptr;
+  if (address.sa_family == AF_INET) {
+    number = &reinterpret_cast<const sockaddr_in&>(address).sin_addr;
+  } else if (address.sa_family == AF_INET6) {
+    number = &reinterpret_cast<const sockaddr_in6&>(address).sin6_addr;
+  }
+  return number != nullptr && inet_ntop(address.sa_family, number, text.data(), text.size()) != nullptr ? text.data()
+                                                                                                        : "";
 }
 
 AbortReason reasonOf(HeaderFault fault) {
@@ -96,15 +113,26 @@ int CurlRequest::onResolve(void*, void*, void* self) {
 }
 
 curl_socket_t CurlRequest::onOpen(void* self, curlsocktype, curl_sockaddr* address) {
+  auto* const request = static_cast<CurlRequest*>(self);
+  if (request->isToBeAvoided(*address)) {
+    // libcurl goes on with the next one, if there is any.
+    request->avoided_ = true;
+    return CURL_SOCKET_BAD;
+  }
   const curl_socket_t opened = ::socket(address->family, address->socktype, address->protocol);
-  static_cast<CurlRequest*>(self)->refusedSocket_ = opened == CURL_SOCKET_BAD ? lastSocketError() : 0;
+  request->refusedSocket_ = opened == CURL_SOCKET_BAD ? lastSocketError() : 0;
   return opened;
+}
+
+bool CurlRequest::isToBeAvoided(const curl_sockaddr& address) const {
+  return !connected_ && !request_.otherThan.empty() && addressText(address.addr) == request_.otherThan;
 }
 
 int CurlRequest::onSocket(void* self, curl_socket_t socket, curlsocktype) {
   setCloseOnExec(static_cast<std::uintptr_t>(socket));
   auto* const request = static_cast<CurlRequest*>(self);
   request->connection_ = {};
+  request->connected_ = true;
   request->reach(transfer_state::connecting);
   return CURL_SOCKOPT_OK;
 }
@@ -254,7 +282,12 @@ TransferResult CurlRequest::finish(CURLcode reported) {
     result = CURLE_BAD_CONTENT_ENCODING;
   }
   completeStates(result);
-  return result == CURLE_OK ? TransferResult() : failure(result);
+  TransferResult ended = result == CURLE_OK ? TransferResult() : failure(result);
+  curl_off_t took = 0;
+  curl_easy_getinfo(easy_.get(), CURLINFO_TOTAL_TIME_T, &took);
+  ended.took = std::chrono::ceil<std::chrono::milliseconds>(std::chrono::microseconds(took));
+  ended.server = textOf(easy_.get(), CURLINFO_PRIMARY_IP);
+  return ended;
 }
 
 // A page without a length ends where its connection does; a secured one tells that from a cut. Over FTP a reply does.

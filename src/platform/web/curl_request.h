@@ -43,6 +43,11 @@ class CurlRequest {
   /// Starts it; `done` is called from the event loop with libcurl's result. False when there is no memory for it.
   bool start(std::function<void(CURLcode)> done);
 
+  /// Whether it has come to nothing only because the host has no other address than the one that was to be tried last.
+  bool knowsNoOtherAddress(CURLcode reported) const { return reported != CURLE_OK && avoided_ && !connected_; }
+  /// What was asked for.
+  const Request& request() const { return request_; }
+
   /// Hands over what a transfer that libcurl ended with `reported` came to, after the states that it had reached but
   /// that were not seen on the way have been reported.
   TransferResult finish(CURLcode reported);
@@ -105,6 +110,7 @@ class CurlRequest {
   bool overFtp() const;
   int refusedSocket(CURLcode result) const;
   int systemError() const;
+  bool isToBeAvoided(const curl_sockaddr& address) const;
 
   Request request_;
   CurlTransfers::Options options_;
@@ -131,6 +137,9 @@ class CurlRequest {
   Connection connection_;
   // Why the system has refused the socket that was asked for last; 0 when it has not.
   int refusedSocket_ = 0;
+  // An address was left out for another one, and one has been connected to.
+  bool avoided_ = false;
+  bool connected_ = false;
   AbortReason aborted_ = AbortReason::none;
   int state_ = transfer_state::none;
 };

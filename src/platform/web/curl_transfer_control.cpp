@@ -14,6 +14,8 @@ namespace tarnwick {
 struct CurlTransferControl::Run {
   /// Set when no further event of it may arrive. The control may be gone then.
   bool over = false;
+  /// Reported last.
+  int state = transfer_state::none;
   std::unique_ptr<CurlRequest> request;
   TransferResult result{};
   PageBody page{};
@@ -57,8 +59,7 @@ void CurlTransferControl::start(Request request) {
     finishWith(run, std::move(*refusal));
     return;
   }
-  run.request = std::make_unique<CurlRequest>(std::move(request), options_, *authorities_, *loop_,
-                                              [this](int state) { report(state); });
+  run.request = makeRequest(run, std::move(request));
   if (!run.request->isSecured() || authorities_->areRead()) {
     begin(run);
     return;
@@ -76,6 +77,16 @@ void CurlTransferControl::start(Request request) {
   });
 }
 
+std::unique_ptr<CurlRequest> CurlTransferControl::makeRequest(Run& run, Request request) {
+  return std::make_unique<CurlRequest>(std::move(request), options_, *authorities_, *loop_, [this, &run](int state) {
+    // A second one of the same run passes through the first states again.
+    if (state > run.state) {
+      run.state = state;
+      report(state);
+    }
+  });
+}
+
 void CurlTransferControl::begin(Run& run) {
   // The request ends its transfer when it goes, so `run` and `this` are there when it is called.
   if (!run.request->start([this, &run](CURLcode result) { finish(run, result); })) {
@@ -85,6 +96,13 @@ void CurlTransferControl::begin(Run& run) {
 
 void CurlTransferControl::finish(Run& run, CURLcode reported) noexcept {
   try {
+    if (run.request->knowsNoOtherAddress(reported)) {
+      Request request = run.request->request();
+      request.otherThan.clear();
+      run.request = makeRequest(run, std::move(request));
+      begin(run);
+      return;
+    }
     run.result = run.request->finish(reported);
     if (run.result.fault == TransferFault::none) {
       run.page = run.request->takePage();

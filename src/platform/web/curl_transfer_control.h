@@ -31,6 +31,7 @@ class CurlTransferControl final : public TransferControl {
   struct Run;
 
   void start(Request request);
+  std::unique_ptr<CurlRequest> makeRequest(Run& run, Request request);
   void begin(Run& run);
   void finish(Run& run, CURLcode reported) noexcept;
   void finishWith(Run& run, TransferResult result) noexcept;

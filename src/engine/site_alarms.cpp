@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "engine/site_alarms.h"
+
+#include <array>
+#include <limits>
+#include <utility>
+
+#include "alerts/alert_dispatch.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::array kOptionsOfAlarm{
+    option_name::alerts, option_name::confirm, option_name::recovery,    option_name::remind, option_name::flapping,
+    option_name::slow,   option_name::quiet,   option_name::maintenance, option_name::pause,
+};
+
+}  // namespace
+
+void SiteAlarms::setOptions(OptionsInForce options) {
+  options_ = std::move(options);
+  policies_.clear();
+  watchesTime_ = options_.setsAnyOf(kOptionsOfAlarm);
+}
+
+const AlarmPolicy* SiteAlarms::policyOf(std::int64_t idSite) {
+  if (!watchesTime_) {
+    return nullptr;
+  }
+  if (!canBeKept_.value_or(false)) {
+    canBeKept_ = standings_.canBeKept();
+    if (!*canBeKept_) {
+      return nullptr;
+    }
+  }
+  auto known = policies_.find(idSite);
+  if (known == policies_.end()) {
+    AlarmPolicy policy = alarmPolicyOf(options_, idSite);
+    known = policies_.emplace(idSite, policy.isOriginal() ? std::nullopt : std::optional(std::move(policy))).first;
+  }
+  return known->second ? &*known->second : nullptr;
+}
+
+SiteStanding SiteAlarms::standingOf(std::int16_t idSite) {
+  SiteStanding standing = standings_.standingOf(idSite);
+  if (forgiven_.contains(idSite)) {
+    standing.owed.clear();
+  }
+  return standing;
+}
+
+bool SiteAlarms::restsNow(std::int16_t idSite) {
+  const AlarmPolicy* const policy = policyOf(idSite);
+  return policy != nullptr && quietAt(*policy, clock_.localNow()) == Quiet::noChecks;
+}
+
+AlarmStep SiteAlarms::take(std::int16_t idSite, const CheckOutcome& outcome) {
+  const SiteStanding before = standings_.standingOf(idSite);
+  AlarmStep step = decideAlarm(standingOf(idSite), outcome, *policyOf(idSite), clock_.localNow());
+  // A site that stands as it stood, as one that is up, costs no write.
+  if (step.standing != before) {
+    standings_.storeStanding(idSite, step.standing);
+  }
+  forgiven_.erase(idSite);
+  return step;
+}
+
+void SiteAlarms::settle(std::int16_t idSite) {
+  SiteStanding standing = standings_.standingOf(idSite);
+  if (!standing.owed.empty()) {
+    standing.owed.clear();
+    standings_.storeStanding(idSite, standing);
+  }
+  forgiven_.erase(idSite);
+}
+
+bool SiteAlarms::raise(std::int16_t idSite, AlertKind kind) {
+  const SiteStanding standing = standings_.standingOf(idSite);
+  alerts_.sendAlerts(idSite, kind,
+                     {standing.outageSince, standing.outageChecks, standing.outageError, clock_.localNow()});
+  return !alerts_.mailOutcome().lost || alerts_.mailOutcome().toldOtherwise;
+}
+
+std::map<std::int16_t, std::vector<AlertKind>> SiteAlarms::timeHasGoneBy() {
+  std::map<std::int16_t, std::vector<AlertKind>> alerts;
+  for (auto& [id, stored] : standings_.standings()) {
+    if (!std::in_range<std::int16_t>(id)) {
+      continue;
+    }
+    const auto idSite = static_cast<std::int16_t>(id);
+    const AlarmPolicy* const policy = policyOf(idSite);
+    if (policy == nullptr || !waitsForTime(stored, *policy)) {
+      continue;
+    }
+    AlarmStep step = decideAlarm(standingOf(idSite), std::nullopt, *policy, clock_.localNow());
+    if (step.standing != stored) {
+      standings_.storeStanding(idSite, step.standing);
+    }
+    forgiven_.erase(idSite);
+    if (!step.alerts.empty()) {
+      alerts.emplace(idSite, std::move(step.alerts));
+    }
+  }
+  return alerts;
+}
+
+}  // namespace tarnwick
