@@ -78,7 +78,7 @@ bool SiteAlarms::raise(std::int16_t idSite, AlertKind kind) {
   const SiteStanding standing = standings_.standingOf(idSite);
   alerts_.sendAlerts(idSite, kind,
                      {standing.outageSince, standing.outageChecks, standing.outageError, clock_.localNow()});
-  return !alerts_.mailOutcome().lost || alerts_.mailOutcome().toldOtherwise;
+  return !alerts_.mailOutcome().lost || alerts_.mailOutcome().otherWay;
 }
 
 std::map<std::int16_t, std::vector<AlertKind>> SiteAlarms::timeHasGoneBy() {
