@@ -89,6 +89,18 @@ SomeSites DueSites::activeSites() { return countOf(" where active <> 0"); }
 
 SomeSites DueSites::neverChecked() { return countOf(kWasNeverChecked); }
 
+SomeSites DueSites::overdue(LocalTime since) {
+  const std::string stamp = "'" + dateTimeText(since) + "'";
+  const auto rows =
+      db_.query(joinSql("select count(*) as [found], min(idSite) as [first] from sites where active = True ",
+                        "and lastChecked is not null and tInterval > 0 and datediff('n', case when ", "lastChecked > ",
+                        stamp, " then lastChecked else ", stamp, " end, now()) >= 2 * tInterval"));
+  const SomeSites found =
+      rows->eof() ? SomeSites{} : SomeSites{rows->field("found").toInt64(), rows->field("first").toInt64()};
+  rows->close();
+  return found;
+}
+
 std::vector<std::int64_t> DueSites::idsNeverChecked() {
   const auto rows = db_.conn().execute(joinSql("select idSite from sites", kWasNeverChecked, " order by idSite"), {});
   std::vector<std::int64_t> ids;

@@ -7,6 +7,7 @@
 #include <unordered_set>
 #include <vector>
 
+#include "platform/clock.h"
 #include "store/data_changes.h"
 #include "store/database.h"
 #include "store/text_table.h"
@@ -61,7 +62,9 @@ class DueSites {
   SomeSites activeSites();
   /// The active sites that were never checked.
   SomeSites neverChecked();
-  /// Their ids, rising.
+  /// The active sites whose last check, or `since` if that is later, lies two of their intervals back.
+  SomeSites overdue(LocalTime since);
+  /// The ids of those that were never checked, rising.
   std::vector<std::int64_t> idsNeverChecked();
   /// The sites whose last request took longer than its time-out.
   std::unordered_set<std::int64_t> idsThatTookTooLong();

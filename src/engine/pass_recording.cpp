@@ -125,6 +125,7 @@ void PassRecording::guarded(std::size_t row, const std::function<void()>& action
 void PassRecording::tell(std::size_t row, const Fetched& fetched, const Stored& stored) {
   const std::int16_t id = sites_.idSite(row);
   debts_.checks.settle(id);
+  sites_.setRecorded(row);
   if (!stored.passed) {
     // The alerts of a failure wait for the network, so they cannot be part of the transaction. The site is down from
     // here on, whatever becomes of them; and nothing is written before them that could fail and leave them out.

@@ -29,6 +29,28 @@ constexpr milliseconds kBlinkInterval{500};
 constexpr std::int16_t kDueSites = 0;
 constexpr std::int16_t kAllActiveSites = 1;
 
+/// How far the clocks are apart after a sleep at least, and how long the network takes to be back after one.
+constexpr seconds kNap{30};
+constexpr seconds kAfterNap{30};
+/// Between two looks for the network.
+constexpr seconds kAskAgain{5};
+
+/// A flag that is true for this object's life.
+class RaisedFlag {
+ public:
+  explicit RaisedFlag(bool& flag) : flag_(flag) { flag_ = true; }
+  ~RaisedFlag() { flag_ = false; }
+  RaisedFlag(const RaisedFlag&) = delete;
+  RaisedFlag& operator=(const RaisedFlag&) = delete;
+
+ private:
+  bool& flag_;
+};
+
+std::string offlineText(LocalTime since) {
+  return "This machine is offline since " + dateTimeText(since).substr(11, 5) + ". Nothing is counted as down.";
+}
+
 std::chrono::minutes minuteOf(const Clock& clock) {
   return std::chrono::floor<std::chrono::minutes>(clock.localNow().time_since_epoch());
 }
@@ -45,7 +67,8 @@ RunController::RunController(const Needs& needs, TimerMaker& timers, Guard guard
       })),
       sites_(needs.dueSites),
       uncounted_(needs.results, needs.dueSites, needs.view),
-      alarms_(needs.standings, needs.alerts, needs.clock) {}
+      alarms_(needs.standings, needs.alerts, needs.clock),
+      network_(needs.transfers, needs.timers, needs.pump) {}
 
 RunController::~RunController() { uncounted_.end(); }
 
@@ -71,6 +94,7 @@ void RunController::startChecking() {
   secondsToNext_ = 0;
   backOff_.succeeded();
   standstill_.reset();
+  forgetOffline();
   if (busy_) {
     // The pass that Stop had not ended yet goes on, and is that of this run. What it does not take is taken next.
     needs_.view.indicators(RunState::start);
@@ -87,6 +111,7 @@ void RunController::stopChecking() {
   running_ = false;
   needs_.view.indicators(RunState::stop);
   tmrCheckSites_->setEnabled(false);
+  forgetOffline();
   needs_.view.showStatus("Stopped.");
 }
 
@@ -124,6 +149,9 @@ void RunController::runTestPass(std::int16_t mode) {
 void RunController::readOptions() {
   OptionsInForce options = needs_.options.optionsInForce();
   newSitesAtOnce_ = options.newSitesAtOnce();
+  looksAfterNetwork_ = options.valueOf(kAllSites, option_name::ownNetwork) == option_value::on;
+  witnesses_ = readHosts(options.valueOf(kAllSites, option_name::witnesses).value_or("none"))
+                   .value_or(std::vector<std::string>());
   alarms_.setOptions(std::move(options));
 }
 
@@ -153,11 +181,7 @@ void RunController::tellWhatTimeHasBrought() {
 bool RunController::testOnce(TextTable sites) {
   TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_});
   // The pass looks at this flag; it is lowered before the pass puts the lamps right.
-  const struct Running {
-    explicit Running(bool& flag) : flag_(flag) { flag_ = true; }
-    ~Running() { flag_ = false; }
-    bool& flag_;
-  } whileTested(running_);
+  const RaisedFlag whileTested(running_);
   pass.test(std::move(sites));
   return running_;
 }
@@ -208,6 +232,10 @@ void RunController::tmrCheckSites_Timer() {
 
 bool RunController::countDown() {
   inTimerPass_ = false;
+  if (offline_ && !busy_ && staysOffline()) {
+    needs_.view.showStatus(offlineText(offline_->since));
+    return false;
+  }
   if (standsStill()) {
     needs_.view.showStatus(standstill_->why);
     return false;
@@ -216,7 +244,7 @@ bool RunController::countDown() {
   if (secondsToNext_ > 0 && newSitesAtOnce_ && needs_.dueSites.changedByOthers()) {
     secondsToNext_ = -1;  // there may be a site that nobody has counted
   }
-  if (wallClockWasSet() || secondsToNext_ < 0) {
+  if (std::exchange(clockWasSet_, false) || wallClockWasSet() || secondsToNext_ < 0) {
     // Due at once, should this fail.
     secondsToNext_ = 0;
     secondsToNext_ = needs_.dueSites.getMinWaitTime().mlc;
@@ -244,7 +272,61 @@ bool RunController::wallClockWasSet() {
   const seconds offset =
       needs_.clock.localNow().time_since_epoch() - std::chrono::floor<seconds>(needs_.clock.steadyNow());
   const seconds before = std::exchange(clockOffset_, offset);
+  if (offset - before > kNap) {
+    wokeAt_ = needs_.clock.steadyNow();
+  }
   return std::chrono::abs(offset - before) > kTolerance;
+}
+
+bool RunController::hasJustWoken() {
+  clockWasSet_ = wallClockWasSet() || clockWasSet_;
+  return wokeAt_ && needs_.clock.steadyNow() - *wokeAt_ < kAfterNap;
+}
+
+void RunController::goOffline(std::string page, Request request) {
+  if (!offline_) {
+    offline_ = {needs_.clock.localNow(), needs_.clock.steadyNow(), std::move(page), std::move(request)};
+    needs_.view.showOffline(offline_->since);
+    needs_.alerts.sendOfflineNotice(offline_->since);
+  }
+}
+
+void RunController::lookForNetwork() {
+  if (offline_) {
+    offline_->askedAt = {};
+  }
+}
+
+// Asks now and then; the answer may take some seconds, in which further ticks come.
+bool RunController::staysOffline() {
+  const milliseconds now = needs_.clock.steadyNow();
+  if (asksNetwork_ ||
+      (looksAfterNetwork_ && offline_->askedAt > milliseconds(0) && now - offline_->askedAt < kAskAgain)) {
+    return true;
+  }
+  offline_->askedAt = now;
+  const Offline found = *offline_;
+  {
+    const RaisedFlag whileAsked(asksNetwork_);
+    readOptions();
+    if (looksAfterNetwork_ && (found.page.empty() ? !isOnline() : network_.stillComesTo(found.page, found.request))) {
+      return true;
+    }
+  }
+  if (offline_) {
+    forgetOffline();
+    const TestPass noPassMeanwhile(*this, needs_, busy_, {sites_, uncounted_, alarms_});
+    needs_.alerts.sendOnlineNotice(found.since, needs_.clock.localNow());
+  }
+  return false;
+}
+
+void RunController::forgetOffline() {
+  if (offline_) {
+    offline_.reset();
+    needs_.standings.clearUnknown();
+    needs_.view.showOffline(std::nullopt);
+  }
 }
 
 void RunController::timerPass() {
@@ -254,11 +336,7 @@ void RunController::timerPass() {
   if (backOff_.isFailing()) {
     proveThatAPassIsOfUse();
   }
-  const struct TimerPass {
-    explicit TimerPass(bool& flag) : flag_(flag) { flag_ = true; }
-    ~TimerPass() { flag_ = false; }
-    bool& flag_;
-  } inPass(inTimerPass_);
+  const RaisedFlag inPass(inTimerPass_);
   runTestPass(kDueSites);
   if (foundNothing_ && running_) {
     needs_.dueSites.changedByAnyone();
@@ -310,6 +388,14 @@ SomeSites RunController::unwatched() {
     return {};
   }
   return sites_.leftOut(busy_);
+}
+
+SomeSites RunController::overdue() {
+  if (!running_ || busy_ || offline_) {
+    return {};
+  }
+  return needs_.dueSites.overdue(needs_.clock.localNow() -
+                                 std::chrono::floor<seconds>(needs_.clock.steadyNow() - runStart_));
 }
 
 void RunController::Timer2_Timer() {

@@ -12,6 +12,7 @@
 #include "engine/back_off.h"
 #include "engine/due_sites.h"
 #include "engine/inet_pool.h"
+#include "engine/own_network.h"
 #include "engine/run_view.h"
 #include "engine/site_alarms.h"
 #include "engine/sites_to_test.h"
@@ -19,6 +20,7 @@
 #include "platform/clock.h"
 #include "platform/event_pump.h"
 #include "platform/timer.h"
+#include "platform/transfer_control.h"
 #include "store/text_table.h"
 
 namespace tarnwick {
@@ -52,6 +54,8 @@ class RunController {
     KeptPages& keptPages;
     RoomReserve& reserve;
     SiteStandings& standings;
+    TransferMaker& transfers;
+    TimerMaker& timers;
   };
 
   /// Wraps a timer's handler, for instance to show its failure in a box: called with the handler's name and itself.
@@ -91,6 +95,23 @@ class RunController {
   /// The active sites that nobody watches as things stand: while no run is on all of them, else those that this run
   /// does not take, since they were never checked and have come after its Start. Raises DataAccessError.
   SomeSites unwatched();
+  /// The active sites that a run has not checked for two intervals, though it should have. None while no run is on.
+  /// Raises DataAccessError.
+  SomeSites overdue();
+
+  /// Since when this machine has had no way to the net, as far as the option `ownNetwork` has that looked after.
+  std::optional<LocalTime> offlineSince() const { return offline_ ? std::optional(offline_->since) : std::nullopt; }
+  /// Has the net looked for at the next tick.
+  void lookForNetwork();
+  /// For the pass that is on: this machine is offline. All have come to one `page` instead of their own, as `request`
+  /// does, or to none.
+  void goOffline(std::string page, Request request);
+  /// As the options say: whether failures in doubt are looked into, and by which witnesses.
+  bool looksAfterNetwork() const { return looksAfterNetwork_; }
+  /// Takes events in.
+  bool isOnline() { return network_.isOnline(witnesses_); }
+  /// Whether the machine may have slept, or been told another time, in the last moments.
+  bool hasJustWoken();
   /// Vocabulary: no front end calls it.
   /// Shows the time of a site's last check in the grid.
   void UpdateLastChecked(std::int16_t idSite);
@@ -120,6 +141,8 @@ class RunController {
   void guardedTick();
   void readOptions();
   void tellWhatTimeHasBrought();
+  bool staysOffline();
+  void forgetOffline();
   /// Counts one second down; true when a pass is to begin.
   bool countDown();
   void timerPass();
@@ -148,6 +171,20 @@ class RunController {
   SiteAlarms alarms_;
   // When it was asked last what time has brought.
   std::chrono::minutes alarmsSeen_{};
+  // Why nothing can be reached, as it was found.
+  struct Offline {
+    LocalTime since;
+    std::chrono::milliseconds askedAt;
+    std::string page;
+    Request request;
+  };
+  std::optional<Offline> offline_;
+  OwnNetwork network_;
+  bool asksNetwork_ = false;
+  bool looksAfterNetwork_ = false;
+  std::vector<std::string> witnesses_;
+  std::optional<std::chrono::milliseconds> wokeAt_;
+  bool clockWasSet_ = false;
   // Sites were due in the last pass, and each of them rests.
   bool allRest_ = false;
   // How long the run waits after passes that failed, so that a fault here does not have every due site fetched each

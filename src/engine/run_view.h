@@ -2,8 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "platform/clock.h"
 
 namespace tarnwick {
 
@@ -73,6 +76,9 @@ class RunView {
   virtual void showDropped(std::int16_t /*idSite*/, const std::string& /*url*/) {}
   /// Tells that the mail of a site's alert was lost; its result follows.
   virtual void showLostMail(const LostMail&) {}
+  /// Tells since when this machine has had no way to the net, as far as that is looked after; nothing as soon as it has
+  /// one again. Nothing is counted as down meanwhile.
+  virtual void showOffline(std::optional<LocalTime> /*since*/) {}
   /// Writes a site's "Time Of Last Test" cell.
   virtual void setLastChecked(std::int16_t idSite, const std::string& dateTime) = 0;
 };

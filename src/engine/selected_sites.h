@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "engine/run_controller.h"
@@ -39,6 +40,9 @@ class SelectedSites {
   /// The request for a row's page; what it is asked with is kept until `forget`. Raises DataAccessError.
   Request requestFor(std::size_t row);
   void forget(std::size_t row) { sent_.erase(row); }
+  /// The row's result has been recorded; whether it has.
+  void setRecorded(std::size_t row) { recorded_.insert(row); }
+  bool isRecorded(std::size_t row) const { return recorded_.contains(row); }
 
   /// Reads the site's record. Raises DataAccessError.
   Standing standingOf(std::size_t row) const;
@@ -59,6 +63,7 @@ class SelectedSites {
   TextTable sites_;
   std::vector<std::string> urls_;
   std::map<std::size_t, Sent> sent_;
+  std::unordered_set<std::size_t> recorded_;
 };
 
 }  // namespace tarnwick

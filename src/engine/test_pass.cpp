@@ -31,6 +31,10 @@ constexpr std::chrono::milliseconds kSpacedSweep{50};
 /// How many addresses are looked into between two looks at the events: some milliseconds' worth.
 constexpr std::size_t kPlannedAtOnce = 4096;
 
+/// A longer one is no notice of somebody who wants to be logged in to.
+constexpr std::size_t kLargestForeignPage = std::size_t{1} << 20U;
+constexpr std::chrono::seconds kNetworkWakesUp{5};
+
 constexpr const char* kNoAddress = "The address of the site is empty.";
 
 InFlight::End endOf(std::int32_t errCode) {
@@ -87,6 +91,8 @@ void TestPass::test(TextTable sites) {
     dispatchAll();
     awaitAllSlots();
     drain();
+    settleDoubt();
+    recordDoubtful();
   } while (inFlight_.left() > 0 && !stopped());
   if (!stopped()) {
     raiseDeferred();
@@ -146,6 +152,7 @@ InFlight TestPass::planned(const InFlightPolicy& policy) const {
 void TestPass::dispatchAll() {
   while (inFlight_.left() > 0 && !stopped()) {
     needs_.pump.pump();
+    settleDoubt();
     recordRowsWithoutAddress();
     const std::vector<std::int16_t> freeSlots = needs_.pool.getAryFreeSockets();
     if (hasWorkFor(freeSlots) || inFlight_.left() == 0 || stopped()) {
@@ -281,9 +288,70 @@ void TestPass::emptySlot(std::int16_t slot) {
     }
     pool.releaseSiteContent(row);
     sites_.forget(row);
-  } else {
+  } else if (!run_.looksAfterNetwork() || !isDoubtful(row)) {
     recording_.add(row);
   }
+}
+
+// Whether the failure may be that of this machine's own network: it is kept back then until that is known.
+bool TestPass::isDoubtful(std::size_t row) {
+  if (isSilence(static_cast<TransferFault>(needs_.pool.siteErrCode(row)))) {
+    if (run_.hasJustWoken()) {
+      inFlight_.repeat(row, needs_.clock.steadyNow() + kNetworkWakesUp);
+    } else {
+      doubt_.noAnswer(row, hostOfAddress(sites_.url(row)));
+    }
+    return true;
+  }
+  if (isForeignPage(row)) {
+    doubt_.foreignPage(row, hostOfAddress(sites_.url(row)), needs_.pool.siteContent(row));
+    return true;
+  }
+  doubt_.answered();
+  return false;
+}
+
+bool TestPass::isForeignPage(std::size_t row) {
+  const InetPool& pool = needs_.pool;
+  return pool.siteErrCode(row) == 0 && pool.siteContent(row).size() <= kLargestForeignPage &&
+         !needs_.results.wouldPass(sites_.idSite(row), pool.siteContent(row), 0, FirstBaseline::anything);
+}
+
+void TestPass::settleDoubt() {
+  const std::optional<std::string> page = doubt_.onePage();
+  if (stopped() || (!doubt_.isSilent() && !page)) {
+    return;
+  }
+  if (!page && run_.isOnline()) {
+    recordDoubtful();
+    return;
+  }
+  const std::vector<std::size_t> rows = doubt_.take();
+  recording_.recordWaiting();
+  std::vector<std::int16_t> sites;
+  for (const std::size_t row : rows) {
+    sites.push_back(sites_.idSite(row));
+  }
+  needs_.standings.setUnknown(sites, needs_.clock.localNow());
+  leaveAllToBeDone(page.value_or(""), rows.front());
+}
+
+void TestPass::recordDoubtful() {
+  for (const std::size_t row : doubt_.take()) {
+    recording_.add(row);
+    recording_.recordWaiting();
+  }
+}
+
+// What is not recorded is done as soon as the network is back, also what is not due by its time, as after Start.
+void TestPass::leaveAllToBeDone(std::string page, std::size_t row) {
+  for (std::size_t left = 1; left <= sites_.count(); ++left) {
+    if (!sites_.isRecorded(left) && !sites_.unusableId(left)) {
+      debts_.checks.owe(sites_.idSite(left));
+    }
+  }
+  wentOffline_ = true;
+  run_.goOffline(std::move(page), sites_.requestFor(row));
 }
 
 void TestPass::takeRow(std::size_t row) {

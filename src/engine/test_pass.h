@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "engine/in_flight.h"
+#include "engine/own_network.h"
 #include "engine/pass_recording.h"
 #include "engine/run_controller.h"
 #include "engine/selected_sites.h"
@@ -38,7 +39,7 @@ class TestPass {
  private:
   /// The row to be sent next, 0 for none at present.
   std::size_t upcoming() { return inFlight_.upcoming(needs_.clock.steadyNow()); }
-  bool stopped() const { return !run_.running() || needs_.pump.closing(); }
+  bool stopped() const { return !run_.running() || needs_.pump.closing() || wentOffline_; }
 
   void setUpPool();
   InFlight planned(const InFlightPolicy& policy) const;
@@ -52,6 +53,11 @@ class TestPass {
   void sendInto(const std::vector<std::int16_t>& freeSlots);
   void emptySlots(const std::vector<std::int16_t>& slots);
   void emptySlot(std::int16_t slot);
+  bool isDoubtful(std::size_t row);
+  bool isForeignPage(std::size_t row);
+  void settleDoubt();
+  void recordDoubtful();
+  void leaveAllToBeDone(std::string page, std::size_t row);
   void raiseDeferred() const;
   void takeRow(std::size_t row);
   void showProgress();
@@ -72,6 +78,9 @@ class TestPass {
          inFlight_.repeat(row, needs_.clock.steadyNow() + after);
        }}};
   InFlight inFlight_{{}, {}};
+  // Failures that may be this machine's own, where that is looked after.
+  NetworkDoubt doubt_;
+  bool wentOffline_ = false;
   std::int64_t progressStep_ = 0;
   std::int64_t progressWidth_ = -1;
 };

@@ -126,6 +126,8 @@ class TransferMaker {
  public:
   virtual ~TransferMaker() = default;
   virtual std::unique_ptr<TransferControl> makeTransferControl() = 0;
+  /// Whether this machine knows a way to the Internet; nobody is asked. One that cannot tell is taken to have one.
+  virtual bool hasWayOut() { return true; }
 };
 
 }  // namespace tarnwick

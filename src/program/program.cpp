@@ -23,7 +23,9 @@ struct Program::Parts {
              .options = data,
              .keptPages = data,
              .reserve = data,
-             .standings = data},
+             .standings = data,
+             .transfers = services.transfers,
+             .timers = services.timers},
             services.timers,
             [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }),
         report(

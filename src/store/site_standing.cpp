@@ -139,6 +139,31 @@ void SiteStandings::storeStanding(std::int16_t idSite, const SiteStanding& site)
       ->close();
 }
 
+void SiteStandings::setUnknown(const std::vector<std::int16_t>& sites, LocalTime since) {
+  if (!hasTable(db_)) {
+    return;
+  }
+  Transaction whole(db_);
+  for (const std::int16_t id : sites) {
+    const std::array<SqlValue, 2> row{SqlValue(std::int64_t{id}), SqlValue(dateTimeText(since))};
+    db_.conn()
+        .execute(
+            "insert into siteState (idSite, unknownSince) values (?1, ?2) on conflict (idSite) do update set "
+            "unknownSince = coalesce(unknownSince, excluded.unknownSince)",
+            row)
+        ->close();
+  }
+  whole.commit();
+}
+
+void SiteStandings::clearUnknown() {
+  if (hasTable(db_)) {
+    db_.conn()
+        .execute("update siteState set unknownSince = null where unknownSince is not null", Parameters())
+        ->close();
+  }
+}
+
 void SiteStandings::removeStanding(std::int64_t idSite) {
   if (hasTable(db_)) {
     const SqlValue id(idSite);

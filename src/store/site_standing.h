@@ -70,6 +70,10 @@ class SiteStandings {
   /// All that there are; none in a list without the table.
   std::map<std::int64_t, SiteStanding> standings();
   void storeStanding(std::int16_t idSite, const SiteStanding& standing);
+  /// The checks of these sites have come to nothing since `since`; one of which that is known stays. Nothing in a list
+  /// without the table.
+  void setUnknown(const std::vector<std::int16_t>& sites, LocalTime since);
+  void clearUnknown();
   /// Forgets the site. Nothing when there is no row, or no table.
   void removeStanding(std::int64_t idSite);
 

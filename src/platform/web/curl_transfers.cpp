@@ -4,6 +4,7 @@
 #include "platform/web/authorities.h"
 #include "platform/web/curl_event_loop.h"
 #include "platform/web/curl_transfer_control.h"
+#include "platform/web/way_out.h"
 
 namespace tarnwick {
 
@@ -19,5 +20,7 @@ CurlTransfers::~CurlTransfers() = default;
 std::unique_ptr<TransferControl> CurlTransfers::makeTransferControl() {
   return std::make_unique<CurlTransferControl>(loop_, authorities_, options_);
 }
+
+bool CurlTransfers::hasWayOut() { return knowsWayOut(); }
 
 }  // namespace tarnwick

@@ -32,6 +32,7 @@ class CurlTransfers final : public TransferMaker {
   CurlTransfers& operator=(const CurlTransfers&) = delete;
 
   std::unique_ptr<TransferControl> makeTransferControl() override;
+  bool hasWayOut() override;
 
  private:
   Options options_;
