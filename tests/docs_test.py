@@ -32,7 +32,7 @@ ESCAPE = {"n": "\n", "r": "\r", "t": "\t", '"': '"', "\\": "\\"}
 # Texts inside of these calls are the command line's own help, results, names for the eye, or statements.
 HELP_CALLS = {"Verb", "VerbOption", "upkeepVerb", "examples", "add_option"}
 RESULT_CALLS = {"say", "told", "tell", "line"}
-LABEL_CALLS = {"original", "label", "meaning", "choices",  # of an option
+LABEL_CALLS = {"original", "label", "meaning", "choices", "takes",  # of an option
                "addButton", "setToolTip", "setAccessibleName", "setWindowTitle", "named", "setTitle"}
 STATEMENT_CALLS = {"joinSql", "query", "execute", "rows", "sqlite3_exec", "firstText", "firstFlag", "firstField"}
 OTHER_CALLS = HELP_CALLS | RESULT_CALLS | LABEL_CALLS | STATEMENT_CALLS
@@ -59,7 +59,7 @@ NO_MESSAGES = {
         "As its content", "CSV of", "JSON of", "List of", "List or", "Bookmarks of", "&Kind of", "Lists and", "Jet database")),
     "src/ui/settings/control_dialog.cpp": ("the kinds of files in the file dialog", ("Audio Files", "Program Files")),
     "src/app/window_arguments.cpp": ("what --help prints", ("Usage:",)),
-    "src/alerts/alert_dispatch.cpp": ("the subject of the mails", ("A WEB SITE ERROR",)),
+    "src/alerts/event_texts.cpp": ("subjects and texts of the mails", ()),
     "src/cli/verbs/command_line.cpp": ("the tool's own help", ("Tarnwick watches", "Exit status:")),
     "src/cli/verbs/completion.cpp": ("what shells read", ()),
     "src/cli/verbs/option_verb.cpp": ("the options in the verb's help", ("Names, and", " In a new")),
@@ -76,6 +76,9 @@ NO_MESSAGES = {
     "src/report/*.cpp": ("pieces of the page", ("<img",)),
     "src/store/fields.cpp": ("what the fields are called, for forms and helps", ()),
     "src/store/option_table.cpp": ("the values that an option takes", ("a whole number from",)),
+    "src/store/option_table.h": ("a value of an option", ("do not check",)),
+    "src/store/alarm_values.cpp": ("a word in a value of an option", ("do not check",)),
+    "src/store/site_standing.cpp": ("the columns of a statement", ("failures, downSince",)),
     "src/store/database.cpp": ("a connection string", (";Jet",)),
     "src/store/result_log.cpp": ("the columns of a statement", ("rowid as",)),
 }

@@ -3023,6 +3023,34 @@
         <source>%1: At Most 1 required but received %2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>a whole number from %1 to %2 (%3) or &quot;%4&quot; or &quot;%5&quot; or &quot;%6&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>up to ten pauses of 1 to 300 seconds, as in &quot;5 s, 20 s&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number of changes and of minutes, as in &quot;5 in 30 min&quot;, or &quot;off&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>days and hours, as in &quot;Mon-Fri 22:00-6:00, Sat, Sun 0:00-24:00&quot; or &quot;daily 22-6&quot;, or &quot;none&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>times parted by semicolons, each perhaps with &quot;do not check&quot; or &quot;keep alerts&quot; and a note, as in &quot;2026-12-01 08:00 to 2026-12-01 12:00, do not check: new server&quot;, or &quot;none&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;until 2026-12-01 08:00&quot;, &quot;for good&quot; or &quot;no&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hosts parted by commas, as in &quot;example.org, 192.0.2.1:53&quot;, or &quot;none&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -3708,6 +3736,214 @@
     </message>
     <message>
         <source>All files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>5 s, 20 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A page that took longer is a warning, with a colour and an alert of its own; the site is up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dated times that are quiet as well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down for real after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hosts of which at least one answers as long as this machine is online</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How long nothing is told; checks go on, and what is still so afterwards is told then</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many checks in a row must fail before it is told; the check is repeated in the same pass, at another address of the host if it has several</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In quiet hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look again after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maintenance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More changes between up and down within that time are told as one alert, and then nothing until the site has held still for as long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quiet hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slow: an answer after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell when it is up again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The hours of the week in which nothing is told; what is still so is told when they end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pauses before a failed check is repeated; the last one holds for all further ones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This machine&apos;s own network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsteady: more changes than</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What follows the first alert of an outage: one every so many minutes, one after 1, 2, 4 ... hours (&quot;growing&quot;), none (&quot;never&quot;) or one with every failed check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When nothing answers, ask whether this machine is online; as long as it is not, nothing is counted as down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether a site is checked in its quiet hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether anything is told at all; with &quot;off&quot; a site is checked and recorded, and nobody is told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether one alert tells that a site is up again, how long it was down and why</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>While it stays down remind every</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Witness hosts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;until 2026-12-01 08:00&quot;, &quot;for good&quot; or &quot;no&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a failed check raises the alerts of the settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number of changes and of minutes, as in &quot;5 in 30 min&quot;, or &quot;off&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a site whose server cannot be reached is down, also when this machine is offline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>days and hours, as in &quot;Mon-Fri 22:00-6:00, Sat, Sun 0:00-24:00&quot; or &quot;daily 22-6&quot;, or &quot;none&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>do not check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>each change is told for itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>every check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>every failed check is told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>growing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hosts parted by commas, as in &quot;example.org, 192.0.2.1:53&quot;, or &quot;none&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it does not matter how long an answer takes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>keep alerts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no host is asked, the machine is online when it knows a way to the Internet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nobody is told that a site is up again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sites are checked in quiet hours, too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the alerts are not paused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first failed check is told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are no quiet hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no maintenance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>times parted by semicolons, each perhaps with &quot;do not check&quot; or &quot;keep alerts&quot; and a note, as in &quot;2026-12-01 08:00 to 2026-12-01 12:00, do not check: new server&quot;, or &quot;none&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>up to ten pauses of 1 to 300 seconds, as in &quot;5 s, 20 s&quot;</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

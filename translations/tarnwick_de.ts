@@ -3023,6 +3023,34 @@
         <source>%1: At Most 1 required but received %2</source>
         <translation>%1: höchstens einmal, nicht %2-mal</translation>
     </message>
+    <message>
+        <source>a whole number from %1 to %2 (%3) or &quot;%4&quot; or &quot;%5&quot; or &quot;%6&quot;</source>
+        <translation>eine ganze Zahl von %1 bis %2 (%3) oder &quot;%4&quot; oder &quot;%5&quot; oder &quot;%6&quot;</translation>
+    </message>
+    <message>
+        <source>up to ten pauses of 1 to 300 seconds, as in &quot;5 s, 20 s&quot;</source>
+        <translation>bis zu zehn Pausen von 1 bis 300 Sekunden, etwa &quot;5 s, 20 s&quot;</translation>
+    </message>
+    <message>
+        <source>a number of changes and of minutes, as in &quot;5 in 30 min&quot;, or &quot;off&quot;</source>
+        <translation>eine Zahl von Wechseln und von Minuten, etwa &quot;5 in 30 min&quot;, oder &quot;off&quot;</translation>
+    </message>
+    <message>
+        <source>days and hours, as in &quot;Mon-Fri 22:00-6:00, Sat, Sun 0:00-24:00&quot; or &quot;daily 22-6&quot;, or &quot;none&quot;</source>
+        <translation>Tage und Stunden (englisch), etwa &quot;Mon-Fri 22:00-6:00, Sat, Sun 0:00-24:00&quot; oder &quot;daily 22-6&quot;, oder &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>times parted by semicolons, each perhaps with &quot;do not check&quot; or &quot;keep alerts&quot; and a note, as in &quot;2026-12-01 08:00 to 2026-12-01 12:00, do not check: new server&quot;, or &quot;none&quot;</source>
+        <translation>Zeiten, durch Semikolons getrennt, jede vielleicht mit &quot;do not check&quot; oder &quot;keep alerts&quot; und einem Vermerk, etwa &quot;2026-12-01 08:00 to 2026-12-01 12:00, do not check: new server&quot;, oder &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;until 2026-12-01 08:00&quot;, &quot;for good&quot; or &quot;no&quot;</source>
+        <translation>&quot;until 2026-12-01 08:00&quot;, &quot;for good&quot; oder &quot;no&quot;</translation>
+    </message>
+    <message>
+        <source>hosts parted by commas, as in &quot;example.org, 192.0.2.1:53&quot;, or &quot;none&quot;</source>
+        <translation>Rechner, durch Kommas getrennt, etwa &quot;example.org, 192.0.2.1:53&quot;, oder &quot;none&quot;</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -3709,6 +3737,214 @@
     <message>
         <source>All files</source>
         <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>5 s, 20 s</source>
+        <translation>5 s, dann 20 s</translation>
+    </message>
+    <message>
+        <source>A page that took longer is a warning, with a colour and an alert of its own; the site is up</source>
+        <translation>Eine Seite, die länger gebraucht hat, ist eine Warnung mit eigener Farbe und eigenem Alarm; die Seite ist in Ordnung</translation>
+    </message>
+    <message>
+        <source>Dated times that are quiet as well</source>
+        <translation>Zeiten im Kalender, die ebenfalls ruhig sind</translation>
+    </message>
+    <message>
+        <source>Down for real after</source>
+        <translation>Wirklich gestört nach</translation>
+    </message>
+    <message>
+        <source>Hosts of which at least one answers as long as this machine is online</source>
+        <translation>Rechner, von denen wenigstens einer antwortet, solange dieser Rechner online ist</translation>
+    </message>
+    <message>
+        <source>How long nothing is told; checks go on, and what is still so afterwards is told then</source>
+        <translation>Wie lange nichts gemeldet wird; geprüft wird weiter, und was danach noch so ist, wird dann gemeldet</translation>
+    </message>
+    <message>
+        <source>How many checks in a row must fail before it is told; the check is repeated in the same pass, at another address of the host if it has several</source>
+        <translation>Wie viele Prüfungen in Folge fehlschlagen müssen, bevor es gemeldet wird; die Prüfung wird im selben Durchgang wiederholt, bei einer anderen Adresse des Servers, wenn er mehrere hat</translation>
+    </message>
+    <message>
+        <source>In quiet hours</source>
+        <translation>In den Ruhezeiten</translation>
+    </message>
+    <message>
+        <source>Look again after</source>
+        <translation>Noch einmal nachsehen nach</translation>
+    </message>
+    <message>
+        <source>Maintenance</source>
+        <translation>Wartung</translation>
+    </message>
+    <message>
+        <source>More changes between up and down within that time are told as one alert, and then nothing until the site has held still for as long</source>
+        <translation>Mehr Wechsel zwischen in Ordnung und gestört in dieser Zeit werden als ein Alarm gemeldet, und dann nichts, bis die Seite ebenso lange stillgehalten hat</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Quiet hours</source>
+        <translation>Ruhezeiten</translation>
+    </message>
+    <message>
+        <source>Slow: an answer after</source>
+        <translation>Langsam: eine Antwort nach</translation>
+    </message>
+    <message>
+        <source>Tell when it is up again</source>
+        <translation>Melden, wenn sie wieder in Ordnung ist</translation>
+    </message>
+    <message>
+        <source>The hours of the week in which nothing is told; what is still so is told when they end</source>
+        <translation>Die Stunden der Woche, in denen nichts gemeldet wird; was dann noch so ist, wird an ihrem Ende gemeldet</translation>
+    </message>
+    <message>
+        <source>The pauses before a failed check is repeated; the last one holds for all further ones</source>
+        <translation>Die Pausen, bevor eine fehlgeschlagene Prüfung wiederholt wird; die letzte gilt für alle weiteren</translation>
+    </message>
+    <message>
+        <source>This machine&apos;s own network</source>
+        <translation>Das eigene Netz dieses Rechners</translation>
+    </message>
+    <message>
+        <source>Unsteady: more changes than</source>
+        <translation>Unstet: mehr Wechsel als</translation>
+    </message>
+    <message>
+        <source>What follows the first alert of an outage: one every so many minutes, one after 1, 2, 4 ... hours (&quot;growing&quot;), none (&quot;never&quot;) or one with every failed check</source>
+        <translation>Was dem ersten Alarm einer Störung folgt: einer alle so viele Minuten, einer nach 1, 2, 4 ... Stunden (&quot;growing&quot;), keiner (&quot;never&quot;) oder einer mit jeder fehlgeschlagenen Prüfung</translation>
+    </message>
+    <message>
+        <source>When nothing answers, ask whether this machine is online; as long as it is not, nothing is counted as down</source>
+        <translation>Wenn nichts antwortet, nachsehen, ob dieser Rechner online ist; solange er es nicht ist, gilt nichts als gestört</translation>
+    </message>
+    <message>
+        <source>Whether a site is checked in its quiet hours</source>
+        <translation>Ob eine Seite in ihren Ruhezeiten geprüft wird</translation>
+    </message>
+    <message>
+        <source>Whether anything is told at all; with &quot;off&quot; a site is checked and recorded, and nobody is told</source>
+        <translation>Ob überhaupt etwas gemeldet wird; mit &quot;off&quot; wird eine Seite geprüft und aufgezeichnet, und niemand erfährt es</translation>
+    </message>
+    <message>
+        <source>Whether one alert tells that a site is up again, how long it was down and why</source>
+        <translation>Ob ein Alarm meldet, dass eine Seite wieder in Ordnung ist, wie lange sie gestört war und warum</translation>
+    </message>
+    <message>
+        <source>While it stays down remind every</source>
+        <translation>Solange sie gestört bleibt, erinnern alle</translation>
+    </message>
+    <message>
+        <source>Witness hosts</source>
+        <translation>Zeugen</translation>
+    </message>
+    <message>
+        <source>&quot;until 2026-12-01 08:00&quot;, &quot;for good&quot; or &quot;no&quot;</source>
+        <translation>&quot;until 2026-12-01 08:00&quot;, &quot;for good&quot; oder &quot;no&quot;</translation>
+    </message>
+    <message>
+        <source>a failed check raises the alerts of the settings</source>
+        <translation>eine fehlgeschlagene Prüfung löst die Alarme der Einstellungen aus</translation>
+    </message>
+    <message>
+        <source>a number of changes and of minutes, as in &quot;5 in 30 min&quot;, or &quot;off&quot;</source>
+        <translation>eine Zahl von Wechseln und von Minuten, etwa &quot;5 in 30 min&quot;, oder &quot;off&quot;</translation>
+    </message>
+    <message>
+        <source>a site whose server cannot be reached is down, also when this machine is offline</source>
+        <translation>eine Seite, deren Server nicht zu erreichen ist, gilt als gestört, auch wenn dieser Rechner offline ist</translation>
+    </message>
+    <message>
+        <source>days and hours, as in &quot;Mon-Fri 22:00-6:00, Sat, Sun 0:00-24:00&quot; or &quot;daily 22-6&quot;, or &quot;none&quot;</source>
+        <translation>Tage und Stunden (englisch), etwa &quot;Mon-Fri 22:00-6:00, Sat, Sun 0:00-24:00&quot; oder &quot;daily 22-6&quot;, oder &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>do not check</source>
+        <translation>nicht prüfen</translation>
+    </message>
+    <message>
+        <source>each change is told for itself</source>
+        <translation>jeder Wechsel wird für sich gemeldet</translation>
+    </message>
+    <message>
+        <source>every check</source>
+        <translation>jede Prüfung</translation>
+    </message>
+    <message>
+        <source>every failed check is told</source>
+        <translation>jede fehlgeschlagene Prüfung wird gemeldet</translation>
+    </message>
+    <message>
+        <source>failures</source>
+        <translation>Fehlschläge</translation>
+    </message>
+    <message>
+        <source>growing</source>
+        <translation>wachsend</translation>
+    </message>
+    <message>
+        <source>hosts parted by commas, as in &quot;example.org, 192.0.2.1:53&quot;, or &quot;none&quot;</source>
+        <translation>Rechner, durch Kommas getrennt, etwa &quot;example.org, 192.0.2.1:53&quot;, oder &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>it does not matter how long an answer takes</source>
+        <translation>es ist gleich, wie lange eine Antwort dauert</translation>
+    </message>
+    <message>
+        <source>keep alerts</source>
+        <translation>Alarme aufheben</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation type="unfinished">nie</translation>
+    </message>
+    <message>
+        <source>no host is asked, the machine is online when it knows a way to the Internet</source>
+        <translation>kein Rechner wird gefragt, dieser gilt als online, wenn er einen Weg ins Internet kennt</translation>
+    </message>
+    <message>
+        <source>nobody is told that a site is up again</source>
+        <translation>niemand erfährt, dass eine Seite wieder in Ordnung ist</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation type="unfinished">aus</translation>
+    </message>
+    <message>
+        <source>sites are checked in quiet hours, too</source>
+        <translation>Seiten werden auch in Ruhezeiten geprüft</translation>
+    </message>
+    <message>
+        <source>the alerts are not paused</source>
+        <translation>die Alarme pausieren nicht</translation>
+    </message>
+    <message>
+        <source>the first failed check is told</source>
+        <translation>die erste fehlgeschlagene Prüfung wird gemeldet</translation>
+    </message>
+    <message>
+        <source>there are no quiet hours</source>
+        <translation>es gibt keine Ruhezeiten</translation>
+    </message>
+    <message>
+        <source>there is no maintenance</source>
+        <translation>es gibt keine Wartung</translation>
+    </message>
+    <message>
+        <source>times parted by semicolons, each perhaps with &quot;do not check&quot; or &quot;keep alerts&quot; and a note, as in &quot;2026-12-01 08:00 to 2026-12-01 12:00, do not check: new server&quot;, or &quot;none&quot;</source>
+        <translation>Zeiten, durch Semikolons getrennt, jede vielleicht mit &quot;do not check&quot; oder &quot;keep alerts&quot; und einem Vermerk, etwa &quot;2026-12-01 08:00 to 2026-12-01 12:00, do not check: new server&quot;, oder &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>up to ten pauses of 1 to 300 seconds, as in &quot;5 s, 20 s&quot;</source>
+        <translation>bis zu zehn Pausen von 1 bis 300 Sekunden, etwa &quot;5 s, 20 s&quot;</translation>
     </message>
 </context>
 <context>

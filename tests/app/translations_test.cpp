@@ -45,7 +45,7 @@ TEST_F(TranslationsTest, EveryTextOfTheOptionsIsTranslated) {
   load(QLocale::German);
   for (const OptionField& option : programOptions()) {
     std::vector<std::string> texts = option.choices;
-    texts.insert(texts.end(), {option.label, option.meaning, option.original, option.unit});
+    texts.insert(texts.end(), {option.label, option.meaning, option.original, option.unit, option.takes});
     for (const std::string& text : texts) {
       // The same in every language.
       const bool isUnitOfMeasure = text == "MiB";
