@@ -35,6 +35,7 @@ struct Services {
   struct Exchanged {
     FileSystem* files = nullptr;
     SqlConnectionMaker* databases = nullptr;
+    TransferMaker* transfers = nullptr;
     TcpSocketMaker* sockets = nullptr;
     Prompts* prompts = nullptr;
     SoundPlayer* sound = nullptr;
@@ -48,7 +49,7 @@ struct Services {
             .pump = pump,
             .timers = timers,
             .databases = other.databases != nullptr ? *other.databases : databases,
-            .transfers = transfers,
+            .transfers = other.transfers != nullptr ? *other.transfers : transfers,
             .sockets = other.sockets != nullptr ? *other.sockets : sockets,
             .prompts = other.prompts != nullptr ? *other.prompts : prompts,
             .sound = other.sound != nullptr ? *other.sound : sound,
