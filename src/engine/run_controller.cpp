@@ -146,8 +146,9 @@ void RunController::runTestPass(std::int16_t mode) {
   }
 }
 
-void RunController::readOptions() {
-  OptionsInForce options = needs_.options.optionsInForce();
+void RunController::readOptions() { obey(needs_.options.optionsInForce()); }
+
+void RunController::obey(OptionsInForce options) {
   newSitesAtOnce_ = options.newSitesAtOnce();
   looksAfterNetwork_ = options.valueOf(kAllSites, option_name::ownNetwork) == option_value::on;
   witnesses_ = readHosts(options.valueOf(kAllSites, option_name::witnesses).value_or("none"))

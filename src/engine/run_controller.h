@@ -76,6 +76,8 @@ class RunController {
   /// Tests the sites of a site table once, without a run: no countdown follows. Stop ends it as it ends a run's pass;
   /// false then. REQUIRES: no run is on and no pass in progress.
   bool testOnce(TextTable sites);
+  /// These options hold from now on, as at the beginning of each pass those that are stored.
+  void obey(OptionsInForce options);
   /// `sites` without those that are not to be checked now, since that is how their quiet time is to be spent.
   TextTable withoutResting(TextTable sites);
   /// Vocabulary: no front end calls it.

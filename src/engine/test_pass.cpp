@@ -80,7 +80,7 @@ TestPass::~TestPass() {
 void TestPass::test(TextTable sites) {
   sites_ = SelectedSites(needs_, std::move(sites));
   options_ = needs_.options.optionsInForce();
-  debts_.alarms.setOptions(options_);
+  run_.obey(options_);
   setUpPool();
   if (sites_.count() == 0) {
     return;

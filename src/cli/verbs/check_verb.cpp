@@ -159,8 +159,13 @@ int check(Tool& tool, const CheckOptions& options) {
   view.readBaselinesFrom(program.data());
   const Interrupts interrupts([&program] { program.close(); });
 
-  const bool newSitesAtOnce = program.data().optionsInForce().newSitesAtOnce();
+  const OptionsInForce inForce = program.data().optionsInForce();
+  const bool newSitesAtOnce = inForce.newSitesAtOnce();
   TextTable sites = chosenSites(program.data(), options, newSitesAtOnce);
+  if (options.ids.empty()) {
+    program.run().obey(inForce);
+    sites = program.run().withoutResting(std::move(sites));
+  }
   const std::size_t count = sites.lastRow();
   if (count == 0) {
     console.complain(options.due ? "No site is due."
@@ -179,6 +184,11 @@ int check(Tool& tool, const CheckOptions& options) {
     throw;
   }
   view.end();
+  if (program.run().offlineSince()) {
+    console.complain("This machine is offline. " + std::to_string(view.up() + view.down()) + " of " +
+                     std::to_string(count) + " sites were checked, and nothing is counted as down.");
+    return exit_status::failed;
+  }
   if (!whole) {
     console.complain("Interrupted: " + std::to_string(view.up() + view.down()) + " of " + std::to_string(count) +
                      " sites were checked.");

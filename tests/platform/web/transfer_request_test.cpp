@@ -2,6 +2,8 @@
 // What a transfer control sends: method, body, headers, redirects, credentials, cookies.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <QTcpServer>
+#include <QTcpSocket>
 
 #include "platform/web/curl_transfers.h"
 #include "support/http_server.h"
@@ -29,6 +31,25 @@ class TransferRequest : public ::testing::Test {
   CurlTransfers transfers_;
   TransferProbe probe_{transfers_};
 };
+
+TEST_F(TransferRequest, AnotherAddressOfTheHostComesFirstWhereThereIsOne) {
+  server_.respond("/a", {.body = "a page"});
+  QTcpServer broken;
+  if (!broken.listen(QHostAddress::LocalHostIPv6, server_.port())) {
+    GTEST_SKIP() << "This machine has no second address of its own.";
+  }
+  QObject::connect(&broken, &QTcpServer::newConnection, &broken, [&] { broken.nextPendingConnection()->abort(); });
+  EXPECT_EQ(probe_.fetch(server_.url("/a", "localhost")), "");
+  probe_.request.otherThan = "::1";
+  EXPECT_EQ(probe_.fetch(server_.url("/a", "localhost")), "a page");
+}
+
+TEST_F(TransferRequest, TheOnlyAddressOfAHostIsAskedAgain) {
+  server_.respond("/a", {.body = "a page"});
+  probe_.request.otherThan = "127.0.0.1";
+  EXPECT_EQ(probe_.fetch(server_.url("/a")), "a page");
+  EXPECT_EQ(probe_.states, kAllStates);
+}
 
 TEST_F(TransferRequest, EmptyMethodIsGet) {
   probe_.fetch(server_.url("/a"), "");
