@@ -39,6 +39,7 @@ TEST_F(TransferRequest, AnotherAddressOfTheHostComesFirstWhereThereIsOne) {
     GTEST_SKIP() << "This machine has no second address of its own.";
   }
   QObject::connect(&broken, &QTcpServer::newConnection, &broken, [&] { broken.nextPendingConnection()->abort(); });
+  probe_.request.otherThan = "127.0.0.1";
   EXPECT_EQ(probe_.fetch(server_.url("/a", "localhost")), "");
   probe_.request.otherThan = "::1";
   EXPECT_EQ(probe_.fetch(server_.url("/a", "localhost")), "a page");
