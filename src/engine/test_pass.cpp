@@ -34,6 +34,8 @@ constexpr std::size_t kPlannedAtOnce = 4096;
 /// A longer one is no notice of somebody who wants to be logged in to.
 constexpr std::size_t kLargestForeignPage = std::size_t{1} << 20U;
 constexpr std::chrono::seconds kNetworkWakesUp{5};
+/// How many sites are told to be unknown between two looks at the events.
+constexpr std::size_t kUnknownAtOnce = 1024;
 
 constexpr const char* kNoAddress = "The address of the site is empty.";
 
@@ -328,12 +330,255 @@ void TestPass::settleDoubt() {
   }
   const std::vector<std::size_t> rows = doubt_.take();
   recording_.recordWaiting();
-  std::vector<std::int16_t> sites;
-  for (const std::size_t row : rows) {
-    sites.push_back(sites_.idSite(row));
+  leaveAllToBeDone();
+  wentOffline_ = true;
+  run_.goOffline(page.value_or(""), sites_.requestFor(rows.front()));
+}
+
+void TestPass::recordDoubtful() {
+  for (const std::size_t row : doubt_.take()) {
+    recording_.add(row);
+    recording_.recordWaiting();
   }
-  needs_.standings.setUnknown(sites, needs_.clock.localNow());
-  leaveAllToBeDone(page.value_or(""), rows.front());
+}
+
+// What is not recorded is done as soon as the network is back, also what is not due by its time, as after Start.
+void TestPass::leaveAllToBeDone() {
+  std::vector<std::int16_t> unknown;
+  const auto store = [&] { needs_.standings.setUnknown(std::exchange(unknown, {}), needs_.clock.localNow()); };
+  for (std::size_t row = 1; row <= sites_.count(); ++row) {
+    if (!sites_.isRecorded(row) && !sites_.unusableId(row)) {
+      debts_.checks.owe(sites_.idSite(row));
+      unknown.push_back(sites_.idSite(row));
+    }
+    if (unknown.size() == kUnknownAtOnce) {
+      store();
+      needs_.pump.pump();
+    }
+  }
+  store();
+}
+
+// A full counter costs nothing that has to be done again; a result that could not be recorded must not hide behind it.
+void TestPass::raiseDeferred() const {
+  for (const std::exception_ptr& fault : {faults_.deferred, faults_.unusableId, faults_.fullCounter}) {
+    if (fault) {
+      std::rethrow_exception(fault);
+    }
+  }
+}
+
+void TestPass::setUpPool() {
+  const InFlightPolicy policy = inFlightPolicy(options_);
+  needs_.pool.initSockets(sites_.urls(), policy.slots);
+  if (policy.spacing > std::chrono::milliseconds(0)) {
+    needs_.pool.tmrInet().setInterval(kSpacedSweep);
+  }
+  needs_.pool.tmrInet().setEnabled(true);
+  // Then the sweep also ends the wait.
+  recording_.waitForMore(policy.spacing > std::chrono::milliseconds(0));
+  inFlight_ = planned(policy);
+}
+
+InFlight TestPass::planned(const InFlightPolicy& policy) const {
+  std::unordered_set<std::int64_t> slow;
+  if (policy.slowLane) {
+    slow = needs_.dueSites.idsThatTookTooLong();
+  }
+  std::vector<InFlight::Row> rows(sites_.count());
+  for (std::size_t row = 1; row <= sites_.count(); ++row) {
+    if (!sites_.url(row).empty() && !sites_.unusableId(row)) {
+      rows[row - 1] = {hostOfAddress(sites_.url(row)), slow.contains(sites_.idSite(row))};
+    }
+    if (row % kPlannedAtOnce == 0) {
+      needs_.pump.pump();
+    }
+  }
+  return {policy, rows};
+}
+
+void TestPass::dispatchAll() {
+  while (inFlight_.left() > 0 && !stopped()) {
+    needs_.pump.pump();
+    settleDoubt();
+    recordRowsWithoutAddress();
+    const std::vector<std::int16_t> freeSlots = needs_.pool.getAryFreeSockets();
+    if (hasWorkFor(freeSlots) || inFlight_.left() == 0 || stopped()) {
+      offerSlots(freeSlots);
+    } else if (recording_.isDue()) {
+      recording_.recordWaiting();
+    } else {
+      needs_.pump.waitForEvent();
+    }
+  }
+  recording_.recordWaiting();
+}
+
+bool TestPass::hasWorkFor(const std::vector<std::int16_t>& freeSlots) {
+  return std::ranges::any_of(freeSlots, [&](std::int16_t slot) { return needs_.pool.socketDone(slot); }) ||
+         (!freeSlots.empty() && upcoming() > 0);
+}
+
+void TestPass::offerSlots(const std::vector<std::int16_t>& freeSlots) {
+  if (!hasWorkFor(freeSlots)) {
+    return;
+  }
+  needs_.pump.pump();
+  if (stopped()) {
+    return;
+  }
+  emptySlots(freeSlots);
+  if (!recording_.mayWait()) {
+    recording_.recordWaiting();
+  }
+  sendInto(freeSlots);
+}
+
+// Events have just been taken in.
+void TestPass::sendInto(const std::vector<std::int16_t>& freeSlots) {
+  for (const std::int16_t slot : freeSlots) {
+    if (slot != freeSlots.front() && upcoming() > 0) {
+      needs_.pump.pump();
+    }
+    if (!stopped()) {
+      recordRowsWithoutAddress();
+    }
+    if (stopped() || inFlight_.left() == 0) {
+      return;
+    }
+    if (const std::size_t row = upcoming(); row > 0) {
+      try {
+        sendRequest(slot, row);
+      } catch (const std::bad_alloc&) {
+        std::rethrow_exception(outOfMemoryFor(sites_.idSite(row)));
+      }
+      takeRow(row);
+    }
+  }
+}
+
+// A row without an address needs no slot: it fails on the spot, as a failed request of its own site. One whose id the
+// program cannot use is left out, and told when the others have been tested.
+void TestPass::recordRowsWithoutAddress() {
+  for (std::size_t row = 0; !stopped() && (row = upcoming()) > 0;) {
+    if (sites_.unusableId(row)) {
+      PassFaults::defer(faults_.unusableId, sites_.unusableId(row));
+    } else if (sites_.url(row).empty()) {
+      recording_.recordWaiting();
+      needs_.view.showStatus("Testing: ");
+      recording_.record(
+          row, {std::string("11:") + kNoAddress, static_cast<std::int32_t>(TransferFault::badUrl), kNoAddress});
+    } else {
+      return;
+    }
+    takeRow(row);
+    needs_.pump.pump();
+  }
+}
+
+void TestPass::sendRequest(std::int16_t slot, std::size_t row) {
+  const std::int16_t id = sites_.idSite(row);
+  Request request = sites_.requestFor(row);
+  request.otherThan = needs_.pool.siteServer(row);
+  needs_.view.showStatus("Testing: " + sites_.url(row));
+  needs_.pool.send(slot, row, std::move(request));
+  needs_.view.brighten(id, kTestingBrightness);
+  brightened_.push_back(id);
+}
+
+void TestPass::awaitAllSlots() {
+  while (!stopped() && needs_.pool.getAryFreeSockets().size() < static_cast<std::size_t>(needs_.pool.poolSize())) {
+    needs_.pump.waitForEvent();
+  }
+}
+
+void TestPass::drain() {
+  for (std::int16_t slot = 1; slot <= needs_.pool.poolSize() && !stopped(); ++slot) {
+    // Five large pages in a row would hold up the window for the time of all of them.
+    needs_.pump.pump();
+    if (!stopped()) {
+      emptySlots({slot});
+      recording_.recordWaiting();
+    }
+  }
+}
+
+void TestPass::emptySlots(const std::vector<std::int16_t>& slots) {
+  for (const std::int16_t slot : slots) {
+    if (needs_.pool.socketDone(slot)) {
+      emptySlot(slot);
+    }
+    if (recording_.hasLargePage()) {
+      recording_.recordWaiting();  // one at a time in memory, and events between them
+      needs_.pump.pump();
+    }
+    if (stopped()) {
+      return;
+    }
+  }
+}
+
+void TestPass::emptySlot(std::int16_t slot) {
+  InetPool& pool = needs_.pool;
+  pool.saveSocketData(slot);
+  pool.setSocketDone(slot, false);
+  const std::size_t row = pool.socketRow(slot);
+  const InFlight::End end = endOf(pool.siteErrCode(row));
+  inFlight_.ended(row, needs_.clock.steadyNow(), needs_.clock.processorTime(), end);
+  if (end == InFlight::End::shortage) {
+    // The request was not even made, so nothing is known of the site. It is made when fewer are in flight, or else is
+    // due as before.
+    if (!inFlight_.putBack(row)) {
+      PassFaults::defer(
+          faults_.deferred,
+          std::make_exception_ptr(std::runtime_error(pool.siteErrDescription(row) + " Site " +
+                                                     std::to_string(sites_.idSite(row)) + " is due again.")));
+    }
+    pool.releaseSiteContent(row);
+    sites_.forget(row);
+  } else if (!run_.looksAfterNetwork() || !isDoubtful(row)) {
+    recording_.add(row);
+  }
+}
+
+// Whether the failure may be that of this machine's own network: it is kept back then until that is known.
+bool TestPass::isDoubtful(std::size_t row) {
+  if (isSilence(static_cast<TransferFault>(needs_.pool.siteErrCode(row)))) {
+    if (run_.hasJustWoken()) {
+      inFlight_.repeat(row, needs_.clock.steadyNow() + kNetworkWakesUp);
+    } else {
+      doubt_.noAnswer(row, hostOfAddress(sites_.url(row)));
+    }
+    return true;
+  }
+  if (isForeignPage(row)) {
+    doubt_.foreignPage(row, hostOfAddress(sites_.url(row)), needs_.pool.siteContent(row));
+    return true;
+  }
+  doubt_.answered();
+  return false;
+}
+
+bool TestPass::isForeignPage(std::size_t row) {
+  const InetPool& pool = needs_.pool;
+  return pool.siteErrCode(row) == 0 && pool.siteContent(row).size() <= kLargestForeignPage &&
+         !needs_.results.wouldPass(sites_.idSite(row), pool.siteContent(row), 0, FirstBaseline::anything);
+}
+
+void TestPass::settleDoubt() {
+  const std::optional<std::string> page = doubt_.onePage();
+  if (stopped() || (!doubt_.isSilent() && !page)) {
+    return;
+  }
+  if (!page && run_.isOnline()) {
+    recordDoubtful();
+    return;
+  }
+  const std::vector<std::size_t> rows = doubt_.take();
+  recording_.recordWaiting();
+  leaveAllToBeDone();
+  wentOffline_ = true;
+  run_.goOffline(page.value_or(""), sites_.requestFor(rows.front()));
 }
 
 void TestPass::recordDoubtful() {

@@ -57,7 +57,7 @@ class TestPass {
   bool isForeignPage(std::size_t row);
   void settleDoubt();
   void recordDoubtful();
-  void leaveAllToBeDone(std::string page, std::size_t row);
+  void leaveAllToBeDone();
   void raiseDeferred() const;
   void takeRow(std::size_t row);
   void showProgress();
