@@ -6,11 +6,16 @@
 #include <memory>
 #include <utility>
 
+#include "base/raised_flag.h"
+#include "store/alarm_values.h"
+
 namespace tarnwick {
 namespace {
 
 constexpr std::size_t kMany = 3;
 constexpr std::chrono::seconds kPatience{5};
+/// Between two looks for a way that is gone.
+constexpr std::chrono::seconds kAskAgain{5};
 
 }  // namespace
 
@@ -44,12 +49,18 @@ std::vector<std::size_t> NetworkDoubt::take() {
   return rows;
 }
 
-bool OwnNetwork::isOnline(const std::vector<std::string>& witnesses) {
-  if (witnesses.empty()) {
-    return transfers_.hasWayOut();
+void OwnNetwork::obey(const OptionsInForce& options) {
+  isLookedAfter_ = options.valueOf(kAllSites, option_name::ownNetwork) == option_value::on;
+  const auto hosts = options.valueOf(kAllSites, option_name::witnesses);
+  witnesses_ = hosts ? *readHosts(*hosts) : std::vector<std::string>();
+}
+
+bool OwnNetwork::isOnline() {
+  if (witnesses_.empty()) {
+    return machine_.transfers.hasWayOut();
   }
   std::vector<Request> requests;
-  for (const std::string& host : witnesses) {
+  for (const std::string& host : witnesses_) {
     requests.push_back({.url = "http://" + host + "/", .timeout = kPatience});
   }
   return ask(requests, [](const TransferResult& result) {
@@ -57,10 +68,34 @@ bool OwnNetwork::isOnline(const std::vector<std::string>& witnesses) {
   });
 }
 
-bool OwnNetwork::stillComesTo(const std::string& page, const Request& request) {
-  Request again = request;
+void OwnNetwork::setOffline(std::string page, Request request) {
+  offline_ = {machine_.clock.localNow(), machine_.clock.steadyNow(), std::move(page), std::move(request)};
+}
+
+void OwnNetwork::lookAtOnce() {
+  if (offline_) {
+    offline_->askedAt.reset();
+  }
+}
+
+bool OwnNetwork::staysOffline() {
+  const std::chrono::milliseconds now = machine_.clock.steadyNow();
+  if (asks_ || (isLookedAfter_ && offline_->askedAt && now - *offline_->askedAt < kAskAgain)) {
+    return true;
+  }
+  offline_->askedAt = now;
+  const RaisedFlag whileAsked(asks_);
+  // A copy, since the run may be stopped meanwhile.
+  return isLookedAfter_ && isStillOffline(Offline(*offline_)) && offline_;
+}
+
+bool OwnNetwork::isStillOffline(const Offline& found) {
+  if (found.page.empty()) {
+    return !isOnline();
+  }
+  Request again = found.request;
   again.timeout = kPatience;
-  return ask({again}, [&](const TransferResult& result) { return result.page == page; });
+  return ask({again}, [&](const TransferResult& result) { return result.page == found.page; });
 }
 
 bool OwnNetwork::ask(const std::vector<Request>& requests, const std::function<bool(const TransferResult&)>& isEnough) {
@@ -68,7 +103,7 @@ bool OwnNetwork::ask(const std::vector<Request>& requests, const std::function<b
   bool enough = false;
   std::vector<std::unique_ptr<TransferControl>> controls;
   for (const Request& request : requests) {
-    controls.push_back(transfers_.makeTransferControl());
+    controls.push_back(machine_.transfers.makeTransferControl());
     TransferControl& control = *controls.back();
     control.onIdle([&] {
       ++ended;
@@ -77,11 +112,11 @@ bool OwnNetwork::ask(const std::vector<Request>& requests, const std::function<b
     control.execute(request);
   }
   bool late = false;
-  const std::unique_ptr<Timer> end = timers_.makeTimer([&] { late = true; });
+  const std::unique_ptr<Timer> end = machine_.timers.makeTimer([&] { late = true; });
   end->setInterval(kPatience);
   end->setEnabled(true);
-  while (!enough && !late && ended < controls.size() && !pump_.closing()) {
-    pump_.waitForEvent();
+  while (!enough && !late && ended < controls.size() && !machine_.pump.closing()) {
+    machine_.pump.waitForEvent();
   }
   return enough;
 }

@@ -8,9 +8,11 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/clock.h"
 #include "platform/event_pump.h"
 #include "platform/timer.h"
 #include "platform/transfer_control.h"
+#include "store/site_options.h"
 
 namespace tarnwick {
 
@@ -48,26 +50,52 @@ class NetworkDoubt {
   bool anyAnswer_ = false;
 };
 
-/// Whether this machine has a way to the net.
+/// Whether this machine has a way to the net, as far as the option `ownNetwork` has that looked after.
 class OwnNetwork {
  public:
-  OwnNetwork(TransferMaker& transfers, TimerMaker& timers, EventPump& pump)
-      : transfers_(transfers), timers_(timers), pump_(pump) {}
+  /// What it asks of the machine.
+  struct Machine {
+    TransferMaker& transfers;
+    TimerMaker& timers;
+    EventPump& pump;
+    const Clock& clock;
+  };
+  explicit OwnNetwork(const Machine& machine) : machine_(machine) {}
 
-  /// By the witnesses, if there are any: one that answers is enough. Otherwise by the way that the system knows. Takes
-  /// events in for at most five seconds.
-  bool isOnline(const std::vector<std::string>& witnesses);
+  void obey(const OptionsInForce& options);
+  bool isLookedAfter() const { return isLookedAfter_; }
 
-  /// Whether `request` still comes to `page`, as it did when that was found to be a foreign one. Waits likewise.
-  bool stillComesTo(const std::string& page, const Request& request);
+  /// Asks the witnesses, if there are any: one that answers is enough. Otherwise by the way that the system knows.
+  /// Takes events in for at most five seconds.
+  bool isOnline();
+
+  /// It was found to be offline: all have come to one `page` instead of their own, as `request` does, or to none.
+  void setOffline(std::string page, Request request);
+  void forgetOffline() { offline_.reset(); }
+  std::optional<LocalTime> offlineSince() const { return offline_ ? std::optional(offline_->since) : std::nullopt; }
+
+  /// Whether it is still offline: looked into every few seconds, or at once after `lookAtOnce`, and then taken to be so
+  /// until the answer is there. Takes events in. REQUIRES: `offlineSince()`.
+  bool staysOffline();
+  void lookAtOnce();
 
  private:
+  struct Offline {
+    LocalTime since;
+    std::optional<std::chrono::milliseconds> askedAt;
+    std::string page;
+    Request request;
+  };
+
+  bool isStillOffline(const Offline& found);
   /// Starts the requests, and waits until `isEnough` says so of the result of one, or all have ended, or time is up.
   bool ask(const std::vector<Request>& requests, const std::function<bool(const TransferResult&)>& isEnough);
 
-  TransferMaker& transfers_;
-  TimerMaker& timers_;
-  EventPump& pump_;
+  Machine machine_;
+  bool isLookedAfter_ = false;
+  std::vector<std::string> witnesses_;
+  std::optional<Offline> offline_;
+  bool asks_ = false;
 };
 
 /// Whether the fault says that no server was there to answer.

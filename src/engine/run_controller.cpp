@@ -9,6 +9,7 @@
 
 #include "alerts/alert_dispatch.h"
 #include "base/errors.h"
+#include "base/raised_flag.h"
 #include "engine/result_recording.h"
 #include "engine/test_pass.h"
 #include "platform/prompts.h"
@@ -32,20 +33,6 @@ constexpr std::int16_t kAllActiveSites = 1;
 /// How far the clocks are apart after a sleep at least, and how long the network takes to be back after one.
 constexpr seconds kNap{30};
 constexpr seconds kAfterNap{30};
-/// Between two looks for the network.
-constexpr seconds kAskAgain{5};
-
-/// A flag that is true for this object's life.
-class RaisedFlag {
- public:
-  explicit RaisedFlag(bool& flag) : flag_(flag) { flag_ = true; }
-  ~RaisedFlag() { flag_ = false; }
-  RaisedFlag(const RaisedFlag&) = delete;
-  RaisedFlag& operator=(const RaisedFlag&) = delete;
-
- private:
-  bool& flag_;
-};
 
 std::string offlineText(LocalTime since) {
   return "This machine is offline since " + dateTimeText(since).substr(11, 5) + ". Nothing is counted as down.";
@@ -68,7 +55,7 @@ RunController::RunController(const Needs& needs, TimerMaker& timers, Guard guard
       sites_(needs.dueSites),
       uncounted_(needs.results, needs.dueSites, needs.view),
       alarms_(needs.standings, needs.alerts, needs.clock),
-      network_(needs.transfers, needs.timers, needs.pump) {}
+      network_({needs.transfers, needs.timers, needs.pump, needs.clock}) {}
 
 RunController::~RunController() { uncounted_.end(); }
 
@@ -150,9 +137,7 @@ void RunController::readOptions() { obey(needs_.options.optionsInForce()); }
 
 void RunController::obey(OptionsInForce options) {
   newSitesAtOnce_ = options.newSitesAtOnce();
-  looksAfterNetwork_ = options.valueOf(kAllSites, option_name::ownNetwork) == option_value::on;
-  witnesses_ = readHosts(options.valueOf(kAllSites, option_name::witnesses).value_or("none"))
-                   .value_or(std::vector<std::string>());
+  network_.obey(options);
   alarms_.setOptions(std::move(options));
 }
 
@@ -233,8 +218,7 @@ void RunController::tmrCheckSites_Timer() {
 
 bool RunController::countDown() {
   inTimerPass_ = false;
-  if (offline_ && !busy_ && staysOffline()) {
-    needs_.view.showStatus(offlineText(offline_->since));
+  if (network_.offlineSince() && !busy_ && staysOffline()) {
     return false;
   }
   if (standsStill()) {
@@ -285,46 +269,30 @@ bool RunController::hasJustWoken() {
 }
 
 void RunController::goOffline(std::string page, Request request) {
-  if (!offline_) {
-    offline_ = {needs_.clock.localNow(), needs_.clock.steadyNow(), std::move(page), std::move(request)};
-    needs_.view.showOffline(offline_->since);
-    needs_.alerts.sendOfflineNotice(offline_->since);
-  }
+  network_.setOffline(std::move(page), std::move(request));
+  const LocalTime since = *network_.offlineSince();
+  needs_.view.showOffline(since);
+  needs_.alerts.sendOfflineNotice(since);
 }
 
-void RunController::lookForNetwork() {
-  if (offline_) {
-    offline_->askedAt = {};
-  }
-}
-
-// Asks now and then; the answer may take some seconds, in which further ticks come.
 bool RunController::staysOffline() {
-  const milliseconds now = needs_.clock.steadyNow();
-  if (asksNetwork_ ||
-      (looksAfterNetwork_ && offline_->askedAt > milliseconds(0) && now - offline_->askedAt < kAskAgain)) {
+  const LocalTime since = *network_.offlineSince();
+  needs_.view.showStatus(offlineText(since));
+  readOptions();
+  if (network_.staysOffline()) {
     return true;
   }
-  offline_->askedAt = now;
-  const Offline found = *offline_;
-  {
-    const RaisedFlag whileAsked(asksNetwork_);
-    readOptions();
-    if (looksAfterNetwork_ && (found.page.empty() ? !isOnline() : network_.stillComesTo(found.page, found.request))) {
-      return true;
-    }
-  }
-  if (offline_) {
+  if (network_.offlineSince()) {
     forgetOffline();
     const TestPass noPassMeanwhile(*this, needs_, busy_, {sites_, uncounted_, alarms_});
-    needs_.alerts.sendOnlineNotice(found.since, needs_.clock.localNow());
+    needs_.alerts.sendOnlineNotice(since, needs_.clock.localNow());
   }
   return false;
 }
 
 void RunController::forgetOffline() {
-  if (offline_) {
-    offline_.reset();
+  if (network_.offlineSince()) {
+    network_.forgetOffline();
     needs_.standings.clearUnknown();
     needs_.view.showOffline(std::nullopt);
   }
@@ -392,7 +360,7 @@ SomeSites RunController::unwatched() {
 }
 
 SomeSites RunController::overdue() {
-  if (!running_ || busy_ || offline_) {
+  if (!running_ || busy_ || network_.offlineSince()) {
     return {};
   }
   return needs_.dueSites.overdue(needs_.clock.localNow() -

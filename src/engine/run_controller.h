@@ -101,17 +101,10 @@ class RunController {
   /// Raises DataAccessError.
   SomeSites overdue();
 
-  /// Since when this machine has had no way to the net, as far as the option `ownNetwork` has that looked after.
-  std::optional<LocalTime> offlineSince() const { return offline_ ? std::optional(offline_->since) : std::nullopt; }
-  /// Has the net looked for at the next tick.
-  void lookForNetwork();
-  /// For the pass that is on: this machine is offline. All have come to one `page` instead of their own, as `request`
-  /// does, or to none.
+  /// Whether this machine has a way to the net.
+  OwnNetwork& network() { return network_; }
+  /// For the pass that is on: this machine is offline; see `OwnNetwork::setOffline`.
   void goOffline(std::string page, Request request);
-  /// As the options say: whether failures in doubt are looked into, and by which witnesses.
-  bool looksAfterNetwork() const { return looksAfterNetwork_; }
-  /// Takes events in.
-  bool isOnline() { return network_.isOnline(witnesses_); }
   /// Whether the machine may have slept, or been told another time, in the last moments.
   bool hasJustWoken();
   /// Vocabulary: no front end calls it.
@@ -173,18 +166,7 @@ class RunController {
   SiteAlarms alarms_;
   // When it was asked last what time has brought.
   std::chrono::minutes alarmsSeen_{};
-  // Why nothing can be reached, as it was found.
-  struct Offline {
-    LocalTime since;
-    std::chrono::milliseconds askedAt;
-    std::string page;
-    Request request;
-  };
-  std::optional<Offline> offline_;
   OwnNetwork network_;
-  bool asksNetwork_ = false;
-  bool looksAfterNetwork_ = false;
-  std::vector<std::string> witnesses_;
   std::optional<std::chrono::milliseconds> wokeAt_;
   bool clockWasSet_ = false;
   // Sites were due in the last pass, and each of them rests.

@@ -290,7 +290,7 @@ void TestPass::emptySlot(std::int16_t slot) {
     }
     pool.releaseSiteContent(row);
     sites_.forget(row);
-  } else if (!run_.looksAfterNetwork() || !isDoubtful(row)) {
+  } else if (!run_.network().isLookedAfter() || !isDoubtful(row)) {
     recording_.add(row);
   }
 }
@@ -324,7 +324,7 @@ void TestPass::settleDoubt() {
   if (stopped() || (!doubt_.isSilent() && !page)) {
     return;
   }
-  if (!page && run_.isOnline()) {
+  if (!page && run_.network().isOnline()) {
     recordDoubtful();
     return;
   }

@@ -184,7 +184,7 @@ int check(Tool& tool, const CheckOptions& options) {
     throw;
   }
   view.end();
-  if (program.run().offlineSince()) {
+  if (program.run().network().offlineSince()) {
     console.complain("This machine is offline. " + std::to_string(view.up() + view.down()) + " of " +
                      std::to_string(count) + " sites were checked, and nothing is counted as down.");
     return exit_status::failed;
