@@ -6,6 +6,8 @@
 #include <utility>
 #include <variant>
 
+#include "base/nothing.h"
+
 namespace tarnwick {
 
 /// What a Null is in the row tables.
@@ -20,7 +22,7 @@ class SqlValue {
   explicit SqlValue(double value) : value_(value) {}
   explicit SqlValue(std::string value) : value_(std::move(value)) {}
 
-  bool isNull() const { return std::holds_alternative<std::monostate>(value_); }
+  bool isNull() const { return std::holds_alternative<Nothing>(value_); }
 
   /// The value as the program writes it: "True" or "False", a decimal number, the bytes of a text; empty for Null.
   std::string toText() const&;
@@ -41,7 +43,7 @@ class SqlValue {
   /// The value as a whole number, fractions cut; Null, and a text that is no number, is 0.
   std::int64_t toInt64() const;
 
-  using Held = std::variant<std::monostate, bool, std::int64_t, double, std::string>;
+  using Held = std::variant<Nothing, bool, std::int64_t, double, std::string>;
   /// The value as it is held; the first of the kinds is Null.
   const Held& held() const { return value_; }
 

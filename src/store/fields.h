@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "base/nothing.h"
 #include "store/option_table.h"
 #include "store/site_draft.h"
 
@@ -25,7 +26,7 @@ enum class FieldKind {
 };
 
 /// The value of a field: a yes/no of the kind `flag`, a text of all others.
-using FieldValue = std::variant<std::string, bool>;
+using FieldValue = std::variant<std::string, bool, Nothing>;
 
 /// A field of a site that its user sets. Its name is that of the column, of the member in JSON and of the column in
 /// CSV.

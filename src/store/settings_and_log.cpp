@@ -55,7 +55,11 @@ void SettingsAndLog::storeSettings(const std::vector<Setting>& settings) {
   }
   for (const Setting& setting : settings) {
     try {
-      std::visit([&](const auto& value) { setControl(setting.key, value); }, setting.value);
+      if (const bool* const flag = std::get_if<bool>(&setting.value)) {
+        setControl(setting.key, *flag);
+      } else {
+        setControl(setting.key, std::get<std::string>(setting.value));
+      }
     } catch (const DataAccessError& error) {
       throw SettingRefused(setting.key, error);
     }

@@ -20,7 +20,7 @@ namespace tarnwick {
 /// A setting to be stored: a column's name, and a text or a yes/no.
 struct Setting {
   std::string key;
-  std::variant<std::string, bool> value;
+  FieldValue value;
   bool operator==(const Setting&) const = default;
 };
 

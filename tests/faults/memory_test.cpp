@@ -6,9 +6,13 @@
 #include <memory>
 #include <new>
 #include <string>
+#include <vector>
 
 #include "base/errors.h"
+#include "base/sql_value.h"
+#include "exchange/json/json_value.h"
 #include "faults/faults_fixture.h"
+#include "store/fields.h"
 #include "support/failing_memory.h"
 #include "support/faulty_disk.h"
 
@@ -75,6 +79,21 @@ INSTANTIATE_TEST_SUITE_P(Faults, MemorySweep, ::testing::Values(Allocator::progr
                          [](const auto& chosen) {
                            return chosen.param == Allocator::program ? std::string("Program") : std::string("Database");
                          });
+
+template <typename Value>
+class CopyingWithoutMemory : public ::testing::Test {};
+using CopiedValues = ::testing::Types<SqlValue, JsonValue, FieldValue>;
+TYPED_TEST_SUITE(CopyingWithoutMemory, CopiedValues);
+
+TYPED_TEST(CopyingWithoutMemory, IsRefusedAndNoMore) {
+  const TypeParam value(std::string(100, 'x'));
+  std::vector<TypeParam> copies;
+  copies.reserve(2);
+  refuseAllocation(Allocator::program, 1);
+  EXPECT_THROW(copies.push_back(value), std::bad_alloc);
+  EXPECT_TRUE(allocationWasRefused());
+  EXPECT_TRUE(copies.empty());
+}
 
 /// Lets SQLite have no more memory than it has now.
 class NoMoreMemory {

@@ -16,6 +16,7 @@ SLEEP = re.compile(r"\b(sleep_for|sleep_until|usleep|nanosleep|qSleep|msleep)\b|
 REASON = re.compile(r"//\s*sleeps because \S")
 SYSTEM = re.compile(r"^\s*#\s*(if|ifdef|ifndef|elif).*\b(_WIN32|_WIN64|__linux__|__unix__|__APPLE__|Q_OS_\w+)\b")
 CALLBACK = re.compile(r"CURLM?OPT_\w+FUNCTION\b")
+TEXTS_OR_LISTS = re.compile(r"\bstd::variant<.*\b(std::(string|vector<.*>)|Array|Object)(?=[,>])")
 UNFINISHED = re.compile(r"\b(TODO|FIXME|XXX|HACK)\b")
 
 
@@ -65,6 +66,14 @@ def callbacks_are_guarded(tree: Tree):
                        "crosses the library's C frames.")
 
 
+def variants_can_be_copied_without_memory(tree: Tree):
+    for name, lines in tree.lines.items():
+        for number, line in enumerate(lines, 1):
+            if TEXTS_OR_LISTS.search(line.split("//")[0]) and "Nothing" not in line:
+                yield (name, number, "has a std::variant of texts or lists alone: libstdc++ 12 crashes when memory runs out "
+                       "while it is copied. Give it base/nothing.h's Nothing, too.")
+
+
 def nothing_is_unfinished(tree: Tree):
     for name, lines in tree.lines.items():
         for number, line in enumerate(lines, 1):
@@ -89,4 +98,5 @@ def sources_name_their_licence(tree: Tree):
 
 
 RULES = (front_ends_write_no_sql, files_are_short, tests_do_not_sleep, only_the_platform_knows_the_system,
-         callbacks_are_guarded, nothing_is_unfinished, headers_are_included_once, sources_name_their_licence)
+         callbacks_are_guarded, variants_can_be_copied_without_memory, nothing_is_unfinished,
+         headers_are_included_once, sources_name_their_licence)

@@ -48,6 +48,13 @@ TREES = {
     "a sleep": ("tests/a.h:2: sleeps", {"tests/a.h": HEADER + "std::this_thread::sleep_for(1s);\n"}),
     "a sleep with an empty reason": ("sleeps", {"tests/a.h": HEADER + "QTest::qSleep(5);  // sleeps because\n"}),
     "another sleep": ("sleeps", {"tests/a.h": HEADER + "QThread::sleep(1);\n"}),
+    "a variant of a text alone": ("src/base/a.h:2: has a std::variant of texts", {
+        "src/base/a.h": HEADER + "using Value = std::variant<bool, std::string>;\n"}),
+    "a variant of a list alone": ("src/base/a.h:2: has a std::variant of texts", {
+        "src/base/a.h": HEADER + "using Value = std::variant<std::vector<int>, bool>;\n"}),
+    "variants that are copied rightly": (None, {
+        "src/base/a.h": HEADER + "using Value = std::variant<Nothing, std::string>;\n"
+                                 "using Word = std::variant<std::string_view, std::string Row::*>;\n"}),
     "an unfinished piece": ("src/base/a.h:2: says " + "TO" + "DO", {"src/base/a.h": HEADER + "// " + "TO" + "DO: later\n"}),
     "a source that is not built": ("is built by no CMakeLists.txt", {
         "src/store/a.cpp": "\n", "src/store/CMakeLists.txt": "add_library(s data.cpp)\n"}),

@@ -49,12 +49,13 @@ void AlertWatch::shown(const CheckResult& result) {
     const bool heard = heard_.erase(site) > 0;
     if (result.passed) {
       lostSince_.erase(site);
-    } else if (!heard && world_.agenda.now() > unsureUntil_) {
+    } else if (!heard && world_.agenda.now() > std::max(unsureUntil_, silentUntil_[site])) {
       try {
         if (!askDatabase(world_, alertingBy(way, result.idSite)).empty()) {
           fail_("site " + std::to_string(result.idSite) + " has failed, and of its " + kNames[way] +
                 " nothing was heard");
         }
+        silentUntil_[site] = world_.agenda.now() + std::chrono::hours(6);
       } catch (const std::exception&) {
         // It cannot be looked into just now.
       }

@@ -34,7 +34,10 @@ class AlertWatch {
   void broken(Way way) { heals_[way] = Time::max(); }
   void healed(Way way) { heals_[way] = world_.agenda.now(); }
   /// Somebody changes which alerts there are to be: for a while it is not known whom a failure should have alerted.
-  void mayChange() { unsureUntil_ = world_.agenda.now() + std::chrono::minutes(10); }
+  void mayChange() {
+    unsureUntil_ = world_.agenda.now() + std::chrono::minutes(10);
+    silentUntil_.clear();
+  }
   /// The program has ended, and with it the alerts that were under way.
   void begin() { heard_.clear(); }
 
@@ -50,8 +53,9 @@ class AlertWatch {
 
   World& world_;
   std::function<void(const std::string&)> fail_;
-  std::set<Site> heard_;            ///< of the failure that is shown next
-  std::map<Site, Time> lostSince_;  ///< and not left since
+  std::set<Site> heard_;              ///< of the failure that is shown next
+  std::map<Site, Time> lostSince_;    ///< and not left since
+  std::map<Site, Time> silentUntil_;  ///< it was to raise no alert when that was last looked up
   Time heals_[ways]{};
   Time unsureUntil_{0};
 };

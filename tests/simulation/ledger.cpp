@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include "engine/result_recording.h"
 
@@ -62,6 +63,7 @@ void Ledger::started(const std::vector<std::string>& program) {
 
 void Ledger::setFails(bool& what, bool fails) {
   if (what && !fails) {
+    recounts_ = known_ && &what == &diskFails_ && !memoryFails_;
     known_ = false;
     settlesFrom_ = world_.agenda.now() + kCountedLater;
   }
@@ -71,6 +73,9 @@ void Ledger::setFails(bool& what, bool fails) {
 void Ledger::settle() {
   if (!known_ && !diskFails_ && !memoryFails_ && world_.agenda.now() >= settlesFrom_ && !world_.isDead()) {
     try {
+      if (std::exchange(recounts_, false)) {
+        recount();
+      }
       begin();
     } catch (const std::exception&) {
       // It cannot be looked into just now.
@@ -79,12 +84,34 @@ void Ledger::settle() {
 }
 
 void Ledger::begin() {
-  logBefore_ = lastLogRow(world_);
+  logBefore_ = logAtBegin_ = lastLogRow(world_);
   countersBefore_ = counters();
   expected_.clear();
   seen_.clear();
   alerts_.clear();
   known_ = true;
+}
+
+// What could not be counted while the disk failed has been by now.
+void Ledger::recount() {
+  ++comparisons_;
+  const std::map<std::int16_t, Counts> now = counters();
+  for (const auto& [id, before] : countersBefore_) {
+    const std::string logged =
+        askDatabase(world_, "select coalesce(sum(status), 0), coalesce(sum(not status), 0) from log where rowid > " +
+                                std::to_string(logAtBegin_) + " and idSite = " + std::to_string(id))
+            .front();
+    if (const auto found = now.find(id); found != now.end()) {
+      const Counts& counts = found->second;
+      const std::string counted =
+          std::to_string(counts.success - before.success) + "|" + std::to_string(counts.failure - before.failure);
+      if (counted != logged) {
+        fail("site " + std::to_string(id) + " has passed and failed " + logged + " times, and " + counted +
+             " of them were counted");
+        return;
+      }
+    }
+  }
 }
 
 std::vector<std::string> Ledger::newLogRows() const {
@@ -132,7 +159,7 @@ void Ledger::compareAfterDeath() {
     if (known_ && !diskFails_ && !memoryFails_) {
       compareCounters(true);
     }
-    known_ = false;
+    disturb();
     diskFails_ = false;
     memoryFails_ = false;
     settlesFrom_ = {};

@@ -26,8 +26,13 @@ class Ledger {
 
   /// Something is about to change rows or counters, or has, that is not written down here: from here on only what
   /// comes later, from when the run is at rest and `settle` is called, is compared.
-  void disturb() { known_ = false; }
+  void disturb() {
+    known_ = false;
+    recounts_ = false;
+  }
   void settle();
+  /// The program has ended: what could not be counted until then is not counted any more.
+  void ended() { recounts_ = false; }
   /// While the disk fails an alert can go out before its failure is recorded, and a failure be counted later; without
   /// memory any result can be recorded that could not be shown.
   void setDiskFails(bool fails) { setFails(diskFails_, fails); }
@@ -68,6 +73,7 @@ class Ledger {
   std::map<std::int16_t, Counts> counters() const;
   void begin();
   void setFails(bool& what, bool fails);
+  void recount();
   void compareLog(bool afterDeath);
   void compareCounters(bool afterDeath);
 
@@ -78,9 +84,11 @@ class Ledger {
   AlertWatch alertWatch_{world_, [this](const std::string& what) { fail(what); }};
   Time lastSign_{0};
   bool known_ = false;
+  bool recounts_ = false;  ///< the disk has failed since, and nothing else has come between
   bool diskFails_ = false;
   bool memoryFails_ = false;
   Time settlesFrom_{0};
+  std::uint64_t logAtBegin_ = 0;
   std::uint64_t logBefore_ = 0;  ///< the last row of the log that has been compared
   bool unshown_ = false;         ///< a row is there that was not shown yet
   std::deque<Row> expected_;

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Runs the simulation: scripts/simulate.sh tells how.
+#include <unistd.h>
+
 #include <charconv>
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
@@ -120,14 +123,51 @@ Wishes wishesOf(const std::vector<std::string>& arguments) {
   return wishes;
 }
 
+/// What a number of runs came to.
+struct Tally {
+  std::uint64_t runs = 0;
+  std::uint64_t results = 0;
+  std::uint64_t alerts = 0;
+  std::uint64_t troubles = 0;
+  std::uint64_t deaths = 0;
+  /// The commands of those that have failed.
+  std::vector<std::string> failed{};
+
+  void tell(std::ostream& out) const {
+    out << runs << " runs with " << results << " results, " << alerts << " alerts, " << troubles << " troubles and "
+        << deaths << " ends without warning: " << failed.size() << " have failed\n";
+    for (const std::string& command : failed) {
+      out << "  " << command << '\n';
+    }
+  }
+};
+
+std::string underWay;  // the command of the run that is under way
+
+// Whoever looks for faults at night wants to know in the morning which run has taken everything down with it.
+void tellCrash(int signal) {
+  constexpr std::string_view kText = "crashed; again by: ";
+  if (write(STDERR_FILENO, kText.data(), kText.size()) < 0 ||
+      write(STDERR_FILENO, underWay.data(), underWay.size()) < 0 || write(STDERR_FILENO, "\n", 1) < 0) {
+    // There is nobody to tell it to.
+  }
+  std::signal(signal, SIG_DFL);
+  std::raise(signal);
+}
+
 /// The same plan twice: whatever comes of it, it must be the same.
-bool runTwice(const Wishes& wishes, const Plan& plan) {
+bool runTwice(const Wishes& wishes, const Plan& plan, Tally& tally) {
   std::ofstream journal;
   if (!wishes.journal.empty()) {
     journal.open(wishes.journal);
   }
   const Outcome outcome = Simulation(plan, journal.is_open() ? &journal : nullptr).run();
   std::cout << "seed " << plan.seed << " " << outcome.text() << std::endl;
+  ++tally.runs;
+  tally.results += outcome.results;
+  tally.alerts += outcome.alerts;
+  tally.troubles += outcome.happened;
+  tally.deaths += outcome.deaths;
   if (!outcome.failure.empty()) {
     std::cout << outcome.lastLines << "again by: " << plan.command() << std::endl;
     if (wishes.shrinks) {
@@ -150,21 +190,32 @@ int runAll(const Wishes& wishes) {
   }
   const auto realNow = [] { return std::chrono::system_clock::now(); };
   const auto end = realNow() + std::chrono::seconds(static_cast<std::int64_t>(wishes.hours * 3600));
-  bool good = true;
+  Tally tally;
   Plan plan = wishes.plan;
   for (std::uint64_t run = 0; wishes.hours > 0 ? realNow() < end : run < wishes.seeds; ++run, ++plan.seed) {
-    good = runTwice(wishes, plan) && good;
-    if (!good && wishes.firstOnly) {
-      break;
+    underWay = plan.command();
+    if (!runTwice(wishes, plan, tally)) {
+      tally.failed.push_back(underWay);
+      if (wishes.firstOnly) {
+        break;
+      }
     }
   }
-  return good ? EXIT_SUCCESS : EXIT_FAILURE;
+  if (tally.runs > 1) {
+    tally.tell(std::cout);
+  }
+  return tally.failed.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);  // what waits for signals wants one
+  for (const int crash : {SIGSEGV, SIGABRT}) {
+    if (const auto before = std::signal(crash, tellCrash); before != SIG_DFL) {
+      std::signal(crash, before);  // a sanitizer tells more
+    }
+  }
   try {
     return runAll(wishesOf({argv + 1, argv + argc}));
   } catch (const std::exception& error) {

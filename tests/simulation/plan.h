@@ -46,6 +46,8 @@ struct Plan {
   bool takes(std::size_t number, const Happening& happening) const {
     return !without.contains(happening.trouble) && !leftOut.contains(number);
   }
+  /// More requests than there originally were, from the beginning.
+  bool takesManyAtATime() const { return !model && !original && seed % 5 == 2; }
   /// The command that repeats it.
   std::string command() const;
 };

@@ -17,8 +17,9 @@ namespace fs = std::filesystem;
 constexpr std::size_t kSector = 512;
 
 std::string contentsOf(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
+  std::string bytes(fs::file_size(path), '\0');
+  std::ifstream(path, std::ios::binary).read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  return bytes;
 }
 
 bool isSharedMemory(const std::string& path) { return path.ends_with("-shm"); }

@@ -96,7 +96,7 @@ void SimulatedWeb::begins(const std::string& url) {
   inFlight_.insert(host);
   const std::size_t all = inFlight_.size();
   if (onTooMany && !isShared &&
-      (all > (mayBeMany ? kMost : kUsual) || (all > kUsual && inFlight_.count(host) > kOfOneHost))) {
+      (all > (mayBeMany ? kMost : kUsual) || ((sparesHosts || all > kUsual) && inFlight_.count(host) > kOfOneHost))) {
     onTooMany(std::to_string(all) + " requests are on their way, " + std::to_string(inFlight_.count(host)) +
               " of them to " + host);
   }

@@ -44,6 +44,9 @@ class SimulatedWeb final : public TransferMaker {
   void publish(const std::string& url) { ++sites_[url].edition; }
   /// Whether somebody has asked for more than the usual five requests at a time.
   bool mayBeMany = false;
+  /// Whether the list has had more than five at a time in all the runs so far, so that no host is ever asked for more
+  /// than two pages at a time.
+  bool sparesHosts = false;
   /// Whether another program asks for pages beside the run.
   bool isShared = false;
   /// A request is on its way.

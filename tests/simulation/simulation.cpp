@@ -37,6 +37,11 @@ void Simulation::layOut() {
   if (!plan_.original && plan_.seed % 2 == 0) {
     mustRun({"option", "all", "logLimit=1"});  // a mebibyte, which is soon full
   }
+  if (plan_.takesManyAtATime()) {
+    mustRun({"option", "all", "parallel=12"});
+    world_.web.mayBeMany = true;
+    world_.web.sparesHosts = true;
+  }
   for (int i = 1; i <= plan_.sites; ++i) {
     const std::string number = std::to_string(i);
     urls_.push_back(i % 3 == 0 ? "http://shared.example/" + number : "http://site" + number + ".example/");
@@ -420,6 +425,7 @@ Outcome Simulation::run() {
       ledger_.compareAfterDeath();
     } else {
       ledger_.compare();
+      ledger_.ended();
     }
     if (isOver()) {
       break;

@@ -180,6 +180,7 @@ void User::runSomeVerb(Chance chance) {
       verb({"add", newUrl(), "--interval", minutes(chance)});
       break;
     case set:
+      ledger_.alerts().mayChange();
       verb({"set", id, "--interval", minutes(chance), "--active"});
       ledger_.excuse(std::chrono::hours(3));
       break;
@@ -208,7 +209,8 @@ void User::runSomeVerb(Chance chance) {
       break;
     default:
       world_.web.mayBeMany = true;
-      verb({"option", "all", "parallel=" + std::to_string(chance.between(5, kMostParallel))});
+      verb({"option", "all",
+            "parallel=" + std::to_string(chance.between(world_.web.sparesHosts ? 6 : 5, kMostParallel))});
       break;
   }
 }

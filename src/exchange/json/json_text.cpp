@@ -36,6 +36,8 @@ Json libraryForm(JsonValue value) {
             object[std::move(name)] = libraryForm(std::move(member));
           }
           return object;
+        } else if constexpr (std::is_same_v<Kind, Nothing>) {
+          return nullptr;
         } else {
           return Json(std::move(content));
         }

@@ -11,6 +11,8 @@
 #include <variant>
 #include <vector>
 
+#include "base/nothing.h"
+
 namespace tarnwick {
 
 /// A value of JSON whose members keep their order: `JsonValue{{"idSite", 3}, {"url", jsonText(url)}}`. Texts are UTF-8;
@@ -20,7 +22,7 @@ class JsonValue {
   using Array = std::vector<JsonValue>;
   using Member = std::pair<std::string, JsonValue>;
   using Object = std::vector<Member>;
-  using Content = std::variant<std::nullptr_t, bool, std::int64_t, std::uint64_t, double, std::string, Array, Object>;
+  using Content = std::variant<Nothing, bool, std::int64_t, std::uint64_t, double, std::string, Array, Object>;
 
   /// null
   JsonValue() = default;
@@ -40,7 +42,7 @@ class JsonValue {
   static JsonValue array(const std::vector<std::string>& texts);
   static JsonValue object() { return JsonValue(Content(Object())); }
 
-  bool isNull() const { return std::holds_alternative<std::nullptr_t>(content_); }
+  bool isNull() const { return std::holds_alternative<Nothing>(content_); }
   bool isInteger() const {
     return std::holds_alternative<std::int64_t>(content_) || std::holds_alternative<std::uint64_t>(content_);
   }
@@ -67,7 +69,7 @@ class JsonValue {
  private:
   explicit JsonValue(Content content) : content_(std::move(content)) {}
 
-  Content content_{nullptr};
+  Content content_{};
 };
 
 }  // namespace tarnwick

@@ -39,7 +39,7 @@ class Binder {
     return sqlite3_bind_text64(prepared_, ++number_, bytes, text.size(), lifetime_, SQLITE_UTF8);
   }
   int operator()(const SqlValue& value) { return std::visit(*this, value.held()); }
-  int operator()(std::monostate) { return sqlite3_bind_null(prepared_, ++number_); }
+  int operator()(const Nothing&) { return sqlite3_bind_null(prepared_, ++number_); }
   int operator()(double number) { return sqlite3_bind_double(prepared_, ++number_, number); }
   int operator()(std::int64_t number) { return sqlite3_bind_int64(prepared_, ++number_, number); }
   int operator()(bool flag) { return (*this)(std::int64_t{flag}); }
