@@ -2,6 +2,7 @@
 #include "engine/alarm_policy.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -28,7 +29,14 @@ Reminders remindersOf(const std::string& value) {
   return {Reminders::Kind::regular, std::chrono::minutes(std::stoi(value))};
 }
 
+constexpr std::array kOptionsOfAlarm{
+    option_name::alerts, option_name::confirm, option_name::recovery,    option_name::remind, option_name::flapping,
+    option_name::slow,   option_name::quiet,   option_name::maintenance, option_name::pause,  option_name::ownNetwork,
+};
+
 }  // namespace
+
+bool isAlarmSet(const OptionsInForce& options) { return options.setsAnyOf(kOptionsOfAlarm); }
 
 seconds AlarmPolicy::repeatAfter(int failures) const {
   const std::vector<seconds>& pauses = confirmAfter.empty() ? usualPauses() : confirmAfter;

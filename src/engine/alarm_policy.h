@@ -43,6 +43,9 @@ struct AlarmPolicy {
   bool isOriginal() const;
 };
 
+/// Whether any option of the alarm is set, for a site or for all.
+bool isAlarmSet(const OptionsInForce& options);
+
 /// The policy of a site by what is set for it, and for all.
 AlarmPolicy alarmPolicyOf(const OptionsInForce& options, std::int64_t idSite);
 

@@ -353,10 +353,14 @@ SomeSites RunController::unwatched() {
   if (!running_) {
     return needs_.dueSites.activeSites();
   }
+  SomeSites some = overdue();
   if (somethingWasLeft_ || needs_.options.optionsInForce().newSitesAtOnce()) {
-    return {};
+    return some;
   }
-  return sites_.leftOut(busy_);
+  const SomeSites left = sites_.leftOut(busy_);
+  some.first = some.count == 0 || (left.count > 0 && left.first < some.first) ? left.first : some.first;
+  some.count += left.count;
+  return some;
 }
 
 SomeSites RunController::overdue() {

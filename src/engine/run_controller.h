@@ -95,7 +95,8 @@ class RunController {
   /// One that a pass has left out for it is due at once afterwards; a new one else follows the option `newSites`.
   void beingTyped(std::optional<std::int16_t> idSite);
   /// The active sites that nobody watches as things stand: while no run is on all of them, else those that this run
-  /// does not take, since they were never checked and have come after its Start. Raises DataAccessError.
+  /// does not take, since they were never checked and have come after its Start, and those that are overdue. Raises
+  /// DataAccessError.
   SomeSites unwatched();
   /// The active sites that a run has not checked for two intervals, though it should have. None while no run is on.
   /// Raises DataAccessError.

@@ -1,26 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "engine/site_alarms.h"
 
-#include <array>
 #include <limits>
 #include <utility>
 
 #include "alerts/alert_dispatch.h"
 
 namespace tarnwick {
-namespace {
-
-constexpr std::array kOptionsOfAlarm{
-    option_name::alerts, option_name::confirm, option_name::recovery,    option_name::remind, option_name::flapping,
-    option_name::slow,   option_name::quiet,   option_name::maintenance, option_name::pause,
-};
-
-}  // namespace
-
 void SiteAlarms::setOptions(OptionsInForce options) {
   options_ = std::move(options);
   policies_.clear();
-  watchesTime_ = options_.setsAnyOf(kOptionsOfAlarm);
+  watchesTime_ = isAlarmSet(options_);
 }
 
 const AlarmPolicy* SiteAlarms::policyOf(std::int64_t idSite) {

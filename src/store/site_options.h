@@ -30,6 +30,8 @@ class OptionsInForce {
   /// for all.
   std::optional<std::string> valueOf(std::int64_t idSite, std::string_view name) const;
 
+  /// Whether anything is set for this site alone.
+  bool hasOwn(std::int64_t idSite) const { return values_.contains(idSite); }
   /// Whether one of these is set for any site, or for all.
   bool setsAnyOf(std::span<const std::string_view> names) const;
 

@@ -57,6 +57,8 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   controls_ = layOutMaster(*canvas, sites_);
   setCentralWidget(canvas);
   notices_ = new Notices(program_, *controls_.noticeBar, *controls_.grid1, this);
+  marks_ = new AlarmMarks(program_, sites_, this);
+  connect(marks_, &AlarmMarks::pauseRead, notices_, &Notices::tellPaused);
   setObjectName(QStringLiteral("master"));
   setAccessibleName(QString::fromLatin1(kProductName));
   setWindowTitle(QString::fromLatin1(kProductName));
@@ -228,6 +230,7 @@ void Master::setCaption(const std::string& caption) { setWindowTitle(QString::fr
 void Master::fillGrid() {
   controls_.grid1->setSites(program_.data().getArraySites(0), program_.data().sitesNotFetched());
   notices_->look();
+  marks_->look();
 }
 
 QString Master::reasonOf(std::int16_t idSite) {
@@ -262,6 +265,7 @@ void Master::blinkLamps() {
     lamp->blink();
   }
   notices_->lookNowAndThen();
+  marks_->lookNowAndThen();
 }
 
 void Master::showClock(const std::string& text) { controls_.lClock->setText(displayMessage(text)); }
@@ -285,10 +289,16 @@ void Master::unbrighten(std::int16_t idSite) {
 void Master::updateGridRow(std::int16_t idSite, bool passed) {
   sites_.rowOfSite(idSite) < 0 ? fillGrid() : sites_.updateSite(program_.data().getArraySites(idSite));  // or new
   sites_.setResult(idSite, passed);
+  marks_->update(idSite);
 }
 
 void Master::showResult(const CheckResult& result) {
   sites_.setFetched(result.idSite, result.errCode == 0 && result.errDescription.empty());
+}
+
+void Master::showOffline(std::optional<LocalTime> since) {
+  notices_->tellOffline(since);
+  marks_->look();
 }
 
 void Master::setLastChecked(std::int16_t idSite, const std::string& dateTime) {

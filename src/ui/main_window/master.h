@@ -11,6 +11,7 @@
 #include "platform/services.h"
 #include "program/program.h"
 #include "ui/controls/site_editing.h"
+#include "ui/main_window/alarm_marks.h"
 #include "ui/main_window/master_layout.h"
 #include "ui/main_window/notices.h"
 #include "ui/main_window/site_grid_model.h"
@@ -58,6 +59,7 @@ class Master final : public QMainWindow, public RunView {
   void unbrighten(std::int16_t idSite) override;
   void updateGridRow(std::int16_t idSite, bool passed) override;
   void showResult(const CheckResult& result) override;
+  void showOffline(std::optional<LocalTime> since) override;
   void showLostMail(const LostMail& mail) override { notices_->add(mail); }
   void setLastChecked(std::int16_t idSite, const std::string& dateTime) override;
 
@@ -91,6 +93,7 @@ class Master final : public QMainWindow, public RunView {
   SiteGridModel sites_;
   MasterControls controls_{};
   Notices* notices_ = nullptr;  // the window's own
+  AlarmMarks* marks_ = nullptr;
   bool loaded_ = false;
   RunState state_ = RunState::stop;
   Editors editors_;

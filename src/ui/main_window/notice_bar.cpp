@@ -22,6 +22,7 @@ constexpr int kCorner = 3;
 constexpr int kLeastLetters = 14;
 // Longer texts are cut before they are measured: nobody reads them, and measuring takes its time.
 constexpr qsizetype kLongestMeasured = 1024;
+constexpr std::size_t kMostShown = 3;
 
 void paintLetter(QPainter& painter) {
   painter.drawRect(QRectF(0.7, 2.7, 12.6, 8.6));
@@ -37,18 +38,53 @@ void paintEye(QPainter& painter) {
   painter.drawEllipse(QPointF(7.0, 7.0), 1.8, 1.8);
 }
 
+// Two ends that do not meet.
+void paintPlug(QPainter& painter) {
+  painter.drawLine(QPointF(0.7, 7.0), QPointF(4.5, 7.0));
+  painter.drawLine(QPointF(9.5, 7.0), QPointF(13.3, 7.0));
+  painter.drawLine(QPointF(4.5, 4.0), QPointF(4.5, 10.0));
+  painter.drawLine(QPointF(9.5, 4.0), QPointF(9.5, 10.0));
+  painter.drawLine(QPointF(8.2, 2.0), QPointF(5.8, 12.0));
+}
+
+void paintBars(QPainter& painter) {
+  painter.drawRect(QRectF(3.0, 2.5, 2.0, 9.0));
+  painter.drawRect(QRectF(9.0, 2.5, 2.0, 9.0));
+}
+
+NoticeTone toneOf(Notice::Icon icon) {
+  return icon == Notice::Icon::letter || icon == Notice::Icon::eye ? NoticeTone::amber : NoticeTone::blue;
+}
+
 void paintIcon(QPainter& painter, Notice::Icon icon, const QPoint& place, const QColor& ink) {
   painter.save();
   painter.translate(place);
   painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.setBrush(Qt::NoBrush);
-  icon == Notice::Icon::letter ? paintLetter(painter) : paintEye(painter);
+  switch (icon) {
+    case Notice::Icon::unplugged:
+      paintPlug(painter);
+      break;
+    case Notice::Icon::letter:
+      paintLetter(painter);
+      break;
+    case Notice::Icon::eye:
+      paintEye(painter);
+      break;
+    case Notice::Icon::bars:
+      paintBars(painter);
+      break;
+  }
   painter.restore();
 }
 
 }  // namespace
 
-NoticeColours noticeColours(bool dark) {
+NoticeColours noticeColours(NoticeTone tone, bool dark) {
+  if (tone == NoticeTone::blue) {
+    return dark ? NoticeColours{QColor(0x20, 0x32, 0x4F), QColor(0xD5, 0xE4, 0xFA)}
+                : NoticeColours{QColor(0xDC, 0xE9, 0xFB), QColor(0x12, 0x30, 0x5C)};
+  }
   return dark ? NoticeColours{QColor(0x4A, 0x3A, 0x10), QColor(0xFF, 0xE9, 0xA8)}
               : NoticeColours{QColor(0xFF, 0xF0, 0xC2), QColor(0x3D, 0x2C, 0x00)};
 }
@@ -110,7 +146,7 @@ void Notice::explainWhatIsCut() {
 }
 
 void Notice::paintEvent(QPaintEvent*) {
-  const NoticeColours colours = noticeColours(isDark(palette()));
+  const NoticeColours colours = noticeColours(toneOf(icon_), isDark(palette()));
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
@@ -131,17 +167,26 @@ void Notice::paintEvent(QPaintEvent*) {
 }
 
 NoticeBar::NoticeBar(QWidget* parent) : QWidget(parent) {
-  outbox_ = new Notice(Notice::Icon::letter, this);
-  outbox_->setObjectName(QStringLiteral("noticeOutbox"));
-  unwatched_ = new Notice(Notice::Icon::eye, this);
-  unwatched_->setObjectName(QStringLiteral("noticeUnwatched"));
+  offline_ = add(Notice::Icon::unplugged, "noticeOffline");
+  outbox_ = add(Notice::Icon::letter, "noticeOutbox");
+  unwatched_ = add(Notice::Icon::eye, "noticeUnwatched");
+  paused_ = add(Notice::Icon::bars, "noticePaused");
+  more_ = new QLabel(this);
+  more_->setObjectName(QStringLiteral("noticeMore"));
+  more_->hide();
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   hide();
 }
 
+Notice* NoticeBar::add(Notice::Icon icon, const char* name) {
+  auto* notice = new Notice(icon, this);
+  notice->setObjectName(QString::fromLatin1(name));
+  return notice;
+}
+
 std::vector<Notice*> NoticeBar::shown() const {
-  std::vector<Notice*> notices{outbox_, unwatched_};
-  std::erase_if(notices, [](const Notice* notice) { return notice->isHidden(); });
+  std::vector<Notice*> notices{offline_, outbox_, unwatched_, paused_};
+  std::erase_if(notices, [](const Notice* notice) { return notice->sentence().isEmpty(); });
   return notices;
 }
 
@@ -161,11 +206,24 @@ void NoticeBar::resizeEvent(QResizeEvent* event) {
 
 // Where there is no room for all, the longest give way, and those that need less than their part keep what they need.
 void NoticeBar::arrange() {
-  const std::vector<Notice*> notices = shown();
+  std::vector<Notice*> notices = shown();
+  QStringList others;
+  while (notices.size() > kMostShown) {
+    others.prepend(notices.back()->sentence());
+    notices.back()->hide();
+    notices.pop_back();
+  }
+  for (Notice* notice : notices) {
+    notice->show();
+  }
+  more_->setText(QStringLiteral("+%1").arg(others.size()));
+  explain(*more_, others.join(QLatin1Char('\n')));
+  more_->setVisible(!others.isEmpty());
+  const int roomForMore = others.isEmpty() ? 0 : more_->sizeHint().width() + kGap;
   std::vector<Notice*> byLength = notices;
   std::ranges::sort(byLength, {}, [](const Notice* notice) { return notice->sizeHint().width(); });
   auto left = static_cast<int>(byLength.size());
-  int room = width() - (left - 1) * kGap;
+  int room = width() - roomForMore - (left - 1) * kGap;
   for (Notice* notice : byLength) {
     const int part = std::min(notice->sizeHint().width(), room / left--);
     notice->resize(part, height());
@@ -176,6 +234,7 @@ void NoticeBar::arrange() {
     notice->move(x, 0);
     x += notice->width() + kGap;
   }
+  more_->setGeometry(x, 0, roomForMore, height());
 }
 
 void NoticeBar::tell(Notice& notice, const QString& sentence, const QString& action, QWidget& heir) {

@@ -3,16 +3,19 @@
 
 #include <vector>
 #include <QColor>
+#include <QLabel>
 #include <QPushButton>
 
 namespace tarnwick {
 
-/// The colours of a notice that asks to be looked at, on a light desktop or a dark one.
+/// The colours of a notice, on a light desktop or a dark one: of one that asks to be looked at, or that tells how
+/// things are meant to be just now.
 struct NoticeColours {
   QColor fill;
   QColor ink;
 };
-NoticeColours noticeColours(bool dark);
+enum class NoticeTone { amber, blue };
+NoticeColours noticeColours(NoticeTone tone, bool dark);
 
 /// One notice: an icon, a sentence and its one action, underlined, which a click anywhere on it does. A sentence that
 /// does not fit is shortened at its end and told by the tooltip; its beginning, where the number stands, stays.
@@ -20,7 +23,7 @@ class Notice final : public QPushButton {
   Q_OBJECT
 
  public:
-  enum class Icon { letter, eye };
+  enum class Icon { unplugged, letter, eye, bars };
 
   explicit Notice(Icon icon, QWidget* parent = nullptr);
 
@@ -55,8 +58,10 @@ class NoticeBar final : public QWidget {
   explicit NoticeBar(QWidget* parent = nullptr);
 
   /// The notices, in the order in which they stand.
+  Notice& offline() { return *offline_; }
   Notice& outbox() { return *outbox_; }
   Notice& unwatched() { return *unwatched_; }
+  Notice& paused() { return *paused_; }
   /// The first notice that is there; null when all is well.
   Notice* first() const { return shown().empty() ? nullptr : shown().front(); }
 
@@ -72,10 +77,15 @@ class NoticeBar final : public QWidget {
 
  private:
   void arrange();
+  /// Those that have something to tell.
   std::vector<Notice*> shown() const;
+  Notice* add(Notice::Icon icon, const char* name);
 
+  Notice* offline_;
   Notice* outbox_;
   Notice* unwatched_;
+  Notice* paused_;
+  QLabel* more_;
 };
 
 }  // namespace tarnwick

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main_window/notices.h"
 
+#include <chrono>
 #include <exception>
 #include <string>
 #include <utility>
 #include <QGuiApplication>
 #include <QShortcut>
+#include <QTime>
 
 #include "platform/run_lock_file.h"
 #include "store/site_table.h"
@@ -20,6 +22,24 @@ constexpr int kAfterFault = 30000;
 constexpr std::size_t kMostListed = 20;
 constexpr qsizetype kLongestListed = 300;
 
+int secondsOfDay(LocalTime time) {
+  return static_cast<int>((time - std::chrono::floor<std::chrono::days>(time)).count());
+}
+
+/// "16:30" of today, "tomorrow 8:00", else with the date.
+QString whenText(LocalTime time, LocalTime now) {
+  const auto day = std::chrono::floor<std::chrono::days>(time);
+  const auto today = std::chrono::floor<std::chrono::days>(now);
+  const QString hour = QTime(0, 0).addSecs(secondsOfDay(time)).toString(QStringLiteral("H:mm"));
+  if (day == today) {
+    return hour;
+  }
+  if (day == today + std::chrono::days(1)) {
+    return Notices::tr("tomorrow %1").arg(hour);
+  }
+  return QString::fromStdString(dateText(time)) + QLatin1Char(' ') + hour;
+}
+
 /// Bytes of elsewhere, for a line among others.
 QString onOneLine(const QString& text) { return text.left(kLongestListed).simplified(); }
 
@@ -31,6 +51,8 @@ Notices::Notices(Program& program, NoticeBar& bar, SiteGridView& grid, QObject* 
   connect(&soon_, &QTimer::timeout, this, &Notices::countUnwatched);
   connect(&bar_.outbox(), &Notice::clicked, this, &Notices::listLost);
   connect(&bar_.unwatched(), &Notice::clicked, this, &Notices::helpUnwatched);
+  connect(&bar_.offline(), &Notice::clicked, this, [this] { program_.run().network().lookAtOnce(); });
+  connect(&bar_.paused(), &Notice::clicked, this, [this] { program_.faults().run([this] { resume(); }); });
   connect(new QShortcut(Qt::Key_F6, bar_.window()), &QShortcut::activated, this, &Notices::switchArea);
   // Whoever comes back to the window may have started or ended a run elsewhere.
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
@@ -57,7 +79,10 @@ void Notices::countUnwatched() {
       changes_.emplace(program_.data().database());
     }
     const bool isChanged = changes_->byAnyone();
-    if (!std::exchange(isStale_, false) && !isChanged) {
+    // A site may be overdue by nothing but the time.
+    const auto minute = std::chrono::floor<std::chrono::minutes>(program_.services().clock.steadyNow());
+    const bool isNewMinute = std::exchange(counted_, minute) != minute;
+    if (!std::exchange(isStale_, false) && !isChanged && !isNewMinute) {
       return;
     }
     const bool runIsOn = program_.run().running();
@@ -115,6 +140,28 @@ void Notices::add(const LostMail& mail) {
   }
   ++lostInAll_;
   tellLost();
+}
+
+void Notices::tellOffline(std::optional<LocalTime> since) {
+  const QString sentence =
+      since ? tr("This machine is offline since %1. Nothing is counted as down.").arg(whenText(*since, *since))
+            : QString();
+  bar_.tell(bar_.offline(), sentence, tr("Check Again"), grid_);
+}
+
+void Notices::tellPaused(const std::optional<Pause>& pause) {
+  QString sentence;
+  if (pause && pause->until) {
+    sentence = tr("Alerts are paused until %1.").arg(whenText(*pause->until, program_.services().clock.localNow()));
+  } else if (pause) {
+    sentence = tr("Alerts are paused for good.");
+  }
+  bar_.tell(bar_.paused(), sentence, tr("Resume"), grid_);
+}
+
+void Notices::resume() {
+  program_.data().removeOption(kAllSites, option_name::pause);
+  tellPaused(std::nullopt);
 }
 
 void Notices::tellLost() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -11,6 +12,7 @@
 
 #include "engine/run_view.h"
 #include "program/program.h"
+#include "store/alarm_values.h"
 #include "store/data_changes.h"
 #include "ui/main_window/notice_bar.h"
 #include "ui/main_window/site_grid_view.h"
@@ -27,6 +29,10 @@ class Notices final : public QObject {
   Notices(Program& program, NoticeBar& bar, SiteGridView& grid, QObject* parent);
 
   void add(const LostMail& mail);
+  /// Tells since when this machine is offline; nothing: it is not.
+  void tellOffline(std::optional<LocalTime> since);
+  /// Tells for how long all alerts are paused; nothing: they are not.
+  void tellPaused(const std::optional<Pause>& pause);
 
   /// The run or the list is not what it was: the unwatched sites are counted again as soon as events are taken in.
   void look();
@@ -45,6 +51,7 @@ class Notices final : public QObject {
   void tellUnwatched(std::int64_t count, bool runIsOn);
   void helpUnwatched();
   void showFirstUnwatched();
+  void resume();
   void tellLost();
   void listLost();
   void switchArea();
@@ -56,6 +63,7 @@ class Notices final : public QObject {
   std::size_t lostInAll_ = 0;
   QTimer soon_;
   bool isStale_ = true;
+  std::chrono::minutes counted_{};
   std::optional<DataChanges> changes_;
 };
 

@@ -35,7 +35,7 @@ SiteGridModel::Row SiteGridModel::readRow(const TextTable& sites, std::size_t ro
   } else if (!status.empty()) {
     shade = status == "True" ? Shade::up : Shade::down;
   }
-  Row read{{}, shade, true};
+  Row read{{}, shade};
   read.cells.reserve(columns_.size());
   for (const SiteColumn& column : columns_) {
     read.cells.push_back(cellOf(sites, column.field, row));
@@ -49,7 +49,7 @@ void SiteGridModel::setSites(const TextTable& sites, const std::set<std::int64_t
   std::unordered_map<std::int16_t, std::string> failed;  // known from the check itself, by its time
   for (const auto& [id, row] : rowsOfSite_) {
     Row& before = rows_[static_cast<std::size_t>(row)];
-    if (stateOf(before) == SiteState::noAnswer) {
+    if (before.shade == Shade::down && !before.fetched) {
       failed.emplace(id, std::move(before.cells[timeColumn]));
     }
   }
@@ -86,14 +86,34 @@ void SiteGridModel::updateSite(const TextTable& sites) {
   if (const auto id = idOf(site.cells[idColumn])) {
     changeRows(*id, [&](Row& row) {
       const bool fetched = row.fetched;
+      const Alarm alarm = row.alarm;
       row = site;
       row.fetched = fetched;
+      row.alarm = alarm;
     });
   }
 }
 
 void SiteGridModel::setFetched(std::int16_t idSite, bool fetched) {
   changeRows(idSite, [&](Row& row) { row.fetched = fetched; });
+}
+
+void SiteGridModel::setAlarm(int row, const AlarmView& view) {
+  if (row < 0 || row >= rowCount()) {
+    return;
+  }
+  const Alarm alarm{view.state, view.pause.has_value(), view.failures, view.confirm};
+  Row& shown = rows_[static_cast<std::size_t>(row)];
+  if (shown.alarm != alarm) {
+    shown.alarm = alarm;
+    repaintRow(row);
+  }
+}
+
+void SiteGridModel::clearAlarms() {
+  for (int row = 0; row < rowCount(); ++row) {
+    setAlarm(row, {.confirm = 0});
+  }
 }
 
 void SiteGridModel::setResult(std::int16_t idSite, bool passed) {
@@ -154,10 +174,14 @@ int SiteGridModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(columns_.size());
 }
 
-QColor SiteGridModel::colourOf(Shade shade) {
-  switch (shade) {
+// The stored result, but for what only an option brings.
+QColor SiteGridModel::colourOf(const Row& row) {
+  if (row.alarm.state == AlarmView::State::unknown && row.shade != Shade::inactive) {
+    return colourFromText(colours::kOffline);
+  }
+  switch (row.shade) {
     case Shade::up:
-      return colourFromText(colours::kUp);
+      return colourFromText(row.alarm.state == AlarmView::State::slow ? colours::kWarning : colours::kUp);
     case Shade::down:
       return colourFromText(colours::kDown);
     case Shade::inactive:
@@ -181,16 +205,33 @@ QString SiteGridModel::stateText(Shade shade) {
 }
 
 SiteState SiteGridModel::stateOf(const Row& row) {
+  using State = AlarmView::State;
+  if (row.shade != Shade::inactive && row.alarm.paused) {
+    return SiteState::paused;
+  }
+  if (row.shade != Shade::inactive && row.alarm.state == State::unknown) {
+    return SiteState::offline;
+  }
+  if ((row.shade == Shade::up || row.shade == Shade::down) && row.alarm.state == State::unsteady) {
+    return SiteState::unsteady;
+  }
   switch (row.shade) {
     case Shade::up:
-      return row.fetched ? SiteState::up : SiteState::notAPage;
+      return !row.fetched ? SiteState::notAPage : row.alarm.state == State::slow ? SiteState::slow : SiteState::up;
     case Shade::down:
+      if (row.alarm.state == State::unconfirmed) {
+        return SiteState::unconfirmed;
+      }
       return row.fetched ? SiteState::changed : SiteState::noAnswer;
     case Shade::inactive:
       return SiteState::inactive;
     default:
       return SiteState::never;
   }
+}
+
+QString SiteGridModel::wordOfRow(const Row& row) const {
+  return wordOf(stateOf(row), isMarked(row), row.alarm.failures, row.alarm.confirm);
 }
 
 SiteState SiteGridModel::stateOfRow(int row) const { return stateOf(rows_.at(static_cast<std::size_t>(row))); }
@@ -210,7 +251,7 @@ QColor SiteGridModel::background(const QModelIndex& index) const {
       }
     }
   }
-  return colourOf(row.shade);
+  return colourOf(row);
 }
 
 QVariant SiteGridModel::data(const QModelIndex& index, int role) const {
@@ -230,11 +271,11 @@ QVariant SiteGridModel::data(const QModelIndex& index, int role) const {
       return alignmentOf(columns_[static_cast<std::size_t>(index.column())]);
     case stateRole:
       return static_cast<int>(stateOf(row));
-    case testingRole:
-      return isMarked(row);
+    case wordRole:
+      return wordOfRow(row);
     case Qt::AccessibleTextRole:
       if (index.column() == idColumn) {
-        return QStringLiteral("%1, %2").arg(displayText(text), wordOf(stateOf(row), isMarked(row)));
+        return QStringLiteral("%1, %2").arg(displayText(text), wordOfRow(row));
       }
       // The colour's meaning in words, for those who do not see it.
       return index.column() == urlColumn ? QStringLiteral("%1, %2").arg(displayText(text), stateText(row.shade))

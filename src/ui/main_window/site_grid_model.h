@@ -10,6 +10,7 @@
 #include <QAbstractTableModel>
 #include <QColor>
 
+#include "engine/alarm_view.h"
 #include "store/text_table.h"
 #include "ui/main_window/site_columns.h"
 #include "ui/main_window/site_state.h"
@@ -30,8 +31,8 @@ class SiteGridModel final : public QAbstractTableModel {
 
   SiteColumns columns() const { return columns_; }
 
-  /// The roles of the "ID" cell beside the usual ones: a `SiteState`, and whether the site is being tested.
-  enum Role { stateRole = Qt::UserRole, testingRole };
+  /// The roles of the "ID" cell beside the usual ones: a `SiteState`, and the word for it.
+  enum Role { stateRole = Qt::UserRole, wordRole };
 
   /// Shows the sites of a whole site list in place of what was shown. Marks of sites that are still there stay.
   /// `notFetched` are those whose last check brought no page, as far as that is stored; what `setFetched` told of a
@@ -44,6 +45,11 @@ class SiteGridModel final : public QAbstractTableModel {
   /// Paints the site's rows for a result; a site that is not active stays grey. Ends its mark.
   void setResult(std::int16_t idSite, bool passed);
   void setLastChecked(std::int16_t idSite, const std::string& dateTime);
+
+  /// Says in a row what there is to be seen of its site's alarm. Nothing for a row that there is not.
+  void setAlarm(int row, const AlarmView& view);
+  /// Says nothing of it in any row.
+  void clearAlarms();
 
   /// Marks the site: adds `amount` to each part of the colour that its "URL" cell has now, and paints its "ID" and
   /// "URL" cells so.
@@ -69,14 +75,26 @@ class SiteGridModel final : public QAbstractTableModel {
  private:
   enum class Shade { unjudged, up, down, inactive };
 
+  // What is seen of a site's alarm.
+  struct Alarm {
+    AlarmView::State state = AlarmView::State::none;
+    bool paused = false;
+    int failures = 0;
+    int confirm = 0;
+
+    bool operator==(const Alarm&) const = default;
+  };
+
   struct Row {
     std::vector<std::string> cells;  // one a column
     Shade shade = Shade::unjudged;
     bool fetched = true;  // the last check brought a page
+    Alarm alarm{};
   };
 
   Row readRow(const TextTable& sites, std::size_t row) const;
-  static QColor colourOf(Shade shade);
+  static QColor colourOf(const Row& row);
+  QString wordOfRow(const Row& row) const;
   static QString stateText(Shade shade);
   static SiteState stateOf(const Row& row);
   bool isMarked(const Row& row) const;

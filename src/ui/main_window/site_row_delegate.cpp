@@ -25,8 +25,8 @@ void paintState(QPainter& painter, const QStyleOptionViewItem& option, const QMo
   const QRect texts = cell.adjusted(kIconLeft + kIconSize + kGap, 0, -kGap, 0);
   const QString number = index.data().toString();
   const int room = texts.width() - option.fontMetrics.horizontalAdvance(number) - kGap;
-  const QString word = option.fontMetrics.elidedText(wordOf(state, index.data(SiteGridModel::testingRole).toBool()),
-                                                     Qt::ElideRight, room);
+  const QString word =
+      option.fontMetrics.elidedText(index.data(SiteGridModel::wordRole).toString(), Qt::ElideRight, room);
   painter.save();
   painter.setPen(ink);
   painter.setFont(option.font);

@@ -47,7 +47,7 @@ class Sketch {
 
 }  // namespace
 
-QString wordOf(SiteState state, bool testing) {
+QString wordOf(SiteState state, bool testing, int failures, int confirm) {
   if (testing) {
     return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "testing …"));
   }
@@ -62,6 +62,16 @@ QString wordOf(SiteState state, bool testing) {
       return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "not active"));
     case SiteState::notAPage:
       return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "not a page"));
+    case SiteState::unconfirmed:
+      return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "%1 of %2")).arg(failures).arg(confirm);
+    case SiteState::unsteady:
+      return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "unsteady"));
+    case SiteState::slow:
+      return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "slow"));
+    case SiteState::paused:
+      return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "paused"));
+    case SiteState::offline:
+      return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "offline"));
     default:
       return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "never"));
   }
@@ -90,6 +100,28 @@ void paintIcon(QPainter& painter, const QRectF& box, SiteState state, const QCol
       sketch.line({{2.5, 1}, {8.5, 1}, {11.5, 4}, {11.5, 13}, {2.5, 13}, {2.5, 1}});
       sketch.line({{7, 4.5}, {7, 8.2}});
       sketch.line({{7, 10.6}, {7, 10.7}});
+      break;
+    case SiteState::unconfirmed:  // a triangle with an exclamation mark
+      sketch.thin();
+      sketch.line({{7, 1.5}, {13, 12.5}, {1, 12.5}, {7, 1.5}});
+      sketch.line({{7, 5.5}, {7, 8.6}});
+      sketch.line({{7, 10.7}, {7, 10.8}});
+      break;
+    case SiteState::unsteady:  // a zigzag
+      sketch.line({{1.5, 9}, {4.5, 4}, {7, 10}, {9.5, 4}, {12.5, 9}});
+      break;
+    case SiteState::slow:  // a clock
+      sketch.thin();
+      sketch.circle(5.5);
+      sketch.line({{7, 3.8}, {7, 7}, {9.6, 8.4}});
+      break;
+    case SiteState::paused:  // two bars
+      sketch.line({{4.5, 3}, {4.5, 11}});
+      sketch.line({{9.5, 3}, {9.5, 11}});
+      break;
+    case SiteState::offline:  // a question mark
+      sketch.line({{4, 4.6}, {4.6, 2.9}, {7, 2}, {9.4, 2.9}, {10, 4.8}, {9.2, 6.4}, {7, 7.6}, {7, 9}});
+      sketch.line({{7, 12}, {7, 12.1}});
       break;
     default:  // an empty circle
       sketch.thin();

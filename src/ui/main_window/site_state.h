@@ -11,20 +11,36 @@ namespace tarnwick {
 /// How a site stands by its last check.
 enum class SiteState {
   up,
-  changed,   ///< the page differs from the baseline
-  noAnswer,  ///< no page came
-  inactive,  ///< left out of runs
-  never,     ///< never judged
-  notAPage,  ///< up only because the text of a fetch that fails is its baseline
+  changed,      ///< the page differs from the baseline
+  noAnswer,     ///< no page came
+  inactive,     ///< left out of runs
+  never,        ///< never judged
+  notAPage,     ///< up only because the text of a fetch that fails is its baseline
+  unconfirmed,  ///< has failed, and not often enough yet to be told
+  unsteady,     ///< changes between up and down all the time
+  slow,         ///< up, but its page took long
+  paused,       ///< nothing is told of it for a time
+  offline,      ///< not known, since this machine is offline
 };
 
 /// Whether there is something to be told of why it is so.
 constexpr bool needsReason(SiteState state) {
-  return state == SiteState::changed || state == SiteState::noAnswer || state == SiteState::notAPage;
+  switch (state) {
+    case SiteState::changed:
+    case SiteState::noAnswer:
+    case SiteState::notAPage:
+    case SiteState::unconfirmed:
+    case SiteState::unsteady:
+    case SiteState::paused:
+      return true;
+    default:
+      return false;
+  }
 }
 
 /// The state in a word or two; that of a site which is being tested says so.
-QString wordOf(SiteState state, bool testing = false);
+/// Of an unconfirmed one it tells how many failures there are, and how many it takes.
+QString wordOf(SiteState state, bool testing = false, int failures = 0, int confirm = 0);
 
 /// Draws the state's icon, a shape of its own, in `ink` into `box`, which is square. Nothing is scaled: lines are drawn
 /// at the size that they have on the screen.
