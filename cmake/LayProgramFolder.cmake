@@ -1,6 +1,6 @@
 # Lays the files of ASSETS into the program folder FOLDER, and where these are given the pages of the help that lie in
 # HELP and the translations that lie in TRANSLATIONS. What is there is brought up to date. What the user may change (the
-# database, the mail template, the report) is none of it: the program's first start lays that, from the folder `fresh`.
+# database, the mail templates, the report) is none of it: the program's first start lays that, from the folder `fresh`.
 # Needs the sqlite3 tool SQLITE3.
 file(MAKE_DIRECTORY "${FOLDER}/images" "${FOLDER}/reports" "${FOLDER}/fresh")
 set(readable PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
@@ -23,6 +23,7 @@ function(lay from name)
 endfunction()
 
 lay("${ASSETS}/email.txt" fresh/email.txt)
+lay("${ASSETS}/recovered.txt" fresh/recovered.txt)
 lay("${ASSETS}/help.html" help.html)
 file(GLOB images RELATIVE "${ASSETS}" "${ASSETS}/images/*.bmp" "${ASSETS}/images/*.png")
 foreach(file IN LISTS images ITEMS reports/green.jpg reports/red.jpg)

@@ -45,7 +45,7 @@ add_custom_target(completions ALL DEPENDS ${completion_files})
 # What the programs need of their folder, without what each user has of his own.
 install(TARGETS tarnwickctl RUNTIME DESTINATION ${shared} COMPONENT cli)
 install(FILES ${packaging}/shared-installation.txt DESTINATION ${shared} COMPONENT cli)
-install(FILES ${TARNWICK_FOLDER}/fresh/tarnwick.mdb assets/email.txt DESTINATION ${shared}/fresh COMPONENT cli)
+install(FILES ${TARNWICK_FOLDER}/fresh/tarnwick.mdb assets/email.txt assets/recovered.txt DESTINATION ${shared}/fresh COMPONENT cli)
 install(FILES assets/reports/green.jpg assets/reports/red.jpg DESTINATION ${shared}/reports COMPONENT cli)
 install(TARGETS tarnwick RUNTIME DESTINATION ${shared} COMPONENT window)
 install(FILES assets/help.html DESTINATION ${shared} COMPONENT window)

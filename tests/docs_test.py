@@ -59,6 +59,7 @@ NO_MESSAGES = {
         "As its content", "CSV of", "JSON of", "List of", "List or", "Bookmarks of", "&Kind of", "Lists and", "Jet database")),
     "src/ui/settings/control_dialog.cpp": ("the kinds of files in the file dialog", ("Audio Files", "Program Files")),
     "src/app/window_arguments.cpp": ("what --help prints", ("Usage:",)),
+    "src/alerts/alert_dispatch.cpp": ("the sample for a program that is tried", ("The connection was refused",)),
     "src/alerts/event_texts.cpp": ("subjects and texts of the mails", ()),
     "src/cli/verbs/command_line.cpp": ("the tool's own help", ("Tarnwick watches", "Exit status:")),
     "src/cli/verbs/completion.cpp": ("what shells read", ()),

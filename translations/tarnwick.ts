@@ -3051,6 +3051,238 @@
         <source>hosts parted by commas, as in &quot;example.org, 192.0.2.1:53&quot;, or &quot;none&quot;</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>This machine is offline since %1. Nothing is counted as down.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting: the sites that are due are in their quiet hours.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>up (paused)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down (paused)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not a page (paused)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>- (paused)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unconfirmed (%1 of %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unconfirmed (%1 of %2) (paused)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unsteady</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unsteady (paused)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>slow (paused)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown (paused)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>since %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quiet now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its alerts are kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unwatched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no run is on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>never checked, and not taken on by the run that is on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not checked for two intervals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not checked at this time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 active site is not watched, since no run is on. Start one with: tarnwickctl run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 active sites are not watched, since no run is on. Start one with: tarnwickctl run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 active site was never checked, and the run that is on does not take it on. Check it with: tarnwickctl check %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 active sites were never checked, and the run that is on does not take them on. Check the first with: tarnwickctl check %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 active site has not been checked for two of its intervals, though a run is on. See whether it is held up, or stop it and start it anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 active sites have not been checked for two of their intervals, though a run is on. See whether it is held up, or stop it and start it anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 active site is not checked at this time, as its quiet hours or its maintenance say.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 active sites are not checked at this time, as their quiet hours or their maintenance say.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The alerts of %1 are paused %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The alerts of %1 are not paused any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sites %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has gone by already. Name a moment that lies ahead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no span. Write it as 90s, 30m, 2h or 1d, of ten years at most.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;YYYY-MM-DD HH:MM&quot;, HH:MM, &quot;today HH:MM&quot;, &quot;tomorrow HH:MM&quot; or tomorrow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By options of the alarm it may be &quot;unconfirmed (1 of 3)&quot;, &quot;unsteady&quot; or &quot;slow&quot;, and &quot;unknown&quot; while</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this machine is offline; &quot;(paused)&quot; behind it says that nothing is told.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell nothing of some sites, or of all, for a while</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The ids of the sites, as the verb sites lists them; all of them without one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>So long: 30m, 2h, 1d; an hour without it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Until then: &quot;2026-12-01 08:00&quot;, 18:00, &quot;tomorrow 8:00&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Until the verb resume ends it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sites are checked and recorded all the same. What is down then is told when the pause ends.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all sites, for an hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>two sites, for two days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the night is quiet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End the pause of some sites, or of all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without a site all pauses end, those of single sites too. A site that is named is told of again also</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>while all others are paused.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>every pause that there is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>that of one site</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -3051,6 +3051,238 @@
         <source>hosts parted by commas, as in &quot;example.org, 192.0.2.1:53&quot;, or &quot;none&quot;</source>
         <translation>Rechner, durch Kommas getrennt, etwa &quot;example.org, 192.0.2.1:53&quot;, oder &quot;none&quot;</translation>
     </message>
+    <message>
+        <source>This machine is offline since %1. Nothing is counted as down.</source>
+        <translation>Dieser Rechner ist seit %1 offline. Nichts gilt als gestört.</translation>
+    </message>
+    <message>
+        <source>Waiting: the sites that are due are in their quiet hours.</source>
+        <translation>Warten: Die fälligen Seiten haben gerade Ruhezeit.</translation>
+    </message>
+    <message>
+        <source>up (paused)</source>
+        <translation>up (pausiert)</translation>
+    </message>
+    <message>
+        <source>down (paused)</source>
+        <translation>down (pausiert)</translation>
+    </message>
+    <message>
+        <source>not a page (paused)</source>
+        <translation>keine Seite (pausiert)</translation>
+    </message>
+    <message>
+        <source>- (paused)</source>
+        <translation>- (pausiert)</translation>
+    </message>
+    <message>
+        <source>unconfirmed (%1 of %2)</source>
+        <translation>unbestätigt (%1 von %2)</translation>
+    </message>
+    <message>
+        <source>unconfirmed (%1 of %2) (paused)</source>
+        <translation>unbestätigt (%1 von %2) (pausiert)</translation>
+    </message>
+    <message>
+        <source>unsteady</source>
+        <translation>unruhig</translation>
+    </message>
+    <message>
+        <source>unsteady (paused)</source>
+        <translation>unruhig (pausiert)</translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation>langsam</translation>
+    </message>
+    <message>
+        <source>slow (paused)</source>
+        <translation>langsam (pausiert)</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>unknown (paused)</source>
+        <translation>unbekannt (pausiert)</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>since %1</source>
+        <translation>seit %1</translation>
+    </message>
+    <message>
+        <source>First error</source>
+        <translation>Erster Fehler</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Pausiert</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>bis %1</translation>
+    </message>
+    <message>
+        <source>for good</source>
+        <translation>auf Dauer</translation>
+    </message>
+    <message>
+        <source>Quiet now</source>
+        <translation>Jetzt Ruhe</translation>
+    </message>
+    <message>
+        <source>it is not checked</source>
+        <translation>sie wird nicht geprüft</translation>
+    </message>
+    <message>
+        <source>its alerts are kept</source>
+        <translation>ihre Alarme werden aufgehoben</translation>
+    </message>
+    <message>
+        <source>Unwatched</source>
+        <translation>Unbeobachtet</translation>
+    </message>
+    <message>
+        <source>no run is on</source>
+        <translation>kein Lauf ist im Gange</translation>
+    </message>
+    <message>
+        <source>never checked, and not taken on by the run that is on</source>
+        <translation>nie geprüft, und der Lauf, der im Gange ist, nimmt sie nicht auf</translation>
+    </message>
+    <message>
+        <source>not checked for two intervals</source>
+        <translation>zwei Intervalle lang nicht geprüft</translation>
+    </message>
+    <message>
+        <source>not checked at this time</source>
+        <translation>zu dieser Zeit nicht geprüft</translation>
+    </message>
+    <message>
+        <source>1 active site is not watched, since no run is on. Start one with: tarnwickctl run</source>
+        <translation>1 aktive Seite wird nicht beobachtet, da kein Lauf im Gange ist. Starten Sie einen mit: tarnwickctl run</translation>
+    </message>
+    <message>
+        <source>%1 active sites are not watched, since no run is on. Start one with: tarnwickctl run</source>
+        <translation>%1 aktive Seiten werden nicht beobachtet, da kein Lauf im Gange ist. Starten Sie einen mit: tarnwickctl run</translation>
+    </message>
+    <message>
+        <source>1 active site was never checked, and the run that is on does not take it on. Check it with: tarnwickctl check %1</source>
+        <translation>1 aktive Seite wurde nie geprüft, und der Lauf, der im Gange ist, nimmt sie nicht auf. Prüfen Sie sie mit: tarnwickctl check %1</translation>
+    </message>
+    <message>
+        <source>%1 active sites were never checked, and the run that is on does not take them on. Check the first with: tarnwickctl check %2</source>
+        <translation>%1 aktive Seiten wurden nie geprüft, und der Lauf, der im Gange ist, nimmt sie nicht auf. Prüfen Sie die erste mit: tarnwickctl check %2</translation>
+    </message>
+    <message>
+        <source>1 active site has not been checked for two of its intervals, though a run is on. See whether it is held up, or stop it and start it anew.</source>
+        <translation>1 aktive Seite wurde zwei ihrer Intervalle lang nicht geprüft, obwohl ein Lauf im Gange ist. Sehen Sie nach, ob er aufgehalten wird, oder beenden Sie ihn und starten Sie ihn neu.</translation>
+    </message>
+    <message>
+        <source>%1 active sites have not been checked for two of their intervals, though a run is on. See whether it is held up, or stop it and start it anew.</source>
+        <translation>%1 aktive Seiten wurden zwei ihrer Intervalle lang nicht geprüft, obwohl ein Lauf im Gange ist. Sehen Sie nach, ob er aufgehalten wird, oder beenden Sie ihn und starten Sie ihn neu.</translation>
+    </message>
+    <message>
+        <source>1 active site is not checked at this time, as its quiet hours or its maintenance say.</source>
+        <translation>1 aktive Seite wird zu dieser Zeit nicht geprüft, so sagen es ihre Ruhezeiten oder ihre Wartung.</translation>
+    </message>
+    <message>
+        <source>%1 active sites are not checked at this time, as their quiet hours or their maintenance say.</source>
+        <translation>%1 aktive Seiten werden zu dieser Zeit nicht geprüft, so sagen es ihre Ruhezeiten oder ihre Wartung.</translation>
+    </message>
+    <message>
+        <source>The alerts of %1 are paused %2.</source>
+        <translation>Die Alarme von %1 pausieren %2.</translation>
+    </message>
+    <message>
+        <source>The alerts of %1 are not paused any more.</source>
+        <translation>Die Alarme von %1 pausieren nicht mehr.</translation>
+    </message>
+    <message>
+        <source>sites %1</source>
+        <translation>Seiten %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has gone by already. Name a moment that lies ahead.</source>
+        <translation>&quot;%1&quot; ist schon vorbei. Nennen Sie einen Zeitpunkt, der noch kommt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no span. Write it as 90s, 30m, 2h or 1d, of ten years at most.</source>
+        <translation>&quot;%1&quot; ist keine Zeitspanne. Schreiben Sie sie als 90s, 30m, 2h oder 1d, höchstens zehn Jahre.</translation>
+    </message>
+    <message>
+        <source>&quot;YYYY-MM-DD HH:MM&quot;, HH:MM, &quot;today HH:MM&quot;, &quot;tomorrow HH:MM&quot; or tomorrow</source>
+        <translation>&quot;JJJJ-MM-TT HH:MM&quot;, HH:MM, &quot;today HH:MM&quot;, &quot;tomorrow HH:MM&quot; oder tomorrow</translation>
+    </message>
+    <message>
+        <source>By options of the alarm it may be &quot;unconfirmed (1 of 3)&quot;, &quot;unsteady&quot; or &quot;slow&quot;, and &quot;unknown&quot; while</source>
+        <translation>Nach Optionen des Alarms auch &quot;unbestätigt (1 von 3)&quot;, &quot;unruhig&quot;, &quot;langsam&quot;, und &quot;unbekannt&quot;, solange</translation>
+    </message>
+    <message>
+        <source>this machine is offline; &quot;(paused)&quot; behind it says that nothing is told.</source>
+        <translation>dieser Rechner offline ist; &quot;(pausiert)&quot; dahinter heißt, dass nichts gemeldet wird.</translation>
+    </message>
+    <message>
+        <source>Tell nothing of some sites, or of all, for a while</source>
+        <translation>Von einigen Seiten oder von allen eine Weile nichts melden</translation>
+    </message>
+    <message>
+        <source>The ids of the sites, as the verb sites lists them; all of them without one</source>
+        <translation>Die IDs der Seiten, wie sites sie auflistet; ohne eine alle</translation>
+    </message>
+    <message>
+        <source>So long: 30m, 2h, 1d; an hour without it</source>
+        <translation>So lange: 30m, 2h, 1d; ohne Angabe eine Stunde</translation>
+    </message>
+    <message>
+        <source>Until then: &quot;2026-12-01 08:00&quot;, 18:00, &quot;tomorrow 8:00&quot;</source>
+        <translation>Bis dann: &quot;2026-12-01 08:00&quot;, 18:00, &quot;tomorrow 8:00&quot;</translation>
+    </message>
+    <message>
+        <source>Until the verb resume ends it</source>
+        <translation>Bis das Verb resume sie beendet</translation>
+    </message>
+    <message>
+        <source>The sites are checked and recorded all the same. What is down then is told when the pause ends.</source>
+        <translation>Die Seiten werden weiter geprüft. Was am Ende der Pause gestört ist, wird dann gemeldet.</translation>
+    </message>
+    <message>
+        <source>all sites, for an hour</source>
+        <translation>alle Seiten, für eine Stunde</translation>
+    </message>
+    <message>
+        <source>two sites, for two days</source>
+        <translation>zwei Seiten, für zwei Tage</translation>
+    </message>
+    <message>
+        <source>the night is quiet</source>
+        <translation>die Nacht ist ruhig</translation>
+    </message>
+    <message>
+        <source>End the pause of some sites, or of all</source>
+        <translation>Die Pause einiger Seiten oder aller beenden</translation>
+    </message>
+    <message>
+        <source>Without a site all pauses end, those of single sites too. A site that is named is told of again also</source>
+        <translation>Ohne eine Seite enden alle Pausen, auch die einzelner Seiten. Eine genannte Seite wird wieder</translation>
+    </message>
+    <message>
+        <source>while all others are paused.</source>
+        <translation>gemeldet, auch während alle anderen pausieren.</translation>
+    </message>
+    <message>
+        <source>every pause that there is</source>
+        <translation>jede Pause, die es gibt</translation>
+    </message>
+    <message>
+        <source>that of one site</source>
+        <translation>die einer Seite</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -3812,7 +4044,7 @@
     </message>
     <message>
         <source>Unsteady: more changes than</source>
-        <translation>Unstet: mehr Wechsel als</translation>
+        <translation>Unruhig: mehr Wechsel als</translation>
     </message>
     <message>
         <source>What follows the first alert of an outage: one every so many minutes, one after 1, 2, 4 ... hours (&quot;growing&quot;), none (&quot;never&quot;) or one with every failed check</source>

@@ -20,6 +20,7 @@ namespace {
 
 /// The site id of a test alert.
 constexpr const char* kSampleSite = "27";
+constexpr const char* kSampleError = "The connection was refused.";
 
 bool isFile(FileSystem& files, const std::string& path) {
   return path.find('\0') == std::string::npos && files.kindOf(path) == FileKind::file;
@@ -88,7 +89,7 @@ void AlertDispatch::sendAlerts(std::int16_t idSite, AlertKind kind, const Outage
   const Site site = readSite(idSite);
   const EventTexts& texts = textsOf(kind);
   AlertFacts facts = factsOf(site.url, std::to_string(idSite), site.email);
-  facts.event = eventOf(texts.word, outage);
+  facts.event = eventOf(kind, outage);
 
   mailOutcome_ = byMail && site.alertEmail ? sendMail({facts.email, texts.subject, bodyOf(texts, facts)}, server, from)
                                            : MailOutcome{};
@@ -119,7 +120,10 @@ void AlertDispatch::sendOnlineNotice(LocalTime since, LocalTime until) {
 }
 
 void AlertDispatch::testShellExecuteAlert(const std::string& command) {
-  const AlertFacts facts = factsOf(kProductHomePage, kSampleSite, settings_.getControl("email").toText());
+  AlertFacts facts = factsOf(kProductHomePage, kSampleSite, settings_.getControl("email").toText());
+  const LocalTime now = services_.clock.localNow();
+  facts.event = eventOf(textsOf(AlertKind::down).word,
+                        {.since = now - std::chrono::minutes(2), .checks = 3, .firstError = kSampleError, .now = now});
   shellProgram(fillCommand(std::string(trimmed(command, " ")), facts, services_.clock));
 }
 

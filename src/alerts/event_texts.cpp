@@ -89,6 +89,10 @@ AlertEvent eventOf(std::string_view word, const OutageFacts& outage) {
           outage.firstError};
 }
 
+AlertEvent eventOf(AlertKind kind, const OutageFacts& outage) {
+  return eventOf(textsOf(kind).word, kind == AlertKind::slow ? OutageFacts{.now = outage.now} : outage);
+}
+
 std::string spanText(std::chrono::seconds span) {
   struct Unit {
     std::chrono::seconds length;

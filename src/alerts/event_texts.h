@@ -33,6 +33,8 @@ const EventTexts& textsOf(AlertKind kind);
 const EventTexts& textsOfReturn();
 
 AlertEvent eventOf(std::string_view word, const OutageFacts& outage);
+/// One that is slow is up: nothing is told of the outage that it had before.
+AlertEvent eventOf(AlertKind kind, const OutageFacts& outage);
 
 /// A span as people write it, of its two largest units: "45 s", "1 h 12 min", "3 d 4 h". None is "0 s".
 std::string spanText(std::chrono::seconds span);

@@ -79,6 +79,22 @@ OptionValues SiteOptions::options(std::int16_t idSite) {
   return values;
 }
 
+std::map<std::int16_t, std::string> SiteOptions::ownValues(std::string_view name) {
+  std::map<std::int16_t, std::string> values;
+  if (!hasTable(db_)) {
+    return values;
+  }
+  const std::array<SqlValue, 1> key{SqlValue(optionField(name).name)};
+  const auto rows = db_.conn().execute("select idSite, value from siteOptions where name = ?1 and idSite <> 0", key);
+  for (; !rows->eof(); rows->moveNext()) {
+    const std::int64_t id = rows->field(std::size_t{0}).toInt64();
+    if (std::in_range<std::int16_t>(id)) {
+      values.emplace(static_cast<std::int16_t>(id), rows->field(std::size_t{1}).toText());
+    }
+  }
+  return values;
+}
+
 std::optional<std::string> takenOption(const std::vector<OptionField>& fields, std::int64_t idSite,
                                        std::string_view name, std::string_view value) {
   const auto field = std::ranges::find(fields, name, &OptionField::name);

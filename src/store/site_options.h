@@ -64,6 +64,8 @@ class SiteOptions {
 
   /// What is set for one site alone, or for all (`kAllSites`); also what this program has no field for.
   OptionValues options(std::int16_t idSite);
+  /// Which sites have a value of their own of that option; without those whose ids are outside 16 bits.
+  std::map<std::int16_t, std::string> ownValues(std::string_view name);
   /// What is set for each site and for all.
   OptionsInForce optionsInForce() { return readOptions(db_, fields_); }
 

@@ -36,7 +36,7 @@ HELP_FILES = {"help/style.css", *(f"help/{text.stem}.html" for text in GUIDE),
                 for name in re.findall(r"!\[.*?\]\(\S*images/(.+?)\)", text.read_text(encoding="utf-8")))}
 PROGRAM_FILES = {"help.html", "images/logosmall.bmp", "images/tarnwick.png", "reports/green.jpg", "reports/red.jpg",
                  *PICTURES, *HELP_FILES}
-USER_FILES = {"tarnwick.mdb", "email.txt"}
+USER_FILES = {"tarnwick.mdb", "email.txt", "recovered.txt"}
 ICON_SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
 
 
@@ -148,7 +148,7 @@ def makes_the_packages(case: Case) -> None:
 
 def expect_program_folder(folder: Path, *more: str) -> None:
     """Nothing in it is the user's: whatever it is laid over, no list and no template is touched."""
-    expected = {*PROGRAMS, *PROGRAM_FILES, "fresh/tarnwick.mdb", "fresh/email.txt", *more}
+    expected = {*PROGRAMS, *PROGRAM_FILES, "fresh/tarnwick.mdb", "fresh/email.txt", "fresh/recovered.txt", *more}
     expect(without_translations(files_in(folder)) == expected,
            f"the folder differs: {without_translations(files_in(folder)) ^ expected}")
     expect(rows(folder / "fresh/tarnwick.mdb", "select count(*) from sites") == [(0,)], "the database is not fresh")
@@ -308,7 +308,8 @@ def debian_packages_lie_in_the_systems_places(case: Case) -> None:
 
     bars = {"reports/green.jpg", "reports/red.jpg"}
     cli = documentation("tarnwick-cli", "tarnwickctl") | {
-        f"lib/tarnwick/{name}" for name in ("shared-installation.txt", "fresh/tarnwick.mdb", "fresh/email.txt", *bars)} | {
+        f"lib/tarnwick/{name}" for name in ("shared-installation.txt", "fresh/tarnwick.mdb", "fresh/email.txt",
+                                     "fresh/recovered.txt", *bars)} | {
         "lib/systemd/system/tarnwick.service", "lib/sysusers.d/tarnwick.conf",
         "share/bash-completion/completions/tarnwickctl", "share/fish/vendor_completions.d/tarnwickctl.fish"}
     zsh = {"share/zsh/vendor-completions/_tarnwickctl", "share/zsh/site-functions/_tarnwickctl"}

@@ -51,6 +51,7 @@ void RunTerminal::prepare(m& data) {
 
 void RunTerminal::begin() {
   begun_ = true;
+  begunAt_ = clock_.steadyNow();
   tell("Run started: " + sitesText(active_) + " active in " + visibleText(data_->programFolder()) + ".", "started",
        [&] {
          return JsonValue{{"folder", jsonText(data_->programFolder())}, {"active", active_}};
@@ -149,9 +150,22 @@ void RunTerminal::endPass() {
   if (count > 0) {
     tell("Checked " + sitesText(count) + ": " + countText(pass.up, pass.down) + leftOutText(pass.leftOutMails) + ".",
          "pass", [&] {
-           return JsonValue{{"up", pass.up}, {"down", pass.down}};
+           JsonValue json{{"up", pass.up}, {"down", pass.down}};
+           addUnwatched(json);
+           return json;
          });
     forgetWhatIsNotWatched();
+  }
+}
+
+// Who watches the watcher by a script is told which sites the run does not check.
+void RunTerminal::addUnwatched(JsonValue& json) {
+  if (const std::int64_t count = data_->neverChecked().count; count > 0 && !data_->optionsInForce().newSitesAtOnce()) {
+    json["neverChecked"] = count;
+  }
+  const auto runFor = std::chrono::floor<std::chrono::seconds>(clock_.steadyNow() - begunAt_);
+  if (const std::int64_t count = data_->overdue(clock_.localNow() - runFor).count; count > 0) {
+    json["overdue"] = count;
   }
 }
 

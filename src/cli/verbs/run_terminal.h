@@ -55,6 +55,7 @@ class RunTerminal final : public SilentView {
   /// `detailsOf` is asked where the run is told as JSON.
   void tell(const std::string& text, const char* event, const std::function<JsonValue()>& detailsOf);
   void endPass();
+  void addUnwatched(JsonValue& json);
   void forgetWhatIsNotWatched();
   bool hasLiveLine() const;
   void showLive();
@@ -69,6 +70,7 @@ class RunTerminal final : public SilentView {
   std::map<std::int16_t, bool> known_;
   std::size_t active_ = 0;
   bool begun_ = false;
+  std::chrono::milliseconds begunAt_{0};
   RunState state_ = RunState::stop;
   Count pass_;
   std::string status_;

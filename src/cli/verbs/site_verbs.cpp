@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <iterator>
 #include <ostream>
 #include <set>
 #include <utility>
@@ -7,6 +8,7 @@
 #include "cli/terminal/consent.h"
 #include "cli/terminal/json_output.h"
 #include "cli/terminal/text_grid.h"
+#include "cli/verbs/alarm_words.h"
 #include "cli/verbs/site_edit_verbs.h"
 #include "cli/verbs/verbs.h"
 #include "exchange/list/site_facts.h"
@@ -46,7 +48,7 @@ struct StateText {
   Console::Colour colour = Console::Colour::plain;
 };
 
-StateText stateOf(const SiteFacts& facts) {
+StateText stateOf(const SiteFacts& facts, const AlarmView& alarm) {
   StateText state{"-", Console::Colour::plain};
   if (facts.status) {
     state = *facts.status ? StateText{"up", Console::Colour::green} : StateText{"down", Console::Colour::red};
@@ -54,13 +56,21 @@ StateText stateOf(const SiteFacts& facts) {
   if (facts.notAPage) {
     state.text = "not a page";
   }
+  if (alarm.state != AlarmView::State::none && facts.site.active) {
+    state.text = wordsOf(alarm);
+  }
+  if (alarm.state == AlarmView::State::slow || alarm.state == AlarmView::State::unknown) {
+    state.colour = Console::Colour::cyan;
+  }
   if (!facts.site.active) {
     state.text += " (inactive)";
+  } else if (alarm.pause) {
+    state.text += " (paused)";
   }
   return state;
 }
 
-void printSites(Console& console, const std::vector<SiteFacts>& sites) {
+void printSites(Console& console, const std::vector<SiteFacts>& sites, const SiteWatches& watches) {
   using enum TextGrid::Align;
   TextGrid grid({{"ID", right},
                  {"STATE"},
@@ -71,7 +81,7 @@ void printSites(Console& console, const std::vector<SiteFacts>& sites) {
                  {"DOWN", right},
                  {"URL"}});
   for (const SiteFacts& facts : sites) {
-    const StateText state = stateOf(facts);
+    const StateText state = stateOf(facts, watches.of(facts).alarm);
     grid.addRow({{std::to_string(facts.idSite)},
                  {console.worded(state.text), state.colour},
                  {facts.site.method},
@@ -88,16 +98,24 @@ int listSites(Tool& tool, const SitesOptions& options) {
   Console& console = tool.console();
   std::vector<SiteFacts> sites = readSiteFacts(tool.data());
   markThoseWithoutPage(tool.data(), sites);
+  const SiteWatches watches(tool);
+  UnwatchedCount unwatched;
+  for (const SiteFacts& facts : sites) {
+    unwatched.add(facts.idSite, watches.of(facts).unwatched);
+  }
   const bool empty = sites.empty();
   std::erase_if(sites, [&](const SiteFacts& facts) { return !isWanted(facts, options); });
   if (options.json) {
     JsonArray array(console);
     for (const SiteFacts& facts : sites) {
-      array.add(siteJson(tool.fields(), facts));
+      JsonValue json = siteJson(tool.fields(), facts);
+      addTo(json, watches.of(facts));
+      array.add(std::move(json));
     }
     array.end();
   } else if (!sites.empty()) {
-    printSites(console, sites);
+    printSites(console, sites, watches);
+    unwatched.complain(tool);
   } else if (empty) {
     console.complain("There is no site in the list yet. Add the first one with: tarnwickctl add URL");
   } else {
@@ -125,10 +143,10 @@ std::string alertText(const Console& console, const SiteDraft& site) {
   return yesNo(console, site.alertEmail) + (site.email.empty() ? "" : ", " + visibleText(site.email));
 }
 
-void printSite(Console& console, const Fields& fields, const SiteFacts& facts, const std::vector<PostVar>& vars,
-               std::size_t baselineSize, bool showPassword) {
+void printSite(Console& console, const Fields& fields, const SiteFacts& facts, const SiteWatch& watch,
+               const std::vector<PostVar>& vars, std::size_t baselineSize, bool showPassword) {
   const SiteDraft& site = facts.site;
-  const StateText state = stateOf(facts);
+  const StateText state = stateOf(facts, watch.alarm);
   std::vector<std::pair<std::string, std::string>> lines = {
       {"Site", std::to_string(facts.idSite)},
       {"URL", visibleText(site.url)},
@@ -144,6 +162,7 @@ void printSite(Console& console, const Fields& fields, const SiteFacts& facts, c
       {"Password", passwordText(console, site.sPassWord, showPassword)},
       {"Baseline", console.worded(baselineText(baselineSize))},
       {"Variables", vars.empty() ? console.worded("none") : std::to_string(vars.size())}};
+  std::ranges::copy(linesOf(console, watch), std::back_inserter(lines));
   for (const SiteField& field : fields.site) {
     if (std::holds_alternative<std::monostate>(field.member)) {
       const FieldValue value = valueOf(field, site);
@@ -178,11 +197,13 @@ int showSite(Tool& tool, const ShowOptions& options) {
   }
   const std::vector<PostVar> vars = readPostVars(data, options.idSite);
   const std::size_t baselineSize = data.getContentCompare(options.idSite).size();
+  const SiteWatch watch = SiteWatches(tool).of(*facts);
   if (!options.json) {
-    printSite(tool.console(), tool.fields(), *facts, vars, baselineSize, options.showPassword);
+    printSite(tool.console(), tool.fields(), *facts, watch, vars, baselineSize, options.showPassword);
     return exit_status::ok;
   }
   JsonValue json = siteJson(tool.fields(), *facts, options.showPassword);
+  addTo(json, watch);
   json["postVars"] = postVarsJson(vars);
   json["hasBaseline"] = baselineSize != 0;
   json["baselineSize"] = baselineSize;
@@ -261,7 +282,9 @@ Verb sitesVerb() {
         .excludes = "--active"},
        jsonOption(options->json)},
       "STATE is \"up\" or \"down\" as the last check found, and \"-\" where none has been made. It is \"not a page\"\n"
-      "where a site is up only because the text of a fetch that fails is its baseline, which the log tells.\n" +
+      "where a site is up only because the text of a fetch that fails is its baseline, which the log tells.\n"
+      "By options of the alarm it may be \"unconfirmed (1 of 3)\", \"unsteady\" or \"slow\", and \"unknown\" while\n"
+      "this machine is offline; \"(paused)\" behind it says that nothing is told.\n" +
           examples({{"sites", "all of them"},
                     {"sites --down --active", "what needs a look"},
                     {"sites --json | jq -r '.[] | select(.status == false) | .url'", "the addresses that are down"}}),

@@ -22,10 +22,13 @@ bool waits(m& data, std::int16_t idSite) {
 
 }  // namespace
 
+bool seemsToRun(Tool& tool) {
+  return tool.services().files.kindOf(tool.programFolder() + "/" + kRunLockFile) == FileKind::file;
+}
+
 void hintAtUnwatched(Tool& tool, const std::vector<std::int16_t>& changed) {
-  const bool runIsOn = tool.services().files.kindOf(tool.programFolder() + "/" + kRunLockFile) == FileKind::file;
   m& data = tool.data();
-  if ((!runIsOn && !tool.console().isTerminal()) || data.optionsInForce().newSitesAtOnce()) {
+  if ((!seemsToRun(tool) && !tool.console().isTerminal()) || data.optionsInForce().newSitesAtOnce()) {
     return;
   }
   std::vector<std::int16_t> waiting;

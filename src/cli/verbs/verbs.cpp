@@ -19,6 +19,7 @@ std::vector<Verb> allVerbs(const Fields& fields) {
   all.push_back(runVerb());
   all.push_back(settingsVerb(fields));
   all.push_back(optionVerb(fields));
+  add(pauseVerbs());
   all.push_back(logVerb());
   add(upkeepVerbs());
   all.push_back(exportVerb());

@@ -23,6 +23,8 @@ Verb runVerb();
 Verb settingsVerb(const Fields& fields);
 /// The verb with all options in its help.
 Verb optionVerb(const Fields& fields);
+/// pause, resume
+std::vector<Verb> pauseVerbs();
 Verb logVerb();
 Verb initVerb();
 /// Prints the completions of all verbs.

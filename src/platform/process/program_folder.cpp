@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 #include <QByteArray>
 #include <QDir>
@@ -25,7 +26,10 @@ namespace fs = std::filesystem;
 const QString kReports = QStringLiteral("reports");
 constexpr const char* kFolderName = "tarnwick";
 constexpr const char* kDatabase = "/tarnwick.mdb";
-constexpr const char* kTemplate = "/email.txt";
+/// What the user may change. In this order: a start that is killed leaves what the next one takes up.
+constexpr const char* kUsersFiles[] = {kDatabase, "/email.txt", "/recovered.txt"};
+/// The program has its text built in, so that an installation without it is whole.
+constexpr const char* kMayBeMissing = "/recovered.txt";
 constexpr const char* kLaidText =
     "The first start has laid the list and the mail template into this folder. While this file is here, a list that "
     "is\n"
@@ -94,14 +98,20 @@ void bringBarsUpToDate(const std::string& installation, const std::string& folde
   }
 }
 
+bool isFreshThere(const std::string& installation, const char* name) {
+  return name != std::string_view(kMayBeMissing) || LocalFiles().exists(installation + kFreshFolder + name);
+}
+
 void layNewFolder(const std::string& installation, const std::string& folder) {
   // Made under another name first: a first start that fails, or is watched by a second one, leaves nothing half-made.
   QTemporaryDir fresh(qt(folder) + QStringLiteral(".new-XXXXXX"));
   if (!fresh.isValid()) {
     throw FileError(folder, fresh.errorString().toStdString());
   }
-  for (const char* const name : {kDatabase, kTemplate}) {
-    write(fresh.path() + qt(name), contentsOf(qt(installation + kFreshFolder + name)));
+  for (const char* const name : kUsersFiles) {
+    if (isFreshThere(installation, name)) {
+      write(fresh.path() + qt(name), contentsOf(qt(installation + kFreshFolder + name)));
+    }
   }
   layBars(QDir(qt(installation)), QDir(fresh.path()));
   std::error_code fault;
@@ -207,9 +217,8 @@ Laid layOnce(const std::string& installation, const std::string& folder) {
   } catch (const fs::filesystem_error& error) {
     throw FileError(folder, error.code().message());
   }
-  // In this order: a start that is killed leaves what the next one takes up.
-  for (const char* const name : {kDatabase, kTemplate}) {
-    if (!files.exists(folder + name)) {
+  for (const char* const name : kUsersFiles) {
+    if (!files.exists(folder + name) && isFreshThere(installation, name)) {
       layFresh(installation, folder, name);
     }
   }

@@ -20,7 +20,7 @@ TEST_F(OptionVerb, ListsWhatIsSetAndWhatIsInForce) {
   EXPECT_EQ(runJson({"option", "1", "--json"})["adopt"], (Json{{"own", nullptr}, {"effective", "pages only"}}));
   EXPECT_EQ(run({"option", "1", "ADOPT=anything"}), exit_status::ok) << err;
   EXPECT_EQ(run({"option", "1"}), exit_status::ok);
-  EXPECT_THAT(out, HasSubstr("adopt   anything  anything\n"));
+  EXPECT_THAT(out, HasSubstr("adopt         anything  anything\n"));
 }
 
 TEST_F(OptionVerb, ShowsOneForAScriptAndRemovesIt) {

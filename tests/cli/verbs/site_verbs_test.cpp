@@ -117,7 +117,7 @@ TEST_F(SitesVerb, NamesTheColumnsInJsonAndHidesThePassword) {
   EXPECT_EQ(list, Json::parse(R"([{"idSite": 1, "url": "http://a/", "method": "get", "active": true, "tInterval": 10,
                                    "lastChecked": "2024-05-17 11:00:00", "alertEmail": true, "email": "a@b.c",
                                    "sUserName": "ann", "hasPassword": true, "status": false, "success": 3,
-                                   "failure": 4}])"));
+                                   "failure": 4, "unwatched": "noRun"}])"));
 }
 
 TEST_F(SitesVerb, PrintsNullForWhatHasNotHappenedAndEmptyTextsForNulls) {

@@ -119,6 +119,7 @@ class SharedInstallationTest : public ::testing::Test {
     put(installation + kSharedMark, "shared");
     put(installation + "/fresh/tarnwick.mdb", "a fresh database");
     put(installation + "/fresh/email.txt", "a fresh template");
+    put(installation + "/fresh/recovered.txt", "a fresh template of recovery");
     put(installation + "/help.html", "help");
     put(installation + "/help/index.html", "the guide");
     put(installation + "/help/images/main-window.png", "a picture of the guide");
@@ -152,10 +153,16 @@ class SharedInstallationTest : public ::testing::Test {
 
 TEST_F(SharedInstallationTest, TheFirstStartLaysTheUsersFolder) {
   EXPECT_EQ(start(), user.generic_string());
-  EXPECT_THAT(namesIn(user), UnorderedElementsAre("tarnwick.mdb", "email.txt", "reports/green.jpg"));
+  EXPECT_THAT(namesIn(user), UnorderedElementsAre("tarnwick.mdb", "email.txt", "recovered.txt", "reports/green.jpg"));
   EXPECT_EQ(get(user / "tarnwick.mdb"), "a fresh database");
   EXPECT_EQ(get(user / "email.txt"), "a fresh template");
   EXPECT_EQ(std::distance(fs::directory_iterator(user.parent_path()), {}), 1) << "something was left beside it";
+}
+
+TEST_F(SharedInstallationTest, AnInstallationWithoutTheTemplateOfRecoveryIsWhole) {
+  fs::remove(fs::path(installation) / "fresh/recovered.txt");
+  EXPECT_EQ(start(), user.generic_string());
+  EXPECT_THAT(namesIn(user), UnorderedElementsAre("tarnwick.mdb", "email.txt", "reports/green.jpg"));
 }
 
 TEST_F(SharedInstallationTest, FolderAndFilesAreReadableByTheirOwnerOnly) {
@@ -260,7 +267,7 @@ class UnpackedFolderTest : public SharedInstallationTest {
 
 TEST_F(UnpackedFolderTest, TheFirstStartLaysListAndTemplate) {
   auto expected = namesIn(installation);
-  expected.insert({"tarnwick.mdb", "email.txt", "laid-once.txt"});
+  expected.insert({"tarnwick.mdb", "email.txt", "recovered.txt", "laid-once.txt"});
   EXPECT_EQ(start(), installation);
   EXPECT_EQ(namesIn(installation), expected);
   EXPECT_EQ(database(), "a fresh database");
@@ -342,7 +349,8 @@ TEST_F(UnpackedFolderTest, WithoutFreshFilesNothingIsCreated) {
 TEST_F(UnpackedFolderTest, AFolderThatIsNamedIsLaidOnceAndWithItsBars) {
   const fs::path named = work / "srv" / "watch";
   EXPECT_EQ(layOnce(installation, named.generic_string()), Laid::now);
-  EXPECT_THAT(namesIn(named), UnorderedElementsAre("tarnwick.mdb", "email.txt", "laid-once.txt", "reports/green.jpg"));
+  EXPECT_THAT(namesIn(named),
+              UnorderedElementsAre("tarnwick.mdb", "email.txt", "recovered.txt", "laid-once.txt", "reports/green.jpg"));
   EXPECT_EQ(layOnce(installation, named.generic_string()), Laid::before);
   fs::remove(named / "tarnwick.mdb");
   EXPECT_EQ(layOnce(installation, named.generic_string()), Laid::lost);
