@@ -3914,6 +3914,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Comparing with the list ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taking the sites into the list ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for another program, which has the list locked ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sites added: %1. Changed: %2. What was not taken over is named below.</source>
         <translation type="unfinished"></translation>
     </message>

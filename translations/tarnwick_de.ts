@@ -3914,6 +3914,18 @@
         <translation>Neue Seiten: %1. Zu ändern: %2. Schon da: %3. Nicht übernommen und unten genannt: %4.</translation>
     </message>
     <message>
+        <source>Comparing with the list ...</source>
+        <translation>Vergleiche mit der Liste ...</translation>
+    </message>
+    <message>
+        <source>Taking the sites into the list ...</source>
+        <translation>Übernehme die Seiten in die Liste ...</translation>
+    </message>
+    <message>
+        <source>Waiting for another program, which has the list locked ...</source>
+        <translation>Warte auf ein anderes Programm, das die Liste gesperrt hat ...</translation>
+    </message>
+    <message>
         <source>Sites added: %1. Changed: %2. What was not taken over is named below.</source>
         <translation>Seiten hinzugefügt: %1. Geändert: %2. Was nicht übernommen wurde, steht unten.</translation>
     </message>
