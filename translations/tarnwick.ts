@@ -1008,6 +1008,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>title %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>folder %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tags %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>there is no address</source>
         <translation type="unfinished"></translation>
     </message>

@@ -1008,6 +1008,18 @@
         <translation>Kopfzeile %1</translation>
     </message>
     <message>
+        <source>title %1</source>
+        <translation>Titel %1</translation>
+    </message>
+    <message>
+        <source>folder %1</source>
+        <translation>Ordner %1</translation>
+    </message>
+    <message>
+        <source>tags %1</source>
+        <translation>Schlagwörter %1</translation>
+    </message>
+    <message>
         <source>there is no address</source>
         <translation>es gibt keine Adresse</translation>
     </message>
