@@ -98,12 +98,14 @@ ImportOptions howOf(const AnyList& list, ImportOptions how) {
 
 AnyListPlanner::AnyListPlanner(m& data, AnyList& list, ImportPlanner::Sites afterwards, ImportOptions how,
                                ListFaults& faults)
-    : list_(list), how_(howOf(list, how)), planner_(data, list.content.sites, afterwards, how_, faults) {
+    : list_(list),
+      how_(howOf(list, how)),
+      planner_(std::make_unique<ImportPlanner>(data, list.content.sites, afterwards, how_, faults)) {
   keepOwnRecords(data, list.content);
 }
 
 ImportPlan AnyListPlanner::finish() && {
-  ImportPlan plan = std::move(planner_).finish();
+  ImportPlan plan = std::move(*planner_).finish();
   noteRepeated(plan, list_.content);
   return plan;
 }

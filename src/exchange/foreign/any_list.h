@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -37,14 +38,14 @@ class AnyListPlanner {
   AnyListPlanner(const AnyListPlanner&) = delete;
   AnyListPlanner& operator=(const AnyListPlanner&) = delete;
 
-  bool next() { return planner_.next(); }
-  double done() const { return planner_.done(); }
+  bool next() { return planner_->next(); }
+  double done() const { return planner_->done(); }
   ImportPlan finish() &&;
 
  private:
   AnyList& list_;
   const ImportOptions how_;
-  ImportPlanner planner_;
+  std::unique_ptr<ImportPlanner> planner_;
 };
 
 /// Carries it out as `ImportWriter` does.

@@ -318,7 +318,8 @@ bool ImportWriter::next() {
   }
   while (next_ < 2 * count) {
     const bool removing = next_ < count;
-    const ImportStep& step = plan_.steps[next_++ % count];
+    const ImportStep& step = plan_.steps[removing ? next_ : next_ - count];
+    ++next_;
     if (removing != (step.action == Action::remove)) {
       continue;
     }
