@@ -29,6 +29,12 @@ for button in start stop new setup; do
   to_bitmap "assets/images/$button.bmp"
   draw "$button" "$art/pressed.css"
   to_bitmap "assets/images/${button}h.bmp"
+  # The same for the languages in which it has another word.
+  for look in released pressed; do
+    cat "$art/$look.css" "$art/wordless.css" >"$work/wordless.css"
+    draw "$button" "$work/wordless.css"
+    convert "$work/drawn.png" -strip "PNG32:assets/images/$button-$look.png"
+  done
 done
 
 draw logosmall "$art/released.css"

@@ -1,7 +1,7 @@
 #!/bin/bash
 # Puts faults into a copy of the program, one after the other, and shows that the simulation finds each within 100 seeds.
 #
-#   scripts/simulate-mutants.sh                  all of them, about a quarter of an hour
+#   scripts/simulate-mutants.sh                  all of them, about half an hour
 #   scripts/simulate-mutants.sh "due"            those whose titles hold that text
 set -euo pipefail
 cd "$(dirname "$0")/.."

@@ -1008,6 +1008,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>title %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>folder %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tags %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>there is no address</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4379,6 +4391,18 @@
     </message>
     <message>
         <source>New sites: %1. To change: %2. There already: %3. Not taken over, and named below: %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comparing with the list ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taking the sites into the list ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for another program, which has the list locked ...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -1008,6 +1008,18 @@
         <translation>Kopfzeile %1</translation>
     </message>
     <message>
+        <source>title %1</source>
+        <translation>Titel %1</translation>
+    </message>
+    <message>
+        <source>folder %1</source>
+        <translation>Ordner %1</translation>
+    </message>
+    <message>
+        <source>tags %1</source>
+        <translation>Schlagwörter %1</translation>
+    </message>
+    <message>
         <source>there is no address</source>
         <translation>es gibt keine Adresse</translation>
     </message>
@@ -4380,6 +4392,18 @@
     <message>
         <source>New sites: %1. To change: %2. There already: %3. Not taken over, and named below: %4.</source>
         <translation>Neue Seiten: %1. Zu ändern: %2. Schon da: %3. Nicht übernommen und unten genannt: %4.</translation>
+    </message>
+    <message>
+        <source>Comparing with the list ...</source>
+        <translation>Vergleiche mit der Liste ...</translation>
+    </message>
+    <message>
+        <source>Taking the sites into the list ...</source>
+        <translation>Übernehme die Seiten in die Liste ...</translation>
+    </message>
+    <message>
+        <source>Waiting for another program, which has the list locked ...</source>
+        <translation>Warte auf ein anderes Programm, das die Liste gesperrt hat ...</translation>
     </message>
     <message>
         <source>Sites added: %1. Changed: %2. What was not taken over is named below.</source>

@@ -64,7 +64,8 @@ need_packages() {
       echo "Missing packages; install them as root: apt-get install ${missing[*]}" >&2
       exit 1
     fi
-    as_root=(sudo)
+    # Asks on the terminal; without one by the helper that the user has named.
+    as_root=(sudo ${SUDO_ASKPASS:+-A})
   fi
   echo "Installing ${missing[*]} ..."
   local said

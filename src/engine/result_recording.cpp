@@ -72,8 +72,12 @@ std::unique_ptr<StoredText> ResultRecording::storeAhead(std::int16_t idSite, con
   const bool isNew =
       !rows->eof() && !rows->holds("content_compare", content) && !rows->holds("content_runtime", content);
   rows->close();
-  between();
-  return isNew ? db_.conn().storeAhead(content, between) : nullptr;
+  const auto betweenParts = [&] {
+    between();
+    db_.finishWriterAside();
+  };
+  betweenParts();
+  return isNew ? db_.conn().storeAhead(content, betweenParts) : nullptr;
 }
 
 void ResultRecording::clearContentCompare(std::int16_t idSite) {

@@ -46,11 +46,17 @@ class ResultRecording {
   /// Makes what is recorded during the returned object's life one whole, kept when it is committed. REQUIRES: no wait
   /// for the network meanwhile, since the database is locked for writing.
   Transaction beginTransaction() { return Transaction(db_); }
+  /// Whether another connection of this program is writing, a piece at a time between events.
+  bool hasWriterAside() const { return db_.hasWriterAside(); }
   /// The same where it begins at once; nothing while another program has the database locked.
   std::optional<Transaction> tryBeginTransaction() { return Transaction::tryBegin(db_); }
 
   /// Raises DataAccessError when no result could be stored just now.
-  void proveRecording() { db_.conn().proveWritable(); }
+  void proveRecording() {
+    if (!hasWriterAside()) {
+      db_.conn().proveWritable();
+    }
+  }
 
   /// Judges `content`, the page or the text of a failed fetch, stores it as the site's latest page with the time of the
   /// check, and logs the check: the page only when the site is down. True when the site is up. `errCode` and

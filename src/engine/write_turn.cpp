@@ -22,6 +22,9 @@ WriteTurn::WriteTurn(const RunController::Needs& needs, const RunController::Gua
     : needs_(needs), guard_(guard), stopped_(std::move(stopped)) {}
 
 Transaction WriteTurn::take() {
+  while (needs_.results.hasWriterAside() && !stopped_()) {
+    waitABit();
+  }
   try {
     return needs_.results.beginTransaction();
   } catch (const DataAccessError& error) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/database.h"
 
+#include <cstddef>
 #include <utility>
 
 #include "base/product.h"
@@ -47,17 +48,33 @@ std::unique_ptr<Recordset> Database::query(std::string sql) {
   return conn().execute(sqlText_);
 }
 
-void Database::execute(std::string sql) { query(std::move(sql))->close(); }
+void Database::execute(std::string sql) {
+  finishWriterAside();
+  query(std::move(sql))->close();
+}
 
 void Database::execute(const std::string& before, std::string_view page, const std::string& behind) {
+  finishWriterAside();
   sqlText_ = joinSql(before, "...", behind);
   if (conn().execute(before, page, behind) == nullptr) {
     conn().execute(joinSql(before, sqlQuote(page), behind))->close();
   }
 }
 
+bool Database::readersGoOn() {
+  const auto mode = conn().execute("pragma journal_mode", {});
+  return !mode->eof() && mode->field(std::size_t{0}).toText() == "wal";
+}
+
+void Database::finishWriterAside() {
+  if (const auto finish = std::exchange(finishAside_, {})) {
+    finish();
+  }
+}
+
 Transaction::Transaction(Database& database) : conn_(database.conn()), owner_(!conn_.inTransaction()) {
   if (owner_) {
+    database.finishWriterAside();
     conn_.begin();
   }
 }
@@ -65,7 +82,7 @@ Transaction::Transaction(Database& database) : conn_(database.conn()), owner_(!c
 std::optional<Transaction> Transaction::tryBegin(Database& database) {
   SqlConnection& conn = database.conn();
   const bool owner = !conn.inTransaction();
-  if (owner && !conn.tryBegin()) {
+  if (owner && (database.hasWriterAside() || !conn.tryBegin())) {
     return std::nullopt;
   }
   return Transaction(conn, owner);

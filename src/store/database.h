@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,6 +31,19 @@ class Database {
   /// The same of one with a page in it, between `before` and `behind` and their quotes, that is not copied into it.
   void execute(const std::string& before, std::string_view page, const std::string& behind);
 
+  /// Whether others read undisturbed while something is written: the file has a write-ahead log, as everywhere but on a
+  /// network drive. Raises DataAccessError.
+  bool readersGoOn();
+
+  /// Another connection of this program writes for longer, a piece at a time between two events, and holds the
+  /// database's write lock meanwhile. `finish` ends that at once: it is called before this one writes, which would
+  /// otherwise wait for what cannot go on; it raises nothing. Who can wait asks `Transaction::tryBegin`. An empty one:
+  /// nobody does any more.
+  void setWriterAside(std::function<void()> finish) { finishAside_ = std::move(finish); }
+  bool hasWriterAside() const { return finishAside_ != nullptr; }
+  /// Ends what another connection of this program writes.
+  void finishWriterAside();
+
   /// Vocabulary: no front end calls it.
   /// The statement most recently built; of a page in it only that it is there.
   const std::string& sqlText() const { return sqlText_; }
@@ -49,6 +63,7 @@ class Database {
  private:
   void open();
 
+  std::function<void()> finishAside_;
   std::string sqlText_;
   std::string connString_;
   std::unique_ptr<SqlConnection> conn_;
@@ -65,7 +80,8 @@ class Transaction {
   Transaction& operator=(Transaction&&) = delete;
   ~Transaction();
 
-  /// One that begins at once; nothing while another program has the database locked.
+  /// One that begins at once; nothing while another program, or another connection of this one, has the database
+  /// locked.
   static std::optional<Transaction> tryBegin(Database& database);
 
   void commit();

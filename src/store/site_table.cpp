@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "store/sql_quote.h"
+
 namespace tarnwick {
 
 std::size_t addSites(TextTable& table, Recordset& rows, std::size_t most) {
@@ -21,6 +23,13 @@ TextTable siteTableOf(Recordset& rows) {
   TextTable table(site_column::last);
   addSites(table, rows);
   return table;
+}
+
+TextTable readSitesBehind(Database& database, std::optional<std::int64_t> last, std::size_t most) {
+  TextTable sites(site_column::last);
+  const std::string behind = last ? " where idSite > " + std::to_string(*last) : std::string();
+  addSites(sites, *database.query(joinSql("select ", kSiteFields, " from sites", behind, " order by idSite")), most);
+  return sites;
 }
 
 TextTable readSiteTable(Database& database, std::string sql) { return siteTableOf(*database.query(std::move(sql))); }

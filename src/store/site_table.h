@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 
 #include "store/database.h"
@@ -38,6 +40,10 @@ std::size_t addSites(TextTable& table, Recordset& rows, std::size_t most = std::
 
 /// All rows left of `rows`; else as above.
 TextTable siteTableOf(Recordset& rows);
+
+/// Up to `most` of the sites whose ids are above `last`, or the first ones, in the order of their ids. Raises
+/// DataAccessError.
+TextTable readSitesBehind(Database& database, std::optional<std::int64_t> last, std::size_t most);
 
 /// Runs `sql`, whose select list is `kSiteFields`, and returns its rows in the order they come. Raises DataAccessError.
 TextTable readSiteTable(Database& database, std::string sql);

@@ -28,7 +28,9 @@ from desktop_session import wait_until  # noqa: E402
 
 SKIPPED = 77
 PROGRAMS = ("tarnwick", "tarnwickctl")
-PICTURES = [f"images/{name}{state}.bmp" for name in ("new", "setup", "start", "stop") for state in ("", "h")]
+# The second ones are for the languages that the words in the bitmaps are not of.
+PICTURES = [f"images/{name}{state}" for name in ("new", "setup", "start", "stop")
+            for state in (".bmp", "h.bmp", "-released.png", "-pressed.png")]
 DOCS = Path(__file__).resolve().parent.parent.parent / "docs"
 GUIDE = [*(DOCS / "guide").glob("*.md"), *(DOCS / name for name in ("tarnwickctl.md", "security.md", "windows.md"))]
 HELP_FILES = {"help/style.css", *(f"help/{text.stem}.html" for text in GUIDE),

@@ -118,10 +118,10 @@ MUTANTS = (
     Mutant("a changed site is asked again and again", "engine/pass_recording.cpp", "  debts_.checks.settle(id);\n", ""),
     Mutant("a host is asked for a page too many", "engine/in_flight.cpp", "host.inFlight >= policy_.perHost",
            "host.inFlight > policy_.perHost"),
-    Mutant("failures that a lock kept from being counted are forgotten", "engine/uncounted_failures.cpp",
+    Mutant("failures that could not be counted are forgotten", "engine/uncounted_failures.cpp",
            "  if (sites_.empty() || !backOff_.tick())", "  sites_.clear();\n  if (sites_.empty() || !backOff_.tick())"),
-    Mutant("what a fault has left is not taken up again", "engine/run_controller.cpp",
-           "    backOff_.failed();\n    somethingWasLeft_ = true;\n", "    backOff_.failed();\n"),
+    Mutant("what is due is tested though it is switched off", "engine/due_sites.cpp",
+           'is null or ", kIsDue, ") AND ", kIsActive);', 'is null or ", kIsDue, ") ");'),
 )
 
 

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/memory_hooks.h"
+
 namespace tarnwick::testing {
 
-/// Memory that is refused. Only a test program that lists failing_memory.cpp among its sources has it.
+/// Memory that is refused. Only a test program that lists failing_memory.cpp among its sources and links
+/// tarnwick_memory_hooks has it.
 ///
 /// Refuses the `n`-th allocation from now on (1 is the next) of the given kind, once; nothing with 0.
-enum class Allocator {
-  program,  ///< operator new
-  database  ///< SQLite's own
-};
 void refuseAllocation(Allocator allocator, int n);
 /// Whether the refusal has happened; ends it if not.
 bool allocationWasRefused();

@@ -89,23 +89,51 @@ void keepOwnRecords(m& data, ForeignList& list) {
   }
 }
 
+ImportOptions howOf(const AnyList& list, ImportOptions how) {
+  how.byAddress = list.foreign;
+  return how;
+}
+
 }  // namespace
 
-ImportPlan planAnyList(m& data, AnyList& list, ImportOptions how, ListFaults& faults) {
-  how.byAddress = list.foreign;
+AnyListPlanner::AnyListPlanner(m& data, AnyList& list, ImportPlanner::Sites afterwards, ImportOptions how,
+                               ListFaults& faults)
+    : list_(list),
+      how_(howOf(list, how)),
+      planner_(std::make_unique<ImportPlanner>(data, list.content.sites, afterwards, how_, faults)) {
   keepOwnRecords(data, list.content);
-  ImportPlan plan = planImport(data, std::exchange(list.content.sites, {}), how, faults);
-  noteRepeated(plan, list.content);
+}
+
+ImportPlan AnyListPlanner::finish() && {
+  ImportPlan plan = std::move(*planner_).finish();
+  noteRepeated(plan, list_.content);
   return plan;
 }
 
-void carryOut(m& data, const ImportPlan& plan, const AnyList& list) {
-  carryOut(data, plan);
-  if (!list.content.settings.empty()) {
-    data.storeSettings(list.content.settings);
+bool AnyListWriter::next() {
+  if (sites_.next()) {
+    return true;
   }
-  for (const LogRow& row : list.content.log) {
-    adoptLogRow(data.database(), row);
+  if (nextResult_ == 0 && !list_.content.settings.empty()) {
+    data_.storeSettings(list_.content.settings);
+  }
+  if (nextResult_ == list_.content.log.size()) {
+    return false;
+  }
+  adoptLogRow(data_.database(), list_.content.log[nextResult_++]);
+  return true;
+}
+
+ImportPlan planAnyList(m& data, AnyList& list, ImportOptions how, ListFaults& faults) {
+  AnyListPlanner planner(data, list, ImportPlanner::Sites::taken, how, faults);
+  while (planner.next()) {
+  }
+  return std::move(planner).finish();
+}
+
+void carryOut(m& data, const ImportPlan& plan, const AnyList& list) {
+  AnyListWriter writer(data, plan, list);
+  while (writer.next()) {
   }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,6 +29,40 @@ struct AnyList {
 
 /// Reads a file of the kind of that word. What is wrong with it is added to `faults`; then nothing of it is to be used.
 AnyList readAnyList(const std::string& word, std::string_view bytes, const Fields& fields, ListFaults& faults);
+
+/// Plans the import of a list as `ImportPlanner` does; the list has its notes completed then, and keeps the settings
+/// and the log that would be taken: those of a database come into an empty list alone.
+class AnyListPlanner {
+ public:
+  AnyListPlanner(m& data, AnyList& list, ImportPlanner::Sites afterwards, ImportOptions how, ListFaults& faults);
+  AnyListPlanner(const AnyListPlanner&) = delete;
+  AnyListPlanner& operator=(const AnyListPlanner&) = delete;
+
+  bool next() { return planner_->next(); }
+  double done() const { return planner_->done(); }
+  ImportPlan finish() &&;
+
+ private:
+  AnyList& list_;
+  const ImportOptions how_;
+  std::unique_ptr<ImportPlanner> planner_;
+};
+
+/// Carries it out as `ImportWriter` does.
+class AnyListWriter {
+ public:
+  /// Plan and list outlive this object.
+  AnyListWriter(m& data, const ImportPlan& plan, const AnyList& list) : data_(data), list_(list), sites_(data, plan) {}
+
+  bool next();
+  double done() const { return sites_.done(); }
+
+ private:
+  m& data_;
+  const AnyList& list_;
+  ImportWriter sites_;
+  std::size_t nextResult_ = 0;
+};
 
 /// What an import of the list would do, as `planImport` tells it; `list` has its notes completed then, and keeps the
 /// settings and the log that would be taken: those of a database come into an empty list alone. Raises DataAccessError.

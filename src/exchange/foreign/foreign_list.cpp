@@ -146,7 +146,7 @@ ForeignList readForeign(ForeignKind kind, std::string_view bytes, ListFaults& fa
   } catch (const ForeignError& error) {
     faults.add(error.line(), error.what());
   } catch (const std::bad_alloc&) {
-    faults.add(0, "there is not enough memory to read the file: see whether it is the right one");
+    faults.add(0, kNoMemoryToRead);
   } catch (const std::exception& error) {
     faults.add(0, std::string("the file cannot be read as ") + nameOf(kind) + ": " + visibleText(error.what()));
   }

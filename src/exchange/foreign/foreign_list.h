@@ -51,6 +51,10 @@ struct ForeignList {
 /// The largest file of these kinds, but of a database: a list of 32767 sites takes a tenth of it.
 inline constexpr std::size_t kLargestForeign = std::size_t{64} * 1024 * 1024;
 
+/// What is told of a file that takes more memory than there is for it.
+inline constexpr const char* kNoMemoryToRead =
+    "there is not enough memory to read the file: see whether it is the right one";
+
 /// Reads the file. What is wrong with it is added to `faults`; then nothing of it is to be used. Raises nothing.
 ForeignList readForeign(ForeignKind kind, std::string_view bytes, ListFaults& faults);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 
@@ -24,9 +25,14 @@ class ListReading {
   /// The bytes of the file; what it raises is raised by `finish`.
   using Source = std::function<std::string()>;
 
-  /// Begins to read the file of that name, whose kind is told by `word`, or shows when that is empty. `fields` outlives
-  /// this object.
-  ListReading(const std::string& name, const std::string& word, const Source& source, const Fields& fields);
+  /// No list needs more memory to be read, beside what its size says, whatever its kind: a file that does is none, or
+  /// is made to harm.
+  static constexpr std::size_t kMemory = std::size_t{1} << 30U;
+
+  /// Begins to read the file of that name, whose kind is told by `word`, or shows when that is empty, with at most
+  /// `memory` and a little for each of its bytes. `fields` outlives this object.
+  ListReading(const std::string& name, const std::string& word, const Source& source, const Fields& fields,
+              std::size_t memory = kMemory);
 
   /// As those of `WorkApart`.
   int handle() const { return work_.handle(); }

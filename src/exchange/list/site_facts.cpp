@@ -80,6 +80,17 @@ std::vector<SiteFacts> readSiteFacts(m& data, std::int16_t idSite) {
   return list;
 }
 
+std::vector<SiteFacts> SiteFactsReader::next() {
+  constexpr std::size_t kAtATime = 200;
+  const TextTable sites = readSitesBehind(data_.database(), last_, kAtATime);
+  std::vector<SiteFacts> list;
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    list.push_back(factsOfRow(data_, sites, row));
+    last_ = list.back().idSite;
+  }
+  return list;
+}
+
 void markThoseWithoutPage(m& data, std::vector<SiteFacts>& sites) {
   const std::set<std::int64_t> without = data.sitesNotFetched();
   for (SiteFacts& facts : sites) {

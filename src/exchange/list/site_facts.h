@@ -29,6 +29,19 @@ struct SiteFacts {
 /// The sites, or the one of an id greater than 0, in the order of the database.
 std::vector<SiteFacts> readSiteFacts(m& data, std::int16_t idSite = 0);
 
+/// All sites in the order of their ids, some at a time, for lists of thousands. REQUIRES: a transaction or Snapshot
+/// around all of it.
+class SiteFactsReader {
+ public:
+  explicit SiteFactsReader(m& data) : data_(data) {}
+  /// The next sites; none when there are no more. Raises DataAccessError.
+  std::vector<SiteFacts> next();
+
+ private:
+  m& data_;
+  std::optional<std::int64_t> last_;
+};
+
 /// Fills in `notAPage`.
 void markThoseWithoutPage(m& data, std::vector<SiteFacts>& sites);
 

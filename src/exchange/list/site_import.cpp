@@ -52,15 +52,23 @@ bool mayBeMailAddress(std::string_view email) {
          });
 }
 
-class Planner {
+}  // namespace
+
+class ImportPlanner::Plan {
  public:
-  Planner(m& data, const ImportOptions& options, ListFaults& faults) : data_(data), options_(options), faults_(faults) {
-    for (SiteFacts& facts : readSiteFacts(data)) {
+  Plan(m& data, const ImportOptions& options, ListFaults& faults)
+      : data_(data), options_(options), faults_(faults), reader_(data) {}
+
+  /// Takes in some of what is stored; false when that is all.
+  bool readStored() {
+    std::vector<SiteFacts> read = reader_.next();
+    for (SiteFacts& facts : read) {
       if (options_.byAddress) {
         ids_.emplace(fetchedForm(facts.site.url), idOf(facts));
       }
       stored_.emplace(idOf(facts), listedForm(std::move(facts.site)));
     }
+    return !read.empty();
   }
 
   void add(ListedSite site) {
@@ -223,6 +231,7 @@ class Planner {
   m& data_;
   const ImportOptions& options_;
   ListFaults& faults_;
+  SiteFactsReader reader_;
   std::unordered_map<std::int16_t, SiteDraft> stored_;
   /// The ids of the file, and their lines.
   std::unordered_map<std::int16_t, std::size_t> named_;
@@ -231,6 +240,8 @@ class Planner {
   std::unordered_map<std::string, std::size_t> addresses_;
   ImportPlan plan_;
 };
+
+namespace {
 
 std::string brokenLine(const std::string& name, const std::string& text) {
   return name + " " + quotedForMessage(text) + " holds a line end or a NUL byte: give it without";
@@ -251,39 +262,80 @@ void storeListed(m& data, const ImportStep& step) {
   }
 }
 
+void store(m& data, const ImportStep& step) {
+  if (step.action == Action::add) {
+    data.addSite(step.idSite);
+  }
+  storeListed(data, step);
+  if (step.action == Action::add && step.listed.state) {
+    adoptState(data.database(), step.idSite, *step.listed.state);
+  }
+}
+
 }  // namespace
 
 std::size_t ImportPlan::count(Action action) const {
   return static_cast<std::size_t>(std::ranges::count(steps, action, &ImportStep::action));
 }
 
+ImportPlanner::ImportPlanner(m& data, std::vector<ListedSite>& sites, Sites afterwards, const ImportOptions& options,
+                             ListFaults& faults)
+    : plan_(std::make_unique<Plan>(data, options, faults)), sites_(sites), afterwards_(afterwards) {}
+
+ImportPlanner::~ImportPlanner() = default;
+ImportPlanner::ImportPlanner(ImportPlanner&&) noexcept = default;
+
+bool ImportPlanner::next() {
+  if (plan_->readStored()) {
+    return true;
+  }
+  if (next_ == sites_.size()) {
+    return false;
+  }
+  ListedSite& site = sites_[next_++];
+  plan_->add(afterwards_ == Sites::taken ? std::move(site) : site);
+  return true;
+}
+
+double ImportPlanner::done() const {
+  return sites_.empty() ? 1 : static_cast<double>(next_) / static_cast<double>(sites_.size());
+}
+
+ImportPlan ImportPlanner::finish() && { return std::move(*plan_).finish(); }
+
 ImportPlan planImport(m& data, std::vector<ListedSite> sites, const ImportOptions& options, ListFaults& faults) {
-  Planner planner(data, options, faults);
-  for (ListedSite& site : sites) {
-    planner.add(std::move(site));
+  ImportPlanner planner(data, sites, ImportPlanner::Sites::taken, options, faults);
+  while (planner.next()) {
   }
   return std::move(planner).finish();
 }
 
+// What is deleted goes first, since another site may come under its id.
+bool ImportWriter::next() {
+  const std::size_t count = plan_.steps.size();
+  if (next_ == 0 && plan_.optionsOfAll) {
+    data_.storeOptions(kAllSites, *plan_.optionsOfAll);
+  }
+  while (next_ < 2 * count) {
+    const bool removing = next_ < count;
+    const ImportStep& step = plan_.steps[removing ? next_ : next_ - count];
+    ++next_;
+    if (removing != (step.action == Action::remove)) {
+      continue;
+    }
+    removing ? data_.deleteSite(step.idSite) : store(data_, step);
+    return true;
+  }
+  return false;
+}
+
+double ImportWriter::done() const {
+  return plan_.steps.empty() ? 1 : static_cast<double>(next_) / static_cast<double>(2 * plan_.steps.size());
+}
+
 void carryOut(m& data, const ImportPlan& plan) {
-  if (plan.optionsOfAll) {
-    data.storeOptions(kAllSites, *plan.optionsOfAll);
-  }
-  for (const ImportStep& step : plan.steps) {
-    if (step.action == Action::remove) {
-      data.deleteSite(step.idSite);
-    }
-  }
-  for (const ImportStep& step : plan.steps) {
-    if (step.action == Action::add) {
-      data.addSite(step.idSite);
-    }
-    if (step.action != Action::remove) {
-      storeListed(data, step);
-    }
-    if (step.action == Action::add && step.listed.state) {
-      adoptState(data.database(), step.idSite, *step.listed.state);
-    }
+  ImportWriter writer(data, plan);
+  while (writer.next()) {
   }
 }
 

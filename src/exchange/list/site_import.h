@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -57,6 +58,53 @@ struct ImportPlan {
   ListFaults doubts;
 
   std::size_t count(ImportStep::Action action) const;
+};
+
+/// Finds out what an import would do, a piece at a time, so that others are not held up by a long list. REQUIRES: a
+/// transaction or Snapshot around all of it.
+class ImportPlanner {
+ public:
+  /// Whether the sites are still needed afterwards.
+  enum class Sites { taken, kept };
+
+  /// Faults of the single sites are added to `faults`; a plan with faults is not to be carried out. All that is named
+  /// outlives this object.
+  ImportPlanner(m& data, std::vector<ListedSite>& sites, Sites afterwards, const ImportOptions& options,
+                ListFaults& faults);
+  ~ImportPlanner();
+  ImportPlanner(ImportPlanner&&) noexcept;
+  ImportPlanner& operator=(ImportPlanner&&) = delete;
+
+  /// Does the next piece, a fraction of a millisecond or two; false when nothing is left to do. Raises DataAccessError.
+  bool next();
+  /// How much of the file is planned, from 0 to 1.
+  double done() const;
+  /// REQUIRES: nothing is left to do.
+  ImportPlan finish() &&;
+
+ private:
+  class Plan;
+  std::unique_ptr<Plan> plan_;
+  std::vector<ListedSite>& sites_;
+  Sites afterwards_;
+  std::size_t next_ = 0;
+};
+
+/// Carries a plan out, a piece at a time. REQUIRES: one transaction around the planning and this, which is committed
+/// when all is done.
+class ImportWriter {
+ public:
+  /// The plan outlives this object.
+  ImportWriter(m& data, const ImportPlan& plan) : data_(data), plan_(plan) {}
+
+  /// As those of ImportPlanner.
+  bool next();
+  double done() const;
+
+ private:
+  m& data_;
+  const ImportPlan& plan_;
+  std::size_t next_ = 0;
 };
 
 /// What an import of `sites` would do, faults of the single sites added to `faults`; a plan with faults is not to be

@@ -20,6 +20,10 @@ class WorkApart {
   /// The bytes of the result. Nothing of this process may be changed by it; it raises nothing.
   using Work = std::function<std::string()>;
 
+  /// For the work, within itself: from here on it takes at most `bytes` more of memory, and is refused what is beyond
+  /// that (std::bad_alloc). Does nothing where the work is done in this process, or the system cannot tell.
+  static void limitMemory(std::size_t bytes);
+
   /// Starts it. Raises std::system_error when the system has no room for a process.
   explicit WorkApart(const Work& work);
   /// Ends it where it is not done.

@@ -13,6 +13,8 @@ WorkApart::WorkApart(const Work& work) : process_(std::make_unique<Process>(Proc
 
 WorkApart::~WorkApart() = default;
 
+void WorkApart::limitMemory(std::size_t /*bytes*/) {}
+
 int WorkApart::handle() const { return -1; }
 
 bool WorkApart::take() { return true; }

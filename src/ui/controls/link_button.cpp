@@ -5,10 +5,20 @@
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
 
+#include "ui/controls/colour_text.h"
+
 namespace tarnwick {
 namespace {
 
 constexpr int kMargin = 2;
+constexpr double kReadable = 4.5;
+
+// Some desktops darken the window and leave links as dark as they were.
+QColor inkOf(const QPalette& palette, QPalette::ColorRole role) {
+  const QColor link = palette.color(role);
+  const QColor window = palette.color(QPalette::Window);
+  return contrastRatio(link, window) >= kReadable ? link : isDark(palette) ? QColor(0x7DB4F0) : QColor(0x0B57A4);
+}
 
 }  // namespace
 
@@ -28,7 +38,7 @@ void LinkButton::paintEvent(QPaintEvent*) {
   QFont underlined = font();
   underlined.setUnderline(true);
   painter.setFont(underlined);
-  painter.setPen(palette().color(isDown() ? QPalette::LinkVisited : QPalette::Link));
+  painter.setPen(inkOf(palette(), isDown() ? QPalette::LinkVisited : QPalette::Link));
   painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
   if (hasFocus()) {
     QStyleOptionFocusRect focus;

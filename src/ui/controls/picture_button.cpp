@@ -15,6 +15,12 @@ namespace {
 constexpr int kDotsPerPixel = 2;
 // What a button without a bitmap measures at least.
 constexpr QSize kNominalSize{72, 56};
+// As the word stands in the bitmaps that have one: the height of its font, its line, and how far it sinks when pressed.
+constexpr int kWordHeight = 12;
+constexpr int kSmallestWord = 8;
+constexpr int kWordRoom = 66;
+constexpr qreal kWordLine = 46.5;
+constexpr qreal kSunk = 1.5;
 
 }  // namespace
 
@@ -32,7 +38,8 @@ PictureButton::PictureButton(const QString& text, QWidget* parent) : QAbstractBu
   setAttribute(Qt::WA_Hover);
 }
 
-void PictureButton::loadPictures(const QString& releasedFile, const QString& pressedFile) {
+void PictureButton::loadPictures(const QString& releasedFile, const QString& pressedFile, bool wordless) {
+  wordless_ = wordless;
   released_ = loadPicture(releasedFile);
   pressed_ = loadPicture(pressedFile);
   updateGeometry();
@@ -70,6 +77,9 @@ void PictureButton::paintEvent(QPaintEvent*) {
   }
   const QSizeF size = shown.deviceIndependentSize();
   painter.drawPixmap(QPointF((width() - size.width()) / 2, (height() - size.height()) / 2), shown);
+  if (wordless_) {
+    writeWord(painter);
+  }
   painter.setOpacity(1);
   if (hasFocus()) {
     QStyleOptionFocusRect focus;
@@ -77,6 +87,25 @@ void PictureButton::paintEvent(QPaintEvent*) {
     focus.backgroundColor = palette().window().color();
     painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
   }
+}
+
+void PictureButton::writeWord(QPainter& painter) const {
+  QFont font = painter.font();
+  font.setBold(true);
+  const auto widthAt = [&](int pixels) {
+    font.setPixelSize(pixels);
+    return QFontMetrics(font).horizontalAdvance(text());
+  };
+  int pixels = kWordHeight;
+  while (pixels > kSmallestWord && widthAt(pixels) > kWordRoom) {
+    --pixels;
+  }
+  font.setPixelSize(pixels);
+  painter.setFont(font);
+  painter.setPen(Qt::white);
+  const qreal sunk = isDown() ? kSunk : 0;
+  const int left = (width() - QFontMetrics(font).horizontalAdvance(text())) / 2;
+  painter.drawText(QPointF(left, (height() - kNominalSize.height()) / 2.0 + kWordLine + sunk), text());
 }
 
 void PictureButton::paintText() {

@@ -16,8 +16,9 @@ class PictureButton final : public QAbstractButton {
  public:
   explicit PictureButton(const QString& text, QWidget* parent = nullptr);
 
-  /// Loads the two bitmaps; a missing file leaves its bitmap empty.
-  void loadPictures(const QString& releasedFile, const QString& pressedFile);
+  /// Loads the two bitmaps; a missing file leaves its bitmap empty. Where they hold no word, the button
+  /// writes its text into them, below the sign.
+  void loadPictures(const QString& releasedFile, const QString& pressedFile, bool wordless = false);
 
   /// The bitmap that is shown now; a null one when the text is shown instead.
   const QPixmap& picture() const;
@@ -31,7 +32,9 @@ class PictureButton final : public QAbstractButton {
 
  private:
   void paintText();
+  void writeWord(QPainter& painter) const;
 
+  bool wordless_ = false;
   QPixmap released_;
   QPixmap pressed_;
 };

@@ -21,6 +21,7 @@ namespace tarnwick {
 namespace {
 
 constexpr QSize kSize{640, 400};
+constexpr int kFull = 1000;
 
 std::string bytesOf(FileSystem& files, const std::string& path) {
   files.sizeOf(path);  // which refuses what is no plain file
@@ -103,11 +104,19 @@ void ImportDialog::layOut() {
   all->addLayout(buttons);
 }
 
+void ImportDialog::done(int result) {
+  work_.reset();
+  QDialog::done(result);
+}
+
 void ImportDialog::read() {
   more_.reset();
+  work_.reset();
   list_ = {};
   notes_->setLines({});
   btnImport_->setEnabled(false);
+  importKind_->setEnabled(true);
+  importBar_->setRange(0, 0);
   importBar_->show();
   importState_->setText(tr("Reading %1 ...").arg(QDir::toNativeSeparators(QString::fromStdString(file_))));
   FileSystem& files = program_.services().files;
@@ -143,7 +152,7 @@ void ImportDialog::finishReading() {
     } else if (!list_.faults.none()) {
       tellFaults(list_.faults);
     } else {
-      tellPlan();
+      plan();
     }
   } catch (const std::exception& error) {
     importState_->setText(displayMessage(error.what()));
@@ -159,26 +168,36 @@ void ImportDialog::tellFaults(const ListFaults& faults) {
   importState_->setText(tr("Nothing can be imported. Faults of the file: %1.").arg(faults.count()));
 }
 
+void ImportDialog::showDone(const QString& what) {
+  importState_->setText(work_->waits() ? tr("Waiting for another program, which has the list locked ...") : what);
+  importBar_->setRange(0, kFull);
+  importBar_->setValue(static_cast<int>(work_->done() * kFull));
+  importBar_->setVisible(!work_->ended());
+}
+
+void ImportDialog::plan() {
+  work_ = std::make_unique<ImportWork>(program_, list_.list, ImportWork::Aim::plan,
+                                       [this] { program_.faults().run([this] { tellPlan(); }); });
+  showDone(tr("Comparing with the list ..."));
+}
+
 void ImportDialog::tellPlan() {
   using enum ImportStep::Action;
-  const Snapshot oneState(program_.data().database());
-  ListFaults faults;
-  // The results of a log may be large, and only their number is told.
-  std::vector<LogRow> log = std::exchange(list_.list.content.log, {});
-  AnyList told = list_.list;
-  told.content.log.resize(log.size());
-  list_.list.content.log = std::move(log);
-  const ImportPlan plan = planAnyList(program_.data(), told, {}, faults);
-  if (!faults.none()) {
-    tellFaults(faults);
+  showDone(importState_->text());
+  if (!work_->ended()) {
     return;
   }
-  notes_->setLines(linesOf(told.content));
+  const ImportPlan& plan = work_->plan();
+  if (!work_->faults().none()) {
+    tellFaults(work_->faults());
+    return;
+  }
+  notes_->setLines(linesOf(list_.list.content));
   importState_->setText(tr("New sites: %1. To change: %2. There already: %3. Not taken over, and named below: %4.")
                             .arg(plan.count(add))
                             .arg(plan.count(change))
                             .arg(plan.unchanged)
-                            .arg(told.content.notes.size()));
+                            .arg(list_.list.content.notes.size()));
   btnImport_->setEnabled(!plan.steps.empty() || plan.optionsOfAll);
   btnImport_->setDefault(true);
   if (!btnImport_->isEnabled()) {
@@ -187,19 +206,25 @@ void ImportDialog::tellPlan() {
 }
 
 void ImportDialog::btnImport_Click() {
+  btnImport_->setEnabled(false);
+  importKind_->setEnabled(false);
+  btnCancel_->setFocus();
+  work_ = std::make_unique<ImportWork>(program_, list_.list, ImportWork::Aim::write,
+                                       [this] { program_.faults().run([this] { lookAtImport(); }); });
+}
+
+void ImportDialog::lookAtImport() {
   using enum ImportStep::Action;
+  showDone(tr("Taking the sites into the list ..."));
+  if (!work_->ended()) {
+    return;
+  }
   try {
-    m& list = program_.data();
-    ListFaults faults;
-    Transaction whole(list.database());
-    AnyList taken = std::exchange(list_.list, {});
-    const ImportPlan plan = planAnyList(list, taken, {}, faults);
-    if (!faults.none()) {
-      tellFaults(faults);
+    const ImportPlan& plan = work_->plan();
+    if (!work_->faults().none()) {
+      tellFaults(work_->faults());
       return;
     }
-    carryOut(list, plan, taken);
-    whole.commit();
     importState_->setText(tr("Sites added: %1. Changed: %2. What was not taken over is named below.")
                               .arg(plan.count(add))
                               .arg(plan.count(change)));

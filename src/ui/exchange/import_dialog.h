@@ -14,6 +14,7 @@
 
 #include "exchange/foreign/list_reading.h"
 #include "program/program.h"
+#include "ui/exchange/import_work.h"
 #include "ui/exchange/note_list.h"
 
 namespace tarnwick {
@@ -28,16 +29,22 @@ class ImportDialog final : public QDialog {
   ImportDialog(Program& program, std::string file, QWidget* parent);
   ~ImportDialog() override;
 
+  /// Ends what is going on: nothing of it stays.
+  void done(int result) override;
+
  private:
   void layOut();
   void makeKinds();
   void read();
   void lookAtReading();
   void finishReading();
-  /// Tells what an import would do now.
+  /// Finds out and tells what an import would do now.
+  void plan();
   void tellPlan();
   void tellFaults(const ListFaults& faults);
   void btnImport_Click();
+  void lookAtImport();
+  void showDone(const QString& what);
   void showNothingLeftToDo();
 
   Program& program_;
@@ -45,6 +52,7 @@ class ImportDialog final : public QDialog {
   std::unique_ptr<ListReading> reading_;
   std::unique_ptr<QSocketNotifier> more_;
   ReadList list_;
+  std::unique_ptr<ImportWork> work_;
 
   QComboBox* importKind_ = nullptr;
   QLabel* importState_ = nullptr;

@@ -70,7 +70,7 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   controls_.grid1->setFocus();
 }
 
-Master::~Master() = default;
+Master::~Master() { qDeleteAll(findChildren<QDialog*>(Qt::FindDirectChildrenOnly)); }  // before the program they know
 
 bool Master::load() {
   return loaded_ = openOrOfferCopy(
@@ -116,15 +116,17 @@ void Master::fullInit() {
 QString Master::fileOf(const QString& name) const { return programFile(program_.programFolder(), name); }
 
 void Master::loadPictures() {
-  const auto load = [this](PictureButton& image, const QString& name) {
-    image.loadPictures(fileOf(QStringLiteral("/images/%1.bmp").arg(name)),
-                       fileOf(QStringLiteral("/images/%1h.bmp").arg(name)));
+  const auto load = [this](PictureButton& image, const QString& path, const char* word) {
+    image.text() == QLatin1String(word)
+        ? image.loadPictures(fileOf(path + QStringLiteral(".bmp")), fileOf(path + QStringLiteral("h.bmp")))
+        : image.loadPictures(fileOf(path + QStringLiteral("-released.png")),
+                             fileOf(path + QStringLiteral("-pressed.png")), true);
   };
-  load(*controls_.start.image, QStringLiteral("start"));
-  load(*controls_.stop.image, QStringLiteral("stop"));
-  load(*controls_.makeNew.image, QStringLiteral("new"));
-  load(*controls_.setup.image, QStringLiteral("setup"));
-  load(*controls_.imgLogoSmall, QStringLiteral("logosmall"));
+  load(*controls_.start.image, QStringLiteral("/images/start"), "Start");
+  load(*controls_.stop.image, QStringLiteral("/images/stop"), "Stop");
+  load(*controls_.makeNew.image, QStringLiteral("/images/new"), "New");
+  load(*controls_.setup.image, QStringLiteral("/images/setup"), "Setup");
+  load(*controls_.imgLogoSmall, QStringLiteral("/images/logosmall"), kProductName);
   // Boxes that come up before this window bear it too.
   QApplication::setWindowIcon(QIcon(fileOf(QStringLiteral("/images/tarnwick.png"))));
 }

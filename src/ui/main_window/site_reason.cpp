@@ -2,7 +2,6 @@
 #include "ui/main_window/site_reason.h"
 
 #include <QEvent>
-#include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QPainter>
 #include <QStyle>
@@ -28,14 +27,17 @@ SiteReason::SiteReason(QWidget* parent) : QLabel(parent) {
 }
 
 void SiteReason::setInk() {
-  QPalette muted;
-  muted.setColor(QPalette::WindowText, isDark(QGuiApplication::palette()) ? QColor(0xA9AEB4) : QColor(0x555555));
-  setPalette(muted);
+  const QColor ink = isDark(palette()) ? QColor(0xA9AEB4) : QColor(0x555555);
+  if (palette().color(QPalette::WindowText) != ink) {
+    QPalette muted;
+    muted.setColor(QPalette::WindowText, ink);
+    setPalette(muted);
+  }
 }
 
 void SiteReason::changeEvent(QEvent* event) {
   QLabel::changeEvent(event);
-  if (event->type() == QEvent::ApplicationPaletteChange) {
+  if (event->type() == QEvent::PaletteChange) {
     setInk();
   }
 }

@@ -54,6 +54,22 @@ TEST(ListReadings, RaiseWhatTheReadingRaised) {
   }
 }
 
+TEST(ListReadings, AFileThatEatsMemoryIsRefused) {
+  SKIP_ON_WINDOWS("There files are read in this process.");
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+  GTEST_SKIP() << "This build needs more memory than any limit leaves.";
+#endif
+  std::string sites;
+  for (int i = 0; i < 30000; ++i) {
+    sites += "http://a.b/" + std::to_string(i) + "\n";
+  }
+  ListReading reading(
+      "a.txt", "addresses", [&] { return sites; }, programFields(), std::size_t{1} << 20U);
+  const ReadList read = reading.finish();
+  ASSERT_EQ(read.faults.count(), 1U);
+  EXPECT_THAT(read.faults.kept().front().text, HasSubstr("not enough memory to read the file"));
+}
+
 TEST(ListReadings, ALibraryThatEndsItsProcessEndsNothingElse) {
   SKIP_ON_WINDOWS("There files are read in this process.");
   ListReading reading(

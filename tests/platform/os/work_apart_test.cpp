@@ -38,6 +38,26 @@ TEST(WorkApart, ABadEndIsNotThisProcesss) {
   EXPECT_EQ(raising.result(), std::nullopt);
 }
 
+TEST(WorkApart, CanBeHeldToSomeMemory) {
+  SKIP_ON_WINDOWS("There the work is done in this process.");
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+  GTEST_SKIP() << "This build needs more memory than any limit leaves.";
+#endif
+  const auto taking = [](std::size_t bytes) {
+    return [bytes]() -> std::string {
+      WorkApart::limitMemory(std::size_t{64} << 20U);
+      return std::to_string(std::string(bytes, 'x').size());
+    };
+  };
+  WorkApart modest(taking(1 << 20U));
+  modest.wait();
+  EXPECT_EQ(modest.result(), "1048576");
+  WorkApart greedy(taking(std::size_t{512} << 20U));
+  greedy.wait();
+  EXPECT_EQ(greedy.result(), std::nullopt);
+  EXPECT_EQ(std::string(std::size_t{512} << 20U, 'x').size(), std::size_t{512} << 20U) << "others are not held to it";
+}
+
 TEST(WorkApart, IsEndedWithItsObject) {
   SKIP_ON_WINDOWS("There the work is done at once.");
   WorkApart endless([]() -> std::string {

@@ -47,6 +47,26 @@ class PictureButtonTest : public ::testing::Test {
 
 TEST_F(PictureButtonTest, IsShownAtHalfTheSizeOfItsBitmap) { EXPECT_EQ(button.sizeHint(), QSize(72, 56)); }
 
+TEST_F(PictureButtonTest, WritesItsWordIntoAPictureWithoutOne) {
+  const QImage without = button.grab().toImage();
+  button.loadPictures(released(), pressed(), true);
+  const QImage with = button.grab().toImage();
+  EXPECT_NE(with, without);
+  const auto whiteIn = [&](const QRect& part) {
+    int white = 0;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+      for (int x = part.left(); x <= part.right(); ++x) {
+        white += with.pixelColor(x, y) == QColor(Qt::white) ? 1 : 0;
+      }
+    }
+    return white;
+  };
+  EXPECT_GT(whiteIn(QRect(3, 36, 66, 14)), 10) << "where the other pictures have it";
+  EXPECT_EQ(whiteIn(QRect(0, 0, 72, 36)), 0);
+  button.setText(QStringLiteral("Einrichten und mehr"));
+  EXPECT_EQ(button.sizeHint(), QSize(72, 56)) << "a longer word is written smaller: nothing moves";
+}
+
 TEST_F(PictureButtonTest, TheMouseButtonSwapsThePictures) {
   EXPECT_EQ(shownColour(), kReleasedColour);
   QTest::mousePress(&button, Qt::LeftButton);

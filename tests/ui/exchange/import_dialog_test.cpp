@@ -3,12 +3,16 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <ctime>
 #include <QAbstractItemView>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QTimer>
 
 #include "support/file_bytes.h"
 #include "ui/support/dialog_fixture.h"
+#include "ui/support/patience.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -19,6 +23,37 @@ using ::testing::IsEmpty;
 
 // In every build there is a reader for it.
 const std::string kAddresses = "http://a.example/ First\nhttp://b.example Second\nmailto:me@example.org\n";
+
+std::string manyAddresses(int count) {
+  std::string lines;
+  for (int i = 1; i <= count; ++i) {
+    lines += "http://host" + std::to_string(i % 500) + ".example/" + std::to_string(i) + "\n";
+  }
+  return lines;
+}
+
+/// The most work between two turns of the event loop. What other programs of the machine do meanwhile does not count.
+class Hold {
+ public:
+  Hold() {
+    QObject::connect(&timer_, &QTimer::timeout, [this] {
+      const std::clock_t now = std::clock();
+      longest_ = std::max(longest_, now - last_);
+      last_ = now;
+    });
+    timer_.start(0);
+  }
+  std::chrono::milliseconds longest() const { return std::chrono::milliseconds(longest_ * 1000 / CLOCKS_PER_SEC); }
+  void forget() {
+    longest_ = 0;
+    last_ = std::clock();
+  }
+
+ private:
+  std::clock_t last_ = std::clock();
+  std::clock_t longest_ = 0;
+  QTimer timer_;
+};
 
 class ImportDialogTest : public DialogTest {
  protected:
@@ -40,6 +75,7 @@ class ImportDialogTest : public DialogTest {
   }
 
   static std::string state(ImportDialog& dialog) { return in<QLabel>(dialog, "importState").text().toStdString(); }
+  static bool isDone(ImportDialog& dialog) { return caption<QPushButton>(dialog, "btnCancel") == "Close"; }
   static std::vector<std::string> notes(ImportDialog& dialog) {
     auto* model = in<QAbstractItemView>(dialog, "importNotes").model();
     std::vector<std::string> lines;
@@ -60,6 +96,7 @@ TEST_F(ImportDialogTest, ShowsWhatWouldComeAndTakesItWhenTheUserAgrees) {
   EXPECT_EQ(urls(), "1|http://b.example/\n") << "nothing is taken before the user agrees";
   EXPECT_EQ(rows(), 1);
   press(dialog, "btnImport");
+  waitUntil([&] { return isDone(dialog); });
   EXPECT_EQ(urls(), "1|http://b.example/\n2|http://a.example/\n");
   EXPECT_EQ(rows(), 2) << "the list shows it at once";
   EXPECT_EQ(state(dialog), "Sites added: 1. Changed: 0. What was not taken over is named below.");
@@ -110,13 +147,87 @@ TEST_F(ImportDialogTest, AnImportThatFailsTakesNothingAndCanBeTriedAgain) {
   auto& dialog = choose(kAddresses);
   folder.execute("create trigger full before insert on siteRows begin select raise(abort, 'no room'); end");
   press(dialog, "btnImport");
+  waitUntil([&] { return machine.prompts.texts().size() > 1; });
   ASSERT_EQ(machine.prompts.texts().size(), 2U) << "the file chooser and the box";
   EXPECT_THAT(machine.prompts.texts()[1], HasSubstr("no room"));
   EXPECT_EQ(urls(), "1|http://b.example/\n");
   folder.execute("drop trigger full");
   waitUntil([&] { return in<QPushButton>(dialog, "btnImport").isEnabled(); });
   press(dialog, "btnImport");
+  waitUntil([&] { return isDone(dialog); });
   EXPECT_EQ(urls(), "1|http://b.example/\n2|http://a.example/\n");
+}
+
+TEST_F(ImportDialogTest, HoldsTheWindowForMomentsOnly) {
+  Hold hold;
+  auto& dialog = choose(manyAddresses(32000));
+  waitUntil([&] { return in<QPushButton>(dialog, "btnImport").isEnabled(); });
+  EXPECT_LT(hold.longest(), patience(std::chrono::milliseconds(100))) << "reading and planning";
+  hold.forget();
+  press(dialog, "btnImport");
+  waitUntil([&] { return isDone(dialog); });
+  EXPECT_LT(hold.longest(), patience(std::chrono::milliseconds(100))) << "writing";
+  EXPECT_EQ(folder.queryText("select count(*) from sites"), "32001");
+}
+
+TEST_F(ImportDialogTest, EscapeInTheMiddleLeavesNothingOfIt) {
+  auto& dialog = choose(manyAddresses(5000));
+  waitUntil([&] { return in<QPushButton>(dialog, "btnImport").isEnabled(); });
+  press(dialog, "btnImport");
+  auto& bar = in<QProgressBar>(dialog, "importBar");
+  waitUntil([&] { return bar.value() > bar.maximum() * 3 / 4; });
+  EXPECT_TRUE(bar.isVisible());
+  EXPECT_THAT(state(dialog), HasSubstr("Taking the sites into the list"));
+  EXPECT_EQ(urls(), "1|http://b.example/\n") << "others see nothing of it before it is whole";
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+  waitUntil([&] { return shown<ImportDialog>() == nullptr; });
+  EXPECT_EQ(urls(), "1|http://b.example/\n");
+  folder.execute("delete from sites");  // nobody has the list locked any more
+}
+
+TEST_F(ImportDialogTest, AnEditMeanwhileHasItDoneAtOnceAndIsStored) {
+  auto& dialog = choose(manyAddresses(5000));
+  waitUntil([&] { return in<QPushButton>(dialog, "btnImport").isEnabled(); });
+  press(dialog, "btnImport");
+  waitUntil([&] { return in<QProgressBar>(dialog, "importBar").value() > 500; });
+  master->program().data().clearCounters(1);
+  EXPECT_EQ(folder.queryText("select count(*) from sites"), "5001");
+  waitUntil([&] { return isDone(dialog); });
+  EXPECT_EQ(rows(), 5001);
+  EXPECT_THAT(machine.prompts.texts(), ::testing::SizeIs(1)) << "the file chooser alone";
+}
+
+TEST_F(ImportDialogTest, WaitsForAnotherProgramThatHasTheListLocked) {
+  auto& dialog = choose(kAddresses);
+  waitUntil([&] { return in<QPushButton>(dialog, "btnImport").isEnabled(); });
+  {
+    Database others(folder.path(), machine.databases);
+    const Transaction lock(others);
+    press(dialog, "btnImport");
+    waitUntil([&] { return QString::fromStdString(state(dialog)).contains(QStringLiteral("another program")); });
+  }
+  waitUntil([&] { return isDone(dialog); });
+  EXPECT_EQ(urls(), "1|http://b.example/\n2|http://a.example/\n");
+}
+
+TEST_F(ImportDialogTest, ARunWaitsWithItsResultsAndLosesNone) {
+  for (int id = 2; id <= 4; ++id) {
+    server.respond("/" + std::to_string(id), {.body = "page"});
+    addSite(id, server.url("/" + std::to_string(id)));
+  }
+  folder.execute("update sites set active = 0 where idSite = 1");
+  auto& dialog = choose(manyAddresses(20000));
+  waitUntil([&] { return in<QPushButton>(dialog, "btnImport").isEnabled(); });
+  press(dialog, "btnImport");
+  waitUntil([&] { return in<QProgressBar>(dialog, "importBar").value() > 500; });
+  const Hold hold;
+  master->program().startRun();
+  EXPECT_LT(hold.longest(), patience(std::chrono::milliseconds(100)));
+  EXPECT_EQ(folder.queryText("select count(*) from log where status = 1"), "3");
+  master->program().stopRun();
+  waitUntil([&] { return isDone(dialog); });
+  EXPECT_EQ(folder.queryText("select count(*) from sites"), "20004");
+  EXPECT_THAT(machine.prompts.texts(), ::testing::SizeIs(1)) << "the file chooser alone";
 }
 
 TEST_F(ImportDialogTest, AFileThatIsNotThereIsTold) {

@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <QAbstractButton>
 #include <QAccessible>
+#include <QLabel>
 #include <QSignalSpy>
 
 #include "platform/process/file_run_lock.h"
@@ -246,6 +249,28 @@ TEST_F(NoticesTest, ADarkDesktopGetsTheDarkColours) {
     master->setPalette(QPalette(dark ? QColor(0x20, 0x20, 0x20) : QColor(0xF0, 0xF0, 0xF0)));
     const QImage picture = unwatched().grab().toImage();
     EXPECT_EQ(picture.pixelColor(picture.width() / 2, 1), noticeColours(dark).fill);
+  }
+}
+
+TEST_F(NoticesTest, ADesktopThatTurnsDarkLeavesEveryTextReadable) {
+  addSite(1, "http://a.test/");
+  open();
+  auto& reason = find<QLabel>("lReason");
+  auto& help = find<QAbstractButton>("Label1");
+  for (const bool dark : {false, true, false}) {
+    QPalette palette(dark ? QColor(0x20, 0x20, 0x20) : QColor(0xF0, 0xF0, 0xF0));
+    palette.setColor(QPalette::Link, Qt::blue);
+    master->setPalette(palette);
+    const QColor window = palette.color(QPalette::Window);
+    EXPECT_GE(contrastRatio(reason.palette().color(QPalette::WindowText), window), 4.5) << dark;
+    const QImage link = help.grab().toImage();
+    double best = 0;
+    for (int y = 0; y < link.height(); ++y) {
+      for (int x = 0; x < link.width(); ++x) {
+        best = std::max(best, contrastRatio(link.pixelColor(x, y), window));
+      }
+    }
+    EXPECT_GE(best, 4.5) << dark;
   }
 }
 
