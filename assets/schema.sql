@@ -183,7 +183,7 @@ CREATE TABLE siteState (
   firstError TEXT,
   told TEXT,
   toldAt TEXT,
-  reminders INTEGER,
+  lastToldAt TEXT,
   outageSince TEXT,
   outageChecks INTEGER,
   outageError TEXT,

@@ -2,44 +2,60 @@
 #include "engine/alarm_rule.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <limits>
 #include <utility>
 
 namespace tarnwick {
 namespace {
 
 using std::chrono::hours;
-using std::chrono::minutes;
 using std::chrono::seconds;
 
 using Told = SiteStanding::Told;
 
-/// Doublings beyond it make no difference to anybody: more than half a year.
-constexpr int kMostDoublings = 12;
+bool isDown(const SiteStanding& standing, const AlarmPolicy& policy) { return standing.failures >= policy.confirm; }
 
-void noteChange(SiteStanding& standing, const AlarmPolicy& policy, LocalTime now) {
-  if (policy.unsteady) {
-    standing.changes.push_back(now);
+/// How many reminders there are until so long after the first alert of an outage.
+int remindersUntil(seconds sinceAlert, const Reminders& remind) {
+  switch (remind.kind) {
+    case Reminders::Kind::everyCheck:
+    case Reminders::Kind::never:
+      return 0;
+    case Reminders::Kind::regular:
+      return static_cast<int>(std::min<seconds::rep>(sinceAlert / remind.every, std::numeric_limits<int>::max()));
+    case Reminders::Kind::growing:  // one, and one more with each doubling
+      return static_cast<int>(std::bit_width(static_cast<std::uint64_t>(sinceAlert / hours(1))));
+  }
+  return 0;
+}
+
+/// A clock that was set back leaves moments that lie ahead: they count as now.
+void takeTime(SiteStanding& standing, LocalTime now) {
+  for (LocalTime& change : standing.changes) {
+    change = std::min(change, now);
+  }
+  if (standing.told != Told::up) {
+    standing.toldAt = std::min(standing.toldAt.value_or(now), now);
+    standing.lastToldAt = std::clamp(standing.lastToldAt.value_or(now), *standing.toldAt, now);
   }
 }
 
-/// A clock that was set back leaves changes that lie ahead: those are as old as they can be.
+bool isUnsteady(const SiteStanding& standing, const AlarmPolicy& policy) {
+  return policy.unsteady && (standing.changes.size() > static_cast<std::size_t>(policy.unsteady->changes) ||
+                             (standing.unsteady && !standing.changes.empty()));
+}
+
 void forgetOldChanges(SiteStanding& standing, const AlarmPolicy& policy, LocalTime now) {
-  std::erase_if(standing.changes, [&](LocalTime change) {
-    return !policy.unsteady || change > now || now - change >= policy.unsteady->within;
-  });
-  if (policy.unsteady && standing.changes.size() > static_cast<std::size_t>(policy.unsteady->changes)) {
-    standing.unsteady = true;
-  } else if (standing.changes.empty()) {
-    standing.unsteady = false;
-  }
+  std::erase_if(standing.changes,
+                [&](LocalTime change) { return !policy.unsteady || now - change >= policy.unsteady->within; });
+  standing.unsteady = isUnsteady(standing, policy);
 }
 
 void take(SiteStanding& standing, const CheckOutcome& outcome, const AlarmPolicy& policy, LocalTime now) {
   standing.unknownSince.reset();
   if (outcome.passed) {
-    if (standing.failures > 0) {
-      noteChange(standing, policy, now);
-    }
     standing.failures = 0;
     standing.downSince.reset();
     standing.firstError.clear();
@@ -48,7 +64,6 @@ void take(SiteStanding& standing, const CheckOutcome& outcome, const AlarmPolicy
     return;
   }
   if (standing.failures == 0) {
-    noteChange(standing, policy, now);
     standing.downSince = now;
     standing.firstError = outcome.error;
   }
@@ -57,8 +72,6 @@ void take(SiteStanding& standing, const CheckOutcome& outcome, const AlarmPolicy
     ++standing.outageChecks;
   }
 }
-
-bool isDown(const SiteStanding& standing, const AlarmPolicy& policy) { return standing.failures >= policy.confirm; }
 
 void tell(AlarmStep& step, AlertKind kind) {
   const AlertKind* const last = step.alerts.empty() ? nullptr : &step.alerts.back();
@@ -77,47 +90,36 @@ void beginOutage(SiteStanding& standing, Told told, LocalTime now) {
   }
   standing.told = told;
   standing.toldAt = now;
-  standing.reminders = 0;
+  standing.lastToldAt = now;
 }
 
-bool isReminderDue(const SiteStanding& standing, const AlarmPolicy& policy, bool isCheck, LocalTime now) {
-  switch (policy.remind.kind) {
-    case Reminders::Kind::everyCheck:
-      return isCheck;
-    case Reminders::Kind::never:
-      return false;
-    case Reminders::Kind::regular:
-      return isCheck && now - *standing.toldAt >= policy.remind.every * (standing.reminders + 1);
-    case Reminders::Kind::growing:
-      return isCheck && now - *standing.toldAt >= hours(1 << std::min(standing.reminders, kMostDoublings));
-  }
-  return false;
-}
-
-/// The reminders whose time has gone by count as told, so that a night brings one and not all of them.
-void countReminders(SiteStanding& standing, const AlarmPolicy& policy, LocalTime now) {
-  do {
-    ++standing.reminders;
-  } while (policy.remind.kind != Reminders::Kind::everyCheck && standing.reminders < 1 << 20 &&
-           isReminderDue(standing, policy, true, now));
+/// However many were missed, they are one.
+bool isReminderDue(const SiteStanding& standing, const Reminders& remind, LocalTime now) {
+  return remindersUntil(now - *standing.toldAt, remind) >
+         remindersUntil(*standing.lastToldAt - *standing.toldAt, remind);
 }
 
 void tellOutage(AlarmStep& step, const AlarmPolicy& policy, bool isCheck, LocalTime now) {
   SiteStanding& site = step.standing;
+  const bool eachIsTold = policy.remind.kind == Reminders::Kind::everyCheck;
   if (isDown(site, policy) && site.told != Told::down) {
     beginOutage(site, Told::down, now);
     tell(step, AlertKind::down);
-  } else if (isDown(site, policy) && isReminderDue(site, policy, isCheck, now)) {
-    countReminders(site, policy, now);
-    tell(step, policy.remind.kind == Reminders::Kind::everyCheck ? AlertKind::down : AlertKind::stillDown);
+  } else if (isDown(site, policy) && isCheck && (eachIsTold || isReminderDue(site, policy.remind, now))) {
+    site.lastToldAt = now;
+    tell(step, eachIsTold ? AlertKind::down : AlertKind::stillDown);
   } else if (site.failures == 0 && site.told != Told::up) {
     site.told = Told::up;
     site.toldAt.reset();
-    site.reminders = 0;
+    site.lastToldAt.reset();
     if (policy.recovery) {
       tell(step, AlertKind::up);
     }
   }
+}
+
+bool isSlowNews(const SiteStanding& site, const AlarmPolicy& policy) {
+  return policy.slow && site.slow && !site.toldSlow;
 }
 
 }  // namespace
@@ -126,8 +128,13 @@ AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& 
                       LocalTime now) {
   AlarmStep step{std::move(standing), {}, std::nullopt};
   SiteStanding& site = step.standing;
+  takeTime(site, now);
   if (outcome) {
+    const bool wasDown = isDown(site, policy);
     take(site, *outcome, policy, now);
+    if (policy.unsteady && isDown(site, policy) != wasDown) {
+      site.changes.push_back(now);
+    }
   }
   forgetOldChanges(site, policy, now);
   if (outcome && site.failures > 0 && !isDown(site, policy)) {
@@ -135,9 +142,6 @@ AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& 
   }
   if (!policy.alerts || quietAt(policy, now) != Quiet::no) {
     return step;
-  }
-  if (site.toldAt) {
-    site.toldAt = std::min(*site.toldAt, now);  // the clock may have been set back
   }
   step.alerts = std::exchange(site.owed, {});
   if (site.unsteady) {
@@ -148,7 +152,7 @@ AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& 
   } else {
     tellOutage(step, policy, outcome.has_value(), now);
   }
-  if (site.slow && !site.toldSlow) {
+  if (isSlowNews(site, policy)) {
     site.toldSlow = true;
     tell(step, AlertKind::slow);
   }
@@ -159,8 +163,8 @@ AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& 
 bool waitsForTime(const SiteStanding& site, const AlarmPolicy& policy) {
   const bool wantsDown = isDown(site, policy) && site.told != Told::down;
   const bool wantsUp = site.failures == 0 && site.told != Told::up;
-  return policy.alerts &&
-         (!site.owed.empty() || site.unsteady || wantsDown || wantsUp || (site.slow && !site.toldSlow));
+  return policy.alerts && (!site.owed.empty() || site.unsteady || isUnsteady(site, policy) || wantsDown || wantsUp ||
+                           isSlowNews(site, policy));
 }
 
 }  // namespace tarnwick

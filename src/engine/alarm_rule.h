@@ -33,7 +33,9 @@ struct AlarmStep {
 /// - Down for real is a site after `confirm` failed checks in a row. That is told once, and then as `remind` says.
 /// - Up again it is with the first check that passes; `recovery` tells that, if it was told to be down.
 /// - While a moment is quiet, or `alerts` is off, nothing is told; what is still so afterwards is told then.
-/// - More changes than `unsteady` bears are told as one alert; then nothing, until there was no change for as long.
+/// - More changes between up and down for real than `unsteady` bears are told as one alert; then nothing, until there
+///   was no change for as long.
+/// - What lies ahead since the clock was set back counts as of now.
 /// - A page that took longer than `slow` is told once, until one comes in time.
 AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& outcome, const AlarmPolicy& policy,
                       LocalTime now);

@@ -23,7 +23,7 @@ bool addSiteOptions(SqlConnection& connection, const std::string&) {
 bool addSiteState(SqlConnection& connection, const std::string&) {
   connection.execute(
       "create table if not exists siteState (idSite INTEGER PRIMARY KEY, failures INTEGER, downSince TEXT, "
-      "firstError TEXT, told TEXT, toldAt TEXT, reminders INTEGER, outageSince TEXT, outageChecks INTEGER, "
+      "firstError TEXT, told TEXT, toldAt TEXT, lastToldAt TEXT, outageSince TEXT, outageChecks INTEGER, "
       "outageError TEXT, changes TEXT, unsteady INTEGER, slow INTEGER, toldSlow INTEGER, unknownSince TEXT, owed TEXT)",
       {});
   return true;

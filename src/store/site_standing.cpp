@@ -14,7 +14,7 @@ namespace {
 using Parameters = std::span<const SqlValue>;
 
 constexpr const char* kColumns =
-    "failures, downSince, firstError, told, toldAt, reminders, outageSince, outageChecks, outageError, changes, "
+    "failures, downSince, firstError, told, toldAt, lastToldAt, outageSince, outageChecks, outageError, changes, "
     "unsteady, slow, toldSlow, unknownSince, owed";
 
 constexpr std::array<std::string_view, 5> kKinds{"down", "stillDown", "up", "unsteady", "slow"};
@@ -55,7 +55,7 @@ SiteStanding standingIn(const Recordset& rows) {
   const auto told = std::ranges::find(kTold, text("told"));
   site.told = told == kTold.end() ? SiteStanding::Told::up : static_cast<SiteStanding::Told>(told - kTold.begin());
   site.toldAt = parseDateTime(text("toldAt"));
-  site.reminders = number("reminders");
+  site.lastToldAt = parseDateTime(text("lastToldAt"));
   site.outageSince = parseDateTime(text("outageSince"));
   site.outageChecks = number("outageChecks");
   site.outageError = text("outageError");
@@ -121,7 +121,7 @@ void SiteStandings::storeStanding(std::int16_t idSite, const SiteStanding& site)
       SqlValue(site.firstError),
       SqlValue(std::string(kTold[static_cast<std::size_t>(site.told)])),
       stored(site.toldAt),
-      stored(site.reminders),
+      stored(site.lastToldAt),
       stored(site.outageSince),
       stored(site.outageChecks),
       SqlValue(site.outageError),

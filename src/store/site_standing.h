@@ -32,8 +32,8 @@ struct SiteStanding {
   std::string firstError;
 
   Told told = Told::up;
-  std::optional<LocalTime> toldAt;  ///< of an outage
-  int reminders = 0;                ///< of it, since then
+  std::optional<LocalTime> toldAt;      ///< the first time, of what is no more than a failure or unsteady
+  std::optional<LocalTime> lastToldAt;  ///< the last time, with the reminders
   /// Of the latest outage that was told, for who is told of its end.
   std::optional<LocalTime> outageSince;
   int outageChecks = 0;

@@ -38,7 +38,7 @@ SiteStanding randomStanding(std::mt19937& random) {
   site.firstError = text();
   site.told = static_cast<SiteStanding::Told>(random() % 3);
   site.toldAt = maybe();
-  site.reminders = static_cast<int>(random() % 100);
+  site.lastToldAt = maybe();
   site.outageSince = maybe();
   site.outageChecks = static_cast<int>(random() % 100);
   site.outageError = text();
