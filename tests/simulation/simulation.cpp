@@ -403,6 +403,7 @@ Outcome Simulation::run() {
   };
   world_.web.onBegin = [this, actSoon] { actSoon(actsAtRequest_); };
   world_.mail.onBegin = [this, actSoon] { actSoon(actsAtMail_); };
+  user_.hasPatience = plan_.length > 24h * 30;
   world_.web.onTooMany = [this](const std::string& what) { ledger_.fail(what); };
   AlertWatch& alerts = ledger_.alerts();
   world_.desktop.onProgram = [&](const std::vector<std::string>& program) {

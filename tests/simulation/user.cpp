@@ -9,9 +9,8 @@ namespace {
 
 constexpr std::int64_t kMostParallel = 12;
 
-std::string minutes(Chance& chance) {
-  return std::to_string(chance.oneIn(3) ? chance.between(1, 5) : chance.between(5, 120));
-}
+/// So many sites stay manageable.
+constexpr std::size_t kEnoughSites = 13;
 
 }  // namespace
 
@@ -27,6 +26,18 @@ void User::perform(const std::string& what, const std::function<void()>& action)
 void User::showAfresh(Program& program) {
   initialized_ = true;
   program.run().init();
+}
+
+std::string User::someInterval(Chance& chance) const {
+  return std::to_string(chance.oneIn(3) ? (hasPatience ? 2 : 1) * chance.between(1, 5) : chance.between(5, 120));
+}
+
+bool User::wantsSite() const {
+  try {
+    return addsSites && askDatabase(world_, "select idSite from sites").size() < kEnoughSites;
+  } catch (const std::exception&) {
+    return false;  // it cannot be looked into just now
+  }
 }
 
 std::int16_t User::someSite(Chance& chance) const {
@@ -66,7 +77,7 @@ void User::actAs(Process& process, Chance chance) {
   m& data = program.data();
   enum What { stop, interval, baseline, adopt, add, remove, clearLog, counters, compact, settings, whats };
   auto what = static_cast<What>(chance.below(whats));
-  if (what == add && !addsSites) {
+  if (what == add && !wantsSite()) {
     what = settings;
   }
   switch (what) {
@@ -95,7 +106,7 @@ void User::actAs(Process& process, Chance chance) {
       perform("changes site " + std::to_string(id), [&] {
         const TextTable row = data.getArraySites(id);
         if (row.lastRow() == 1) {
-          const auto every = static_cast<std::int16_t>(std::stoi(minutes(chance)));
+          const auto every = static_cast<std::int16_t>(std::stoi(someInterval(chance)));
           const bool active = !chance.oneIn(4);
           const bool mails = chance.oneIn(2);
           // Asked under another name, a page that is under way answers a question that nobody asks any more.
@@ -117,8 +128,8 @@ void User::actAs(Process& process, Chance chance) {
     case add:
       perform("adds a site", [&] {
         const std::int16_t made = data.addSite();
-        data.updateSites(made, newUrl(), "get", true, static_cast<std::int16_t>(std::stoi(minutes(chance))), false, "",
-                         "", "");
+        data.updateSites(made, newUrl(), "get", true, static_cast<std::int16_t>(std::stoi(someInterval(chance))), false,
+                         "", "", "");
         showAfresh(program);
       });
       break;
@@ -169,7 +180,7 @@ void User::runSomeVerb(Chance chance) {
   const std::string id = std::to_string(someSite(chance));
   enum What { sites, add, set, check, log, report, exporting, settings, diff, option, whats };
   const auto what = static_cast<What>(chance.below(whats));
-  if ((edits && (what == check || what == option)) || (what == add && !addsSites)) {
+  if ((edits && (what == check || what == option)) || (what == add && !wantsSite())) {
     return;
   }
   switch (what) {
@@ -177,11 +188,11 @@ void User::runSomeVerb(Chance chance) {
       verb({"sites", "--json"});
       break;
     case add:
-      verb({"add", newUrl(), "--interval", minutes(chance)});
+      verb({"add", newUrl(), "--interval", someInterval(chance)});
       break;
     case set:
       ledger_.alerts().mayChange();
-      verb({"set", id, "--interval", minutes(chance), "--active"});
+      verb({"set", id, "--interval", someInterval(chance), "--active"});
       ledger_.excuse(std::chrono::hours(3));
       break;
     case check:

@@ -28,6 +28,8 @@ class User {
   bool edits = false;
   /// Adds no site: without the option for new sites they would be unwatched, and the run stand still for them.
   bool addsSites = true;
+  /// Has sites checked every ten minutes on average, and not every six.
+  bool hasPatience = false;
 
   /// Something in the window of the running program, also in the middle of a pass.
   void act(Process& process, Chance chance);
@@ -41,6 +43,8 @@ class User {
 
  private:
   void actAs(Process& process, Chance chance);
+  std::string someInterval(Chance& chance) const;
+  bool wantsSite() const;
   void runUpkeep(Chance chance);
   std::vector<std::string> wholeList() const;
   /// As the window does when an editor was closed.

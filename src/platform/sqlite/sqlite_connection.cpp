@@ -107,7 +107,17 @@ class SqliteConnection final : public SqlConnection {
     });
   }
 
-  void begin() override { runKept("BEGIN IMMEDIATE"); }
+  void begin() override {
+    const bool within = inTransaction();
+    try {
+      runKept("BEGIN IMMEDIATE");
+    } catch (...) {
+      if (!within) {
+        rollback();  // it may have begun before memory ran out, and nobody else would end it
+      }
+      throw;
+    }
+  }
   bool tryBegin() override {
     if (database_) {
       setPatience(std::chrono::milliseconds(0));
