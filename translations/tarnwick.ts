@@ -3295,6 +3295,10 @@
         <source>that of one site</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>This machine is offline. %1 of %2 sites were checked, and nothing is counted as down.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -4567,6 +4571,30 @@ Do You Want To Discard Them And Close %2?</source>
         <source>Site %1, %2: %3</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>tomorrow %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This machine is offline since %1. Nothing is counted as down.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alerts are paused until %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alerts are paused for good.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::OptionForm</name>
@@ -4730,6 +4758,26 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>never</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unsteady</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>offline</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

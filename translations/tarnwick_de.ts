@@ -3295,6 +3295,10 @@
         <source>that of one site</source>
         <translation>die einer Seite</translation>
     </message>
+    <message>
+        <source>This machine is offline. %1 of %2 sites were checked, and nothing is counted as down.</source>
+        <translation>Dieser Rechner ist offline. %1 von %2 Seiten wurden geprüft, und nichts zählt als Ausfall.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -4148,7 +4152,7 @@
     </message>
     <message>
         <source>never</source>
-        <translation type="unfinished">nie</translation>
+        <translation>nie</translation>
     </message>
     <message>
         <source>no host is asked, the machine is online when it knows a way to the Internet</source>
@@ -4160,7 +4164,7 @@
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">aus</translation>
+        <translation>aus</translation>
     </message>
     <message>
         <source>sites are checked in quiet hours, too</source>
@@ -4569,6 +4573,30 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <source>Site %1, %2: %3</source>
         <translation>Seite %1, %2: %3</translation>
     </message>
+    <message>
+        <source>tomorrow %1</source>
+        <translation>morgen %1</translation>
+    </message>
+    <message>
+        <source>This machine is offline since %1. Nothing is counted as down.</source>
+        <translation>Dieser Rechner ist seit %1 offline. Nichts gilt als gestört.</translation>
+    </message>
+    <message>
+        <source>Check Again</source>
+        <translation>Erneut prüfen</translation>
+    </message>
+    <message>
+        <source>Alerts are paused until %1.</source>
+        <translation>Alarme pausieren bis %1.</translation>
+    </message>
+    <message>
+        <source>Alerts are paused for good.</source>
+        <translation>Alarme pausieren auf Dauer.</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::OptionForm</name>
@@ -4733,6 +4761,26 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>never</source>
         <translation>nie</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>unsteady</source>
+        <translation>unruhig</translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation>langsam</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>offline</translation>
     </message>
 </context>
 <context>

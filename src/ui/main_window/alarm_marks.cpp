@@ -46,7 +46,9 @@ void AlarmMarks::readAll() {
     OptionsInForce options = program_.data().optionsInForce();
     if (!isAlarmSet(options)) {
       if (std::exchange(options_, std::nullopt)) {
-        sites_.clearAlarms();
+        for (int row = 0; row < sites_.rowCount(); ++row) {
+          sites_.setAlarm(row, {});
+        }
         Q_EMIT pauseRead(std::nullopt);
       }
       return;

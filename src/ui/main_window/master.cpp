@@ -9,7 +9,6 @@
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QDir>
-#include <QIcon>
 #include <QScreen>
 #include <QShortcut>
 #include <QWindow>
@@ -20,6 +19,7 @@
 #include "ui/controls/page_opener.h"
 #include "ui/controls/program_file.h"
 #include "ui/main_window/damage_box.h"
+#include "ui/main_window/master_pictures.h"
 
 namespace tarnwick {
 namespace {
@@ -106,7 +106,7 @@ void Master::tellNotice() {
 
 void Master::fullInit() {
   controls_.lblVersion->setText(versionText());
-  loadPictures();
+  loadPictures(controls_, program_.programFolder());
   controls_.lClock->clear();
   setupGridHeader();
   controls_.pb1->fill();
@@ -114,22 +114,6 @@ void Master::fullInit() {
 }
 
 QString Master::fileOf(const QString& name) const { return programFile(program_.programFolder(), name); }
-
-void Master::loadPictures() {
-  const auto load = [this](PictureButton& image, const QString& path, const char* word) {
-    image.text() == QLatin1String(word)
-        ? image.loadPictures(fileOf(path + QStringLiteral(".bmp")), fileOf(path + QStringLiteral("h.bmp")))
-        : image.loadPictures(fileOf(path + QStringLiteral("-released.png")),
-                             fileOf(path + QStringLiteral("-pressed.png")), true);
-  };
-  load(*controls_.start.image, QStringLiteral("/images/start"), "Start");
-  load(*controls_.stop.image, QStringLiteral("/images/stop"), "Stop");
-  load(*controls_.makeNew.image, QStringLiteral("/images/new"), "New");
-  load(*controls_.setup.image, QStringLiteral("/images/setup"), "Setup");
-  load(*controls_.imgLogoSmall, QStringLiteral("/images/logosmall"), kProductName);
-  // Boxes that come up before this window bear it too.
-  QApplication::setWindowIcon(QIcon(fileOf(QStringLiteral("/images/tarnwick.png"))));
-}
 
 void Master::setupGridHeader() { sites_.setSites(TextTable()); }
 

@@ -71,8 +71,6 @@ class Master final : public QMainWindow, public RunView {
   void fullInit();
   /// The product's notice, which names the folder of the data where that is not the program's own.
   void tellNotice();
-  /// Those with English words in them, or for the other languages those without.
-  void loadPictures();
   void setupGridHeader();
   void connectControls();
   void connectAction(const ActionControls& action, const QKeySequence& shortcut, void (Master::*handler)());

@@ -110,12 +110,6 @@ void SiteGridModel::setAlarm(int row, const AlarmView& view) {
   }
 }
 
-void SiteGridModel::clearAlarms() {
-  for (int row = 0; row < rowCount(); ++row) {
-    setAlarm(row, {.confirm = 0});
-  }
-}
-
 void SiteGridModel::setResult(std::int16_t idSite, bool passed) {
   marks_.erase(idSite);
   changeRows(idSite, [&](Row& row) {

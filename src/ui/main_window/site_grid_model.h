@@ -48,8 +48,6 @@ class SiteGridModel final : public QAbstractTableModel {
 
   /// Says in a row what there is to be seen of its site's alarm. Nothing for a row that there is not.
   void setAlarm(int row, const AlarmView& view);
-  /// Says nothing of it in any row.
-  void clearAlarms();
 
   /// Marks the site: adds `amount` to each part of the colour that its "URL" cell has now, and paints its "ID" and
   /// "URL" cells so.
@@ -80,7 +78,7 @@ class SiteGridModel final : public QAbstractTableModel {
     AlarmView::State state = AlarmView::State::none;
     bool paused = false;
     int failures = 0;
-    int confirm = 0;
+    int confirm = 1;
 
     bool operator==(const Alarm&) const = default;
   };

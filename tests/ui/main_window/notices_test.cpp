@@ -248,7 +248,7 @@ TEST_F(NoticesTest, ADarkDesktopGetsTheDarkColours) {
   for (const bool dark : {false, true}) {
     master->setPalette(QPalette(dark ? QColor(0x20, 0x20, 0x20) : QColor(0xF0, 0xF0, 0xF0)));
     const QImage picture = unwatched().grab().toImage();
-    EXPECT_EQ(picture.pixelColor(picture.width() / 2, 1), noticeColours(dark).fill);
+    EXPECT_EQ(picture.pixelColor(picture.width() / 2, 1), noticeColours(NoticeTone::amber, dark).fill);
   }
 }
 
@@ -276,7 +276,7 @@ TEST_F(NoticesTest, ADesktopThatTurnsDarkLeavesEveryTextReadable) {
 
 TEST(NoticeColoursTest, AreEasyToRead) {
   for (const bool dark : {false, true}) {
-    const NoticeColours colours = noticeColours(dark);
+    const NoticeColours colours = noticeColours(NoticeTone::amber, dark);
     EXPECT_GE(contrastRatio(colours.ink, colours.fill), 7.0);
   }
 }
