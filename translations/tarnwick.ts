@@ -3283,6 +3283,10 @@
         <source>that of one site</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>This machine is offline. %1 of %2 sites were checked, and nothing is counted as down.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -3283,6 +3283,10 @@
         <source>that of one site</source>
         <translation>die einer Seite</translation>
     </message>
+    <message>
+        <source>This machine is offline. %1 of %2 sites were checked, and nothing is counted as down.</source>
+        <translation>Dieser Rechner ist offline. %1 von %2 Seiten wurden geprüft, und nichts gilt als gestört.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
