@@ -4140,7 +4140,7 @@
     </message>
     <message>
         <source>never</source>
-        <translation type="unfinished">nie</translation>
+        <translation>nie</translation>
     </message>
     <message>
         <source>no host is asked, the machine is online when it knows a way to the Internet</source>
@@ -4152,7 +4152,7 @@
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">aus</translation>
+        <translation>aus</translation>
     </message>
     <message>
         <source>sites are checked in quiet hours, too</source>
