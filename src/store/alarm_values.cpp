@@ -202,8 +202,8 @@ std::optional<DatedWindow> readDatedWindow(std::string_view text) {
     return std::nullopt;
   }
   const std::string_view behind = text.substr(to + kTo.size());
-  // The colon of a time has a digit behind it.
-  const std::size_t colon = behind.find(": ");
+  // The colon of a time has a digit behind it. One at the end is followed by no note.
+  const std::size_t colon = behind.ends_with(':') ? std::min(behind.find(": "), behind.size() - 1) : behind.find(": ");
   const std::vector<std::string_view> ends = parts(behind.substr(0, colon), ',');
   const auto from = readMoment(text.substr(0, to));
   const auto until = readMoment(ends.front());

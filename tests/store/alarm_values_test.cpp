@@ -127,6 +127,8 @@ TEST(AlarmValues, DatedWindowsAreTakenWithKindAndNote) {
   EXPECT_EQ(windows("2026-12-01 08:00 to 2026-12-01 12:00, keep alerts"),
             "2026-12-01 08:00 to 2026-12-01 12:00, keep alerts");
   EXPECT_EQ(windows("none"), "none");
+  EXPECT_EQ(windows("2026-12-01 08:00 to 2026-12-01 12:00: ; 2026-12-02 08:00 to 2026-12-02 12:00, keep alerts:"),
+            "2026-12-01 08:00 to 2026-12-01 12:00; 2026-12-02 08:00 to 2026-12-02 12:00, keep alerts");
   for (const char* const bad :
        {"", "2026-12-01", "2026-12-01 08:00 - 2026-12-01 12:00", "2026-12-01 12:00 to 2026-12-01 08:00",
         "2026-12-01 12:00 to 2026-12-01 12:00", "2026-13-01 to 2026-14-01", "2026-12-01 to 2026-12-02, sleep",

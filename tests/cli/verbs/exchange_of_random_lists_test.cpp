@@ -59,6 +59,29 @@ class ExchangeOfRandomLists : public ToolFixture, public ::testing::WithParamInt
     }
     return made;
   }
+  /// Some that a single site may have. What is read out of a text is odd where it may be.
+  void storeRandomOptions(m& data, std::int16_t id) {
+    std::string note = text(true);
+    std::erase(note, ';');
+    const OptionValues some{{"adopt", dice_.oneIn(2) ? "pages only" : "anything"},
+                            {"alerts", dice_.oneIn(2) ? "on" : "off"},
+                            {"confirm", std::to_string(dice_.between(1, 20))},
+                            {"confirmAfter", std::to_string(dice_.between(1, 300)) + ", 2 min"},
+                            {"recovery", dice_.oneIn(2) ? "on" : "off"},
+                            {"remind", dice_.oneIn(2) ? "every check" : std::to_string(dice_.between(1, 10080))},
+                            {"flapping", dice_.oneIn(2) ? "off" : "5 in 30 min"},
+                            {"slow", dice_.oneIn(2) ? "off" : std::to_string(dice_.between(1, 600000))},
+                            {"quiet", dice_.oneIn(2) ? "none" : "Mon-Fri 22-6, Sat, Sun 0-24"},
+                            {"quietHow", dice_.oneIn(2) ? "keep alerts" : "do not check"},
+                            {"maintenance", "2026-12-01 08:00 to 2026-12-01 12:00, do not check: " + note +
+                                                "; 2026-12-02 to 2026-12-03: x"},
+                            {"pause", dice_.oneIn(2) ? "for good" : "until 2026-12-01 08:00"}};
+    for (const auto& [name, value] : some) {
+      if (dice_.oneIn(2)) {
+        data.setOption(id, name, value);
+      }
+    }
+  }
   void addRandomSite(m& data, std::int16_t id) {
     static const std::array<const char*, 4> kMethods{"get", "post", "POST", "Get"};
     const bool alerts = dice_.oneIn(2);
@@ -73,9 +96,7 @@ class ExchangeOfRandomLists : public ToolFixture, public ::testing::WithParamInt
     if (!dice_.oneIn(4)) {
       data.updateContentCompare(id, page());
     }
-    if (dice_.oneIn(2)) {
-      data.storeOptions(id, {{"adopt", dice_.oneIn(2) ? "pages only" : "anything"}});
-    }
+    storeRandomOptions(data, id);
   }
   void fill(const ProgramFolder& list) {
     m data(list.path(), machine.services());
@@ -91,6 +112,9 @@ class ExchangeOfRandomLists : public ToolFixture, public ::testing::WithParamInt
                                   {"mailLimit", std::to_string(dice_.between(1, 3600))}});
     if (dice_.oneIn(2)) {
       data.setOption(kAllSites, "newSites", "at once");
+      data.setOption(kAllSites, "witnesses", "example.org, [2001:db8::1]:53");
+      data.setOption(kAllSites, "ownNetwork", "on");
+      storeRandomOptions(data, kAllSites);
     }
   }
 

@@ -62,6 +62,20 @@ TEST_F(ExchangeVerbs, CsvComesBackByteForByte) { expectRoundTrip("sites.csv"); }
 
 TEST_F(ExchangeVerbs, JsonComesBackByteForByte) { expectRoundTrip("sites.json"); }
 
+TEST_F(ExchangeVerbs, NameTheOptionThatDoesNotTakeItsValueAndWhatItTakes) {
+  for (const OptionField& option : programOptions()) {
+    input = R"({"tarnwick": 1, "options": {")" + option.name + R"(": "what is this?"}, "sites": []})";
+    EXPECT_EQ(run({"import", "-", "--format", "json"}), exit_status::failed) << option.name;
+    if (option.kind == OptionKind::text && option.form == nullptr) {
+      continue;
+    }
+    EXPECT_THAT(err, HasSubstr("the option " + option.name + " does not take \"what is this?\": give ")) << option.name;
+    EXPECT_THAT(err, HasSubstr(option.values())) << option.name;
+    EXPECT_THAT(err, HasSubstr("Nothing was imported.")) << option.name;
+  }
+  EXPECT_EQ(folder.queryText("select count(*) from siteOptions"), "0");
+}
+
 TEST_F(ExchangeVerbs, WriteAndReadTheStandardStreams) {
   addSite("http://a/");
   ASSERT_EQ(run({"export", "-", "--format", "csv"}), exit_status::ok);
