@@ -74,6 +74,45 @@ TEST_F(NoticesTest, AnEmptyListNeedsNoneAndNoRoom) {
   EXPECT_TRUE(waitUntil([&] { return find<QTableView>("grid1").height() == withoutNotice; }));
 }
 
+TEST_F(NoticesTest, APauseOfAllAlertsIsToldAndEndedByItsNotice) {
+  addSite(1, "http://a.test/");
+  open();
+  master->program().data().setOption(kAllSites, "pause", "for good");
+  master->program().run().init();
+  auto& paused = find<Notice>("noticePaused");
+  ASSERT_TRUE(waitUntil([&] { return paused.isVisible(); }));
+  EXPECT_EQ(paused.sentence(), QStringLiteral("Alerts are paused for good."));
+  click("noticePaused");
+  EXPECT_TRUE(waitUntil([&] { return !paused.isVisible(); }));
+  EXPECT_FALSE(master->program().data().options(kAllSites).contains("pause"));
+}
+
+TEST_F(NoticesTest, AMachineThatIsOfflineIsToldUntilItIsOnlineAgain) {
+  open();
+  master->showOffline(parseDateTime("2026-11-22 14:02:33"));
+  auto& offline = find<Notice>("noticeOffline");
+  EXPECT_TRUE(offline.isVisible());
+  EXPECT_EQ(offline.sentence(), QStringLiteral("This machine is offline since 14:02. Nothing is counted as down."));
+  master->showOffline(std::nullopt);
+  EXPECT_FALSE(offline.isVisible());
+}
+
+TEST_F(NoticesTest, MoreThanThreeAreCounted) {
+  addSite(1, "http://a.test/");
+  open();
+  ASSERT_TRUE(says("1 site is unwatched: no run is on"));
+  master->showOffline(parseDateTime("2026-11-22 14:02:33"));
+  lose(1, "The mail server is away.");
+  master->program().data().setOption(kAllSites, "pause", "for good");
+  master->program().run().init();
+  auto& more = find<QLabel>("noticeMore");
+  ASSERT_TRUE(waitUntil([&] { return more.isVisible(); }));
+  EXPECT_EQ(more.text(), QStringLiteral("+1"));
+  EXPECT_FALSE(find<Notice>("noticePaused").isVisible());
+  master->showOffline(std::nullopt);
+  EXPECT_TRUE(waitUntil([&] { return !more.isVisible() && find<Notice>("noticePaused").isVisible(); }));
+}
+
 TEST_F(NoticesTest, WithoutARunEveryActiveSiteIsUnwatchedAndTheNoticeStartsOne) {
   server.respond("/", {.body = "page"});
   addSite(1, server.url("/"));

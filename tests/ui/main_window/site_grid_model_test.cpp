@@ -124,6 +124,37 @@ TEST_F(SiteGridModelTest, TheNumberOfASiteBearsItsState) {
   expectRowColour(3, kUp);
 }
 
+TEST_F(SiteGridModelTest, WhatIsSeenOfAnAlarmRefinesTheState) {
+  using State = AlarmView::State;
+  show({{.id = "1", .active = "True", .status = "True"},
+        {.id = "2", .active = "True", .status = "False"},
+        {.id = "3", .active = "False", .status = "True"}});
+  const auto word = [&](int row) { return model.index(row, 0).data(SiteGridModel::wordRole).toString(); };
+  for (int row = 0; row < 3; ++row) {
+    model.setAlarm(row, {.state = State::unconfirmed, .failures = 1, .confirm = 3});
+  }
+  EXPECT_EQ(word(0), QStringLiteral("up"));
+  EXPECT_EQ(word(1), QStringLiteral("1 of 3"));
+  expectRowColour(1, kDown);
+  model.setAlarm(0, {.state = State::slow});
+  EXPECT_EQ(word(0), QStringLiteral("slow"));
+  expectRowColour(0, colourFromText(colours::kWarning));
+  model.setAlarm(1, {.state = State::unsteady});
+  EXPECT_EQ(word(1), QStringLiteral("unsteady"));
+  for (int row = 0; row < 3; ++row) {
+    model.setAlarm(row, {.state = State::unknown});
+  }
+  EXPECT_EQ(word(0), QStringLiteral("offline"));
+  expectRowColour(0, colourFromText(colours::kOffline));
+  EXPECT_EQ(word(2), QStringLiteral("not active"));
+  expectRowColour(2, kInactive);
+  model.setAlarm(0, {.state = State::slow, .pause = Pause{.isOn = true, .until = {}}});
+  EXPECT_EQ(word(0), QStringLiteral("paused"));
+  model.setAlarm(0, {});
+  EXPECT_EQ(word(0), QStringLiteral("up"));
+  expectRowColour(0, kUp);
+}
+
 TEST_F(SiteGridModelTest, WhatACheckToldOfItsFetchStaysUntilTheNextOne) {
   const SiteCells down{.id = "1", .status = "False", .lastChecked = "2024-02-03 04:05:06"};
   show({down});
