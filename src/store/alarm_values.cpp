@@ -250,6 +250,7 @@ std::optional<std::vector<seconds>> readPauses(std::string_view text) {
 
 std::string pausesText(const std::vector<seconds>& pauses) {
   std::vector<std::string> texts;
+  texts.reserve(pauses.size());
   for (const seconds pause : pauses) {
     texts.push_back(std::to_string(pause.count()) + " s");
   }

@@ -129,5 +129,34 @@ TEST_F(RunTerminalTest, EndsTheRunWhenTheReaderOfItsOutputHasGone) {
   EXPECT_TRUE(machine.pump.closing());
 }
 
+TEST_F(RunTerminalTest, TellsAScriptWhichSitesTheRunDoesNotWatch) {
+  machine.handClock.setLocal(HandClock::at("2024-05-17 12:00:00"));
+  for (const char* const url : {"http://a/", "http://b/", "http://c/"}) {
+    addSite(url);
+  }
+  folder.execute("update sites set lastChecked = '2024-05-17 12:00:00' where idSite < 3");
+  m data(folder.path(), machine.services());
+  RunTerminal json(console, machine.clock(), machine.pump, {.json = true});
+  json.prepare(data);
+  // The one about the latest pass, without the time.
+  const auto pass = [&] {
+    written.str("");
+    json.indicators(RunState::start);
+    json.showResult({.idSite = 1, .url = "http://a/", .passed = true});
+    json.indicators(RunState::stop);
+    const std::string lines = written.str();
+    Json event = Json::parse(lines.substr(lines.rfind("{\"time\"")));
+    event.erase("time");
+    return event;
+  };
+  EXPECT_EQ(pass(), (Json{{"event", "pass"}, {"up", 1}, {"down", 0}, {"neverChecked", 1}}));
+  data.setOption(kAllSites, option_name::newSites, option_value::atOnce);
+  EXPECT_EQ(pass(), (Json{{"event", "pass"}, {"up", 1}, {"down", 0}}));
+  machine.handClock.advance(std::chrono::minutes(20));
+  folder.execute("update sites set lastChecked = '2024-05-17 12:15:00' where idSite = 1");
+  EXPECT_EQ(pass(), (Json{{"event", "pass"}, {"up", 1}, {"down", 0}, {"overdue", 1}}));
+  json.end();
+}
+
 }  // namespace
 }  // namespace tarnwick::testing
