@@ -1,31 +1,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 #include <QGridLayout>
 #include <QScrollArea>
+#include <QVBoxLayout>
 
 #include "program/program.h"
 #include "store/site_options.h"
+#include "ui/controls/alarm_section.h"
+#include "ui/controls/option_control.h"
 
 namespace tarnwick {
 
-/// The control of an option.
-struct OptionControl {
-  QWidget* widget;
-  /// Shows a value; without one `unset`, which says what holds then.
-  std::function<void(const std::optional<std::string>& value, const QString& unset)> show;
-  /// What is chosen.
-  std::function<std::optional<std::string>()> value;
-};
-
-/// A page of options, of one site or of all: a row for each one that the program has, made from their table. An option
-/// that is not set says so, and stays so until it is chosen. Nothing is read before the page is seen, and nothing is
-/// written that was not changed.
+/// A page of options, of one site or of all: when it is told on top, below it a row for each other option that the
+/// program has, made from their table. An option that is not set says so, and stays so until it is chosen. Nothing is
+/// read before the page is seen, and nothing is written that was not changed.
 class OptionForm final : public QScrollArea {
   Q_OBJECT
 
@@ -36,6 +30,9 @@ class OptionForm final : public QScrollArea {
   /// Shows the options of a site, or those for all sites (`kAllSites`), when the page is next seen; what was changed
   /// and not stored is dropped.
   void setSite(std::int16_t idSite);
+
+  /// How often the site is checked, for the example on the page.
+  void setInterval(std::chrono::minutes interval);
 
   /// Whether something else is chosen than what is stored.
   bool isChanged() const;
@@ -60,13 +57,15 @@ class OptionForm final : public QScrollArea {
 
   void load();
   void makeRows();
-  void addRow(const OptionField& option);
+  QGridLayout* addGroup(QVBoxLayout& page, const QString& caption);
+  void addRow(const OptionField& option, QGridLayout& lines);
   void storeRow(const Row& row);
 
   Program& program_;
   std::int16_t idSite_ = kAllSites;
   bool loaded_ = false;
-  QGridLayout* lines_ = nullptr;
+  std::chrono::minutes interval_{10};
+  AlarmSection* alarm_ = nullptr;
   std::vector<Row> rows_;
 };
 

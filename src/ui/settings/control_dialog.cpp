@@ -82,10 +82,15 @@ void ControlDialog::connectButtons() {
   onClick(*controls_.Command7, program_.faults(), [this] { Command7_Click(); });
   onClick(*controls_.Command8, program_.faults(), [this] { Command8_Click(); });
   onClick(*controls_.Command9, program_.faults(), [this] { Command9_Click(); });
-  onClick(*controls_.btnOk, program_.faults(), [this] { Command1_Click(); });
-  onClick(*controls_.btnCancel, program_.faults(), [this] { Command2_Click(); });
-  connect(controls_.pages, &QTabWidget::currentChanged, this,
-          [this](int page) { (page == 0 ? controls_.Command1 : controls_.btnOk)->setDefault(true); });
+  for (QPushButton* ok : controls_.btnOks) {
+    onClick(*ok, program_.faults(), [this] { Command1_Click(); });
+  }
+  for (QPushButton* cancel : controls_.btnCancels) {
+    onClick(*cancel, program_.faults(), [this] { Command2_Click(); });
+  }
+  connect(controls_.pages, &QTabWidget::currentChanged, this, [this](int page) {
+    (page == 0 ? controls_.Command1 : controls_.btnOks.at(static_cast<std::size_t>(page) - 1))->setDefault(true);
+  });
 }
 
 void ControlDialog::populateMe() {
@@ -120,7 +125,9 @@ std::vector<Setting> ControlDialog::shownSettings() const {
 }
 
 QString ControlDialog::unsavedEdits() const {
-  return shownSettings() != loaded_ || controls_.defaults->isChanged() ? tr("the settings") : QString();
+  return shownSettings() != loaded_ || controls_.defaults->isChanged() || controls_.pause->isChanged()
+             ? tr("the settings")
+             : QString();
 }
 
 void ControlDialog::storeSettings() {
@@ -137,6 +144,7 @@ void ControlDialog::Command1_Click() {
   Transaction whole(program_.data().database());
   storeSettings();
   controls_.defaults->store();
+  controls_.pause->store();
   whole.commit();
   unload(Accepted);
 }

@@ -181,6 +181,19 @@ void makeAdministration(QGroupBox& frame, ControlDialogControls& controls) {
   lines->setColumnStretch(1, 1);
 }
 
+// The content of a page with OK and Cancel below it. The first page has the letters.
+void layOutPage(QWidget& page, QWidget& content, const char* ok, const char* cancel, ControlDialogControls& controls) {
+  controls.btnOks.push_back(addButton(page, ok, QObject::tr("OK"), controls.Command1->toolTip()));
+  controls.btnCancels.push_back(addButton(page, cancel, QObject::tr("Cancel"), controls.Command2->toolTip()));
+  auto* foot = new QHBoxLayout;
+  foot->addStretch();
+  foot->addWidget(controls.btnOks.back());
+  foot->addWidget(controls.btnCancels.back());
+  auto* below = new QVBoxLayout(&page);
+  below->addWidget(&content, 1);
+  below->addLayout(foot);
+}
+
 }  // namespace
 
 ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program) {
@@ -197,18 +210,13 @@ ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program) {
 
   auto* defaults = new QWidget;
   controls.defaults = named(new OptionForm(program, defaults), "defaults", QObject::tr("Defaults for all sites"));
-  // The first page has the letters.
-  controls.btnOk = addButton(*defaults, "btnOk", QObject::tr("OK"), controls.Command1->toolTip());
-  controls.btnCancel = addButton(*defaults, "btnCancel", QObject::tr("Cancel"), controls.Command2->toolTip());
-  auto* foot = new QHBoxLayout;
-  foot->addStretch();
-  foot->addWidget(controls.btnOk);
-  foot->addWidget(controls.btnCancel);
-  auto* below = new QVBoxLayout(defaults);
-  below->addWidget(controls.defaults, 1);
-  below->addLayout(foot);
+  layOutPage(*defaults, *controls.defaults, "btnOk", "btnCancel", controls);
+  auto* pause = new QWidget;
+  controls.pause = named(new PausePage(program, pause), "pause", QObject::tr("Pause and quiet hours of all sites"));
+  layOutPage(*pause, *controls.pause, "btnOkPause", "btnCancelPause", controls);
 
-  controls.pages = addPages(dialog, {{QObject::tr("General"), general}, {QObject::tr("Defaults"), defaults}});
+  controls.pages = addPages(
+      dialog, {{QObject::tr("General"), general}, {QObject::tr("Defaults"), defaults}, {QObject::tr("Pause"), pause}});
   auto* all = new QVBoxLayout(&dialog);
   all->addWidget(controls.pages);
   return controls;

@@ -10,6 +10,7 @@
 
 #include "ui/controls/field_control.h"
 #include "ui/controls/option_form.h"
+#include "ui/settings/pause_page.h"
 
 namespace tarnwick {
 
@@ -29,10 +30,12 @@ struct ControlDialogControls {
   QPushButton* Command1;  ///< OK
   QPushButton* Command2;  ///< Cancel
 
-  QTabWidget* pages;  ///< General, Defaults
+  QTabWidget* pages;  ///< General, Defaults, Pause
   OptionForm* defaults;
-  QPushButton* btnOk;
-  QPushButton* btnCancel;
+  PausePage* pause;
+  /// OK and Cancel of each page behind the first one.
+  std::vector<QPushButton*> btnOks;
+  std::vector<QPushButton*> btnCancels;
 
   QPushButton* Command3;  ///< Clear Logs
   QLabel* lblLogs;
@@ -43,7 +46,8 @@ struct ControlDialogControls {
 };
 
 /// Makes the controls of the settings dialog and lays them out: on the first page the settings with OK and Cancel at
-/// the top, the administration functions below; on the second one the options for all sites.
+/// the top, the administration functions below; on the second one the options for all sites, on the third one
+/// when it is quiet.
 ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program);
 
 /// Tells under the list of time-outs, while none is selected, what is stored; where that is nothing, what holds.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/site/site_editor.h"
 
+#include <chrono>
 #include <stdexcept>
 #include <utility>
 #include <QKeyEvent>
@@ -38,6 +39,11 @@ void SiteEditor::connectButtons() {
   onClick(*controls_.counters, program_.faults(), [this] { Command7_Click(); });
   onClick(*controls_.Command8, program_.faults(), [this] { Command8_Click(); });
   onClick(*controls_.Command9, program_.faults(), [this] { Command9_Click(); });
+  connect(controls_.pages, &QTabWidget::currentChanged, this, [this] {
+    // What is chosen on the first page, stored or not.
+    const SiteDraft site = shownSite(controls_, program_.data().fields().site, stored_);
+    controls_.options->setInterval(std::chrono::minutes(QString::fromStdString(site.tInterval).toInt()));
+  });
   connect(controls_.grid1, &QTableView::clicked, this,
           [this](const QModelIndex& index) { program_.faults().run([&] { grid1_Click(index.row()); }); });
 }

@@ -183,8 +183,8 @@ SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, Pro
   frames->setColumnStretch(1, 1);
   frames->setRowStretch(0, 1);
 
-  controls.options = named(new OptionForm(program), "options", QObject::tr("Options of this site"));
-  controls.pages = addPages(dialog, {{QObject::tr("Site"), site}, {QObject::tr("Options"), controls.options}});
+  controls.options = named(new OptionForm(program), "options", QObject::tr("Alarm and options of this site"));
+  controls.pages = addPages(dialog, {{QObject::tr("Site"), site}, {QObject::tr("Alarm"), controls.options}});
   QGroupBox* control = addFrame(dialog, "Frame3", QObject::tr("Control"));
   makeButtons(*control, controls);
   auto* all = new QVBoxLayout(&dialog);

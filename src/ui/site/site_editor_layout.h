@@ -43,7 +43,7 @@ struct SiteEditorControls {
   QCheckBox* cPager;
   QLineEdit* tPager;
 
-  QTabWidget* pages;  ///< Site, Options
+  QTabWidget* pages;  ///< Site, Alarm
   OptionForm* options;
 
   QPushButton* Command1;  ///< OK
@@ -55,7 +55,7 @@ struct SiteEditorControls {
 };
 
 /// Makes the controls of the site editor and lays them out: on the first page the site with its alerts on the left, the
-/// POST variables on the right; on the second one its options; the buttons below both.
+/// POST variables on the right; on the second one when somebody is told; the buttons below both.
 SiteEditorControls layOutSiteEditor(QDialog& dialog, PostVarModel& postVars, Program& program);
 
 /// Tells below the editor's controls why its site is down, in a label `lReason`; an empty text takes that away.
