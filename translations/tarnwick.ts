@@ -3823,15 +3823,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Options of this site</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Site</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Options</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4194,6 +4186,331 @@
         <source>up to ten pauses of 1 to 300 seconds, as in &quot;5 s, 20 s&quot;</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Pause and quiet hours of all sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm and options of this site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AlarmDetails</name>
+    <message>
+        <source>In detail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failures until it is down for real</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look again after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pauses before a failed check is repeated, as in &quot;5 s, 20 s&quot;; the last one holds for all further ones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down for real after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failures; look again after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A failed check is repeated at once; only when so many have failed in a row it is told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell me when it is up again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>While it stays down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tell me at every failed check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>say no more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>remind me every</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>remind me after 1, 2, 4 … hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes between two reminders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes that are borne</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes in which they are borne</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsteady: over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changes in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>min are one alert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Milliseconds of a slow answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slow: an answer after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is a warning, never &quot;down&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AlarmSection</name>
+    <message>
+        <source>Tell me</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quiet hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The hours of the week, and dated windows, of this site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In quiet hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell again; stored with OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As in Defaults (at every failed check)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As in Defaults (down for real, and back)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As in Defaults (never)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As in Defaults (see the details)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as for all sites: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paused %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At every failed check (as the original)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As in Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At every failed check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only when it is down for real,
+and when it is back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>My own choice</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AlarmStrip</name>
+    <message>
+        <source>What would happen: 1 alert for an outage of %1 minutes (at every failed check: %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What would happen: %3 alerts for an outage of %1 minutes (at every failed check: %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>up again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 checks, nothing said</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 checks, %2 alerts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fails</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down for real</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>looked again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>still down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>told %1 times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>you are told</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AlarmWords</name>
+    <message>
+        <source>Mon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tomorrow %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no quiet hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>daily</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>do not check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>check, and keep the alerts until they end</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>
@@ -4312,6 +4629,52 @@
     </message>
     <message>
         <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DatedWindowsModel</name>
+    <message>
+        <source>as in quiet hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DatedWindowsTable</name>
+    <message>
+        <source>Dated windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a time, tomorrow from 8:00 on; change it there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the chosen time (Del)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4622,6 +4985,53 @@ Do You Want To Discard Them And Close %2?</source>
         <source>%1. As the original: %2.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>This machine&apos;s own network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::PausePage</name>
+    <message>
+        <source>Right now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not paused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>paused for 1 hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>paused until tomorrow 8:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>paused until …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>paused for good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>While the alerts are paused sites are checked, and what is still so afterwards is told then</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paused until</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In quiet hours</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::PostVarModel</name>
@@ -4631,6 +5041,40 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::QuietHoursDialog</name>
+    <message>
+        <source>Quiet Hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close without a change (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::QuietHoursForm</name>
+    <message>
+        <source>Quiet hours each week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag over hours, or use arrows and Space. Local time: an hour that comes twice is quiet twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dated windows</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4785,6 +5229,17 @@ Do You Want To Discard Them And Close %2?</source>
     <name>tarnwick::VarsForm</name>
     <message>
         <source>Command1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::WeekMapModel</name>
+    <message>
+        <source>%1 %2 to %3: quiet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3: not quiet</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -3823,16 +3823,8 @@
         <translation>Vorgaben</translation>
     </message>
     <message>
-        <source>Options of this site</source>
-        <translation>Optionen dieser Seite</translation>
-    </message>
-    <message>
         <source>Site</source>
         <translation>Seite</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Optionen</translation>
     </message>
     <message>
         <source>First baseline</source>
@@ -4194,6 +4186,332 @@
         <source>up to ten pauses of 1 to 300 seconds, as in &quot;5 s, 20 s&quot;</source>
         <translation>bis zu zehn Pausen von 1 bis 300 Sekunden, etwa &quot;5 s, 20 s&quot;</translation>
     </message>
+    <message>
+        <source>Pause and quiet hours of all sites</source>
+        <translation>Pause und Ruhezeiten aller Seiten</translation>
+    </message>
+    <message>
+        <source>Alarm and options of this site</source>
+        <translation>Alarm und Optionen dieser Seite</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Alarm</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AlarmDetails</name>
+    <message>
+        <source>In detail</source>
+        <translation>Im Einzelnen</translation>
+    </message>
+    <message>
+        <source>Failures until it is down for real</source>
+        <translation>Fehlschläge, bis sie wirklich aus ist</translation>
+    </message>
+    <message>
+        <source>Look again after</source>
+        <translation>Wieder nachsehen nach</translation>
+    </message>
+    <message>
+        <source>The pauses before a failed check is repeated, as in &quot;5 s, 20 s&quot;; the last one holds for all further ones</source>
+        <translation>Die Pausen, bis eine fehlgeschlagene Prüfung wiederholt wird, wie „5 s, 20 s“; die letzte gilt für alle weiteren</translation>
+    </message>
+    <message>
+        <source>Down for real after</source>
+        <translation>Wirklich aus nach</translation>
+    </message>
+    <message>
+        <source>failures; look again after</source>
+        <translation>Fehlschlägen; Pausen</translation>
+    </message>
+    <message>
+        <source>A failed check is repeated at once; only when so many have failed in a row it is told</source>
+        <translation>Eine fehlgeschlagene Prüfung wird gleich wiederholt; erst wenn so viele hintereinander fehlgeschlagen sind, wird es gemeldet</translation>
+    </message>
+    <message>
+        <source>Tell me when it is up again</source>
+        <translation>Melden, wenn sie wieder da ist</translation>
+    </message>
+    <message>
+        <source>While it stays down</source>
+        <translation>Solange sie aus bleibt</translation>
+    </message>
+    <message>
+        <source>tell me at every failed check</source>
+        <translation>jeden Fehlschlag melden</translation>
+    </message>
+    <message>
+        <source>say no more</source>
+        <translation>nichts mehr melden</translation>
+    </message>
+    <message>
+        <source>remind me every</source>
+        <translation>erinnern alle</translation>
+    </message>
+    <message>
+        <source>remind me after 1, 2, 4 … hours</source>
+        <translation>erinnern nach 1, 2, 4 … Stunden</translation>
+    </message>
+    <message>
+        <source>Minutes between two reminders</source>
+        <translation>Minuten zwischen zwei Erinnerungen</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>Changes that are borne</source>
+        <translation>Wechsel, die hingenommen werden</translation>
+    </message>
+    <message>
+        <source>Minutes in which they are borne</source>
+        <translation>Minuten, in denen sie hingenommen werden</translation>
+    </message>
+    <message>
+        <source>Unsteady: over</source>
+        <translation>Unruhig: über</translation>
+    </message>
+    <message>
+        <source>changes in</source>
+        <translation>Wechsel in</translation>
+    </message>
+    <message>
+        <source>min are one alert</source>
+        <translation>min sind eine Meldung</translation>
+    </message>
+    <message>
+        <source>Milliseconds of a slow answer</source>
+        <translation>Millisekunden einer langsamen Antwort</translation>
+    </message>
+    <message>
+        <source>Slow: an answer after</source>
+        <translation>Langsam: eine Antwort nach</translation>
+    </message>
+    <message>
+        <source>is a warning, never &quot;down&quot;</source>
+        <translation>ist eine Warnung, nie „aus“</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AlarmSection</name>
+    <message>
+        <source>Tell me</source>
+        <translation>Melden</translation>
+    </message>
+    <message>
+        <source>Quiet hours</source>
+        <translation>Ruhezeiten</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>Ändern…</translation>
+    </message>
+    <message>
+        <source>The hours of the week, and dated windows, of this site</source>
+        <translation>Die Stunden der Woche und Zeiten mit Datum für diese Seite</translation>
+    </message>
+    <message>
+        <source>In quiet hours</source>
+        <translation>In Ruhezeiten</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Tell again; stored with OK</source>
+        <translation>Wieder melden; gespeichert mit OK</translation>
+    </message>
+    <message>
+        <source>As in Defaults (at every failed check)</source>
+        <translation>Wie bei allen (jeder Fehlschlag)</translation>
+    </message>
+    <message>
+        <source>As in Defaults (down for real, and back)</source>
+        <translation>Wie bei allen (wirklich aus, wieder da)</translation>
+    </message>
+    <message>
+        <source>As in Defaults (never)</source>
+        <translation>Wie bei allen (nie)</translation>
+    </message>
+    <message>
+        <source>As in Defaults (see the details)</source>
+        <translation>Wie bei allen (siehe im Einzelnen)</translation>
+    </message>
+    <message>
+        <source>as for all sites: %1</source>
+        <translation>wie bei allen: %1</translation>
+    </message>
+    <message>
+        <source>Paused %1.</source>
+        <translation>Pause %1.</translation>
+    </message>
+    <message>
+        <source>At every failed check (as the original)</source>
+        <translation>Bei jeder Prüfung, die fehlschlägt (wie ursprünglich)</translation>
+    </message>
+    <message>
+        <source>As in Defaults</source>
+        <translation>Wie bei allen Seiten</translation>
+    </message>
+    <message>
+        <source>At every failed check</source>
+        <translation>Bei jeder Prüfung, die fehlschlägt</translation>
+    </message>
+    <message>
+        <source>Only when it is down for real,
+and when it is back</source>
+        <translation>Nur wenn sie wirklich aus ist,
+und wenn sie wieder da ist</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>My own choice</source>
+        <translation>Eigene Wahl</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AlarmStrip</name>
+    <message>
+        <source>What would happen: 1 alert for an outage of %1 minutes (at every failed check: %2)</source>
+        <translation>Was geschähe: 1 Meldung bei einem Ausfall von %1 Minuten (bei jedem Fehlschlag: %2)</translation>
+    </message>
+    <message>
+        <source>What would happen: %3 alerts for an outage of %1 minutes (at every failed check: %2)</source>
+        <translation>Was geschähe: %3 Meldungen bei einem Ausfall von %1 Minuten (bei jedem Fehlschlag: %2)</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>gut</translation>
+    </message>
+    <message>
+        <source>up again</source>
+        <translation>wieder da</translation>
+    </message>
+    <message>
+        <source>%1 checks, nothing said</source>
+        <translation>%1 Prüfungen, nichts gemeldet</translation>
+    </message>
+    <message>
+        <source>%1 checks, %2 alerts</source>
+        <translation>%1 Prüfungen, %2 Meldungen</translation>
+    </message>
+    <message>
+        <source>fails</source>
+        <translation>schlägt fehl</translation>
+    </message>
+    <message>
+        <source>down for real</source>
+        <translation>wirklich aus</translation>
+    </message>
+    <message>
+        <source>looked again</source>
+        <translation>nachgesehen</translation>
+    </message>
+    <message>
+        <source>still down</source>
+        <translation>noch aus</translation>
+    </message>
+    <message>
+        <source>told %1 times</source>
+        <translation>%1-mal gemeldet</translation>
+    </message>
+    <message>
+        <source>you are told</source>
+        <translation>gemeldet</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AlarmWords</name>
+    <message>
+        <source>Mon</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>Di</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>Mi</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>Fr</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Sa</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>So</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Montag</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Dienstag</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mittwoch</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Donnerstag</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Freitag</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Samstag</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Sonntag</translation>
+    </message>
+    <message>
+        <source>tomorrow %1</source>
+        <translation>morgen %1</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>bis %1</translation>
+    </message>
+    <message>
+        <source>for good</source>
+        <translation>auf Dauer</translation>
+    </message>
+    <message>
+        <source>no quiet hours</source>
+        <translation>keine Ruhezeiten</translation>
+    </message>
+    <message>
+        <source>daily</source>
+        <translation>täglich</translation>
+    </message>
+    <message>
+        <source>do not check</source>
+        <translation>nicht prüfen</translation>
+    </message>
+    <message>
+        <source>check, and keep the alerts until they end</source>
+        <translation>prüfen, aber erst danach melden</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::BaselineEdit</name>
@@ -4313,6 +4631,52 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DatedWindowsModel</name>
+    <message>
+        <source>as in quiet hours</source>
+        <translation>wie in Ruhezeiten</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DatedWindowsTable</name>
+    <message>
+        <source>Dated windows</source>
+        <translation>Zeiten mit Datum</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a time, tomorrow from 8:00 on; change it there</source>
+        <translation>Eine Zeit hinzufügen, morgen ab 8:00; dort ändern</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the chosen time (Del)</source>
+        <translation>Die gewählte Zeit entfernen (Entf)</translation>
     </message>
 </context>
 <context>
@@ -4624,6 +4988,53 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <source>%1. As the original: %2.</source>
         <translation>%1. Wie im Original: %2.</translation>
     </message>
+    <message>
+        <source>This machine&apos;s own network</source>
+        <translation>Das eigene Netz dieses Rechners</translation>
+    </message>
+    <message>
+        <source>A run</source>
+        <translation>Ein Lauf</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::PausePage</name>
+    <message>
+        <source>Right now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>not paused</source>
+        <translation>keine Pause</translation>
+    </message>
+    <message>
+        <source>paused for 1 hour</source>
+        <translation>Pause für 1 Stunde</translation>
+    </message>
+    <message>
+        <source>paused until tomorrow 8:00</source>
+        <translation>Pause bis morgen 8:00</translation>
+    </message>
+    <message>
+        <source>paused until …</source>
+        <translation>Pause bis …</translation>
+    </message>
+    <message>
+        <source>paused for good</source>
+        <translation>Pause auf Dauer</translation>
+    </message>
+    <message>
+        <source>While the alerts are paused sites are checked, and what is still so afterwards is told then</source>
+        <translation>Während der Pause werden Seiten geprüft; was danach noch so ist, wird dann gemeldet</translation>
+    </message>
+    <message>
+        <source>Paused until</source>
+        <translation>Pause bis</translation>
+    </message>
+    <message>
+        <source>In quiet hours</source>
+        <translation>In Ruhezeiten</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::PostVarModel</name>
@@ -4634,6 +5045,40 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>Value</source>
         <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::QuietHoursDialog</name>
+    <message>
+        <source>Quiet Hours</source>
+        <translation>Ruhezeiten</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close without a change (Esc)</source>
+        <translation>Ohne Änderung schließen (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::QuietHoursForm</name>
+    <message>
+        <source>Quiet hours each week</source>
+        <translation>Ruhezeiten jeder Woche</translation>
+    </message>
+    <message>
+        <source>Drag over hours, or use arrows and Space. Local time: an hour that comes twice is quiet twice.</source>
+        <translation>Über Stunden ziehen, oder mit Pfeiltasten und Leertaste. Ortszeit: Eine Stunde, die zweimal kommt, ist zweimal ruhig.</translation>
+    </message>
+    <message>
+        <source>Dated windows</source>
+        <translation>Zeiten mit Datum</translation>
     </message>
 </context>
 <context>
@@ -4788,6 +5233,17 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>Command1</source>
         <translation>Command1</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::WeekMapModel</name>
+    <message>
+        <source>%1 %2 to %3: quiet</source>
+        <translation>%1 %2 bis %3: Ruhe</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3: not quiet</source>
+        <translation>%1 %2 bis %3: keine Ruhe</translation>
     </message>
 </context>
 </TS>

@@ -20,21 +20,6 @@ constexpr int kGap = 6;
 constexpr std::string_view kNight = "daily 22:00-6:00";
 constexpr std::string_view kNone = "none";
 
-QString captionOf(AlarmPreset preset, bool ofAll) {
-  switch (preset) {
-    case AlarmPreset::asDefaults:
-      return ofAll ? AlarmSection::tr("At every failed check (as the original)") : AlarmSection::tr("As in Defaults");
-    case AlarmPreset::everyCheck:
-      return AlarmSection::tr("At every failed check");
-    case AlarmPreset::confirmed:
-      return AlarmSection::tr("Only when it is down for real,\nand when it is back");
-    case AlarmPreset::never:
-      return AlarmSection::tr("Never");
-    default:
-      return AlarmSection::tr("My own choice");
-  }
-}
-
 QString spokenOf(const QString& caption) { return QString(caption).replace(QLatin1Char('\n'), QLatin1Char(' ')); }
 
 }  // namespace
@@ -55,6 +40,21 @@ AlarmSection::AlarmSection(bool ofAll, QWidget* parent) : QWidget(parent), ofAll
   lines->addLayout(frames);
   lines->addWidget(example_);
   connect(details_, &AlarmDetails::touched, this, &AlarmSection::touch);
+}
+
+QString AlarmSection::captionOf(AlarmPreset preset, bool ofAll) {
+  switch (preset) {
+    case AlarmPreset::asDefaults:
+      return ofAll ? tr("At every failed check (as the original)") : tr("As in Defaults");
+    case AlarmPreset::everyCheck:
+      return tr("At every failed check");
+    case AlarmPreset::confirmed:
+      return tr("Only when it is down for real,\nand when it is back");
+    case AlarmPreset::never:
+      return tr("Never");
+    default:
+      return tr("My own choice");
+  }
 }
 
 bool AlarmSection::isFor(const std::vector<OptionField>& options) {

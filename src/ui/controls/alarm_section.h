@@ -41,6 +41,7 @@ class AlarmSection final : public QWidget {
   const OptionEdit& options() const { return options_; }
 
  private:
+  static QString captionOf(AlarmPreset preset, bool ofAll);
   void makePresets(QWidget& frame);
   void makeQuiet();
   QWidget* makePaused();

@@ -7,6 +7,7 @@
 #include <QDateTimeEdit>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QShortcut>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
@@ -206,6 +207,8 @@ DatedWindowsTable::DatedWindowsTable(QWidget* parent) : QWidget(parent), model_(
 
   connect(add, &QPushButton::clicked, this, &DatedWindowsTable::add);
   connect(remove_, &QPushButton::clicked, this, &DatedWindowsTable::remove);
+  connect(new QShortcut(QKeySequence::Delete, table_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
+          this, &DatedWindowsTable::remove);
   const auto changed = [this] {
     remove_->setEnabled(model_.rowCount() > 0);
     if (isSettled_) {
