@@ -4187,6 +4187,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Pause All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Pause and quiet hours of all sites</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4301,6 +4305,31 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>At every failed check (as the original)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As in Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At every failed check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only when it is down for real,
+and when it is back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>My own choice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Quiet hours</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4346,31 +4375,6 @@
     </message>
     <message>
         <source>Paused %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>At every failed check (as the original)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>As in Defaults</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>At every failed check</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Only when it is down for real,
-and when it is back</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Never</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>My own choice</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5164,6 +5168,61 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>Date Last Checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteMenu</name>
+    <message>
+        <source>&amp;Open Site…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for 1 &amp;Hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>until &amp;Tomorrow 8:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Until…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for &amp;Good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Resume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause Alerts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell nothing until</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1: %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -4187,6 +4187,10 @@
         <translation>bis zu zehn Pausen von 1 bis 300 Sekunden, etwa &quot;5 s, 20 s&quot;</translation>
     </message>
     <message>
+        <source>&amp;Pause All</source>
+        <translation>Alle &amp;pausieren</translation>
+    </message>
+    <message>
         <source>Pause and quiet hours of all sites</source>
         <translation>Pause und Ruhezeiten aller Seiten</translation>
     </message>
@@ -4301,6 +4305,32 @@
         <translation>Melden</translation>
     </message>
     <message>
+        <source>At every failed check (as the original)</source>
+        <translation>Bei jeder Prüfung, die fehlschlägt (wie ursprünglich)</translation>
+    </message>
+    <message>
+        <source>As in Defaults</source>
+        <translation>Wie bei allen Seiten</translation>
+    </message>
+    <message>
+        <source>At every failed check</source>
+        <translation>Bei jeder Prüfung, die fehlschlägt</translation>
+    </message>
+    <message>
+        <source>Only when it is down for real,
+and when it is back</source>
+        <translation>Nur wenn sie wirklich aus ist,
+und wenn sie wieder da ist</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>My own choice</source>
+        <translation>Eigene Wahl</translation>
+    </message>
+    <message>
         <source>Quiet hours</source>
         <translation>Ruhezeiten</translation>
     </message>
@@ -4347,32 +4377,6 @@
     <message>
         <source>Paused %1.</source>
         <translation>Pause %1.</translation>
-    </message>
-    <message>
-        <source>At every failed check (as the original)</source>
-        <translation>Bei jeder Prüfung, die fehlschlägt (wie ursprünglich)</translation>
-    </message>
-    <message>
-        <source>As in Defaults</source>
-        <translation>Wie bei allen Seiten</translation>
-    </message>
-    <message>
-        <source>At every failed check</source>
-        <translation>Bei jeder Prüfung, die fehlschlägt</translation>
-    </message>
-    <message>
-        <source>Only when it is down for real,
-and when it is back</source>
-        <translation>Nur wenn sie wirklich aus ist,
-und wenn sie wieder da ist</translation>
-    </message>
-    <message>
-        <source>Never</source>
-        <translation>Nie</translation>
-    </message>
-    <message>
-        <source>My own choice</source>
-        <translation>Eigene Wahl</translation>
     </message>
 </context>
 <context>
@@ -5168,6 +5172,61 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>Date Last Checked</source>
         <translation>Datum der letzten Prüfung</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteMenu</name>
+    <message>
+        <source>&amp;Open Site…</source>
+        <translation>Seite &amp;öffnen…</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Löschen…</translation>
+    </message>
+    <message>
+        <source>for 1 &amp;Hour</source>
+        <translation>für 1 &amp;Stunde</translation>
+    </message>
+    <message>
+        <source>until &amp;Tomorrow 8:00</source>
+        <translation>bis &amp;morgen 8:00</translation>
+    </message>
+    <message>
+        <source>&amp;Until…</source>
+        <translation>&amp;bis…</translation>
+    </message>
+    <message>
+        <source>for &amp;Good</source>
+        <translation>auf &amp;Dauer</translation>
+    </message>
+    <message>
+        <source>&amp;Resume</source>
+        <translation>&amp;Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Pause Alerts</source>
+        <translation>Meldungen pausieren</translation>
+    </message>
+    <message>
+        <source>Tell nothing until</source>
+        <translation>Nichts melden bis</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Site %1: %2</source>
+        <translation>Seite %1: %2</translation>
     </message>
 </context>
 <context>

@@ -59,7 +59,8 @@ AlarmPolicy alarmPolicyOf(const OptionsInForce& options, std::int64_t idSite) {
   using Text = const std::string&;
   take(option_name::alerts, [&](Text value) { policy.alerts = value == option_value::on; });
   take(option_name::confirm, [&](Text value) { policy.confirm = std::stoi(value); });
-  take(option_name::confirmAfter, [&](Text value) { policy.confirmAfter = *readPauses(value); });
+  take(option_name::confirmAfter,
+       [&](Text value) { policy.confirmAfter = readPauses(value).value_or(policy.confirmAfter); });
   take(option_name::recovery, [&](Text value) { policy.recovery = value == option_value::on; });
   take(option_name::remind, [&](Text value) { policy.remind = remindersOf(value); });
   take(option_name::flapping, [&](Text value) { policy.unsteady = readUnsteadyLimit(value); });
@@ -68,12 +69,13 @@ AlarmPolicy alarmPolicyOf(const OptionsInForce& options, std::int64_t idSite) {
       policy.slow = std::chrono::milliseconds(std::stoll(value));
     }
   });
-  take(option_name::quiet, [&](Text value) { policy.quiet = *readWeekHours(value); });
+  take(option_name::quiet, [&](Text value) { policy.quiet = readWeekHours(value).value_or(policy.quiet); });
   take(option_name::quietHow, [&](Text value) {
     policy.quietKind = value == option_value::doNotCheck ? QuietKind::noChecks : QuietKind::keepAlerts;
   });
-  take(option_name::maintenance, [&](Text value) { policy.maintenance = *readDatedWindows(value); });
-  take(option_name::pause, [&](Text value) { policy.pause = *readPause(value); });
+  take(option_name::maintenance,
+       [&](Text value) { policy.maintenance = readDatedWindows(value).value_or(policy.maintenance); });
+  take(option_name::pause, [&](Text value) { policy.pause = readPause(value).value_or(policy.pause); });
   return policy;
 }
 

@@ -14,7 +14,7 @@ namespace {
 using Value = std::optional<std::string>;
 
 constexpr int kGap = 12;
-constexpr QSize kSmallestSize{360, 160};
+constexpr QSize kUsualSize{762, 430};
 
 QString translated(const std::string& text) { return QObject::tr(text.c_str()); }
 
@@ -40,7 +40,7 @@ void OptionForm::setInterval(std::chrono::minutes interval) {
   }
 }
 
-QSize OptionForm::sizeHint() const { return kSmallestSize; }
+QSize OptionForm::sizeHint() const { return kUsualSize; }
 
 void OptionForm::showEvent(QShowEvent* event) {
   QScrollArea::showEvent(event);

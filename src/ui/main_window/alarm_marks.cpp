@@ -10,6 +10,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int kNowAndThen = 1000;  // milliseconds
+constexpr int kOften = 15000;
 constexpr int kAfterFault = 30000;
 
 }  // namespace
@@ -18,11 +19,14 @@ AlarmMarks::AlarmMarks(Program& program, SiteGridModel& sites, QObject* parent)
     : QObject(parent), program_(program), sites_(sites) {
   soon_.setSingleShot(true);
   connect(&soon_, &QTimer::timeout, this, &AlarmMarks::readAll);
+  often_.setInterval(kOften);
+  connect(&often_, &QTimer::timeout, this, &AlarmMarks::lookNowAndThen);
 }
 
 void AlarmMarks::look() {
   isStale_ = true;
   soon_.start(0);
+  often_.start();
 }
 
 void AlarmMarks::lookNowAndThen() {

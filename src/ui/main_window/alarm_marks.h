@@ -39,6 +39,7 @@ class AlarmMarks final : public QObject {
   Program& program_;
   SiteGridModel& sites_;
   QTimer soon_;
+  QTimer often_;  // also while no run is on
   bool isStale_ = true;
   std::optional<DataChanges> changes_;
   std::chrono::minutes seen_{};

@@ -20,6 +20,7 @@
 #include "ui/controls/program_file.h"
 #include "ui/main_window/damage_box.h"
 #include "ui/main_window/master_pictures.h"
+#include "ui/main_window/site_menu.h"
 
 namespace tarnwick {
 namespace {
@@ -58,6 +59,7 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   setCentralWidget(canvas);
   notices_ = new Notices(program_, *controls_.noticeBar, *controls_.grid1, this);
   marks_ = new AlarmMarks(program_, sites_, this);
+  new SiteMenu(program_, *controls_.grid1, *controls_.pauseAll, this);
   connect(marks_, &AlarmMarks::pauseRead, notices_, &Notices::tellPaused);
   setObjectName(QStringLiteral("master"));
   setAccessibleName(QString::fromLatin1(kProductName));

@@ -51,6 +51,8 @@ void makeListMenu(QWidget& canvas, MasterControls& controls) {
   auto* menu = new QMenu(controls.listButton);
   controls.importList = menu->addAction(QObject::tr("&Import..."));
   controls.importList->setObjectName(QStringLiteral("importList"));
+  controls.pauseAll = menu->addMenu(QObject::tr("&Pause All"));
+  controls.pauseAll->setObjectName(QStringLiteral("pauseAll"));
   controls.listButton->setMenu(menu);
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 
 #include "ui/controls/link_button.h"
@@ -38,6 +39,7 @@ struct MasterControls {
   /// What is done with the list as a whole, as a menu.
   QPushButton* listButton;
   QAction* importList;
+  QMenu* pauseAll;
   SiteGridView* grid1;
   StatusLine* lStatus;
   SiteReason* lReason;

@@ -10,6 +10,7 @@
 #include <QTime>
 
 #include "platform/run_lock_file.h"
+#include "store/site_pauses.h"
 #include "store/site_table.h"
 #include "ui/controls/display_text.h"
 
@@ -160,8 +161,10 @@ void Notices::tellPaused(const std::optional<Pause>& pause) {
 }
 
 void Notices::resume() {
-  program_.data().removeOption(kAllSites, option_name::pause);
+  m& data = program_.data();
+  SitePauses(data.database(), data).resumeAll();
   tellPaused(std::nullopt);
+  program_.run().init();
 }
 
 void Notices::tellLost() {

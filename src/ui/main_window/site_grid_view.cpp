@@ -40,6 +40,7 @@ SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(p
   viewport()->setMouseTracking(true);
   horizontalHeader()->viewport()->setMouseTracking(true);
   horizontalHeader()->viewport()->installEventFilter(this);
+  setContextMenuPolicy(Qt::CustomContextMenu);
   connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) { Q_EMIT rowChosen(index.row()); });
 }
 

@@ -70,7 +70,7 @@ PausePage::PausePage(Program& program, QWidget* parent) : QScrollArea(parent), p
   });
 }
 
-QSize PausePage::sizeHint() const { return {360, 160}; }
+QSize PausePage::sizeHint() const { return {762, 430}; }
 
 void PausePage::showEvent(QShowEvent* event) {
   QScrollArea::showEvent(event);

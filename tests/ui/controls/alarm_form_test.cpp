@@ -24,10 +24,10 @@ class AlarmFormTest : public DialogTest {
   AlarmFormTest() { addSite(3, "http://one.test/"); }
 
   std::string options(int idSite) const {
-    return folder.queryText("select coalesce(group_concat(name || '=' || value, '; '), '') from (select * from "
-                            "siteOptions where idSite = " +
-                            std::to_string(idSite) + " and name not in ('newSites','adopt','mailLimit','logLimit') " +
-                            "order by name)");
+    return folder.queryText(
+        "select coalesce(group_concat(name || '=' || value, '; '), '') from (select * from "
+        "siteOptions where idSite = " +
+        std::to_string(idSite) + " and name not in ('newSites','adopt','mailLimit','logLimit') " + "order by name)");
   }
   void set(int idSite, const std::string& name, const std::string& value) {
     folder.execute("insert into siteOptions (idSite, name, value) values (" + std::to_string(idSite) + ",'" + name +
@@ -65,9 +65,7 @@ class AlarmFormTest : public DialogTest {
     box.setFocus();
     QTest::keyClick(&box, Qt::Key_Space);
   }
-  static std::string example(QWidget& form) {
-    return in<QWidget>(form, "alarmExample").accessibleName().toStdString();
-  }
+  static std::string example(QWidget& form) { return in<QWidget>(form, "alarmExample").accessibleName().toStdString(); }
 };
 
 TEST_F(AlarmFormTest, DownForRealAndBackIsOneClick) {
@@ -280,6 +278,7 @@ TEST_F(AlarmFormTest, AllIsPausedUntilTomorrow) {
 
 TEST_F(AlarmFormTest, ADatedWindowIsAddedAndRemoved) {
   auto& dialog = openSettings(2);
+  EXPECT_EQ(dialog.unsavedEdits(), QString());
   press(dialog, "addWindow");
   EXPECT_NE(dialog.unsavedEdits(), QString());
   auto& table = in<QTableView>(dialog, "datedWindows");
@@ -287,7 +286,8 @@ TEST_F(AlarmFormTest, ADatedWindowIsAddedAndRemoved) {
   table.model()->setData(table.model()->index(0, DatedWindowsModel::noteColumn), QStringLiteral("new; server"));
   table.model()->setData(table.model()->index(0, DatedWindowsModel::whatColumn), 2);
   press(dialog, "btnOkPause");
-  EXPECT_THAT(options(0), ::testing::MatchesRegex("maintenance=.* 08:00 to .* 12:00, do not check: new, server"));
+  EXPECT_THAT(options(0), ::testing::AllOf(::testing::StartsWith("maintenance="),
+                                           ::testing::EndsWith("12:00, do not check: new, server")));
 }
 
 TEST(DatedWindowsModelTest, TheEndNeverComesBeforeTheBeginning) {
