@@ -46,9 +46,7 @@ TEST(AlarmExampleTest, ItIsNeitherAPauseNorQuiet) {
   EXPECT_EQ(alarmExampleOf(policy, minutes(10)).told, 7);
 }
 
-TEST(AlarmExampleTest, AnIntervalThatIsNoneIsAMinute) {
-  EXPECT_EQ(alarmExampleOf(AlarmPolicy(), minutes(0)).told, 70);
-}
+TEST(AlarmExampleTest, AnIntervalThatIsNoneIsAMinute) { EXPECT_EQ(alarmExampleOf(AlarmPolicy(), minutes(0)).told, 70); }
 
 }  // namespace
 }  // namespace tarnwick
