@@ -4310,7 +4310,7 @@
     </message>
     <message>
         <source>As in Defaults</source>
-        <translation>Wie bei allen Seiten</translation>
+        <translation>Wie in Vorgaben</translation>
     </message>
     <message>
         <source>At every failed check</source>
@@ -4356,19 +4356,19 @@ und wenn sie wieder da ist</translation>
     </message>
     <message>
         <source>As in Defaults (at every failed check)</source>
-        <translation>Wie bei allen (jeder Fehlschlag)</translation>
+        <translation>Wie in Vorgaben (jeder Fehlschlag)</translation>
     </message>
     <message>
         <source>As in Defaults (down for real, and back)</source>
-        <translation>Wie bei allen (wirklich aus, wieder da)</translation>
+        <translation>Wie in Vorgaben (wirklich aus, wieder da)</translation>
     </message>
     <message>
         <source>As in Defaults (never)</source>
-        <translation>Wie bei allen (nie)</translation>
+        <translation>Wie in Vorgaben (nie)</translation>
     </message>
     <message>
         <source>As in Defaults (see the details)</source>
-        <translation>Wie bei allen (siehe im Einzelnen)</translation>
+        <translation>Wie in Vorgaben (siehe im Einzelnen)</translation>
     </message>
     <message>
         <source>as for all sites: %1</source>

@@ -20,8 +20,6 @@ constexpr int kGap = 6;
 constexpr std::string_view kNight = "daily 22:00-6:00";
 constexpr std::string_view kNone = "none";
 
-QString spokenOf(const QString& caption) { return QString(caption).replace(QLatin1Char('\n'), QLatin1Char(' ')); }
-
 }  // namespace
 
 AlarmSection::AlarmSection(bool ofAll, QWidget* parent) : QWidget(parent), ofAll_(ofAll) {
@@ -75,8 +73,7 @@ void AlarmSection::makePresets(QWidget& frame) {
   for (std::size_t index = 0; index < presets_.size(); ++index) {
     const auto preset = static_cast<AlarmPreset>(index);
     const QString caption = captionOf(preset, ofAll_);
-    auto* button =
-        named(new QRadioButton(caption, &frame), ("alarmPreset" + std::to_string(index)).c_str(), spokenOf(caption));
+    auto* button = named(new QRadioButton(caption, &frame), ("alarmPreset" + std::to_string(index)).c_str(), caption);
     presets_[index] = button;
     // For all sites it is the first one.
     button->setVisible(!(ofAll_ && preset == AlarmPreset::everyCheck));

@@ -190,9 +190,11 @@ DatedWindowsTable::DatedWindowsTable(QWidget* parent) : QWidget(parent), model_(
   const int moment = fontMetrics().horizontalAdvance(QStringLiteral("2026-12-28 00:00")) + 36;
   header.resizeSection(DatedWindowsModel::fromColumn, moment);
   header.resizeSection(DatedWindowsModel::untilColumn, moment);
-  header.resizeSection(DatedWindowsModel::whatColumn, 2 * moment);
+  header.resizeSection(DatedWindowsModel::whatColumn, moment * 8 / 5);
+  header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   header.setStretchLastSection(true);
-  table_->setMinimumHeight(fontMetrics().height() * 5);
+  table_->setMinimumHeight(fontMetrics().height() * 6);
+  table_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
 
   QPushButton* add = addButton(*this, "addWindow", tr("Add"), tr("Add a time, tomorrow from 8:00 on; change it there"));
   remove_ = addButton(*this, "removeWindow", tr("Remove"), tr("Remove the chosen time (Del)"));

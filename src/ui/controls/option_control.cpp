@@ -83,14 +83,16 @@ class OpenNumber final : public QSpinBox {
   int most_;
 };
 
-OptionControl makeFlag() {
+OptionControl makeFlag(const OptionField& option) {
   auto* flag = new QCheckBox;
   flag->setTristate(true);
-  const auto say = [flag](const QString& unset) {
+  const auto say = [flag, label = translated(option.label)](const QString& unset) {
     const Qt::CheckState state = flag->checkState();
     flag->setText(state == Qt::PartiallyChecked ? unset
                   : state == Qt::Checked        ? QCoreApplication::translate("tarnwick::OptionForm", "on")
                                                 : QCoreApplication::translate("tarnwick::OptionForm", "off"));
+    // What is seen is spoken first.
+    flag->setAccessibleName(QStringLiteral("%1: %2").arg(flag->text(), label));
   };
   const auto show = [flag, say](const Value& value, const QString& unset) {
     flag->disconnect(SIGNAL(stateChanged(int)));
@@ -147,7 +149,7 @@ OptionControl makeText() {
 OptionControl makeOptionControl(const OptionField& option) {
   switch (option.kind) {
     case OptionKind::flag:
-      return makeFlag();
+      return makeFlag(option);
     case OptionKind::number:
       return makeNumber(option);
     case OptionKind::choice:

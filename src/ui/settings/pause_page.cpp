@@ -23,6 +23,9 @@ QDateTime shown(LocalTime time) {
 PausePage::PausePage(Program& program, QWidget* parent) : QScrollArea(parent), program_(program) {
   setFrameShape(NoFrame);
   setWidgetResizable(true);
+}
+
+void PausePage::makePage() {
   auto* page = new QWidget;
   pause_ = named(new QComboBox(page), "pauseNow", tr("Right now"));
   pause_->addItems({tr("not paused"), tr("paused for 1 hour"), tr("paused until tomorrow 8:00"), tr("paused until …"),
@@ -51,8 +54,10 @@ PausePage::PausePage(Program& program, QWidget* parent) : QScrollArea(parent), p
   setWidget(page);
   page->setAutoFillBackground(false);
   viewport()->setAutoFillBackground(false);
-  page->setEnabled(false);
+  connectPage();
+}
 
+void PausePage::connectPage() {
   connect(pause_, &QComboBox::activated, this, &PausePage::choosePause);
   connect(until_, &QDateTimeEdit::dateTimeChanged, this, [this] {
     if (pause_->currentIndex() == until) {
@@ -80,6 +85,9 @@ void PausePage::showEvent(QShowEvent* event) {
 }
 
 void PausePage::load() {
+  if (widget() == nullptr) {
+    makePage();
+  }
   // What could not be read cannot be changed either.
   widget()->setEnabled(false);
   options_ = OptionEdit(program_.data().options(kAllSites));

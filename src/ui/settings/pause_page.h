@@ -33,6 +33,8 @@ class PausePage final : public QScrollArea {
  private:
   enum Choice { notPaused, oneHour, tomorrow, until, forGood };
 
+  void makePage();
+  void connectPage();
   void load();
   void showPause();
   void choosePause();
@@ -41,10 +43,11 @@ class PausePage final : public QScrollArea {
   Program& program_;
   OptionEdit options_;
   bool loaded_ = false;
-  QComboBox* pause_;
-  QDateTimeEdit* until_;
-  QuietHoursForm* quiet_;
-  QComboBox* quietHow_;
+  // Made when the page is first seen.
+  QComboBox* pause_ = nullptr;
+  QDateTimeEdit* until_ = nullptr;
+  QuietHoursForm* quiet_ = nullptr;
+  QComboBox* quietHow_ = nullptr;
 };
 
 }  // namespace tarnwick
