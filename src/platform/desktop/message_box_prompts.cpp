@@ -6,8 +6,13 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
+#include <QFileInfo>
+#include <QIcon>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QMimeDatabase>
+#include <QObject>
 #include <QPointer>
 
 #include "base/wording.h"
@@ -15,6 +20,27 @@
 
 namespace tarnwick {
 namespace {
+
+/// Tells by its name what a file is. Looking into it takes away the locks that this process has on it, and beside the
+/// programs that are offered lies the list of sites.
+class KindsByName final : public QObject, public QFileIconProvider {
+ public:
+  explicit KindsByName(QObject* parent) : QObject(parent) {}
+
+  using QFileIconProvider::icon;
+  QIcon icon(const QFileInfo& file) const override {
+    return file.isFile() ? QIcon::fromTheme(kindOf(file).iconName(), QFileIconProvider::icon(File))
+                         : QFileIconProvider::icon(file);
+  }
+  QString type(const QFileInfo& file) const override {
+    return file.isFile() ? kindOf(file).comment() : QFileIconProvider::type(file);
+  }
+
+ private:
+  QMimeType kindOf(const QFileInfo& file) const { return kinds_.mimeTypeForFile(file, QMimeDatabase::MatchExtension); }
+
+  QMimeDatabase kinds_;
+};
 
 QMessageBox::Icon iconOf(PromptIcon icon) {
   switch (icon) {
@@ -120,6 +146,8 @@ void MessageBoxPrompts::chooseFile(const FileChoice& choice, std::function<void(
       new QFileDialog(owner != nullptr ? owner : mainWindow(), QString(), QString::fromStdString(choice.folder));
   dialog->setFileMode(QFileDialog::ExistingFile);
   dialog->setNameFilters(nameFilters(choice.filter));
+  // The dialog's own list goes before what is added to the dialog later.
+  dialog->setIconProvider(new KindsByName(dialog));
   // A file is looked for here, not renamed or deleted.
   dialog->setOption(QFileDialog::ReadOnly);
   for (const char* action : {"qt_rename_action", "qt_delete_action", "qt_new_folder_action"}) {

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdarg>
 #include <cstdint>
 
 #include "platform/sqlite/sqlite_file.h"
@@ -46,6 +47,63 @@ bool couldNotBeRead(sqlite3* database, int whichFile) {
   return error == EIO || error == ENXIO || error == ERANGE;
 }
 
+#ifdef F_OFD_SETLK
+std::optional<int> commandOfOpening(int command) {
+  switch (command) {
+    case F_GETLK:
+      return F_OFD_GETLK;
+    case F_SETLK:
+      return F_OFD_SETLK;
+    case F_SETLKW:
+      return F_OFD_SETLKW;
+    default:
+      return std::nullopt;
+  }
+}
+
+// https://www.sqlite.org/walformat.html#wal_locks and the byte behind them that tells who shares the memory at all.
+bool isOfSharedMemory(const struct flock& lock) {
+  constexpr off_t kFirst = 120;
+  constexpr off_t kLast = 128;
+  return lock.l_whence == SEEK_SET && lock.l_start >= kFirst && lock.l_start <= kLast;
+}
+
+// In place of fcntl(2). The system takes the locks of a process away as soon as anything in it opens and closes the
+// file, as a file chooser does that looks what a file is. The next program then takes itself for the first one and cuts
+// the memory off that is in use here, which ends this process. A lock of the opening stays; SQLite opens that file
+// once.
+int controlFile(int descriptor, int command, ...) {
+  std::va_list more;
+  va_start(more, command);
+  void* const argument = va_arg(more, void*);
+  va_end(more);
+  const std::optional<int> ofOpening = commandOfOpening(command);
+  if (ofOpening && isOfSharedMemory(*static_cast<const struct flock*>(argument))) {
+    auto& wanted = *static_cast<struct flock*>(argument);
+    struct flock lock = wanted;
+    lock.l_pid = 0;
+    const int result = ::fcntl(descriptor, *ofOpening, &lock);
+    // A system or a file system may not know such locks.
+    if (result == 0 || errno != EINVAL) {
+      wanted = lock;
+      return result;
+    }
+  }
+  return ::fcntl(descriptor, command, argument);
+}
+
+// True, so that it is done once.
+bool keepLocksOfSharedMemory() {
+  sqlite3_vfs* const disk = sqlite3_vfs_find("unix");
+  if (disk != nullptr && disk->iVersion >= 3) {
+    disk->xSetSystemCall(disk, "fcntl", reinterpret_cast<sqlite3_syscall_ptr>(&controlFile));
+  }
+  return true;
+}
+#else
+bool keepLocksOfSharedMemory() { return true; }
+#endif
+
 bool isWantOfRoom(int error) { return error == ENOSPC || error == EDQUOT || error == EFBIG; }
 
 }  // namespace
@@ -53,6 +111,7 @@ bool isWantOfRoom(int error) { return error == ENOSPC || error == EDQUOT || erro
 std::string sqliteFileName(const std::string& path) { return path; }
 
 int openSqliteFile(const std::string& path, int flags, sqlite3** database) {
+  [[maybe_unused]] static const bool kept = keepLocksOfSharedMemory();
   return sqlite3_open_v2(path.c_str(), database, flags, nullptr);
 }
 

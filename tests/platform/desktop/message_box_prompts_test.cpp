@@ -2,6 +2,11 @@
 #include "platform/desktop/message_box_prompts.h"
 
 #include <gtest/gtest.h>
+#ifndef _WIN32
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
 
 #include <optional>
 #include <QAction>
@@ -9,6 +14,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -235,6 +241,35 @@ TEST_F(FileChoiceTest, AFileIsChosenByTypingTheBeginningOfItsName) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return chosen.has_value(); }));
   EXPECT_EQ(chosen, QDir::toNativeSeparators(path).toStdString());
 }
+
+#ifndef _WIN32
+// Whoever opens and closes a file gives up the locks that his process has on it: those by which SQLite shares a
+// database.
+TEST_F(FileChoiceTest, AFileThatThisProgramHasLockedStaysLockedWhileItIsListed) {
+  const QString shared = folder.filePath(QStringLiteral("tarnwick.mdb-shm"));
+  QFile held(shared);
+  ASSERT_TRUE(held.open(QIODevice::ReadWrite));
+  ASSERT_EQ(held.write("no text that tells what it is"), 29);
+  ASSERT_TRUE(held.flush());
+  struct flock whole {};
+  whole.l_type = F_WRLCK;
+  whole.l_whence = SEEK_SET;
+  ASSERT_EQ(::fcntl(held.handle(), F_SETLK, &whole), 0);
+
+  const QFileDialog& dialog = choose("All Files (*)|*");
+  const auto* listed = dialog.findChild<QFileSystemModel*>();
+  ASSERT_NE(listed, nullptr);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !listed->type(listed->index(shared)).isEmpty(); })) << "it is not listed";
+
+  const pid_t other = ::fork();
+  if (other == 0) {
+    ::_exit(::fcntl(held.handle(), F_GETLK, &whole) == 0 && whole.l_type == F_WRLCK ? 0 : 1);
+  }
+  int status = 1;
+  ASSERT_EQ(::waitpid(other, &status, 0), other);
+  EXPECT_EQ(status, 0) << "another program could lock it";
+}
+#endif
 
 TEST_F(FileChoiceTest, FilesAreLookedForHereNotChanged) {
   const QFileDialog& dialog = choose("Audio Files (*.wav)|*.wav");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The files of an open database, taken away or exchanged by others.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -93,6 +94,25 @@ class OtherProgram {
   pid_t process_ = -1;
 };
 
+#ifdef F_OFD_SETLK
+/// Whether the next program sees that others share the memory in the file `path`, and so does not cut it off.
+bool isSeenAsShared(const std::string& path) {
+  constexpr off_t kSharing = 128;
+  const pid_t next = fork();
+  if (next == 0) {
+    struct flock lock {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = kSharing;
+    lock.l_len = 1;
+    const int file = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
+    _exit(::fcntl(file, F_GETLK, &lock) == 0 && lock.l_type == F_RDLCK ? 0 : 1);
+  }
+  int status = 1;
+  return waitpid(next, &status, 0) == next && status == 0;
+}
+#endif
+
 class SqliteFileWatchTest : public ::testing::Test {
  protected:
   SqliteFileWatchTest() {
@@ -155,6 +175,20 @@ class SqliteFileWatchTest : public ::testing::Test {
   bool isCopied_ = fs::copy_file(file(""), file(".other"));
   std::unique_ptr<Database> run_ = open();
 };
+
+#ifdef F_OFD_SETLK
+// As a library does it that looks what a file is. Memory that is cut off ends who uses it.
+TEST_F(SqliteFileWatchTest, MemoryStaysSharedWhenThisProgramOpensAndClosesItsFile) {
+  ASSERT_TRUE(isSeenAsShared(file("-shm")));
+  std::ifstream(file("-shm")).get();
+  EXPECT_TRUE(isSeenAsShared(file("-shm")));
+  ASSERT_TRUE(other_.adds(5));
+  EXPECT_EQ(sites(*run_), "1 2 5 ");
+  run_.reset();
+  EXPECT_FALSE(fs::exists(file("-shm")));
+  EXPECT_EQ(sitesLater(), "1 2 5 ");
+}
+#endif
 
 TEST_F(SqliteFileWatchTest, ARemovedLogIsToldAndWhatOthersHaveStoredSinceStays) {
   fs::remove(file("-wal"));
