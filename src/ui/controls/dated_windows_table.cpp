@@ -149,7 +149,8 @@ bool DatedWindowsModel::setData(const QModelIndex& index, const QVariant& value,
     // It parts the times from each other where they are stored.
     window.note = value.toString().replace(QLatin1Char(';'), QLatin1Char(',')).simplified().toStdString();
   }
-  Q_EMIT dataChanged(this->index(index.row(), 0), this->index(index.row(), columns - 1));
+  const int row = index.row();
+  Q_EMIT dataChanged(this->index(row, 0), this->index(row, columns - 1));
   return true;
 }
 

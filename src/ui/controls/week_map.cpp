@@ -18,7 +18,10 @@ constexpr int kDays = 7;
 constexpr int kHours = 24;
 constexpr QSize kCell{22, 18};
 
-std::size_t hourOf(const QModelIndex& cell) { return static_cast<std::size_t>(cell.row() * kHours + cell.column()); }
+std::size_t hourOf(const QModelIndex& cell) {
+  const int hour = cell.row() * kHours + cell.column();
+  return static_cast<std::size_t>(hour);
+}
 
 /// A quiet hour is blue and bears the two bars of a pause: nobody has to tell it by its colour.
 class HourDelegate final : public QStyledItemDelegate {

@@ -31,7 +31,7 @@ int secondsOfDay(LocalTime time) {
 QString whenText(LocalTime time, LocalTime now) {
   const auto day = std::chrono::floor<std::chrono::days>(time);
   const auto today = std::chrono::floor<std::chrono::days>(now);
-  const QString hour = QTime(0, 0).addSecs(secondsOfDay(time)).toString(QStringLiteral("H:mm"));
+  QString hour = QTime(0, 0).addSecs(secondsOfDay(time)).toString(QStringLiteral("H:mm"));
   if (day == today) {
     return hour;
   }
