@@ -3299,6 +3299,10 @@
         <source>This machine is offline. %1 of %2 sites were checked, and nothing is counted as down.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>the page differs from the baseline, and is too large to be compared here</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

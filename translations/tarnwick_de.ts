@@ -3299,6 +3299,10 @@
         <source>This machine is offline. %1 of %2 sites were checked, and nothing is counted as down.</source>
         <translation>Dieser Rechner ist offline. %1 von %2 Seiten wurden geprüft, und nichts zählt als Ausfall.</translation>
     </message>
+    <message>
+        <source>the page differs from the baseline, and is too large to be compared here</source>
+        <translation>die Seite weicht von der Basis ab und ist zu groß, um hier verglichen zu werden</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -107,6 +107,8 @@ void PassRecording::record(std::size_t row, const Fetched& fetched) {
       tell(row, fetched, *stored);
     }
     if (ahead) {
+      // Whoever looks at the site meanwhile needs the room for its pages.
+      needs_.pool.releaseSiteContent(row);
       ahead->settle([this] { needs_.pump.pump(); });
     }
   });

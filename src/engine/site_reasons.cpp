@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "base/errors.h"
 #include "engine/cause.h"
 #include "engine/result_recording.h"
 #include "store/first_field.h"
@@ -10,6 +11,9 @@
 
 namespace tarnwick {
 namespace {
+
+/// More than this of pages would hold up the window for longer than anybody should wait for a hint.
+constexpr std::int64_t kTooLargeToLook = std::int64_t{48} << 20U;
 
 // The newest row of the log for what stands in `site`; Null where the day has none. By day, address, result and moment,
 // as the index of the log has them, so that neither a long log nor its pages are read.
@@ -56,6 +60,22 @@ std::optional<std::string> SiteReasons::failedFetch(std::int16_t idSite, const S
   return last ? std::optional(std::move(text)) : std::nullopt;
 }
 
+// Of both pages, without reading them. None where they lie in the table of the sites itself.
+std::int64_t SiteReasons::storedBytes(std::int16_t idSite) {
+  const SqlValue id(std::int64_t{idSite});
+  try {
+    const auto rows = db_.conn().execute(
+        "select coalesce(sum(storedBytes('pagePieces', 'content', piece)), 0) from siteRows, pagePieces where idSite = "
+        "?1 and (piece between comparePage * 4 and comparePage * 4 + 3 or piece between runtimePage * 4 and "
+        "runtimePage "
+        "* 4 + 3)",
+        {&id, 1});
+    return rows->eof() ? 0 : rows->field(std::size_t{0}).toInt64();
+  } catch (const DataAccessError&) {
+    return 0;
+  }
+}
+
 std::string SiteReasons::reasonOf(std::int16_t idSite) {
   const auto stand = standOf(idSite);
   if (!stand) {
@@ -73,6 +93,9 @@ std::string SiteReasons::reasonOf(std::int16_t idSite) {
   }
   if (fetch) {
     return causeOf(result, {});
+  }
+  if (storedBytes(idSite) > kTooLargeToLook) {
+    return "the page differs from the baseline, and is too large to be compared here";
   }
   std::string baseline;
   std::string page;

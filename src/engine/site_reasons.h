@@ -18,7 +18,7 @@ class SiteReasons {
 
   /// Why an active site is down, in the words of a check (see `causeOf`); of one that is up only because the text of a
   /// fetch that fails is its baseline, that it is so. Empty for all others. Reads the pages of a site that is down,
-  /// which takes some tenths of a second for the largest ones: to be asked for a site that somebody looks at.
+  /// unless they are so large that it would take tenths of a second: to be asked for a site that somebody looks at.
   std::string reasonOf(std::int16_t idSite);
 
   /// The sites whose last check brought no page: those that are down for want of an answer, and those that are up only
@@ -33,6 +33,7 @@ class SiteReasons {
     std::string lastChecked;
   };
   std::optional<Stand> standOf(std::int16_t idSite);
+  std::int64_t storedBytes(std::int16_t idSite);
   std::optional<std::string> failedFetch(std::int16_t idSite, const Stand& stand);
 
   Database& db_;

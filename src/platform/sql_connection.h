@@ -42,9 +42,9 @@ class StoredText {
  public:
   virtual ~StoredText() = default;
 
-  /// Removes the page that has given way to the text, a part at a time, with `between` called after each; otherwise
-  /// that is done at the end of this object's life, at once. What another program's lock or a fault keeps from it is
-  /// removed later. REQUIRES: no transaction.
+  /// The text is not needed any more. Removes the page that has given way to it, a part at a time, with `between`
+  /// called after each; otherwise that is done at the end of this object's life, at once. What another program's lock
+  /// or a fault keeps from it is removed later. REQUIRES: no transaction.
   virtual void settle(const std::function<void()>& between) = 0;
 };
 

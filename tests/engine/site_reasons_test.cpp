@@ -154,5 +154,12 @@ TEST_F(SiteReasonsTest, TheLargestPagesAreComparedInAMoment) {
   EXPECT_LT(time, std::chrono::seconds(1));
 }
 
+TEST_F(SiteReasonsTest, PagesThatWouldHoldUpTheWindowAreNotCompared) {
+  const std::string page(30U << 20U, 'x');
+  check(1, page + "a");
+  check(1, page + "b");
+  EXPECT_EQ(reasons.reasonOf(1), "the page differs from the baseline, and is too large to be compared here");
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

@@ -87,10 +87,7 @@ SqliteStoredText::SqliteStoredText(SqlConnection& connection, SqliteStoredText*&
   place_ = this;
 }
 
-SqliteStoredText::~SqliteStoredText() {
-  place_ = nullptr;
-  removeUnused();
-}
+SqliteStoredText::~SqliteStoredText() { removeUnused(); }
 
 void SqliteStoredText::write(const std::function<void()>& between) {
   for (; pieces_ < piecesFor(text_); ++pieces_) {
@@ -118,6 +115,7 @@ void SqliteStoredText::removeUnused() noexcept {
 }
 
 void SqliteStoredText::settle(const std::function<void()>& between) {
+  place_ = nullptr;
   while (!replaced_.empty()) {
     removeUnused(replaced_.back(), between);
     replaced_.pop_back();
