@@ -274,6 +274,18 @@ TEST_F(OwnNetworkTest, OneForeignPageAtManyHostsIsNobodysFailure) {
   EXPECT_FALSE(view.offline);
 }
 
+TEST_F(OwnNetworkTest, WhatFailsRightAfterASleepIsTriedAgain) {
+  program.run().startChecking();
+  server.reset();
+  // Asleep, the clock on the wall alone has gone on.
+  machine.handClock.setLocal(machine.handClock.localNow() + hours(3));
+  pumpFor(milliseconds(100));
+  EXPECT_EQ(count("log where status = 0"), "0");
+  serve();
+  EXPECT_TRUE(waitUntil([&] { return count("log where status") == "8"; }));
+  EXPECT_EQ(count("log where status = 0"), "0");
+}
+
 TEST_F(OwnNetworkTest, WithoutTheOptionEachIsDown) {
   program.data().removeOption(kAllSites, "ownNetwork");
   program.run().startChecking();
