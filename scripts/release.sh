@@ -34,6 +34,8 @@ fi
 if [[ -n $tag ]]; then
   refuse_what_is_no_release "$version"
 fi
+# Readers find the artefacts by the names that the documentation tells them.
+/usr/bin/python3 tests/docs_test.py .
 
 scripts/package.sh --test
 if [[ -n $windows ]]; then

@@ -282,6 +282,8 @@ def self_test() -> int:
         "src/engine/run.cpp": "void Run::begin() {\n}\n\nvoid Run::recordResult() {\n}\n",
         "src/engine/pass.cpp": "void guardRun(Run& run) {\n  run.begin();\n}\n\nvoid Pass::record() {\n  recordResult();\n}\n",
     }
+    release = {"CMakeLists.txt": "project(Tarnwick VERSION 1.2.0 LANGUAGES CXX)\n",
+               "cmake/Packages.cmake": "set(package_release 3)\n"}
     # Each tree, and a piece of the only finding that it must give; None for a tree without any.
     trees = {
         "an explained message": (None, {"src/a.cpp": 'f("The list " + x +\n  " is empty "\n  "now.");', **explained}),
@@ -318,6 +320,10 @@ def self_test() -> int:
         "names of the sources": (None, {**steps, "docs/developer.md":
             "`Run::begin`, `Run::begin()`, `engine/run.cpp`, `src/engine/run.h`, `run.*`, `engine/<name>.h`, `guardRun`, "
             "`std::string`, `build/release/x.cpp`, `plain words`, `Kind::first`\n| 1 | `engine/run.cpp` `begin` | it |\n"}),
+        "artefacts of this version": (None, {**release, "README.md":
+            "`tarnwick-cli_1.2.0-3_amd64.deb`, `tarnwick-1.2.0-windows-x86_64-setup.exe`, `tarnwick-cli_*.deb`\n"}),
+        "an artefact of another": ("README.md:1: names tarnwick-1.1.0-linux-x86_64.tar.gz, which is no file of this version", {
+            **release, "README.md": "`tarnwick-1.1.0-linux-x86_64.tar.gz`\n"}),
         "a file that is not there": ("docs/developer.md:2: names `engine/away.cpp`: no such file", {
             **steps, "docs/developer.md": "\n`engine/away.cpp`\n"}),
         "a member that nobody has": ("names `Run::fill`: no such member", {**steps, "CONTRIBUTING.md": "`Run::fill`\n"}),

@@ -18,6 +18,7 @@ MEMBER = re.compile(r"^~?([A-Za-z_]\w*)::(~?\w+)(\(.*\))?$")
 FUNCTION = re.compile(r"^(\w+)\(.*\)$")
 # A word that is no plain English: a capital or an underscore inside, or k and a capital.
 WORD = re.compile(r"^([a-z]+[A-Z]\w*|[A-Z][a-z0-9]+[A-Z]\w*|\w+_\w*|[A-Za-z]+_)$")
+ARTEFACT = re.compile(r"tarnwick(?:-cli)?[-_]\d[\w.-]*\.(?:tar\.gz|deb|zip|exe)")
 FOREIGN = re.compile(r"^(std|fs|Qt|testing|nlohmann|Q[A-Z]\w*)::")
 
 
@@ -150,4 +151,31 @@ def every_step_is_taken(root: Path):
                     yield (*place, f"names `{piece}` as a step, and nobody calls it: name what is called instead.")
 
 
-CHECKS = (every_name_is_in_the_sources, every_step_is_taken)
+def artefacts_of(root: Path) -> set[str]:
+    """What a release of this version is made of, by the names that CMake and the scripts give."""
+    project = re.search(r"^project\(\w+ VERSION ([\d.]+)", text_of(root / "CMakeLists.txt"), re.MULTILINE)
+    release = re.search(r"^set\(package_release (\d+)\)", text_of(root / "cmake/Packages.cmake"), re.MULTILINE)
+    version, package = (found.group(1) if found else "" for found in (project, release))
+    windows = f"tarnwick-{version}-windows-x86_64"
+    return {f"tarnwick-{version}.tar.gz", f"tarnwick-{version}-linux-x86_64.tar.gz", f"{windows}.zip", f"{windows}-setup.exe",
+            f"tarnwick-cli_{version}-{package}_amd64.deb", f"tarnwick_{version}-{package}_amd64.deb"}
+
+
+def text_of(path: Path) -> str:
+    return path.read_text(encoding="utf-8") if path.is_file() else ""
+
+
+def every_artefact_has_its_name(root: Path):
+    """Whoever copies a name out of the documentation finds that file in the release."""
+    artefacts = artefacts_of(root)
+    for path in (*sorted(root.glob("*.md")), *sorted((root / "docs").rglob("*.md")), *sorted((root / "packaging").rglob("*.txt"))):
+        if path.name == "CHANGELOG.md":
+            continue
+        for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+            for name in ARTEFACT.findall(line):
+                if name not in artefacts:
+                    yield (path.relative_to(root).as_posix(), number, f"names {name}, which is no file of this version: write "
+                           "the name that CMakeLists.txt and cmake/Packages.cmake give it.")
+
+
+CHECKS = (every_artefact_has_its_name, every_name_is_in_the_sources, every_step_is_taken)
