@@ -3303,6 +3303,70 @@
         <source>the page differs from the baseline, and is too large to be compared here</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>a number of %1 digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number of %1 to %2 digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a hex number of %1 digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a hex number of %1 to %2 digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a key of %1 characters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a key of %1 to %2 characters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>letters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a date and time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one of %1 texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>anything</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: &quot;%2&quot; may be another date or time tomorrow, though it has not changed yet. Fetch again over a day.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only %1 %% of the page would stay watched: too much of it changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copies have very different lengths: one of them may be another page, or an error.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

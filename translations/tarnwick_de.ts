@@ -3303,6 +3303,70 @@
         <source>the page differs from the baseline, and is too large to be compared here</source>
         <translation>die Seite weicht von der Basis ab und ist zu groß, um hier verglichen zu werden</translation>
     </message>
+    <message>
+        <source>a number of %1 digits</source>
+        <translation>eine Zahl mit %1 Ziffern</translation>
+    </message>
+    <message>
+        <source>a number of %1 to %2 digits</source>
+        <translation>eine Zahl mit %1 bis %2 Ziffern</translation>
+    </message>
+    <message>
+        <source>a hex number of %1 digits</source>
+        <translation>eine Hexzahl mit %1 Ziffern</translation>
+    </message>
+    <message>
+        <source>a hex number of %1 to %2 digits</source>
+        <translation>eine Hexzahl mit %1 bis %2 Ziffern</translation>
+    </message>
+    <message>
+        <source>a key of %1 characters</source>
+        <translation>ein Schlüssel mit %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>a key of %1 to %2 characters</source>
+        <translation>ein Schlüssel mit %1 bis %2 Zeichen</translation>
+    </message>
+    <message>
+        <source>letters</source>
+        <translation>Buchstaben</translation>
+    </message>
+    <message>
+        <source>words</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>a date</source>
+        <translation>ein Datum</translation>
+    </message>
+    <message>
+        <source>a time</source>
+        <translation>eine Uhrzeit</translation>
+    </message>
+    <message>
+        <source>a date and time</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <source>one of %1 texts</source>
+        <translation>einer von %1 Texten</translation>
+    </message>
+    <message>
+        <source>anything</source>
+        <translation>Beliebiges</translation>
+    </message>
+    <message>
+        <source>Line %1: &quot;%2&quot; may be another date or time tomorrow, though it has not changed yet. Fetch again over a day.</source>
+        <translation>Zeile %1: „%2“ kann morgen ein anderes Datum oder eine andere Uhrzeit sein, auch wenn es sich noch nicht geändert hat. Rufen Sie noch einmal über einen Tag verteilt ab.</translation>
+    </message>
+    <message>
+        <source>Only %1 %% of the page would stay watched: too much of it changes.</source>
+        <translation>Nur %1 %% der Seite blieben überwacht: zu viel von ihr ändert sich.</translation>
+    </message>
+    <message>
+        <source>The copies have very different lengths: one of them may be another page, or an error.</source>
+        <translation>Die Abrufe sind sehr verschieden lang: einer davon kann eine andere Seite oder ein Fehler sein.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

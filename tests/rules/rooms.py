@@ -24,6 +24,7 @@ ROOMS = {
     "platform/process": (*MACHINE, "platform/os"),
     "platform/sound": (*MACHINE, "platform/os"),
     "platform/desktop": (*MACHINE, "platform/os"),
+    "holes": MACHINE,
     "store": MACHINE,
     "uucode": MACHINE,
     "mail": MACHINE,

@@ -1,0 +1,328 @@
+// SPDX-License-Identifier: MIT
+#include "holes/alignment.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <unordered_map>
+
+#include "base/text.h"
+
+namespace tarnwick {
+namespace {
+
+/// The largest table that two short rows of tokens are compared in.
+constexpr std::size_t kLargestTable = std::size_t{1} << 18U;
+constexpr int kDeepest = 64;
+/// Of a picture or an archive: fewer equal bytes between two that differ are chance.
+constexpr std::size_t kFewestEqualBytes = 3;
+
+bool isWordPart(char c) { return isLetter(c) || isDigit(c) || c == '_' || static_cast<unsigned char>(c) >= 0x80; }
+
+std::size_t lineLength(std::string_view text) {
+  return std::min(text.size(), text.find('\n')) + (text.find('\n') != std::string_view::npos ? 1U : 0U);
+}
+
+std::size_t tokenLength(std::string_view text) {
+  const auto run = [&](auto test) {
+    std::size_t length = 0;
+    while (length < text.size() && test(text[length])) {
+      ++length;
+    }
+    return length;
+  };
+  const std::size_t word = run(isWordPart);
+  const std::size_t blanks =
+      word > 0 ? word : run([](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; });
+  return std::max<std::size_t>(blanks, 1);
+}
+
+/// Tokens of one text by the numbers that equal ones share, and where they begin.
+struct Tokens {
+  std::vector<std::uint32_t> ids;
+  std::vector<std::size_t> begins;  ///< one more than there are tokens
+};
+
+class Aligner {
+ public:
+  Aligner(std::string_view one, std::string_view other) : one_(one), other_(other) {}
+
+  std::vector<EqualStretch> aligned() {
+    alignBy(lineLength, 0, one_.size(), 0, other_.size());
+    return std::move(found_);
+  }
+
+ private:
+  using Length = std::size_t (*)(std::string_view);
+  struct Range {
+    std::size_t oneFrom, oneTo, otherFrom, otherTo;
+  };
+
+  void alignBy(Length length, std::size_t oneFrom, std::size_t oneTo, std::size_t otherFrom, std::size_t otherTo) {
+    std::unordered_map<std::string_view, std::uint32_t> numbers;
+    const auto split = [&](std::string_view text, std::size_t from, std::size_t to) {
+      Tokens tokens;
+      for (std::size_t at = from; at < to;) {
+        const std::size_t size = length(text.substr(at, to - at));
+        tokens.ids.push_back(
+            numbers.emplace(text.substr(at, size), static_cast<std::uint32_t>(numbers.size())).first->second);
+        tokens.begins.push_back(at);
+        at += size;
+      }
+      tokens.begins.push_back(to);
+      return tokens;
+    };
+    const Tokens one = split(one_, oneFrom, oneTo);
+    const Tokens other = split(other_, otherFrom, otherTo);
+    const bool byLines = length == lineLength;
+    alignRange(one, other, {0, one.ids.size(), 0, other.ids.size()}, byLines, numbers.size(), 0);
+  }
+
+  void alignRange(const Tokens& one, const Tokens& other, Range range, bool byLines, std::size_t kinds, int depth) {
+    while (range.oneFrom < range.oneTo && range.otherFrom < range.otherTo &&
+           one.ids[range.oneFrom] == other.ids[range.otherFrom]) {
+      take(one, range.oneFrom++, other, range.otherFrom++);
+    }
+    std::size_t tail = 0;
+    while (range.oneFrom < range.oneTo && range.otherFrom < range.otherTo &&
+           one.ids[range.oneTo - 1] == other.ids[range.otherTo - 1]) {
+      --range.oneTo;
+      --range.otherTo;
+      ++tail;
+    }
+    if (range.oneFrom < range.oneTo && range.otherFrom < range.otherTo) {
+      const auto pairs = depth < kDeepest ? uniquePairs(one, other, range) : Pairs{};
+      if (!pairs.empty()) {
+        std::size_t oneFrom = range.oneFrom;
+        std::size_t otherFrom = range.otherFrom;
+        for (const auto& [i, j] : pairs) {
+          alignRange(one, other, {oneFrom, i, otherFrom, j}, byLines, kinds, depth + 1);
+          take(one, i, other, j);
+          oneFrom = i + 1;
+          otherFrom = j + 1;
+        }
+        alignRange(one, other, {oneFrom, range.oneTo, otherFrom, range.otherTo}, byLines, kinds, depth + 1);
+      } else if (byLines) {
+        alignBy(tokenLength, one.begins[range.oneFrom], one.begins[range.oneTo], other.begins[range.otherFrom],
+                other.begins[range.otherTo]);
+      } else {
+        longestCommon(one, other, range);
+      }
+    }
+    for (std::size_t i = 0; i < tail; ++i) {
+      take(one, range.oneTo + i, other, range.otherTo + i);
+    }
+  }
+
+  using Pairs = std::vector<std::pair<std::size_t, std::size_t>>;
+
+  // What each of the two has once only, as far as it stands in the same order in both.
+  static Pairs uniquePairs(const Tokens& one, const Tokens& other, const Range& range) {
+    struct Seen {
+      std::size_t inOne = 0, inOther = 0, oneAt = 0, otherAt = 0;
+    };
+    std::unordered_map<std::uint32_t, Seen> seen;
+    for (std::size_t i = range.oneFrom; i < range.oneTo; ++i) {
+      Seen& it = seen[one.ids[i]];
+      ++it.inOne;
+      it.oneAt = i;
+    }
+    for (std::size_t j = range.otherFrom; j < range.otherTo; ++j) {
+      Seen& it = seen[other.ids[j]];
+      ++it.inOther;
+      it.otherAt = j;
+    }
+    Pairs both;
+    for (const auto& [id, it] : seen) {
+      if (it.inOne == 1 && it.inOther == 1) {
+        both.emplace_back(it.oneAt, it.otherAt);
+      }
+    }
+    std::ranges::sort(both);
+    return longestRise(both);
+  }
+
+  // Patience sorting.
+  static Pairs longestRise(const Pairs& pairs) {
+    std::vector<std::size_t> tops;
+    std::vector<std::size_t> before(pairs.size(), pairs.size());
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+      const auto pile =
+          std::ranges::lower_bound(tops, pairs[i].second, {}, [&](std::size_t top) { return pairs[top].second; });
+      if (pile != tops.begin()) {
+        before[i] = *(pile - 1);
+      }
+      if (pile == tops.end()) {
+        tops.push_back(i);
+      } else {
+        *pile = i;
+      }
+    }
+    Pairs rise;
+    for (std::size_t i = tops.empty() ? pairs.size() : tops.back(); i < pairs.size(); i = before[i]) {
+      rise.push_back(pairs[i]);
+    }
+    std::ranges::reverse(rise);
+    return rise;
+  }
+
+  void longestCommon(const Tokens& one, const Tokens& other, const Range& range) {
+    const std::size_t rows = range.oneTo - range.oneFrom;
+    const std::size_t columns = range.otherTo - range.otherFrom;
+    if (rows * columns > kLargestTable) {
+      return;
+    }
+    std::vector<std::uint32_t> table((rows + 1) * (columns + 1));
+    const auto at = [&](std::size_t row, std::size_t column) -> std::uint32_t& {
+      return table[row * (columns + 1) + column];
+    };
+    const auto equal = [&](std::size_t row, std::size_t column) {
+      return one.ids[range.oneFrom + row] == other.ids[range.otherFrom + column];
+    };
+    for (std::size_t row = rows; row-- > 0;) {
+      for (std::size_t column = columns; column-- > 0;) {
+        at(row, column) =
+            equal(row, column) ? at(row + 1, column + 1) + 1 : std::max(at(row + 1, column), at(row, column + 1));
+      }
+    }
+    for (std::size_t row = 0, column = 0; row < rows && column < columns;) {
+      if (equal(row, column)) {
+        take(one, range.oneFrom + row++, other, range.otherFrom + column++);
+      } else if (at(row + 1, column) >= at(row, column + 1)) {
+        ++row;
+      } else {
+        ++column;
+      }
+    }
+  }
+
+  void take(const Tokens& one, std::size_t i, const Tokens& other, std::size_t j) {
+    const EqualStretch next{one.begins[i], other.begins[j], one.begins[i + 1] - one.begins[i]};
+    if (!found_.empty() && found_.back().one + found_.back().length == next.one &&
+        found_.back().other + found_.back().length == next.other) {
+      found_.back().length += next.length;
+    } else {
+      found_.push_back(next);
+    }
+  }
+
+  std::string_view one_;
+  std::string_view other_;
+  std::vector<EqualStretch> found_;
+};
+
+/// What the copies so far have in common: where it begins in each of them.
+struct Common {
+  std::vector<std::size_t> at;
+  std::size_t length = 0;
+};
+
+std::vector<Common> narrowed(const std::vector<Common>& common, const std::vector<EqualStretch>& stretches) {
+  std::vector<Common> both;
+  auto stretch = stretches.begin();
+  for (const Common& part : common) {
+    const std::size_t begin = part.at.front();
+    const std::size_t end = begin + part.length;
+    while (stretch != stretches.end() && stretch->one + stretch->length <= begin) {
+      ++stretch;
+    }
+    for (auto it = stretch; it != stretches.end() && it->one < end; ++it) {
+      const std::size_t from = std::max(begin, it->one);
+      const std::size_t to = std::min(end, it->one + it->length);
+      Common next{part.at, to - from};
+      for (std::size_t& at : next.at) {
+        at += from - begin;
+      }
+      next.at.push_back(it->other + (from - it->one));
+      both.push_back(std::move(next));
+    }
+  }
+  return both;
+}
+
+// Two that touch in all copies are one.
+void join(std::vector<Common>& common) {
+  std::vector<Common> joined;
+  for (Common& part : common) {
+    bool touches = !joined.empty();
+    for (std::size_t k = 0; touches && k < part.at.size(); ++k) {
+      touches = joined.back().at[k] + joined.back().length == part.at[k];
+    }
+    if (touches) {
+      joined.back().length += part.length;
+    } else {
+      joined.push_back(std::move(part));
+    }
+  }
+  common = std::move(joined);
+}
+
+std::vector<Region> between(const std::vector<Common>& common, std::span<const std::string> copies) {
+  std::vector<Region> regions;
+  std::vector<std::size_t> last(copies.size(), 0);
+  const auto add = [&](const std::vector<std::size_t>& next) {
+    if (next != last) {
+      regions.push_back({last, next});
+    }
+  };
+  for (const Common& part : common) {
+    add(part.at);
+    last = part.at;
+    for (std::size_t& at : last) {
+      at += part.length;
+    }
+  }
+  std::vector<std::size_t> ends;
+  for (const std::string& copy : copies) {
+    ends.push_back(copy.size());
+  }
+  add(ends);
+  return regions;
+}
+
+// Pictures and archives have their fields at the same place.
+std::vector<Common> equalPlaces(std::span<const std::string> copies) {
+  std::vector<Common> common;
+  const std::size_t size = copies.front().size();
+  const auto equalAt = [&](std::size_t at) {
+    return std::ranges::all_of(copies, [&](const std::string& copy) { return copy[at] == copies.front()[at]; });
+  };
+  for (std::size_t at = 0; at < size;) {
+    std::size_t end = at;
+    while (end < size && equalAt(end)) {
+      ++end;
+    }
+    if (end - at >= kFewestEqualBytes || end == size || at == 0) {
+      common.push_back({std::vector<std::size_t>(copies.size(), at), end - at});
+    }
+    at = std::max(end, at + 1);
+  }
+  std::erase_if(common, [](const Common& part) { return part.length == 0; });
+  return common;
+}
+
+}  // namespace
+
+std::vector<EqualStretch> alignTexts(std::string_view one, std::string_view other) {
+  return Aligner(one, other).aligned();
+}
+
+bool isBinary(std::string_view page) { return page.find('\0') != std::string_view::npos; }
+
+std::vector<Region> differingRegions(std::span<const std::string> copies) {
+  const std::string& first = copies.front();
+  const bool sameSize =
+      std::ranges::all_of(copies, [&](const std::string& copy) { return copy.size() == first.size(); });
+  std::vector<Common> common;
+  if (sameSize && isBinary(first)) {
+    common = equalPlaces(copies);
+  } else {
+    common.push_back({{0}, first.size()});
+    for (const std::string& copy : copies.subspan(1)) {
+      common = narrowed(common, alignTexts(first, copy));
+    }
+  }
+  join(common);
+  return between(common, copies);
+}
+
+}  // namespace tarnwick

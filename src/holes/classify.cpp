@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "holes/classify.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "holes/hole_values.h"
+
+namespace tarnwick {
+namespace {
+
+using Values = std::span<const std::string_view>;
+
+constexpr std::size_t kFewestHex = 3;
+/// The most digits that a counter is given before it has shown any.
+constexpr std::size_t kDigitsOfCounter = 6;
+constexpr std::size_t kDigitsToGrow = 3;
+constexpr std::size_t kRoomForLetters = 24;
+constexpr std::size_t kRoomForWords = 200;
+constexpr std::size_t kRoomForAnything = 4096;
+
+template <typename Test>
+bool all(Values values, Test test) {
+  return std::ranges::all_of(values, [&](std::string_view value) { return std::ranges::all_of(value, test); });
+}
+
+template <typename Test>
+bool any(Values values, Test test) {
+  return std::ranges::any_of(values, [&](std::string_view value) { return std::ranges::any_of(value, test); });
+}
+
+struct Lengths {
+  std::size_t least;
+  std::size_t most;
+};
+
+Lengths lengthsOf(Values values) {
+  const auto [least, most] = std::ranges::minmax(values, {}, &std::string_view::size);
+  return {least.size(), most.size()};
+}
+
+/// What stands between the digits of the values, and a minus before them; nothing when they are no numbers.
+std::optional<std::string> separatorsOf(Values values) {
+  std::string separators;
+  for (const std::string_view value : values) {
+    if (value.empty() || !isDigit(value.back())) {
+      return std::nullopt;
+    }
+    for (const char c : value.substr(value.front() == '-' ? 1 : 0)) {
+      if (!isDigit(c) && separators.find(c) == std::string::npos) {
+        separators += c;
+      }
+    }
+  }
+  if (separators.find_first_not_of(".,'\xC2\xA0\xE2\x80\xAF ") != std::string::npos) {
+    return std::nullopt;
+  }
+  if (std::ranges::any_of(values, [](std::string_view value) { return value.front() == '-'; })) {
+    separators += '-';
+  }
+  return separators;
+}
+
+std::optional<Hole> asNumber(Values values) {
+  const auto separators = separatorsOf(values);
+  if (!separators) {
+    return std::nullopt;
+  }
+  std::size_t least = std::string_view::npos;
+  std::size_t most = 0;
+  bool isPadded = false;
+  for (const std::string_view value : values) {
+    const NumberFound number = numberAt(value, *separators, nullptr);
+    if (number.length != value.size()) {
+      return std::nullopt;
+    }
+    least = std::min(least, number.digits);
+    most = std::max(most, number.digits);
+    isPadded = isPadded || (value.size() > 1 && value.front() == '0' && isDigit(value[1]));
+  }
+  Hole hole{.kind = HoleClass::digits, .form = *separators};
+  if (isPadded && least == most) {
+    hole.least = hole.most = most;
+  } else {
+    hole.least = 1;
+    hole.most = std::max(kDigitsOfCounter, most + kDigitsToGrow);
+  }
+  return hole;
+}
+
+}  // namespace
+
+Hole classified(Values values, bool isBinary) {
+  const Lengths lengths = lengthsOf(values);
+  const bool sameLength = lengths.least == lengths.most;
+  if (auto number = asNumber(values)) {
+    return *number;
+  }
+  if (isBinary) {
+    return sameLength ? Hole{.kind = HoleClass::anything, .least = lengths.most, .most = lengths.most}
+                      : Hole{.kind = HoleClass::anything, .most = 2 * lengths.most + kRoomForAnything};
+  }
+  const bool hasDigits = any(values, isDigit);
+  const auto isHex = [](char c) { return isOfClass(HoleClass::hex, c); };
+  const auto isKey = [](char c) { return isOfClass(HoleClass::base64, c); };
+  const auto isWord = [](char c) { return isOfClass(HoleClass::letters, c); };
+  const auto isText = [](char c) { return isOfClass(HoleClass::text, c); };
+  const auto exact = [&](HoleClass kind) {
+    const std::size_t least = std::max<std::size_t>(1, lengths.least / 2);
+    return sameLength
+               ? Hole{.kind = kind, .least = lengths.most, .most = lengths.most}
+               : Hole{.kind = kind, .least = least, .most = lengths.most + std::max<std::size_t>(4, lengths.most)};
+  };
+  if (lengths.least >= kFewestHex && hasDigits && all(values, isHex)) {
+    return exact(HoleClass::hex);
+  }
+  if (lengths.least > 0 && all(values, isWord)) {
+    return {.kind = HoleClass::letters, .least = 1, .most = std::max(kRoomForLetters, 2 * lengths.most)};
+  }
+  if (lengths.least > 0 && all(values, isKey) &&
+      (hasDigits || any(values, [](char c) { return c >= 'A' && c <= 'Z'; }))) {
+    return exact(HoleClass::base64);
+  }
+  if (all(values, isText)) {
+    return {.kind = HoleClass::text, .most = std::max(kRoomForWords, 4 * lengths.most)};
+  }
+  return {.kind = HoleClass::anything, .most = 4 * lengths.most + kRoomForAnything};
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "holes/lesson_warnings.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/visible_text.h"
+#include "holes/date_form.h"
+
+namespace tarnwick {
+namespace {
+
+/// More dates of today than that need not be named one by one.
+constexpr std::size_t kMostDates = 3;
+constexpr std::size_t kShown = 40;
+constexpr int kMinutesOfTheClock = 2;
+
+bool isInHole(const Holes& holes, const DateFound& date) {
+  return std::ranges::any_of(holes,
+                             [&](const Hole& hole) { return hole.begin < date.end() && date.begin < hole.end(); });
+}
+
+// The page may be made in another time zone, so that it is a day ahead or behind.
+bool isToday(const DateRead& read, LocalTime now) {
+  for (const int distance : {-1, 0, 1}) {
+    const std::chrono::year_month_day day(std::chrono::floor<std::chrono::days>(now) + std::chrono::days(distance));
+    if (read.month == static_cast<int>(static_cast<unsigned>(day.month())) &&
+        read.day == static_cast<int>(static_cast<unsigned>(day.day())) &&
+        (!read.year || *read.year == static_cast<int>(day.year()))) {
+      return true;
+    }
+  }
+  return false;
+}
+
+bool isNow(const DateRead& read, LocalTime now) {
+  const std::chrono::hh_mm_ss time(now - std::chrono::floor<std::chrono::days>(now));
+  const auto minutes = static_cast<int>(time.hours().count() * 60 + time.minutes().count());
+  return read.hour && read.minute && std::abs(*read.hour * 60 + *read.minute - minutes) <= kMinutesOfTheClock;
+}
+
+void warnOfDates(std::string_view page, const Holes& holes, LocalTime now, std::vector<std::string>& warnings) {
+  std::size_t told = 0;
+  for (auto date = nextDate(page, 0); date && told < kMostDates; date = nextDate(page, date->end())) {
+    const auto read = readDate(page.substr(date->begin), date->form);
+    if (!read || isInHole(holes, *date)) {
+      continue;
+    }
+    const std::string shown = visibleText(page.substr(date->begin, std::min(date->length, kShown)));
+    const std::string line = std::to_string(lineOf(page, date->begin));
+    if (date->hasDate ? isToday(*read, now) : isNow(*read, now)) {
+      warnings.push_back(
+          "Line " + line + ": \"" + shown +
+          "\" may be another date or time tomorrow, though it has not changed yet. Fetch again over a day.");
+      ++told;
+    }
+  }
+}
+
+}  // namespace
+
+std::size_t lineOf(std::string_view text, std::size_t at) {
+  const std::string_view before = text.substr(0, at);
+  return static_cast<std::size_t>(std::ranges::count(before, '\n')) + 1;
+}
+
+std::vector<std::string> warningsOf(std::span<const std::string> copies, const Holes& holes, LocalTime now) {
+  std::vector<std::string> warnings;
+  const std::string& page = copies.front();
+  const double watched = watchedShare(page, holes);
+  if (watched < kLeastWatched) {
+    warnings.push_back("Only " + std::to_string(static_cast<int>(watched * 100)) +
+                       " % of the page would stay watched: too much of it changes.");
+  }
+  if (std::ranges::any_of(copies, [&](const std::string& copy) {
+        return copy.size() * 2 < page.size() || page.size() * 2 < copy.size();
+      })) {
+    warnings.push_back("The copies have very different lengths: one of them may be another page, or an error.");
+  }
+  warnOfDates(page, holes, now, warnings);
+  return warnings;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+#include "holes/widen.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "holes/classify.h"
+#include "holes/date_form.h"
+#include "holes/hole_values.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::string_view kNumberMarks = ".,'";
+
+/// The form that reads what all copies have there; nothing when there is none.
+std::optional<std::string> formFor(const Copies& copies, const Region& region) {
+  const auto values = copies.values(region);
+  for (const std::string_view value : values) {
+    const auto found = dateOver(value, 0, value.size());
+    if (!found || found->begin != 0 || found->length != value.size()) {
+      continue;
+    }
+    if (std::ranges::all_of(values, [&](std::string_view other) {
+          const auto read = readDate(other, found->form);
+          return read && read->length == other.size();
+        })) {
+      return found->form;
+    }
+  }
+  return std::nullopt;
+}
+
+Hole dateHole(std::string form) { return {.kind = HoleClass::date, .form = std::move(form)}; }
+
+bool widenToDate(Copies& copies, std::size_t index) {
+  const Region& region = copies.places()[index].region;
+  const auto found = dateOver(copies.first(), region.from.front(), region.to.front());
+  if (!found) {
+    return false;
+  }
+  const auto whole = copies.regionOf(found->begin, found->end());
+  if (!whole) {
+    return false;
+  }
+  const auto form = formFor(copies, *whole);
+  if (!form) {
+    return false;
+  }
+  copies.put({*whole, dateHole(*form)});
+  return true;
+}
+
+/// How far a number goes on to the left of a place of the text.
+std::size_t numberBegin(std::string_view text, std::size_t at, std::size_t least) {
+  const auto isMark = [&](std::size_t i) { return kNumberMarks.find(text[i]) != std::string_view::npos; };
+  while (at > least && (isDigit(text[at - 1]) || (isMark(at - 1) && at > least + 1 && isDigit(text[at - 2])))) {
+    --at;
+  }
+  const bool startsNumber = at > least && text[at - 1] == '-' &&
+                            (at < 2 || !(isDigit(text[at - 2]) || isLetter(text[at - 2]) || text[at - 2] == ')'));
+  return startsNumber ? at - 1 : at;
+}
+
+std::size_t numberEnd(std::string_view text, std::size_t at, std::size_t most) {
+  const auto isMark = [&](std::size_t i) { return kNumberMarks.find(text[i]) != std::string_view::npos; };
+  while (at < most && (isDigit(text[at]) || (isMark(at) && at + 1 < most && isDigit(text[at + 1])))) {
+    ++at;
+  }
+  return at;
+}
+
+bool widenToNumber(Copies& copies, std::size_t index) {
+  const Region region = copies.places()[index].region;
+  const std::string_view before = copies.fixedBefore(index);
+  const std::string_view behind = copies.fixedBefore(index + 1);
+  const auto values = copies.values(region);
+  if (!std::ranges::all_of(values, [](std::string_view value) {
+        return std::ranges::all_of(value, [](char c) {
+          return isDigit(c) || kNumberMarks.find(c) != std::string_view::npos || c == '-' || c == ' ';
+        });
+      })) {
+    return false;
+  }
+  const std::size_t left = before.size() - numberBegin(before, before.size(), 0);
+  const std::size_t right = numberEnd(behind, 0, behind.size());
+  Region whole = region;
+  for (std::size_t copy = 0; copy < whole.from.size(); ++copy) {
+    whole.from[copy] -= left;
+    whole.to[copy] += right;
+  }
+  const auto numbers = copies.values(whole);
+  Hole hole = classified(numbers, false);
+  if (hole.kind != HoleClass::digits) {
+    return false;
+  }
+  copies.places()[index] = {std::move(whole), std::move(hole)};
+  return true;
+}
+
+/// What all values begin with, as far as it is no part of what varies: "sess_" of "sess_3f2a", "web" of "web1".
+std::size_t fixedBeginning(std::span<const std::string_view> values) {
+  std::size_t common = values.front().size();
+  for (const std::string_view value : values) {
+    common = std::min<std::size_t>(
+        common, static_cast<std::size_t>(std::ranges::mismatch(value, values.front()).in1 - value.begin()));
+  }
+  const std::string_view beginning = values.front().substr(0, common);
+  if (const std::size_t mark = beginning.find_last_of('_'); mark != std::string_view::npos) {
+    return mark + 1;
+  }
+  const std::size_t letters =
+      static_cast<std::size_t>(std::ranges::find_if_not(beginning, isLetter) - beginning.begin());
+  if (letters == 0) {
+    return 0;
+  }
+  const auto isDigitsAfter = [&](std::string_view value) {
+    return value.size() > letters && std::ranges::all_of(value.substr(letters), isDigit);
+  };
+  return std::ranges::all_of(values, isDigitsAfter) ? letters : 0;
+}
+
+/// The letters that all values end with behind a number: "ms" of "12ms".
+std::size_t fixedEnd(std::span<const std::string_view> values) {
+  const std::string_view first = values.front();
+  std::size_t letters = 0;
+  while (letters < first.size() && isLetter(first[first.size() - 1 - letters])) {
+    ++letters;
+  }
+  const std::string_view end = first.substr(first.size() - letters);
+  const bool isNumber = letters > 0 && std::ranges::all_of(values, [&](std::string_view value) {
+                          return value.size() > letters && value.ends_with(end) &&
+                                 std::ranges::all_of(value.substr(0, value.size() - letters), isDigit);
+                        });
+  return isNumber ? letters : 0;
+}
+
+void takeFixedFromWord(Copies& copies, std::size_t index) {
+  Region& region = copies.places()[index].region;
+  const auto values = copies.values(region);
+  const std::size_t left = fixedBeginning(values);
+  for (std::size_t& from : region.from) {
+    from += left;
+  }
+  const std::size_t right = fixedEnd(copies.values(region));
+  for (std::size_t& to : region.to) {
+    to -= right;
+  }
+}
+
+/// A field of bytes that holds when a file was made.
+struct StampField {
+  std::string_view before;
+  std::size_t skipped;  ///< bytes between the mark and the field
+  std::size_t length;
+  bool atBegin;
+};
+constexpr StampField kStampFields[] = {
+    {"\x1F\x8B", 2, 4, true},  // gzip, RFC 1952
+    {"tIME", 0, 7, false},     // PNG
+};
+
+bool widenToField(Copies& copies, std::size_t index) {
+  const Region& region = copies.places()[index].region;
+  const std::size_t begin = region.from.front();
+  const std::size_t end = region.to.front();
+  for (const StampField& field : kStampFields) {
+    const std::size_t reach = field.skipped + field.length + field.before.size();
+    const std::size_t from = field.atBegin ? 0 : begin - std::min(begin, reach);
+    const std::size_t mark = copies.first().substr(0, begin).find(field.before, from);
+    if (mark == std::string_view::npos || (field.atBegin && mark != 0)) {
+      continue;
+    }
+    const std::size_t fieldBegin = mark + field.before.size() + field.skipped;
+    if (fieldBegin > begin || end > fieldBegin + field.length) {
+      continue;
+    }
+    if (const auto whole = copies.regionOf(fieldBegin, fieldBegin + field.length)) {
+      copies.put({*whole, Hole{.kind = HoleClass::anything, .least = field.length, .most = field.length}});
+      return true;
+    }
+  }
+  return false;
+}
+
+std::size_t indexOf(const Copies& copies, std::size_t begin) {
+  const auto& places = copies.places();
+  return static_cast<std::size_t>(
+      std::ranges::find_if(places, [&](const Place& place) { return place.region.to.front() >= begin; }) -
+      places.begin());
+}
+
+}  // namespace
+
+void widenToWhole(Copies& copies) {
+  const bool binary = isBinary(copies.first());
+  for (std::size_t index = 0; index < copies.places().size(); ++index) {
+    if (copies.places()[index].known) {
+      continue;
+    }
+    const std::size_t begin = copies.places()[index].region.from.front();
+    if (widenToDate(copies, index) || (binary && widenToField(copies, index))) {
+      index = indexOf(copies, begin);
+      continue;
+    }
+    if (!binary) {
+      takeFixedFromWord(copies, index);
+      widenToNumber(copies, index);
+    }
+  }
+}
+
+void takeDatesBesideTimes(Copies& copies, int year, int month, int day) {
+  constexpr std::size_t kNear = 96;
+  for (std::size_t index = 0; index < copies.places().size(); ++index) {
+    const Place& place = copies.places()[index];
+    const bool isTime = place.known && place.known->kind == HoleClass::date &&
+                        place.known->form.find("%H") != std::string::npos &&
+                        place.known->form.find("%d") == std::string::npos;
+    if (!isTime) {
+      continue;
+    }
+    const std::size_t time = place.region.from.front();
+    const std::size_t end = place.region.to.front();
+    for (auto date = nextDate(copies.first(), time - std::min(time, kNear)); date && date->begin < end + kNear;
+         date = nextDate(copies.first(), date->end())) {
+      const auto read = readDate(copies.first().substr(date->begin), date->form);
+      const bool isToday = read && (!read->year || *read->year == year) && read->month == month && read->day == day;
+      const auto whole = copies.regionOf(date->begin, date->end());
+      if (date->hasDate && isToday && whole && (date->end() <= time || date->begin >= end)) {
+        copies.put({*whole, dateHole(date->form)});
+        break;
+      }
+    }
+    index = indexOf(copies, end);
+  }
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "holes/copies.h"
+
+namespace tarnwick {
+
+/// Widens the places that vary to what they are part of: dates and times to all of them, numbers to all of their
+/// digits, fields of pictures and archives to the whole field; and takes from words what of them never varies.
+void widenToWhole(Copies& copies);
+
+/// Joins places that are one for people: several in a row of words, the parts of a key, what stands in another order,
+/// what lies among other things that may be anything.
+void joinNeighbours(Copies& copies);
+
+/// A date of today beside a time that varies changes as surely as that, though nobody has seen it.
+void takeDatesBesideTimes(Copies& copies, int year, int month, int day);
+
+}  // namespace tarnwick
