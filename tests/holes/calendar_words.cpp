@@ -214,6 +214,8 @@ bool names(std::string_view form, std::string_view letters) {
   return false;
 }
 
+bool contains(std::string_view text, std::string_view piece) { return text.find(piece) != std::string_view::npos; }
+
 }  // namespace
 
 std::string dateText(const Moment& moment, std::string_view form, std::string_view language) {
@@ -229,7 +231,10 @@ Slot date(std::string_view form, std::string_view language) {
     }
     Value value{.bytes = text, .kind = HoleClass::date, .breaks = {"<script>alert(1)</script>"}};
     auto wrong = now;
-    if (names(form, "mnBb")) {
+    // 5/13 and 13/5 are both a day of May, as long as nobody knows who writes them.
+    const bool eitherOrder =
+        now.day <= 12 && (form.starts_with("%n/") || contains(form, "%d-%m") || contains(form, "%d/%m"));
+    if (names(form, "mnBb") && !eitherOrder) {
       wrong.month = 13;
       value.breaks.push_back(formatted(wrong, form, words));
       wrong.month = now.month;

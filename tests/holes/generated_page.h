@@ -140,5 +140,7 @@ std::vector<Generator> binaryPages();
 std::vector<Generator> rotatingPages();
 std::vector<Generator> mixedPages();
 std::vector<Generator> unknowablePages();
+/// Shapes beyond these, for looking at alone.
+std::vector<Generator> furtherPages();
 
 }  // namespace tarnwick::generated

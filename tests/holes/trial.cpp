@@ -19,11 +19,11 @@ constexpr std::size_t kEnoughIsFixed = 200;
 constexpr seconds kSpread = hours(24 * 400);
 constexpr std::uint64_t kVisitsBetween = 23;
 
-/// Some day and hour of 2026, a little before a minute ends: the fetches see it change.
+/// Some day and hour of 2026, a little before a minute ends, but no hour: the fetches see the minute change.
 LocalTime startOf(const std::string& name) {
   Rng rng("start of " + name);
   const std::chrono::local_days first(std::chrono::year(2026) / 1 / 5);
-  return LocalTime(first) + hours(rng.below(300 * 24)) + minutes(rng.below(60)) + seconds(57 + rng.below(3));
+  return LocalTime(first) + hours(rng.below(300 * 24)) + minutes(rng.below(59)) + seconds(57 + rng.below(3));
 }
 
 std::vector<std::string> texts(const std::vector<Made>& copies) {
@@ -55,8 +55,11 @@ std::string shortened(std::string text) {
 
 }  // namespace
 
-Trial::Trial(const Generator& generator) : generator_(&generator), start_(startOf(generator.name)) {
-  Rng rng("learning " + generator.name);
+Trial::Trial(const Generator& generator, std::size_t round)
+    : generator_(&generator),
+      seed_(generator.name + (round == 0 ? "" : " in round " + std::to_string(round))),
+      start_(startOf(seed_)) {
+  Rng rng("learning " + seed_);
   Moment moment{.time = start_, .millisecond = rng.between(0, 999)};
   for (; moment.fetch < kLearningFetches; ++moment.fetch) {
     copies_.push_back(generator.page(moment, rng));
@@ -70,7 +73,7 @@ Trial::Trial(const Generator& generator) : generator_(&generator), start_(startO
 }
 
 Made Trial::further(std::size_t n) const {
-  Rng rng(generator_->name + "/" + std::to_string(n));
+  Rng rng(seed_ + "/" + std::to_string(n));
   const auto step = kSpread / static_cast<int>(generator_->furtherFetches);
   const Moment moment{.time = start_ + minutes(1) + step * static_cast<int>(n) +
                               seconds(rng.below(static_cast<std::size_t>(step.count()))),
@@ -100,7 +103,7 @@ std::optional<std::size_t> Trial::firstDifferent() const {
 }
 
 std::vector<Defaced> Trial::missedDefacements(std::size_t count) const {
-  Rng rng("defacements of " + generator_->name);
+  Rng rng("defacements of " + seed_);
   std::vector<Defaced> missed;
   for (std::size_t n = 0; n < count; ++n) {
     // What was seen while it was learnt is judged the same by any learner, so that there each miss is one.
@@ -137,7 +140,7 @@ std::size_t defacementsOf(const Generator& generator) {
   }();
   const auto found = std::find(eligible.begin(), eligible.end(), generator.name);
   if (found == eligible.end()) {
-    return 0;
+    return muchIsFixed(generator) ? kDefacements / eligible.size() : 0;
   }
   const auto place = static_cast<std::size_t>(found - eligible.begin());
   return kDefacements * (place + 1) / eligible.size() - kDefacements * place / eligible.size();

@@ -19,7 +19,8 @@ inline constexpr std::size_t kDefacements = 2277;
 /// A page with what was learnt of it from five fetches, one to three seconds apart.
 class Trial {
  public:
-  explicit Trial(const Generator& generator);
+  /// Each round is at another moment and draws other values.
+  explicit Trial(const Generator& generator, std::size_t round = 0);
 
   const Generator& generator() const { return *generator_; }
   const Lesson& lesson() const { return lesson_; }
@@ -41,6 +42,7 @@ class Trial {
 
  private:
   const Generator* generator_;
+  std::string seed_;
   LocalTime start_;
   std::vector<Made> copies_;
   Lesson lesson_;
