@@ -8,7 +8,7 @@
 PRAGMA encoding = 'UTF-8';
 PRAGMA auto_vacuum = NONE;
 -- The form of the tables: the original ones are form 0; the program brings an older list to today's form.
-PRAGMA user_version = 3;
+PRAGMA user_version = 4;
 
 BEGIN;
 
@@ -194,5 +194,14 @@ CREATE TABLE siteState (
   unknownSince TEXT,
   owed TEXT
 );
+
+-- What of a site's page does not count: holes of its baseline, and rules by hand; see src/store/site_rules.h.
+CREATE TABLE rules (
+  idSite INTEGER NOT NULL,
+  ord INTEGER NOT NULL,
+  kind TEXT NOT NULL,
+  rule TEXT NOT NULL,
+  PRIMARY KEY (idSite, ord)
+) WITHOUT ROWID;
 
 COMMIT;

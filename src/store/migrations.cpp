@@ -29,9 +29,17 @@ bool addSiteState(SqlConnection& connection, const std::string&) {
   return true;
 }
 
+bool addRules(SqlConnection& connection, const std::string&) {
+  connection.execute(
+      "create table if not exists rules (idSite INTEGER NOT NULL, ord INTEGER NOT NULL, kind TEXT NOT NULL, rule TEXT "
+      "NOT NULL, primary key (idSite, ord)) without rowid",
+      {});
+  return true;
+}
+
 /// What leads from each form to the next; the first makes form 1 of form 0. A step that has been in a release never
 /// changes: lists that have gone through it are in people's hands.
-constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense, &addSiteState};
+constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense, &addSiteState, &addRules};
 
 void refuseNewer(std::int64_t form, const std::string& path) {
   if (form > kFormOfTables) {

@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "store/first_field.h"
 #include "store/site_options.h"
+#include "store/site_rules.h"
 #include "store/site_standing.h"
 #include "store/site_table.h"
 #include "store/sql_quote.h"
@@ -39,6 +40,7 @@ bool mayStandInAddress(char c) {
 void removeWhatGoesWith(Database& database, std::int64_t idSite) {
   removeOptionsOf(database, idSite);
   SiteStandings(database).removeStanding(idSite);
+  SiteRules(database).removeRules(idSite);
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ from rules.tree import Tree, room_of
 # The rooms, and which others each may include: the whole of who knows whom. A room is a folder of src; what is named
 # here includes nothing else, and what is not named here is no room.
 MACHINE = ("base", "platform")
-DATA = (*MACHINE, "store")
+DATA = (*MACHINE, "holes", "store")
 RUN = (*DATA, "uucode", "mail", "alerts", "report", "engine")
 EXCHANGE = (*RUN, "program", "exchange/json")
 TOOL = (*EXCHANGE, "exchange/list", "exchange/foreign", "cli/terminal")
@@ -25,7 +25,7 @@ ROOMS = {
     "platform/sound": (*MACHINE, "platform/os"),
     "platform/desktop": (*MACHINE, "platform/os"),
     "holes": MACHINE,
-    "store": MACHINE,
+    "store": (*MACHINE, "holes"),
     "uucode": MACHINE,
     "mail": MACHINE,
     "alerts": (*DATA, "mail"),
