@@ -1,6 +1,5 @@
 # What reads the files of other programs: bookmarks and OPML, YAML, zip archives, Jet databases. Each may be missing; a file of that kind
 # is then refused with a word about the package.
-find_package(LibXml2 2.9 QUIET)
 tarnwick_optional_library(Yaml::Yaml yaml-cpp/yaml.h yaml-cpp)
 tarnwick_optional_library(Zip::Zip zip.h zip)
 find_package(PkgConfig QUIET)

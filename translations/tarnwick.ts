@@ -3367,6 +3367,42 @@
         <source>The copies have very different lengths: one of them may be another page, or an error.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Rule %1 (%2 %3 %4) matches nothing on the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The rule &quot;%1&quot; cannot be understood: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A pointer begins with a slash, as /items/0/price.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write ~0 for ~ and ~1 for a slash within a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write numbers of lines from 1 on, as 3, 3-7 or 12-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its last line comes before its first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write an expression that selects elements, as //div[@id=&apos;main&apos;] or //p.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this Tarnwick was built without %1. Install %2 and build it again, or name lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is no selector from &quot;%1&quot; on. Write one such as div.news &gt; p or a[href^=&apos;/ad&apos;].</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -3367,6 +3367,42 @@
         <source>The copies have very different lengths: one of them may be another page, or an error.</source>
         <translation>Die Abrufe sind sehr verschieden lang: einer davon kann eine andere Seite oder ein Fehler sein.</translation>
     </message>
+    <message>
+        <source>Rule %1 (%2 %3 %4) matches nothing on the page.</source>
+        <translation>Regel %1 (%2 %3 %4) trifft auf der Seite nichts.</translation>
+    </message>
+    <message>
+        <source>The rule &quot;%1&quot; cannot be understood: %2</source>
+        <translation>Die Regel „%1“ ist nicht zu verstehen: %2</translation>
+    </message>
+    <message>
+        <source>A pointer begins with a slash, as /items/0/price.</source>
+        <translation>Ein Zeiger beginnt mit einem Schrägstrich, etwa /items/0/price.</translation>
+    </message>
+    <message>
+        <source>Write ~0 for ~ and ~1 for a slash within a name.</source>
+        <translation>Schreiben Sie ~0 für ~ und ~1 für einen Schrägstrich in einem Namen.</translation>
+    </message>
+    <message>
+        <source>Write numbers of lines from 1 on, as 3, 3-7 or 12-.</source>
+        <translation>Schreiben Sie Nummern von Zeilen ab 1, etwa 3, 3-7 oder 12-.</translation>
+    </message>
+    <message>
+        <source>Its last line comes before its first.</source>
+        <translation>Ihre letzte Zeile steht vor der ersten.</translation>
+    </message>
+    <message>
+        <source>Write an expression that selects elements, as //div[@id=&apos;main&apos;] or //p.</source>
+        <translation>Schreiben Sie einen Ausdruck, der Elemente auswählt, etwa //div[@id=&apos;main&apos;] oder //p.</translation>
+    </message>
+    <message>
+        <source>this Tarnwick was built without %1. Install %2 and build it again, or name lines.</source>
+        <translation>dieses Tarnwick wurde ohne %1 gebaut. Installieren Sie %2 und bauen Sie es neu, oder nennen Sie Zeilen.</translation>
+    </message>
+    <message>
+        <source>It is no selector from &quot;%1&quot; on. Write one such as div.news &gt; p or a[href^=&apos;/ad&apos;].</source>
+        <translation>Ab „%1“ ist es kein Selektor. Schreiben Sie etwa #main, div.news &gt; p oder a[href^=&apos;/ad&apos;].</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

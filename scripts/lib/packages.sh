@@ -8,7 +8,7 @@ build_packages=(
   qt6-base-dev qt6-l10n-tools libgl1-mesa-dev
   libcurl4-openssl-dev libssl-dev zlib1g-dev libbrotli-dev libzstd-dev
   libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev
-  libxml2-dev libyaml-cpp-dev libzip-dev mdbtools-dev pkgconf
+  libre2-dev libsimdjson-dev libxml2-dev libyaml-cpp-dev libzip-dev mdbtools-dev pkgconf
   python3 python3-markdown-it
 )
 

@@ -21,6 +21,8 @@ LIBRARY_TARGETS = (
     ("CLI11::CLI11", r"CLI/.*", ()),
     ("nlohmann_json::nlohmann_json", r"nlohmann/.*", ()),
     ("LibXml2::LibXml2", r"libxml/.*", ()),
+    ("RE2::RE2", r"re2/.*", ()),
+    ("Simdjson::Simdjson", r"simdjson\.h", ()),
     ("Yaml::Yaml", r"yaml-cpp/.*", ()),
     ("Zip::Zip", r"zip\.h", ()),
     ("PkgConfig::MDB", r"mdbtools\.h", ()),

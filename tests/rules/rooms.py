@@ -10,7 +10,7 @@ from rules.tree import Tree, room_of
 # here includes nothing else, and what is not named here is no room.
 MACHINE = ("base", "platform")
 DATA = (*MACHINE, "holes", "store")
-RUN = (*DATA, "uucode", "mail", "alerts", "report", "engine")
+RUN = (*DATA, "page_rules", "uucode", "mail", "alerts", "report", "engine")
 EXCHANGE = (*RUN, "program", "exchange/json")
 TOOL = (*EXCHANGE, "exchange/list", "exchange/foreign", "cli/terminal")
 WINDOW = (*RUN, "program", "ui/controls")
@@ -25,12 +25,13 @@ ROOMS = {
     "platform/sound": (*MACHINE, "platform/os"),
     "platform/desktop": (*MACHINE, "platform/os"),
     "holes": MACHINE,
+    "page_rules": (*MACHINE, "holes"),
     "store": (*MACHINE, "holes"),
     "uucode": MACHINE,
     "mail": MACHINE,
     "alerts": (*DATA, "mail"),
     "report": DATA,
-    "engine": (*DATA, "alerts", "report"),
+    "engine": (*DATA, "page_rules", "alerts", "report"),
     "program": RUN,
     "exchange/json": MACHINE,
     "exchange/list": EXCHANGE,
@@ -48,6 +49,8 @@ ROOMS = {
 }
 # What reads the files of other programs.
 FOREIGN = r"libxml/.*|yaml-cpp/.*|zip\.h|mdbtools\.h"
+# What finds the parts of pages that rules name.
+PARTS = r"re2/.*|simdjson\.h"
 # The libraries of others that a room may include, by the headers' names; all others include standard C++ and the system
 # alone.
 CODINGS = r"zlib\.h|brotli/.*|zstd\w*\.h"
@@ -58,6 +61,7 @@ LIBRARIES = {
     "platform/events": QT,
     "platform/process": QT,
     "platform/desktop": QT,
+    "page_rules": rf"libxml/.*|{PARTS}",
     "exchange/json": r"nlohmann/.*",
     "exchange/list": r"nlohmann/.*",
     "exchange/foreign": rf"nlohmann/.*|{FOREIGN}",
@@ -71,7 +75,7 @@ LIBRARIES = {
     "app": QT,
 }
 
-LIBRARY = re.compile(rf"^({QT}|sqlite3\w*\.h|curl/.*|openssl/.*|{CODINGS}|CLI/.*|nlohmann/.*|{FOREIGN})$")
+LIBRARY = re.compile(rf"^({QT}|sqlite3\w*\.h|curl/.*|openssl/.*|{CODINGS}|CLI/.*|nlohmann/.*|{FOREIGN}|{PARTS})$")
 # No room holds more of the lines of src than this.
 LARGEST_SHARE = 0.20
 FEWEST_LINES_OF_A_HOUSE = 5000  # below, a share says nothing

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "holes/page_rule.h"
+
+namespace tarnwick {
+
+/// How a page stands to its baseline by the rules of its site.
+struct PageVerdict {
+  bool same = false;
+  /// The first difference, in the baseline and in the page as `pageText` gives them; of no meaning when they are the
+  /// same.
+  std::size_t baselineAt = 0;
+  std::size_t pageAt = 0;
+  /// What must be told beside the verdict, in words for people: a rule that found nothing watches nothing. Empty when
+  /// there is nothing to tell.
+  std::string remark{};
+};
+
+/// Judges a page as it was fetched. Without rules it is compared byte for byte; a page that equals its baseline is the
+/// same whatever the rules say. A rule that cannot be understood leaves nothing out.
+PageVerdict judgePage(std::string_view baseline, std::string_view page, const RuleSet& set);
+
+}  // namespace tarnwick

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "page_rules/found_ranges.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tarnwick {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using Language = PageRule::Language;
+
+std::vector<std::string> found(Language language, const std::string& rule, const std::string& page) {
+  std::vector<std::string> parts;
+  for (const ByteRange& range : foundBy({PageRule::Use::leaveOut, language, rule}, page)) {
+    parts.push_back(page.substr(range.begin, range.end - range.begin));
+  }
+  return parts;
+}
+
+std::string faultOf(Language language, const std::string& rule) {
+  try {
+    checkRule({PageRule::Use::leaveOut, language, rule});
+  } catch (const std::runtime_error& fault) {
+    return fault.what();
+  }
+  return {};
+}
+
+TEST(RulesByLines, FindWholeLines) {
+  const std::string page = "one\ntwo\nthree\nfour";
+  EXPECT_THAT(found(Language::lines, "2", page), ElementsAre("two\n"));
+  EXPECT_THAT(found(Language::lines, " 2 - 3 ", page), ElementsAre("two\nthree\n"));
+  EXPECT_THAT(found(Language::lines, "4-", page), ElementsAre("four"));
+  EXPECT_THAT(found(Language::lines, "5", page), IsEmpty());
+  for (const char* rule : {"", "0", "x", "3-2", "1-2-3", "-3"}) {
+    EXPECT_NE(faultOf(Language::lines, rule), "") << rule;
+  }
+}
+
+#ifdef TARNWICK_ALL_LANGUAGES
+
+TEST(RulesByRegularExpressions, FindWhatMatchesOrItsFirstGroup) {
+  const std::string page = "price: 24.00\nprice: 29.50\n<b>x</b>\n";
+  EXPECT_THAT(found(Language::regex, "price: .*", page), ElementsAre("price: 24.00", "price: 29.50"));
+  EXPECT_THAT(found(Language::regex, "price: (\\d+)", page), ElementsAre("24", "29"));
+  EXPECT_THAT(found(Language::regex, "^<b>", page), ElementsAre("<b>")) << "the beginning of a line";
+  EXPECT_THAT(found(Language::regex, "(?s)price.*", page), ElementsAre(page));
+  EXPECT_THAT(found(Language::regex, "x*", page), ElementsAre("x")) << "nothing is no finding";
+  EXPECT_THAT(found(Language::regex, "caf.", "caf\xE9 au lait"), ElementsAre("caf\xE9")) << "not UTF-8";
+  EXPECT_THAT(faultOf(Language::regex, "a(b"), HasSubstr("missing"));
+  EXPECT_THAT(faultOf(Language::regex, "(a)\\1"), HasSubstr("\"regex (a)\\1\"")) << "no references back";
+}
+
+TEST(RulesByRegularExpressions, EndInTimeOnAPageMadeForThem) {
+  const std::string page(5'000'000, 'x');
+  const auto begun = std::chrono::steady_clock::now();
+  found(Language::regex, "(?s)x(.*y)?", page);
+  found(Language::regex, "(x+x+)+y", page);
+  EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(4));
+}
+
+const std::string kPage =
+    "<!DOCTYPE html>\n<html><head><title>A page</title></head>\n<body class=\"big\">\n"
+    "<div id=\"main\" class=\"news first\"><p>One</p><p lang='de-AT'>Zw\xC3\xB6lf <b>bold</b></p>\n"
+    "<ul><li>a<li>b</ul><img src=\"/ad/1.png\"><br/></div>\n"
+    "<!-- <p>no</p> --><script>if (a<b) { x = \"<p>no</p>\"; }</script>\n"
+    "<p>last\n</body></html>\n";
+
+TEST(RulesBySelectors, FindWholeElementsWithTheirTags) {
+  const auto css = [](const std::string& rule) { return found(Language::css, rule, kPage); };
+  EXPECT_THAT(css("title"), ElementsAre("<title>A page</title>"));
+  EXPECT_THAT(css("#main > p"), ElementsAre("<p>One</p><p lang='de-AT'>Zw\xC3\xB6lf <b>bold</b></p>"));
+  EXPECT_THAT(css("p b"), ElementsAre("<b>bold</b>"));
+  EXPECT_THAT(css("div.news.first b, title"), ElementsAre("<title>A page</title>", "<b>bold</b>"));
+  EXPECT_THAT(css("P + p"), ElementsAre("<p lang='de-AT'>Zw\xC3\xB6lf <b>bold</b></p>"));
+  EXPECT_THAT(css("p[lang|=de]"), ElementsAre("<p lang='de-AT'>Zw\xC3\xB6lf <b>bold</b></p>"));
+  EXPECT_THAT(css("[src^='/ad']"), ElementsAre("<img src=\"/ad/1.png\">"));
+  EXPECT_THAT(css("[src$=\".png\"]"), ElementsAre("<img src=\"/ad/1.png\">"));
+  EXPECT_THAT(css("[src*='d/1']"), ElementsAre("<img src=\"/ad/1.png\">"));
+  EXPECT_THAT(css("div[class~=first] > p:first-child"), ElementsAre("<p>One</p>"));
+  EXPECT_THAT(css("#main > p:not([lang])"), ElementsAre("<p>One</p>"));
+  EXPECT_THAT(css("div > :nth-child(2)"), ElementsAre("<p lang='de-AT'>Zw\xC3\xB6lf <b>bold</b></p>"));
+  EXPECT_THAT(css("script"), ElementsAre("<script>if (a<b) { x = \"<p>no</p>\"; }</script>"));
+  EXPECT_THAT(css("br"), ElementsAre("<br/>"));
+  EXPECT_THAT(css("li:first-child"), ElementsAre("<li>a"));
+  EXPECT_THAT(css("li ~ li"), ElementsAre("<li>b"));
+  EXPECT_THAT(css("table"), IsEmpty());
+  for (const char* rule : {"", "p >", "p..x", "[", "p:hover", "a[b=]", "p, ", "::before", "p:nth-child(0)"}) {
+    EXPECT_NE(faultOf(Language::css, rule), "") << rule;
+  }
+}
+
+TEST(RulesByXPath, FindWholeElements) {
+  EXPECT_THAT(found(Language::xpath, "//p[@lang]/b", kPage), ElementsAre("<b>bold</b>"));
+  EXPECT_THAT(found(Language::xpath, "//p[contains(., 'Zw\xC3\xB6lf')]/b/text()", kPage), ElementsAre("<b>bold</b>"));
+  EXPECT_THAT(found(Language::xpath, "/html/body/p", kPage), ElementsAre("<p>last\n"));
+  EXPECT_THAT(found(Language::xpath, "count(//p)", kPage), IsEmpty()) << "a number is no element";
+  EXPECT_NE(faultOf(Language::xpath, "//p["), "");
+  EXPECT_NE(faultOf(Language::xpath, ""), "");
+}
+
+TEST(RulesOnMarkup, EndInTimeOnAPageMadeForThem) {
+  const auto begun = std::chrono::steady_clock::now();
+  std::string deep;
+  for (int i = 0; i < 200'000; ++i) {
+    deep += "<div>";
+  }
+  found(Language::css, "div div div", deep);
+  std::string wide;
+  for (int i = 0; i < 20'000; ++i) {
+    wide += "<b id=" + std::to_string(i) + "><p>";
+  }
+  found(Language::css, "p b p", wide);
+  found(Language::xpath, "//*[count(//*) > count(.//*)]", wide);
+  found(Language::css, "p", std::string(100'000, '<'));
+  found(Language::css, "p", "<p " + std::string(1'000'000, 'x'));
+  std::string attributes = "<p";
+  std::string cells;
+  std::string names;
+  for (int i = 0; i < 100'000; ++i) {
+    attributes += " a" + std::to_string(i) + "=1";
+    cells += "<td>x";
+    names += "<a";
+  }
+  found(Language::css, "p", attributes + ">");
+  found(Language::css, "td", cells);
+  found(Language::css, "a", names);
+  EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(10));
+}
+
+TEST(RulesOnMarkup, KeepTheirPlacesWhateverTheBytesAre) {
+  for (const std::string& noise :
+       {std::string("\xE9\xE8"), std::string("\xC3\xB6\xE2\x82\xAC"), std::string("\0\x01", 2),
+        std::string("&auml;&#x20ac;&nosuch;"), std::string("<meta charset=utf-16>"), std::string("\r\n\r"),
+        std::string("</nosuch></p>")}) {
+    const std::string page = "<html><body>" + noise + "<p>" + noise + "x</p>" + noise + "<b>y</b></body></html>";
+    EXPECT_THAT(found(Language::css, "b", page), ElementsAre("<b>y</b>")) << noise;
+  }
+}
+
+TEST(RulesByPointer, FindTheValueAsItIsWritten) {
+  const std::string page = R"({"a": {"b": [1, {"c": "x y"}, 2.50]}, "t/u": null, "last": [ 1,2 ] })";
+  const auto json = [&](const std::string& rule) { return found(Language::json, rule, page); };
+  EXPECT_THAT(json("/a/b/1"), ElementsAre(R"({"c": "x y"})"));
+  EXPECT_THAT(json("/a/b/1/c"), ElementsAre(R"("x y")"));
+  EXPECT_THAT(json("/a/b/2"), ElementsAre("2.50"));
+  EXPECT_THAT(json("/t~1u"), ElementsAre("null"));
+  EXPECT_THAT(json("/last"), ElementsAre("[ 1,2 ]"));
+  EXPECT_THAT(json("/nothing"), IsEmpty());
+  EXPECT_THAT(found(Language::json, "/a", "<html>"), IsEmpty());
+  EXPECT_NE(faultOf(Language::json, "a/b"), "");
+  EXPECT_NE(faultOf(Language::json, "/a~2"), "");
+}
+
+#else
+
+TEST(ALanguageWithoutItsLibrary, IsRefusedWithTheRemedy) { EXPECT_THAT(faultOf(Language::lines, "3"), IsEmpty()); }
+
+#endif
+
+}  // namespace
+}  // namespace tarnwick
