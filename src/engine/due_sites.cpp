@@ -111,9 +111,9 @@ std::vector<std::int64_t> DueSites::idsNeverChecked() {
 }
 
 std::unordered_set<std::int64_t> DueSites::idsThatTookTooLong() {
-  const SqlValue pattern("11:" + std::string(kTookTooLong) + "%");
-  const auto rows =
-      db_.conn().execute("select idSite from sites where status = 0 and content_runtime like ?1", {&pattern, 1});
+  // The pattern stands in the text: SQLite would prepare a statement anew for each that is bound.
+  const auto rows = db_.conn().execute(
+      joinSql("select idSite from sites where status = 0 and content_runtime like '11:", kTookTooLong, "%'"), {});
   std::unordered_set<std::int64_t> ids;
   for (; !rows->eof(); rows->moveNext()) {
     ids.insert(rows->field(std::size_t{0}).toInt64());

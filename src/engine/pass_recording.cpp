@@ -89,9 +89,9 @@ std::size_t PassRecording::recordTogether(std::span<const std::size_t> rows) {
       }
     }
     whole.commit();
+    needs_.keptPages.logSizeKept();
   } catch (const std::exception&) {
     // One of them; all are taken back, and each that can be recorded is, alone.
-    needs_.keptPages.forgetLogSize();
     return 0;
   }
   for (std::size_t i = 0; i < stored.size(); ++i) {
@@ -152,14 +152,10 @@ std::exception_ptr outOfMemoryFor(std::int16_t idSite) {
 // Whether the site has passed, once that is recorded; nothing for a page that was dropped. A full disk has no room for
 // a page, but often for the result; and where it has none for that, a site that is down is told all the same.
 std::optional<PassRecording::Stored> PassRecording::store(std::size_t row, const Fetched& fetched) {
-  const auto wantsRoom = [this](const DataAccessError& error) {
-    needs_.keptPages.forgetLogSize();
-    return error.forWantOfRoom();
-  };
   try {
     return storeResult(row, fetched, keptPage(), false);
   } catch (const DataAccessError& error) {
-    if (!wantsRoom(error)) {
+    if (!error.forWantOfRoom()) {
       throw;
     }
   }
@@ -167,7 +163,7 @@ std::optional<PassRecording::Stored> PassRecording::store(std::size_t row, const
   try {
     return storeResult(row, fetched, KeptPage::none, true);
   } catch (const DataAccessError& error) {
-    if (wantsRoom(error)) {
+    if (error.forWantOfRoom()) {
       alertUnrecorded(row, fetched);
     }
     throw;
@@ -195,7 +191,7 @@ void PassRecording::shortenLog() {
     try {
       needs_.reserve.runFreeing([&] { needs_.keptPages.keepLogWithinByPieces(*most); });
     } catch (const DataAccessError&) {
-      needs_.keptPages.forgetLogSize();
+      // Whether there is room now shows when the result is stored.
     }
   }
 }
@@ -225,6 +221,7 @@ std::optional<PassRecording::Stored> PassRecording::storeResult(std::size_t row,
                                                                 bool isTooFull) {
   const std::int16_t id = sites_.idSite(row);
   Transaction whole = writeTurn().take();
+  needs_.keptPages.forgetLogSize();
   if (const SelectedSites::Standing standing = sites_.standingOf(row);
       standing != SelectedSites::Standing::asSelected) {
     dropPage(row, standing);
@@ -247,6 +244,7 @@ std::optional<PassRecording::Stored> PassRecording::storeResult(std::size_t row,
         debts_.alarms.take(id, {passed, errCode != 0 ? errDescription : kPageDiffers, needs_.pool.siteTook(row)});
   }
   whole.commit();
+  needs_.keptPages.logSizeKept();
   return stored;
 }
 

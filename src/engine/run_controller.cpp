@@ -136,6 +136,10 @@ void RunController::runTestPass(std::int16_t mode) {
 void RunController::readOptions() { obey(needs_.options.optionsInForce()); }
 
 void RunController::obey(OptionsInForce options) {
+  if (obeyed_ && obeyed_->areThoseOf(options)) {
+    return;
+  }
+  obeyed_ = options;
   newSitesAtOnce_ = options.newSitesAtOnce();
   network_.obey(options);
   alarms_.setOptions(std::move(options));

@@ -162,6 +162,8 @@ class RunController {
   std::chrono::milliseconds runStart_{0};
   // The wall clock less the one that only goes forward.
   std::chrono::seconds clockOffset_{0};
+  // The options that all parts of the run go by.
+  std::optional<OptionsInForce> obeyed_;
   SitesToTest sites_;
   UncountedFailures uncounted_;
   SiteAlarms alarms_;

@@ -81,6 +81,14 @@ class SqlConnection {
     return nullptr;
   }
 
+  /// A number that is another one as soon as somebody else may have changed the database since it was asked for last,
+  /// and the same as long as nobody has. It may be asked for every second: while nothing happens that costs next to
+  /// nothing. That the file was exchanged for another one is then noticed within seconds.
+  virtual std::int64_t changesOfOthers() {
+    const auto rows = execute("pragma data_version", {});  // https://www.sqlite.org/pragma.html#pragma_data_version
+    return rows->eof() ? 0 : rows->field(std::size_t{0}).toInt64();
+  }
+
   /// Begin and end a transaction that takes the write lock at once. They do not nest.
   virtual void begin() = 0;
   /// Begins one at once, or not at all: false while another program has the write lock. A connection that knows only

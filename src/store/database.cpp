@@ -25,6 +25,7 @@ Database::Database(const std::string& programFolder, SqlConnectionMaker& databas
 }
 
 void Database::open() {
+  optionsChange();
   conn_->open(connString_);
   try {
     bringUpToDate(*conn_, dbPath_);

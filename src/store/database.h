@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -44,6 +45,11 @@ class Database {
   /// Ends what another connection of this program writes.
   void finishWriterAside();
 
+  /// Another number as soon as this program may have changed the options: by `optionsChange`, or with another file. Who
+  /// keeps them reads them again then, and after a change by others.
+  std::uint64_t optionsEdition() const { return optionsEdition_; }
+  void optionsChange() { ++optionsEdition_; }
+
   /// Vocabulary: no front end calls it.
   /// The statement most recently built; of a page in it only that it is there.
   const std::string& sqlText() const { return sqlText_; }
@@ -63,6 +69,7 @@ class Database {
  private:
   void open();
 
+  std::uint64_t optionsEdition_ = 1;
   std::function<void()> finishAside_;
   std::string sqlText_;
   std::string connString_;

@@ -2,9 +2,11 @@
 #include "store/kept_pages.h"
 
 #include <algorithm>
-#include <array>
+#include <string>
+#include <utility>
 #include <vector>
 
+#include "base/errors.h"
 #include "store/room_reserve.h"
 
 namespace tarnwick {
@@ -25,57 +27,82 @@ bool KeptPages::hasRoomForPages() {
 }
 
 void KeptPages::keepLogWithin(std::uint64_t most, std::uint64_t atOnce) {
-  count();
-  if (bytes_ > most && changes_.byOthers()) {
-    // Another program may have emptied some of them, or all.
-    known_ = false;
-    count();
+  inTransaction_.reset();
+  if (isFarBelow(most)) {
+    return;
   }
-  if (bytes_ > most) {
-    emptyOldest(std::min(bytes_ - most, atOnce));
+  LogSize size = committed_;
+  count(size);
+  if (size.bytes > most && changes_.byOthers()) {
+    // Another program may have emptied some of them, or all.
+    size = {};
+    count(size);
+  }
+  if (size.bytes > most) {
+    emptyOldest(size, std::min(size.bytes - most, atOnce));
+  }
+  inTransaction_ = size;
+}
+
+void KeptPages::logSizeKept() {
+  if (inTransaction_ && !db_.conn().inTransaction()) {
+    committed_ = *std::exchange(inTransaction_, std::nullopt);
+  }
+}
+
+// A log holds no more than its file does; and one of years takes long to be counted. What is being stored may not be in
+// the file yet.
+bool KeptPages::isFarBelow(std::uint64_t most) {
+  try {
+    const std::string log = db_.dbPath() + "-wal";
+    const std::uint64_t bytes = files_.sizeOf(db_.dbPath()) + (files_.exists(log) ? files_.sizeOf(log) : 0);
+    return bytes + kMostEmptiedAtOnce <= most;
+  } catch (const FileError&) {
+    return false;
   }
 }
 
 // Each piece takes the place of the one before in the log beside the database.
 void KeptPages::keepLogWithinByPieces(std::uint64_t most) {
-  known_ = false;
-  for (std::uint64_t emptied = 0; emptied < kMostEmptiedAtOnce && (!known_ || bytes_ > most); emptied += kPiece) {
+  for (std::uint64_t emptied = 0; emptied < kMostEmptiedAtOnce; emptied += kPiece) {
     Transaction piece(db_);
     keepLogWithin(most, kPiece);
     piece.commit();
+    logSizeKept();
     db_.conn().execute("pragma wal_checkpoint(passive)", {})->close();
+    if (committed_.bytes <= most) {
+      return;
+    }
   }
 }
 
-void KeptPages::count() {
+void KeptPages::count(LogSize& size) {
   const auto newest = db_.conn().execute("select coalesce(max(rowid), 0) from log", {});
   const std::int64_t last = newest->field(std::size_t{0}).toInt64();
   newest->close();
-  if (!known_ || last < last_) {
+  if (!size.known || last < size.last) {
     changes_.byOthers();
-    known_ = true;
-    emptied_ = last_ = 0;
-    bytes_ = 0;
+    size = {.known = true};
   }
-  const SqlValue from(last_);
+  const SqlValue from(size.last);
   const auto rows = db_.conn().execute(kContents, {&from, 1});
   for (; !rows->eof(); rows->moveNext()) {
-    bytes_ += static_cast<std::uint64_t>(rows->field(std::size_t{1}).toInt64());
+    size.bytes += static_cast<std::uint64_t>(rows->field(std::size_t{1}).toInt64());
   }
-  last_ = last;
+  size.last = last;
 }
 
-void KeptPages::emptyOldest(std::uint64_t wanted) {
+void KeptPages::emptyOldest(LogSize& size, std::uint64_t wanted) {
   std::vector<std::int64_t> oldest;
   std::uint64_t freed = 0;
-  const SqlValue from(emptied_);
+  const SqlValue from(size.emptied);
   const auto rows = db_.conn().execute(kContents, {&from, 1});
   for (; !rows->eof() && freed < wanted; rows->moveNext()) {
     const auto bytes = static_cast<std::uint64_t>(rows->field(std::size_t{1}).toInt64());
-    emptied_ = rows->field(std::size_t{0}).toInt64();
+    size.emptied = rows->field(std::size_t{0}).toInt64();
     if (bytes > 0) {
       freed += bytes;
-      oldest.push_back(emptied_);
+      oldest.push_back(size.emptied);
     }
   }
   rows->close();
@@ -83,7 +110,7 @@ void KeptPages::emptyOldest(std::uint64_t wanted) {
     const SqlValue id(row);
     db_.conn().execute("update log set content = '' where rowid = ?1", {&id, 1})->close();
   }
-  bytes_ -= std::min(freed, bytes_);
+  size.bytes -= std::min(freed, size.bytes);
 }
 
 }  // namespace tarnwick

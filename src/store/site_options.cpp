@@ -20,7 +20,8 @@ bool hasTable(Database& database) {
   return !found->eof();
 }
 
-void run(Database& database, std::string_view sql, Parameters parameters) {
+void change(Database& database, std::string_view sql, Parameters parameters) {
+  database.optionsChange();
   database.conn().execute(sql, parameters)->close();
 }
 
@@ -29,15 +30,15 @@ void store(Database& database, std::int16_t idSite, const std::string& name, con
     requireTodaysForm(database.conn(), database.dbPath());
   }
   const std::array<SqlValue, 3> row{SqlValue(std::int64_t{idSite}), SqlValue(name), SqlValue(value)};
-  run(database, "insert or replace into siteOptions (idSite, name, value) values (?1, ?2, ?3)", row);
+  change(database, "insert or replace into siteOptions (idSite, name, value) values (?1, ?2, ?3)", row);
 }
 
 }  // namespace
 
 std::optional<std::string> OptionsInForce::valueOf(std::int64_t idSite, std::string_view name) const {
   for (const std::int64_t id : {idSite, std::int64_t{kAllSites}}) {
-    const auto ofSite = values_.find(id);
-    if (ofSite == values_.end()) {
+    const auto ofSite = values_->find(id);
+    if (ofSite == values_->end()) {
       continue;
     }
     if (const auto value = ofSite->second.find(name); value != ofSite->second.end()) {
@@ -48,7 +49,7 @@ std::optional<std::string> OptionsInForce::valueOf(std::int64_t idSite, std::str
 }
 
 bool OptionsInForce::setsAnyOf(std::span<const std::string_view> names) const {
-  return std::ranges::any_of(values_, [&](const auto& ofSite) {
+  return std::ranges::any_of(*values_, [&](const auto& ofSite) {
     return std::ranges::any_of(names, [&](std::string_view name) { return ofSite.second.contains(name); });
   });
 }
@@ -124,6 +125,21 @@ OptionsInForce readOptions(Database& database, const std::vector<OptionField>& f
   return OptionsInForce(std::move(values));
 }
 
+// In a transaction nothing is kept: it may be taken back.
+OptionsInForce SiteOptions::optionsInForce() {
+  if (db_.conn().inTransaction()) {
+    return readOptions(db_, fields_);
+  }
+  const bool byOthers = changes_.byOthers();
+  if (byOthers || !inForce_ || edition_ != db_.optionsEdition()) {
+    inForce_.reset();
+    const std::uint64_t edition = db_.optionsEdition();
+    inForce_ = readOptions(db_, fields_);
+    edition_ = edition;
+  }
+  return *inForce_;
+}
+
 void SiteOptions::setOption(std::int16_t idSite, std::string_view name, std::string_view value) {
   const OptionField& field = optionField(name);
   if (idSite != kAllSites && !field.ofSite) {
@@ -135,7 +151,7 @@ void SiteOptions::setOption(std::int16_t idSite, std::string_view name, std::str
 void SiteOptions::removeOption(std::int16_t idSite, std::string_view name) {
   const std::array<SqlValue, 2> key{SqlValue(std::int64_t{idSite}), SqlValue(optionField(name).name)};
   if (hasTable(db_)) {
-    run(db_, "delete from siteOptions where idSite = ?1 and name = ?2", key);
+    change(db_, "delete from siteOptions where idSite = ?1 and name = ?2", key);
   }
 }
 
@@ -156,7 +172,7 @@ void removeOptionsOf(Database& database, std::int64_t idSite) {
   // No site has those for all, also not one that another tool has given this id.
   if (idSite != kAllSites && hasTable(database)) {
     const std::array<SqlValue, 1> id{SqlValue(idSite)};
-    run(database, "delete from siteOptions where idSite = ?1", id);
+    change(database, "delete from siteOptions where idSite = ?1", id);
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -10,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "store/data_changes.h"
 #include "store/database.h"
 #include "store/option_table.h"
 
@@ -24,22 +26,26 @@ using OptionValues = std::map<std::string, std::string, std::less<>>;
 /// The options that are set, read at once: what a pass decides by.
 class OptionsInForce {
  public:
-  explicit OptionsInForce(std::map<std::int64_t, OptionValues> values = {}) : values_(std::move(values)) {}
+  explicit OptionsInForce(std::map<std::int64_t, OptionValues> values = {})
+      : values_(std::make_shared<const std::map<std::int64_t, OptionValues>>(std::move(values))) {}
 
   /// The site's own value, else the one for all, else nothing: the original behaviour. `kAllSites` asks for the one
   /// for all.
   std::optional<std::string> valueOf(std::int64_t idSite, std::string_view name) const;
 
   /// Whether anything is set for this site alone.
-  bool hasOwn(std::int64_t idSite) const { return values_.contains(idSite); }
+  bool hasOwn(std::int64_t idSite) const { return values_->contains(idSite); }
   /// Whether one of these is set for any site, or for all.
   bool setsAnyOf(std::span<const std::string_view> names) const;
 
   /// Whether a site that was never checked is taken on with those that are due.
   bool newSitesAtOnce() const { return valueOf(kAllSites, option_name::newSites) == option_value::atOnce; }
 
+  /// Whether both come of one reading.
+  bool areThoseOf(const OptionsInForce& other) const { return values_ == other.values_; }
+
  private:
-  std::map<std::int64_t, OptionValues> values_;
+  std::shared_ptr<const std::map<std::int64_t, OptionValues>> values_;
 };
 
 /// A row of the table as far as the options take it: the value as they write it. Nothing for what another tool may have
@@ -66,8 +72,9 @@ class SiteOptions {
   OptionValues options(std::int16_t idSite);
   /// Which sites have a value of their own of that option; without those whose ids are outside 16 bits.
   std::map<std::int16_t, std::string> ownValues(std::string_view name);
-  /// What is set for each site and for all.
-  OptionsInForce optionsInForce() { return readOptions(db_, fields_); }
+  /// What is set for each site and for all: read again only after something has changed, since it is asked at each
+  /// check.
+  OptionsInForce optionsInForce();
 
   /// Sets an option of a site, or of all. Raises std::runtime_error for a value that it does not take, and for an
   /// option of a site that there is for all sites only.
@@ -81,6 +88,10 @@ class SiteOptions {
  private:
   Database& db_;
   const std::vector<OptionField>& fields_;
+  DataChanges changes_{db_};
+  // What was read last, and at which edition of the options.
+  std::optional<OptionsInForce> inForce_;
+  std::uint64_t edition_ = 0;
 };
 
 /// Removes a site's options with it. REQUIRES: a transaction.

@@ -105,9 +105,14 @@ int syncFile(int (*sync)(int), int descriptor) {
   return sync(descriptor);
 }
 
+bool isAboutLocks(int command) {
+  return command == F_SETLK || command == F_SETLKW || command == F_GETLK || command == F_OFD_SETLK ||
+         command == F_OFD_SETLKW || command == F_OFD_GETLK;
+}
+
 // Whose connection has which lock SQLite knows by itself within one process, and all simulated ones are in this one.
 int lockFile(int command, void* argument) {
-  if (command == F_GETLK) {
+  if (command == F_GETLK || command == F_OFD_GETLK) {
     static_cast<struct flock*>(argument)->l_type = F_UNLCK;
   }
   return 0;
@@ -318,10 +323,19 @@ int fcntl64(int descriptor, int command, ...) {
   va_start(more, command);
   void* const argument = va_arg(more, void*);
   va_end(more);
-  if (diskOf(descriptor) != nullptr && (command == F_SETLK || command == F_SETLKW || command == F_GETLK)) {
-    return lockFile(command, argument);
-  }
-  return next(descriptor, command, argument);
+  return isAboutLocks(command) && diskOf(descriptor) != nullptr ? lockFile(command, argument)
+                                                                : next(descriptor, command, argument);
+}
+
+// SQLite calls the one above, and the program the one that its own headers name.
+int fcntl(int descriptor, int command, ...) {
+  TARNWICK_REAL(fcntl);
+  va_list more;
+  va_start(more, command);
+  void* const argument = va_arg(more, void*);
+  va_end(more);
+  return isAboutLocks(command) && diskOf(descriptor) != nullptr ? lockFile(command, argument)
+                                                                : next(descriptor, command, argument);
 }
 
 int clock_gettime(clockid_t which, timespec* time) noexcept {

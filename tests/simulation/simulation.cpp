@@ -104,6 +104,7 @@ void Simulation::clearCounters() {
 void Simulation::lookNow() {
   Time next = 1h;
   if (process_ && process_->program().isOpen() && !world_.isDead() && !isOver()) {
+    const Look look(world_);
     ledger_.compare();
     ledger_.watchLiveness();
     if (process_->program().run().busy()) {

@@ -164,13 +164,14 @@ void User::actAs(Process& process, Chance chance) {
   }
 }
 
-void User::verb(const std::vector<std::string>& arguments) {
+bool User::verb(const std::vector<std::string>& arguments) {
   ++verbsAtWork_;
-  runVerb(world_, arguments);
+  const bool done = runVerb(world_, arguments) == 0;
   --verbsAtWork_;
   if (onVerb) {
     onVerb();
   }
+  return done;
 }
 
 void User::runSomeVerb(Chance chance) {
@@ -226,7 +227,7 @@ void User::runSomeVerb(Chance chance) {
   }
 }
 
-// None of them changes what the list says.
+// None of them changes what the list says. What could not be written is not read: there may be an older one.
 void User::runVerbOffline(Chance chance) {
   ledger_.disturb();
   if (world_.isDead()) {
@@ -262,12 +263,14 @@ void User::runUpkeep(Chance chance) {
       verb({"compact"});
       break;
     case exportAndImport:
-      verb({"export", world_.disk.folder() + "/export.json", "--baselines"});
-      verb({"import", world_.disk.folder() + "/export.json"});
+      if (verb({"export", world_.disk.folder() + "/export.json", "--baselines"})) {
+        verb({"import", world_.disk.folder() + "/export.json"});
+      }
       break;
     default:
-      verb({"compact"});
-      verb({"restore", world_.disk.folder() + "/backup.mdb"});
+      if (verb({"compact"})) {
+        verb({"restore", world_.disk.folder() + "/backup.mdb"});
+      }
       break;
   }
 }

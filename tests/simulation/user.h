@@ -50,7 +50,7 @@ class User {
   /// As the window does when an editor was closed.
   void showAfresh(Program& program);
   void perform(const std::string& what, const std::function<void()>& action);
-  void verb(const std::vector<std::string>& arguments);
+  bool verb(const std::vector<std::string>& arguments);
   /// One of the sites in the list; 0 when there is none.
   std::int16_t someSite(Chance& chance) const;
 

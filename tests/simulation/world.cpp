@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "simulation/world.h"
 
-#include <sqlite3.h>
-
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -16,11 +14,11 @@ namespace {
 
 constexpr Time kLamps = std::chrono::seconds(20);
 
-std::unique_ptr<sqlite3, decltype(&sqlite3_close)> openList(const World& world, int flags) {
+ListHandle openList(const World& world, int flags) {
   sqlite3* raw = nullptr;
   const std::string path = world.disk.folder() + "/tarnwick.mdb";
   const int result = sqlite3_open_v2(path.c_str(), &raw, flags, nullptr);
-  std::unique_ptr<sqlite3, decltype(&sqlite3_close)> database(raw, &sqlite3_close);
+  ListHandle database(raw);
   if (result != SQLITE_OK) {
     throw std::runtime_error(std::string("the list cannot be opened: ") + sqlite3_errstr(result));
   }
@@ -94,9 +92,13 @@ void layFolder(World& world, bool original) {
 std::vector<std::string> askDatabase(World& world, const std::string& sql) {
   const SimulatedDisk::Well well(world.disk);
   const SimulatedMemory::OfWorld ours;
-  const auto database = openList(world, SQLITE_OPEN_READWRITE);
+  const ListHandle ownList = world.look == nullptr ? openList(world, SQLITE_OPEN_READWRITE) : nullptr;
+  if (world.look != nullptr && world.look->list_ == nullptr) {
+    world.look->list_ = openList(world, SQLITE_OPEN_READWRITE);
+  }
+  sqlite3* const database = ownList ? ownList.get() : world.look->list_.get();
   sqlite3_stmt* raw = nullptr;
-  const int prepared = sqlite3_prepare_v2(database.get(), sql.c_str(), -1, &raw, nullptr);
+  const int prepared = sqlite3_prepare_v2(database, sql.c_str(), -1, &raw, nullptr);
   const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)> statement(raw, &sqlite3_finalize);
   std::vector<std::string> rows;
   int result = prepared == SQLITE_OK ? sqlite3_step(raw) : prepared;
@@ -111,9 +113,16 @@ std::vector<std::string> askDatabase(World& world, const std::string& sql) {
     }
   }
   if (result != SQLITE_DONE) {
-    throw std::runtime_error(sql + ": " + sqlite3_errmsg(database.get()));
+    throw std::runtime_error(sql + ": " + sqlite3_errmsg(database));
   }
   return rows;
+}
+
+Look::~Look() {
+  const SimulatedDisk::Well well(world_.disk);
+  const SimulatedMemory::OfWorld ours;
+  list_.reset();
+  world_.look = nullptr;
 }
 
 std::uint64_t lastLogRow(World& world) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <sqlite3.h>
+
 #include <cstdint>
 #include <ostream>
 #include <string>
@@ -20,6 +22,13 @@
 #include "simulation/system_time.h"
 
 namespace tarnwick::simulation {
+
+class Look;
+
+struct ListCloser {
+  void operator()(sqlite3* list) const { sqlite3_close(list); }
+};
+using ListHandle = std::unique_ptr<sqlite3, ListCloser>;
 
 /// Which parts of the world draw their numbers apart from each other.
 enum class Part : std::uint64_t { web = 1, mail, disk, user, neighbour, moods, clock, power, sqlite };
@@ -69,6 +78,8 @@ struct World {
   SqliteConnections databases{clock};
   /// Of the living processes.
   std::vector<SimulatedPump*> pumps;
+  /// The one that is taken at the list just now, if any.
+  Look* look = nullptr;
 
  private:
   void endAll(const char* how);
@@ -97,6 +108,21 @@ void layFolder(World& world, bool original);
 
 /// Runs one statement of SQLite's own SQL as another program would, and returns its rows, their fields joined with "|".
 std::vector<std::string> askDatabase(World& world, const std::string& sql);
+
+/// For its life `askDatabase` asks through one connection, opened by the first question: a look at the list has
+/// several. No program runs meanwhile, and one at a time.
+class Look {
+ public:
+  explicit Look(World& world) : world_(world) { world.look = this; }
+  ~Look();
+  Look(const Look&) = delete;
+  Look& operator=(const Look&) = delete;
+
+ private:
+  friend std::vector<std::string> askDatabase(World& world, const std::string& sql);
+  World& world_;
+  ListHandle list_;
+};
 
 /// The number of the last row of the log. A compaction may number them anew, and so does a log that was cleared.
 std::uint64_t lastLogRow(World& world);

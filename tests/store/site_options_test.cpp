@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "base/errors.h"
@@ -143,6 +144,32 @@ TEST_F(SiteOptionsTest, WhatAnotherToolHasLeftAndNoOptionTakesCountsAsNotSet) {
   EXPECT_EQ(inForce.valueOf(3, "loud"), std::nullopt);
   EXPECT_EQ(inForce.valueOf(3, "limit"), std::nullopt) << "It is for all only.";
   EXPECT_EQ(inForce.valueOf(4, "ofTomorrow"), std::nullopt);
+}
+
+TEST_F(SiteOptionsTest, WhatIsInForceIsReadAgainOnlyAfterAChange) {
+  options.setOption(3, "loud", "on");
+  EXPECT_EQ(options.optionsInForce().valueOf(3, "loud"), "on");
+  const std::size_t before = watch().boundStatements.size();
+  EXPECT_EQ(options.optionsInForce().valueOf(3, "loud"), "on");
+  const auto since = watch().boundStatements.begin() + static_cast<std::ptrdiff_t>(before);
+  EXPECT_TRUE(std::none_of(since, watch().boundStatements.end(),
+                           [](const std::string& sql) { return sql.find("siteOptions") != std::string::npos; }));
+  SiteOptions(database, someOptions()).setOption(3, "loud", "off");
+  EXPECT_EQ(options.optionsInForce().valueOf(3, "loud"), "off") << "by another part of the program";
+  folder.execute("update siteOptions set value = 'on'");
+  EXPECT_EQ(options.optionsInForce().valueOf(3, "loud"), "on") << "by another program";
+  SiteRecords(database).deleteSite(3);
+  EXPECT_EQ(options.optionsInForce().valueOf(3, "loud"), std::nullopt);
+}
+
+TEST_F(SiteOptionsTest, WhatATransactionHasChangedIsInForceOnlyIfItIsKept) {
+  options.setOption(3, "loud", "on");
+  {
+    const Transaction takenBack(database);
+    options.setOption(3, "loud", "off");
+    EXPECT_EQ(options.optionsInForce().valueOf(3, "loud"), "off");
+  }
+  EXPECT_EQ(options.optionsInForce().valueOf(3, "loud"), "on");
 }
 
 TEST_F(SiteOptionsTest, AListWithoutTheTableReadsAsEmptyAndDeletesItsSites) {

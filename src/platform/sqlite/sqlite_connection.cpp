@@ -47,8 +47,8 @@ std::size_t findLastIgnoringCase(std::string_view text, std::string_view wanted)
   return kNotFound;
 }
 
-/// Whether others have changed the database: during a run that is asked at every tick.
-bool isAskedEverySecond(std::string_view sql) { return sql == "pragma data_version"; }
+/// What reads rows is asked again and again.
+bool isAskedAgain(std::string_view sql) { return sql.starts_with("select "); }
 
 }  // namespace
 
@@ -102,9 +102,19 @@ class SqliteConnection final : public SqlConnection {
 
   std::unique_ptr<Recordset> execute(std::string_view sql, std::span<const SqlValue> parameters) override {
     return told(sql, [&](SqliteDatabase& database) {
-      const bool reusable = !parameters.empty() || isAskedEverySecond(sql);
+      const bool reusable = !parameters.empty() || isAskedAgain(sql);
       return records(database, {std::string(sql), {parameters.begin(), parameters.end()}, reusable}, sql);
     });
+  }
+
+  std::int64_t changesOfOthers() override {
+    if (!database_ || !database_->isKnownUnchanged()) {
+      told("pragma data_version", [](SqliteDatabase& database) {
+        database.countChangesOfOthers();
+        return std::make_unique<NoRows>();
+      });
+    }
+    return openings_ << 32 | database_->changesOfOthers();
   }
 
   void begin() override {
@@ -266,6 +276,7 @@ class SqliteConnection final : public SqlConnection {
   }
 
   void openFile() {
+    ++openings_;
     database_ = std::make_unique<SqliteDatabase>(path_);
     setPatience(patience_);
   }
@@ -320,6 +331,7 @@ class SqliteConnection final : public SqlConnection {
   std::chrono::milliseconds patience_;
   std::string path_;
   std::unique_ptr<SqliteDatabase> database_;
+  std::int64_t openings_ = 0;
   SqliteStoredText* ahead_ = nullptr;
 };
 

@@ -18,9 +18,11 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::size_t kStatementsKept = 64;
+constexpr std::size_t kStatementsKept = 96;
 /// How long the database is kept from others where it must be had alone, before it is looked whether it still must.
 constexpr std::chrono::seconds kAloneAtMost{5};
+/// How long the files themselves are not looked at while the log says that nothing has happened.
+constexpr std::chrono::seconds kQuietAtMost{5};
 constexpr const char* kAlone = "pragma main.locking_mode = exclusive";
 /// 2 MiB.
 constexpr const char* kCache = "pragma cache_size = -2048";
@@ -331,6 +333,21 @@ Pages SqliteDatabase::pages() const noexcept {
   const int found = sqlite3_table_column_metadata(handle(), "main", "siteRows", "comparePage", nullptr, nullptr,
                                                   nullptr, nullptr, nullptr);
   return found == SQLITE_OK ? Pages::apart : Pages::inSites;
+}
+
+bool SqliteDatabase::isKnownUnchanged() const noexcept {
+  return logEnd_ && !outdated_ && std::chrono::steady_clock::now() < nextCount_ && endOfOpenLog(handle()) == logEnd_;
+}
+
+// Where the log stands is read first: what others change meanwhile is then found at the next look.
+void SqliteDatabase::countChangesOfOthers() {
+  logEnd_.reset();
+  const auto end = watch_ ? endOfOpenLog(handle()) : std::nullopt;
+  const PlainStatement question{"pragma data_version", {}, true};
+  const StatementLoan loan = prepare(question);
+  changesOfOthers_ = step(loan.get()) ? sqlite3_column_int64(loan.get(), 0) : 0;
+  logEnd_ = end;
+  nextCount_ = std::chrono::steady_clock::now() + kQuietAtMost;
 }
 
 bool SqliteDatabase::step(sqlite3_stmt* prepared) {

@@ -103,6 +103,14 @@ class SqliteDatabase {
   /// Where the pages of the sites lie.
   Pages pages() const noexcept;
 
+  /// Whether nobody has changed the database since `countChangesOfOthers`, as far as is seen without asking it or the
+  /// system for anything. The files are to be looked at now and then, too: then this is false.
+  bool isKnownUnchanged() const noexcept;
+  /// Asks how often others have changed the database.
+  void countChangesOfOthers();
+  /// What came of that.
+  std::int64_t changesOfOthers() const { return changesOfOthers_; }
+
   /// What became of the files since they were opened. May be noticed only some time later, for it is asked before
   /// every statement.
   SqliteFileWatch::Finding lookAtFiles() { return watch_ ? watch_->lookNowAndThen() : SqliteFileWatch::Finding::same; }
@@ -138,6 +146,11 @@ class SqliteDatabase {
   std::unordered_map<std::string_view, Kept::iterator> keptByText_;
   std::vector<SqliteRecordset*> open_;
   int pagesInLog_ = 0;
+  // Where the log stood when others' changes were counted last, how many there were, and until when that is taken for
+  // granted.
+  std::optional<LogEnd> logEnd_;
+  std::int64_t changesOfOthers_ = 0;
+  std::chrono::steady_clock::time_point nextCount_{};
   bool outdated_ = false;
   // Opened as a file that nobody changes.
   bool unchanged_ = false;

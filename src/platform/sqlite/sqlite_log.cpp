@@ -156,6 +156,18 @@ bool hasForeignLog(sqlite3* database, const std::string& log) {
   return false;
 }
 
+/// The memory that all who have the database open share; null where there is none.
+/// https://www.sqlite.org/walformat.html#the_wal_index_file_format
+const volatile unsigned char* sharedMemoryOf(sqlite3* database) {
+  constexpr int kFirstRegion = 32768;
+  sqlite3_file* file = nullptr;
+  volatile void* region = nullptr;
+  const bool isThere = sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK &&
+                       file->pMethods != nullptr && file->pMethods->iVersion >= 2 &&
+                       file->pMethods->xShmMap(file, 0, kFirstRegion, 0, &region) == SQLITE_OK;
+  return isThere ? static_cast<const volatile unsigned char*>(region) : nullptr;
+}
+
 /// Lets one program at a time set a log aside: while a second one still waits, the first one has begun a new log.
 class LogKeeper {
  public:
@@ -248,20 +260,24 @@ std::optional<LogFacts::Salts> saltsOfOpenLog(sqlite3* database) {
   return salts;
 }
 
-// https://www.sqlite.org/walformat.html#the_wal_index_file_format
+std::optional<LogEnd> endOfOpenLog(sqlite3* database) {
+  const volatile unsigned char* const bytes = sharedMemoryOf(database);
+  if (bytes == nullptr) {
+    return std::nullopt;
+  }
+  LogEnd end;
+  std::copy_n(bytes, end.size(), end.begin());
+  return end;
+}
+
 std::optional<LogProgress> progressOfOpenLog(sqlite3* database) {
-  constexpr int kFirstRegion = 32768;
   constexpr std::size_t kSalts = 32;
   constexpr std::size_t kDone = 96;
   constexpr std::size_t kBegun = 128;
-  sqlite3_file* file = nullptr;
-  volatile void* region = nullptr;
-  if (sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK ||
-      file->pMethods == nullptr || file->pMethods->iVersion < 2 ||
-      file->pMethods->xShmMap(file, 0, kFirstRegion, 0, &region) != SQLITE_OK || region == nullptr) {
+  const volatile unsigned char* const bytes = sharedMemoryOf(database);
+  if (bytes == nullptr) {
     return std::nullopt;
   }
-  const auto* bytes = static_cast<const volatile unsigned char*>(region);
   LogProgress progress;
   std::copy_n(bytes + kSalts, kSaltsSize, progress.salts.begin());
   progress.done = *reinterpret_cast<const volatile std::uint32_t*>(bytes + kDone);

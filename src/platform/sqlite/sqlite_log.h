@@ -69,6 +69,14 @@ struct LogProgress {
   bool operator==(const LogProgress&) const = default;
 };
 
+/// Where a log ends and what it sums up to, as those who have it open tell each other: each change that is committed
+/// makes it another one.
+using LogEnd = std::array<unsigned char, 48>;
+
+/// Of the log that `database`, which uses one, has open: a look into the memory that they share. Nothing where there is
+/// none.
+std::optional<LogEnd> endOfOpenLog(sqlite3* database);
+
 /// Of the log that `database`, which uses one, has open. Nothing where it cannot be told.
 std::optional<LogProgress> progressOfOpenLog(sqlite3* database);
 

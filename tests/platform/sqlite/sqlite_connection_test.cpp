@@ -145,6 +145,32 @@ TEST_F(SqliteConnectionTest, OthersSeeWhatIsCommittedAtOnce) {
   EXPECT_EQ(database.rows("select url from sites"), "other;");
 }
 
+TEST_F(SqliteConnectionTest, TellsWhetherOthersHaveChangedTheDatabase) {
+  const OpenDatabase database;
+  database.run("insert into sites (idSite,url) values (1,'u')");
+  const std::int64_t before = database.conn->changesOfOthers();
+  database.run("update sites set url = 'own'");
+  EXPECT_EQ(database.conn->changesOfOthers(), before) << "An own change is none of others.";
+  EXPECT_EQ(database.conn->changesOfOthers(), before);
+  database.folder.execute("update sites set url = 'other'");
+  const std::int64_t after = database.conn->changesOfOthers();
+  EXPECT_NE(after, before);
+  EXPECT_EQ(database.conn->changesOfOthers(), after);
+  database.conn->begin();
+  EXPECT_EQ(database.conn->changesOfOthers(), after);
+  database.conn->rollback();
+  database.folder.execute("pragma wal_checkpoint(truncate); update sites set url = 'again'");
+  EXPECT_NE(database.conn->changesOfOthers(), after) << "The log was begun anew meanwhile.";
+}
+
+TEST_F(SqliteConnectionTest, TakesAFileThatIsOpenedAgainForOneThatOthersHaveChanged) {
+  const OpenDatabase database;
+  const std::int64_t before = database.conn->changesOfOthers();
+  database.conn->close();
+  database.conn->open(database.connString());
+  EXPECT_NE(database.conn->changesOfOthers(), before);
+}
+
 TEST_F(SqliteConnectionTest, AFreshDatabaseHasEveryTableButTheWorkTable) {
   EXPECT_EQ(folder_.queryRows("select name from sqlite_master where type = 'table' order by name collate nocase"),
             "control\nlog\nmethods\npagePieces\npostVars\nrules\nsiteOptions\nsiteRows\nsiteState\ntest\n");
