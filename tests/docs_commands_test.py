@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
-"""Runs the command blocks of the documentation, one after the other as a reader would, and compares what they print.
+"""Runs the command blocks of README, guide and terminal tool, one after the other as a reader would, and compares.
 
     docs_commands_test.py FOLDER ASSETS TOOL             the sources, and the built terminal tool; status 1 with the differences
     docs_commands_test.py FOLDER ASSETS TOOL --update    writes what they print into the documentation instead
 
-A command is a line that begins with "$ " in a block. The sites are those of the demo. Ports, the folder, times, sizes of
-the database file and the order in which a pass answers are not compared; nor are commands that need the Internet. Of `run`
-the lines of its first pass are compared.
+In a block, what stands behind "$ " is a command, and the lines below it what it prints. A block without any is commands
+alone, which must succeed, or a line of a crontab, which is run as cron would. Every block is run, but for those that
+NOT_RUN names with the reason. The sites are those of the demo. Ports, the folder, times, sizes of the database file and
+the order in which a pass answers are not compared. Of `run` the lines of its first pass are compared.
 Exit status 77: the machine lacks something for it.
 """
 
@@ -19,24 +20,41 @@ import signal
 import subprocess
 import sys
 import tempfile
+import threading
+import time
 from pathlib import Path
 
 ROOT, ASSETS, TOOL = (Path(argument).resolve() for argument in sys.argv[1:4])
 UPDATE = "--update" in sys.argv
 SKIPPED = 77
 SITE, REFUSED, HOME = "localhost:8080", "localhost:8081", "/home/me"
-# Each in a world of its own, in which something has been done before.
-DOCUMENTS = {"docs/tarnwickctl.md": "", "README.md": "", "docs/guide/baselines.md": "tarnwickctl check",
-             "docs/guide/import.md": ""}
-# The page is one of the Internet, or the folder one of root's.
-ELSEWHERE = re.compile(r"https://(www\.|intranet\.)?example\.org/(news|status)")
-PASS_ENDS = re.compile(r'Checked \d+ sites|"event":"pass"')
+# Each document in a world of its own, in some of which something has been done before; in these there is nothing yet.
+DOCUMENTS = ("README.md", "docs/tarnwickctl.md", "docs/guide/*.md")
+BEFORE = {"docs/guide/baselines.md": "tarnwickctl check"}
+FRESH = ("docs/guide/first-start.md", "docs/guide/login.md")
+ON_THE_INTERNET = "https://www.example.org/news"
+# A block by its first line, and why it is not run here.
+BUILDS = "builds and tests everything, this test among it"
+AS_A_SERVICE = "needs the administrator: tests/package/bare_test.py runs it in a bare system"
+NOT_RUN = {
+    ("README.md", "scripts/run.sh"): BUILDS,
+    ("README.md", "cmake --preset release"): BUILDS,
+    ("README.md", "cmake --install build/release"): "tests/package/package_test.py installs by it",
+    ("README.md", "/home/me/bin/page-is-down"): "the value of a setting",
+    ("README.md", "Subject:"): "a mail",
+    ("docs/tarnwickctl.md", "sudo systemctl enable --now tarnwick"): AS_A_SERVICE,
+    ("docs/tarnwickctl.md", "sudo useradd"): AS_A_SERVICE,
+    ("docs/tarnwickctl.md", "sudo -u tarnwick tarnwickctl"): AS_A_SERVICE,
+}
+CRON = re.compile(r"((\*|[\d,-]+)(/\d+)? +){5}(?P<command>\S.*)\n")
+BLOCK = re.compile(r"(^```\w*\n)(.*?)(^```$)", re.MULTILINE | re.DOTALL)
+PASS_ENDS = re.compile(r'Checked \d+ sites?:|"event":"pass"')
 
 
 class World:
     """The program folder, the pages of the demo, and a shell between them."""
 
-    def __init__(self, home: Path):
+    def __init__(self, home: Path, fresh: bool):
         self.home = home
         self.folder = home / "tarnwick"
         shutil.copytree(ASSETS, self.folder / "fresh")
@@ -44,14 +62,32 @@ class World:
         self.server = subprocess.Popen([sys.executable, ROOT / "scripts/lib/demo_server.py"], stdin=subprocess.PIPE,
                                        stdout=subprocess.PIPE, text=True)
         site, refused = self.server.stdout.readline().replace("127.0.0.1", "localhost").split()
-        self.names = ((SITE, site.removeprefix("http://")), (REFUSED, refused.removeprefix("http://")),
+        self.names = ((ON_THE_INTERNET, site + "/news"), (SITE, site.removeprefix("http://")),
+                      (REFUSED, refused.removeprefix("http://")),
                       ("localhost port 8081", "localhost port " + refused.rsplit(":", 1)[1]),
-                      (HOME + "/tarnwick", str(self.folder)), ("/srv/", str(home) + "/srv/"))
-        (home / "srv").mkdir()
-        kept = {name: value for name, value in os.environ.items() if not name.startswith(("LC_", "LANG"))}
+                      ("/srv/", str(home) + "/srv/"), (HOME, str(home)))
+        for name in ("srv", "backup", "reports"):
+            (home / name).mkdir()
+        kept = {name: value for name, value in os.environ.items() if not name.startswith(("LC_", "LANG", "XDG_"))}
         self.env = {**kept, "HOME": str(home), "LC_ALL": "C.UTF-8", "no_proxy": "*", "NO_PROXY": "*",
-                    "PATH": f"{self.folder}:{os.environ['PATH']}"}
-        self.lay_out()
+                    "PATH": f"{self.folder}:{self.desktop()}:{os.environ['PATH']}"}
+        self.place = self.folder
+        if fresh:
+            # As from the packages: the list lies in the home.
+            (self.folder / "shared-installation.txt").touch()
+            self.place = home
+        else:
+            self.names = ((SITE, site.removeprefix("http://")), *self.names[2:])
+            self.lay_out()
+
+    def desktop(self) -> Path:
+        """A folder with what a desktop's own tools would be; they write down what they are told."""
+        tools = self.home / "desktop"
+        tools.mkdir()
+        notify = tools / "notify-send"
+        notify.write_text(f"#!/bin/sh\necho \"$1\" >>'{self.home}/notified.txt'\n")
+        notify.chmod(0o755)
+        return tools
 
     def lay_out(self) -> None:
         for arguments in ("/steady", "/news", "/slow", "/login --method post --post user=monitor --post 'action=sign in'",
@@ -73,21 +109,50 @@ class World:
         return text.replace("\r\n", "\n")
 
     def shell(self, command: str) -> str:
-        ran = subprocess.run(["bash", "-c", self.real(command)], cwd=self.folder, env=self.env, stdin=subprocess.DEVNULL,
+        ran = subprocess.run(["bash", "-c", self.real(command)], cwd=self.place, env=self.env, stdin=subprocess.DEVNULL,
                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=60)
         return self.told(ran.stdout.decode("utf-8", "replace"))
 
     def run(self, command: str) -> str:
         """What a run prints until its first pass has ended."""
-        process = subprocess.Popen(command.split(), cwd=self.folder, env=self.env, stdin=subprocess.DEVNULL,
+        process = subprocess.Popen(command.split(), cwd=self.place, env=self.env, stdin=subprocess.DEVNULL,
                                    stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        late = threading.Timer(60, process.kill)
+        late.start()
         lines = []
         for line in process.stdout:
             lines.append(line)
             if PASS_ENDS.search(line):
                 process.send_signal(signal.SIGINT)
         process.wait(timeout=30)
+        late.cancel()
         return self.told("".join(lines))
+
+    def succeeds(self, script: str) -> str:
+        """Runs a block of commands that prints nothing worth showing; what is wrong with it."""
+        ran = subprocess.run(["bash", "-eo", "pipefail", "-c", self.real(script)], cwd=self.place, env=self.env,
+                             stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=60)
+        return f"it ends with {ran.returncode}: {self.told(ran.stdout.decode())}" if ran.returncode else ""
+
+    def succeeds_in_cron(self, command: str) -> str:
+        """Runs a line of a crontab as cron does: by sh, in the home, with a path that is none of the user's."""
+        ran = subprocess.run(["sh", "-c", self.real(command.replace("\\%", "%"))], cwd=self.home, stdin=subprocess.DEVNULL,
+                             env={"HOME": str(self.home), "PATH": "/usr/bin:/bin", "no_proxy": "*"},
+                             stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=60)
+        return f"it ends with {ran.returncode}: {self.told(ran.stderr.decode())}" if ran.returncode or ran.stderr else ""
+
+    def tells(self, script: str) -> str:
+        """Runs a block that goes on until it is ended, as far as its first message on the desktop."""
+        notified = self.home / "notified.txt"
+        process = subprocess.Popen(["bash", "-c", self.real(script)], cwd=self.place, env=self.env, stdin=subprocess.DEVNULL,
+                                   stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, start_new_session=True)
+        until = time.monotonic() + 30
+        while process.poll() is None and not notified.exists() and time.monotonic() < until:
+            time.sleep(0.05)
+        if process.poll() is None:
+            os.killpg(process.pid, signal.SIGINT)
+        said = process.communicate(timeout=30)[0]
+        return "" if notified.exists() else f"it tells nothing: {said}"
 
     def happens_before(self, command: str) -> None:
         """What the text around a command tells of."""
@@ -99,6 +164,8 @@ class World:
             sites.write_text("\n".join(edited) + "\n")
         elif command.startswith("tarnwickctl import bookmarks.html"):
             (self.folder / "bookmarks.html").write_text(BOOKMARKS)
+        elif "--password-file secret.txt" in command and not (self.place / "secret.txt").exists():
+            (self.place / "secret.txt").write_text("secret\n")
 
     def end(self) -> None:
         self.server.stdin.close()
@@ -138,6 +205,19 @@ def commands_of(block: str):
         yield command, output
 
 
+def reason_not_to_run(name: str, block: str) -> str | None:
+    return next((reason for (document, beginning), reason in NOT_RUN.items()
+                 if document == name and block.startswith(beginning)), None)
+
+
+def problem_of(world: World, block: str) -> str:
+    """What is wrong with a block of commands alone; nothing when it is well."""
+    world.happens_before(block)
+    if cron := CRON.fullmatch(block):
+        return world.succeeds_in_cron(cron.group("command"))
+    return world.tells(block) if block.startswith("tarnwickctl run") else world.succeeds(block)
+
+
 def follow(world: World, name: str) -> list[str]:
     path = ROOT / name
     text = path.read_text(encoding="utf-8")
@@ -145,7 +225,11 @@ def follow(world: World, name: str) -> list[str]:
 
     def lived(found: re.Match[str]) -> str:
         block = found.group(2)
-        if not block.startswith("$ ") or ELSEWHERE.search(block):
+        if reason_not_to_run(name, block):
+            return found.group(0)
+        if not block.startswith("$ "):
+            if problem := problem_of(world, block):
+                differences.append(f"{name}:\n{block}  {problem}")
             return found.group(0)
         new = []
         for command, output in commands_of(block):
@@ -157,22 +241,32 @@ def follow(world: World, name: str) -> list[str]:
             new.append(f"$ {command}\n{output}")
         return found.group(1) + "".join(new) + found.group(3)
 
-    lived_text = re.sub(r"(^```\w*\n)(.*?)(^```$)", lived, text, flags=re.MULTILINE | re.DOTALL)
+    lived_text = BLOCK.sub(lived, text)
     if UPDATE and lived_text != text:
         path.write_text(lived_text, encoding="utf-8")
     return differences
+
+
+def stale_reasons(texts: dict[str, str]) -> list[str]:
+    return [f'NOT_RUN names "{beginning}" of {name}, where no block begins with it: take it out.'
+            for name, beginning in NOT_RUN
+            if not any(found.group(2).startswith(beginning) for found in BLOCK.finditer(texts.get(name, "")))]
 
 
 def main() -> int:
     if shutil.which("jq") is None:
         print("jq is not installed.")
         return SKIPPED
-    differences = []
-    for name, before in DOCUMENTS.items():
+    texts = {path.relative_to(ROOT).as_posix(): path.read_text(encoding="utf-8")
+             for pattern in DOCUMENTS for path in sorted(ROOT.glob(pattern))}
+    differences = stale_reasons(texts)
+    for name, text in texts.items():
+        if all(reason_not_to_run(name, found.group(2)) for found in BLOCK.finditer(text)):
+            continue
         with tempfile.TemporaryDirectory() as home:
-            world = World(Path(home))
+            world = World(Path(home), name in FRESH)
             try:
-                world.shell(before)
+                world.shell(BEFORE.get(name, ""))
                 differences += follow(world, name)
             finally:
                 world.end()
