@@ -25,6 +25,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "support"))
 from desktop_session import wait_until  # noqa: E402
+from edited_package import edited_package  # noqa: E402
 
 SKIPPED = 77
 PROGRAMS = ("tarnwick", "tarnwickctl")
@@ -397,26 +398,13 @@ def each_user_has_a_folder_of_his_own(case: Case) -> None:
            "the tool worked on another list")
 
 
-def edited_package(case: Case, source: Path, version: str, change) -> Path:
-    """The package in another version, with what `change` does to its tree."""
-    tree = case.work / f"tree-{source.name}-{version}"
-    run("dpkg-deb", "--raw-extract", source, tree)
-    control = tree / "DEBIAN" / "control"
-    text = re.sub(r"^Version: .*$", f"Version: {version}", control.read_text(), flags=re.MULTILINE)
-    control.write_text(re.sub(r"tarnwick-cli \(= .*?\)", f"tarnwick-cli (= {version})", text))
-    change(tree)
-    package = case.work / f"{source.name}-{version}.deb"
-    run("dpkg-deb", "--root-owner-group", "--build", tree, package)
-    return package
-
-
 def newer_packages(case: Case) -> list[Path]:
     """The packages with a higher version and another picture of the report."""
     def change(tree: Path) -> None:
         if (tree / "usr/lib/tarnwick/reports").exists():
             (tree / "usr/lib/tarnwick/reports/red.jpg").write_text("a newer red")
 
-    return [edited_package(case, package, "99.0.0-1", change) for package in case.debian_packages().values()]
+    return [edited_package(case.work, package, "99.0.0-1", change) for package in case.debian_packages().values()]
 
 
 def single_package(case: Case) -> Path:
@@ -426,7 +414,7 @@ def single_package(case: Case) -> Path:
         control = tree / "DEBIAN" / "control"
         control.write_text(re.sub(r"^Depends: .*\n", "", control.read_text(), flags=re.MULTILINE))
 
-    return edited_package(case, case.debian_packages()["tarnwick"], "1.0.0-1", change)
+    return edited_package(case.work, case.debian_packages()["tarnwick"], "1.0.0-1", change)
 
 
 class DpkgRoot:
