@@ -8,11 +8,14 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTableView>
 
 #include "app/translations.h"
 #include "app/users_language.h"
+#include "ui/controls/quiet_hours_form.h"
 #include "ui/settings/control_dialog.h"
 #include "ui/support/dialog_fixture.h"
 
@@ -34,6 +37,9 @@ class GermanWindowsTest : public DialogTest {
 
   static void expectRoom(const QWidget& control, const QString& text, int needed, int given) {
     EXPECT_LE(needed, given) << control.objectName().toStdString() << ": \"" << onOneLine(text).toStdString() << '"';
+  }
+  static void expectNothingAtItsRight(const QAbstractScrollArea& area) {
+    EXPECT_EQ(area.horizontalScrollBar()->maximum(), 0) << area.objectName().toStdString() << " is cut at its right";
   }
   static void expectRoomFor(const QHeaderView& header) {
     for (int section = 0; section < header.count(); ++section) {
@@ -58,6 +64,9 @@ class GermanWindowsTest : public DialogTest {
         expectRoom(*frame, frame->title(), frame->fontMetrics().horizontalAdvance(frame->title()), frame->width());
       } else if (const auto* table = qobject_cast<const QTableView*>(control)) {
         expectRoomFor(*table->horizontalHeader());
+        expectNothingAtItsRight(*table);
+      } else if (const auto* page = qobject_cast<const QScrollArea*>(control)) {
+        expectNothingAtItsRight(*page);
       }
     }
   }
@@ -69,6 +78,8 @@ class GermanWindowsTest : public DialogTest {
   }
   static void expectWhole(QWidget& window) {
     SCOPED_TRACE(window.metaObject()->className());
+    // As on a screen with room for it; that of the tests is a small one.
+    window.resize(window.size().expandedTo(window.sizeHint()));
     expectKeysOfTheirOwn(window);
     auto* pages = window.findChild<QTabWidget*>();
     for (int page = 0; page < (pages == nullptr ? 1 : pages->count()); ++page) {
@@ -103,6 +114,9 @@ TEST_F(GermanWindowsTest, TheFormsOfASiteHaveRoomForTheirTexts) {
   addVar(1, "name", "value");
   auto& editor = openEditor();
   expectWhole(editor);
+  press(editor, "alarmQuietEdit");
+  expectWhole(opened<QuietHoursDialog>());
+  opened<QuietHoursDialog>().reject();
   editor.findChild<QTabWidget*>()->setCurrentIndex(0);
   press(editor, "Command7");
   expectWhole(opened<CountersDialog>());

@@ -244,6 +244,8 @@ CommandLine understand(const std::vector<std::string>& arguments, const std::vec
   app.require_subcommand(1);
   app.get_formatter()->label("SUBCOMMAND", "VERB");
   app.fallthrough();
+  // On Windows, too, a word that begins with a slash is a path.
+  app.allow_windows_style_options(false);
   addFolder(app, folder);
   for (const Verb& verb : verbs) {
     addVerb(app, verb, folder, line.action);

@@ -11,6 +11,7 @@
 #include "ui/controls/colour_text.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
+#include "ui/controls/placement.h"
 #include "ui/controls/quiet_hours_form.h"
 
 namespace tarnwick {
@@ -202,6 +203,7 @@ void AlarmSection::editQuiet() {
     }
     showQuiet();
   });
+  sizeToContents(*dialog, *window());
   dialog->open();
 }
 

@@ -7,6 +7,7 @@
 #include <QDateTimeEdit>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
@@ -229,6 +230,19 @@ void DatedWindowsTable::setWindows(std::vector<DatedWindow> windows, LocalTime n
   isSettled_ = false;
   model_.setWindows(std::move(windows));
   isSettled_ = true;
+}
+
+QSize DatedWindowsTable::sizeHint() const {
+  const QHeaderView& header = *table_->horizontalHeader();
+  int columns = header.sectionSize(DatedWindowsModel::whatColumn);  // the note's, which takes what is left
+  for (const int column :
+       {DatedWindowsModel::fromColumn, DatedWindowsModel::untilColumn, DatedWindowsModel::whatColumn}) {
+    columns += header.sectionSize(column);
+  }
+  const QSize hint = QWidget::sizeHint();
+  return {hint.width() - table_->sizeHint().width() + columns + 2 * table_->frameWidth() +
+              table_->verticalScrollBar()->sizeHint().width(),
+          hint.height()};
 }
 
 void DatedWindowsTable::add() {

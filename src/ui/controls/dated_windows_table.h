@@ -50,6 +50,9 @@ class DatedWindowsTable final : public QWidget {
   /// A new row begins at the next morning after `now`.
   void setWindows(std::vector<DatedWindow> windows, LocalTime now);
 
+  /// With room for all columns, and for some words in the last.
+  QSize sizeHint() const override;
+
  Q_SIGNALS:
   void edited();
 

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <QEvent>
 #include <QGroupBox>
+#include <QLabel>
+#include <QScrollBar>
 
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
@@ -28,6 +30,7 @@ OptionForm::OptionForm(Program& program, QWidget* parent) : QScrollArea(parent),
 void OptionForm::setSite(std::int16_t idSite) {
   idSite_ = idSite;
   loaded_ = false;
+  prepare();
   if (isVisible()) {
     program_.faults().run([this] { load(); });
   }
@@ -40,7 +43,20 @@ void OptionForm::setInterval(std::chrono::minutes interval) {
   }
 }
 
-QSize OptionForm::sizeHint() const { return kUsualSize; }
+void OptionForm::prepare() {
+  if (widget() == nullptr && unseen_ == nullptr) {
+    makeRows();
+    updateGeometry();
+  }
+}
+
+// As wide as its texts are in the user's language; further down it scrolls.
+QSize OptionForm::sizeHint() const {
+  const QWidget* page = unseen_ != nullptr ? unseen_.get() : widget();
+  return page == nullptr
+             ? kUsualSize
+             : kUsualSize.expandedTo({page->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(), 0});
+}
 
 void OptionForm::showEvent(QShowEvent* event) {
   QScrollArea::showEvent(event);
@@ -50,8 +66,12 @@ void OptionForm::showEvent(QShowEvent* event) {
 }
 
 void OptionForm::load() {
-  if (widget() == nullptr) {
-    makeRows();
+  prepare();
+  if (unseen_ != nullptr) {
+    setWidget(unseen_.release());
+    // It lies on the page of its dialog, whose colour may not be that of a window.
+    widget()->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
   }
   // What could not be read cannot be changed either.
   widget()->setEnabled(false);
@@ -76,7 +96,8 @@ void OptionForm::load() {
 }
 
 void OptionForm::makeRows() {
-  auto* page = new QWidget;
+  unseen_ = std::make_unique<QWidget>();
+  QWidget* const page = unseen_.get();
   auto* all = new QVBoxLayout(page);
   const bool ofAll = idSite_ == kAllSites;
   if (AlarmSection::isFor(program_.data().optionFields())) {
@@ -104,13 +125,9 @@ void OptionForm::makeRows() {
     all->addWidget(new QLabel(tr("There is nothing to be chosen here.")));
   }
   all->addStretch(1);
-  setWidget(page);
   for (auto* control : page->findChildren<QWidget*>()) {
     control->installEventFilter(this);
   }
-  // It lies on the page of its dialog, whose colour may not be that of a window.
-  page->setAutoFillBackground(false);
-  viewport()->setAutoFillBackground(false);
 }
 
 QGridLayout* OptionForm::addGroup(QVBoxLayout& page, const QString& caption) {

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,6 +31,9 @@ class OptionForm final : public QScrollArea {
   /// Shows the options of a site, or those for all sites (`kAllSites`), when the page is next seen; what was changed
   /// and not stored is dropped.
   void setSite(std::int16_t idSite);
+
+  /// Makes the controls, after which the page knows how wide it is. `setSite` does it as well. Nothing is read.
+  void prepare();
 
   /// How often the site is checked, for the example on the page.
   void setInterval(std::chrono::minutes interval);
@@ -64,6 +68,8 @@ class OptionForm final : public QScrollArea {
   Program& program_;
   std::int16_t idSite_ = kAllSites;
   bool loaded_ = false;
+  // The controls until the page is first seen, and no part of the dialog yet; then it is `widget()`.
+  std::unique_ptr<QWidget> unseen_;
   std::chrono::minutes interval_{10};
   AlarmSection* alarm_ = nullptr;
   std::vector<Row> rows_;

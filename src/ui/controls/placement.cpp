@@ -19,6 +19,12 @@ void place(QWidget& window, const QWidget& parent, QPoint wish) {
 
 }  // namespace
 
+void sizeToContents(QWidget& window, const QWidget& parent) {
+  constexpr double kMostOfScreen = 0.95;
+  window.ensurePolished();
+  window.resize(window.sizeHint().boundedTo(parent.screen()->availableSize() * kMostOfScreen));
+}
+
 QPoint clampedTo(const QRect& screen, QPoint wish, QSize size) {
   const int left = std::max(screen.left(), std::min(wish.x(), screen.right() + 1 - size.width()));
   const int top = std::max(screen.top(), std::min(wish.y(), screen.bottom() + 1 - size.height()));

@@ -5,6 +5,10 @@
 
 namespace tarnwick {
 
+/// Makes `window`, which is about to be shown, as large as its contents wish, as far as the screen of `parent` goes.
+/// `QWidget::adjustSize` would not give it more than two thirds of the screen.
+void sizeToContents(QWidget& window, const QWidget& parent);
+
 /// Moves `window`, which is about to be shown, to the left and top position of `parent`, shifted by `offset`; as far
 /// as needed it is moved back, and made smaller, to lie on the parent's screen as a whole.
 void placeAt(QWidget& window, const QWidget& parent, QPoint offset = {});

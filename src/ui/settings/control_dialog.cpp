@@ -7,7 +7,6 @@
 #include <string>
 #include <utility>
 #include <QPointer>
-#include <QScreen>
 
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
@@ -108,9 +107,8 @@ void ControlDialog::showInFront() {
   if (!isVisible()) {
     controls_.tEmail->setFocus();
     controls_.tEmail->selectAll();
-    // `adjustSize` would not give it more than two thirds of the screen.
-    constexpr double kMostOfScreen = 0.95;
-    resize(sizeHint().boundedTo(parentWidget()->screen()->availableSize() * kMostOfScreen));
+    controls_.defaults->prepare();
+    sizeToContents(*this, *parentWidget());
     placeOver(*this, *parentWidget());
     endModalityAt(*this);
     show();

@@ -90,7 +90,7 @@ void SiteEditor::showSiteOf(std::int16_t idSite) {
   const auto length = static_cast<int>(controls_.tUrl->text().size());
   controls_.tUrl->setSelection(length, -length);
   if (!isVisible()) {
-    adjustSize();
+    sizeToContents(*this, *parentWidget());
     placeOver(*this, *parentWidget());
     endModalityAt(*this);
     show();

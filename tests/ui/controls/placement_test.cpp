@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QScreen>
+#include <QVBoxLayout>
 
 namespace tarnwick {
 namespace {
@@ -32,6 +33,23 @@ TEST(Placement, AWindowIsMadeToFitTheScreenOfItsParent) {
   window.resize(100'000, 100'000);
   placeOver(window, parent);
   EXPECT_TRUE(parent.screen()->availableGeometry().contains(window.geometry()));
+}
+
+TEST(Placement, AWindowIsAsLargeAsItsContentsWishWhereTheScreenHasRoom) {
+  QWidget parent;
+  parent.show();
+  const QSize wish = parent.screen()->availableSize() * 0.8;
+  QWidget window(&parent, Qt::Window);
+  auto* contents = new QWidget;
+  contents->setMinimumSize(wish);
+  auto* lines = new QVBoxLayout(&window);
+  lines->setContentsMargins({});
+  lines->addWidget(contents);
+  sizeToContents(window, parent);
+  EXPECT_EQ(window.size(), wish);
+  contents->setMinimumSize(wish * 2);
+  sizeToContents(window, parent);
+  EXPECT_LE(window.height(), parent.screen()->availableSize().height());
 }
 
 }  // namespace
