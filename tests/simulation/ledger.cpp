@@ -47,6 +47,7 @@ void Ledger::fail(const std::string& what) {
 void Ledger::shown(const CheckResult& result) {
   ++results_;
   alertWatch_.shown(result);
+  answerWatch_.told(std::string(result.url));
   sawSign();
   excuse(result.idSite, Time(0));
   if (known_) {
@@ -62,6 +63,7 @@ void Ledger::started(const std::vector<std::string>& program) {
 }
 
 void Ledger::setFails(bool& what, bool fails) {
+  answerWatch_.forget();
   if (what && !fails) {
     recounts_ = known_ && &what == &diskFails_ && !memoryFails_;
     known_ = false;

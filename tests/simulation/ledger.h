@@ -8,6 +8,7 @@
 
 #include "engine/run_view.h"
 #include "simulation/alert_watch.h"
+#include "simulation/answer_watch.h"
 #include "simulation/world.h"
 
 namespace tarnwick::simulation {
@@ -23,6 +24,9 @@ class Ledger {
   /// The run shows that it is there.
   void sawSign() { lastSign_ = world_.agenda.now(); }
   AlertWatch& alerts() { return alertWatch_; }
+  AnswerWatch& answers() { return answerWatch_; }
+  /// Whether every result can be recorded as soon as the list is not locked.
+  bool canBeRecorded() const { return !diskFails_ && !memoryFails_; }
 
   /// Something is about to change rows or counters, or has, that is not written down here: from here on only what
   /// comes later, from when the run is at rest and `settle` is called, is compared.
@@ -82,6 +86,7 @@ class Ledger {
 
   World& world_;
   AlertWatch alertWatch_{world_, [this](const std::string& what) { fail(what); }};
+  AnswerWatch answerWatch_{[this](const std::string& what) { fail(what); }};
   Time lastSign_{0};
   bool known_ = false;
   bool recounts_ = false;  ///< the disk has failed since, and nothing else has come between

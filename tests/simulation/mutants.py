@@ -113,9 +113,9 @@ MUTANTS = (
            "if (std::exchange(clockWasSet_, false) || wallClockWasSet() || secondsToNext_ < 0)", "if (secondsToNext_ < 0)"),
     Mutant("new sites wait for the next start", "engine/run_controller.cpp",
            "newSitesAtOnce_ = options.newSitesAtOnce();", "newSitesAtOnce_ = false;"),
-    Mutant("more of the log is emptied than must be", "store/kept_pages.cpp", "std::min(bytes_ - most, atOnce)",
-           "std::min(bytes_, atOnce)"),
-    Mutant("the log has no bound", "store/kept_pages.cpp", "  if (bytes_ > most) {", "  if (bytes_ > 64 * most) {"),
+    Mutant("more of the log is emptied than must be", "store/kept_pages.cpp", "std::min(size.bytes - most, atOnce)",
+           "std::min(size.bytes, atOnce)"),
+    Mutant("the log has no bound", "store/kept_pages.cpp", "  if (size.bytes > most) {", "  if (size.bytes > 64 * most) {"),
     Mutant("a changed site is asked again and again", "engine/pass_recording.cpp", "  debts_.checks.settle(id);\n", ""),
     Mutant("a host is asked for a page too many", "engine/in_flight.cpp", "host.inFlight >= policy_.perHost",
            "host.inFlight > policy_.perHost"),
@@ -123,6 +123,10 @@ MUTANTS = (
            "  if (sites_.empty() || !backOff_.tick())", "  sites_.clear();\n  if (sites_.empty() || !backOff_.tick())"),
     Mutant("what is due is tested though it is switched off", "engine/due_sites.cpp",
            'is null or ", kIsDue, ") AND ", kIsActive);', 'is null or ", kIsDue, ") ");'),
+    Mutant("a result is given up where the list is locked for long", "engine/write_turn.cpp",
+           "      guard_(kSource, [&] { throw refusal; });\n", "      throw refusal;\n"),
+    Mutant("what other programs change is not noticed", "platform/sqlite/sqlite_database.cpp",
+           " && endOfOpenLog(handle()) == logEnd_;", ";"),
 )
 
 

@@ -78,13 +78,20 @@ class WatchedView final : public RunView {
     }
     terminal_.showLostMail(mail);
   }
-  void showDropped(std::int16_t idSite, const std::string& url) override { terminal_.showDropped(idSite, url); }
+  void showDropped(std::int16_t idSite, const std::string& url) override {
+    if (!world_.isDead() && onDropped) {
+      const SimulatedMemory::OfWorld ours;
+      onDropped(url);
+    }
+    terminal_.showDropped(idSite, url);
+  }
   void setLastChecked(std::int16_t idSite, const std::string& dateTime) override {
     terminal_.setLastChecked(idSite, dateTime);
   }
 
   std::function<void(const CheckResult&)> onResult;
   std::function<void(const LostMail&)> onLostMail;
+  std::function<void(const std::string& url)> onDropped;
   std::function<void()> onSign;
   std::function<void(RunState)> onLamp;
   std::function<void(const std::string&)> onStatus;

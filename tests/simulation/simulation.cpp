@@ -122,6 +122,9 @@ void Simulation::begin(const Happening& happening) {
   }
   ++happened_;
   const Chance chance(happening.draw);
+  if (happening.trouble != Trouble::locks && happening.trouble != Trouble::sites) {
+    ledger_.answers().forget();
+  }
   switch (happening.trouble) {
     case Trouble::sites:
       return changeSites(chance);
@@ -134,9 +137,7 @@ void Simulation::begin(const Happening& happening) {
     case Trouble::verbs:
       return process_ ? user_.runSomeVerb(chance) : void();
     case Trouble::locks:
-      ledger_.excuse(kAfterTrouble);
-      mayEnd(kAfterTrouble);
-      return neighbour_.lock(chance);
+      return lockList(chance);
     case Trouble::disk:
       return breakDisk(chance);
     case Trouble::power:
@@ -161,6 +162,17 @@ void Simulation::actAsUser(Chance chance) {
   } else if (process_) {
     user_.act(*process_, chance);
   }
+}
+
+// One time in two while a page is on its way, so that there is something to record.
+void Simulation::lockList(Chance chance) {
+  if (chance.oneIn(2)) {
+    locksAtRequest_ = chance;
+    return;
+  }
+  ledger_.excuse(kAfterTrouble);
+  mayEnd(kAfterTrouble);
+  neighbour_.lock(chance);
 }
 
 void Simulation::changeSites(Chance chance) {
@@ -227,6 +239,7 @@ void Simulation::setClock(Chance chance) {
 }
 
 void Simulation::stepClock(std::chrono::milliseconds by) {
+  ledger_.answers().forget();
   world_.journal.add("clock", "set by " + std::to_string(by.count()) + " ms");
   world_.clock.setBy(by);
   if (shadow_ && !world_.isDead()) {
@@ -339,6 +352,8 @@ void Simulation::restart(Chance chance) {
 void Simulation::liveOnce() {
   process_ = std::make_unique<Process>(world_);
   ledger_.alerts().begin();
+  ledger_.answers().forget();
+  process_->view().onDropped = [this](const std::string& url) { ledger_.answers().told(url); };
   process_->view().onResult = [this](const CheckResult& result) { ledger_.shown(result); };
   process_->view().onLostMail = [this](const LostMail& mail) {
     ledger_.alerts().lost(AlertWatch::mail, mail.idSite);
@@ -392,17 +407,46 @@ void Simulation::stayOff() {
   }
 }
 
+void Simulation::watchAnswers() {
+  const auto isOfTheRun = [this] { return !world_.web.isShared && !world_.isDead() && ledger_.canBeRecorded(); };
+  world_.web.onRequest = [this, isOfTheRun](const Request& request) {
+    if (isOfTheRun()) {
+      ledger_.answers().asked(request.url);
+    }
+  };
+  world_.web.onAnswer = [this, isOfTheRun](const std::string& url, const TransferResult& result) {
+    if (isOfTheRun() && result.fault != TransferFault::shortage) {
+      ledger_.answers().answered(url);
+    }
+  };
+}
+
 Outcome Simulation::run() {
   const auto actSoon = [this](std::optional<Chance>& user) {
     if (user) {
       world_.agenda.in(Time(5), [this, chance = *std::exchange(user, std::nullopt)] {
         if (process_ && !world_.isDead() && !isOver()) {
+          ledger_.answers().forget();
           user_.act(*process_, chance);
         }
       });
     }
   };
-  world_.web.onBegin = [this, actSoon] { actSoon(actsAtRequest_); };
+  world_.web.onBegin = [this, actSoon] {
+    actSoon(actsAtRequest_);
+    if (locksAtRequest_) {
+      world_.agenda.in(Time(5), [this, chance = *std::exchange(locksAtRequest_, std::nullopt)] {
+        if (!world_.isDead() && !isOver()) {
+          ledger_.excuse(kAfterTrouble);
+          mayEnd(kAfterTrouble);
+          neighbour_.lock(chance);
+        }
+      });
+    }
+  };
+  if (!plan_.model) {
+    watchAnswers();
+  }
   world_.mail.onBegin = [this, actSoon] { actSoon(actsAtMail_); };
   user_.hasPatience = plan_.length > 24h * 30;
   world_.web.onTooMany = [this](const std::string& what) { ledger_.fail(what); };

@@ -48,6 +48,8 @@ class Simulation {
   void schedule();
   void begin(const Happening& happening);
   void actAsUser(Chance chance);
+  void lockList(Chance chance);
+  void watchAnswers();
   void changeSites(Chance chance);
   void changeMail(Chance chance);
   void setClock(Chance chance);
@@ -80,6 +82,7 @@ class Simulation {
   Time mayEndUntil_{0};
   std::optional<Chance> actsAtRequest_;  ///< what the user does then
   std::optional<Chance> actsAtMail_;
+  std::optional<Chance> locksAtRequest_;  ///< how another program locks the list then
   std::unique_ptr<Process> process_;
   std::unique_ptr<Shadow> shadow_;
   std::vector<std::string> urls_;
