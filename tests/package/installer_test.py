@@ -22,6 +22,7 @@ from desktop_session import DesktopSession, missing_tools, wait_until  # noqa: E
 from steady_page import web  # noqa: E402
 
 SKIPPED = 77
+SITES = 100
 ROOT = Path(__file__).resolve().parent.parent.parent
 UNINSTALL = r"Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarnwick"
 
@@ -65,9 +66,14 @@ class Windows:
         subprocess.run(["wineserver", "-k"], env=self.env, check=False)
 
 
-def watches(windows: Windows, tool: Path, url: str) -> None:
-    ids = windows.run(tool, "add", url).split()
-    expect("up" in windows.run(tool, "check", *ids), "the site is not up")
+def watches(windows: Windows, tool: Path, url: str) -> set[str]:
+    """A hundred sites, checked; their addresses."""
+    wanted = {f"{url}?site={number}" for number in range(SITES)}
+    (windows.drive / "addresses.txt").write_text("\n".join(sorted(wanted)) + "\n")
+    windows.run(tool, "import", r"C:\addresses.txt")
+    said = windows.run(tool, "check")
+    expect(len([line for line in said.splitlines() if line.startswith("up ")]) == SITES, f"the check says: {said}")
+    return wanted
 
 
 def opens(windows: Windows, program: Path) -> None:
@@ -96,11 +102,11 @@ def try_archive(windows: Windows, folder: Path, url: str) -> None:
     for name in ("LICENSE.txt", "README.txt", "tarnwick.spdx.json", "licenses/qt6-base.txt", "licenses/curl.txt"):
         expect((place / "tarnwick" / name).is_file(), f"the archive has no {name}")
     tool = place / "tarnwick/tarnwickctl.exe"
-    watches(windows, tool, url)
+    wanted = watches(windows, tool, url)
     expect((place / "tarnwick/tarnwick.mdb").exists(), "the list does not lie in the folder")
     (place / "tarnwick/email.txt").write_text("my text")
     subprocess.run(unpack, check=True)
-    expect(url in addresses(windows, tool), "the list is another one behind the unpacking")
+    expect(addresses(windows, tool) == wanted, "the list is another one behind the unpacking")
     expect((place / "tarnwick/email.txt").read_text() == "my text", "the template is another one")
     (place / "tarnwick/tarnwick.mdb").unlink()
     windows.run(tool, "sites", status=2)
@@ -116,7 +122,7 @@ def try_installer(windows: Windows, installers: dict[str, Path], mode: str, plac
     expect(program.exists(), f"nothing was installed in {place}")
     tool = program.with_name("tarnwickctl.exe")
     expect(windows.value(root, "DisplayVersion") == older, f"the version is {windows.value(root, 'DisplayVersion')}")
-    watches(windows, tool, url)
+    wanted = watches(windows, tool, url)
     lists = windows.path("users", "*", "AppData", "Local", "tarnwick", "tarnwick.mdb")
     expect(lists.exists() and not program.with_name("tarnwick.mdb").exists(), "the list lies with the program")
     link = windows.path("**", "Start Menu", "Programs", "Tarnwick.lnk")
@@ -125,7 +131,7 @@ def try_installer(windows: Windows, installers: dict[str, Path], mode: str, plac
     for version in (newer, older):
         windows.run(installers[version], "/S", mode)
         expect(windows.value(root, "DisplayVersion") == version, "another version is installed")
-        expect(url in addresses(windows, tool), f"the list is another one behind the installation of {version}")
+        expect(addresses(windows, tool) == wanted, f"the list is another one behind the installation of {version}")
     refused_while_running(windows, installers[newer], mode, tool)
     uninstall = program.with_name("uninstall.exe")
     windows.run(uninstall, "/S", mode)

@@ -55,10 +55,14 @@ class ProgramStart : public ::testing::Test {
   std::string written() const {
     QTimer looks;
     looks.start(10);
-    EXPECT_TRUE(waitUntil([&] { return LocalFiles().kindOf(at("out")) == FileKind::file; }))
-        << "The program was not started.";
-    std::ifstream file(pathOf(at("out")), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::string text;
+    // While it is being renamed it may be there and not be opened yet.
+    EXPECT_TRUE(waitUntil([&] {
+      std::ifstream file(pathOf(at("out")), std::ios::binary);
+      text.assign(std::istreambuf_iterator<char>(file), {});
+      return !text.empty();
+    })) << "The program was not started.";
+    return text;
   }
   static std::string programFolder() {
     return QDir::toNativeSeparators(QCoreApplication::applicationDirPath()).toStdString();

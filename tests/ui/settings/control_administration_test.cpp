@@ -6,6 +6,7 @@
 #include <fstream>
 #include <QTimer>
 
+#include "support/system.h"
 #include "ui/settings/control_dialog_fixture.h"
 
 namespace tarnwick {
@@ -121,6 +122,7 @@ TEST_F(ControlAdministrationTest, AFailedCompactionIsTold) {
 }
 
 TEST_F(ControlAdministrationTest, ADatabaseThatIsGoneAfterwardsIsToldAndTheLabelSaysSo) {
+  SKIP_ON_WINDOWS("There nobody can remove the file.");
   auto& dialog = openSettings();
   machine.prompts.answerConfirm(true);
   machine.prompts.whileOpen = [&](const RecordingPrompts::Box& box) {

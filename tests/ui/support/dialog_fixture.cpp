@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QKeySequence>
 #include <QLabel>
+#include <QScrollArea>
 #include <QWindow>
 
 namespace tarnwick::testing {
@@ -30,6 +31,11 @@ SiteEditor& DialogTest::openEditor() {
 }
 
 void DialogTest::clickOn(QWidget& control) {
+  for (QWidget* around = control.parentWidget(); around != nullptr; around = around->parentWidget()) {
+    if (auto* page = qobject_cast<QScrollArea*>(around)) {
+      page->ensureWidgetVisible(&control);
+    }
+  }
   QWidget& window = *control.window();
   QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, control.mapTo(&window, control.rect().center()));
 }

@@ -69,7 +69,8 @@ class DialogTest : public MasterTest {
     }
     clickOn(control);
   }
-  /// Clicks the middle of a control as the desktop does: a window that waits for another one takes no click.
+  /// Scrolls to a control and clicks its middle as the desktop does: a window that waits for another one takes no
+  /// click.
   static void clickOn(QWidget& control);
   /// Presses "Load From Url" and waits for the page.
   static void load(QWidget& contentDialog);
