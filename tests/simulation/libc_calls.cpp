@@ -58,6 +58,9 @@ int openFile(Open* open, const char* path, int flags, mode_t rights) {
   if (disk->isDead() && ((flags & O_ACCMODE) != O_RDONLY) && !there) {
     return failed(EIO);
   }
+  if (there && (flags & O_TRUNC) != 0) {
+    disk->willBeCut(path);
+  }
   const int descriptor = open(path, flags, rights);
   if (descriptor >= 0) {
     disk->opened(descriptor, path, !there);

@@ -24,6 +24,9 @@ std::string contentsOf(const fs::path& path) {
 
 bool isSharedMemory(const std::string& path) { return path.ends_with("-shm"); }
 
+/// Worth a second name instead of a copy, where nothing is written to it.
+bool isLarge(const fs::path& path) { return fs::file_size(path) >= (std::uint64_t{1} << 16U); }
+
 }  // namespace
 
 SimulatedDisk* SimulatedDisk::inUse = nullptr;
@@ -36,6 +39,7 @@ SimulatedDisk::SimulatedDisk() {
   fs::remove_all(root_);
   folder_ = (root_ / "disk").string();
   left_ = root_ / "left";
+  kept_ = root_ / "kept";
   fs::create_directories(folder_);
   inUse = this;
 }
@@ -50,7 +54,14 @@ void SimulatedDisk::keepCount() {
   stopCounting();
   for (const auto& entry : fs::recursive_directory_iterator(folder_)) {
     if (entry.is_regular_file() && !isSharedMemory(entry.path().string())) {
-      names_[entry.path().string()] = std::make_shared<File>(File{contentsOf(entry.path())});
+      const FilePtr& file = names_[entry.path().string()] = std::make_shared<File>();
+      if (isLarge(entry.path())) {
+        fs::create_directories(kept_);
+        file->kept = kept_ / std::to_string(names_.size());
+        fs::create_hard_link(entry.path(), *file->kept);
+      } else {
+        file->synced = contentsOf(entry.path());
+      }
     }
   }
   syncedNames_ = names_;
@@ -70,6 +81,20 @@ void SimulatedDisk::stopCounting() {
   nameChanges_.clear();
   for (Open& open : open_) {
     open.file.reset();
+  }
+  fs::remove_all(kept_);
+}
+
+void SimulatedDisk::willChange(File& file) {
+  if (const auto kept = std::exchange(file.kept, std::nullopt)) {
+    file.synced = contentsOf(*kept);
+    fs::remove(*kept);
+  }
+}
+
+void SimulatedDisk::willBeCut(const char* path) {
+  if (const auto named = names_.find(path); counting_ && named != names_.end()) {
+    willChange(*named->second);
   }
 }
 
@@ -96,6 +121,7 @@ void SimulatedDisk::throughStream(int descriptor) {
   open.isStream = true;
   ++streams_;
   if (open.file) {
+    willChange(*open.file);
     open.file->throughStream = true;
   }
 }
@@ -132,6 +158,7 @@ int SimulatedDisk::write(int descriptor, const void* bytes, std::size_t& length,
     length = std::max<std::size_t>(length / 2, 1);
   }
   if (const FilePtr& file = at(descriptor).file) {
+    willChange(*file);
     file->pending.push_back({offset, std::string(static_cast<const char*>(bytes), length)});
   }
   return 0;
@@ -143,6 +170,7 @@ int SimulatedDisk::truncate(int descriptor, std::int64_t size) {
     return EIO;
   }
   if (const FilePtr& file = at(descriptor).file) {
+    willChange(*file);
     file->pending.push_back({size, {}, true});
   }
   return 0;
@@ -259,18 +287,37 @@ void SimulatedDisk::cutPower(Chance& chance) {
     }
   }
   for (const auto& [name, file] : names) {
-    File found = *file;
-    if (found.throughStream) {
+    const fs::path to = left_ / fs::path(name).lexically_relative(folder_);
+    if (file->throughStream) {
       const std::string written = contentsOf(name);
-      found = {written.substr(0, chance.below(written.size() + 1))};
+      std::ofstream(to, std::ios::binary) << leftOf({written.substr(0, chance.below(written.size() + 1))}, chance);
+    } else if (file->kept) {
+      leftOf(*file, chance);  // draws as for any file
+      fs::create_hard_link(*file->kept, to);
+    } else {
+      std::ofstream(to, std::ios::binary) << leftOf(*file, chance);
     }
-    std::ofstream(left_ / fs::path(name).lexically_relative(folder_), std::ios::binary) << leftOf(found, chance);
   }
   die();
 }
 
+// Who still runs changes nothing any more, but for what it shares with others or writes through a stream.
 void SimulatedDisk::killAll() {
-  fs::copy(folder_, left_, fs::copy_options::recursive);
+  for (const auto& entry : fs::recursive_directory_iterator(folder_)) {
+    const fs::path to = left_ / entry.path().lexically_relative(folder_);
+    fs::create_directories(to.parent_path());
+    const std::string name = entry.path().string();
+    const bool mayChange = isSharedMemory(name) || std::ranges::any_of(open_, [&](const Open& open) {
+                             return open.isStream && open.path == name;
+                           });
+    if (entry.is_directory()) {
+      fs::create_directories(to);
+    } else if (isLarge(entry.path()) && !mayChange) {
+      fs::create_hard_link(entry.path(), to);
+    } else {
+      fs::copy_file(entry.path(), to);
+    }
+  }
   die();
 }
 

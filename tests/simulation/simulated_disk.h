@@ -82,6 +82,8 @@ class SimulatedDisk {
     return descriptor >= 0 && static_cast<std::size_t>(descriptor) < open_.size() &&
            !open_[static_cast<std::size_t>(descriptor)].path.empty();
   }
+  /// What a file holds is about to be cut off.
+  void willBeCut(const char* path);
   void opened(int descriptor, const char* path, bool made);
   void closed(int descriptor);
   void throughStream(int descriptor);
@@ -105,6 +107,8 @@ class SimulatedDisk {
     std::string synced{};
     std::vector<Write> pending{};
     bool throughStream = false;  ///< written to without our seeing it, until it is synced
+    /// Another name of a large one that nobody has written to since: what it holds is what is synced.
+    std::optional<std::filesystem::path> kept{};
   };
   using FilePtr = std::shared_ptr<File>;
   using Names = std::map<std::string, FilePtr>;
@@ -121,6 +125,7 @@ class SimulatedDisk {
 
   Open& at(int descriptor) { return open_[static_cast<std::size_t>(descriptor)]; }
   bool strikes();
+  static void willChange(File& file);
   void setName(const std::string& name, const FilePtr& file);
   static void apply(std::string& bytes, const Write& write);
   static std::string leftOf(const File& file, Chance& chance);
@@ -128,6 +133,7 @@ class SimulatedDisk {
 
   std::filesystem::path root_;
   std::filesystem::path left_;
+  std::filesystem::path kept_;
   std::string folder_;
   std::uint64_t edition_ = 1;
   std::uint64_t streams_ = 0;
