@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <cstdio>
+#include <cstdlib>
 #include <utility>
 
 #include "alerts/alert_dispatch.h"
@@ -407,11 +408,17 @@ void RunController::UpdateLastChecked(std::int16_t idSite) {
 }
 
 std::string RunController::formatSeconds(std::int32_t seconds) {
-  const auto lastTwoDigits = [](std::int32_t number) {
-    const std::string padded = "00" + std::to_string(number);
-    return padded.substr(padded.size() - 2);
+  // Of a number below zero the last two characters are those of its digits, but for one of a single digit.
+  const auto lastTwoDigits = [](std::int32_t number, char* to) {
+    const std::int32_t digits = std::abs(number % 100);
+    to[0] = number < 0 && number > -10 ? '-' : static_cast<char>('0' + digits / 10);
+    to[1] = static_cast<char>('0' + digits % 10);
   };
-  return lastTwoDigits(seconds / 3600) + ":" + lastTwoDigits(seconds % 3600 / 60) + ":" + lastTwoDigits(seconds % 60);
+  std::string text = "00:00:00";
+  lastTwoDigits(seconds / 3600, text.data());
+  lastTwoDigits(seconds % 3600 / 60, text.data() + 3);
+  lastTwoDigits(seconds % 60, text.data() + 6);
+  return text;
 }
 
 std::string RunController::clockText(seconds elapsed) {

@@ -59,9 +59,12 @@ void RoomReserve::keepReserve() noexcept {
       return;
     }
     const std::string reserve = path();
-    const std::uint64_t held = files_.exists(reserve) ? files_.sizeOf(reserve) : 0;
+    const bool isThere = files_.exists(reserve);
+    const std::uint64_t held = isThere ? files_.sizeOf(reserve) : 0;
     if (!isLittle({room->free / 2, room->whole})) {
-      files_.remove(reserve);
+      if (isThere) {
+        files_.remove(reserve);
+      }
     } else if (const auto wanted = std::min(room->free / kPartOfRoom, kMost);
                isLittle(*room) && held < wanted && wanted >= kLeast) {
       const std::string bytes = incompressible(wanted);

@@ -25,7 +25,7 @@ struct SqlToken {
   std::string_view source;
 
   /// True for the word (given in lower case, found in any letter case) or symbol `piece`.
-  bool is(std::string_view piece) const { return equalsIgnoringCase(source, piece); }
+  bool is(std::string_view piece) const { return source.size() == piece.size() && equalsIgnoringCase(source, piece); }
   /// True for a word or a quoted name.
   bool isName() const { return kind == SqlTokenKind::word || kind == SqlTokenKind::name; }
 };

@@ -116,7 +116,9 @@ int SqliteDatabase::takeLogIn(void* self, sqlite3* database, const char* name, i
   SqliteFileWatch& watch = *of.watch_;
   // Whoever has waited for a transaction as long as that of a large page is not made to wait for this as well.
   const bool waited = pages - std::exchange(of.pagesInLog_, pages) > kLongTransaction;
-  if (watch.look() == SqliteFileWatch::Finding::same && pages >= kPagesOfLog && !waited) {
+  if (pages < kPagesOfLog || waited) {
+    watch.followLog();
+  } else if (watch.look() == SqliteFileWatch::Finding::same) {
     sqlite3_wal_checkpoint_v2(database, name, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
     watch.remember();
   }

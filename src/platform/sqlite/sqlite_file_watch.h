@@ -34,6 +34,9 @@ class SqliteFileWatch {
   Finding look() noexcept;
   /// Takes the file for the right one as it is now.
   void remember() noexcept;
+  /// The part of a look that tells from the open files alone how far the log has got: after each change, so that the
+  /// next look knows what came since.
+  void followLog() noexcept { isOverwritten(); }
   /// Looks at most ten times a second, since it takes some microseconds; `same` in between.
   Finding lookNowAndThen() noexcept;
 
