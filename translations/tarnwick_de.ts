@@ -3209,11 +3209,11 @@
     </message>
     <message>
         <source>The alerts of %1 are paused %2.</source>
-        <translation>Die Alarme von %1 pausieren %2.</translation>
+        <translation>Alarme in Pause %2: %1.</translation>
     </message>
     <message>
         <source>The alerts of %1 are not paused any more.</source>
-        <translation>Die Alarme von %1 pausieren nicht mehr.</translation>
+        <translation>Alarme nicht mehr in Pause: %1.</translation>
     </message>
     <message>
         <source>sites %1</source>
@@ -3956,7 +3956,7 @@
     </message>
     <message>
         <source>What becomes the baseline of a site that has none; with &quot;pages only&quot; a fetch that failed does not</source>
-        <translation>Was zur Basis einer Seite ohne Basis wird; mit „nur gute Seiten“ nicht der Text eines gescheiterten Holens</translation>
+        <translation>Was zur Basis einer Seite ohne Basis wird; mit „nur gute Seiten“ (pages only) nicht der Text eines gescheiterten Holens</translation>
     </message>
     <message>
         <source>When a run takes on a site that was never checked</source>
