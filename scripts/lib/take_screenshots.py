@@ -144,6 +144,10 @@ def take_dialogs(session: DesktopSession, process: subprocess.Popen, window: str
     editor = session.window("Site", process)
     settle()
     take(session, editor, pictures / "site-editor.png")
+    session.press(editor, "ctrl+2")
+    settle()
+    take(session, editor, pictures / "alarm.png")
+    session.press(editor, "ctrl+1")
     for keys, title, picture in (("alt+c", "Content", "content.png"), ("alt+t", "counters", "counters.png")):
         session.press(editor, keys)
         dialog = session.window(title, process)
@@ -159,8 +163,8 @@ def take_dialogs(session: DesktopSession, process: subprocess.Popen, window: str
     session.press(editor, "Escape")
 
 
-def take_settings(session: DesktopSession, process: subprocess.Popen, window: str, file: Path, database: Path) -> None:
-    """Takes the picture of the settings with mail switched on, while no check can send one."""
+def take_settings(session: DesktopSession, process: subprocess.Popen, window: str, pictures: Path, database: Path) -> None:
+    """Takes the pictures of the settings with mail switched on, while no check can send one."""
     session.press(window, "shift+F5")
     connection = sqlite3.connect(database, timeout=5)
     with connection:
@@ -171,7 +175,10 @@ def take_settings(session: DesktopSession, process: subprocess.Popen, window: st
     session.press(window, "alt+u")
     dialog = session.window("Settings", process)
     settle()
-    take(session, dialog, file)
+    take(session, dialog, pictures / "settings.png")
+    session.press(dialog, "ctrl+3")
+    settle()
+    take(session, dialog, pictures / "pause.png")
     session.press(dialog, "Escape")
 
 
@@ -204,7 +211,7 @@ def main() -> int:
             take(session, window, pictures / "main-window.png")
             take_change(session, process, window, pictures)
             take_dialogs(session, process, window, pictures)
-            take_settings(session, process, window, pictures / "settings.png", database)
+            take_settings(session, process, window, pictures, database)
             session.close(window)
             process.wait(timeout=15)
     server.shutdown()
