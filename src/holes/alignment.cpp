@@ -18,6 +18,12 @@ constexpr std::size_t kFewestEqualBytes = 3;
 
 bool isWordPart(char c) { return isLetter(c) || isDigit(c) || c == '_' || static_cast<unsigned char>(c) >= 0x80; }
 
+/// A number ends where words without blanks between them go on.
+bool partsWord(char one, char other) {
+  const auto isHigh = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };
+  return (isDigit(one) && isHigh(other)) || (isHigh(one) && isDigit(other));
+}
+
 std::size_t lineLength(std::string_view text) {
   return std::min(text.size(), text.find('\n')) + (text.find('\n') != std::string_view::npos ? 1U : 0U);
 }
@@ -25,7 +31,7 @@ std::size_t lineLength(std::string_view text) {
 std::size_t tokenLength(std::string_view text) {
   const auto run = [&](auto test) {
     std::size_t length = 0;
-    while (length < text.size() && test(text[length])) {
+    while (length < text.size() && test(text[length]) && (length == 0 || !partsWord(text[length - 1], text[length]))) {
       ++length;
     }
     return length;

@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "holes/hole_values.h"
+#include "holes/numbers.h"
 
 namespace tarnwick {
 namespace {
@@ -39,26 +40,31 @@ Lengths lengthsOf(Values values) {
   return {least.size(), most.size()};
 }
 
-/// What stands between the digits of the values, and a minus before them; nothing when they are no numbers.
+/// What stands between the digits of the values, and the signs before them; nothing when they are no numbers.
 std::optional<std::string> separatorsOf(Values values) {
   std::string separators;
+  std::string signs;
   for (const std::string_view value : values) {
     if (value.empty() || !isDigit(value.back())) {
       return std::nullopt;
     }
-    for (const char c : value.substr(value.front() == '-' ? 1 : 0)) {
-      if (!isDigit(c) && separators.find(c) == std::string::npos) {
-        separators += c;
+    const bool isSigned = value.front() == '-' || value.front() == '+';
+    if (isSigned && signs.find(value.front()) == std::string::npos) {
+      signs += value.front();
+    }
+    for (std::size_t at = isSigned ? 1 : 0; at < value.size();) {
+      const std::size_t mark = numberMarkAt(value.substr(at));
+      if (mark == 0 && !isDigit(value[at])) {
+        return std::nullopt;
       }
+      if (mark > 0 && separators.find(value.substr(at, mark)) == std::string::npos) {
+        separators += value.substr(at, mark);
+      }
+      at += std::max<std::size_t>(mark, 1);
     }
   }
-  if (separators.find_first_not_of(".,'\xC2\xA0\xE2\x80\xAF ") != std::string::npos) {
-    return std::nullopt;
-  }
-  if (std::ranges::any_of(values, [](std::string_view value) { return value.front() == '-'; })) {
-    separators += '-';
-  }
-  return separators;
+  // What is above zero at times is below at others.
+  return separators + (signs.find('+') != std::string::npos ? "+-" : signs);
 }
 
 std::optional<Hole> asNumber(Values values) {

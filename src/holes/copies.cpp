@@ -2,6 +2,7 @@
 #include "holes/copies.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace tarnwick {
 
@@ -26,10 +27,10 @@ std::string_view Copies::fixedBefore(std::size_t place) const {
 }
 
 std::optional<std::vector<std::size_t>> Copies::everywhere(std::size_t at, bool isEnd) const {
-  // The last place that begins before `at`, or there where its end is asked for.
-  const auto next = std::ranges::find_if(places_, [&](const Place& place) {
-    return isEnd ? place.region.from.front() >= at : place.region.from.front() > at;
-  });
+  // The first place behind `at`, or the one there where an end is asked for: its own begin is no end before it.
+  const auto next =
+      isEnd ? std::ranges::lower_bound(places_, at, {}, [](const Place& place) { return place.region.from.front(); })
+            : std::ranges::upper_bound(places_, at, {}, [](const Place& place) { return place.region.from.front(); });
   if (isEnd && next != places_.end() && next->region.to.front() == at && next->region.from.front() == at) {
     return next->region.to;  // nothing stands there in the first copy
   }
@@ -56,14 +57,28 @@ std::optional<Region> Copies::regionOf(std::size_t begin, std::size_t end) const
   return from && to ? std::optional(Region{std::move(*from), std::move(*to)}) : std::nullopt;
 }
 
+std::span<const Place> Copies::placesWithin(std::size_t begin, std::size_t end) const {
+  const auto first =
+      std::ranges::lower_bound(places_, begin, {}, [](const Place& place) { return place.region.to.front(); });
+  const auto last = std::ranges::upper_bound(first, places_.end(), end, {},
+                                             [](const Place& place) { return place.region.from.front(); });
+  return {first, last};
+}
+
+void Copies::replace(const Region& region, std::vector<Place> places) {
+  const auto first = std::ranges::lower_bound(places_, region.from.front(), {},
+                                              [](const Place& place) { return place.region.from.front(); });
+  const auto last = std::find_if(first, places_.end(),
+                                 [&](const Place& place) { return place.region.to.front() > region.to.front(); });
+  const auto next = places_.erase(first, last);
+  places_.insert(next, std::make_move_iterator(places.begin()), std::make_move_iterator(places.end()));
+}
+
 void Copies::put(Place place) {
-  const Region& region = place.region;
-  std::erase_if(places_, [&](const Place& other) {
-    return other.region.from.front() >= region.from.front() && other.region.to.front() <= region.to.front();
-  });
-  const auto next = std::ranges::find_if(
-      places_, [&](const Place& other) { return other.region.from.front() >= region.from.front(); });
-  places_.insert(next, std::move(place));
+  const Region region = place.region;
+  std::vector<Place> one;
+  one.push_back(std::move(place));
+  replace(region, std::move(one));
 }
 
 void Copies::joinWithNext(std::size_t place) {

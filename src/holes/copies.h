@@ -41,6 +41,10 @@ class Copies {
   std::optional<Region> regionOf(std::size_t begin, std::size_t end) const;
   /// Puts a place there, instead of all those that it touches. REQUIRES: a region of `regionOf`.
   void put(Place place);
+  /// Puts these places there instead of all that lie within that region. REQUIRES: ordered places within it.
+  void replace(const Region& region, std::vector<Place> places);
+  /// The places that overlap or touch a part of the first copy.
+  std::span<const Place> placesWithin(std::size_t begin, std::size_t end) const;
   /// Makes one place of that one and the one after it.
   void joinWithNext(std::size_t place);
 

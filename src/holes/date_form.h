@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
+#include <chrono>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -13,6 +15,7 @@ namespace tarnwick {
 //   %Y year, four digits   %y year, two digits   %m month   %d day of the month   %e one of the two: nobody can know
 //   %B month by name       %A weekday by name    %L a word in its place that is no name known here
 //   %H hour                %M minute             %S second                        %f a fraction of it
+//   %N number of days, with the word for them, before a time
 //   %p AM or PM            %z zone: Z, UTC, +01:00, CET                           %% percent sign
 
 /// A date, a time or both, as it stands in a text.
@@ -43,6 +46,9 @@ struct DateRead {
   std::optional<int> day{};
   std::optional<int> hour{};
   std::optional<int> minute{};
+  std::array<std::optional<int>, 2> either{};  ///< a month and a day, in an order that nobody can know
+
+  bool mayBeOn(std::chrono::year_month_day other) const;
 };
 
 /// Reads a date of that form at the beginning of the text; nothing when there is none, or none that can be: no month

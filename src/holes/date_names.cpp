@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "base/text.h"
+#include "holes/code_pages.h"
 
 namespace tarnwick {
 namespace {
@@ -75,16 +76,22 @@ struct Names {
   std::unordered_map<std::string, DateName> beginnings;
 };
 
+void addTo(std::unordered_map<std::string, DateName>& names, std::string_view name, DateName meaning) {
+  DateName& known = names[std::string(name)];
+  known.month = known.month > 0 ? known.month : meaning.month;
+  known.weekday = known.weekday > 0 ? known.weekday : meaning.weekday;
+}
+
 void add(Names& names, std::string_view list, DateName meaning) {
   while (!list.empty()) {
     const std::string_view name = list.substr(0, list.find('|'));
     list.remove_prefix(std::min(list.size(), name.size() + 1));
-    names.whole.emplace(name, meaning);
+    addTo(names.whole, name, meaning);
     std::size_t characters = 0;
     for (std::size_t end = 1; end < name.size(); ++end) {
       characters += continuesCharacter(name[end]) ? 0U : 1U;
       if (characters >= kShortestBeginning && !continuesCharacter(name[end])) {
-        names.beginnings.emplace(name.substr(0, end), meaning);
+        addTo(names.beginnings, name.substr(0, end), meaning);
       }
     }
   }
@@ -94,10 +101,10 @@ const Names& allNames() {
   static const Names names = [] {
     Names all;
     for (std::size_t i = 0; i < kMonths.size(); ++i) {
-      add(all, kMonths[i], {DateName::Kind::month, static_cast<int>(i) + 1});
+      add(all, kMonths[i], {.month = static_cast<int>(i) + 1});
     }
     for (std::size_t i = 0; i < kWeekdays.size(); ++i) {
-      add(all, kWeekdays[i], {DateName::Kind::weekday, static_cast<int>(i) + 1});
+      add(all, kWeekdays[i], {.weekday = static_cast<int>(i) + 1});
     }
     return all;
   }();
@@ -132,16 +139,28 @@ std::string inSmallLetters(std::string_view word) {
   return small;
 }
 
-}  // namespace
-
-std::optional<DateName> dateNameOf(std::string_view word) {
+DateName nameInUtf8(std::string_view word) {
   const std::string small = inSmallLetters(word);
   const Names& names = allNames();
   if (const auto found = names.whole.find(small); found != names.whole.end()) {
     return found->second;
   }
   const auto found = names.beginnings.find(small);
-  return found != names.beginnings.end() ? std::optional(found->second) : std::nullopt;
+  return found != names.beginnings.end() ? found->second : DateName{};
+}
+
+}  // namespace
+
+DateName dateNameOf(std::string_view word) {
+  if (isUtf8(word)) {
+    return nameInUtf8(word);
+  }
+  for (const std::string& reading : readingsOf(word)) {
+    if (const DateName name = nameInUtf8(reading)) {
+      return name;
+    }
+  }
+  return {};
 }
 
 }  // namespace tarnwick

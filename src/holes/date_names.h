@@ -1,22 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
-#include <string>
 #include <string_view>
 
 namespace tarnwick {
 
-/// What a word in a date means.
+/// What a word in a date means: a month, a day of the week, or either, as "mar" does in French.
 struct DateName {
-  enum class Kind { month, weekday };
+  int month = 0;    ///< from 1 on, January; 0 for none
+  int weekday = 0;  ///< from 1 on, Monday; 0 for none
 
-  Kind kind;
-  int number;  ///< from 1: January, Monday
+  explicit operator bool() const { return month > 0 || weekday > 0; }
 };
 
 /// The month or the weekday of that name, whole or shortened, in upper or lower case, in any of the languages that are
-/// known; nothing for another word. `word` is UTF-8.
-std::optional<DateName> dateNameOf(std::string_view word);
+/// known; none for another word. `word` is in UTF-8 or in one of the codes with a byte for each letter.
+DateName dateNameOf(std::string_view word);
 
 }  // namespace tarnwick

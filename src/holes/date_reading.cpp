@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <chrono>
 
 #include "base/text.h"
 #include "holes/date_form.h"
@@ -23,7 +24,7 @@ class Reader {
         return std::nullopt;
       }
     }
-    return result_;
+    return canBe() ? std::optional(result_) : std::nullopt;
   }
 
  private:
@@ -62,7 +63,7 @@ class Reader {
       case 'Y':
         return keep(result_.year, number(4, 4, 1900, 2199));
       case 'y':
-        return number(2, 2, 0, 99).has_value();
+        return keepShortYear();
       case 'm':
         return keep(result_.month, number(1, 2, 1, 12));
       case 'd':
@@ -72,7 +73,7 @@ class Reader {
         take(ordinalAt(rest()));
         return true;
       case 'e':
-        return number(1, 2, 1, 31).has_value();
+        return keep(result_.either[0] ? result_.either[1] : result_.either[0], number(1, 2, 1, 31));
       case 'H':
         return keep(result_.hour, number(1, 2, 0, 24));
       case 'M':
@@ -81,6 +82,8 @@ class Reader {
         return number(2, 2, 0, 60).has_value();
       case 'f':
         return number(1, 9, 0, 999'999'999).has_value();
+      case 'N':
+        return take(dayCountAt(rest()));
       case 'p':
         return take(halfDayAt(rest()));
       case 'z':
@@ -95,14 +98,26 @@ class Reader {
     if (which == 'L') {
       return take(found.length);
     }
-    const auto wanted = which == 'B' ? DateName::Kind::month : DateName::Kind::weekday;
-    if (!found.name || found.name->kind != wanted) {
+    if (which == 'B' && found.name.month > 0) {
+      result_.month = found.name.month;
+      return take(found.length);
+    }
+    return which == 'A' && found.name.weekday > 0 && take(found.length);
+  }
+
+  bool keepShortYear() {
+    const auto year = number(2, 2, 0, 99);
+    return keep(result_.year, year ? std::optional(2000 + *year) : std::nullopt);
+  }
+
+  /// No February has 30 days, and of two numbers one is a month.
+  bool canBe() const {
+    if (result_.either[0] && result_.either[1] && *result_.either[0] > 12 && *result_.either[1] > 12) {
       return false;
     }
-    if (which == 'B') {
-      result_.month = found.name->number;
-    }
-    return take(found.length);
+    const std::chrono::month_day day(std::chrono::month(static_cast<unsigned>(result_.month.value_or(1))),
+                                     std::chrono::day(static_cast<unsigned>(result_.day.value_or(1))));
+    return day.ok() && (!result_.year || (std::chrono::year(*result_.year) / day.month() / day.day()).ok());
   }
 
   std::string_view text_;
@@ -110,6 +125,14 @@ class Reader {
 };
 
 }  // namespace
+
+bool DateRead::mayBeOn(std::chrono::year_month_day other) const {
+  const auto itsMonth = static_cast<int>(static_cast<unsigned>(other.month()));
+  const auto itsDay = static_cast<int>(static_cast<unsigned>(other.day()));
+  const bool isIt = (month == itsMonth && day == itsDay) || (either[0] == itsMonth && either[1] == itsDay) ||
+                    (either[0] == itsDay && either[1] == itsMonth);
+  return isIt && (!year || *year == static_cast<int>(other.year()));
+}
 
 std::optional<DateRead> readDate(std::string_view text, std::string_view form) { return Reader(text).read(form); }
 

@@ -3,9 +3,12 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <span>
+#include <string>
 
 #include "base/text.h"
+#include "holes/code_pages.h"
 
 namespace tarnwick {
 namespace {
@@ -23,26 +26,50 @@ std::size_t firstOf(std::string_view text, std::span<const std::string_view> wor
 
 bool endsWord(std::string_view text, std::size_t at) { return at >= text.size() || !isLetter(text[at]); }
 
-// Chinese, Japanese and Korean stand without blanks; a character of theirs takes three bytes.
-bool isWithoutBlanks(std::string_view text) {
-  const auto lead = static_cast<unsigned char>(text.front());
-  return lead >= 0xE3 && lead <= 0xED;
+constexpr std::size_t kLongestWithoutBlanks = 3;  // characters
+
+/// A character of East Asia, in any code that is usual there.
+struct EastAsianCharacter {
+  char32_t character;
+  std::size_t length;
+};
+
+std::optional<EastAsianCharacter> inCode(std::string_view text, std::size_t code) {
+  if (code < kEastAsianCodes) {
+    const auto character = eastAsianAt(text, code);
+    return character ? std::optional(EastAsianCharacter{*character, 2}) : std::nullopt;
+  }
+  const auto decoded = decodeUtf8(text);
+  return decoded && decoded->character >= 0x3000
+             ? std::optional(EastAsianCharacter{decoded->character, decoded->length})
+             : std::nullopt;
 }
 
-}  // namespace
-
-DateWord dateWordAt(std::string_view text) {
-  if (text.empty()) {
-    return {};
-  }
-  if (isWithoutBlanks(text)) {
-    for (const std::size_t length : {9U, 6U, 3U}) {
-      if (const auto name = dateNameOf(text.substr(0, length)); name && text.size() >= length) {
-        return {length, name};
+// Chinese, Japanese and Korean stand without blanks.
+DateWord nameWithoutBlanks(std::string_view text) {
+  for (std::size_t code = kEastAsianCodes + 1; code-- > 0;) {  // UTF-8 first
+    DateWord longest;
+    std::string characters;
+    std::size_t length = 0;
+    for (std::size_t count = 0; count < kLongestWithoutBlanks; ++count) {
+      const auto next = inCode(text.substr(length), code);
+      if (!next) {
+        break;
+      }
+      appendUtf8(characters, next->character);
+      length += next->length;
+      if (const DateName name = dateNameOf(characters)) {
+        longest = {length, name};
       }
     }
-    return {};
+    if (longest.length > 0) {
+      return longest;
+    }
   }
+  return {};
+}
+
+DateWord wordOfLetters(std::string_view text) {
   std::size_t length = 0;
   const auto isPart = [&](std::size_t at) {
     const char c = text[at];
@@ -56,13 +83,30 @@ DateWord dateWordAt(std::string_view text) {
     return {};
   }
   std::string_view word = text.substr(0, length);
-  auto name = dateNameOf(word);
+  DateName name = dateNameOf(word);
   if (!name && word.find('-') != std::string_view::npos) {  // "22-nov-2026"
     word = word.substr(0, word.find('-'));
     name = dateNameOf(word);
   }
   const std::size_t end = word.size();
   return {end + (name && end < text.size() && text[end] == '.' ? 1 : 0), name};
+}
+
+}  // namespace
+
+DateWord dateWordAt(std::string_view text) {
+  if (text.empty()) {
+    return {};
+  }
+  if (static_cast<unsigned char>(text.front()) < 0x80) {
+    return wordOfLetters(text);
+  }
+  const DateWord without = nameWithoutBlanks(text);
+  if (inCode(text, kEastAsianCodes)) {
+    return without;
+  }
+  const DateWord letters = wordOfLetters(text);
+  return without.length > 0 && (!letters.name || letters.length <= without.length) ? without : letters;
 }
 
 std::size_t halfDayAt(std::string_view text) {
@@ -111,23 +155,40 @@ std::size_t blanksAt(std::string_view text) {
   return length;
 }
 
+std::size_t dayCountAt(std::string_view text) {
+  static constexpr std::array<std::string_view, 14> kUnits = {
+      "days", "day", "tage", "tag", "jours", "jour", "dagen", "dag", "giorni", "giorno", "días", "día", "dias", "dia"};
+  std::size_t length = 0;
+  while (length < text.size() && isDigit(text[length])) {
+    ++length;
+  }
+  if (length == 0 || length > 6) {
+    return 0;
+  }
+  length += blanksAt(text.substr(length));
+  const std::size_t unit = firstOf(text.substr(length), kUnits);
+  return unit > 0 && endsWord(text, length + unit) ? length + unit : 0;
+}
+
 std::size_t ordinalAt(std::string_view text) {
   static constexpr std::array<std::string_view, 8> kEnds = {"st", "nd", "rd", "th", "er", "ème", "º", "ª"};
   const std::size_t length = firstOf(text, kEnds);
   return endsWord(text, length) ? length : 0;
 }
 
-// UTF-8, Shift-JIS, EUC-JP, GBK, Big5.
 std::size_t counterAt(std::string_view text, Counter counter) {
-  static constexpr std::array<std::array<std::string_view, 8>, 6> kCounters = {{
-      {"年", "년", "\x94\x4E", "\xC7\xAF", "\xC4\xEA", "\xA6\x7E", "年", "年"},
-      {"月", "월", "\x8C\x8E", "\xB7\xEE", "\xD4\xC2", "\xA4\xEB", "月", "月"},
-      {"日", "일", "\x93\xFA", "\xC6\xFC", "\xC8\xD5", "\xA4\xE9", "号", "號"},
-      {"時", "시", "\x8E\x9E", "\xBB\xFE", "\xCA\xB1", "\xAE\xC9", "时", "点"},
-      {"分", "분", "\x95\xAA", "\xCA\xAC", "\xB7\xD6", "\xA4\xC0", "分", "分"},
-      {"秒", "초", "\x95\x62", "\xC9\xC3", "\xC3\xEB", "\xAC\xED", "秒", "秒"},
-  }};
-  return firstOf(text, kCounters[static_cast<std::size_t>(counter)]);
+  static constexpr std::array<std::u32string_view, 6> kCounters = {U"年년",     U"月월", U"日일号號",
+                                                                   U"時시时点", U"分분", U"秒초"};
+  if (text.empty() || static_cast<unsigned char>(text.front()) < 0x80) {
+    return 0;
+  }
+  for (std::size_t code = kEastAsianCodes + 1; code-- > 0;) {
+    const auto next = inCode(text, code);
+    if (next && kCounters[static_cast<std::size_t>(counter)].find(next->character) != std::u32string_view::npos) {
+      return next->length;
+    }
+  }
+  return 0;
 }
 
 }  // namespace tarnwick

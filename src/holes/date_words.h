@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string_view>
 
 #include "holes/date_names.h"
@@ -12,7 +11,7 @@ namespace tarnwick {
 /// A word of a date, at the beginning of a text.
 struct DateWord {
   std::size_t length = 0;  ///< with the dot behind a shortened name
-  std::optional<DateName> name{};
+  DateName name{};
 };
 
 /// The letters at the beginning of the text, with those of other alphabets; none where it begins with none. Where words
@@ -25,6 +24,8 @@ std::size_t halfDayAt(std::string_view text);
 std::size_t zoneAt(std::string_view text);
 /// How many bytes of blanks stand there, also those that do not break.
 std::size_t blanksAt(std::string_view text);
+/// How many bytes a count of days takes there: "215 days", "1 day".
+std::size_t dayCountAt(std::string_view text);
 /// "st", "nd", "er" and so on behind a day of the month; 0 where there is none.
 std::size_t ordinalAt(std::string_view text);
 

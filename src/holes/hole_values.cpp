@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "holes/date_form.h"
+#include "holes/numbers.h"
 
 namespace tarnwick {
 namespace {
@@ -29,11 +30,15 @@ bool dividesThousands(std::string_view text, std::size_t at, std::size_t digitsB
 
 std::size_t findNumber(const Hole& hole, std::string_view text, const char* next,
                        const std::function<bool(std::size_t)>& isRight) {
-  const NumberFound number = numberAt(text, hole.form, next);
-  if (number.digits < hole.least || number.digits > hole.most) {
-    return kNone;
+  std::size_t tried = kNone;
+  for (const char* const stop : {next, static_cast<const char*>(nullptr)}) {
+    const NumberFound number = numberAt(text, hole.form, stop);
+    if (number.length != tried && number.digits >= hole.least && number.digits <= hole.most && isRight(number.length)) {
+      return number.length;
+    }
+    tried = number.length;
   }
-  return isRight(number.length) ? number.length : kNone;
+  return kNone;
 }
 
 std::size_t findChoice(const Hole& hole, std::string_view text, const std::function<bool(std::size_t)>& isRight) {
@@ -61,24 +66,28 @@ bool isOfClass(HoleClass kind, char byte) {
 }
 
 NumberFound numberAt(std::string_view text, std::string_view separators, const char* stop) {
-  const bool mayBeNegative = separators.find('-') != kNone;
-  std::size_t at = mayBeNegative && text.starts_with('-') ? 1 : 0;
+  const auto isAmong = [&](std::string_view mark) { return separators.find(mark) != kNone; };
+  const bool isSigned = !text.empty() && (text.front() == '-' || text.front() == '+') && isAmong(text.substr(0, 1));
+  std::size_t at = isSigned ? 1 : 0;
   NumberFound found;
   std::size_t inGroup = 0;
   while (at < text.size()) {
-    const char c = text[at];
-    if (isDigit(c)) {
+    if (isDigit(text[at])) {
       ++found.digits;
       ++inGroup;
       found.length = ++at;
       continue;
     }
-    const bool isSeparator = c != '-' && separators.find(c) != kNone && at + 1 < text.size() && isDigit(text[at + 1]);
-    if (found.digits == 0 || (stop != nullptr && *stop == c) || !(isSeparator || dividesThousands(text, at, inGroup))) {
+    const std::size_t mark = numberMarkAt(text.substr(at));
+    if (mark == 0 || found.digits == 0 || (stop != nullptr && *stop == text[at])) {
+      break;
+    }
+    const bool isSeparator = isAmong(text.substr(at, mark)) && at + mark < text.size() && isDigit(text[at + mark]);
+    if (!isSeparator && !dividesThousands(text, at, inGroup)) {
       break;
     }
     inGroup = 0;
-    ++at;
+    at += mark;
   }
   return found;
 }

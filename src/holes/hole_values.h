@@ -27,8 +27,9 @@ struct NumberFound {
   std::size_t length = 0;
   std::size_t digits = 0;
 };
-/// `separators` are the bytes that may stand between two digits, '-' one that may stand before the first; besides, any
-/// of , . ' may divide thousands, but for `stop`. Nothing is found where there is none.
+/// `separators` are the marks that may stand between two digits (see `numbers.h`), and the signs, - and +, that may
+/// stand before the first; besides, any of , . ' may divide thousands. A mark that begins with `stop` ends the number.
+/// Nothing is found where there is none.
 NumberFound numberAt(std::string_view text, std::string_view separators, const char* stop);
 
 }  // namespace tarnwick

@@ -77,7 +77,7 @@ class Joiner {
       return between.size() <= kFewBytes;
     }
     const bool areKeys = isKey(one) && isKey(other) && between.size() <= kFewBytes &&
-                         std::ranges::all_of(between, [](char c) { return isOneOf(c, "+/=_-."); });
+                         std::ranges::all_of(between, [](char c) { return isOneOf(c, "+/=_-"); });
     const bool areHex = one.kind == HoleClass::hex && other.kind == HoleClass::hex;
     const bool areNumbers = one.kind == HoleClass::digits && other.kind == HoleClass::digits;
     return areKeys && !areHex && !areNumbers;

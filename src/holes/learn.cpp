@@ -85,15 +85,12 @@ void makeOne(Copies& copies) {
 
 Lesson learn(std::span<const std::string> texts, LocalTime now) {
   const std::chrono::year_month_day today(std::chrono::floor<std::chrono::days>(now));
-  const int year = static_cast<int>(today.year());
-  const auto month = static_cast<int>(static_cast<unsigned>(today.month()));
-  const auto day = static_cast<int>(static_cast<unsigned>(today.day()));
   Copies copies(texts);
   if (copies.places().size() > kMostPlaces) {
     makeOne(copies);
   } else {
     widenToWhole(copies);
-    takeDatesBesideTimes(copies, year, month, day);
+    takeDatesBesideTimes(copies, today);
     joinNeighbours(copies);
   }
   Lesson lesson;

@@ -24,9 +24,7 @@ bool isInHole(const Holes& holes, const DateFound& date) {
 bool isToday(const DateRead& read, LocalTime now) {
   for (const int distance : {-1, 0, 1}) {
     const std::chrono::year_month_day day(std::chrono::floor<std::chrono::days>(now) + std::chrono::days(distance));
-    if (read.month == static_cast<int>(static_cast<unsigned>(day.month())) &&
-        read.day == static_cast<int>(static_cast<unsigned>(day.day())) &&
-        (!read.year || *read.year == static_cast<int>(day.year()))) {
+    if (read.mayBeOn(day)) {
       return true;
     }
   }

@@ -11,8 +11,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::string_view kNumberMarks = ".,'";
-
 /// The form that reads what all copies have there; nothing when there is none.
 std::optional<std::string> formFor(const Copies& copies, const Region& region) {
   const auto values = copies.values(region);
@@ -48,53 +46,6 @@ bool widenToDate(Copies& copies, std::size_t index) {
     return false;
   }
   copies.put({*whole, dateHole(*form)});
-  return true;
-}
-
-/// How far a number goes on to the left of a place of the text.
-std::size_t numberBegin(std::string_view text, std::size_t at, std::size_t least) {
-  const auto isMark = [&](std::size_t i) { return kNumberMarks.find(text[i]) != std::string_view::npos; };
-  while (at > least && (isDigit(text[at - 1]) || (isMark(at - 1) && at > least + 1 && isDigit(text[at - 2])))) {
-    --at;
-  }
-  const bool startsNumber = at > least && text[at - 1] == '-' &&
-                            (at < 2 || !(isDigit(text[at - 2]) || isLetter(text[at - 2]) || text[at - 2] == ')'));
-  return startsNumber ? at - 1 : at;
-}
-
-std::size_t numberEnd(std::string_view text, std::size_t at, std::size_t most) {
-  const auto isMark = [&](std::size_t i) { return kNumberMarks.find(text[i]) != std::string_view::npos; };
-  while (at < most && (isDigit(text[at]) || (isMark(at) && at + 1 < most && isDigit(text[at + 1])))) {
-    ++at;
-  }
-  return at;
-}
-
-bool widenToNumber(Copies& copies, std::size_t index) {
-  const Region region = copies.places()[index].region;
-  const std::string_view before = copies.fixedBefore(index);
-  const std::string_view behind = copies.fixedBefore(index + 1);
-  const auto values = copies.values(region);
-  if (!std::ranges::all_of(values, [](std::string_view value) {
-        return std::ranges::all_of(value, [](char c) {
-          return isDigit(c) || kNumberMarks.find(c) != std::string_view::npos || c == '-' || c == ' ';
-        });
-      })) {
-    return false;
-  }
-  const std::size_t left = before.size() - numberBegin(before, before.size(), 0);
-  const std::size_t right = numberEnd(behind, 0, behind.size());
-  Region whole = region;
-  for (std::size_t copy = 0; copy < whole.from.size(); ++copy) {
-    whole.from[copy] -= left;
-    whole.to[copy] += right;
-  }
-  const auto numbers = copies.values(whole);
-  Hole hole = classified(numbers, false);
-  if (hole.kind != HoleClass::digits) {
-    return false;
-  }
-  copies.places()[index] = {std::move(whole), std::move(hole)};
   return true;
 }
 
@@ -203,14 +154,15 @@ void widenToWhole(Copies& copies) {
       index = indexOf(copies, begin);
       continue;
     }
-    if (!binary) {
+    if (!binary && widenToNumbers(copies, index)) {
+      index = indexOf(copies, begin);
+    } else if (!binary) {
       takeFixedFromWord(copies, index);
-      widenToNumber(copies, index);
     }
   }
 }
 
-void takeDatesBesideTimes(Copies& copies, int year, int month, int day) {
+void takeDatesBesideTimes(Copies& copies, std::chrono::year_month_day today) {
   constexpr std::size_t kNear = 96;
   for (std::size_t index = 0; index < copies.places().size(); ++index) {
     const Place& place = copies.places()[index];
@@ -225,9 +177,8 @@ void takeDatesBesideTimes(Copies& copies, int year, int month, int day) {
     for (auto date = nextDate(copies.first(), time - std::min(time, kNear)); date && date->begin < end + kNear;
          date = nextDate(copies.first(), date->end())) {
       const auto read = readDate(copies.first().substr(date->begin), date->form);
-      const bool isToday = read && (!read->year || *read->year == year) && read->month == month && read->day == day;
       const auto whole = copies.regionOf(date->begin, date->end());
-      if (date->hasDate && isToday && whole && (date->end() <= time || date->begin >= end)) {
+      if (date->hasDate && read && read->mayBeOn(today) && whole && (date->end() <= time || date->begin >= end)) {
         copies.put({*whole, dateHole(date->form)});
         break;
       }

@@ -72,7 +72,32 @@ INSTANTIATE_TEST_SUITE_P(
         Written{"2026年11月22日(日) 18時40分10秒", "%Y年%m月%d日(%A) %H時%M分%S秒", {"2027年1月1日(金) 0時00分00秒"}},
         Written{"2026年11月22日星期日 下午6:40", "%Y年%m月%d日%A %p%H:%M", {"2027年1月1日星期五 上午12:00"}},
         Written{"22-Nov-2026", "%d-%B-%Y", {"1-Jan-2027"}}, Written{"Nov 22", "%B %d", {"Jan 1"}},
-        Written{"November 2026", "%B %Y", {"January 2027"}}));
+        Written{"November 2026", "%B %Y", {"January 2027"}},
+        Written{"22/Nov/2026:18:40:10 +0000", "%d/%B/%Y:%H:%M:%S %z", {"01/Jan/2027:00:00:00 +0100"}},
+        Written{"mar. 14 juil. 2026, 16h29", "%A %d %B %Y, %Hh%M", {"mer. 1 août 2027, 00h00"}},
+        Written{"mar 3 nov 2026 - 00.21", "%A %d %B %Y - %H.%M", {"dom 1 gen 2027 - 23.59"}},
+        Written{"So 15.02. 12:31:57", "%A %d.%m. %H:%M:%S", {"Mo 1.1. 0:00:00"}},
+        Written{"22/11 18:40", "%d/%m %H:%M", {"01/01 00:00"}},
+        Written{"samedi 7 février 2026 à 15 h 03 min 57 s",
+                "%A %d %B %Y à %H h %M min %S s",
+                {"dimanche 1er août 2027 à 0 h 00 min 00 s"}},
+        Written{"jueves 25 de junio del 2026 a las 10:29:57",
+                "%A %d de %B del %Y a las %H:%M:%S",
+                {"lunes 1 de enero del 2027 a las 00:00:00"}},
+        Written{"22 Nov 2026, 5.31pm", "%d %B %Y, %H.%M%p", {"1 Jan 2027, 12.00am"}},
+        Written{"22.11.26 18:40", "%d.%m.%y %H:%M", {"01.01.27 00:00"}},
+        Written{"2026年十一月22日 周日 18:40:10", "%Y年%B%d日 %A %H:%M:%S", {"2027年一月1日 周五 00:00:00"}},
+        Written{"2026年06月29日（月）15:53", "%Y年%m月%d日（%A）%H:%M", {"2027年1月1日（金）0:00"}},
+        Written{"20261122-184010", "%Y%m%d-%H%M%S", {"20270101-000000"}},
+        Written{"20261122184010Z", "%Y%m%d%H%M%S%z", {"20270101000000+01:00"}},
+        Written{"215 days, 04:10:58", "%N, %H:%M:%S", {"1 day, 00:00:00", "1024 days, 23:59:59"}},
+        // In Latin-1, KOI8, Windows-1251 and Shift-JIS.
+        Written{"3. M\xE4rz 2026", "%d. %B %Y", {"22. November 2027"}},
+        Written{"22 \xCE\xCF\xD1 2026", "%d %B %Y", {"1 \xC6\xC5\xD7 2027"}},
+        Written{"22 \xED\xEE\xFF\xE1\xF0\xFF 2026", "%d %B %Y", {"1 \xEC\xE0\xFF 2027"}},
+        Written{"2026\x94\x4E\x31\x31\x8C\x8E\x32\x32\x93\xFA(\x93\xFA) 18:40",
+                "%Y\x94\x4E%m\x8C\x8E%d\x93\xFA(%A) %H:%M",
+                {"2027\x94\x4E\x31\x8C\x8E\x31\x93\xFA(\x8B\xE0) 0:00"}}));
 
 TEST(WhatIsNoDate, IsNotTakenForOne) {
   for (const char* text : {"18,204", "3.14", "1.2.3", "192.168.1.17", "Monday", "may", "20", "2026", "12/5", "99:99",
@@ -88,6 +113,10 @@ TEST(AFormOfADate, RefusesWhatCannotBe) {
   EXPECT_FALSE(readDate("2026-13-01", "%Y-%m-%d"));
   EXPECT_FALSE(readDate("<script>", "%Y-%m-%d"));
   EXPECT_FALSE(readDate("", "%H:%M"));
+  EXPECT_FALSE(readDate("30.02.2027", "%d.%m.%Y"));
+  EXPECT_FALSE(readDate("29.02.2027", "%d.%m.%Y"));
+  EXPECT_TRUE(readDate("29.02.2028", "%d.%m.%Y"));
+  EXPECT_FALSE(readDate("13/21/2027", "%e/%e/%Y"));
 }
 
 TEST(TheNextDate, IsFoundBetweenOtherWords) {

@@ -126,6 +126,42 @@ TEST(TwoNumbersInOneLine, StayTwo) {
   EXPECT_FALSE(page.isSame("rendered in 1.2 s by wab3\n"));
 }
 
+TEST(ANumber, IsOnePlaceWithAllItsDigits) {
+  const std::vector<std::string> visits = {"998,997", "998,999", "999,001", "1,000,003", "1,000,010"};
+  const Learnt commas = learnt([&](int i) { return "Visits: " + visits[static_cast<std::size_t>(i)] + " so far\n"; });
+  EXPECT_EQ(commas.holes(), (Shown{"digits 1-10 [998,997]"}));
+  EXPECT_TRUE(commas.isSame("Visits: 12,345,678 so far\n"));
+  EXPECT_FALSE(commas.isSame("Visits: 12,345,x78 so far\n"));
+
+  const Learnt narrow = learnt([](int i) { return "<p>1\u202F23" + std::to_string(4 + i) + " visits</p>\n"; });
+  EXPECT_EQ(narrow.lesson.holes.front().kind, HoleClass::digits);
+  EXPECT_TRUE(narrow.isSame("<p>999 visits</p>\n"));
+  EXPECT_TRUE(narrow.isSame("<p>1\u202F234\u202F567 visits</p>\n"));
+
+  const std::vector<std::string> changes = {"+3.99", "-0.12", "+1.50", "-4.01", "+0.07"};
+  const Learnt sign = learnt([&](int i) { return "Today " + changes[static_cast<std::size_t>(i)] + "%\n"; });
+  EXPECT_EQ(sign.holes(), (Shown{"digits 1-6 [+3.99]"}));
+  EXPECT_FALSE(sign.isSame("Today +2x55%\n"));
+}
+
+TEST(SeveralNumbers, AreAPlaceEach) {
+  const std::vector<std::string> loads = {"7.78, 4.00, 2.69", "6.12, 3.90, 2.71", "0.99, 14.2, 3.00",
+                                          "1.02, 13.00, 2.99", "5.55, 6.66, 7.77"};
+  const Learnt load = learnt([&](int i) { return "{\"load\": [" + loads[static_cast<std::size_t>(i)] + "]}\n"; });
+  EXPECT_EQ(load.holes(), (Shown{"digits 1-6 [7.78]", "digits 1-7 [4.00]", "digits 1-6 [2.69]"}));
+
+  const std::vector<std::string> addresses = {"10.91.39.252", "10.7.200.1", "10.85.190.206", "10.0.0.9", "10.1.39.33"};
+  const Learnt address = learnt([&](int i) { return "From " + addresses[static_cast<std::size_t>(i)] + " it is.\n"; });
+  EXPECT_EQ(address.lesson.holes.size(), 3U);
+  EXPECT_FALSE(address.isSame("From 10.91.x39.252 it is.\n"));
+
+  const Learnt callback = learnt([](int i) {
+    return "jQuery36" + std::to_string(1710 + i * 7919) + "_178" + std::to_string(5000 + i * 77) + "({\"a\": 1})\n";
+  });
+  EXPECT_EQ(callback.lesson.holes.size(), 2U);
+  EXPECT_FALSE(callback.isSame("jQuery36x_1785000({\"a\": 1})\n"));
+}
+
 TEST(ADateOfTodayThatHasNotChanged, IsWarnedOf) {
   const Learnt page = learnt([](int) { return "<p>Today is 22 November 2026.</p>\n<p>Written on 3 March 2020.</p>"; });
   EXPECT_TRUE(page.lesson.holes.empty());
