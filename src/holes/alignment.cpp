@@ -13,6 +13,11 @@ namespace {
 /// The largest table that two short rows of tokens are compared in.
 constexpr std::size_t kLargestTable = std::size_t{1} << 18U;
 constexpr int kDeepest = 64;
+/// How many tokens are looked at for all of two texts, and how many cells of a table count for one.
+constexpr std::size_t kMostLooks = 6'000'000;
+constexpr std::size_t kCellsOfALook = 8;
+/// More pieces in common than that are chance.
+constexpr std::size_t kMostInCommon = 20'000;
 /// Of a picture or an archive: fewer equal bytes between two that differ are chance.
 constexpr std::size_t kFewestEqualBytes = 3;
 
@@ -42,10 +47,21 @@ std::size_t tokenLength(std::string_view text) {
   return std::max<std::size_t>(blanks, 1);
 }
 
+/// How often a token stands in a part of the two texts, and where.
+struct Seen {
+  std::uint32_t inOne = 0;
+  std::uint32_t inOther = 0;
+  std::size_t otherAt = 0;
+};
+struct Kinds {
+  std::vector<Seen> seen;  ///< by the tokens' numbers; all as if never seen between two looks
+};
+
 /// Tokens of one text by the numbers that equal ones share, and where they begin.
 struct Tokens {
   std::vector<std::uint32_t> ids;
   std::vector<std::size_t> begins;  ///< one more than there are tokens
+  Kinds* kinds = nullptr;
 };
 
 class Aligner {
@@ -77,13 +93,15 @@ class Aligner {
       tokens.begins.push_back(to);
       return tokens;
     };
-    const Tokens one = split(one_, oneFrom, oneTo);
+    Tokens one = split(one_, oneFrom, oneTo);
     const Tokens other = split(other_, otherFrom, otherTo);
+    Kinds kinds{std::vector<Seen>(numbers.size())};
+    one.kinds = &kinds;
     const bool byLines = length == lineLength;
-    alignRange(one, other, {0, one.ids.size(), 0, other.ids.size()}, byLines, numbers.size(), 0);
+    alignRange(one, other, {0, one.ids.size(), 0, other.ids.size()}, byLines, 0);
   }
 
-  void alignRange(const Tokens& one, const Tokens& other, Range range, bool byLines, std::size_t kinds, int depth) {
+  void alignRange(const Tokens& one, const Tokens& other, Range range, bool byLines, int depth) {
     while (range.oneFrom < range.oneTo && range.otherFrom < range.otherTo &&
            one.ids[range.oneFrom] == other.ids[range.otherFrom]) {
       take(one, range.oneFrom++, other, range.otherFrom++);
@@ -96,17 +114,19 @@ class Aligner {
       ++tail;
     }
     if (range.oneFrom < range.oneTo && range.otherFrom < range.otherTo) {
-      const auto pairs = depth < kDeepest ? uniquePairs(one, other, range) : Pairs{};
+      const auto pairs = depth < kDeepest && maySpend(range.oneTo - range.oneFrom + range.otherTo - range.otherFrom)
+                             ? uniquePairs(one, other, range)
+                             : Pairs{};
       if (!pairs.empty()) {
         std::size_t oneFrom = range.oneFrom;
         std::size_t otherFrom = range.otherFrom;
         for (const auto& [i, j] : pairs) {
-          alignRange(one, other, {oneFrom, i, otherFrom, j}, byLines, kinds, depth + 1);
+          alignRange(one, other, {oneFrom, i, otherFrom, j}, byLines, depth + 1);
           take(one, i, other, j);
           oneFrom = i + 1;
           otherFrom = j + 1;
         }
-        alignRange(one, other, {oneFrom, range.oneTo, otherFrom, range.otherTo}, byLines, kinds, depth + 1);
+        alignRange(one, other, {oneFrom, range.oneTo, otherFrom, range.otherTo}, byLines, depth + 1);
       } else if (byLines) {
         alignBy(tokenLength, one.begins[range.oneFrom], one.begins[range.oneTo], other.begins[range.otherFrom],
                 other.begins[range.otherTo]);
@@ -122,28 +142,29 @@ class Aligner {
   using Pairs = std::vector<std::pair<std::size_t, std::size_t>>;
 
   // What each of the two has once only, as far as it stands in the same order in both.
-  static Pairs uniquePairs(const Tokens& one, const Tokens& other, const Range& range) {
-    struct Seen {
-      std::size_t inOne = 0, inOther = 0, oneAt = 0, otherAt = 0;
-    };
-    std::unordered_map<std::uint32_t, Seen> seen;
-    for (std::size_t i = range.oneFrom; i < range.oneTo; ++i) {
-      Seen& it = seen[one.ids[i]];
-      ++it.inOne;
-      it.oneAt = i;
-    }
+  Pairs uniquePairs(const Tokens& one, const Tokens& other, const Range& range) {
+    std::vector<Seen>& seen = one.kinds->seen;
     for (std::size_t j = range.otherFrom; j < range.otherTo; ++j) {
       Seen& it = seen[other.ids[j]];
       ++it.inOther;
       it.otherAt = j;
     }
+    for (std::size_t i = range.oneFrom; i < range.oneTo; ++i) {
+      ++seen[one.ids[i]].inOne;
+    }
     Pairs both;
-    for (const auto& [id, it] : seen) {
+    for (std::size_t i = range.oneFrom; i < range.oneTo; ++i) {
+      const Seen& it = seen[one.ids[i]];
       if (it.inOne == 1 && it.inOther == 1) {
-        both.emplace_back(it.oneAt, it.otherAt);
+        both.emplace_back(i, it.otherAt);
       }
     }
-    std::ranges::sort(both);
+    for (std::size_t i = range.oneFrom; i < range.oneTo; ++i) {
+      seen[one.ids[i]] = {};
+    }
+    for (std::size_t j = range.otherFrom; j < range.otherTo; ++j) {
+      seen[other.ids[j]] = {};
+    }
     return longestRise(both);
   }
 
@@ -174,7 +195,7 @@ class Aligner {
   void longestCommon(const Tokens& one, const Tokens& other, const Range& range) {
     const std::size_t rows = range.oneTo - range.oneFrom;
     const std::size_t columns = range.otherTo - range.otherFrom;
-    if (rows * columns > kLargestTable) {
+    if (rows * columns > kLargestTable || !maySpend(rows * columns / kCellsOfALook)) {
       return;
     }
     std::vector<std::uint32_t> table((rows + 1) * (columns + 1));
@@ -211,8 +232,16 @@ class Aligner {
     }
   }
 
+  /// Whether so many tokens may still be looked at: texts with little in common are not worth more.
+  bool maySpend(std::size_t looks) {
+    const bool may = looks <= looks_;
+    looks_ -= may ? looks : 0;
+    return may;
+  }
+
   std::string_view one_;
   std::string_view other_;
+  std::size_t looks_ = kMostLooks;
   std::vector<EqualStretch> found_;
 };
 
@@ -306,6 +335,38 @@ std::vector<Common> equalPlaces(std::span<const std::string> copies) {
   return common;
 }
 
+/// What all copies begin and end with.
+std::vector<Common> commonEnds(std::span<const std::string> copies) {
+  const std::string_view first = copies.front();
+  std::size_t begin = first.size();
+  std::size_t shortest = first.size();
+  for (const std::string_view copy : copies) {
+    begin = std::min(begin, static_cast<std::size_t>(std::ranges::mismatch(first, copy).in1 - first.begin()));
+    shortest = std::min(shortest, copy.size());
+  }
+  std::size_t end = shortest - begin;
+  for (const std::string_view copy : copies) {
+    const auto isEqual = [&](std::size_t length) { return copy[copy.size() - length] == first[first.size() - length]; };
+    std::size_t equal = 0;
+    while (equal < end && isEqual(equal + 1)) {
+      ++equal;
+    }
+    end = equal;
+  }
+  std::vector<Common> common;
+  if (begin > 0) {
+    common.push_back({std::vector<std::size_t>(copies.size(), 0), begin});
+  }
+  if (end > 0) {
+    std::vector<std::size_t> ends;
+    for (const std::string_view copy : copies) {
+      ends.push_back(copy.size() - end);
+    }
+    common.push_back({std::move(ends), end});
+  }
+  return common;
+}
+
 }  // namespace
 
 std::vector<EqualStretch> alignTexts(std::string_view one, std::string_view other) {
@@ -325,6 +386,11 @@ std::vector<Region> differingRegions(std::span<const std::string> copies) {
     common.push_back({{0}, first.size()});
     for (const std::string& copy : copies.subspan(1)) {
       common = narrowed(common, alignTexts(first, copy));
+      join(common);
+      if (common.size() > kMostInCommon) {
+        common = commonEnds(copies);
+        break;
+      }
     }
   }
   join(common);

@@ -125,15 +125,37 @@ class Scanner {
   DateCursor::State sense_;  ///< as far as it is a date or time, and not only the beginning of one
 };
 
+bool isHigh(char c) { return static_cast<unsigned char>(c) >= 0x80; }
+
 bool beginsToken(std::string_view text, std::size_t at) {
-  if (at == 0) {
-    return true;
+  if (isDigit(text[at])) {
+    return at == 0 || !isDigit(text[at - 1]);
   }
-  const auto isWordPart = [](char c) { return isLetter(c) || static_cast<unsigned char>(c) >= 0x80; };
-  return isDigit(text[at]) ? !isDigit(text[at - 1]) : isWordPart(text[at]) && !isLetter(text[at - 1]);
+  if (at > 0 && isHigh(text[at - 1]) && isHigh(text[at])) {  // within a word, but where words stand without blanks
+    const auto character = decodeUtf8(text.substr(at));
+    return character && character->character >= 0x3000;
+  }
+  return (isLetter(text[at]) || isHigh(text[at])) && (at == 0 || !isLetter(text[at - 1]));
 }
 
-bool mayBegin(char c) { return isDigit(c) || isLetter(c) || static_cast<unsigned char>(c) >= 0x80; }
+/// A quick look at whether a date can begin there at all, since most of a page is none.
+bool mayBegin(std::string_view text, std::size_t at) {
+  if (!beginsToken(text, at)) {
+    return false;
+  }
+  const std::string_view there = text.substr(at, kLongestDate);
+  if (!isDigit(text[at])) {
+    return dateWordAt(there).name || (isHigh(text[at]) && halfDayAt(there) > 0);
+  }
+  constexpr std::size_t kLongestNumber = 14;  // a date and time without separators
+  const std::size_t digits = std::min(there.find_first_not_of("0123456789"), there.size());
+  if (digits > kLongestNumber) {
+    return false;
+  }
+  constexpr std::string_view kBehind = " \t:./-,h&";
+  return digits >= 8 || (digits < there.size() && (isHigh(there[digits]) || ordinalAt(there.substr(digits)) > 0 ||
+                                                   kBehind.find(there[digits]) != std::string_view::npos));
+}
 
 }  // namespace
 
@@ -149,7 +171,7 @@ std::optional<DateFound> dateAt(std::string_view text, std::size_t begin) {
 
 std::optional<DateFound> dateOver(std::string_view text, std::size_t begin, std::size_t end) {
   for (std::size_t at = begin > kLongestDate ? begin - kLongestDate : 0; at <= begin && at < text.size(); ++at) {
-    if (mayBegin(text[at]) && beginsToken(text, at)) {
+    if (mayBegin(text, at)) {
       if (const auto found = dateAt(text, at); found && found->end() >= end && found->end() > begin) {
         return found;
       }
@@ -160,7 +182,7 @@ std::optional<DateFound> dateOver(std::string_view text, std::size_t begin, std:
 
 std::optional<DateFound> nextDate(std::string_view text, std::size_t from) {
   for (std::size_t at = from; at < text.size(); ++at) {
-    if (mayBegin(text[at]) && beginsToken(text, at)) {
+    if (mayBegin(text, at)) {
       if (auto found = dateAt(text, at)) {
         return found;
       }

@@ -10,6 +10,10 @@
 namespace tarnwick {
 namespace {
 
+/// More numbers than that in one place are no numbers but something that is always another one.
+constexpr std::size_t kMostNumbers = 200;
+constexpr std::size_t kLongest = std::size_t{1} << 14U;
+
 /// Words such as "a3f9" are keys and no letters with numbers between them; "web12", "12ms" and "part_7" are.
 bool hasKeys(std::string_view skeleton) {
   bool afterNumber = false;
@@ -28,6 +32,9 @@ bool hasKeys(std::string_view skeleton) {
 
 /// The numbers of each copy there, as long as there is nothing else that varies.
 std::vector<NumbersIn> numbersOf(std::span<const std::string_view> values) {
+  if (std::ranges::any_of(values, [](std::string_view value) { return value.size() > kLongest; })) {
+    return {};
+  }
   for (const bool isWhole : {true, false}) {
     std::vector<NumbersIn> all;
     for (const std::string_view value : values) {
@@ -35,7 +42,8 @@ std::vector<NumbersIn> numbersOf(std::span<const std::string_view> values) {
     }
     const bool areAlike =
         std::ranges::all_of(all, [&](const NumbersIn& one) { return one.skeleton == all.front().skeleton; });
-    if (areAlike && !all.front().numbers.empty() && !hasKeys(all.front().skeleton)) {
+    if (areAlike && !all.front().numbers.empty() && all.front().numbers.size() <= kMostNumbers &&
+        !hasKeys(all.front().skeleton)) {
       return all;
     }
   }
