@@ -16,8 +16,10 @@ constexpr int kDeepest = 64;
 /// How many tokens are looked at for all of two texts, and how many cells of a table count for one.
 constexpr std::size_t kMostLooks = 6'000'000;
 constexpr std::size_t kCellsOfALook = 8;
-/// More pieces in common than that are chance.
-constexpr std::size_t kMostInCommon = 20'000;
+/// More pieces in common than that are chance, and fewer where they are little of the text.
+constexpr std::size_t kMostInCommon = 4000;
+constexpr std::size_t kMostOfLittle = 200;
+constexpr std::size_t kLittle = 20;  // one byte in so many
 /// Of a picture or an archive: fewer equal bytes between two that differ are chance.
 constexpr std::size_t kFewestEqualBytes = 3;
 
@@ -86,7 +88,7 @@ class Aligner {
       for (std::size_t at = from; at < to;) {
         const std::size_t size = length(text.substr(at, to - at));
         tokens.ids.push_back(
-            numbers.emplace(text.substr(at, size), static_cast<std::uint32_t>(numbers.size())).first->second);
+            numbers.try_emplace(text.substr(at, size), static_cast<std::uint32_t>(numbers.size())).first->second);
         tokens.begins.push_back(at);
         at += size;
       }
@@ -335,6 +337,14 @@ std::vector<Common> equalPlaces(std::span<const std::string> copies) {
   return common;
 }
 
+bool isChance(const std::vector<Common>& common, std::size_t size) {
+  std::size_t inCommon = 0;
+  for (const Common& part : common) {
+    inCommon += part.length;
+  }
+  return common.size() > kMostInCommon || (common.size() > kMostOfLittle && inCommon * kLittle < size);
+}
+
 /// What all copies begin and end with.
 std::vector<Common> commonEnds(std::span<const std::string> copies) {
   const std::string_view first = copies.front();
@@ -387,7 +397,7 @@ std::vector<Region> differingRegions(std::span<const std::string> copies) {
     for (const std::string& copy : copies.subspan(1)) {
       common = narrowed(common, alignTexts(first, copy));
       join(common);
-      if (common.size() > kMostInCommon) {
+      if (isChance(common, first.size())) {
         common = commonEnds(copies);
         break;
       }

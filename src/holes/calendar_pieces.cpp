@@ -172,13 +172,17 @@ bool takeNameFirst(DateCursor& cursor) {
 
 bool takeInDigits(DateCursor& cursor) {
   static constexpr std::array<std::string_view, 5> kSeparators = {"-", "/", ".", ":", ". "};
+  const std::string_view behind = cursor.rest().substr(cursor.number(0, 4).length);
   for (const std::string_view separator : kSeparators) {
+    if (!behind.starts_with(separator)) {
+      continue;
+    }
     if (cursor.whole([&] { return takeYearFirst(cursor, separator); }) ||
         (separator != ":" && cursor.whole([&] { return takeYearLast(cursor, separator); }))) {
       return true;
     }
   }
-  return cursor.whole([&] { return takeCompact(cursor); });
+  return cursor.isDigitNext() && cursor.whole([&] { return takeCompact(cursor); });
 }
 
 }  // namespace

@@ -13,6 +13,7 @@ namespace {
 using Values = std::span<const std::string_view>;
 
 constexpr std::size_t kFewestHex = 3;
+constexpr std::size_t kFewestHexAmongBytes = 16;
 /// The most digits that a counter is given before it has shown any.
 constexpr std::size_t kDigitsOfCounter = 6;
 constexpr std::size_t kDigitsToGrow = 3;
@@ -102,12 +103,12 @@ Hole classified(Values values, bool isBinary) {
   if (auto number = asNumber(values)) {
     return *number;
   }
-  if (isBinary) {
+  const auto isHex = [](char c) { return isOfClass(HoleClass::hex, c); };
+  if (isBinary && !(sameLength && lengths.least >= kFewestHexAmongBytes && all(values, isHex))) {
     return sameLength ? Hole{.kind = HoleClass::anything, .least = lengths.most, .most = lengths.most}
                       : Hole{.kind = HoleClass::anything, .most = 2 * lengths.most + kRoomForAnything};
   }
   const bool hasDigits = any(values, isDigit);
-  const auto isHex = [](char c) { return isOfClass(HoleClass::hex, c); };
   const auto isKey = [](char c) { return isOfClass(HoleClass::base64, c); };
   const auto isWord = [](char c) { return isOfClass(HoleClass::letters, c); };
   const auto isText = [](char c) { return isOfClass(HoleClass::text, c); };

@@ -17,7 +17,8 @@ constexpr std::size_t kLongestWord = 40;
 
 std::size_t firstOf(std::string_view text, std::span<const std::string_view> words) {
   for (const std::string_view word : words) {
-    if (text.size() >= word.size() && equalsIgnoringCase(text.substr(0, word.size()), word)) {
+    if (text.size() >= word.size() && lowerCase(text.front()) == lowerCase(word.front()) &&
+        equalsIgnoringCase(text.substr(0, word.size()), word)) {
       return word.size();
     }
   }

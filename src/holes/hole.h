@@ -50,7 +50,8 @@ struct Hole {
 /// How many bytes around a hole are kept to find it again.
 inline constexpr std::size_t kAnchor = 64;
 
-/// Holes in their order in the baseline, none of which touches another.
+/// Holes in their order in the baseline, none of which overlaps another. Two touch only where what stands in them tells
+/// where the first ends.
 using Holes = std::vector<Hole>;
 
 /// Gives each hole the bytes that stand around it. REQUIRES: ordered holes within the baseline.

@@ -58,8 +58,8 @@ class Joiner {
 
   bool belongTogether(std::size_t place) const {
     const std::string_view between = copies_.fixedBefore(place + 1);
-    if (between.empty()) {
-      return true;
+    if (between.empty()) {  // a date and the check sum behind it stay two: each ends where it must
+      return !binary_ || !copies_.places()[place].known || !copies_.places()[place + 1].known;
     }
     const Hole one = holeOf(place);
     const Hole other = holeOf(place + 1);

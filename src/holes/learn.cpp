@@ -92,6 +92,7 @@ Lesson learn(std::span<const std::string> texts, LocalTime now) {
     widenToWhole(copies);
     takeDatesBesideTimes(copies, today);
     joinNeighbours(copies);
+    joinLists(copies);
   }
   Lesson lesson;
   lesson.holes = explaining(copies);

@@ -99,41 +99,6 @@ void takeFixedFromWord(Copies& copies, std::size_t index) {
   }
 }
 
-/// A field of bytes that holds when a file was made.
-struct StampField {
-  std::string_view before;
-  std::size_t skipped;  ///< bytes between the mark and the field
-  std::size_t length;
-  bool atBegin;
-};
-constexpr StampField kStampFields[] = {
-    {"\x1F\x8B", 2, 4, true},  // gzip, RFC 1952
-    {"tIME", 0, 7, false},     // PNG
-};
-
-bool widenToField(Copies& copies, std::size_t index) {
-  const Region& region = copies.places()[index].region;
-  const std::size_t begin = region.from.front();
-  const std::size_t end = region.to.front();
-  for (const StampField& field : kStampFields) {
-    const std::size_t reach = field.skipped + field.length + field.before.size();
-    const std::size_t from = field.atBegin ? 0 : begin - std::min(begin, reach);
-    const std::size_t mark = copies.first().substr(0, begin).find(field.before, from);
-    if (mark == std::string_view::npos || (field.atBegin && mark != 0)) {
-      continue;
-    }
-    const std::size_t fieldBegin = mark + field.before.size() + field.skipped;
-    if (fieldBegin > begin || end > fieldBegin + field.length) {
-      continue;
-    }
-    if (const auto whole = copies.regionOf(fieldBegin, fieldBegin + field.length)) {
-      copies.put({*whole, Hole{.kind = HoleClass::anything, .least = field.length, .most = field.length}});
-      return true;
-    }
-  }
-  return false;
-}
-
 std::size_t indexOf(const Copies& copies, std::size_t begin) {
   const auto& places = copies.places();
   return static_cast<std::size_t>(
