@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What of pictures and archives says when they were made, and the check sums over it.
-#include <cstdint>
+#include <algorithm>
 
 #include "holes/widen.h"
 
@@ -61,7 +61,8 @@ bool widenToField(Copies& copies, std::size_t index) {
     return false;
   }
   const auto whole = copies.regionOf(field->begin, field->begin + field->length);
-  if (!whole) {
+  if (!whole || !std::ranges::all_of(copies.values(*whole),
+                                     [&](std::string_view value) { return value.size() == field->length; })) {
     return false;
   }
   copies.put({*whole, Hole{.kind = HoleClass::anything, .least = field->length, .most = field->length}});

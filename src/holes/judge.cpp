@@ -80,9 +80,11 @@ class Judge {
       return fits(open, page_.substr(begin)) ? ++hole > 0 : differAt(open.begin, begin);
     }
     const bool isLast = !opensBehind(hole);
-    for (std::size_t from = begin + open.least; from <= begin + open.most; ++from) {
+    const std::size_t room = page_.size() - begin;
+    const std::size_t last = begin + std::min(open.most, room);
+    for (std::size_t from = begin + std::min(open.least, room + 1); from <= last; ++from) {
       from = findFixed(behind, from);
-      if (from == kNone || from > begin + open.most) {
+      if (from == kNone || from > last) {
         break;
       }
       std::size_t next = hole + 1;

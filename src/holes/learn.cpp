@@ -60,8 +60,8 @@ Holes explaining(Copies& copies) {
     }
     auto& places = copies.places();
     const std::size_t place = std::min(*wrong > 0 ? *wrong - 1 : 0, places.size() - 1);
-    if (!(places[place].known && places[place].known->kind == HoleClass::anything)) {
-      places[place].known = anythingAt(copies, places[place].region);
+    if (Hole widest = anythingAt(copies, places[place].region); places[place].known != widest) {
+      places[place].known = std::move(widest);
     } else if (places.size() > 1) {
       const std::size_t first = std::min(place, places.size() - 2);
       copies.joinWithNext(first);

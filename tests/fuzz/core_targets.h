@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "fuzz/entries/command_entries.h"
+#include "fuzz/entries/hole_entries.h"
 #include "fuzz/entries/mail_entries.h"
 #include "fuzz/entries/sql_entries.h"
 #include "fuzz/entries/uu_entries.h"
@@ -17,6 +18,7 @@ inline std::vector<FuzzTarget> coreFuzzTargets() {
   std::vector<FuzzTarget> targets;
   const auto add = [&targets](const auto& some) { std::copy(some.begin(), some.end(), std::back_inserter(targets)); };
   add(kCommandFuzzTargets);
+  add(kHoleFuzzTargets);
   add(kMailFuzzTargets);
   add(kSqlFuzzTargets);
   add(kUuFuzzTargets);
