@@ -3403,6 +3403,10 @@
         <source>It is no selector from &quot;%1&quot; on. Write one such as div.news &gt; p or a[href^=&apos;/ad&apos;].</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Line %1: only two different texts were seen there; what else it may say is a guess. Fetch again over a day.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

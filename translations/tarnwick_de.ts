@@ -3403,6 +3403,10 @@
         <source>It is no selector from &quot;%1&quot; on. Write one such as div.news &gt; p or a[href^=&apos;/ad&apos;].</source>
         <translation>Ab „%1“ ist es kein Selektor. Schreiben Sie etwa #main, div.news &gt; p oder a[href^=&apos;/ad&apos;].</translation>
     </message>
+    <message>
+        <source>Line %1: only two different texts were seen there; what else it may say is a guess. Fetch again over a day.</source>
+        <translation>Zeile %1: Dort wurden nur zwei verschiedene Texte gesehen; was dort sonst noch stehen kann, ist geraten. Rufen Sie die Seite über einen Tag hinweg erneut ab.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -349,7 +349,7 @@ bool isChance(const std::vector<Common>& common, std::size_t size) {
 std::vector<Common> commonEnds(std::span<const std::string> copies) {
   const std::string_view first = copies.front();
   std::size_t begin = first.size();
-  std::size_t shortest = first.size();
+  std::size_t shortest = copies.back().size();
   for (const std::string_view copy : copies) {
     begin = std::min(begin, static_cast<std::size_t>(std::ranges::mismatch(first, copy).in1 - first.begin()));
     shortest = std::min(shortest, copy.size());

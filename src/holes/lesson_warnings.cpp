@@ -3,15 +3,19 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 #include "base/visible_text.h"
 #include "holes/date_form.h"
+#include "holes/judge.h"
 
 namespace tarnwick {
 namespace {
 
 /// More dates of today than that need not be named one by one.
 constexpr std::size_t kMostDates = 3;
+constexpr std::size_t kMostTexts = 3;
+constexpr std::size_t kFewestCopies = 4;
 constexpr std::size_t kShown = 40;
 constexpr int kMinutesOfTheClock = 2;
 
@@ -55,6 +59,31 @@ void warnOfDates(std::string_view page, const Holes& holes, LocalTime now, std::
   }
 }
 
+// A place in which the copies fall into two groups says little of what else may stand there.
+void warnOfTwoTexts(std::span<const std::string> copies, const Holes& holes, std::vector<std::string>& warnings) {
+  if (copies.size() < kFewestCopies) {
+    return;
+  }
+  std::vector<std::set<std::string_view>> texts(holes.size());
+  for (const std::string_view copy : copies) {
+    const Judgement judged = judge(copies.front(), holes, copy);
+    for (std::size_t i = 0; judged.same && i < holes.size(); ++i) {
+      texts[i].insert(copy.substr(judged.values[i].begin, judged.values[i].length));
+    }
+  }
+  std::size_t told = 0;
+  for (std::size_t i = 0; i < holes.size() && told < kMostTexts; ++i) {
+    const bool areWords =
+        holes[i].kind == HoleClass::text || holes[i].kind == HoleClass::letters || holes[i].kind == HoleClass::anything;
+    if (areWords && texts[i].size() == 2) {
+      warnings.push_back("Line " + std::to_string(lineOf(copies.front(), holes[i].begin)) +
+                         ": only two different texts were seen there; what else it may say is a guess. Fetch again "
+                         "over a day.");
+      ++told;
+    }
+  }
+}
+
 }  // namespace
 
 std::size_t lineOf(std::string_view text, std::size_t at) {
@@ -75,6 +104,7 @@ std::vector<std::string> warningsOf(std::span<const std::string> copies, const H
       })) {
     warnings.push_back("The copies have very different lengths: one of them may be another page, or an error.");
   }
+  warnOfTwoTexts(copies, holes, warnings);
   warnOfDates(page, holes, now, warnings);
   return warnings;
 }

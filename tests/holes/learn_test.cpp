@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
@@ -177,11 +178,37 @@ TEST(ADateBesideATime, ChangesWithIt) {
   EXPECT_TRUE(page.lesson.warnings.empty());
 }
 
+TEST(APlaceWithTwoTexts, IsWarnedOf) {
+  const Learnt page = learnt([](int i) {
+    return "<h1>" + std::string(i < 3 ? "Welcome to the town" : "The bridge is closed") + "</h1>\n" +
+           std::string(300, '-');
+  });
+  ASSERT_EQ(page.lesson.warnings.size(), 1U);
+  EXPECT_NE(page.lesson.warnings.front().find("Line 1: only two different texts"), std::string::npos);
+}
+
 TEST(APageThatIsAlwaysAnother, IsWarnedOf) {
   const Learnt page = learnt([](int i) {
     return std::string(400, static_cast<char>('a' + i)) + " and " + std::string(400, static_cast<char>('p' + i));
   });
   EXPECT_FALSE(page.lesson.warnings.empty());
+}
+
+TEST(AHostilePage, IsLearntFromInTimeAndRoomInProportion) {
+  constexpr std::size_t kBytes = 400'000;
+  const auto filled = [](const std::string& piece, int copy) {
+    std::string text;
+    for (int n = copy; text.size() < kBytes; ++n) {
+      text += piece + std::to_string(n * 7919 % 97) + (n % 3 == 0 ? "\n" : ",");
+    }
+    return text;
+  };
+  for (const std::string piece : {"a", "", "Mon ", "<li>", "22 November 2026 at 18:40:", "1,", "\xC3", "\xE6\x97"}) {
+    const auto begin = std::chrono::steady_clock::now();
+    const Learnt page = learnt([&](int i) { return filled(piece, i); });
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(20)) << piece;
+    EXPECT_LE(page.lesson.holes.size(), 4000U) << piece;
+  }
 }
 
 TEST(WhatIsLearnt, ExplainsTheCopies) {
