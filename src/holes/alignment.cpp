@@ -20,6 +20,8 @@ constexpr std::size_t kCellsOfALook = 8;
 constexpr std::size_t kMostInCommon = 4000;
 constexpr std::size_t kMostOfLittle = 200;
 constexpr std::size_t kLittle = 20;  // one byte in so many
+/// From here on little is not worth looking for it in all copies.
+constexpr std::size_t kLarge = 1'000'000;
 /// Of a picture or an archive: fewer equal bytes between two that differ are chance.
 constexpr std::size_t kFewestEqualBytes = 3;
 
@@ -342,7 +344,8 @@ bool isChance(const std::vector<Common>& common, std::size_t size) {
   for (const Common& part : common) {
     inCommon += part.length;
   }
-  return common.size() > kMostInCommon || (common.size() > kMostOfLittle && inCommon * kLittle < size);
+  return common.size() > kMostInCommon ||
+         ((common.size() > kMostOfLittle || size > kLarge) && inCommon * kLittle < size);
 }
 
 /// What all copies begin and end with.

@@ -13,6 +13,9 @@ namespace {
 /// More numbers than that in one place are no numbers but something that is always another one.
 constexpr std::size_t kMostNumbers = 200;
 constexpr std::size_t kLongest = std::size_t{1} << 14U;
+/// How many places may be a row of numbers, and the most bytes between two of them.
+constexpr std::size_t kLongestRow = 6;
+constexpr std::size_t kLongestBetween = 6;
 
 /// Words such as "a3f9" are keys and no letters with numbers between them; "web12", "12ms" and "part_7" are.
 bool hasKeys(std::string_view skeleton) {
@@ -61,10 +64,10 @@ Region partOf(const Region& whole, std::span<const NumbersIn> numbers, std::size
 }
 
 /// The region with what of numbers goes on around it in the first copy, and all other places that touch it.
-std::optional<Region> wholeNumbers(const Copies& copies, std::size_t index) {
-  const Region& region = copies.places()[index].region;
-  std::size_t begin = numberBegin(copies.first(), region.from.front());
-  std::size_t end = std::max(numberEnd(copies.first(), region.to.front()), region.to.front());
+std::optional<Region> wholeNumbers(const Copies& copies, std::size_t index, std::size_t last) {
+  std::size_t begin = numberBegin(copies.first(), copies.places()[index].region.from.front());
+  const std::size_t to = copies.places()[last].region.to.front();
+  std::size_t end = std::max(numberEnd(copies.first(), to), to);
   for (const Place& place : copies.placesWithin(begin, end)) {
     if (place.known) {
       return std::nullopt;
@@ -75,27 +78,43 @@ std::optional<Region> wholeNumbers(const Copies& copies, std::size_t index) {
   return copies.regionOf(begin, end);
 }
 
-}  // namespace
+bool isBetweenNumbers(std::string_view text) {
+  return text.size() <= kLongestBetween && std::ranges::all_of(text, [](char c) {
+           return isDigit(c) || std::string_view(" ,.;:|/").find(c) != std::string_view::npos;
+         });
+}
 
-bool widenToNumbers(Copies& copies, std::size_t index) {
-  const auto whole = wholeNumbers(copies, index);
-  if (!whole) {
-    return false;
-  }
-  const auto numbers = numbersOf(copies.values(*whole));
+bool putNumbers(Copies& copies, const Region& whole) {
+  const auto numbers = numbersOf(copies.values(whole));
   if (numbers.empty()) {
     return false;
   }
   std::vector<Place> places;
   for (std::size_t i = 0; i < numbers.front().numbers.size(); ++i) {
-    Region part = partOf(*whole, numbers, i);
+    Region part = partOf(whole, numbers, i);
     const auto values = copies.values(part);
     if (std::ranges::count(values, values.front()) != static_cast<std::ptrdiff_t>(values.size())) {
       places.push_back({std::move(part), classified(values, false)});
     }
   }
-  copies.replace(*whole, std::move(places));
+  copies.replace(whole, std::move(places));
   return true;
+}
+
+}  // namespace
+
+// Numbers of one row may have been taken for one another: then the row is looked at as a whole.
+bool widenToNumbers(Copies& copies, std::size_t index) {
+  for (std::size_t last = index; last < copies.places().size() && last <= index + kLongestRow; ++last) {
+    if (last > index && !isBetweenNumbers(copies.fixedBefore(last))) {
+      return false;
+    }
+    const auto whole = wholeNumbers(copies, index, last);
+    if (whole && putNumbers(copies, *whole)) {
+      return true;
+    }
+  }
+  return false;
 }
 
 }  // namespace tarnwick
