@@ -88,7 +88,9 @@ class SimulatedMail::Socket final : public TcpSocket {
     }
   }
   void answer(std::string text) {
-    next_.in(delay(), [this, text = std::move(text)] {
+    const Time pause = delay();
+    const bool even = mail_.endsApart && (mail_.agenda_.now() + pause).count() % 2 == 0;
+    next_.in(even ? pause + Time(1) : pause, [this, text = std::move(text)] {
       data_ += text;
       if (arrived_) {
         const SimulatedMemory::OfProgram program;

@@ -27,6 +27,9 @@ class SimulatedMail final : public TcpSocketMaker {
 
   void setMood(MailMood mood) { mood_ = mood; }
   MailMood mood() const { return mood_; }
+  /// From now on the server answers at odd milliseconds. Of a mail's end and a tick at one moment nobody says which
+  /// comes first, so they come apart where the program is compared with the model.
+  bool endsApart = false;
   /// An exchange begins, sends something, and ends.
   std::function<void(const std::string& server)> onConnect;
   std::function<void(const std::string& command)> onSent;

@@ -44,6 +44,9 @@ class SimulatedTimers final : public TimerMaker {
   class SimulatedTimer;
   static SimulatedTimer& of(Timer& timer);
 
+  /// From now on timers tick at even milliseconds, where no mail ends (see `SimulatedMail::endsApart`).
+  bool ticksApart = false;
+
   class SimulatedTimer final : public Timer {
    public:
     SimulatedTimer(SimulatedTimers& maker, std::function<void()> tick)
@@ -70,7 +73,9 @@ class SimulatedTimers final : public TimerMaker {
       const SimulatedMemory::OfWorld ours;
       next_.cancel();
       if (enabled_ && interval_.count() > 0) {
-        next_.in(interval_ == kLamps ? maker_.lamps_ : interval_, [this] {
+        const Time pause = interval_ == kLamps ? maker_.lamps_ : interval_;
+        const bool odd = maker_.ticksApart && (maker_.agenda_.now() + pause).count() % 2 != 0;
+        next_.in(odd ? pause + Time(1) : pause, [this] {
           wait();
           if (before) {
             before();

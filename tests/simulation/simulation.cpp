@@ -444,6 +444,7 @@ Outcome Simulation::run() {
       });
     }
   };
+  world_.mail.endsApart = world_.timers.ticksApart = plan_.model;
   if (!plan_.model) {
     watchAnswers();
   }
