@@ -6,6 +6,8 @@
 #include "base/text.h"
 #include "base/visible_text.h"
 #include "engine/first_difference.h"
+#include "holes/page_text.h"
+#include "page_rules/page_judge.h"
 
 namespace tarnwick {
 namespace {
@@ -23,11 +25,35 @@ std::string excerpt(std::string_view line, std::size_t at) {
   return (begin > 0 ? "\"..." : "\"") + visibleText(line, kExcerpt) + "\"";
 }
 
+std::string behindRemark(std::string cause, std::string_view remark) {
+  return remark.empty() ? cause : cause + " (" + std::string(remark) + ")";
+}
+
+std::string causeByRules(const CheckResult& failed, std::string_view baseline, const RuleSet& rules) {
+  const PageVerdict verdict = judgePage(baseline, failed.page, rules);
+  if (verdict.same) {
+    return "the baseline was changed meanwhile";
+  }
+  const std::string before = pageText(baseline);
+  const std::string now = pageText(failed.page);
+  const LineOfText expected = lineAt(before, verdict.baselineAt);
+  const LineOfText found = lineAt(now, verdict.pageAt);
+  return behindRemark("line " + std::to_string(expected.number) + ": expected " +
+                          excerpt(expected.text, expected.column) + ", found " + excerpt(found.text, found.column),
+                      verdict.remark);
+}
+
 }  // namespace
 
-std::string causeOf(const CheckResult& failed, std::string_view baseline) {
+std::string causeOf(const CheckResult& failed, std::string_view baseline, const RuleSet& rules) {
   if (failed.errCode != 0 || !failed.errDescription.empty()) {
     return visibleText(failed.errDescription);
+  }
+  if (baseline.empty() && !failed.remark.empty()) {
+    return std::string(failed.remark);
+  }
+  if (!rules.empty()) {
+    return causeByRules(failed, baseline, rules);
   }
   const FirstDifference difference = firstDifference(baseline, failed.page);
   if (difference.line == 0) {
@@ -49,7 +75,7 @@ bool hasFailureAsBaseline(const CheckResult& result) {
 std::string noteOf(const CheckResult& passed) {
   return hasFailureAsBaseline(passed)
              ? "the fetch fails, and its text is the baseline: " + visibleText(passed.errDescription)
-             : std::string();
+             : std::string(passed.remark);
 }
 
 }  // namespace tarnwick

@@ -18,6 +18,15 @@ std::size_t commonBytes(std::string_view one, std::string_view other) {
   return static_cast<std::size_t>(place.first - one.begin());
 }
 
+LineOfText lineAt(std::string_view text, std::size_t at) {
+  const std::string_view before = text.substr(0, at);
+  const std::size_t feed = before.rfind('\n');
+  const std::size_t begin = feed == std::string_view::npos ? 0 : feed + 1;
+  text.remove_prefix(begin);
+  return {static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n')) + 1, text.substr(0, text.find('\n')),
+          before.size() - begin};
+}
+
 FirstDifference firstDifference(std::string_view before, std::string_view after) {
   if (before == after) {
     return {};

@@ -14,6 +14,15 @@ struct FirstDifference {
 };
 FirstDifference firstDifference(std::string_view before, std::string_view after);
 
+/// A line of a text.
+struct LineOfText {
+  std::size_t number = 0;  ///< counted from 1
+  std::string_view text;   ///< without its line feed
+  std::size_t column = 0;  ///< of the byte that it was asked for, in bytes from its beginning
+};
+/// The line in which the byte `at` of the text stands, which may be its end.
+LineOfText lineAt(std::string_view text, std::size_t at);
+
 /// How many bytes two texts have in common at their beginning.
 std::size_t commonBytes(std::string_view one, std::string_view other);
 

@@ -114,6 +114,7 @@ void InetPool::saveSocketData(std::int16_t slot) {
   row.errDescription = std::move(result.cause);
   row.took = result.took;
   row.server = std::move(result.server);
+  row.status = result.status;
 }
 
 void InetPool::releaseSiteContent(std::size_t row) { std::string().swap(rows_.at(row).content); }

@@ -71,6 +71,8 @@ class InetPool {
   /// How long its request took, and the address of the server that was asked; none as long as nothing was saved.
   std::chrono::milliseconds siteTook(std::size_t row) const { return rows_.at(row).took; }
   const std::string& siteServer(std::size_t row) const { return rows_.at(row).server; }
+  /// The HTTP status of its answer; 0 where there was none.
+  int siteStatus(std::size_t row) const { return rows_.at(row).status; }
   /// Frees the memory of a row's page text once it has been recorded.
   void releaseSiteContent(std::size_t row);
 
@@ -91,6 +93,7 @@ class InetPool {
     std::string errDescription;
     std::chrono::milliseconds took{0};
     std::string server;
+    int status = 0;
   };
 
   Slot& at(std::int16_t slot) { return slots_.at(static_cast<std::size_t>(slot) - 1); }

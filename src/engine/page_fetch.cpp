@@ -69,10 +69,7 @@ std::string PageFetch::credential(std::int16_t idSite, const char* field, const 
   return rows->eof() ? std::string() : rows->field(std::size_t{0}).toText();
 }
 
-bool PageFetch::beginFetch(std::int16_t idSite, std::function<void()> ended) {
-  if (single_.sInet().stillExecuting()) {
-    return false;
-  }
+Request PageFetch::requestOf(std::int16_t idSite) {
   auto rs = database_.query("select url,method,sUserName,sPassWord from sites where idsite = " + sqlQuote(idSite));
   const std::chrono::seconds timeout = settings_.requestTimeout();
   const auto text = [&rs](const char* name) { return rs->eof() ? "" : rs->field(name).toText(); };
@@ -87,7 +84,14 @@ bool PageFetch::beginFetch(std::int16_t idSite, std::function<void()> ended) {
   request.userName = userName;
   request.password = password;
   request.timeout = timeout;
-  single_.execute(std::move(request), std::move(ended));
+  return request;
+}
+
+bool PageFetch::beginFetch(std::int16_t idSite, std::function<void()> ended) {
+  if (single_.sInet().stillExecuting()) {
+    return false;
+  }
+  single_.execute(requestOf(idSite), std::move(ended));
   return true;
 }
 

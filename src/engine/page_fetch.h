@@ -37,6 +37,9 @@ class PageFetch {
   /// and, for "POST", the header and the body of its POST variables.
   Request requestFor(std::int16_t idSite, std::string_view method);
 
+  /// The whole request that fetches the site's page.
+  Request requestOf(std::int16_t idSite);
+
   /// Fetches the site's page now and returns it, pumping events meanwhile. For a failed request the failure's number,
   /// " : " and its cause; the empty text when the control is busy with another fetch, when the request ended without
   /// data, or when the program is being closed.

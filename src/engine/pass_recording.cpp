@@ -140,7 +140,7 @@ void PassRecording::tell(std::size_t row, const Fetched& fetched, const Stored& 
   }
   std::erase(brightened_, id);
   needs_.view.showResult(
-      {id, sites_.url(row), stored.passed, fetched.errCode, fetched.errDescription, fetched.content});
+      {id, sites_.url(row), stored.passed, fetched.errCode, fetched.errDescription, fetched.content, stored.remark});
 }
 
 // By its number alone: with an address in it every site would have a fault, and a box, of its own.
@@ -228,7 +228,7 @@ std::optional<PassRecording::Stored> PassRecording::storeResult(std::size_t row,
     return std::nullopt;
   }
   const auto& [content, errCode, errDescription] = fetched;
-  const bool passed = needs_.results.testSite(id, content, errCode, errDescription, firstBaselineOf(id), kept);
+  const bool passed = needs_.results.testSite(id, content, errCode, errDescription, firstBaselineOf(row), kept);
   needs_.results.setStatus(id, passed);
   if (const auto most = logLimit(); most && !passed && !isTooFull) {
     needs_.keptPages.keepLogWithin(*most);
@@ -238,7 +238,7 @@ std::optional<PassRecording::Stored> PassRecording::storeResult(std::size_t row,
   if (counts) {
     count(id, passed);
   }
-  Stored stored{passed, counts};
+  Stored stored{passed, counts, needs_.results.remark()};
   if (debts_.alarms.decidesAbout(id)) {
     stored.alarm =
         debts_.alarms.take(id, {passed, errCode != 0 ? errDescription : kPageDiffers, needs_.pool.siteTook(row)});
@@ -255,7 +255,7 @@ void PassRecording::alertUnrecorded(std::size_t row, const Fetched& fetched) {
     return;
   }
   debts_.checks.checkedUnrecorded(id, needs_.clock.steadyNow());
-  if (!needs_.results.wouldPass(id, fetched.content, fetched.errCode, firstBaselineOf(id))) {
+  if (!needs_.results.wouldPass(id, fetched.content, fetched.errCode, firstBaselineOf(row))) {
     needs_.alerts.sendAlerts(id);
     tellLostMail(id, sites_.url(row));
   }
@@ -328,9 +328,12 @@ void PassRecording::alertAndCount(std::size_t row, const Stored& stored) {
   needs_.view.updateGridRow(id, false);
 }
 
-FirstBaseline PassRecording::firstBaselineOf(std::int16_t id) const {
-  return options_.valueOf(id, option_name::adopt) == option_value::pagesOnly ? FirstBaseline::pagesOnly
-                                                                             : FirstBaseline::anything;
+FirstBaseline PassRecording::firstBaselineOf(std::size_t row) const {
+  if (options_.valueOf(sites_.idSite(row), option_name::adopt) != option_value::pagesOnly) {
+    return FirstBaseline::anything;
+  }
+  constexpr int kFirstError = 400;  // RFC 9110, section 15.5
+  return needs_.pool.siteStatus(row) >= kFirstError ? FirstBaseline::nothing : FirstBaseline::pagesOnly;
 }
 
 // A full counter is no reason to forget the check itself, or the sites behind this one.

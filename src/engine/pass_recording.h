@@ -98,6 +98,8 @@ class PassRecording {
   struct Stored {
     bool passed;
     bool counted;
+    /// What must be told beside the verdict; empty for most.
+    std::string remark{};
     /// Nothing where the site follows the original rule.
     std::optional<AlarmStep> alarm{};
   };
@@ -117,7 +119,7 @@ class PassRecording {
   void alertUnrecorded(std::size_t row, const Fetched& fetched);
   void tellLostMail(std::int16_t id, const std::string& url);
   void deferUnlessGeneral(const std::exception_ptr& fault);
-  FirstBaseline firstBaselineOf(std::int16_t id) const;
+  FirstBaseline firstBaselineOf(std::size_t row) const;
   void count(std::int16_t id, bool passed);
   void dropPage(std::size_t row, SelectedSites::Standing standing);
   void alert(std::size_t row, const Stored& stored);

@@ -5,50 +5,81 @@
 #include <string_view>
 
 #include "base/errors.h"
+#include "page_rules/page_judge.h"
 #include "store/first_field.h"
 #include "store/sql_quote.h"
 
 namespace tarnwick {
 namespace {
 
-/// How a page stands to the site's baseline.
-struct Judged {
-  std::string url;
-  bool hasBaseline = false;
-  bool equals = false;
-};
+constexpr const char* kErrorPage = "The page is an error page of the server, and was not taken as the baseline.";
+constexpr const char* kShortPage =
+    "The page has less than half the length of the one before, and was not taken as the baseline.";
+constexpr std::string_view kFailedFetch = "11:";
 
-Judged judge(Database& database, std::int16_t idSite, std::string_view content) {
-  const auto rows = database.query("select url,method,content_compare from sites where idSite = " + sqlQuote(idSite));
+}  // namespace
+
+ResultRecording::Judged ResultRecording::judge(std::int16_t idSite, std::string_view content, std::int32_t errCode,
+                                               FirstBaseline first) {
+  const auto rows = db_.query("select url,method,content_compare from sites where idSite = " + sqlQuote(idSite));
   Judged site;
+  std::string baseline;
   if (!rows->eof()) {
     const bool hasBaseline = !rows->holds("content_compare", {});
     site = {rows->field("url").toText(), hasBaseline, hasBaseline && rows->holds("content_compare", content)};
+    if (hasBaseline && errCode == 0 && hasRules(idSite)) {
+      baseline = rows->field("content_compare").toText();
+    }
   }
   rows->close();
+  if (!baseline.empty()) {
+    const PageVerdict verdict = judgePage(baseline, content, rules_.rulesOf(idSite));
+    site.equals = site.equals || verdict.same;
+    site.remark = verdict.remark;
+  }
+  site.isAdopted = isAdopted(idSite, site, content, errCode, first);
   return site;
 }
 
-bool isAdopted(const Judged& site, std::int32_t errCode, FirstBaseline first) {
-  return !site.hasBaseline && (first == FirstBaseline::anything || errCode == 0);
+bool ResultRecording::hasRules(std::int16_t idSite) {
+  if (!withRules_) {
+    withRules_ = rules_.sitesWithRules();
+  }
+  return withRules_->contains(idSite);
 }
 
-}  // namespace
+bool ResultRecording::isAdopted(std::int16_t idSite, Judged& site, std::string_view content, std::int32_t errCode,
+                                FirstBaseline first) {
+  if (site.hasBaseline || first == FirstBaseline::anything || errCode != 0) {
+    return !site.hasBaseline && first == FirstBaseline::anything;
+  }
+  if (first == FirstBaseline::nothing) {
+    site.remark = kErrorPage;
+    return false;
+  }
+  const std::string before = getContentRuntime(idSite);
+  if (!before.starts_with(kFailedFetch) && before != kPageNotKept && content.size() * 2 < before.size()) {
+    site.remark = kShortPage;
+    return false;
+  }
+  return true;
+}
 
 bool ResultRecording::testSite(std::int16_t idSite, const std::string& content, std::int32_t errCode,
                                const std::string& errDescription, FirstBaseline first, KeptPage kept) {
   Transaction whole(db_);
-  const Judged site = judge(db_, idSite, content);
+  const Judged site = judge(idSite, content, errCode, first);
+  remark_ = site.remark;
   const std::string behind = joinSql("'", " WHERE idsite = ", sqlQuote(idSite));
   const bool keeps = kept == KeptPage::whole || errCode != 0;
 
-  const bool adopted = isAdopted(site, errCode, first);
-  if (adopted) {
+  if (site.isAdopted) {
     db_.execute("update sites set content_compare = '", content, behind);
   }
   db_.execute("update sites set content_runtime = '", keeps ? std::string_view(content) : kPageNotKept, behind);
-  const bool result = adopted || site.equals;
-  log_.addLog(idSite, site.url, result, errCode, keeps || result ? errDescription : kPageNotKept,
+  const bool result = site.isAdopted || site.equals;
+  const std::string& cause = errDescription.empty() ? remark_ : errDescription;
+  log_.addLog(idSite, site.url, result, errCode, keeps || result ? cause : kPageNotKept,
               result || !keeps ? std::string_view() : content);
   xupdateLastChecked(idSite);
 
@@ -58,8 +89,8 @@ bool ResultRecording::testSite(std::int16_t idSite, const std::string& content, 
 
 bool ResultRecording::wouldPass(std::int16_t idSite, const std::string& content, std::int32_t errCode,
                                 FirstBaseline first) {
-  const Judged site = judge(db_, idSite, content);
-  return isAdopted(site, errCode, first) || site.equals;
+  const Judged site = judge(idSite, content, errCode, first);
+  return site.isAdopted || site.equals;
 }
 
 std::unique_ptr<StoredText> ResultRecording::storeAhead(std::int16_t idSite, const std::string& content,

@@ -5,19 +5,25 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
+#include <string_view>
 
 #include "base/errors.h"
 #include "platform/clock.h"
 #include "store/database.h"
 #include "store/settings_and_log.h"
+#include "store/site_rules.h"
 
 namespace tarnwick {
 
 /// What becomes the baseline of a site that has none.
 enum class FirstBaseline {
-  anything,   ///< the first answer, also the text of a fetch that failed
-  pagesOnly,  ///< the first page; a fetch that failed leaves the site down and without a baseline
+  anything,  ///< the first answer, also the text of a fetch that failed
+  /// The first page of the usual size; a fetch that failed, or a page that is less than half as long as the one of the
+  /// check before, leaves the site down and without a baseline.
+  pagesOnly,
+  nothing,  ///< not this one: a server's error page
 };
 
 /// What is stored of a page beside the verdict over it.
@@ -36,12 +42,16 @@ class FullCounter : public OverflowError {
 };
 
 /// Judges a fetched page and keeps the outcome in the site's row and in the log. A site is up when the page equals its
-/// stored baseline byte for byte; the first page of a site without a baseline becomes its baseline. Every failed
+/// stored baseline byte for byte, but for what its rules leave out (`SiteRules`), where it has any; the first page of a
+/// site without a baseline becomes its baseline. Every failed
 /// statement raises DataAccessError. A change to a site that does not exist does nothing.
 class ResultRecording {
  public:
   ResultRecording(Database& database, SettingsAndLog& log, const Clock& clock)
-      : db_(database), log_(log), clock_(clock) {}
+      : db_(database), log_(log), clock_(clock), rules_(database) {}
+
+  /// Looks again which sites have rules: before a pass, and when rules were stored.
+  void forgetSitesWithRules() { withRules_.reset(); }
 
   /// Makes what is recorded during the returned object's life one whole, kept when it is committed. REQUIRES: no wait
   /// for the network meanwhile, since the database is locked for writing.
@@ -65,6 +75,9 @@ class ResultRecording {
   bool testSite(std::int16_t idSite, const std::string& content, std::int32_t errCode,
                 const std::string& errDescription, FirstBaseline first = FirstBaseline::anything,
                 KeptPage kept = KeptPage::whole);
+  /// What must be told beside the last verdict, in words for people: a rule that found nothing, a page that was not
+  /// taken as the baseline. Empty for most; it is in the log, too.
+  const std::string& remark() const { return remark_; }
   /// The verdict of that, with nothing stored: true also when the page would become the baseline.
   bool wouldPass(std::int16_t idSite, const std::string& content, std::int32_t errCode, FirstBaseline first);
 
@@ -110,9 +123,26 @@ class ResultRecording {
   void updateStatusCounter(std::int16_t idSite, bool result);
 
  private:
+  /// How a page stands to the site's baseline.
+  struct Judged {
+    std::string url;
+    bool hasBaseline = false;
+    bool equals = false;
+    bool isAdopted = false;
+    std::string remark{};
+  };
+
+  Judged judge(std::int16_t idSite, std::string_view content, std::int32_t errCode, FirstBaseline first);
+  bool isAdopted(std::int16_t idSite, Judged& site, std::string_view content, std::int32_t errCode,
+                 FirstBaseline first);
+  bool hasRules(std::int16_t idSite);
+
   Database& db_;
   SettingsAndLog& log_;
   const Clock& clock_;
+  SiteRules rules_;
+  std::optional<std::set<std::int64_t>> withRules_;
+  std::string remark_;
 };
 
 }  // namespace tarnwick

@@ -25,6 +25,7 @@ struct CheckResult {
   std::int32_t errCode = 0;           ///< of a failed transfer; 0 when a page came
   std::string_view errDescription{};  ///< the cause of a failed transfer in words; empty when a page came
   std::string_view page{};            ///< the page; of a failed transfer "11:" and the cause
+  std::string_view remark{};          ///< what must be told beside the verdict, in words; empty for most
 };
 
 /// The mail of an alert that no server has taken. The texts last for the call that hands them over.

@@ -7,6 +7,7 @@
 #include "engine/cause.h"
 #include "engine/result_recording.h"
 #include "store/first_field.h"
+#include "store/site_rules.h"
 #include "store/sql_quote.h"
 
 namespace tarnwick {
@@ -60,6 +61,14 @@ std::optional<std::string> SiteReasons::failedFetch(std::int16_t idSite, const S
   return last ? std::optional(std::move(text)) : std::nullopt;
 }
 
+// What the last check that brought a page had to tell beside its verdict.
+std::string SiteReasons::remarkOf(std::int16_t idSite, const Stand& stand) {
+  const auto remark = firstField(
+      db_, joinSql("select ", newestOf("case when errCode = 0 then errDescription end", inQuotes(stand.lastChecked),
+                                       inQuotes(stand.url), stand.up ? "1" : "0", sqlQuote(idSite))));
+  return remark && !remark->isNull() ? remark->toText() : std::string();
+}
+
 // Of both pages, without reading them. None where they lie in the table of the sites itself.
 std::int64_t SiteReasons::storedBytes(std::int16_t idSite) {
   const SqlValue id(std::int64_t{idSite});
@@ -87,6 +96,8 @@ std::string SiteReasons::reasonOf(std::int16_t idSite) {
     result.errCode = -1;
     result.errDescription = *fetch;
   }
+  const std::string remark = fetch ? std::string() : remarkOf(idSite, *stand);
+  result.remark = remark;
   if (stand->up) {
     const std::string note = noteOf(result);
     return note.empty() ? note : "up: " + note;
@@ -110,7 +121,7 @@ std::string SiteReasons::reasonOf(std::int16_t idSite) {
     result.errDescription =
         "the page differs from the baseline, and was not kept: there is too little room on the disk";
   }
-  return causeOf(result, baseline);
+  return causeOf(result, baseline, SiteRules(db_).rulesOf(idSite));
 }
 
 std::set<std::int64_t> SiteReasons::sitesNotFetched(std::int16_t idSite) {

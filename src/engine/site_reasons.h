@@ -33,6 +33,7 @@ class SiteReasons {
     std::string lastChecked;
   };
   std::optional<Stand> standOf(std::int16_t idSite);
+  std::string remarkOf(std::int16_t idSite, const Stand& stand);
   std::int64_t storedBytes(std::int16_t idSite);
   std::optional<std::string> failedFetch(std::int16_t idSite, const Stand& stand);
 

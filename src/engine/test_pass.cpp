@@ -82,6 +82,7 @@ TestPass::~TestPass() {
 void TestPass::test(TextTable sites) {
   sites_ = SelectedSites(needs_, std::move(sites));
   options_ = needs_.options.optionsInForce();
+  needs_.results.forgetSitesWithRules();
   run_.obey(options_);
   setUpPool();
   if (sites_.count() == 0) {

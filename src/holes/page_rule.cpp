@@ -13,6 +13,8 @@ namespace {
 constexpr std::array<std::string_view, 2> kUses = {"compare only", "leave out"};
 constexpr std::array<std::string_view, 5> kLanguages = {"regex", "css", "xpath", "json", "lines"};
 
+constexpr std::string_view kHole = "hole";
+
 template <typename Value, typename Words>
 std::optional<Value> valueOf(const Words& words, std::string_view word) {
   const auto found = std::ranges::find(words, word);
@@ -134,6 +136,44 @@ std::optional<Hole> holeOfText(std::string_view text) {
     }
   }
   return hole;
+}
+
+std::vector<RuleLine> linesOf(const RuleSet& set) {
+  std::vector<RuleLine> lines;
+  for (const PageRule& rule : set.rules) {
+    lines.push_back({std::string(wordOf(rule.use)), std::string(wordOf(rule.language)) + " " + rule.rule});
+  }
+  for (const Hole& hole : set.holes) {
+    lines.push_back({std::string(kHole), holeText(hole)});
+  }
+  return lines;
+}
+
+bool addLine(RuleSet& set, std::string_view kind, std::string_view rule) {
+  if (kind == kHole) {
+    auto hole = holeOfText(rule);
+    if (hole) {
+      set.holes.push_back(std::move(*hole));
+    }
+    return hole.has_value();
+  }
+  const auto use = useOf(kind);
+  const std::size_t blank = rule.find(' ');
+  const auto language = languageOf(rule.substr(0, blank));
+  if (!use || !language || blank == std::string_view::npos) {
+    return false;
+  }
+  set.rules.push_back({*use, *language, std::string(rule.substr(blank + 1))});
+  return true;
+}
+
+bool addLine(RuleSet& set, std::string_view text) {
+  for (const std::string_view kind : {kUses[0], kUses[1], kHole}) {
+    if (text.size() > kind.size() && text.starts_with(kind) && text[kind.size()] == ' ') {
+      return addLine(set, kind, text.substr(kind.size() + 1));
+    }
+  }
+  return false;
 }
 
 }  // namespace tarnwick

@@ -47,6 +47,17 @@ struct RuleSet {
   bool operator==(const RuleSet&) const = default;
 };
 
+/// A rule or a hole, of what kind and what it says: "leave out" and "css #clock", "hole" and `holeText`.
+struct RuleLine {
+  std::string kind;
+  std::string rule;
+};
+std::vector<RuleLine> linesOf(const RuleSet& set);
+/// Adds what the line says; false, with nothing added, for what is no such line.
+bool addLine(RuleSet& set, std::string_view kind, std::string_view rule);
+/// The same with both in one text, a blank between them.
+bool addLine(RuleSet& set, std::string_view text);
+
 /// A hole in one line of text, as it is stored: its class and what it has, blanks, control characters and bytes outside
 /// ASCII in percent codes.
 std::string holeText(const Hole& hole);

@@ -22,32 +22,64 @@ std::string remarkOn(const CutPage& page, const std::vector<PageRule>& rules) {
   return remark;
 }
 
+bool liesAt(std::string_view baseline, const Hole& hole) {
+  return hole.begin >= hole.before.size() && hole.begin <= baseline.size() &&
+         hole.length <= baseline.size() - hole.begin && baseline.substr(0, hole.begin).ends_with(hole.before) &&
+         baseline.substr(hole.end()).starts_with(hole.after);
+}
+
+std::string remarkOn(const Holes& lost) {
+  return lost.empty() ? std::string()
+                      : "Of the places that may vary " + std::to_string(lost.size()) +
+                            (lost.size() == 1 ? " is" : " are") + " not in the baseline any more.";
+}
+
 PageVerdict judgeWhole(const std::string& baseline, const std::string& page, const Holes& holes) {
   const Judgement judged = judge(baseline, holes, page);
   return {judged.same, judged.baselineAt, judged.pageAt};
 }
 
+PageVerdict judgeByRules(const std::string& before, const std::string& now, const std::vector<PageRule>& rules,
+                         const Holes& holes) {
+  if (rules.empty()) {
+    return judgeWhole(before, now, holes);
+  }
+  try {
+    const CutPage cutBefore = cut(before, rules);
+    const CutPage cutNow = cut(now, rules);
+    PageVerdict verdict = judgeWhole(cutBefore.text, cutNow.text, holesLeft(cutBefore, holes));
+    verdict.baselineAt = cutBefore.inPage(verdict.baselineAt);
+    verdict.pageAt = cutNow.inPage(verdict.pageAt);
+    verdict.remark = remarkOn(cutNow, rules);
+    return verdict;
+  } catch (const std::runtime_error& fault) {
+    PageVerdict verdict = judgeWhole(before, now, holes);
+    verdict.remark = fault.what();
+    return verdict;
+  }
+}
+
 }  // namespace
+
+PlacedHoles holesOf(std::string_view baseline, const Holes& holes) {
+  std::size_t from = 0;
+  for (const Hole& hole : holes) {
+    if (hole.begin < from || !liesAt(baseline, hole)) {
+      return placeIn(baseline, holes);
+    }
+    from = hole.end();
+  }
+  return {holes, {}};
+}
 
 PageVerdict judgePage(std::string_view baseline, std::string_view page, const RuleSet& set) {
   const std::string before = pageText(baseline);
   const std::string now = pageText(page);
-  if (set.rules.empty()) {
-    return judgeWhole(before, now, set.holes);
-  }
-  try {
-    const CutPage cutBefore = cut(before, set.rules);
-    const CutPage cutNow = cut(now, set.rules);
-    PageVerdict verdict = judgeWhole(cutBefore.text, cutNow.text, holesLeft(cutBefore, set.holes));
-    verdict.baselineAt = cutBefore.inPage(verdict.baselineAt);
-    verdict.pageAt = cutNow.inPage(verdict.pageAt);
-    verdict.remark = remarkOn(cutNow, set.rules);
-    return verdict;
-  } catch (const std::runtime_error& fault) {
-    PageVerdict verdict = judgeWhole(before, now, set.holes);
-    verdict.remark = fault.what();
-    return verdict;
-  }
+  const PlacedHoles holes = holesOf(before, set.holes);
+  PageVerdict verdict = judgeByRules(before, now, set.rules, holes.placed);
+  const std::string lost = remarkOn(holes.lost);
+  verdict.remark += (verdict.remark.empty() || lost.empty() ? "" : " ") + lost;
+  return verdict;
 }
 
 }  // namespace tarnwick

@@ -21,6 +21,10 @@ struct PageVerdict {
   std::string remark{};
 };
 
+/// Where the holes lie in a baseline, given as `pageText` does: where they are said to lie, as long as what stands
+/// around them there is what stood around them when they were made; else where that is found.
+PlacedHoles holesOf(std::string_view baseline, const Holes& holes);
+
 /// Judges a page as it was fetched. Without rules it is compared byte for byte; a page that equals its baseline is the
 /// same whatever the rules say. A rule that cannot be understood leaves nothing out.
 PageVerdict judgePage(std::string_view baseline, std::string_view page, const RuleSet& set);

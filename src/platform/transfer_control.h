@@ -85,6 +85,8 @@ struct TransferResult {
   std::string cause{};
   /// Every byte as it came, decoded.
   std::string page{};
+  /// The status of the HTTP answer that brought the page (RFC 9110, section 15); 0 where none did.
+  int status = 0;
   /// The IP address of the server that was asked last; empty where none was.
   std::string server{};
   /// How long the whole request took, look-up and redirects included.

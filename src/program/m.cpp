@@ -10,6 +10,7 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       SettingsAndLog(ownedDatabase_, fields),
       SiteOptions(ownedDatabase_, fields.options),
       SiteStandings(ownedDatabase_),
+      SiteRules(ownedDatabase_),
       ResultLog(ownedDatabase_),
       KeptPages(ownedDatabase_, services.files),
       RoomReserve(ownedDatabase_, services.files),
@@ -31,6 +32,11 @@ void m::clearLog() {
   if (!hasRoomForPages()) {
     runWithoutReserve([this] { giveRoomBack(); });
   }
+}
+
+void m::storeRules(std::int16_t idSite, const RuleSet& rules) {
+  forgetSitesWithRules();
+  SiteRules::storeRules(idSite, rules);
 }
 
 void m::deleteSite(std::int16_t idSite) {

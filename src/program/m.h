@@ -22,6 +22,7 @@
 #include "store/settings_and_log.h"
 #include "store/site_options.h"
 #include "store/site_records.h"
+#include "store/site_rules.h"
 #include "store/site_standing.h"
 #include "store/text_files.h"
 
@@ -55,6 +56,7 @@ class m : private MembersOfM,
           public SettingsAndLog,
           public SiteOptions,
           public SiteStandings,
+          public SiteRules,
           public ResultLog,
           public KeptPages,
           public RoomReserve,
@@ -85,6 +87,9 @@ class m : private MembersOfM,
   void clearLog();
   void deleteSite(std::int16_t idSite);
   void deleteSiteOfAnyId(std::int64_t idSite);
+
+  /// From the next check on, also of a pass that is under way.
+  void storeRules(std::int16_t idSite, const RuleSet& rules);
 
  private:
   using SettingsAndLog::addLog;

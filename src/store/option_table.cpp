@@ -166,8 +166,9 @@ std::vector<OptionField> runOptions() {
        .recommended = std::string(option_value::pagesOnly),
        .original = "the first answer becomes the baseline, also the text of a fetch that failed",
        .label = "First baseline",
-       .meaning =
-           "What becomes the baseline of a site that has none; with \"pages only\" a fetch that failed does not"},
+       .meaning = "What becomes the baseline of a site that has none; with \"pages only\" a fetch that failed, an "
+                  "error page of the "
+                  "server or a page that is suddenly less than half as long does not"},
       {.name = std::string(option_name::mailLimit),
        .kind = OptionKind::number,
        .least = 1,

@@ -102,7 +102,8 @@ class CheckView final : public SilentView {
   }
 
   std::string reasonOf(const CheckResult& result) {
-    return result.passed ? noteOf(result) : causeOf(result, data_->getContentCompare(result.idSite));
+    return result.passed ? noteOf(result)
+                         : causeOf(result, data_->getContentCompare(result.idSite), data_->rulesOf(result.idSite));
   }
 
   Console& console_;

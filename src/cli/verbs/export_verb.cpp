@@ -111,6 +111,7 @@ std::size_t writeList(Tool& tool, Format format, ListColumns columns, const Byte
   // Whether options are columns is of the same state as the options, whoever sets one meanwhile.
   const Snapshot oneState(data.database());
   columns.options = hasOptions(data);
+  columns.rules = hasRules(data);
   const auto writer = format == Format::csv ? makeCsvWriter(columns, sink, tool.fields())
                                             : makeJsonWriter(columns, sink, tool.fields());
   ImportWarnings warnings(tool.console(), tool.fields());

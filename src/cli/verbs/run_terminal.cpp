@@ -94,15 +94,25 @@ void RunTerminal::setProgressWidth(std::int64_t width) {
   showLive();
 }
 
+// One that stays the same is told once.
+bool RunTerminal::isNewRemark(const CheckResult& result) {
+  std::string& told = remarks_[result.idSite];
+  const bool isNew = !result.remark.empty() && told != result.remark;
+  told = result.remark;
+  return isNew;
+}
+
 void RunTerminal::showResult(const CheckResult& result) {
   ++(result.passed ? pass_.up : pass_.down);
   const auto before = known_.find(result.idSite);
   const bool recovered = result.passed && before != known_.end() && !before->second;
   known_[result.idSite] = result.passed;
-  if (result.passed && !recovered && !style_.verbose && !style_.json) {
+  if (result.passed && !recovered && !style_.verbose && !style_.json && !isNewRemark(result)) {
     return;
   }
-  const std::string cause = result.passed ? noteOf(result) : causeOf(result, data_->getContentCompare(result.idSite));
+  const std::string cause =
+      result.passed ? noteOf(result)
+                    : causeOf(result, data_->getContentCompare(result.idSite), data_->rulesOf(result.idSite));
   const std::string state = result.passed ? console_.coloured(Console::Colour::green, "up  ")
                                           : console_.coloured(Console::Colour::red, "down");
   tell(state + " " + std::to_string(result.idSite) + " " + visibleText(result.url) + (recovered ? " (was down)" : "") +

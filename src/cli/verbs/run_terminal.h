@@ -45,6 +45,7 @@ class RunTerminal final : public SilentView {
   void showDropped(std::int16_t idSite, const std::string& url) override;
 
  private:
+  bool isNewRemark(const CheckResult& result);
   struct Count {
     std::size_t up = 0;
     std::size_t down = 0;
@@ -68,6 +69,7 @@ class RunTerminal final : public SilentView {
   m* data_ = nullptr;
   /// The sites that the run checks and that have been judged, and whether they were up.
   std::map<std::int16_t, bool> known_;
+  std::map<std::int16_t, std::string> remarks_;
   std::size_t active_ = 0;
   bool begun_ = false;
   std::chrono::milliseconds begunAt_{0};

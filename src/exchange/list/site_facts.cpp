@@ -128,6 +128,14 @@ JsonValue siteJson(const Fields& fields, const SiteFacts& facts, bool showPasswo
   return json;
 }
 
+JsonValue rulesJson(const RuleSet& rules) {
+  JsonValue lines = JsonValue::array();
+  for (const RuleLine& line : linesOf(rules)) {
+    lines.add(jsonText(line.kind + " " + line.rule));
+  }
+  return lines;
+}
+
 JsonValue optionsJson(const OptionValues& options) {
   JsonValue json = JsonValue::object();
   for (const auto& [name, value] : options) {

@@ -53,6 +53,9 @@ JsonValue optionsJson(const OptionValues& options);
 /// What is set for a site, or for all, as far as the options take it: what an import would take.
 OptionValues knownOptions(m& data, std::int16_t idSite);
 
+/// Rules and holes as JSON, an array of texts.
+JsonValue rulesJson(const RuleSet& rules);
+
 /// POST variables as JSON, in their order.
 JsonValue postVarsJson(const std::vector<PostVar>& vars);
 

@@ -157,6 +157,9 @@ class ImportPlanner::Plan {
     if (site.given.has(list_name::options)) {
       merge.take(list_name::options, site.options, knownOptions(data_, step.idSite));
     }
+    if (site.given.has(list_name::rules)) {
+      merge.take(list_name::rules, site.rules, data_.rulesOf(step.idSite));
+    }
     check(site);
     if (step.fields.none()) {
       ++plan_.unchanged;
@@ -251,6 +254,9 @@ void storeListed(m& data, const ImportStep& step) {
   storeSite(data, step.idSite, step.listed.site, step.listed.postVars);
   if (step.fields.has(list_name::options)) {
     data.storeOptions(step.idSite, step.listed.options);
+  }
+  if (step.fields.has(list_name::rules)) {
+    data.storeRules(step.idSite, step.listed.rules);
   }
   if (!step.fields.has(list_name::baseline)) {
     return;

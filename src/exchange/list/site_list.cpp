@@ -35,6 +35,7 @@ ListForm::ListForm(const Fields& fields) : fields_(fields) {
   all_.push_back({std::string(list_name::postVars), postVars});
   all_.push_back({std::string(list_name::baseline), baseline});
   all_.push_back({std::string(list_name::options), options});
+  all_.push_back({std::string(list_name::rules), rules});
 }
 
 const ListField* ListForm::find(std::string_view name) const {
@@ -141,6 +142,13 @@ void ListValues::option(const Fields& fields, OptionValues& options, std::string
     options[option->name] = option->checked(text);
   } catch (const std::runtime_error&) {
     fault("the option " + option->name + " does not take " + quotedForMessage(text) + ": give " + option->values());
+  }
+}
+
+void ListValues::rule(RuleSet& rules, std::string_view text) {
+  if (!addLine(rules, text)) {
+    fault("the rule " + quotedForMessage(text) +
+          " is none: give it as an export writes it, for instance \"leave out css #clock\"");
   }
 }
 

@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "holes/page_rule.h"
 #include "platform/file_system.h"
 #include "store/adoption.h"
 #include "store/fields.h"
@@ -23,7 +24,7 @@ namespace tarnwick {
 /// What a file of the list of sites tells of a site: a column of CSV, a member of a JSON object. What checks have found
 /// is no part of it.
 struct ListField {
-  enum class Role { idSite, siteField, postVars, baseline, options };
+  enum class Role { idSite, siteField, postVars, baseline, options, rules };
 
   std::string name;
   Role role = Role::siteField;
@@ -58,6 +59,7 @@ inline constexpr std::string_view method = "method";
 inline constexpr std::string_view postVars = "postVars";
 inline constexpr std::string_view baseline = "baseline";
 inline constexpr std::string_view options = "options";
+inline constexpr std::string_view rules = "rules";
 }  // namespace list_name
 
 /// Fields of a file, by their names.
@@ -82,6 +84,7 @@ struct ListedSite {
   std::vector<PostVar> postVars;
   std::string baseline;
   OptionValues options;
+  RuleSet rules;
   /// What checks have found, of a site that comes from another database; it counts for a site that is added.
   std::optional<CheckedState> state{};
   /// What the file tells of the site.
@@ -149,6 +152,8 @@ class ListValues {
   /// Takes an option into `options`.
   void option(const Fields& fields, OptionValues& options, std::string_view name, std::string_view text);
   std::optional<std::string> baseline(std::string bytes);
+  /// Takes a rule or a hole into `rules`.
+  void rule(RuleSet& rules, std::string_view text);
 
   void fault(std::string text) { faults_.add(line_, std::move(text)); }
 
@@ -170,11 +175,13 @@ struct ListColumns {
   bool baselines = false;
   /// Options are written when any is set: without one a file is as it always was.
   bool options = false;
+  /// Rules are written when any site has some, for the same reason.
+  bool rules = false;
 
   bool has(const ListField& field) const {
     return (field.field == nullptr || field.field->kind != FieldKind::secret || passwords) &&
            (field.role != ListField::Role::baseline || baselines) &&
-           (field.role != ListField::Role::options || options);
+           (field.role != ListField::Role::options || options) && (field.role != ListField::Role::rules || rules);
   }
 };
 

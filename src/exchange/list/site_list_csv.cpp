@@ -75,6 +75,8 @@ class CsvSite {
         return readBaseline(text);
       case ListField::Role::options:
         return readOptions(text);
+      case ListField::Role::rules:
+        return readRules(text);
       case ListField::Role::siteField:
         return readValue(*field.field, text);
     }
@@ -133,6 +135,17 @@ class CsvSite {
       }
     } catch (const std::invalid_argument& error) {
       values_.fault(std::string("options: ") + error.what());
+    }
+  }
+
+  // One a line.
+  void readRules(std::string_view text) {
+    site_.given.set(list_name::rules);
+    hasMore_ = hasMore_ || !text.empty();
+    while (!text.empty()) {
+      const std::string_view line = text.substr(0, text.find('\n'));
+      values_.rule(site_.rules, line);
+      text.remove_prefix(std::min(text.size(), line.size() + 1));
     }
   }
 

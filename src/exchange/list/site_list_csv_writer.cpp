@@ -47,6 +47,15 @@ class CsvWriter final : public SiteListWriter {
     return pairs;
   }
 
+  // One a line.
+  static std::string rulesOf(const RuleSet& rules) {
+    std::string text;
+    for (const RuleLine& line : linesOf(rules)) {
+      text += (text.empty() ? "" : "\n") + line.kind + " " + line.rule;
+    }
+    return text;
+  }
+
   static std::string textOf(const ListField& field, const ListedSite& site) {
     switch (field.role) {
       case ListField::Role::idSite:
@@ -57,6 +66,8 @@ class CsvWriter final : public SiteListWriter {
         return encodeBase64(site.baseline);
       case ListField::Role::options:
         return encodePostVars(pairsOf(site.options));
+      case ListField::Role::rules:
+        return rulesOf(site.rules);
       case ListField::Role::siteField:
         break;
     }

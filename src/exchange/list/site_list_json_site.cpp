@@ -36,6 +36,8 @@ class JsonSite {
       case ListField::Role::options:
         readOptionsOfJson(value, form_.fields(), site_.options, values_);
         return site_.given.set(field.name);
+      case ListField::Role::rules:
+        return readRules(field, value);
       case ListField::Role::baseline:
         if (auto bytes = text(field.name, value)) {
           keep(field, site_.baseline, values_.baseline(std::move(*bytes)));
@@ -47,6 +49,20 @@ class JsonSite {
           site_.given.set(field.name);
         }
     }
+  }
+
+  void readRules(const ListField& field, const JsonValue& value) {
+    const auto* const lines = value.as<JsonValue::Array>();
+    if (lines == nullptr) {
+      values_.fault(R"(rules is no array: give ["RULE", ...])");
+      return;
+    }
+    for (const JsonValue& line : *lines) {
+      if (const auto rule = text(field.name, line)) {
+        values_.rule(site_.rules, *rule);
+      }
+    }
+    site_.given.set(field.name);
   }
 
   std::optional<FieldValue> valueOfField(const ListField& field, const JsonValue& value) {

@@ -41,6 +41,8 @@ class JsonWriter final : public SiteListWriter {
         return jsonText(site.baseline);
       case ListField::Role::options:
         return optionsJson(site.options);
+      case ListField::Role::rules:
+        return rulesJson(site.rules);
       case ListField::Role::siteField:
         break;
     }

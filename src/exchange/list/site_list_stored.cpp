@@ -31,6 +31,9 @@ void readListedSites(m& data, ListColumns columns, const std::function<void(cons
     if (columns.options) {
       site.options = knownOptions(data, id);
     }
+    if (columns.rules) {
+      site.rules = data.rulesOf(id);
+    }
     if (columns.baselines) {
       site.baseline = data.getContentCompare(id);
     }
@@ -45,6 +48,8 @@ bool hasOptions(m& data) {
   return std::ranges::any_of(readSiteFacts(data),
                              [&](const SiteFacts& facts) { return !knownOptions(data, idOf(facts)).empty(); });
 }
+
+bool hasRules(m& data) { return !data.sitesWithRules().empty(); }
 
 std::int16_t idOf(const SiteFacts& facts) {
   return checkedInt16(facts.idSite, "the site id " + std::to_string(facts.idSite));

@@ -18,6 +18,8 @@ void readListedSites(m& data, ListColumns columns, const std::function<void(cons
 
 /// Whether an option is set, for a site or for all.
 bool hasOptions(m& data);
+/// Whether any site has rules.
+bool hasRules(m& data);
 
 /// The stored id; raises OverflowError, which names it, when it does not fit 16 bits.
 std::int16_t idOf(const SiteFacts& facts);

@@ -287,6 +287,9 @@ TransferResult CurlRequest::finish(CURLcode reported) {
   curl_easy_getinfo(easy_.get(), CURLINFO_TOTAL_TIME_T, &took);
   ended.took = std::chrono::ceil<std::chrono::milliseconds>(std::chrono::microseconds(took));
   ended.server = textOf(easy_.get(), CURLINFO_PRIMARY_IP);
+  long status = 0;
+  curl_easy_getinfo(easy_.get(), CURLINFO_RESPONSE_CODE, &status);
+  ended.status = overFtp() ? 0 : static_cast<int>(status);
   return ended;
 }
 
