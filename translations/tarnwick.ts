@@ -3407,6 +3407,254 @@
         <source>Line %1: only two different texts were seen there; what else it may say is a guess. Fetch again over a day.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1: nothing was learnt. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the page differs from the baseline also in line %2, so nothing is stored. Look at it with: tarnwickctl diff %3; if that is how the page shall be: tarnwickctl baseline %4 load, then learn again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the baseline was changed meanwhile. Learn again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let this vary in site %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interrupted; nothing is learnt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 fetches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: nothing has varied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 place varies; %3 %% of the page stays watched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 places vary; %3 %% of the page stays watched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The rules of site %1 are stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RULE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PLACE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WHAT MAY STAND THERE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IN THE BASELINE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has no rules: its page is compared byte for byte.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the places that may vary %1 is not in the baseline any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the places that may vary %1 are not in the baseline any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no kind of hole: give one of digits, hex, base64, letters, date, list, text, anything.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text &quot;%1&quot; stands nowhere in the baseline. Give the text that may vary as it stands there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text &quot;%1&quot; stands more than once in the baseline. Select the place in the window, or learn it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This place touches another one that may vary, in %1. Remove that first: tarnwickctl rules %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A rule is one of leave-out, compare-only and hole, then regex, css, xpath, json or lines, then the rule in quotes; see: tarnwickctl help rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A rule is one line: write a line end in a regular expression as its escape.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say what to add, for instance: tarnwickctl rules %1 add leave-out css &quot;div.clock&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name the rule by its number, or all of them: tarnwickctl rules %1 remove 1|all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no page to try the rules on. Give a file, or fetch the page: tarnwickctl check %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 match</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 matches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By these rules the page is the same as the baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By these rules the page differs from the baseline, first in line %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page could not be fetched. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server answered with an error page (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page is an error page of the server, and was not taken as the baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page has less than half the length of the one before, and was not taken as the baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the rule %1 is none: give it as an export writes it, for instance &quot;leave out css div.clock&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rules is no array: give [&quot;RULE&quot;, ...]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Learn from several fetches what always changes on a page, and let it vary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The ids, as the verb sites lists them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many times each page is fetched, from 2 to 50; 5 without this</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spread the fetches over this time, as 30m, 2h or 1d; at once without this</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Store what was learnt without asking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Numbers, keys, dates and words that vary become places where anything of their kind may stand; all around them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stays compared byte for byte. With --json nothing is stored unless --yes is given.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fetch the page of site 3 five times, and ask</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same over a day, which finds what changes with the date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what may vary in it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or change what of a site&apos;s page does not count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list (default), add, remove, test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for add: leave-out|compare-only LANGUAGE RULE, or hole CLASS TEXT; for remove: a number or all; for test: a FILE, without one the latest page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Languages: regex (RE2; its first group, where it has one), css, xpath, json (a pointer, RFC 6901), lines (3-7).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Classes of holes: digits, hex, base64, letters, date, list, text, anything. TEXT is what the baseline has there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A site without rules is compared byte for byte.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what does not count on the page of site 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>whole elements</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing else</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this number may be another one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what the rules do to a page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as the list numbers them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no date or time whose form is known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no baseline yet</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -3959,10 +4207,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>What becomes the baseline of a site that has none; with &quot;pages only&quot; a fetch that failed does not</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>When a run takes on a site that was never checked</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4308,6 +4552,10 @@
     </message>
     <message>
         <source>Alarm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What becomes the baseline of a site that has none; with &quot;pages only&quot; a fetch that failed, an error page of the server or a page that is suddenly less than half as long does not</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -3407,6 +3407,254 @@
         <source>Line %1: only two different texts were seen there; what else it may say is a guess. Fetch again over a day.</source>
         <translation>Zeile %1: Dort wurden nur zwei verschiedene Texte gesehen; was dort sonst noch stehen kann, ist geraten. Rufen Sie die Seite über einen Tag hinweg erneut ab.</translation>
     </message>
+    <message>
+        <source>%1: nothing was learnt. %2</source>
+        <translation>%1: nichts wurde gelernt. %2</translation>
+    </message>
+    <message>
+        <source>%1: the page differs from the baseline also in line %2, so nothing is stored. Look at it with: tarnwickctl diff %3; if that is how the page shall be: tarnwickctl baseline %4 load, then learn again.</source>
+        <translation>%1: Die Seite weicht auch in Zeile %2 vom Sollinhalt ab, deshalb ist nichts gespeichert. Sehen Sie es an mit: tarnwickctl diff %3; soll die Seite so sein: tarnwickctl baseline %4 load, dann lernen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1: the baseline was changed meanwhile. Learn again.</source>
+        <translation>%1: der Sollinhalt wurde inzwischen geändert. Lernen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>Let this vary in site %1?</source>
+        <translation>Darf das bei Site %1 abweichen?</translation>
+    </message>
+    <message>
+        <source>Interrupted; nothing is learnt.</source>
+        <translation>Unterbrochen; nichts ist gelernt.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 fetches</source>
+        <translation>%1: %2 von %3 Abrufen</translation>
+    </message>
+    <message>
+        <source>%1: nothing has varied.</source>
+        <translation>%1: nichts wich ab.</translation>
+    </message>
+    <message>
+        <source>%1: %2 place varies; %3 %% of the page stays watched.</source>
+        <translation>%1: %2 Stelle weicht ab; %3 %% der Seite bleiben überwacht.</translation>
+    </message>
+    <message>
+        <source>%1: %2 places vary; %3 %% of the page stays watched.</source>
+        <translation>%1: %2 Stellen weichen ab; %3 %% der Seite bleiben überwacht.</translation>
+    </message>
+    <message>
+        <source>The rules of site %1 are stored.</source>
+        <translation>Die Regeln von Site %1 sind gespeichert.</translation>
+    </message>
+    <message>
+        <source>RULE</source>
+        <translation>REGEL</translation>
+    </message>
+    <message>
+        <source>PLACE</source>
+        <translation>STELLE</translation>
+    </message>
+    <message>
+        <source>WHAT MAY STAND THERE</source>
+        <translation>WAS DORT STEHEN DARF</translation>
+    </message>
+    <message>
+        <source>IN THE BASELINE</source>
+        <translation>IM SOLLINHALT</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>Site %1 has no rules: its page is compared byte for byte.</source>
+        <translation>Site %1 hat keine Regeln: ihre Seite wird Byte für Byte verglichen.</translation>
+    </message>
+    <message>
+        <source>Of the places that may vary %1 is not in the baseline any more.</source>
+        <translation>Von den Stellen, die abweichen dürfen, gibt es %1 im Sollinhalt nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Of the places that may vary %1 are not in the baseline any more.</source>
+        <translation>Von den Stellen, die abweichen dürfen, gibt es %1 im Sollinhalt nicht mehr.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no kind of hole: give one of digits, hex, base64, letters, date, list, text, anything.</source>
+        <translation>„%1“ ist keine Art von Lücke: nennen Sie digits, hex, base64, letters, date, list, text oder anything.</translation>
+    </message>
+    <message>
+        <source>The text &quot;%1&quot; stands nowhere in the baseline. Give the text that may vary as it stands there.</source>
+        <translation>Der Text „%1“ steht nirgends im Sollinhalt. Geben Sie den Text, der abweichen darf, so an, wie er dort steht.</translation>
+    </message>
+    <message>
+        <source>The text &quot;%1&quot; stands more than once in the baseline. Select the place in the window, or learn it.</source>
+        <translation>Der Text „%1“ steht mehrmals im Sollinhalt. Wählen Sie die Stelle im Fenster aus, oder lernen Sie sie.</translation>
+    </message>
+    <message>
+        <source>This place touches another one that may vary, in %1. Remove that first: tarnwickctl rules %2</source>
+        <translation>Diese Stelle berührt eine andere, die abweichen darf, in %1. Entfernen Sie zuerst diese: tarnwickctl rules %2</translation>
+    </message>
+    <message>
+        <source>A rule is one of leave-out, compare-only and hole, then regex, css, xpath, json or lines, then the rule in quotes; see: tarnwickctl help rules</source>
+        <translation>Eine Regel ist leave-out, compare-only oder hole, dann regex, css, xpath, json oder lines, dann die Regel in Anführungszeichen; siehe: tarnwickctl help rules</translation>
+    </message>
+    <message>
+        <source>A rule is one line: write a line end in a regular expression as its escape.</source>
+        <translation>Eine Regel ist eine Zeile: schreiben Sie ein Zeilenende im regulären Ausdruck als Ersatzzeichen.</translation>
+    </message>
+    <message>
+        <source>Say what to add, for instance: tarnwickctl rules %1 add leave-out css &quot;div.clock&quot;</source>
+        <translation>Sagen Sie, was dazukommt, zum Beispiel: tarnwickctl rules %1 add leave-out css &quot;div.clock&quot;</translation>
+    </message>
+    <message>
+        <source>Name the rule by its number, or all of them: tarnwickctl rules %1 remove 1|all</source>
+        <translation>Nennen Sie die Regel bei ihrer Nummer, oder alle: tarnwickctl rules %1 remove 1|all</translation>
+    </message>
+    <message>
+        <source>There is no page to try the rules on. Give a file, or fetch the page: tarnwickctl check %1</source>
+        <translation>Es gibt keine Seite, an der die Regeln versucht werden. Nennen Sie eine Datei, oder rufen Sie die Seite ab: tarnwickctl check %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 match</source>
+        <translation>%1: %2 Treffer</translation>
+    </message>
+    <message>
+        <source>%1: %2 matches</source>
+        <translation>%1: %2 Treffer</translation>
+    </message>
+    <message>
+        <source>By these rules the page is the same as the baseline.</source>
+        <translation>Nach diesen Regeln gleicht die Seite dem Sollinhalt.</translation>
+    </message>
+    <message>
+        <source>By these rules the page differs from the baseline, first in line %1.</source>
+        <translation>Nach diesen Regeln weicht die Seite vom Sollinhalt ab, zuerst in Zeile %1.</translation>
+    </message>
+    <message>
+        <source>The page could not be fetched. %1</source>
+        <translation>Die Seite war nicht abzurufen. %1</translation>
+    </message>
+    <message>
+        <source>The server answered with an error page (%1).</source>
+        <translation>Der Server antwortete mit einer Fehlerseite (%1).</translation>
+    </message>
+    <message>
+        <source>The page is empty.</source>
+        <translation>Die Seite ist leer.</translation>
+    </message>
+    <message>
+        <source>The page is an error page of the server, and was not taken as the baseline.</source>
+        <translation>Die Seite ist eine Fehlerseite des Servers und wurde nicht zum Sollinhalt.</translation>
+    </message>
+    <message>
+        <source>The page has less than half the length of the one before, and was not taken as the baseline.</source>
+        <translation>Die Seite ist nicht halb so lang wie die davor und wurde nicht zum Sollinhalt.</translation>
+    </message>
+    <message>
+        <source>the rule %1 is none: give it as an export writes it, for instance &quot;leave out css div.clock&quot;</source>
+        <translation>die Regel %1 ist keine: geben Sie sie so an, wie eine Ausgabe sie schreibt, zum Beispiel „leave out css div.clock“</translation>
+    </message>
+    <message>
+        <source>rules is no array: give [&quot;RULE&quot;, ...]</source>
+        <translation>rules ist kein Feld: geben Sie [&quot;RULE&quot;, ...]</translation>
+    </message>
+    <message>
+        <source>Learn from several fetches what always changes on a page, and let it vary</source>
+        <translation>Aus mehreren Abrufen lernen, was sich auf einer Seite immer ändert, und es zulassen</translation>
+    </message>
+    <message>
+        <source>The ids, as the verb sites lists them</source>
+        <translation>Die Nummern, wie das Verb sites sie aufzählt</translation>
+    </message>
+    <message>
+        <source>How many times each page is fetched, from 2 to 50; 5 without this</source>
+        <translation>Wie oft jede Seite abgerufen wird, von 2 bis 50; ohne dies 5</translation>
+    </message>
+    <message>
+        <source>Spread the fetches over this time, as 30m, 2h or 1d; at once without this</source>
+        <translation>Die Abrufe über diese Zeit verteilen, etwa 30m, 2h oder 1d; ohne dies sofort</translation>
+    </message>
+    <message>
+        <source>Store what was learnt without asking</source>
+        <translation>Das Gelernte ohne Frage speichern</translation>
+    </message>
+    <message>
+        <source>Numbers, keys, dates and words that vary become places where anything of their kind may stand; all around them</source>
+        <translation>Zahlen, Schlüssel, Daten und Wörter, die abweichen, werden Stellen für alles ihrer Art; alles rundherum</translation>
+    </message>
+    <message>
+        <source>stays compared byte for byte. With --json nothing is stored unless --yes is given.</source>
+        <translation>wird weiter Byte für Byte verglichen. Mit --json wird nur mit --yes gespeichert.</translation>
+    </message>
+    <message>
+        <source>fetch the page of site 3 five times, and ask</source>
+        <translation>die Seite von Site 3 fünfmal abrufen und fragen</translation>
+    </message>
+    <message>
+        <source>the same over a day, which finds what changes with the date</source>
+        <translation>dasselbe über einen Tag, was auch Daten findet</translation>
+    </message>
+    <message>
+        <source>what may vary in it</source>
+        <translation>was darin abweichen darf</translation>
+    </message>
+    <message>
+        <source>Show or change what of a site&apos;s page does not count</source>
+        <translation>Zeigen oder ändern, was von der Seite einer Site nicht zählt</translation>
+    </message>
+    <message>
+        <source>list (default), add, remove, test</source>
+        <translation>list (ohne Angabe), add, remove, test</translation>
+    </message>
+    <message>
+        <source>for add: leave-out|compare-only LANGUAGE RULE, or hole CLASS TEXT; for remove: a number or all; for test: a FILE, without one the latest page</source>
+        <translation>für add: leave-out|compare-only SPRACHE REGEL, oder hole ART TEXT; für remove: eine Nummer oder all; für test: eine DATEI, sonst die neueste Seite</translation>
+    </message>
+    <message>
+        <source>Languages: regex (RE2; its first group, where it has one), css, xpath, json (a pointer, RFC 6901), lines (3-7).</source>
+        <translation>Sprachen: regex (RE2; deren erste Gruppe, falls es eine gibt), css, xpath, json (RFC 6901), lines (3-7).</translation>
+    </message>
+    <message>
+        <source>Classes of holes: digits, hex, base64, letters, date, list, text, anything. TEXT is what the baseline has there.</source>
+        <translation>Arten: digits, hex, base64, letters, date, list, text, anything. TEXT ist, was der Sollinhalt dort hat.</translation>
+    </message>
+    <message>
+        <source>A site without rules is compared byte for byte.</source>
+        <translation>Eine Site ohne Regeln wird Byte für Byte verglichen.</translation>
+    </message>
+    <message>
+        <source>what does not count on the page of site 3</source>
+        <translation>was auf der Seite von Site 3 nicht zählt</translation>
+    </message>
+    <message>
+        <source>whole elements</source>
+        <translation>ganze Elemente</translation>
+    </message>
+    <message>
+        <source>nothing else</source>
+        <translation>nichts sonst</translation>
+    </message>
+    <message>
+        <source>this number may be another one</source>
+        <translation>diese Zahl darf eine andere sein</translation>
+    </message>
+    <message>
+        <source>what the rules do to a page</source>
+        <translation>was die Regeln mit einer Seite machen</translation>
+    </message>
+    <message>
+        <source>as the list numbers them</source>
+        <translation>wie die Liste sie zählt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no date or time whose form is known.</source>
+        <translation>„%1“ ist kein Datum und keine Uhrzeit in einer bekannten Form.</translation>
+    </message>
+    <message>
+        <source>there is no baseline yet</source>
+        <translation>noch gibt es keinen Sollinhalt</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -3959,10 +4207,6 @@
         <translation>Wie lange die Übergabe einer Mail höchstens dauern darf, mit dem Verbindungsaufbau</translation>
     </message>
     <message>
-        <source>What becomes the baseline of a site that has none; with &quot;pages only&quot; a fetch that failed does not</source>
-        <translation>Was zur Basis einer Seite ohne Basis wird; mit „nur gute Seiten“ (pages only) nicht der Text eines gescheiterten Holens</translation>
-    </message>
-    <message>
         <source>When a run takes on a site that was never checked</source>
         <translation>Wann ein Lauf eine Seite aufnimmt, die noch nie geprüft wurde</translation>
     </message>
@@ -4309,6 +4553,10 @@
     <message>
         <source>Alarm</source>
         <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>What becomes the baseline of a site that has none; with &quot;pages only&quot; a fetch that failed, an error page of the server or a page that is suddenly less than half as long does not</source>
+        <translation>Was zum Sollinhalt einer Site wird, die noch keinen hat; bei „nur Seiten“ nicht ein gescheiterter Abruf, eine Fehlerseite des Servers oder eine plötzlich nicht halb so lange Seite</translation>
     </message>
 </context>
 <context>

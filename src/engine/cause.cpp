@@ -49,8 +49,8 @@ std::string causeOf(const CheckResult& failed, std::string_view baseline, const 
   if (failed.errCode != 0 || !failed.errDescription.empty()) {
     return visibleText(failed.errDescription);
   }
-  if (baseline.empty() && !failed.remark.empty()) {
-    return std::string(failed.remark);
+  if (baseline.empty()) {
+    return failed.remark.empty() ? "there is no baseline yet" : std::string(failed.remark);
   }
   if (!rules.empty()) {
     return causeByRules(failed, baseline, rules);

@@ -55,6 +55,37 @@ TEST_F(RunOptions, AFailedFetchBecomesTheBaselineWhenNothingIsSet) {
   EXPECT_NE(column(id, "content_compare"), "NULL");
 }
 
+TEST_F(RunOptions, AnErrorPageBecomesNoBaselineWhenOnlyPagesAreAdopted) {
+  set("adopt", "pages only");
+  const std::int16_t id = addPage("/a", "");
+  server.respond("/a", {.status = 503, .body = "We will be back soon."});
+  program.startRun();
+  EXPECT_EQ(column(id, "status"), "0");
+  EXPECT_EQ(column(id, "content_compare"), "NULL");
+  EXPECT_EQ(program.data().reasonOf(id), "there is no baseline yet");
+  EXPECT_THAT(program.data().remark(), HasSubstr("error page"));
+  server.respond("/a", {.body = "The page itself."});
+  program.stopRun();
+  program.startRun();
+  EXPECT_EQ(column(id, "content_compare"), "The page itself.");
+}
+
+TEST_F(RunOptions, APageOfLessThanHalfTheUsualLengthBecomesNoBaselineAtOnce) {
+  set("adopt", "pages only");
+  const std::int16_t id = addPage("/a", std::string(1000, 'x'));
+  program.startRun();
+  program.data().clearContentCompare(id);
+  server.respond("/a", {.body = "short"});
+  program.stopRun();
+  program.startRun();
+  EXPECT_EQ(column(id, "content_compare"), "");
+  EXPECT_EQ(column(id, "status"), "0");
+  EXPECT_THAT(program.data().remark(), HasSubstr("less than half"));
+  program.stopRun();
+  program.startRun();
+  EXPECT_EQ(column(id, "content_compare"), "short") << "by then it is the usual length";
+}
+
 TEST_F(RunOptions, AFailedFetchBecomesNoBaselineWhenOnlyPagesAreAdopted) {
   set("adopt", "pages only");
   const std::int16_t id = addSite("http://127.0.0.1:1/");

@@ -20,6 +20,8 @@ std::vector<Verb> allVerbs(const Fields& fields) {
   all.push_back(settingsVerb(fields));
   all.push_back(optionVerb(fields));
   add(pauseVerbs());
+  all.push_back(learnVerb());
+  all.push_back(rulesVerb());
   all.push_back(logVerb());
   add(upkeepVerbs());
   all.push_back(exportVerb());

@@ -25,6 +25,8 @@ Verb settingsVerb(const Fields& fields);
 Verb optionVerb(const Fields& fields);
 /// pause, resume
 std::vector<Verb> pauseVerbs();
+Verb learnVerb();
+Verb rulesVerb();
 Verb logVerb();
 Verb initVerb();
 /// Prints the completions of all verbs.

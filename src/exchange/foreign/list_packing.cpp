@@ -160,6 +160,19 @@ void pack(Way& way, LogRow& row) {
 }
 
 template <typename Way>
+void pack(Way& way, RuleSet& rules) {
+  std::vector<std::pair<std::string, std::string>> lines;
+  for (RuleLine& line : linesOf(rules)) {
+    lines.emplace_back(std::move(line.kind), std::move(line.rule));
+  }
+  pack(way, lines);
+  rules = {};
+  for (const auto& [kind, rule] : lines) {
+    addLine(rules, kind, rule);
+  }
+}
+
+template <typename Way>
 void pack(Way& way, ListedSite& site) {
   pack(way, site.line);
   pack(way, site.idSite);
@@ -167,6 +180,7 @@ void pack(Way& way, ListedSite& site) {
   pack(way, site.postVars);
   pack(way, site.baseline);
   pack(way, site.options);
+  pack(way, site.rules);
   pack(way, site.state);
   pack(way, site.given);
 }

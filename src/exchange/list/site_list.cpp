@@ -148,7 +148,7 @@ void ListValues::option(const Fields& fields, OptionValues& options, std::string
 void ListValues::rule(RuleSet& rules, std::string_view text) {
   if (!addLine(rules, text)) {
     fault("the rule " + quotedForMessage(text) +
-          " is none: give it as an export writes it, for instance \"leave out css #clock\"");
+          " is none: give it as an export writes it, for instance \"leave out css div.clock\"");
   }
 }
 

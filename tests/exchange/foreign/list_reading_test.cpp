@@ -24,6 +24,8 @@ TEST(ListReadings, HandOverEverythingThatAListHolds) {
   site.postVars = {{"a", "1"}, {"", ""}};
   site.baseline = std::string(100000, '\0');
   site.options["adopt"] = "anything";
+  addLine(site.rules, "leave out css div.clock");
+  addLine(site.rules, "hole digits at=3 length=2 least=1 most=6 before=a%20b");
   site.state = CheckedState{"2026-01-01 00:00:00", true, 5, -1, std::nullopt};
   site.given.set("url");
   list.list.content.sites = {site, ListedSite{}};
