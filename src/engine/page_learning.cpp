@@ -17,6 +17,8 @@ namespace {
 
 constexpr int kFirstError = 400;  // RFC 9110, section 15.5
 constexpr std::chrono::milliseconds kAtOnce{1};
+/// A clock shows another second then.
+constexpr std::chrono::milliseconds kBetweenFetches{1100};
 
 bool touches(const Hole& one, const Hole& other) { return one.begin <= other.end() && other.begin <= one.end(); }
 
@@ -133,7 +135,7 @@ void PageLearning::goOn() {
     return;
   }
   work_->waitsForNext = true;
-  wait(std::max(kAtOnce, std::chrono::milliseconds(work_->plan.over) / (work_->plan.fetches - 1)));
+  wait(std::max(kBetweenFetches, std::chrono::milliseconds(work_->plan.over) / (work_->plan.fetches - 1)));
   work_->handlers.progressed(done);
 }
 

@@ -47,7 +47,7 @@ class PageLearning {
  public:
   struct Plan {
     int fetches = 5;  ///< from 2 to 50
-    /// The time from the first fetch to the last; none for one after the other at once.
+    /// The time from the first fetch to the last; none for one a second.
     std::chrono::seconds over{0};
   };
   struct Machine {

@@ -14,6 +14,7 @@ namespace {
 constexpr std::size_t kFewBytes = 3;
 /// Bytes between two places that may be anything, or words, from which on they tell the two apart.
 constexpr std::size_t kTellingBytes = 24;
+constexpr std::size_t kTellingBesideBounded = 8;
 /// What stands more often in a page tells no place from another.
 constexpr std::size_t kMostRepeated = 2;
 
@@ -68,7 +69,8 @@ class Joiner {
       return false;
     }
     if (is(HoleClass::anything)) {
-      return between.size() < kTellingBytes || timesIn(copies_.first(), between, kMostRepeated + 1) > kMostRepeated;
+      const std::size_t telling = isBounded(one) || isBounded(other) ? kTellingBesideBounded : kTellingBytes;
+      return between.size() < telling || timesIn(copies_.first(), between, kMostRepeated + 1) > kMostRepeated;
     }
     if (is(HoleClass::text) && !hasMarkup(between)) {
       return between.size() < kTellingBytes;
@@ -81,6 +83,11 @@ class Joiner {
     const bool areHex = one.kind == HoleClass::hex && other.kind == HoleClass::hex;
     const bool areNumbers = one.kind == HoleClass::digits && other.kind == HoleClass::digits;
     return areKeys && !areHex && !areNumbers;
+  }
+
+  /// Whether what stands there shows by itself where it ends.
+  static bool isBounded(const Hole& hole) {
+    return hole.kind == HoleClass::digits || hole.kind == HoleClass::date || hole.kind == HoleClass::hex;
   }
 
   static bool isKey(const Hole& hole) {

@@ -14,6 +14,8 @@ constexpr std::int64_t kMostMemory = std::int64_t{8} << 20;
 /// Each single find takes time in proportion to the page, but a page may be made so that many take all of that.
 constexpr std::chrono::milliseconds kLongest{250};
 constexpr std::size_t kFindsBetweenLooks = 64;
+/// ^ and $ are those of lines, as people mean them who write a rule for a page.
+constexpr std::string_view kLines = "(?m)";
 
 }  // namespace
 
@@ -21,10 +23,13 @@ std::vector<ByteRange> foundByRegex(const std::string& rule, std::string_view pa
   RE2::Options options(RE2::Quiet);
   options.set_max_mem(kMostMemory);
   options.set_encoding(isUtf8(page) ? RE2::Options::EncodingUTF8 : RE2::Options::EncodingLatin1);
-  // ^ and $ are those of lines, as people mean them who write a rule for a page.
-  const RE2 regex("(?m)" + rule, options);
+  const RE2 regex(std::string(kLines) + rule, options);
   if (!regex.ok()) {
-    throw RuleFault{regex.error()};
+    std::string fault = regex.error();
+    if (const std::size_t own = fault.find(kLines); own != std::string::npos) {
+      fault.erase(own, kLines.size());
+    }
+    throw RuleFault{fault};
   }
   const int group = regex.NumberOfCapturingGroups() > 0 ? 1 : 0;
   std::array<re2::StringPiece, 2> parts;

@@ -28,7 +28,7 @@ TEST_F(RulesVerbs, WhatIsLearntLetsThePageVaryThereAndNowhereElse) {
   const std::int16_t id = addSite(server.url("/page"));
   ASSERT_EQ(run({"check"}), exit_status::ok);
   ASSERT_EQ(run({"check"}), exit_status::down) << "byte for byte";
-  EXPECT_EQ(run({"learn", std::to_string(id), "--yes"}), exit_status::ok) << err;
+  EXPECT_EQ(run({"learn", std::to_string(id), "--fetches", "3", "--yes"}), exit_status::ok) << err;
   EXPECT_THAT(out, AllOf(HasSubstr("Site 1: 2 places vary; "), HasSubstr("line 2"), HasSubstr("a number of 1 to"),
                          HasSubstr("line 3"), HasSubstr("a time"), HasSubstr("The rules of site 1 are stored.")));
   EXPECT_EQ(run({"check"}), exit_status::ok) << out;
@@ -50,7 +50,7 @@ TEST_F(RulesVerbs, APageThatHasChangedSinceIsNotLearnt) {
   addSite(server.url("/page"));
   ASSERT_EQ(run({"check"}), exit_status::ok);
   text = "Something else.";
-  EXPECT_EQ(run({"learn", "1", "--yes"}), exit_status::failed);
+  EXPECT_EQ(run({"learn", "1", "--fetches", "2", "--yes"}), exit_status::failed);
   EXPECT_THAT(err, HasSubstr("Site 1: the page differs from the baseline also in line 4, so nothing is stored."));
   EXPECT_EQ(folder.queryText("select count(*) from rules"), "0");
 }
@@ -58,20 +58,20 @@ TEST_F(RulesVerbs, APageThatHasChangedSinceIsNotLearnt) {
 TEST_F(RulesVerbs, NothingIsLearntOfAnErrorPageOrNone) {
   server.respond("/gone", {.status = 503, .body = "busy"});
   addSite(server.url("/gone"));
-  EXPECT_EQ(run({"learn", "1", "--yes"}), exit_status::failed);
+  EXPECT_EQ(run({"learn", "1", "--fetches", "2", "--yes"}), exit_status::failed);
   EXPECT_THAT(err, HasSubstr("The server answered with an error page (503)."));
   addSite("http://127.0.0.1:1/");
-  EXPECT_EQ(run({"learn", "2", "--yes"}), exit_status::failed);
+  EXPECT_EQ(run({"learn", "2", "--fetches", "2", "--yes"}), exit_status::failed);
   EXPECT_THAT(err, HasSubstr("The page could not be fetched."));
 }
 
 TEST_F(RulesVerbs, WithoutConsentNothingIsStored) {
   addSite(server.url("/page"));
-  const Json json = runJson({"learn", "1", "--json"});
+  const Json json = runJson({"learn", "1", "--fetches", "2", "--json"});
   EXPECT_EQ(json[0]["holes"].size(), 2U);
   EXPECT_EQ(json[0]["stored"], false);
   EXPECT_EQ(folder.queryText("select count(*) from rules"), "0");
-  EXPECT_EQ(run({"learn", "1"}), exit_status::failed) << "nobody is there to be asked";
+  EXPECT_EQ(run({"learn", "1", "--fetches", "2"}), exit_status::failed) << "nobody is there to be asked";
 }
 
 TEST_F(RulesVerbs, ARuleLeavesOutWhatItFinds) {
@@ -139,7 +139,7 @@ TEST_F(RulesVerbs, WhatIsNoRuleIsRefusedWithTheRemedy) {
 
 TEST_F(RulesVerbs, HolesFollowAnEditedBaseline) {
   addSite(server.url("/page"));
-  ASSERT_EQ(run({"learn", "1", "--yes"}), exit_status::ok) << err;
+  ASSERT_EQ(run({"learn", "1", "--fetches", "2", "--yes"}), exit_status::ok) << err;
   text = "News of today.";
   ASSERT_EQ(run({"check"}), exit_status::down);
   ASSERT_EQ(run({"baseline", "1", "accept"}), exit_status::ok);
@@ -148,7 +148,7 @@ TEST_F(RulesVerbs, HolesFollowAnEditedBaseline) {
 
 TEST_F(RulesVerbs, GoAlongWithExportAndImport) {
   addSite(server.url("/page"));
-  ASSERT_EQ(run({"learn", "1", "--yes"}), exit_status::ok) << err;
+  ASSERT_EQ(run({"learn", "1", "--fetches", "2", "--yes"}), exit_status::ok) << err;
   ASSERT_EQ(run({"rules", "1", "add", "leave-out", "regex", "a, \"b\" (\\d+)"}), exit_status::ok) << err;
   const std::string before = folder.queryRows("select * from rules");
   for (const std::string format : {"json", "csv"}) {
