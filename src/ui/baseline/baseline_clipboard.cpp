@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How a page's text goes over the clipboard and is dragged, and the menu that offers it.
+#include <algorithm>
 #include <memory>
 #include <QAction>
 #include <QContextMenuEvent>
@@ -30,6 +31,11 @@ void BaselineEdit::contextMenuEvent(QContextMenuEvent* event) {
   add(tr("&Paste"), QKeySequence::Paste, &BaselineEdit::paste, canPaste());
   menu->addSeparator();
   add(tr("Select &All"), QKeySequence::SelectAll, &BaselineEdit::selectAll, !document()->isEmpty());
+  const QList<QAction*> more = actions();
+  if (std::ranges::any_of(more, &QAction::isVisible)) {
+    menu->addSeparator();
+    menu->addActions(more);
+  }
   menu->popup(event->globalPos());
 }
 

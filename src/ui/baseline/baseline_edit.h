@@ -4,7 +4,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 #include <QPlainTextEdit>
+#include <QTextCursor>
 
 #include "ui/baseline/baseline_text.h"
 
@@ -33,11 +35,26 @@ class BaselineEdit final : public QPlainTextEdit {
   /// The first character that the page's character set does not have, now selected; nothing when all are in it.
   std::optional<QString> selectForeign();
 
+  /// A part of the page, by its bytes.
+  struct Part {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+  };
+  /// What is selected.
+  Part selectedPart() const;
+  /// Shades these parts of the page, in their order, instead of others. They go along with edits of the text.
+  void markParts(const std::vector<Part>& parts);
+  /// Selects one of them, to be seen. REQUIRES: one that has been marked.
+  void showMark(std::size_t mark);
+
   void undoEdit();
   void redoEdit();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  /// Offers the actions of the widget as well.
   void contextMenuEvent(QContextMenuEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   QMimeData* createMimeDataFromSelection() const override;
@@ -53,6 +70,7 @@ class BaselineEdit final : public QPlainTextEdit {
   void select(Range range);
   void showPage();
   void estimateRows();
+  void shadeMarks();
   void followDocument(int position, int removed, int added);
   void apply(const TextChange& change);
   void insertLineEnd();
@@ -60,6 +78,7 @@ class BaselineEdit final : public QPlainTextEdit {
   QString contentFormat() const;
 
   BaselineText text_{std::string()};
+  std::vector<QTextCursor> marks_;
   bool showing_ = false;  // the document is being changed from here, not by the user
   bool notice_ = false;
 };

@@ -45,6 +45,10 @@ class BaselineText {
   std::u16string text(std::size_t position, std::size_t length) const;
   /// Whether the "\n" at `position` only breaks a long line; false for every other position.
   bool isRowBreak(std::size_t position) const;
+  /// Where the bytes begin in the page that are shown at `position`.
+  std::size_t offsetOf(std::size_t position) const;
+  /// Where the bytes at these places of the page are shown. REQUIRES: ascending offsets, at most the page's size.
+  std::vector<std::size_t> positionsOf(const std::vector<std::size_t>& offsets) const;
 
   /// Takes over an edit that the editor has made: `removed` units at `position` gave way to `added`. What is the same
   /// at both ends of the two texts counts as untouched. A new line end takes the form of its neighbour's.

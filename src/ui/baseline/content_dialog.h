@@ -9,13 +9,15 @@
 
 #include "program/program.h"
 #include "ui/baseline/baseline_edit.h"
+#include "ui/baseline/holes_panel.h"
 #include "ui/controls/boxes.h"
 #include "ui/controls/status_line.h"
 
 namespace tarnwick {
 
 /// The form `frmContent`: a site's baseline, the page that every check is compared with, to be seen, edited and fetched
-/// anew. What is not edited is stored byte for byte as it was.
+/// anew. What is not edited is stored byte for byte as it was. Beside it stands what may vary in it, where there is
+/// anything or the user asks for it.
 class ContentDialog final : public QDialog, public UnsavedEdits {
   Q_OBJECT
 
@@ -40,6 +42,7 @@ class ContentDialog final : public QDialog, public UnsavedEdits {
   void btnOk_Click();
   void btnCancel_Click();
   void setLoading(bool loading);
+  void showHoles(bool shown);
   void showFetched(const std::string& page);
 
   Program& program_;
@@ -48,6 +51,8 @@ class ContentDialog final : public QDialog, public UnsavedEdits {
   bool fetched_ = false;  // another page is shown than the one that is stored
   BaselineEdit* tContent_ = nullptr;
   StatusLine* address_ = nullptr;
+  HolesPanel* holes_ = nullptr;
+  QPushButton* btnHoles_ = nullptr;
   QPushButton* btnLoad_ = nullptr;
   QPushButton* btnOk_ = nullptr;
   QPushButton* btnCancel_ = nullptr;

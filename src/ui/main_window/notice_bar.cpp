@@ -80,15 +80,6 @@ void paintIcon(QPainter& painter, Notice::Icon icon, const QPoint& place, const 
 
 }  // namespace
 
-NoticeColours noticeColours(NoticeTone tone, bool dark) {
-  if (tone == NoticeTone::blue) {
-    return dark ? NoticeColours{QColor(0x20, 0x32, 0x4F), QColor(0xD5, 0xE4, 0xFA)}
-                : NoticeColours{QColor(0xDC, 0xE9, 0xFB), QColor(0x12, 0x30, 0x5C)};
-  }
-  return dark ? NoticeColours{QColor(0x4A, 0x3A, 0x10), QColor(0xFF, 0xE9, 0xA8)}
-              : NoticeColours{QColor(0xFF, 0xF0, 0xC2), QColor(0x3D, 0x2C, 0x00)};
-}
-
 Notice::Notice(Icon icon, QWidget* parent) : QPushButton(parent), icon_(icon) {
   setFlat(true);
   setAutoDefault(true);  // so that Enter does what Space does

@@ -2,20 +2,12 @@
 #pragma once
 
 #include <vector>
-#include <QColor>
 #include <QLabel>
 #include <QPushButton>
 
-namespace tarnwick {
+#include "ui/controls/tones.h"
 
-/// The colours of a notice, on a light desktop or a dark one: of one that asks to be looked at, or that tells how
-/// things are meant to be just now.
-struct NoticeColours {
-  QColor fill;
-  QColor ink;
-};
-enum class NoticeTone { amber, blue };
-NoticeColours noticeColours(NoticeTone tone, bool dark);
+namespace tarnwick {
 
 /// One notice: an icon, a sentence and its one action, underlined, which a click anywhere on it does. A sentence that
 /// does not fit is shortened at its end and told by the tooltip; its beginning, where the number stands, stays.

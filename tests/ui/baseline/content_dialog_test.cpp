@@ -66,7 +66,8 @@ TEST_F(ContentDialogTest, HasItsControlsAndCaptions) {
   EXPECT_EQ(caption<QPushButton>(dialog, "btnCancel"), "Cancel");
   EXPECT_EQ(shownContent(dialog), "stored\npage");
   EXPECT_EQ(dialog.focusWidget(), &content(dialog));
-  EXPECT_EQ(tabOrder(dialog, content(dialog)), (std::vector<std::string>{"tContent", "btnLoad", "btnOk", "btnCancel"}));
+  EXPECT_EQ(tabOrder(dialog, content(dialog)),
+            (std::vector<std::string>{"tContent", "btnHoles", "btnLoad", "btnOk", "btnCancel"}));
 }
 
 TEST_F(ContentDialogTest, OpensAfterTheSiteWasSaved) {

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+
+namespace tarnwick {
+
+/// The colours of a notice, on a light desktop or a dark one: of one that asks to be looked at, or that tells how
+/// things are meant to be just now.
+struct NoticeColours {
+  QColor fill;
+  QColor ink;
+};
+enum class NoticeTone { amber, blue };
+NoticeColours noticeColours(NoticeTone tone, bool dark);
+
+/// The colours of a part of a page that may vary.
+struct HoleColours {
+  QColor fill;
+  QColor ink;
+  QColor edge;
+};
+HoleColours holeColours(bool dark);
+
+}  // namespace tarnwick
