@@ -4873,6 +4873,13 @@ and when it is back</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::AmberLine</name>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::BaselineEdit</name>
     <message>
         <source>&amp;Undo</source>
@@ -4943,6 +4950,14 @@ and when it is back</source>
     </message>
     <message>
         <source>the content of site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Holes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show what may vary in the page, and choose it</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5035,6 +5050,140 @@ and when it is back</source>
     </message>
     <message>
         <source>Remove the chosen time (Del)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::HoleTableModel</name>
+    <message>
+        <source>digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hex</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>base64</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>letters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time or date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one of a list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>anything</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>place not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text around it is not in the baseline any more. OK drops it; it comes back if you undo the edit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not known: there is no page yet, or it differs from the baseline before this place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; separators do not count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last seen</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::HolesPanel</name>
+    <message>
+        <source>What may vary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>May &amp;Vary Here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let the text that is selected on the left vary (Ctrl+M)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>L&amp;earn…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch the page several times, and see what varies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watch the chosen place again (Del)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What may vary (%1 stays watched)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only %1 stays watched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rules…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare only parts of the page, or leave parts out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page of the latest check; what is left out is shaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The baseline; what is left out is shaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rules (%1)…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5153,6 +5302,125 @@ and when it is back</source>
     </message>
     <message>
         <source>%1: not lit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::LearnDialog</name>
+    <message>
+        <source>%1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The baseline has no place for: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page differs from the baseline also in line %1: take the page as it is now as the baseline first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Learn What Varies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%v of %m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page is fetched several times. What differs from one time to another is shown then, and nothing is stored yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Take These</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let these places vary; OK of the content stores them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop fetching, and close without a change (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch so many times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>over so long a time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>6 hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch the page that often</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Fetch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was learnt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetching the page …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing varies: the page was the same each time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 place: %1. %2 of the page stays watched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 places: %2. %3 of the page stays watched.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5435,6 +5703,120 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>Dated windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::RuleTableModel</name>
+    <message>
+        <source>Rule %1 matches nothing: it would not be watched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>compare only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leave out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>regular expression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XPath</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON pointer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not understood</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>matches nothing: would not be watched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 places</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matches now</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::RulesDialog</name>
+    <message>
+        <source>Rules of the Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a rule</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the chosen rule (Del)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>O&amp;K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare by these rules; OK of the content stores them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close without a change (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of the page stays watched</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

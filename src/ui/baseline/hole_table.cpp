@@ -233,7 +233,7 @@ void HoleTable::setHoles(HoleTableModel& model) {
   QHeaderView& header = *horizontalHeader();
   header.setHighlightSections(false);
   header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  header.setStretchLastSection(true);
+  header.setSectionResizeMode(HoleTableModel::seenColumn, QHeaderView::Stretch);
   const auto widthFor = [&](const QString& longest, int more) {
     return fontMetrics().horizontalAdvance(longest) + more;
   };

@@ -12,6 +12,7 @@
 #include "holes/page_text.h"
 #include "ui/baseline/learn_dialog.h"
 #include "ui/baseline/page_offsets.h"
+#include "ui/baseline/rules_dialog.h"
 #include "ui/baseline/share_words.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
@@ -42,9 +43,10 @@ void HolesPanel::layOut() {
   btnMayVary_ = addButton(*this, "btnMayVary", tr("May &Vary Here"),
                           tr("Let the text that is selected on the left vary (Ctrl+M)"));
   btnLearn_ = addButton(*this, "btnLearn", tr("L&earn…"), tr("Fetch the page several times, and see what varies"));
+  btnRules_ = addButton(*this, "btnRules", tr("&Rules…"), tr("Compare only parts of the page, or leave parts out"));
   btnRemove_ = addButton(*this, "btnRemove", tr("Re&move"), tr("Watch the chosen place again (Del)"));
   auto* buttons = new QHBoxLayout;
-  for (QPushButton* button : {btnMayVary_, btnLearn_, btnRemove_}) {
+  for (QPushButton* button : {btnMayVary_, btnLearn_, btnRules_, btnRemove_}) {
     buttons->addWidget(button);
   }
   auto* lines = new QVBoxLayout(this);
@@ -66,6 +68,7 @@ void HolesPanel::connectParts() {
   connect(mayVary_, &QAction::triggered, this, guarded([this] { mayVaryHere(); }));
   onClick(*btnMayVary_, faults, [this] { mayVaryHere(); });
   onClick(*btnLearn_, faults, [this] { learn(); });
+  onClick(*btnRules_, faults, [this] { chooseRules(); });
   onClick(*btnRemove_, faults, [this] { removeChosen(); });
   connect(new QShortcut(QKeySequence::Delete, table_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
           this, guarded([this] { removeChosen(); }));
@@ -123,13 +126,23 @@ void HolesPanel::mayVaryHere() {
   table_->setCurrentIndex(model_.index(static_cast<int>(entry), HoleTableModel::whatColumn));
 }
 
+void HolesPanel::openBefore(QDialog& dialog) {
+  connect(&dialog, &QDialog::finished, this, [this] {
+    if (!program_.services().pump.closing()) {
+      window()->activateWindow();
+    }
+  });
+  dialog.setAttribute(Qt::WA_DeleteOnClose);
+  dialog.open();
+  dialog.activateWindow();
+}
+
 void HolesPanel::learn() {
   follow();
   auto* dialog = new LearnDialog(program_, idSite_, text_.page(), window());
   connect(dialog, &LearnDialog::taken, this,
           [this](const Learnt& learnt) { program_.faults().run([&] { take(learnt); }); });
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->open();
+  openBefore(*dialog);
 }
 
 void HolesPanel::take(const Learnt& learnt) {
@@ -141,6 +154,22 @@ void HolesPanel::take(const Learnt& learnt) {
   draft_.setHoles(united(draft_.placed(), learnt.holes));
   editHoles();
   table_->setFocus();
+}
+
+void HolesPanel::chooseRules() {
+  follow();
+  const std::string latest = program_.data().getContentRuntime(idSite_);
+  const bool hasLatest = !latest.empty();
+  auto* dialog = new RulesDialog(
+      draft_.rules(),
+      {hasLatest ? latest : text_.page(), hasLatest ? tr("The page of the latest check; what is left out is shaded")
+                                                    : tr("The baseline; what is left out is shaded")},
+      window());
+  connect(dialog, &RulesDialog::taken, this, [this](const std::vector<PageRule>& rules) {
+    draft_.setRules(rules);
+    editHoles();
+  });
+  openBefore(*dialog);
 }
 
 void HolesPanel::removeChosen() {
@@ -192,6 +221,8 @@ void HolesPanel::showWatched() {
   setTitle(isLittle ? tr("What may vary") : tr("What may vary (%1 stays watched)").arg(shareWords(watched)));
   watched_->setText(isLittle ? tr("Only %1 stays watched").arg(shareWords(watched)) : QString());
   watched_->setVisible(isLittle);
+  const std::size_t rules = draft_.rules().size();
+  btnRules_->setText(rules == 0 ? tr("&Rules…") : tr("&Rules (%1)…").arg(rules));
 }
 
 void HolesPanel::enableParts() {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <QAction>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -51,8 +52,10 @@ class HolesPanel final : public QGroupBox {
  private:
   void layOut();
   void connectParts();
+  void openBefore(QDialog& dialog);
   void learn();
   void take(const Learnt& learnt);
+  void chooseRules();
   void removeChosen();
   void editHoles();
   void showAll();
@@ -75,6 +78,7 @@ class HolesPanel final : public QGroupBox {
   HoleTable* table_ = nullptr;
   QPushButton* btnMayVary_ = nullptr;
   QPushButton* btnLearn_ = nullptr;
+  QPushButton* btnRules_ = nullptr;
   QPushButton* btnRemove_ = nullptr;
 };
 

@@ -156,6 +156,7 @@ void LearnDialog::stop() {
 
 void LearnDialog::showLearnt(Learnt learnt) {
   learnt_ = std::move(learnt);
+  progress_->setValue(progress_->maximum());
   stop();
   const qsizetype places = std::ssize(learnt_.holes);
   const QString words = wordsOf(learnt_.holes);
