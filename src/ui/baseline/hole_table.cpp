@@ -251,9 +251,9 @@ void HoleTable::setHoles(HoleTableModel& model) {
 
 QSize HoleTable::minimumSizeHint() const {
   // Its columns, with what of the last one has to be seen.
-  constexpr int kSeen = 80;
-  const int seen = columnViewportPosition(HoleTableModel::seenColumn);
-  return {std::max(seen, 0) + kSeen + 2 * frameWidth(), fontMetrics().height() * 6};
+  const int seen = fontMetrics().horizontalAdvance(HoleTableModel::tr("Last seen") + QStringLiteral("888"));
+  return {std::max(columnViewportPosition(HoleTableModel::seenColumn), 0) + seen + 2 * frameWidth(),
+          fontMetrics().height() * 6};
 }
 
 }  // namespace tarnwick
