@@ -3413,11 +3413,11 @@
     </message>
     <message>
         <source>%1: the page differs from the baseline also in line %2, so nothing is stored. Look at it with: tarnwickctl diff %3; if that is how the page shall be: tarnwickctl baseline %4 load, then learn again.</source>
-        <translation>%1: Die Seite weicht auch in Zeile %2 vom Sollinhalt ab, deshalb ist nichts gespeichert. Sehen Sie es an mit: tarnwickctl diff %3; soll die Seite so sein: tarnwickctl baseline %4 load, dann lernen Sie noch einmal.</translation>
+        <translation>%1: Die Seite weicht auch in Zeile %2 von der Basis ab, deshalb ist nichts gespeichert. Sehen Sie es an mit: tarnwickctl diff %3; soll die Seite so sein: tarnwickctl baseline %4 load, dann lernen Sie noch einmal.</translation>
     </message>
     <message>
         <source>%1: the baseline was changed meanwhile. Learn again.</source>
-        <translation>%1: der Sollinhalt wurde inzwischen geändert. Lernen Sie noch einmal.</translation>
+        <translation>%1: die Basis wurde inzwischen geändert. Lernen Sie noch einmal.</translation>
     </message>
     <message>
         <source>Let this vary in site %1?</source>
@@ -3461,7 +3461,7 @@
     </message>
     <message>
         <source>IN THE BASELINE</source>
-        <translation>IM SOLLINHALT</translation>
+        <translation>IN DER BASIS</translation>
     </message>
     <message>
         <source>line %1</source>
@@ -3473,11 +3473,11 @@
     </message>
     <message>
         <source>Of the places that may vary %1 is not in the baseline any more.</source>
-        <translation>Von den Stellen, die abweichen dürfen, gibt es %1 im Sollinhalt nicht mehr.</translation>
+        <translation>Von den Stellen, die abweichen dürfen, gibt es %1 in der Basis nicht mehr.</translation>
     </message>
     <message>
         <source>Of the places that may vary %1 are not in the baseline any more.</source>
-        <translation>Von den Stellen, die abweichen dürfen, gibt es %1 im Sollinhalt nicht mehr.</translation>
+        <translation>Von den Stellen, die abweichen dürfen, gibt es %1 in der Basis nicht mehr.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no kind of hole: give one of digits, hex, base64, letters, date, list, text, anything.</source>
@@ -3485,11 +3485,11 @@
     </message>
     <message>
         <source>The text &quot;%1&quot; stands nowhere in the baseline. Give the text that may vary as it stands there.</source>
-        <translation>Der Text „%1“ steht nirgends im Sollinhalt. Geben Sie den Text, der abweichen darf, so an, wie er dort steht.</translation>
+        <translation>Der Text „%1“ steht nirgends in der Basis. Geben Sie den Text, der abweichen darf, so an, wie er dort steht.</translation>
     </message>
     <message>
         <source>The text &quot;%1&quot; stands more than once in the baseline. Select the place in the window, or learn it.</source>
-        <translation>Der Text „%1“ steht mehrmals im Sollinhalt. Wählen Sie die Stelle im Fenster aus, oder lernen Sie sie.</translation>
+        <translation>Der Text „%1“ steht mehrmals in der Basis. Wählen Sie die Stelle im Fenster aus, oder lernen Sie sie.</translation>
     </message>
     <message>
         <source>This place touches another one that may vary, in %1. Remove that first: tarnwickctl rules %2</source>
@@ -3525,11 +3525,11 @@
     </message>
     <message>
         <source>By these rules the page is the same as the baseline.</source>
-        <translation>Nach diesen Regeln gleicht die Seite dem Sollinhalt.</translation>
+        <translation>Nach diesen Regeln gleicht die Seite der Basis.</translation>
     </message>
     <message>
         <source>By these rules the page differs from the baseline, first in line %1.</source>
-        <translation>Nach diesen Regeln weicht die Seite vom Sollinhalt ab, zuerst in Zeile %1.</translation>
+        <translation>Nach diesen Regeln weicht die Seite von der Basis ab, zuerst in Zeile %1.</translation>
     </message>
     <message>
         <source>The page could not be fetched. %1</source>
@@ -3545,11 +3545,11 @@
     </message>
     <message>
         <source>The page is an error page of the server, and was not taken as the baseline.</source>
-        <translation>Die Seite ist eine Fehlerseite des Servers und wurde nicht zum Sollinhalt.</translation>
+        <translation>Die Seite ist eine Fehlerseite des Servers und wurde nicht zur Basis.</translation>
     </message>
     <message>
         <source>The page has less than half the length of the one before, and was not taken as the baseline.</source>
-        <translation>Die Seite ist nicht halb so lang wie die davor und wurde nicht zum Sollinhalt.</translation>
+        <translation>Die Seite ist nicht halb so lang wie die davor und wurde nicht zur Basis.</translation>
     </message>
     <message>
         <source>the rule %1 is none: give it as an export writes it, for instance &quot;leave out css div.clock&quot;</source>
@@ -3617,7 +3617,7 @@
     </message>
     <message>
         <source>Classes of holes: digits, hex, base64, letters, date, list, text, anything. TEXT is what the baseline has there.</source>
-        <translation>Arten: digits, hex, base64, letters, date, list, text, anything. TEXT ist, was der Sollinhalt dort hat.</translation>
+        <translation>Arten: digits, hex, base64, letters, date, list, text, anything. TEXT ist, was die Basis dort hat.</translation>
     </message>
     <message>
         <source>A site without rules is compared byte for byte.</source>
@@ -3653,7 +3653,7 @@
     </message>
     <message>
         <source>there is no baseline yet</source>
-        <translation>noch gibt es keinen Sollinhalt</translation>
+        <translation>noch gibt es keine Basis</translation>
     </message>
 </context>
 <context>
@@ -4556,7 +4556,7 @@
     </message>
     <message>
         <source>What becomes the baseline of a site that has none; with &quot;pages only&quot; a fetch that failed, an error page of the server or a page that is suddenly less than half as long does not</source>
-        <translation>Was zum Sollinhalt einer Site wird, die noch keinen hat; bei „nur Seiten“ nicht ein gescheiterter Abruf, eine Fehlerseite des Servers oder eine plötzlich nicht halb so lange Seite</translation>
+        <translation>Was zur Basis einer Site wird, die noch keine hat; bei „nur Seiten“ nicht ein gescheiterter Abruf, eine Fehlerseite des Servers oder eine plötzlich nicht halb so lange Seite</translation>
     </message>
 </context>
 <context>
@@ -4874,6 +4874,13 @@ und wenn sie wieder da ist</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::AmberLine</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::BaselineEdit</name>
     <message>
         <source>&amp;Undo</source>
@@ -4945,6 +4952,14 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>the content of site %1</source>
         <translation>der Inhalt von Seite %1</translation>
+    </message>
+    <message>
+        <source>&amp;Holes</source>
+        <translation>Lü&amp;cken</translation>
+    </message>
+    <message>
+        <source>Show what may vary in the page, and choose it</source>
+        <translation>Zeigen und wählen, was sich auf der Seite ändern darf</translation>
     </message>
 </context>
 <context>
@@ -5037,6 +5052,140 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>Remove the chosen time (Del)</source>
         <translation>Die gewählte Zeit entfernen (Entf)</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::HoleTableModel</name>
+    <message>
+        <source>digits</source>
+        <translation>Ziffern</translation>
+    </message>
+    <message>
+        <source>hex</source>
+        <translation>hexadezimal</translation>
+    </message>
+    <message>
+        <source>base64</source>
+        <translation>Base64</translation>
+    </message>
+    <message>
+        <source>letters</source>
+        <translation>Buchstaben</translation>
+    </message>
+    <message>
+        <source>time or date</source>
+        <translation>Zeit oder Datum</translation>
+    </message>
+    <message>
+        <source>one of a list</source>
+        <translation>eins aus einer Liste</translation>
+    </message>
+    <message>
+        <source>words</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>anything</source>
+        <translation>irgendetwas</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>nirgends</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>place not found</source>
+        <translation>Stelle nicht gefunden</translation>
+    </message>
+    <message>
+        <source>The text around it is not in the baseline any more. OK drops it; it comes back if you undo the edit.</source>
+        <translation>Der Text darum herum steht nicht mehr in der Basis. OK verwirft sie; sie kommt wieder, wenn die Änderung zurückgenommen wird.</translation>
+    </message>
+    <message>
+        <source>Not known: there is no page yet, or it differs from the baseline before this place.</source>
+        <translation>Nicht bekannt: Es gibt noch keine Seite, oder sie weicht vor dieser Stelle von der Basis ab.</translation>
+    </message>
+    <message>
+        <source>%1; separators do not count</source>
+        <translation>%1; Trennzeichen zählen nicht</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Stelle</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Last seen</source>
+        <translation>Zuletzt gesehen</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::HolesPanel</name>
+    <message>
+        <source>What may vary</source>
+        <translation>Was sich ändern darf</translation>
+    </message>
+    <message>
+        <source>May &amp;Vary Here</source>
+        <translation>&amp;Darf sich ändern</translation>
+    </message>
+    <message>
+        <source>Let the text that is selected on the left vary (Ctrl+M)</source>
+        <translation>Der links markierte Text darf sich ändern (Strg+M)</translation>
+    </message>
+    <message>
+        <source>L&amp;earn…</source>
+        <translation>Ler&amp;nen…</translation>
+    </message>
+    <message>
+        <source>Fetch the page several times, and see what varies</source>
+        <translation>Die Seite mehrmals abrufen und sehen, was sich ändert</translation>
+    </message>
+    <message>
+        <source>&amp;Rules…</source>
+        <translation>&amp;Regeln…</translation>
+    </message>
+    <message>
+        <source>Compare only parts of the page, or leave parts out</source>
+        <translation>Nur Teile der Seite vergleichen oder Teile auslassen</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Watch the chosen place again (Del)</source>
+        <translation>Die gewählte Stelle wieder überwachen (Entf)</translation>
+    </message>
+    <message>
+        <source>The page of the latest check; what is left out is shaded</source>
+        <translation>Die Seite der letzten Prüfung; Ausgelassenes ist schattiert</translation>
+    </message>
+    <message>
+        <source>The baseline; what is left out is shaded</source>
+        <translation>Die Basis; Ausgelassenes ist schattiert</translation>
+    </message>
+    <message>
+        <source>What may vary (%1 stays watched)</source>
+        <translation>Was sich ändern darf (%1 bleiben überwacht)</translation>
+    </message>
+    <message>
+        <source>Only %1 stays watched</source>
+        <translation>Nur %1 bleiben überwacht</translation>
+    </message>
+    <message>
+        <source>&amp;Rules (%1)…</source>
+        <translation>&amp;Regeln (%1)…</translation>
     </message>
 </context>
 <context>
@@ -5155,6 +5304,125 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>%1: not lit</source>
         <translation>%1: aus</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::LearnDialog</name>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>The baseline has no place for: %1.</source>
+        <translation>Die Basis hat keine Stelle für: %1.</translation>
+    </message>
+    <message>
+        <source>The page differs from the baseline also in line %1: take the page as it is now as the baseline first.</source>
+        <translation>Die Seite weicht auch in Zeile %1 von der Basis ab: Nehmen Sie zuerst die Seite, wie sie jetzt ist, als Basis.</translation>
+    </message>
+    <message>
+        <source>Learn What Varies</source>
+        <translation>Lernen, was sich ändert</translation>
+    </message>
+    <message>
+        <source>Fetched</source>
+        <translation>Abgerufen</translation>
+    </message>
+    <message>
+        <source>%v of %m</source>
+        <translation>%v von %m</translation>
+    </message>
+    <message>
+        <source>The page is fetched several times. What differs from one time to another is shown then, and nothing is stored yet.</source>
+        <translation>Die Seite wird mehrmals abgerufen. Was sich dabei unterscheidet, wird dann gezeigt; gespeichert wird noch nichts.</translation>
+    </message>
+    <message>
+        <source>&amp;Take These</source>
+        <translation>Über&amp;nehmen</translation>
+    </message>
+    <message>
+        <source>Let these places vary; OK of the content stores them</source>
+        <translation>Diese Stellen dürfen sich ändern; OK des Inhalts speichert sie</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stop fetching, and close without a change (Esc)</source>
+        <translation>Nicht weiter abrufen und ohne Änderung schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>Fetch so many times</source>
+        <translation>So oft abrufen</translation>
+    </message>
+    <message>
+        <source>&amp;now</source>
+        <translation>&amp;jetzt</translation>
+    </message>
+    <message>
+        <source>&amp;over</source>
+        <translation>&amp;über</translation>
+    </message>
+    <message>
+        <source>over so long a time</source>
+        <translation>über so lange Zeit</translation>
+    </message>
+    <message>
+        <source>10 minutes</source>
+        <translation>10 Minuten</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 Stunde</translation>
+    </message>
+    <message>
+        <source>6 hours</source>
+        <translation>6 Stunden</translation>
+    </message>
+    <message>
+        <source>1 day</source>
+        <translation>1 Tag</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Start</translation>
+    </message>
+    <message>
+        <source>Fetch the page that often</source>
+        <translation>Die Seite so oft abrufen</translation>
+    </message>
+    <message>
+        <source>&amp;Fetch</source>
+        <translation>&amp;Abrufen</translation>
+    </message>
+    <message>
+        <source>times</source>
+        <translation>Mal</translation>
+    </message>
+    <message>
+        <source>Nothing was learnt.</source>
+        <translation>Es wurde nichts gelernt.</translation>
+    </message>
+    <message>
+        <source>Fetching the page …</source>
+        <translation>Die Seite wird abgerufen …</translation>
+    </message>
+    <message>
+        <source>Nothing varies: the page was the same each time.</source>
+        <translation>Nichts ändert sich: Die Seite war jedes Mal dieselbe.</translation>
+    </message>
+    <message>
+        <source>1 place: %1. %2 of the page stays watched.</source>
+        <translation>1 Stelle: %1. %2 der Seite bleiben überwacht.</translation>
+    </message>
+    <message>
+        <source>%1 places: %2. %3 of the page stays watched.</source>
+        <translation>%1 Stellen: %2. %3 der Seite bleiben überwacht.</translation>
     </message>
 </context>
 <context>
@@ -5439,6 +5707,120 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>Dated windows</source>
         <translation>Zeiten mit Datum</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::RuleTableModel</name>
+    <message>
+        <source>Rule %1 matches nothing: it would not be watched.</source>
+        <translation>Regel %1 trifft nichts: Das wäre nicht überwacht.</translation>
+    </message>
+    <message>
+        <source>compare only</source>
+        <translation>nur vergleichen</translation>
+    </message>
+    <message>
+        <source>leave out</source>
+        <translation>auslassen</translation>
+    </message>
+    <message>
+        <source>regular expression</source>
+        <translation>regulärer Ausdruck</translation>
+    </message>
+    <message>
+        <source>CSS</source>
+        <translation>CSS</translation>
+    </message>
+    <message>
+        <source>XPath</source>
+        <translation>XPath</translation>
+    </message>
+    <message>
+        <source>JSON pointer</source>
+        <translation>JSON-Zeiger</translation>
+    </message>
+    <message>
+        <source>lines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>not understood</source>
+        <translation>nicht verstanden</translation>
+    </message>
+    <message>
+        <source>matches nothing: would not be watched</source>
+        <translation>trifft nichts: wäre nicht überwacht</translation>
+    </message>
+    <message>
+        <source>1 place</source>
+        <translation>1 Stelle</translation>
+    </message>
+    <message>
+        <source>%1 places</source>
+        <translation>%1 Stellen</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Matches now</source>
+        <translation>Trifft jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::RulesDialog</name>
+    <message>
+        <source>Rules of the Page</source>
+        <translation>Regeln der Seite</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a rule</source>
+        <translation>Eine Regel hinzufügen</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the chosen rule (Del)</source>
+        <translation>Die gewählte Regel entfernen (Entf)</translation>
+    </message>
+    <message>
+        <source>O&amp;K</source>
+        <translation>O&amp;K</translation>
+    </message>
+    <message>
+        <source>Compare by these rules; OK of the content stores them</source>
+        <translation>Nach diesen Regeln vergleichen; OK des Inhalts speichert sie</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close without a change (Esc)</source>
+        <translation>Ohne Änderung schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>%1 of the page stays watched</source>
+        <translation>%1 der Seite bleiben überwacht</translation>
     </message>
 </context>
 <context>
