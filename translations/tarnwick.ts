@@ -2512,10 +2512,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The latest page is that of the last check. Exit status: 0 when equal, 1 when they differ.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>what has changed, coloured on a terminal</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3653,6 +3649,10 @@
     </message>
     <message>
         <source>there is no baseline yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest page is that of the last check. What may vary is no difference. Exit status: 0 when equal, 1 when they differ.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

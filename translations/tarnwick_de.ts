@@ -2512,10 +2512,6 @@
         <translation>Die Basis einer Seite mit ihrem letzten Inhalt vergleichen, als Unified Diff</translation>
     </message>
     <message>
-        <source>The latest page is that of the last check. Exit status: 0 when equal, 1 when they differ.</source>
-        <translation>Der letzte Inhalt ist der der letzten Prüfung. Exit-Status: 0, wenn gleich, 1, wenn verschieden.</translation>
-    </message>
-    <message>
         <source>what has changed, coloured on a terminal</source>
         <translation>was sich geändert hat, auf einem Terminal farbig</translation>
     </message>
@@ -3654,6 +3650,10 @@
     <message>
         <source>there is no baseline yet</source>
         <translation>noch gibt es keine Basis</translation>
+    </message>
+    <message>
+        <source>The latest page is that of the last check. What may vary is no difference. Exit status: 0 when equal, 1 when they differ.</source>
+        <translation>Die letzte Seite ist die der letzten Prüfung. Was abweichen darf, ist kein Unterschied. Status: 0 bei Gleichheit, 1 bei Unterschieden.</translation>
     </message>
 </context>
 <context>

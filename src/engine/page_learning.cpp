@@ -37,6 +37,7 @@ std::string faultOf(const TransferResult& result, std::string_view page) {
 
 Learnt learntFrom(const std::vector<std::string>& copies, const std::string& baseline, LocalTime now) {
   std::vector<std::string> texts;
+  texts.reserve(copies.size());
   for (const std::string& copy : copies) {
     texts.push_back(pageText(copy));
   }

@@ -72,6 +72,24 @@ PlacedHoles holesOf(std::string_view baseline, const Holes& holes) {
   return {holes, {}};
 }
 
+std::string withoutVariation(std::string_view baseline, const Holes& holes, std::string_view page) {
+  std::string text;
+  std::size_t at = 0;
+  const Holes found = placeIn(page, holes).placed;
+  auto there = found.begin();
+  for (const Hole& hole : holes) {
+    if (there == found.end() || there->before != hole.before || there->after != hole.after) {
+      continue;
+    }
+    text += page.substr(at, there->begin - at);
+    text += baseline.substr(hole.begin, hole.length);
+    at = there->end();
+    ++there;
+  }
+  text += page.substr(at);
+  return text;
+}
+
 PageVerdict judgePage(std::string_view baseline, std::string_view page, const RuleSet& set) {
   const std::string before = pageText(baseline);
   const std::string now = pageText(page);

@@ -25,6 +25,10 @@ struct PageVerdict {
 /// around them there is what stood around them when they were made; else where that is found.
 PlacedHoles holesOf(std::string_view baseline, const Holes& holes);
 
+/// The page with what the baseline has in those holes that are found in it: what then differs is a difference. Both as
+/// `pageText` gives them, the holes as they lie in the baseline.
+std::string withoutVariation(std::string_view baseline, const Holes& holes, std::string_view page);
+
 /// Judges a page as it was fetched. Without rules it is compared byte for byte; a page that equals its baseline is the
 /// same whatever the rules say. A rule that cannot be understood leaves nothing out.
 PageVerdict judgePage(std::string_view baseline, std::string_view page, const RuleSet& set);

@@ -7,6 +7,8 @@
 #include "cli/terminal/json_output.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
+#include "holes/page_text.h"
+#include "page_rules/page_judge.h"
 #include "platform/interrupts.h"
 
 namespace tarnwick {
@@ -144,6 +146,15 @@ void printDiffLine(Console& console, const DiffLine& line) {
   console.out() << console.coloured(colour, mark + console.shown(line.text)) << '\n';
 }
 
+/// The latest page with what the baseline has where it may vary: what is left is the difference. A page in UTF-16 is
+/// shown as it is.
+std::string withoutVariation(const std::string& before, const std::string& after, const Holes& holes) {
+  if (pageText(before) != before || pageText(after) != after) {
+    return after;
+  }
+  return withoutVariation(before, holesOf(before, holes).placed, after);
+}
+
 int diff(Tool& tool, const DiffOptions& options) {
   requireListed(tool, options.idSite);
   const std::string id = std::to_string(options.idSite);
@@ -152,19 +163,23 @@ int diff(Tool& tool, const DiffOptions& options) {
   if (after.empty()) {
     throw std::runtime_error("Site " + id + " has no latest page yet. Fetch it with: tarnwickctl check " + id);
   }
+  const RuleSet rules = tool.data().rulesOf(options.idSite);
+  const bool same = before == after || (!rules.empty() && judgePage(before, after, rules).same);
+  const std::string shownAfter = rules.holes.empty() ? after : withoutVariation(before, after, rules.holes);
   Console& console = tool.console();
   if (options.json) {
     JsonValue lines = JsonValue::array();
-    unifiedDiff(before, after, [&](const DiffLine& line) {
+    unifiedDiff(before, shownAfter, [&](const DiffLine& line) {
       lines.add(jsonText(std::string(line.mark == '@' ? "" : std::string(1, line.mark)) + std::string(line.text)));
     });
-    sayJson(console, {{"idSite", options.idSite}, {"equal", before == after}, {"diff", std::move(lines)}});
-  } else if (before != after) {
+    sayJson(console,
+            {{"idSite", options.idSite}, {"equal", before == after}, {"same", same}, {"diff", std::move(lines)}});
+  } else if (!same) {
     console.out() << console.coloured(Console::Colour::bold, console.worded("--- baseline of site " + id)) << '\n'
                   << console.coloured(Console::Colour::bold, console.worded("+++ latest page of site " + id)) << '\n';
-    unifiedDiff(before, after, [&](const DiffLine& line) { printDiffLine(console, line); });
+    unifiedDiff(before, shownAfter, [&](const DiffLine& line) { printDiffLine(console, line); });
   }
-  return before == after ? exit_status::ok : exit_status::down;
+  return same ? exit_status::ok : exit_status::down;
 }
 
 Verb baselineVerb() {
@@ -192,7 +207,9 @@ Verb diffVerb() {
   return Verb{"diff",
               "Compare a site's baseline with its latest page, as a unified diff",
               {siteIdOption(options->idSite), jsonOption(options->json)},
-              "The latest page is that of the last check. Exit status: 0 when equal, 1 when they differ.\n" +
+              "The latest page is that of the last check. What may vary is no difference. Exit status: 0 when equal, 1 "
+              "when they "
+              "differ.\n" +
                   examples({{"diff 3", "what has changed, coloured on a terminal"},
                             {"diff 3 > page.patch", "for the program patch"}}),
               [options](Tool& tool) { return diff(tool, *options); }};

@@ -146,6 +146,19 @@ TEST_F(RulesVerbs, HolesFollowAnEditedBaseline) {
   EXPECT_EQ(run({"check"}), exit_status::ok) << out;
 }
 
+TEST_F(RulesVerbs, WhatMayVaryIsNoDifference) {
+  addSite(server.url("/page"));
+  ASSERT_EQ(run({"learn", "1", "--fetches", "2", "--yes"}), exit_status::ok) << err;
+  ASSERT_EQ(run({"check"}), exit_status::ok);
+  EXPECT_EQ(run({"diff", "1"}), exit_status::ok);
+  EXPECT_EQ(out, "");
+  text = "Hacked.";
+  ASSERT_EQ(run({"check"}), exit_status::down);
+  EXPECT_EQ(run({"diff", "1"}), exit_status::down);
+  EXPECT_THAT(out,
+              AllOf(HasSubstr("\n-<p>Nothing new.</p>\n+<p>Hacked.</p>\n"), HasSubstr("\n <p>Visitor 18207</p>\n")));
+}
+
 TEST_F(RulesVerbs, GoAlongWithExportAndImport) {
   addSite(server.url("/page"));
   ASSERT_EQ(run({"learn", "1", "--fetches", "2", "--yes"}), exit_status::ok) << err;
