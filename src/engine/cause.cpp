@@ -25,7 +25,7 @@ std::string excerpt(std::string_view line, std::size_t at) {
   return (begin > 0 ? "\"..." : "\"") + visibleText(line, kExcerpt) + "\"";
 }
 
-std::string behindRemark(std::string cause, std::string_view remark) {
+std::string behindRemark(const std::string& cause, std::string_view remark) {
   return remark.empty() ? cause : cause + " (" + std::string(remark) + ")";
 }
 

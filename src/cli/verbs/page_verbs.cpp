@@ -172,8 +172,12 @@ int diff(Tool& tool, const DiffOptions& options) {
     unifiedDiff(before, shownAfter, [&](const DiffLine& line) {
       lines.add(jsonText(std::string(line.mark == '@' ? "" : std::string(1, line.mark)) + std::string(line.text)));
     });
-    sayJson(console,
-            {{"idSite", options.idSite}, {"equal", before == after}, {"same", same}, {"diff", std::move(lines)}});
+    JsonValue json{{"idSite", options.idSite}, {"equal", before == after}};
+    if (!rules.empty()) {
+      json["same"] = same;
+    }
+    json["diff"] = std::move(lines);
+    sayJson(console, std::move(json));
   } else if (!same) {
     console.out() << console.coloured(Console::Colour::bold, console.worded("--- baseline of site " + id)) << '\n'
                   << console.coloured(Console::Colour::bold, console.worded("+++ latest page of site " + id)) << '\n';
