@@ -41,6 +41,12 @@ bool isNow(const DateRead& read, LocalTime now) {
   return read.hour && read.minute && std::abs(*read.hour * 60 + *read.minute - minutes) <= kMinutesOfTheClock;
 }
 
+std::string warningOf(std::string_view page, const DateFound& date) {
+  return "Line " + std::to_string(lineOf(page, date.begin)) + ": \"" +
+         visibleText(page.substr(date.begin, std::min(date.length, kShown))) +
+         "\" may be another date or time tomorrow, though it has not changed yet. Fetch again over a day.";
+}
+
 void warnOfDates(std::string_view page, const Holes& holes, LocalTime now, std::vector<std::string>& warnings) {
   std::size_t told = 0;
   for (auto date = nextDate(page, 0); date && told < kMostDates; date = nextDate(page, date->end())) {
@@ -48,12 +54,8 @@ void warnOfDates(std::string_view page, const Holes& holes, LocalTime now, std::
     if (!read || isInHole(holes, *date)) {
       continue;
     }
-    const std::string shown = visibleText(page.substr(date->begin, std::min(date->length, kShown)));
-    const std::string line = std::to_string(lineOf(page, date->begin));
     if (date->hasDate ? isToday(*read, now) : isNow(*read, now)) {
-      warnings.push_back(
-          "Line " + line + ": \"" + shown +
-          "\" may be another date or time tomorrow, though it has not changed yet. Fetch again over a day.");
+      warnings.push_back(warningOf(page, *date));
       ++told;
     }
   }
@@ -102,7 +104,7 @@ std::vector<std::string> warningsOf(std::span<const std::string> copies, const H
   if (std::ranges::any_of(copies, [&](const std::string& copy) {
         return copy.size() * 2 < page.size() || page.size() * 2 < copy.size();
       })) {
-    warnings.push_back("The copies have very different lengths: one of them may be another page, or an error.");
+    warnings.emplace_back("The copies have very different lengths: one of them may be another page, or an error.");
   }
   warnOfTwoTexts(copies, holes, warnings);
   warnOfDates(page, holes, now, warnings);
