@@ -138,7 +138,7 @@ class Selector {
 
   std::string attribute() {
     skipBlanks();
-    const std::string what = "@" + lowerCase(name());
+    std::string what = "@" + lowerCase(name());
     skipBlanks();
     if (take(']')) {
       return what;
