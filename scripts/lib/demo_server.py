@@ -52,6 +52,8 @@ class Pages(http.server.BaseHTTPRequestHandler):
             return 200, page("Slow", "This page takes its time.")
         if path == "/news":
             return 200, page("News", HEADLINES[before % 2])
+        if path == "/visitors":
+            return 200, page("Visitors", f"You are visitor {18204 + before:,}, and welcome.")
         if path == "/prices":
             return 200, page("Prices", f"Kettle: {24 if before == 0 else 29}.00")
         if path == "/shop":
