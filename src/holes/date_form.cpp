@@ -172,7 +172,7 @@ std::optional<DateFound> dateAt(std::string_view text, std::size_t begin) {
 std::optional<DateFound> dateOver(std::string_view text, std::size_t begin, std::size_t end) {
   for (std::size_t at = begin > kLongestDate ? begin - kLongestDate : 0; at <= begin && at < text.size(); ++at) {
     if (mayBegin(text, at)) {
-      if (const auto found = dateAt(text, at); found && found->end() >= end && found->end() > begin) {
+      if (auto found = dateAt(text, at); found && found->end() >= end && found->end() > begin) {
         return found;
       }
     }
