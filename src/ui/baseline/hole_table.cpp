@@ -9,6 +9,7 @@
 
 #include "base/visible_text.h"
 #include "holes/hole_words.h"
+#include "ui/baseline/row_table.h"
 #include "ui/controls/display_text.h"
 
 namespace tarnwick {
@@ -217,22 +218,12 @@ QVariant HoleTableModel::headerData(int section, Qt::Orientation orientation, in
   }
 }
 
-HoleTable::HoleTable(QWidget* parent) : QTableView(parent) {
-  setSelectionBehavior(SelectRows);
-  setSelectionMode(SingleSelection);
-  setEditTriggers(DoubleClicked | SelectedClicked | EditKeyPressed | AnyKeyPressed);
-  setTabKeyNavigation(false);
-  setWordWrap(false);
-  verticalHeader()->hide();
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
-}
+HoleTable::HoleTable(QWidget* parent) : QTableView(parent) { setUpRows(*this); }
 
 void HoleTable::setHoles(HoleTableModel& model) {
   setModel(&model);
   setItemDelegateForColumn(HoleTableModel::whatColumn, new ClassDelegate(this));
   QHeaderView& header = *horizontalHeader();
-  header.setHighlightSections(false);
-  header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   header.setSectionResizeMode(HoleTableModel::seenColumn, QHeaderView::Stretch);
   const auto widthFor = [&](const QString& longest, int more) {
     return fontMetrics().horizontalAdvance(longest) + more;

@@ -10,6 +10,7 @@
 #include <QStyledItemDelegate>
 
 #include "page_rules/found_ranges.h"
+#include "ui/baseline/row_table.h"
 #include "ui/controls/colour_text.h"
 #include "ui/controls/display_text.h"
 #include "ui/controls/tones.h"
@@ -207,15 +208,7 @@ QVariant RuleTableModel::headerData(int section, Qt::Orientation orientation, in
   }
 }
 
-RuleTable::RuleTable(QWidget* parent) : QTableView(parent) {
-  setSelectionBehavior(SelectRows);
-  setSelectionMode(SingleSelection);
-  setEditTriggers(DoubleClicked | SelectedClicked | EditKeyPressed | AnyKeyPressed);
-  setTabKeyNavigation(false);
-  setWordWrap(false);
-  verticalHeader()->hide();
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
-}
+RuleTable::RuleTable(QWidget* parent) : QTableView(parent) { setUpRows(*this); }
 
 void RuleTable::setRules(RuleTableModel& model) {
   setModel(&model);
@@ -228,8 +221,6 @@ void RuleTable::setRules(RuleTableModel& model) {
     }
     horizontalHeader()->resizeSection(column, width);
   }
-  horizontalHeader()->setHighlightSections(false);
-  horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   horizontalHeader()->setSectionResizeMode(RuleTableModel::ruleColumn, QHeaderView::Stretch);
   constexpr int kPadding = 16;
   horizontalHeader()->resizeSection(
