@@ -8,7 +8,7 @@
 PRAGMA encoding = 'UTF-8';
 PRAGMA auto_vacuum = NONE;
 -- The form of the tables: the original ones are form 0; the program brings an older list to today's form.
-PRAGMA user_version = 4;
+PRAGMA user_version = 5;
 
 BEGIN;
 
@@ -203,5 +203,38 @@ CREATE TABLE rules (
   rule TEXT NOT NULL,
   PRIMARY KEY (idSite, ord)
 ) WITHOUT ROWID;
+
+-- The ways by which alerts leave, one row for each thing that is set of one; see src/store/channels.h.
+CREATE TABLE channels (
+  idChannel INTEGER NOT NULL,
+  name TEXT NOT NULL,
+  value TEXT NOT NULL,
+  PRIMARY KEY (idChannel, name)
+) WITHOUT ROWID;
+
+-- The alerts on their way, and the latest that have arrived or were given up; see src/store/outbox.h.
+CREATE TABLE outbox (
+  idAlert INTEGER PRIMARY KEY,
+  idChannel INTEGER NOT NULL,
+  idSite INTEGER NOT NULL,
+  pass TEXT NOT NULL,
+  made TEXT NOT NULL,
+  event TEXT NOT NULL,
+  url TEXT NOT NULL,
+  cause TEXT NOT NULL,
+  downSince TEXT NOT NULL,
+  downFor TEXT NOT NULL,
+  checks TEXT NOT NULL,
+  firstError TEXT NOT NULL,
+  difference TEXT NOT NULL,
+  page BLOB,
+  state TEXT NOT NULL,
+  tries INTEGER NOT NULL,
+  nextTry TEXT NOT NULL,
+  lastTry TEXT NOT NULL,
+  deadline TEXT NOT NULL,
+  answer TEXT NOT NULL
+);
+CREATE INDEX outboxByState ON outbox (state, idChannel, idAlert);
 
 COMMIT;

@@ -2,7 +2,7 @@
 # HELP and the translations that lie in TRANSLATIONS. What is there is brought up to date. What the user may change (the
 # database, the mail templates, the report) is none of it: the program's first start lays that, from the folder `fresh`.
 # Needs the sqlite3 tool SQLITE3.
-file(MAKE_DIRECTORY "${FOLDER}/images" "${FOLDER}/reports" "${FOLDER}/fresh")
+file(MAKE_DIRECTORY "${FOLDER}/images" "${FOLDER}/reports" "${FOLDER}/fresh" "${FOLDER}/channels")
 set(readable PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 
 # The pristine database. Made under another name first: a failure leaves no half-made one behind.
@@ -25,7 +25,7 @@ endfunction()
 lay("${ASSETS}/email.txt" fresh/email.txt)
 lay("${ASSETS}/recovered.txt" fresh/recovered.txt)
 lay("${ASSETS}/help.html" help.html)
-file(GLOB images RELATIVE "${ASSETS}" "${ASSETS}/images/*.bmp" "${ASSETS}/images/*.png")
+file(GLOB images RELATIVE "${ASSETS}" "${ASSETS}/images/*.bmp" "${ASSETS}/images/*.png" "${ASSETS}/channels/*.txt")
 foreach(file IN LISTS images ITEMS reports/green.jpg reports/red.jpg)
   lay("${ASSETS}/${file}" "${file}")
 endforeach()

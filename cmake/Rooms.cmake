@@ -2,12 +2,12 @@
 
 # The rules and the data: what needs neither Qt nor libcurl. Without a desktop's libraries these can be built and tested
 # alone.
-set(TARNWICK_CORE_ROOMS base platform platform/os platform/sqlite holes page_rules store uucode mail alerts report engine program)
+set(TARNWICK_CORE_ROOMS base platform platform/os platform/sqlite difference holes page_rules store uucode mail alerts delivery report engine program)
 # The machine with its network and its desktop, and the two front ends.
-set(TARNWICK_OUTER_ROOMS platform/web platform/events platform/process platform/sound platform/desktop
+set(TARNWICK_OUTER_ROOMS platform/web platform/events platform/process platform/sound platform/secrets platform/desktop
     exchange/json exchange/list exchange/foreign
-    cli/terminal cli/pages cli/verbs
-    ui/controls ui/baseline ui/site ui/settings ui/exchange ui/main_window
+    cli/terminal cli/verbs
+    ui/controls ui/baseline ui/site ui/settings ui/exchange ui/outbox ui/main_window
     app)
 set(TARNWICK_ROOMS ${TARNWICK_CORE_ROOMS})
 if(NOT TARNWICK_CORE_ONLY)

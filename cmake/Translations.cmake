@@ -37,7 +37,8 @@ if(LUPDATE_PROGRAM)
   find_program(PYTHON_PROGRAM python3 REQUIRED)
   set(option_texts ${CMAKE_BINARY_DIR}/option_texts.cpp)
   add_custom_target(update_translations
-    COMMAND ${PYTHON_PROGRAM} cmake/option_texts.py src/store/option_table.cpp ${option_texts}
+    COMMAND ${PYTHON_PROGRAM} cmake/option_texts.py src/store/option_table.cpp src/store/channel_table.cpp
+      ${option_texts}
     COMMAND ${LUPDATE_PROGRAM} -silent -locations none -no-obsolete -I src src/ui src/platform/desktop ${option_texts}
       ${TARNWICK_MESSAGES}/message_templates.inc -ts translations/tarnwick.ts ${translation_files}
     WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}

@@ -33,10 +33,12 @@ LICENCES = {"libcli11-dev": "BSD-3-Clause", "nlohmann-json3-dev": "MIT", "libsql
             "libssl3": "Apache-2.0", "zlib1g": "Zlib", "libbrotli1": "MIT", "libzstd1": "BSD-3-Clause",
             "libqt6core6": "LGPL-3.0-only", "libqt6gui6": "LGPL-3.0-only", "libqt6widgets6": "LGPL-3.0-only",
             "libqt6network6": "LGPL-3.0-only", "libqt6dbus6": "LGPL-3.0-only", "qt": "LGPL-3.0-only", "sqlite": "blessing",
-            "curl": "curl", "zlib": "Zlib", "cli11": "BSD-3-Clause", "nlohmann-json": "MIT",
+            "libre2-9": "BSD-3-Clause", "libxml2": "MIT", "libsimdjson14": "Apache-2.0", "re2": "BSD-3-Clause",
+            "simdjson": "Apache-2.0", "curl": "curl", "zlib": "Zlib", "cli11": "BSD-3-Clause", "nlohmann-json": "MIT",
             "compiler": "GPL-3.0-or-later WITH GCC-exception-3.1"}
 # Which source packages of Debian the libraries of the Windows build are from.
-WINDOWS_SOURCES = {"qt": "qt6-base", "sqlite": "sqlite3", "curl": "curl", "zlib": "zlib"}
+WINDOWS_SOURCES = {"qt": "qt6-base", "sqlite": "sqlite3", "curl": "curl", "zlib": "zlib", "re2": "re2",
+                   "libxml2": "libxml2", "simdjson": "simdjson"}
 
 
 def output_of(*command) -> str:

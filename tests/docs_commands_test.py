@@ -58,6 +58,7 @@ class World:
         self.home = home
         self.folder = home / "tarnwick"
         shutil.copytree(ASSETS, self.folder / "fresh")
+        shutil.copytree(ROOT / "assets/channels", self.folder / "channels")
         shutil.copy2(TOOL, self.folder)
         self.server = subprocess.Popen([sys.executable, ROOT / "scripts/lib/demo_server.py"], stdin=subprocess.PIPE,
                                        stdout=subprocess.PIPE, text=True)

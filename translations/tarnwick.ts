@@ -1260,10 +1260,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>there is no member %1 beside the sites: the members are &quot;tarnwick&quot;, &quot;options&quot; and &quot;sites&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>the file is of version %1 of the list&apos;s format, and version 1 can be read: export it with the same program</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2312,10 +2308,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file holds what has been set for each site, with its POST variables; what checks have found is not part of it. Only you can read it, and one that is there already is replaced when the new one is complete.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>for a spreadsheet, or for another computer</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2349,10 +2341,6 @@
     </message>
     <message>
         <source>Only say what would be done</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A site whose id is in the list is changed, in the fields that the file has; one with another id is added under it, and one without an id is added as a new one. All of the file is taken, or nothing: each fault is told with its line.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3652,7 +3640,587 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The latest page is that of the last check. What may vary is no difference. Exit status: 0 when equal, 1 when they differ.</source>
+        <source>There is no desktop here that could show a notice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>So much of the page changes that its places cannot be told apart: all from the first to the last of them is one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pages are too large to learn from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program could not be started. Is its path right, and may it be run?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>started, still running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>exit status %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>exit status %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was answered within %1 seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channel has no password or token. Give it one in its settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The token command gave no token: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show what changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mute for an hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound cannot be played. Is it a .wav file that is there?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody could tell it within a day.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a test of the channel %1. Alerts that look like this one will follow.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A channel needs a name of one line without commas, as in &quot;office mail&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channel %1 lacks &quot;%2&quot;: %3. It takes %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a channel &quot;%1&quot; already. Give this one another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no channel of the kind &quot;%1&quot;. The kinds are: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A channel of the kind %1 has no &quot;%2&quot;. It has: %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of the mail server &quot;%1&quot; is not valid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user name or the password for the mail server holds a character that cannot be sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail has no recipient.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail address &quot;%1&quot; is not valid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The header &quot;%1&quot; cannot be sent with a mail.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail server %1 takes no mail addresses with other letters than those of ASCII.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail server %1 has not taken the mail within %2; the last step was %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail server %1 offers no encryption, and it is required.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail server %1 offers none of the ways to log in that are known here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail server %1 broke the connection off; the last step was %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail server %1 did not answer in the language of mail.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the mail.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (the server offers no log-in)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop has no service that shows notices. Install one, or use a channel of another kind.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop did not show the notice: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A password in %1 is damaged. Enter it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key ring of the desktop did not give the password out: %1. Unlock it, or enter the password again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key ring of the desktop did not take the password: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which channel is meant? Name it, as in: tarnwickctl channel %1 office. They are listed by: tarnwickctl channel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no channel &quot;%1&quot;. They are listed by: tarnwickctl channel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one word too many. A name of several words stands between quotes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no channel, so that alerts leave as the settings say. Add one, for instance: tarnwickctl channel add phone --webhook https://ntfy.sh/YOUR-TOPIC --preset ntfy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of the channel %2 (nothing is shown):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key ring has not answered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channel %1 is stored, but not its password or token: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A channel of the kind %1 has no password or token.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channel %1 is stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channel %1 has no password or token yet. Give it: tarnwickctl channel set &quot;%2&quot; --password-file FILE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A channel is of one kind: leave out %1 or %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How is it to tell? Add --mail, --webhook, --notice, --program or --sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset is one of a web hook: leave --preset out, or give --webhook.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is on or off, and &quot;%2&quot; is neither.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no &quot;=&quot;: what is to be set stands as FIELD=VALUE, and FIELD= takes it away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is to be changed? For instance: tarnwickctl channel set &quot;%1&quot; default=off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channel %1 is on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channel %1 is off: its alerts wait.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the channel %1 with the alerts that wait for it (%2)?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channel %1 is removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The test was interrupted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The test message is sent: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The test message is not sent: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; may be given again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fields, for set, and what they take:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes %1. It has to be set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list (default), add, set, remove, on, off, test, presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channel; for set, behind it FIELD=VALUE, or FIELD= to take it away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the service wants to be told, as presets lists it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether it tells of all sites that name no channels of their own: on or off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The password or token, in a file of one line; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not ask before alerts that wait are removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or change the channels by which alerts leave, and try them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A password or token never stands on the command line: it is read from a file, or asked for, and kept in a file of the program folder that only you can read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit status of test: 0 when the message was sent, 1 when it was not.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mail through a provider; the password is asked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a web hook</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>send a message, and see the answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>change it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the channels of one site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 alert is waiting: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 alerts are waiting: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 alert was given up: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 alerts were given up: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All alerts are delivered again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no such alert in the outbox.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No alert %1 waits or was given up. They are listed by: tarnwickctl outbox</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No alert is waiting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not delivered yet: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 alert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 alerts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop %1 for good? Nobody will be told of what they say.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dropped: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the alerts on their way through channels, have them tried now, or drop them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list (default), retry, drop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The alerts; all of them without one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List those that wait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List those that have arrived</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List those that were given up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not ask before alerts are dropped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An alert that cannot be delivered is tried again after 1, 5, 15 and then every 60 minutes, for a day, by a run or a window that is on, and by each check. The answer is that of who was asked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit status of retry: 0 when all were delivered, 1 when some were not.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what has become of the alerts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>try all that wait or were given up, now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>have one not told any more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MADE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CHANNEL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SITES</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FOR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TRIES</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NEXT TRY</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ANSWER</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EVENT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>KIND</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TO</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>behind a backslash stands n, for a line end, or a second backslash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no &quot;=&quot; between a name and a value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no address: give an example of one, as in address = https://example.org/</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is for people: give it one line of text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too long for a preset of a web hook.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot;. The presets are: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The preset %1, line %2: %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: line %2 differs as well, and does not look like what always changes: it stays watched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: line %2 differs, and nothing of it looks like what always changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no baseline yet, or the latest check brought no page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is fetched with --from-last: leave out --fetches and --over.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch nothing: propose what of the latest page&apos;s difference looks like a number, a key, a date or a time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the page differs by what is no change: let that vary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: expected %2, found %3; it looks like %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The password is kept in the key ring of the desktop, which only the window reaches. Enter it here once more, and it is kept in a file of the program folder that only you can read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no member %1 beside the sites: the members are &quot;tarnwick&quot;, &quot;options&quot;, &quot;channels&quot; and &quot;sites&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file holds what has been set for each site, with its POST variables, and as JSON the channels; what checks have found is not part of it. Only you can read it, and one that is there already is replaced when the new one is complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A site whose id is in the list is changed, in the fields that the file has; one with another id is added under it, and one without an id is added as a new one. A channel takes the place of one that has its name. All of the file is taken, or nothing: each fault is told with its line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The password or token of the channel %1 is not in the file: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A CSV file has no place for channels. They are in one whose name ends in .json.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file holds the passwords and tokens of the channels in clear. Keep it where nobody else can read it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the passwords and tokens of the channels as well, in clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>store the channels: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channels are stored: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>channels is no array of {&quot;name&quot;: &quot;...&quot;, &quot;kind&quot;: &quot;...&quot;, &quot;settings&quot;: {...}}: give one such object a channel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the channel %1 is given twice: give each a name of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none is kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest page is that of the last check. What may vary or is left out by rules is no difference. Exit status: 0 when equal, 1 when they differ.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4558,6 +5126,366 @@
         <source>What becomes the baseline of a site that has none; with &quot;pages only&quot; a fetch that failed, an error page of the server or a page that is suddenly less than half as long does not</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The channels by which its alerts leave</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>names of channels parted by commas, as in &quot;phone, office mail&quot;, or &quot;none&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the channels that are there for all sites, if any is set up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An address that is asked once a minute while a run is on, so that somebody notices when it is not</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heartbeat to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test alert daily at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When a message with the figures of the day leaves through the channels, each day that a run is on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When an alert leaves that only tries the channels; one that does not arrive is told by the outbox</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;All is well&quot; daily at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a time of the day, as in &quot;8:00&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an address that begins with http:// or https://</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no alert is sent that only tries the channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nobody is told that a run is on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing is told while all is well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Outbox…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The ways by which alerts leave</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>587, with TLS 465, without encryption 25</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PEM file of the certificate authorities to trust for this server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A mail through the mail server of your provider, or one of your own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A notice of the desktop, while the window is open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A program that is started, with what has happened in its command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A program that prints the token for xoauth2; it is run before each mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A request to an address of a service that tells people, as ntfy, Gotify or a chat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A sound on this machine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attach the page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Authorities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bundle from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Desktop notice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From so many alerts of one pass on they leave as one message</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Further headers, one a line, as in &quot;Authorization: Bearer {secret}&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Headers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How to log in; xoauth2 with a token, as some providers want it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>POST</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Safety</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The .wav file that is played</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command line, with the same placeholders as that of the settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mail server, by its name or address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The method of the request</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name to log in with, often the mail address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Token command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web hook</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is sent; placeholders are filled in, escaped for its form</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the body is, for the escaping of what is filled in and the header that tells it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the request goes; placeholders such as {secret} are filled in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the server listens</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the line is encrypted: asked for after the greeting, from the first byte on, or not at all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the whole page is attached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Who is told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whose mail it is; most servers want the address of your own account here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>alerts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>each alert is a message of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>form</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>json</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines of a name, a colon and a value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>login</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no header of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one line of text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one mail address or more, parted by commas, as in &quot;me@example.org, team@example.org&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one mail address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>starttls</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>starttls: nothing but the greeting is sent before the line is encrypted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the best way that the server offers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the difference alone is in the mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first address of who is told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the password is used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no log-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>those of the system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tls</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>xoauth2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{title}, a line end and {text}</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AlarmDetails</name>
@@ -4907,6 +5835,214 @@ and when it is back</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::ChannelChoice</name>
+    <message>
+        <source>Through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send a test message through these channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test: send a test message through these channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All that are default for all sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As in Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No channel is set up: see Channels in the settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Defaults: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channels by which the alerts leave: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Testing …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ok: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ChannelForm</name>
+    <message>
+        <source>STARTTLS required</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TLS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none: nothing is encrypted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. It has to be set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. Unset: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>each alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By which name sites and lists call it: one line without commas.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept in the desktop&apos;s key ring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept in a file only you can read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kept, type to replace it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ChannelList</name>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ok %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refused %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ChannelsPage</name>
+    <message>
+        <source>Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the chosen channel away; stored with OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default for all sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It tells of all sites that name no channels of their own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another way by which alerts leave</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send a test message with what stands in the fields, stored or not</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Answer to the test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mail now goes by: the channels of the kind mail. The original exchange rests.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mail now goes by: the original exchange, port 25. A channel of the kind mail replaces it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do You Want To Remove The Channel %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alerts that wait for it are not delivered, and sites that name it tell nothing through it any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a way by which alerts shall reach you: a mail through your provider, a web hook of a service for phones or a chat, a notice on this desktop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the password or token first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Testing …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ok: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::ContentDialog</name>
     <message>
         <source>Content</source>
@@ -5054,6 +6190,49 @@ and when it is back</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::DeliveryWords</name>
+    <message>
+        <source>does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is still down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is up again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is unsteady</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is slow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This machine is online again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A test of Tarnwick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The daily test alert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All is well</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::HoleTableModel</name>
     <message>
         <source>digits</source>
@@ -5127,6 +6306,14 @@ and when it is back</source>
         <source>Last seen</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1: proposed. OK stores it, Remove drops it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, proposed</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::HolesPanel</name>
@@ -5184,6 +6371,34 @@ and when it is back</source>
     </message>
     <message>
         <source>&amp;Rules (%1)…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking at the difference from the latest page …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest page does not differ.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1 differs, and nothing of it looks like what always changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Line %2 differs as well: it stays watched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. %2 stays watched.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5423,6 +6638,10 @@ and when it is back</source>
         <source>%1 places: %2. %3 of the page stays watched.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Looking at what varies …</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::Master</name>
@@ -5586,6 +6805,22 @@ Do You Want To Discard Them And Close %2?</source>
         <source>Resume</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>No alert can be delivered: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 alert is waiting: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 alerts are waiting: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outbox…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::OptionForm</name>
@@ -5619,6 +6854,164 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>A run</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::OutboxDialog</name>
+    <message>
+        <source>Alerts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The whole answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is waiting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing has been sent yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was given up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose an alert to read the whole answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Retry Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try those that are chosen again at once; all of this page where none is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Drop…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take those that are chosen out, so that they are not delivered; all of this page where none is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open C&amp;hannel…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings of the channel that the chosen alert goes through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy those that are chosen as text, or all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This alert will not be delivered:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These %1 alerts will not be delivered:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do You Want To Drop It?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do You Want To Drop Them?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::OutboxModel</name>
+    <message>
+        <source>%1, through %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1: %2, through %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next try</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last try</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a channel that is gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>soon</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5961,6 +7354,10 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>Site %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Always C&amp;hanges…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

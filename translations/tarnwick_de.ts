@@ -1260,10 +1260,6 @@
         <translation>das Element %1 ist zweimal angegeben: Lassen Sie eines weg</translation>
     </message>
     <message>
-        <source>there is no member %1 beside the sites: the members are &quot;tarnwick&quot;, &quot;options&quot; and &quot;sites&quot;</source>
-        <translation>neben den Seiten gibt es kein Element %1: Die Elemente sind &quot;tarnwick&quot;, &quot;options&quot; und &quot;sites&quot;</translation>
-    </message>
-    <message>
         <source>the file is of version %1 of the list&apos;s format, and version 1 can be read: export it with the same program</source>
         <translation>die Datei hat Version %1 des Listenformats, und gelesen wird Version 1: Exportieren Sie sie mit demselben Programm</translation>
     </message>
@@ -2312,10 +2308,6 @@
         <translation>Auch die Seiten schreiben, mit denen verglichen wird</translation>
     </message>
     <message>
-        <source>The file holds what has been set for each site, with its POST variables; what checks have found is not part of it. Only you can read it, and one that is there already is replaced when the new one is complete.</source>
-        <translation>Die Datei enthält, was für jede Seite eingestellt ist, mit ihren POST-Variablen; was Prüfungen ergaben, gehört nicht dazu. Nur Sie können sie lesen, und eine vorhandene wird erst ersetzt, wenn die neue vollständig ist.</translation>
-    </message>
-    <message>
         <source>for a spreadsheet, or for another computer</source>
         <translation>für eine Tabelle oder einen anderen Rechner</translation>
     </message>
@@ -2350,10 +2342,6 @@
     <message>
         <source>Only say what would be done</source>
         <translation>Nur sagen, was geschähe</translation>
-    </message>
-    <message>
-        <source>A site whose id is in the list is changed, in the fields that the file has; one with another id is added under it, and one without an id is added as a new one. All of the file is taken, or nothing: each fault is told with its line.</source>
-        <translation>Eine Seite, deren ID in der Liste steht, wird geändert, in den Feldern, die die Datei hat; eine mit anderer ID wird unter dieser hinzugefügt, eine ohne ID als neue. Die Datei wird ganz übernommen oder gar nicht: Jeder Fehler wird mit seiner Zeile gemeldet.</translation>
     </message>
     <message>
         <source>A CSV file names its columns in the first line, separated by commas. Only url must be there; the others are idSite, method (get or post), active, tInterval (minutes), alertEmail, email, sUserName, sPassWord, postVars (name=value&amp;name=value, other bytes than letters and digits as %XX), baseline (base64). An empty idSite, method, tInterval or yes/no is as one left out. A JSON file has the form {&quot;tarnwick&quot;: 1, &quot;sites&quot;: [{&quot;url&quot;: ...}, ...]}.</source>
@@ -3652,8 +3640,588 @@
         <translation>noch gibt es keine Basis</translation>
     </message>
     <message>
-        <source>The latest page is that of the last check. What may vary is no difference. Exit status: 0 when equal, 1 when they differ.</source>
-        <translation>Die letzte Seite ist die der letzten Prüfung. Was abweichen darf, ist kein Unterschied. Status: 0 bei Gleichheit, 1 bei Unterschieden.</translation>
+        <source>There is no desktop here that could show a notice.</source>
+        <translation>Hier ist kein Desktop, der eine Mitteilung zeigen könnte.</translation>
+    </message>
+    <message>
+        <source>So much of the page changes that its places cannot be told apart: all from the first to the last of them is one.</source>
+        <translation>An der Seite ändert sich so viel, dass sich die Stellen nicht auseinanderhalten lassen: alles von der ersten bis zur letzten ist eine.</translation>
+    </message>
+    <message>
+        <source>The pages are too large to learn from.</source>
+        <translation>Die Seiten sind zu groß, um aus ihnen zu lernen.</translation>
+    </message>
+    <message>
+        <source>The program could not be started. Is its path right, and may it be run?</source>
+        <translation>Das Programm konnte nicht gestartet werden. Stimmt sein Pfad, und darf es ausgeführt werden?</translation>
+    </message>
+    <message>
+        <source>started, still running</source>
+        <translation>gestartet, läuft noch</translation>
+    </message>
+    <message>
+        <source>exit status %1</source>
+        <translation>Beendet mit Status %1</translation>
+    </message>
+    <message>
+        <source>exit status %1: %2</source>
+        <translation>Beendet mit Status %1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing was answered within %1 seconds.</source>
+        <translation>Innerhalb von %1 Sekunden kam keine Antwort.</translation>
+    </message>
+    <message>
+        <source>The channel has no password or token. Give it one in its settings.</source>
+        <translation>Der Kanal hat kein Passwort und kein Token. Geben Sie ihm eines in seinen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The token command gave no token: %1</source>
+        <translation>Der Token-Befehl lieferte kein Token: %1</translation>
+    </message>
+    <message>
+        <source>Show what changed</source>
+        <translation>Zeigen, was sich geändert hat</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Mute for an hour</source>
+        <translation>Eine Stunde stumm</translation>
+    </message>
+    <message>
+        <source>The sound cannot be played. Is it a .wav file that is there?</source>
+        <translation>Der Ton kann nicht abgespielt werden. Ist es eine .wav-Datei, die vorhanden ist?</translation>
+    </message>
+    <message>
+        <source>Nobody could tell it within a day.</source>
+        <translation>Innerhalb eines Tages konnte es niemand melden.</translation>
+    </message>
+    <message>
+        <source>This is a test of the channel %1. Alerts that look like this one will follow.</source>
+        <translation>Dies ist ein Test des Kanals %1. Es folgen Alarme, die so aussehen wie dieser.</translation>
+    </message>
+    <message>
+        <source>A channel needs a name of one line without commas, as in &quot;office mail&quot;.</source>
+        <translation>Ein Kanal braucht einen Namen aus einer Zeile ohne Kommas, etwa „office mail“.</translation>
+    </message>
+    <message>
+        <source>The channel %1 lacks &quot;%2&quot;: %3. It takes %4.</source>
+        <translation>Dem Kanal %1 fehlt „%2“: %3. Möglich ist: %4.</translation>
+    </message>
+    <message>
+        <source>There is a channel &quot;%1&quot; already. Give this one another name.</source>
+        <translation>Es gibt schon einen Kanal „%1“. Geben Sie diesem einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>There is no channel of the kind &quot;%1&quot;. The kinds are: %2.</source>
+        <translation>Es gibt keinen Kanal der Art „%1“. Die Arten sind: %2.</translation>
+    </message>
+    <message>
+        <source>A channel of the kind %1 has no &quot;%2&quot;. It has: %3.</source>
+        <translation>Ein Kanal der Art %1 hat kein „%2“. Er hat: %3.</translation>
+    </message>
+    <message>
+        <source>The name of the mail server &quot;%1&quot; is not valid.</source>
+        <translation>Der Name des Mailservers „%1“ ist nicht gültig.</translation>
+    </message>
+    <message>
+        <source>The user name or the password for the mail server holds a character that cannot be sent.</source>
+        <translation>Der Benutzername oder das Passwort für den Mailserver enthält ein Zeichen, das nicht gesendet werden kann.</translation>
+    </message>
+    <message>
+        <source>The mail has no recipient.</source>
+        <translation>Die Mail hat keinen Empfänger.</translation>
+    </message>
+    <message>
+        <source>The mail address &quot;%1&quot; is not valid.</source>
+        <translation>Die Mailadresse „%1“ ist nicht gültig.</translation>
+    </message>
+    <message>
+        <source>The header &quot;%1&quot; cannot be sent with a mail.</source>
+        <translation>Die Kopfzeile „%1“ kann nicht mit einer Mail gesendet werden.</translation>
+    </message>
+    <message>
+        <source>The mail server %1 takes no mail addresses with other letters than those of ASCII.</source>
+        <translation>Der Mailserver %1 nimmt keine Mailadressen mit anderen Buchstaben als denen von ASCII.</translation>
+    </message>
+    <message>
+        <source>The mail server %1 has not taken the mail within %2; the last step was %3.</source>
+        <translation>Der Mailserver %1 hat die Mail nicht innerhalb von %2 angenommen; der letzte Schritt war %3.</translation>
+    </message>
+    <message>
+        <source>The mail server %1 offers no encryption, and it is required.</source>
+        <translation>Der Mailserver %1 bietet keine Verschlüsselung an, und sie ist verlangt.</translation>
+    </message>
+    <message>
+        <source>The mail server %1 offers none of the ways to log in that are known here.</source>
+        <translation>Der Mailserver %1 bietet keine der Arten der Anmeldung an, die hier bekannt sind.</translation>
+    </message>
+    <message>
+        <source>The mail server %1 broke the connection off; the last step was %2.</source>
+        <translation>Der Mailserver %1 hat die Verbindung abgebrochen; der letzte Schritt war %2.</translation>
+    </message>
+    <message>
+        <source>The mail server %1 did not answer in the language of mail.</source>
+        <translation>Der Mailserver %1 antwortete nicht in der Sprache der Mail.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the mail.</source>
+        <translation>Für die Mail ist nicht genug Speicher da.</translation>
+    </message>
+    <message>
+        <source>%1 (the server offers no log-in)</source>
+        <translation>%1 (der Server bietet keine Anmeldung an)</translation>
+    </message>
+    <message>
+        <source>The desktop has no service that shows notices. Install one, or use a channel of another kind.</source>
+        <translation>Der Desktop hat keinen Dienst, der Mitteilungen zeigt. Installieren Sie einen, oder nehmen Sie einen Kanal anderer Art.</translation>
+    </message>
+    <message>
+        <source>The desktop did not show the notice: %1</source>
+        <translation>Der Desktop hat die Mitteilung nicht gezeigt: %1</translation>
+    </message>
+    <message>
+        <source>A password in %1 is damaged. Enter it again.</source>
+        <translation>Ein Passwort in %1 ist beschädigt. Geben Sie es noch einmal ein.</translation>
+    </message>
+    <message>
+        <source>The key ring of the desktop did not give the password out: %1. Unlock it, or enter the password again.</source>
+        <translation>Der Schlüsselbund des Desktops hat das Passwort nicht herausgegeben: %1. Entsperren Sie ihn, oder geben Sie das Passwort noch einmal ein.</translation>
+    </message>
+    <message>
+        <source>The key ring of the desktop did not take the password: %1.</source>
+        <translation>Der Schlüsselbund des Desktops hat das Passwort nicht angenommen: %1.</translation>
+    </message>
+    <message>
+        <source>The password is kept in the key ring of the desktop, which only the window reaches. Enter it here once more, and it is kept in a file of the program folder that only you can read.</source>
+        <translation>Das Passwort liegt im Schlüsselbund des Desktops, den nur das Fenster erreicht. Geben Sie es hier noch einmal ein, dann liegt es in einer Datei des Programmordners, die nur Sie lesen können.</translation>
+    </message>
+    <message>
+        <source>%1: line %2 differs as well, and does not look like what always changes: it stays watched.</source>
+        <translation>%1: Auch Zeile %2 weicht ab und sieht nicht nach etwas aus, das sich immer ändert: sie bleibt überwacht.</translation>
+    </message>
+    <message>
+        <source>%1: line %2 differs, and nothing of it looks like what always changes.</source>
+        <translation>%1: Zeile %2 weicht ab, und nichts davon sieht nach etwas aus, das sich immer ändert.</translation>
+    </message>
+    <message>
+        <source>There is no baseline yet, or the latest check brought no page.</source>
+        <translation>Es gibt noch keine Basis, oder die letzte Prüfung brachte keine Seite.</translation>
+    </message>
+    <message>
+        <source>Nothing is fetched with --from-last: leave out --fetches and --over.</source>
+        <translation>Mit --from-last wird nichts abgerufen: --fetches und --over weglassen.</translation>
+    </message>
+    <message>
+        <source>Fetch nothing: propose what of the latest page&apos;s difference looks like a number, a key, a date or a time</source>
+        <translation>Nichts abrufen: vorschlagen, was vom Unterschied der letzten Seite nach einer Zahl, einem Schlüssel, einem Datum oder einer Uhrzeit aussieht</translation>
+    </message>
+    <message>
+        <source>the page differs by what is no change: let that vary</source>
+        <translation>die Seite weicht durch etwas ab, das keine Änderung ist: das darf sich ändern</translation>
+    </message>
+    <message>
+        <source>line %1: expected %2, found %3; it looks like %4</source>
+        <translation>Zeile %1: erwartet %2, gefunden %3; das sieht aus wie %4</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a key</source>
+        <translation>ein Schlüssel</translation>
+    </message>
+    <message>
+        <source>Which channel is meant? Name it, as in: tarnwickctl channel %1 office. They are listed by: tarnwickctl channel</source>
+        <translation>Welcher Kanal ist gemeint? Nennen Sie ihn, wie in: tarnwickctl channel %1 office. Sie werden aufgelistet mit: tarnwickctl channel</translation>
+    </message>
+    <message>
+        <source>There is no channel &quot;%1&quot;. They are listed by: tarnwickctl channel</source>
+        <translation>Es gibt keinen Kanal „%1“. Sie werden aufgelistet mit: tarnwickctl channel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one word too many. A name of several words stands between quotes.</source>
+        <translation>„%1“ ist ein Wort zu viel. Ein Name aus mehreren Wörtern steht zwischen Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>There is no channel, so that alerts leave as the settings say. Add one, for instance: tarnwickctl channel add phone --webhook https://ntfy.sh/YOUR-TOPIC --preset ntfy</source>
+        <translation>Es gibt keinen Kanal; Alarme gehen hinaus, wie es die Einstellungen sagen. Legen Sie einen an, zum Beispiel: tarnwickctl channel add phone --webhook https://ntfy.sh/YOUR-TOPIC --preset ntfy</translation>
+    </message>
+    <message>
+        <source>%1 of the channel %2 (nothing is shown):</source>
+        <translation>%1 des Kanals %2 (nichts wird angezeigt):</translation>
+    </message>
+    <message>
+        <source>Token</source>
+        <translation>Token</translation>
+    </message>
+    <message>
+        <source>The key ring has not answered.</source>
+        <translation>Der Schlüsselbund hat nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>The channel %1 is stored, but not its password or token: %2</source>
+        <translation>Der Kanal %1 ist gespeichert, sein Passwort oder Token aber nicht: %2</translation>
+    </message>
+    <message>
+        <source>A channel of the kind %1 has no password or token.</source>
+        <translation>Ein Kanal der Art %1 hat kein Passwort oder Token.</translation>
+    </message>
+    <message>
+        <source>The channel %1 is stored.</source>
+        <translation>Der Kanal %1 ist gespeichert.</translation>
+    </message>
+    <message>
+        <source>The channel %1 has no password or token yet. Give it: tarnwickctl channel set &quot;%2&quot; --password-file FILE</source>
+        <translation>Der Kanal %1 hat noch kein Passwort oder Token. Geben Sie es an: tarnwickctl channel set &quot;%2&quot; --password-file DATEI</translation>
+    </message>
+    <message>
+        <source>A channel is of one kind: leave out %1 or %2.</source>
+        <translation>Ein Kanal ist von einer Art: Lassen Sie %1 oder %2 weg.</translation>
+    </message>
+    <message>
+        <source>How is it to tell? Add --mail, --webhook, --notice, --program or --sound.</source>
+        <translation>Wie soll er melden? Ergänzen Sie --mail, --webhook, --notice, --program oder --sound.</translation>
+    </message>
+    <message>
+        <source>A preset is one of a web hook: leave --preset out, or give --webhook.</source>
+        <translation>Eine Vorlage ist die eines Webhooks: Lassen Sie --preset weg, oder geben Sie --webhook an.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is on or off, and &quot;%2&quot; is neither.</source>
+        <translation>„%1“ ist on oder off, und „%2“ ist keins von beiden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no &quot;=&quot;: what is to be set stands as FIELD=VALUE, and FIELD= takes it away.</source>
+        <translation>„%1“ hat kein „=“: Was gesetzt werden soll, steht als FELD=WERT, und FELD= nimmt es weg.</translation>
+    </message>
+    <message>
+        <source>What is to be changed? For instance: tarnwickctl channel set &quot;%1&quot; default=off</source>
+        <translation>Was soll geändert werden? Zum Beispiel: tarnwickctl channel set &quot;%1&quot; default=off</translation>
+    </message>
+    <message>
+        <source>The channel %1 is on.</source>
+        <translation>Der Kanal %1 ist eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>The channel %1 is off: its alerts wait.</source>
+        <translation>Der Kanal %1 ist ausgeschaltet: Seine Alarme warten.</translation>
+    </message>
+    <message>
+        <source>Remove the channel %1 with the alerts that wait for it (%2)?</source>
+        <translation>Den Kanal %1 mit den Alarmen, die auf ihn warten (%2), entfernen?</translation>
+    </message>
+    <message>
+        <source>The channel %1 is removed.</source>
+        <translation>Der Kanal %1 ist entfernt.</translation>
+    </message>
+    <message>
+        <source>The test was interrupted.</source>
+        <translation>Der Test wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The test message is sent: %1</source>
+        <translation>Die Testnachricht ist gesendet: %1</translation>
+    </message>
+    <message>
+        <source>The test message is not sent: %1</source>
+        <translation>Die Testnachricht ist nicht gesendet: %1</translation>
+    </message>
+    <message>
+        <source>%1; may be given again</source>
+        <translation>%1; kann wiederholt werden</translation>
+    </message>
+    <message>
+        <source>Fields, for set, and what they take:</source>
+        <translation>Felder, für set, und was sie nehmen:</translation>
+    </message>
+    <message>
+        <source>Takes %1. It has to be set.</source>
+        <translation>Nimmt %1. Es muss gesetzt sein.</translation>
+    </message>
+    <message>
+        <source>list (default), add, set, remove, on, off, test, presets</source>
+        <translation>list (Vorgabe), add, set, remove, on, off, test, presets</translation>
+    </message>
+    <message>
+        <source>The channel; for set, behind it FIELD=VALUE, or FIELD= to take it away</source>
+        <translation>Der Kanal; bei set dahinter FELD=WERT, oder FELD=, um es wegzunehmen</translation>
+    </message>
+    <message>
+        <source>How the service wants to be told, as presets lists it</source>
+        <translation>Wie der Dienst es haben will, wie presets es auflistet</translation>
+    </message>
+    <message>
+        <source>Whether it tells of all sites that name no channels of their own: on or off</source>
+        <translation>Ob er von allen Seiten meldet, die keine eigenen Kanäle nennen: on oder off</translation>
+    </message>
+    <message>
+        <source>The password or token, in a file of one line; - is standard input</source>
+        <translation>Das Passwort oder Token, in einer Datei von einer Zeile; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>Do not ask before alerts that wait are removed</source>
+        <translation>Nicht fragen, bevor wartende Alarme entfernt werden</translation>
+    </message>
+    <message>
+        <source>Show or change the channels by which alerts leave, and try them</source>
+        <translation>Die Kanäle, über die Alarme hinausgehen, anzeigen, ändern und ausprobieren</translation>
+    </message>
+    <message>
+        <source>A password or token never stands on the command line: it is read from a file, or asked for, and kept in a file of the program folder that only you can read.</source>
+        <translation>Ein Passwort oder Token steht nie auf der Befehlszeile: Es wird aus einer Datei gelesen oder erfragt und in einer Datei des Programmordners aufbewahrt, die nur Sie lesen können.</translation>
+    </message>
+    <message>
+        <source>Exit status of test: 0 when the message was sent, 1 when it was not.</source>
+        <translation>Exit-Status von test: 0, wenn die Nachricht gesendet wurde, sonst 1.</translation>
+    </message>
+    <message>
+        <source>mail through a provider; the password is asked for</source>
+        <translation>Mail über einen Anbieter; das Passwort wird erfragt</translation>
+    </message>
+    <message>
+        <source>a web hook</source>
+        <translation>ein Webhook</translation>
+    </message>
+    <message>
+        <source>send a message, and see the answer</source>
+        <translation>eine Nachricht senden und die Antwort sehen</translation>
+    </message>
+    <message>
+        <source>change it</source>
+        <translation>ihn ändern</translation>
+    </message>
+    <message>
+        <source>the channels of one site</source>
+        <translation>die Kanäle einer Seite</translation>
+    </message>
+    <message>
+        <source>1 alert is waiting: %1</source>
+        <translation>1 Alarm wartet: %1</translation>
+    </message>
+    <message>
+        <source>%1 alerts are waiting: %2</source>
+        <translation>%1 Alarme warten: %2</translation>
+    </message>
+    <message>
+        <source>1 alert was given up: %1</source>
+        <translation>1 Alarm wurde aufgegeben: %1</translation>
+    </message>
+    <message>
+        <source>%1 alerts were given up: %2</source>
+        <translation>%1 Alarme wurden aufgegeben: %2</translation>
+    </message>
+    <message>
+        <source>All alerts are delivered again.</source>
+        <translation>Alle Alarme sind wieder zugestellt.</translation>
+    </message>
+    <message>
+        <source>There is no such alert in the outbox.</source>
+        <translation>Einen solchen Alarm gibt es im Postausgang nicht.</translation>
+    </message>
+    <message>
+        <source>No alert %1 waits or was given up. They are listed by: tarnwickctl outbox</source>
+        <translation>Kein Alarm %1 wartet oder wurde aufgegeben. Sie werden aufgelistet mit: tarnwickctl outbox</translation>
+    </message>
+    <message>
+        <source>No alert is waiting.</source>
+        <translation>Kein Alarm wartet.</translation>
+    </message>
+    <message>
+        <source>Not delivered yet: %1.</source>
+        <translation>Noch nicht zugestellt: %1.</translation>
+    </message>
+    <message>
+        <source>1 alert</source>
+        <translation>1 Alarm</translation>
+    </message>
+    <message>
+        <source>%1 alerts</source>
+        <translation>%1 Alarme</translation>
+    </message>
+    <message>
+        <source>Drop %1 for good? Nobody will be told of what they say.</source>
+        <translation>%1 endgültig verwerfen? Niemand erfährt dann, was darin steht.</translation>
+    </message>
+    <message>
+        <source>Dropped: %1.</source>
+        <translation>Verworfen: %1.</translation>
+    </message>
+    <message>
+        <source>Show the alerts on their way through channels, have them tried now, or drop them</source>
+        <translation>Die Alarme auf ihrem Weg durch die Kanäle anzeigen, jetzt versuchen lassen oder verwerfen</translation>
+    </message>
+    <message>
+        <source>list (default), retry, drop</source>
+        <translation>list (Vorgabe), retry, drop</translation>
+    </message>
+    <message>
+        <source>The alerts; all of them without one</source>
+        <translation>Die Alarme; ohne Angabe alle</translation>
+    </message>
+    <message>
+        <source>List those that wait</source>
+        <translation>Die wartenden auflisten</translation>
+    </message>
+    <message>
+        <source>List those that have arrived</source>
+        <translation>Die angekommenen auflisten</translation>
+    </message>
+    <message>
+        <source>List those that were given up</source>
+        <translation>Die aufgegebenen auflisten</translation>
+    </message>
+    <message>
+        <source>Do not ask before alerts are dropped</source>
+        <translation>Nicht fragen, bevor Alarme verworfen werden</translation>
+    </message>
+    <message>
+        <source>An alert that cannot be delivered is tried again after 1, 5, 15 and then every 60 minutes, for a day, by a run or a window that is on, and by each check. The answer is that of who was asked.</source>
+        <translation>Ein Alarm, der nicht zugestellt werden kann, wird nach 1, 5, 15 und dann alle 60 Minuten wieder versucht, einen Tag lang, von einem Lauf oder einem offenen Fenster und von jeder Prüfung. Die Antwort ist die dessen, der gefragt wurde.</translation>
+    </message>
+    <message>
+        <source>Exit status of retry: 0 when all were delivered, 1 when some were not.</source>
+        <translation>Exit-Status von retry: 0, wenn alle zugestellt wurden, sonst 1.</translation>
+    </message>
+    <message>
+        <source>what has become of the alerts</source>
+        <translation>was aus den Alarmen geworden ist</translation>
+    </message>
+    <message>
+        <source>try all that wait or were given up, now</source>
+        <translation>alle, die warten oder aufgegeben wurden, jetzt versuchen</translation>
+    </message>
+    <message>
+        <source>have one not told any more</source>
+        <translation>einen nicht mehr melden</translation>
+    </message>
+    <message>
+        <source>MADE</source>
+        <translation>ENTSTANDEN</translation>
+    </message>
+    <message>
+        <source>CHANNEL</source>
+        <translation>KANAL</translation>
+    </message>
+    <message>
+        <source>SITES</source>
+        <translation>SEITEN</translation>
+    </message>
+    <message>
+        <source>FOR</source>
+        <translation>WOFÜR</translation>
+    </message>
+    <message>
+        <source>TRIES</source>
+        <translation>VERSUCHE</translation>
+    </message>
+    <message>
+        <source>NEXT TRY</source>
+        <translation>NÄCHSTER</translation>
+    </message>
+    <message>
+        <source>ANSWER</source>
+        <translation>ANTWORT</translation>
+    </message>
+    <message>
+        <source>EVENT</source>
+        <translation>EREIGNIS</translation>
+    </message>
+    <message>
+        <source>KIND</source>
+        <translation>ART</translation>
+    </message>
+    <message>
+        <source>TO</source>
+        <translation>AN</translation>
+    </message>
+    <message>
+        <source>behind a backslash stands n, for a line end, or a second backslash</source>
+        <translation>hinter einem Backslash steht n, für ein Zeilenende, oder ein zweiter Backslash</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no &quot;=&quot; between a name and a value</source>
+        <translation>„%1“ hat kein „=“ zwischen Name und Wert</translation>
+    </message>
+    <message>
+        <source>there is no address: give an example of one, as in address = https://example.org/</source>
+        <translation>es gibt keine Adresse: Geben Sie ein Beispiel, wie in address = https://example.org/</translation>
+    </message>
+    <message>
+        <source>%1 is for people: give it one line of text</source>
+        <translation>%1 ist für Menschen: Geben Sie eine Zeile Text an</translation>
+    </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 ist zweimal angegeben</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too long for a preset of a web hook.</source>
+        <translation>Die Datei „%1“ ist zu lang für die Vorlage eines Webhooks.</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot;. The presets are: %2.</source>
+        <translation>Es gibt keine Vorlage „%1“. Die Vorlagen sind: %2.</translation>
+    </message>
+    <message>
+        <source>The preset %1, line %2: %3.</source>
+        <translation>Die Vorlage %1, Zeile %2: %3.</translation>
+    </message>
+    <message>
+        <source>there is no member %1 beside the sites: the members are &quot;tarnwick&quot;, &quot;options&quot;, &quot;channels&quot; and &quot;sites&quot;</source>
+        <translation>Neben den Seiten gibt es kein Element %1: Die Elemente sind „tarnwick“, „options“, „channels“ und „sites“</translation>
+    </message>
+    <message>
+        <source>The file holds what has been set for each site, with its POST variables, and as JSON the channels; what checks have found is not part of it. Only you can read it, and one that is there already is replaced when the new one is complete.</source>
+        <translation>Die Datei enthält, was für jede Seite eingestellt ist, mit ihren POST-Variablen, und als JSON die Kanäle; was Prüfungen ergaben, gehört nicht dazu. Nur Sie können sie lesen, und eine vorhandene wird erst ersetzt, wenn die neue vollständig ist.</translation>
+    </message>
+    <message>
+        <source>A site whose id is in the list is changed, in the fields that the file has; one with another id is added under it, and one without an id is added as a new one. A channel takes the place of one that has its name. All of the file is taken, or nothing: each fault is told with its line.</source>
+        <translation>Eine Seite, deren ID in der Liste steht, wird geändert, in den Feldern, die die Datei hat; eine mit anderer ID wird unter dieser hinzugefügt, eine ohne ID als neue. Ein Kanal tritt an die Stelle dessen, der seinen Namen hat. Die Datei wird ganz übernommen oder gar nicht: Jeder Fehler wird mit seiner Zeile gemeldet.</translation>
+    </message>
+    <message>
+        <source>The password or token of the channel %1 is not in the file: %2</source>
+        <translation>Das Passwort oder Token des Kanals %1 steht nicht in der Datei: %2</translation>
+    </message>
+    <message>
+        <source>A CSV file has no place for channels. They are in one whose name ends in .json.</source>
+        <translation>In einer CSV-Datei ist für Kanäle kein Platz. Sie stehen in einer, deren Name auf .json endet.</translation>
+    </message>
+    <message>
+        <source>The file holds the passwords and tokens of the channels in clear. Keep it where nobody else can read it.</source>
+        <translation>Die Datei enthält die Passwörter und Tokens der Kanäle im Klartext. Bewahren Sie sie dort auf, wo niemand sonst sie lesen kann.</translation>
+    </message>
+    <message>
+        <source>Write the passwords and tokens of the channels as well, in clear</source>
+        <translation>Auch die Passwörter und Tokens der Kanäle schreiben, im Klartext</translation>
+    </message>
+    <message>
+        <source>store the channels: %1</source>
+        <translation>die Kanäle speichern: %1</translation>
+    </message>
+    <message>
+        <source>The channels are stored: %1</source>
+        <translation>Die Kanäle sind gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>channels is no array of {&quot;name&quot;: &quot;...&quot;, &quot;kind&quot;: &quot;...&quot;, &quot;settings&quot;: {...}}: give one such object a channel</source>
+        <translation>channels ist kein Array aus {&quot;name&quot;: &quot;...&quot;, &quot;kind&quot;: &quot;...&quot;, &quot;settings&quot;: {...}}: Geben Sie für jeden Kanal ein solches Objekt an</translation>
+    </message>
+    <message>
+        <source>the channel %1 is given twice: give each a name of its own</source>
+        <translation>der Kanal %1 ist zweimal angegeben: Geben Sie jedem einen eigenen Namen</translation>
+    </message>
+    <message>
+        <source>none is kept.</source>
+        <translation>keines ist aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>The latest page is that of the last check. What may vary or is left out by rules is no difference. Exit status: 0 when equal, 1 when they differ.</source>
+        <translation>Die letzte Seite ist die der letzten Prüfung. Was abweichen darf oder durch Regeln ausgelassen wird, ist kein Unterschied. Status: 0 bei Gleichheit, 1 bei Unterschieden.</translation>
     </message>
 </context>
 <context>
@@ -4558,6 +5126,366 @@
         <source>What becomes the baseline of a site that has none; with &quot;pages only&quot; a fetch that failed, an error page of the server or a page that is suddenly less than half as long does not</source>
         <translation>Was zur Basis einer Site wird, die noch keine hat; bei „nur Seiten“ nicht ein gescheiterter Abruf, eine Fehlerseite des Servers oder eine plötzlich nicht halb so lange Seite</translation>
     </message>
+    <message>
+        <source>The channels by which its alerts leave</source>
+        <translation>Die Kanäle, über die seine Alarme gehen</translation>
+    </message>
+    <message>
+        <source>Through</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>names of channels parted by commas, as in &quot;phone, office mail&quot;, or &quot;none&quot;</source>
+        <translation>Namen von Kanälen, durch Kommas getrennt, etwa „phone, office mail“, oder „none“</translation>
+    </message>
+    <message>
+        <source>the channels that are there for all sites, if any is set up</source>
+        <translation>die Kanäle, die für alle Sites da sind, falls einer eingerichtet ist</translation>
+    </message>
+    <message>
+        <source>An address that is asked once a minute while a run is on, so that somebody notices when it is not</source>
+        <translation>Eine Adresse, die einmal in der Minute angefragt wird, solange ein Lauf an ist, damit jemand merkt, wenn er es nicht ist</translation>
+    </message>
+    <message>
+        <source>Heartbeat to</source>
+        <translation>Lebenszeichen an</translation>
+    </message>
+    <message>
+        <source>Test alert daily at</source>
+        <translation>Probealarm täglich um</translation>
+    </message>
+    <message>
+        <source>When a message with the figures of the day leaves through the channels, each day that a run is on</source>
+        <translation>Wann eine Nachricht mit den Zahlen des Tages über die Kanäle geht, an jedem Tag, an dem ein Lauf an ist</translation>
+    </message>
+    <message>
+        <source>When an alert leaves that only tries the channels; one that does not arrive is told by the outbox</source>
+        <translation>Wann ein Alarm ausgeht, der nur die Kanäle erprobt; einer, der nicht ankommt, wird vom Postausgang gemeldet</translation>
+    </message>
+    <message>
+        <source>&quot;All is well&quot; daily at</source>
+        <translation>„Alles in Ordnung“ täglich um</translation>
+    </message>
+    <message>
+        <source>a time of the day, as in &quot;8:00&quot;</source>
+        <translation>eine Uhrzeit, etwa „8:00“</translation>
+    </message>
+    <message>
+        <source>an address that begins with http:// or https://</source>
+        <translation>eine Adresse, die mit http:// oder https:// beginnt</translation>
+    </message>
+    <message>
+        <source>no alert is sent that only tries the channels</source>
+        <translation>kein Alarm wird gesendet, der nur die Kanäle erprobt</translation>
+    </message>
+    <message>
+        <source>nobody is told that a run is on</source>
+        <translation>niemand erfährt, dass ein Lauf an ist</translation>
+    </message>
+    <message>
+        <source>nothing is told while all is well</source>
+        <translation>nichts wird gemeldet, solange alles in Ordnung ist</translation>
+    </message>
+    <message>
+        <source>&amp;Outbox…</source>
+        <translation>Post&amp;ausgang…</translation>
+    </message>
+    <message>
+        <source>The ways by which alerts leave</source>
+        <translation>Die Wege, auf denen Alarme hinausgehen</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>587, with TLS 465, without encryption 25</source>
+        <translation>587, mit TLS 465, ohne Verschlüsselung 25</translation>
+    </message>
+    <message>
+        <source>A PEM file of the certificate authorities to trust for this server</source>
+        <translation>Eine PEM-Datei der Zertifizierungsstellen, denen für diesen Server vertraut wird</translation>
+    </message>
+    <message>
+        <source>A mail through the mail server of your provider, or one of your own</source>
+        <translation>Eine Mail über den Mailserver Ihres Anbieters oder einen eigenen</translation>
+    </message>
+    <message>
+        <source>A notice of the desktop, while the window is open</source>
+        <translation>Eine Meldung des Desktops, solange das Fenster offen ist</translation>
+    </message>
+    <message>
+        <source>A program that is started, with what has happened in its command line</source>
+        <translation>Ein Programm, das gestartet wird, mit dem Geschehenen in seiner Befehlszeile</translation>
+    </message>
+    <message>
+        <source>A program that prints the token for xoauth2; it is run before each mail</source>
+        <translation>Ein Programm, das das Token für xoauth2 ausgibt; es läuft vor jeder Mail</translation>
+    </message>
+    <message>
+        <source>A request to an address of a service that tells people, as ntfy, Gotify or a chat</source>
+        <translation>Eine Anfrage an die Adresse eines Dienstes, der Leuten Bescheid gibt, wie ntfy, Gotify oder ein Chat</translation>
+    </message>
+    <message>
+        <source>A sound on this machine</source>
+        <translation>Ein Klang auf diesem Rechner</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Attach the page</source>
+        <translation>Seite anhängen</translation>
+    </message>
+    <message>
+        <source>Authorities</source>
+        <translation>Zertifikate</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Bundle from</source>
+        <translation>Bündeln ab</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Desktop notice</source>
+        <translation>Desktop-Meldung</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>From so many alerts of one pass on they leave as one message</source>
+        <translation>Ab so vielen Alarmen eines Durchgangs gehen sie als eine Nachricht hinaus</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>Further headers, one a line, as in &quot;Authorization: Bearer {secret}&quot;</source>
+        <translation>Weitere Kopfzeilen, eine je Zeile, wie &quot;Authorization: Bearer {secret}&quot;</translation>
+    </message>
+    <message>
+        <source>Headers</source>
+        <translation>Kopfzeilen</translation>
+    </message>
+    <message>
+        <source>How to log in; xoauth2 with a token, as some providers want it</source>
+        <translation>Wie die Anmeldung geschieht; xoauth2 mit einem Token, wie es manche Anbieter wollen</translation>
+    </message>
+    <message>
+        <source>Log-in</source>
+        <translation>Anmeldung</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>Mail</translation>
+    </message>
+    <message>
+        <source>POST</source>
+        <translation>POST</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Safety</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Klang</translation>
+    </message>
+    <message>
+        <source>The .wav file that is played</source>
+        <translation>Die .wav-Datei, die abgespielt wird</translation>
+    </message>
+    <message>
+        <source>The command line, with the same placeholders as that of the settings</source>
+        <translation>Die Befehlszeile, mit denselben Platzhaltern wie die der Einstellungen</translation>
+    </message>
+    <message>
+        <source>The mail server, by its name or address</source>
+        <translation>Der Mailserver, mit Namen oder Adresse</translation>
+    </message>
+    <message>
+        <source>The method of the request</source>
+        <translation>Die Methode der Anfrage</translation>
+    </message>
+    <message>
+        <source>The name to log in with, often the mail address</source>
+        <translation>Der Name für die Anmeldung, oft die Mailadresse</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>An</translation>
+    </message>
+    <message>
+        <source>Token command</source>
+        <translation>Token-Befehl</translation>
+    </message>
+    <message>
+        <source>Token</source>
+        <translation>Token</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Web hook</source>
+        <translation>Web-Hook</translation>
+    </message>
+    <message>
+        <source>What is sent; placeholders are filled in, escaped for its form</source>
+        <translation>Was gesendet wird; Platzhalter werden eingesetzt, passend zur Form geschützt</translation>
+    </message>
+    <message>
+        <source>What the body is, for the escaping of what is filled in and the header that tells it</source>
+        <translation>Was der Inhalt ist: danach wird Eingesetztes geschützt, und die Kopfzeile nennt es</translation>
+    </message>
+    <message>
+        <source>Where the request goes; placeholders such as {secret} are filled in</source>
+        <translation>Wohin die Anfrage geht; Platzhalter wie {secret} werden eingesetzt</translation>
+    </message>
+    <message>
+        <source>Where the server listens</source>
+        <translation>Wo der Server lauscht</translation>
+    </message>
+    <message>
+        <source>Whether the line is encrypted: asked for after the greeting, from the first byte on, or not at all</source>
+        <translation>Ob die Leitung verschlüsselt ist: nach der Begrüßung verlangt, vom ersten Byte an, oder gar nicht</translation>
+    </message>
+    <message>
+        <source>Whether the whole page is attached</source>
+        <translation>Ob die ganze Seite angehängt wird</translation>
+    </message>
+    <message>
+        <source>Who is told</source>
+        <translation>Wer Bescheid bekommt</translation>
+    </message>
+    <message>
+        <source>Whose mail it is; most servers want the address of your own account here</source>
+        <translation>Von wem die Mail ist; die meisten Server wollen hier die Adresse Ihres eigenen Kontos</translation>
+    </message>
+    <message>
+        <source>alerts</source>
+        <translation>Alarmen</translation>
+    </message>
+    <message>
+        <source>each alert is a message of its own</source>
+        <translation>jeder Alarm ist eine eigene Nachricht</translation>
+    </message>
+    <message>
+        <source>form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>json</source>
+        <translation>json</translation>
+    </message>
+    <message>
+        <source>lines of a name, a colon and a value</source>
+        <translation>Zeilen aus Name, Doppelpunkt und Wert</translation>
+    </message>
+    <message>
+        <source>login</source>
+        <translation>login</translation>
+    </message>
+    <message>
+        <source>no header of its own</source>
+        <translation>keine eigene Kopfzeile</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>one line of text</source>
+        <translation>eine Zeile Text</translation>
+    </message>
+    <message>
+        <source>one mail address or more, parted by commas, as in &quot;me@example.org, team@example.org&quot;</source>
+        <translation>eine Mailadresse oder mehrere, durch Kommas getrennt, wie &quot;ich@example.org, team@example.org&quot;</translation>
+    </message>
+    <message>
+        <source>one mail address</source>
+        <translation>eine Mailadresse</translation>
+    </message>
+    <message>
+        <source>plain</source>
+        <translation>plain</translation>
+    </message>
+    <message>
+        <source>starttls</source>
+        <translation>starttls</translation>
+    </message>
+    <message>
+        <source>starttls: nothing but the greeting is sent before the line is encrypted</source>
+        <translation>starttls: vor der Verschlüsselung wird nichts als die Begrüßung gesendet</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>the best way that the server offers</source>
+        <translation>die beste Art, die der Server anbietet</translation>
+    </message>
+    <message>
+        <source>the difference alone is in the mail</source>
+        <translation>nur der Unterschied steht in der Mail</translation>
+    </message>
+    <message>
+        <source>the first address of who is told</source>
+        <translation>die erste Adresse derer, die Bescheid bekommen</translation>
+    </message>
+    <message>
+        <source>the password is used</source>
+        <translation>das Passwort gilt</translation>
+    </message>
+    <message>
+        <source>there is no log-in</source>
+        <translation>es gibt keine Anmeldung</translation>
+    </message>
+    <message>
+        <source>those of the system</source>
+        <translation>die des Systems</translation>
+    </message>
+    <message>
+        <source>tls</source>
+        <translation>tls</translation>
+    </message>
+    <message>
+        <source>xoauth2</source>
+        <translation>xoauth2</translation>
+    </message>
+    <message>
+        <source>{title}, a line end and {text}</source>
+        <translation>{title}, ein Zeilenende und {text}</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AlarmDetails</name>
@@ -4908,6 +5836,214 @@ und wenn sie wieder da ist</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::ChannelChoice</name>
+    <message>
+        <source>Through</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Testen</translation>
+    </message>
+    <message>
+        <source>Send a test message through these channels</source>
+        <translation>Eine Testnachricht über diese Kanäle senden</translation>
+    </message>
+    <message>
+        <source>Test: send a test message through these channels</source>
+        <translation>Testen: eine Testnachricht über diese Kanäle senden</translation>
+    </message>
+    <message>
+        <source>All that are default for all sites</source>
+        <translation>Alle, die Vorgabe für alle Seiten sind</translation>
+    </message>
+    <message>
+        <source>As in Defaults</source>
+        <translation>Wie in Vorgaben</translation>
+    </message>
+    <message>
+        <source>No channel is set up: see Channels in the settings</source>
+        <translation>Kein Kanal ist eingerichtet: siehe Kanäle in den Einstellungen</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Defaults: %1</source>
+        <translation>Vorgaben: %1</translation>
+    </message>
+    <message>
+        <source>The channels by which the alerts leave: %1</source>
+        <translation>Die Kanäle, über die die Alarme hinausgehen: %1</translation>
+    </message>
+    <message>
+        <source>Testing …</source>
+        <translation>Test läuft …</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>ok: %1</source>
+        <translation>gut: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ChannelForm</name>
+    <message>
+        <source>STARTTLS required</source>
+        <translation>STARTTLS verlangt</translation>
+    </message>
+    <message>
+        <source>TLS</source>
+        <translation>TLS</translation>
+    </message>
+    <message>
+        <source>none: nothing is encrypted</source>
+        <translation>keine: nichts ist verschlüsselt</translation>
+    </message>
+    <message>
+        <source>%1. It has to be set.</source>
+        <translation>%1. Das muss gesetzt sein.</translation>
+    </message>
+    <message>
+        <source>%1. Unset: %2.</source>
+        <translation>%1. Nicht gesetzt: %2.</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>von selbst</translation>
+    </message>
+    <message>
+        <source>each alone</source>
+        <translation>jeder für sich</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>By which name sites and lists call it: one line without commas.</source>
+        <translation>Unter welchem Namen ihn Seiten und Listen nennen: eine Zeile ohne Kommas.</translation>
+    </message>
+    <message>
+        <source>Kept in the desktop&apos;s key ring</source>
+        <translation>Liegt im Schlüsselbund des Desktops</translation>
+    </message>
+    <message>
+        <source>Kept in a file only you can read</source>
+        <translation>Liegt in einer Datei, die nur Sie lesen können</translation>
+    </message>
+    <message>
+        <source>kept, type to replace it</source>
+        <translation>liegt vor, zum Ersetzen tippen</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ChannelList</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Zuletzt</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>ok %1</source>
+        <translation>gut %1</translation>
+    </message>
+    <message>
+        <source>refused %1</source>
+        <translation>abgelehnt %1</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ChannelsPage</name>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Take the chosen channel away; stored with OK</source>
+        <translation>Den gewählten Kanal wegnehmen; gespeichert mit OK</translation>
+    </message>
+    <message>
+        <source>Default for all sites</source>
+        <translation>Vorgabe für alle Seiten</translation>
+    </message>
+    <message>
+        <source>It tells of all sites that name no channels of their own</source>
+        <translation>Er meldet alle Seiten, die keine eigenen Kanäle nennen</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Another way by which alerts leave</source>
+        <translation>Ein weiterer Weg, auf dem Alarme hinausgehen</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Testen</translation>
+    </message>
+    <message>
+        <source>Send a test message with what stands in the fields, stored or not</source>
+        <translation>Eine Testnachricht mit dem senden, was in den Feldern steht, gespeichert oder nicht</translation>
+    </message>
+    <message>
+        <source>Answer to the test</source>
+        <translation>Antwort auf den Test</translation>
+    </message>
+    <message>
+        <source>Mail now goes by: the channels of the kind mail. The original exchange rests.</source>
+        <translation>Mail geht jetzt über: die Kanäle der Art Mail. Der ursprüngliche Versand ruht.</translation>
+    </message>
+    <message>
+        <source>Mail now goes by: the original exchange, port 25. A channel of the kind mail replaces it.</source>
+        <translation>Mail geht jetzt über: den ursprünglichen Versand, Port 25. Ein Kanal der Art Mail ersetzt ihn.</translation>
+    </message>
+    <message>
+        <source>Do You Want To Remove The Channel %1?</source>
+        <translation>Möchten Sie den Kanal %1 entfernen?</translation>
+    </message>
+    <message>
+        <source>Alerts that wait for it are not delivered, and sites that name it tell nothing through it any more.</source>
+        <translation>Alarme, die auf ihn warten, werden nicht zugestellt, und Seiten, die ihn nennen, melden nichts mehr über ihn.</translation>
+    </message>
+    <message>
+        <source>Add a way by which alerts shall reach you: a mail through your provider, a web hook of a service for phones or a chat, a notice on this desktop.</source>
+        <translation>Richten Sie einen Weg ein, auf dem Alarme Sie erreichen: eine Mail über Ihren Anbieter, einen Web-Hook eines Dienstes für Telefone oder eines Chats, eine Meldung auf diesem Desktop.</translation>
+    </message>
+    <message>
+        <source>Enter the password or token first.</source>
+        <translation>Geben Sie zuerst das Passwort oder Token ein.</translation>
+    </message>
+    <message>
+        <source>Testing …</source>
+        <translation>Test läuft …</translation>
+    </message>
+    <message>
+        <source>ok: %1</source>
+        <translation>gut: %1</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::ContentDialog</name>
     <message>
         <source>Content</source>
@@ -5055,6 +6191,49 @@ und wenn sie wieder da ist</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::DeliveryWords</name>
+    <message>
+        <source>does not answer</source>
+        <translation>antwortet nicht</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>is still down</source>
+        <translation>ist weiter ausgefallen</translation>
+    </message>
+    <message>
+        <source>is up again</source>
+        <translation>ist wieder da</translation>
+    </message>
+    <message>
+        <source>is unsteady</source>
+        <translation>ist unruhig</translation>
+    </message>
+    <message>
+        <source>is slow</source>
+        <translation>ist langsam</translation>
+    </message>
+    <message>
+        <source>This machine is online again</source>
+        <translation>Dieser Rechner ist wieder online</translation>
+    </message>
+    <message>
+        <source>A test of Tarnwick</source>
+        <translation>Ein Test von Tarnwick</translation>
+    </message>
+    <message>
+        <source>The daily test alert</source>
+        <translation>Der tägliche Testalarm</translation>
+    </message>
+    <message>
+        <source>All is well</source>
+        <translation>Alles ist gut</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::HoleTableModel</name>
     <message>
         <source>digits</source>
@@ -5128,6 +6307,14 @@ und wenn sie wieder da ist</translation>
         <source>Last seen</source>
         <translation>Zuletzt gesehen</translation>
     </message>
+    <message>
+        <source>%1: proposed. OK stores it, Remove drops it.</source>
+        <translation>%1: vorgeschlagen. OK speichert es, Entfernen verwirft es.</translation>
+    </message>
+    <message>
+        <source>%1, proposed</source>
+        <translation>%1, vorgeschlagen</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::HolesPanel</name>
@@ -5186,6 +6373,34 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>&amp;Rules (%1)…</source>
         <translation>&amp;Regeln (%1)…</translation>
+    </message>
+    <message>
+        <source>Looking at the difference from the latest page …</source>
+        <translation>Der Unterschied zur letzten Seite wird geprüft …</translation>
+    </message>
+    <message>
+        <source>The latest page does not differ.</source>
+        <translation>Die letzte Seite weicht nicht ab.</translation>
+    </message>
+    <message>
+        <source>Line %1 differs, and nothing of it looks like what always changes.</source>
+        <translation>Zeile %1 weicht ab, und nichts davon sieht nach etwas aus, das sich immer ändert.</translation>
+    </message>
+    <message>
+        <source>%1 Line %2 differs as well: it stays watched.</source>
+        <translation>%1 Auch Zeile %2 weicht ab: sie bleibt überwacht.</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2 stays watched.</source>
+        <translation>%1. %2 bleiben überwacht.</translation>
     </message>
 </context>
 <context>
@@ -5424,6 +6639,10 @@ und wenn sie wieder da ist</translation>
         <source>%1 places: %2. %3 of the page stays watched.</source>
         <translation>%1 Stellen: %2. %3 der Seite bleiben überwacht.</translation>
     </message>
+    <message>
+        <source>Looking at what varies …</source>
+        <translation>Es wird geprüft, was sich ändert …</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::Master</name>
@@ -5589,6 +6808,22 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <source>Resume</source>
         <translation>Fortsetzen</translation>
     </message>
+    <message>
+        <source>No alert can be delivered: %1</source>
+        <translation>Kein Alarm kann zugestellt werden: %1</translation>
+    </message>
+    <message>
+        <source>1 alert is waiting: %1</source>
+        <translation>1 Alarm wartet: %1</translation>
+    </message>
+    <message>
+        <source>%1 alerts are waiting: %2</source>
+        <translation>%1 Alarme warten: %2</translation>
+    </message>
+    <message>
+        <source>Outbox…</source>
+        <translation>Postausgang…</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::OptionForm</name>
@@ -5623,6 +6858,164 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>A run</source>
         <translation>Ein Lauf</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::OutboxDialog</name>
+    <message>
+        <source>Alerts</source>
+        <translation>Alarme</translation>
+    </message>
+    <message>
+        <source>The whole answer</source>
+        <translation>Die ganze Antwort</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Postausgang</translation>
+    </message>
+    <message>
+        <source>Nothing is waiting.</source>
+        <translation>Nichts wartet.</translation>
+    </message>
+    <message>
+        <source>Nothing has been sent yet.</source>
+        <translation>Noch nichts wurde gesendet.</translation>
+    </message>
+    <message>
+        <source>Nothing was given up.</source>
+        <translation>Nichts wurde aufgegeben.</translation>
+    </message>
+    <message>
+        <source>Choose an alert to read the whole answer.</source>
+        <translation>Wählen Sie einen Alarm, um die ganze Antwort zu lesen.</translation>
+    </message>
+    <message>
+        <source>&amp;Retry Now</source>
+        <translation>&amp;Jetzt versuchen</translation>
+    </message>
+    <message>
+        <source>Try those that are chosen again at once; all of this page where none is chosen</source>
+        <translation>Die gewählten sofort noch einmal versuchen; alle dieser Seite, wenn keiner gewählt ist</translation>
+    </message>
+    <message>
+        <source>&amp;Drop…</source>
+        <translation>&amp;Verwerfen…</translation>
+    </message>
+    <message>
+        <source>Take those that are chosen out, so that they are not delivered; all of this page where none is chosen</source>
+        <translation>Die gewählten herausnehmen, so dass sie nicht zugestellt werden; alle dieser Seite, wenn keiner gewählt ist</translation>
+    </message>
+    <message>
+        <source>Open C&amp;hannel…</source>
+        <translation>Ka&amp;nal öffnen…</translation>
+    </message>
+    <message>
+        <source>The settings of the channel that the chosen alert goes through</source>
+        <translation>Die Einstellungen des Kanals, über den der gewählte Alarm geht</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy those that are chosen as text, or all</source>
+        <translation>Die gewählten als Text kopieren, oder alle</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Waiting (%1)</source>
+        <translation>Wartet (%1)</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Failed (%1)</source>
+        <translation>Fehlgeschlagen (%1)</translation>
+    </message>
+    <message>
+        <source>This alert will not be delivered:</source>
+        <translation>Dieser Alarm wird nicht zugestellt:</translation>
+    </message>
+    <message>
+        <source>These %1 alerts will not be delivered:</source>
+        <translation>Diese %1 Alarme werden nicht zugestellt:</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Do You Want To Drop It?</source>
+        <translation>Möchten Sie ihn verwerfen?</translation>
+    </message>
+    <message>
+        <source>Do You Want To Drop Them?</source>
+        <translation>Möchten Sie sie verwerfen?</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::OutboxModel</name>
+    <message>
+        <source>%1, through %2</source>
+        <translation>%1, über %2</translation>
+    </message>
+    <message>
+        <source>Site %1: %2, through %3</source>
+        <translation>Seite %1: %2, über %3</translation>
+    </message>
+    <message>
+        <source>Next try</source>
+        <translation>Nächster</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Last try</source>
+        <translation>Letzter</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <translation>Seit</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>Through</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Tries</source>
+        <translation>Versuche</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>Antwort</translation>
+    </message>
+    <message>
+        <source>a channel that is gone</source>
+        <translation>ein Kanal, den es nicht mehr gibt</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>jetzt</translation>
+    </message>
+    <message>
+        <source>soon</source>
+        <translation>gleich</translation>
     </message>
 </context>
 <context>
@@ -5965,6 +7358,10 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>Site %1: %2</source>
         <translation>Seite %1: %2</translation>
+    </message>
+    <message>
+        <source>This Always C&amp;hanges…</source>
+        <translation>Das ändert sich &amp;immer …</translation>
     </message>
 </context>
 <context>

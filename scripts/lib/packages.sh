@@ -5,7 +5,7 @@
 # python3-markdown-it the pages of the help, and qt6-l10n-tools the translations.
 build_packages=(
   g++ cmake ninja-build ccache
-  qt6-base-dev qt6-l10n-tools libgl1-mesa-dev
+  qt6-base-dev qt6-l10n-tools libgl1-mesa-dev qtkeychain-qt6-dev
   libcurl4-openssl-dev libssl-dev zlib1g-dev libbrotli-dev libzstd-dev
   libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev
   libre2-dev libsimdjson-dev libxml2-dev libyaml-cpp-dev libzip-dev mdbtools-dev pkgconf
@@ -17,12 +17,13 @@ build_packages=(
 run_packages=(ca-certificates fonts-dejavu-core xdg-utils pulseaudio-utils)
 
 # The test libraries, the mail server of the tests, the system's certificates and what makes the tests' own, a display
-# to start the program on, a sound server that records what is played, other people's encoders, and what the documentation
-# reads JSON with.
+# to start the program on, a sound server that records what is played, other people's encoders, what the documentation
+# reads JSON with, and a bus of a desktop with a key ring.
 test_packages=(
   libgtest-dev libgmock-dev ca-certificates openssl python3 python3-aiosmtpd
   xvfb openbox xdotool wmctrl fonts-dejavu-core
   pulseaudio pulseaudio-utils sharutils jq
+  dbus-daemon gnome-keyring
 )
 
 # What makes the packages: dependencies and compression; and for the archive what lets a program find the libraries

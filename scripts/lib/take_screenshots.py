@@ -33,6 +33,9 @@ SITES = (
 
 # The first one whose page has changed, by its number.
 CHANGED_SITE = 3
+# What it had in place of what it has now: one of these is no change.
+BEFORE = ((b"<p>Seen at 09:14:05 by visitor 18,377.</p>", b"<p>Seen at 04:10:12 by visitor 18,204.</p>"),
+          (b"All services are running", b"All services were running"))
 # The site that is asked with POST, by its number, and what is posted.
 FORM_SITE = 5
 FORM = (("user", "monitor"), ("action", "sign in"), ("remember", "no"))
@@ -55,9 +58,17 @@ class Pages(http.server.BaseHTTPRequestHandler):
 
 
 def page_of(path: str) -> bytes:
+    seen = ["<p>Seen at 09:14:05 by visitor 18,377.</p>"] if path == SITES[CHANGED_SITE - 1][0] else []
     lines = ["<!DOCTYPE html>", "<html>", "<head><title>A page</title></head>", "<body>",
-             f"<h1>The page {path}</h1>", "<p>All services are running.</p>", "</body>", "</html>", ""]
+             f"<h1>The page {path}</h1>", *seen, "<p>All services are running.</p>", "</body>", "</html>", ""]
     return "\r\n".join(lines).encode()
+
+
+def page_before(path: str) -> bytes:
+    page = page_of(path)
+    for now, before in BEFORE:
+        page = page.replace(now, before)
+    return page
 
 
 def start_server() -> http.server.ThreadingHTTPServer:
@@ -75,7 +86,7 @@ def make_database(file: Path, schema: Path, address: str) -> None:
         connection.executescript(schema.read_text(encoding="utf-8"))
     with connection:
         for number, (path, interval, active, success, failure, changed) in enumerate(SITES, 1):
-            baseline = b"<html><body>What the page was</body></html>" if changed else page_of(path)
+            baseline = page_before(path) if changed else page_of(path)
             connection.execute(
                 "insert into sites (idSite, url, method, active, tInterval, lastChecked, status, success, failure,"
                 " content_compare) values (?, ?, 'GET', ?, ?, '2026-03-31 09:12:44', 1, ?, ?, cast(? as text))",
@@ -138,6 +149,15 @@ def take_change(session: DesktopSession, process: subprocess.Popen, window: str,
     session.press(editor, "Escape")
 
 
+def take_proposals(session: DesktopSession, process: subprocess.Popen, window: str, pictures: Path) -> None:
+    """Asks what of the change may be none, and stores nothing."""
+    press_all(session, window, "ctrl+Home" + " Down" * (CHANGED_SITE - 1) + " ctrl+shift+v")
+    dialog = session.window("Content", process)
+    settle()
+    take(session, dialog, pictures / "holes.png")
+    session.press(dialog, "Escape")
+
+
 def take_dialogs(session: DesktopSession, process: subprocess.Popen, window: str, pictures: Path) -> None:
     """Opens the dialogs of a site as a person with a keyboard does, and takes their pictures."""
     press_all(session, window, "ctrl+Home" + " Down" * (FORM_SITE - 1) + " Return")
@@ -176,7 +196,7 @@ def take_settings(session: DesktopSession, process: subprocess.Popen, window: st
     dialog = session.window("Settings", process)
     settle()
     take(session, dialog, pictures / "settings.png")
-    session.press(dialog, "ctrl+3")
+    session.press(dialog, "ctrl+4")
     settle()
     take(session, dialog, pictures / "pause.png")
     session.press(dialog, "Escape")
@@ -210,6 +230,7 @@ def main() -> int:
             threading.Event().wait(4)  # the countdown and the run clock get going
             take(session, window, pictures / "main-window.png")
             take_change(session, process, window, pictures)
+            take_proposals(session, process, window, pictures)
             take_dialogs(session, process, window, pictures)
             take_settings(session, process, window, pictures, database)
             session.close(window)

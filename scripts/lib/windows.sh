@@ -5,10 +5,11 @@
 # Where the libraries are kept between two runs.
 windows_cache=${TARNWICK_WINDOWS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/tarnwick-windows}
 
-# The compiler, what runs its programs, and the headers and test libraries that are the same on every system.
+# The compiler, what runs its programs, and the headers and test libraries that are the same on every system. The last
+# three make the tables of letters that RE2 has in it.
 windows_core_packages=(
   g++-mingw-w64-x86-64-posix wine64 wine cmake ninja-build ccache
-  dpkg-dev gcc libc6-dev make tcl googletest sqlite3 python3
+  dpkg-dev gcc libc6-dev make tcl googletest sqlite3 python3 python3-six unicode-data perl
 )
 # For the window: Qt's tools of the same version as its sources, and the display that its tests look at.
 windows_packages=(
@@ -88,7 +89,7 @@ keep_notice() {
 # own, its source is fetched once more.
 need_notices() {
   local package
-  for package in sqlite3 curl qt6-base; do
+  for package in sqlite3 re2 libxml2 simdjson curl qt6-base; do
     if [[ ! -e $windows_cache/notices/$package ]]; then
       if [[ -e $windows_cache/src/$package/debian/copyright ]]; then
         keep_notice "$package"
@@ -164,6 +165,49 @@ build_googletest() {
   quietly "$windows_cache/log/googletest.log" cmake --build "$build" --target install -- -j"$jobs"
 }
 
+# make_re2_tables: what Debian leaves out of the source, and makes of its own data.
+make_re2_tables() {
+  local name
+  perl make_perl_groups.pl >perl_groups.cc
+  for name in groups casefold; do
+    /usr/bin/python3 "make_unicode_$name.py" >"unicode_$name.cc"
+  done
+}
+
+# What finds the parts of pages that rules name.
+build_re2() {
+  fetch_source re2
+  local build=$windows_cache/build/re2
+  (cd "$windows_cache/src/re2/re2" && make_re2_tables)
+  quietly "$windows_cache/log/re2.log" cross_configure "$windows_cache/src/re2" "$build" \
+    -DCMAKE_INSTALL_PREFIX="$windows_cache/root" -DRE2_BUILD_TESTING=OFF
+  quietly "$windows_cache/log/re2.log" cmake --build "$build" --target install -- -j"$jobs"
+}
+
+# HTML, XML and XPath from memory: no files that are compressed, no addresses, no schemas.
+build_libxml2() {
+  fetch_source libxml2
+  local build=$windows_cache/build/libxml2 without=() feature
+  for feature in C14N CATALOG DEBUG DOCB FTP HTTP ICONV LEGACY LZMA MODULES PROGRAMS PYTHON SCHEMAS SCHEMATRON TESTS \
+    WRITER XINCLUDE XPTR ZLIB; do
+    without+=("-DLIBXML2_WITH_$feature=OFF")
+  done
+  quietly "$windows_cache/log/libxml2.log" cross_configure "$windows_cache/src/libxml2" "$build" \
+    -DCMAKE_INSTALL_PREFIX="$windows_cache/root" -DBUILD_SHARED_LIBS=OFF "${without[@]}"
+  quietly "$windows_cache/log/libxml2.log" cmake --build "$build" --target install -- -j"$jobs"
+}
+
+# Without the variants of 32 bytes at a time: the compiler does not align the stack to that on Windows.
+build_simdjson() {
+  fetch_source simdjson
+  local source=$windows_cache/src/simdjson/singleheader build=$windows_cache/build/simdjson
+  mkdir -p "$build"
+  quietly "$windows_cache/log/simdjson.log" x86_64-w64-mingw32-g++-posix -c -O2 -std=c++17 -o "$build/simdjson.o" \
+    "$source/simdjson.cpp" -DSIMDJSON_IMPLEMENTATION_HASWELL=0 -DSIMDJSON_IMPLEMENTATION_ICELAKE=0
+  x86_64-w64-mingw32-gcc-ar-posix rcs "$windows_cache/root/lib/libsimdjson.a" "$build/simdjson.o"
+  cp "$source/simdjson.h" "$windows_cache/root/include/"
+}
+
 # The transfer library with the certificates and the cryptography of Windows itself.
 build_curl() {
   fetch_source curl
@@ -215,6 +259,9 @@ build_core_libraries() {
   update_source_lists
   build_version sqlite "$(source_version sqlite3)" build_sqlite
   build_version googletest "$(package_versions googletest)" build_googletest
+  build_version re2 "$(source_version re2)" build_re2
+  build_version libxml2 "$(source_version libxml2)" build_libxml2
+  build_version simdjson "$(source_version simdjson)" build_simdjson
 }
 
 build_libraries() {

@@ -59,7 +59,7 @@ AlertDispatch::AlertDispatch(Database& database, SettingsAndLog& settings, TextF
 
 void AlertDispatch::sendAlerts(std::int16_t idSite) {
   // All of them before the first alert, so that an unreadable settings row does not leave an alert half raised.
-  const bool byMail = settings_.getControl("cEmail").toBool();
+  const bool byMail = settings_.getControl("cEmail").toBool() && !mailIsReplaced_;
   const bool bySound = settings_.getControl("cAudio").toBool();
   const bool byProgram = settings_.getControl("cProgram").toBool();
   settings_.getControl("audio");
@@ -82,7 +82,7 @@ void AlertDispatch::sendAlerts(std::int16_t idSite) {
 }
 
 void AlertDispatch::sendAlerts(std::int16_t idSite, AlertKind kind, const OutageFacts& outage) {
-  const bool byMail = settings_.getControl("cEmail").toBool();
+  const bool byMail = settings_.getControl("cEmail").toBool() && !mailIsReplaced_;
   const bool bySound = settings_.getControl("cAudio").toBool() && makesSound(kind);
   const std::string server = settings_.getControl("smtp").toText();
   const std::string from = settings_.getControl("email").toText();
@@ -108,7 +108,7 @@ void AlertDispatch::sendOfflineNotice(LocalTime since) {
 }
 
 void AlertDispatch::sendOnlineNotice(LocalTime since, LocalTime until) {
-  const bool byMail = settings_.getControl("cEmail").toBool();
+  const bool byMail = settings_.getControl("cEmail").toBool() && !mailIsReplaced_;
   const std::string server = settings_.getControl("smtp").toText();
   const std::string from = settings_.getControl("email").toText();
   const EventTexts& texts = textsOfReturn();

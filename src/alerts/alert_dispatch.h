@@ -58,6 +58,9 @@ class AlertDispatch {
   /// does not want to wait for it.
   void giveUpMail() { mailSocket_.givenUp = true; }
 
+  /// Whether mails leave another way: then none is sent here.
+  void replaceMail(bool replaced) { mailIsReplaced_ = replaced; }
+
   /// What became of the mail of the latest alert; nothing is lost when it was to send none.
   const MailOutcome& mailOutcome() const { return mailOutcome_; }
 
@@ -96,6 +99,7 @@ class AlertDispatch {
   std::int16_t smtpPort_;
   MailOutcome mailOutcome_;
   bool inPass_ = false;
+  bool mailIsReplaced_ = false;
   std::set<std::string> tooSlow_;  // mail servers
 };
 

@@ -2,6 +2,7 @@
 #include "app/headless_platform.h"
 
 #include <iostream>
+#include <QTimer>
 
 #include "base/visible_text.h"
 #include "platform/events/qt_event_loop.h"
@@ -10,8 +11,11 @@
 #include "platform/process/detached_programs.h"
 #include "platform/process/file_run_lock.h"
 #include "platform/process/unwanted_signals.h"
+#include "platform/process/waited_programs.h"
+#include "platform/secrets/kept_secrets.h"
 #include "platform/sound/sound_player.h"
 #include "platform/sqlite/sqlite_connection.h"
+#include "platform/web/curl_mails.h"
 #include "platform/web/curl_transfers.h"
 
 namespace tarnwick {
@@ -38,6 +42,19 @@ class NoOpener final : public DesktopOpener {
   bool openAddress(const std::string&) override { return false; }
 };
 
+/// Calls that from the event loop.
+void postToLoop(std::function<void()> call) { QTimer::singleShot(0, std::move(call)); }
+
+class NoNotifier final : public Notifier {
+ public:
+  void show(const Notice&, std::function<void(std::string)>, std::function<void(std::string)> done) override {
+    if (done) {
+      postToLoop([done = std::move(done)] { done("There is no desktop here that could show a notice."); });
+    }
+  }
+  bool isThere() override { return false; }
+};
+
 }  // namespace
 
 struct HeadlessPlatform::Machine {
@@ -55,6 +72,10 @@ struct HeadlessPlatform::Machine {
   std::unique_ptr<SoundPlayer> sound = makeSoundPlayer(programs);
   NoOpener opener;
   FileRunLocks runLocks;
+  CurlMails mails{transfers};
+  KeptSecrets secrets{files};
+  NoNotifier notifier;
+  WaitedPrograms runner;
 };
 
 HeadlessPlatform::HeadlessPlatform(std::chrono::milliseconds patience) : machine_(std::make_unique<Machine>(patience)) {
@@ -75,7 +96,11 @@ Services HeadlessPlatform::services() {
           .sound = *machine.sound,
           .programs = machine.programs,
           .opener = machine.opener,
-          .runLocks = machine.runLocks};
+          .runLocks = machine.runLocks,
+          .mails = machine.mails,
+          .secrets = machine.secrets,
+          .notifier = machine.notifier,
+          .runner = machine.runner};
 }
 
 }  // namespace tarnwick

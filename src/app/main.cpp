@@ -15,6 +15,7 @@
 #include "program/fault_box.h"
 #include "ui/exchange/import_dialog.h"
 #include "ui/main_window/master.h"
+#include "ui/outbox/outbox_dialog.h"
 #include "ui/settings/control_dialog.h"
 #include "ui/site/one_site_editor.h"
 
@@ -63,9 +64,11 @@ int main(int argc, char** argv) {
     return failed();
   }
   tarnwick::Master window(folder, machine.services());
-  window.setEditors({.site = tarnwick::siteEditorOf(window.program(), window),
-                     .settings = tarnwick::settingsDialogOf(window.program(), window),
-                     .importList = tarnwick::importOf(window.program(), window)});
+  window.setEditors(
+      {.site = tarnwick::siteEditorOf(window.program(), window),
+       .settings = tarnwick::settingsDialogOf(window.program(), window),
+       .importList = tarnwick::importOf(window.program(), window),
+       .outbox = tarnwick::outboxOf(window.program(), window, tarnwick::channelSettingsOf(window.program(), window))});
   if (!window.load()) {
     failed();
     return window.isLoaded() ? EXIT_SUCCESS : EXIT_FAILURE;

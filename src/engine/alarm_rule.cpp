@@ -126,7 +126,7 @@ bool isSlowNews(const SiteStanding& site, const AlarmPolicy& policy) {
 
 AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& outcome, const AlarmPolicy& policy,
                       LocalTime now) {
-  AlarmStep step{std::move(standing), {}, std::nullopt};
+  AlarmStep step{std::move(standing), {}, 0, std::nullopt};
   SiteStanding& site = step.standing;
   takeTime(site, now);
   if (outcome) {
@@ -144,6 +144,7 @@ AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& 
     return step;
   }
   step.alerts = std::exchange(site.owed, {});
+  step.owedBefore = step.alerts.size();
   if (site.unsteady) {
     if (site.told != Told::unsteady) {
       beginOutage(site, Told::unsteady, now);

@@ -24,6 +24,8 @@ struct AlarmStep {
   SiteStanding standing;
   /// To be told now, in this order; also what is still owed.
   std::vector<AlertKind> alerts;
+  /// How many of them, from the first on, were owed before: they are decided no more, only still to be told.
+  std::size_t owedBefore = 0;
   /// The check that may confirm the failure is to be made so long from now.
   std::optional<std::chrono::seconds> repeatAfter;
 };

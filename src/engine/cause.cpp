@@ -5,7 +5,7 @@
 
 #include "base/text.h"
 #include "base/visible_text.h"
-#include "engine/first_difference.h"
+#include "difference/first_difference.h"
 #include "holes/page_text.h"
 #include "page_rules/page_judge.h"
 

@@ -87,6 +87,14 @@ SomeSites DueSites::countOf(const char* condition) {
 
 SomeSites DueSites::activeSites() { return countOf(" where active <> 0"); }
 
+DueSites::Figures DueSites::figures() {
+  return {.active = activeSites().count,
+          .inactive = countOf(" where not active <> 0").count,
+          .up = countOf(" where active <> 0 and lastChecked is not null and status <> 0").count,
+          .down = countOf(" where active <> 0 and lastChecked is not null and status = 0").count,
+          .unchecked = neverChecked().count};
+}
+
 SomeSites DueSites::neverChecked() { return countOf(kWasNeverChecked); }
 
 SomeSites DueSites::overdue(LocalTime since) {

@@ -58,6 +58,15 @@ class DueSites {
   /// The record of a site, columns as above; no row when there is none.
   TextTable asStored(std::int16_t idSite);
 
+  /// How many sites are as they should be.
+  struct Figures {
+    std::int64_t active = 0;
+    std::int64_t inactive = 0;
+    std::int64_t up = 0;  ///< of the active ones, as those that follow
+    std::int64_t down = 0;
+    std::int64_t unchecked = 0;
+  };
+  Figures figures();
   /// All active sites.
   SomeSites activeSites();
   /// The active sites that were never checked.

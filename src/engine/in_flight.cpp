@@ -144,19 +144,4 @@ void InFlight::repeat(std::size_t row, Time from) {
   (isSlow(row) ? slow_ : rest_).push_back(row);
 }
 
-std::string hostOfAddress(std::string_view url) {
-  constexpr std::string_view kBehindScheme = "://";
-  url = trimmed(url);
-  if (const std::size_t scheme = url.find(kBehindScheme); scheme != std::string_view::npos) {
-    url.remove_prefix(scheme + kBehindScheme.size());
-  }
-  url = url.substr(0, url.find_first_of("/?#\\"));
-  if (const std::size_t credentials = url.rfind('@'); credentials != std::string_view::npos) {
-    url.remove_prefix(credentials + 1);
-  }
-  // The colons of an address in brackets belong to it.
-  const std::size_t port = url.find(':', url.starts_with('[') ? std::min(url.find(']'), url.size()) : 0);
-  return lowerCase(std::string(url.substr(0, port)));
-}
-
 }  // namespace tarnwick

@@ -98,7 +98,4 @@ class InFlight {
   Time nothingBefore_{Time::min()};
 };
 
-/// The host of an address, in lower case and without its port: what `perHost` and `spacing` go by.
-std::string hostOfAddress(std::string_view url);
-
 }  // namespace tarnwick

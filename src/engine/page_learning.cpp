@@ -2,15 +2,14 @@
 #include "engine/page_learning.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "base/visible_text.h"
-#include "engine/first_difference.h"
+#include "engine/learning_apart.h"
 #include "engine/page_fetch.h"
 #include "engine/single_control.h"
-#include "holes/judge.h"
-#include "holes/learn.h"
-#include "holes/page_text.h"
+#include "engine/widening.h"
 
 namespace tarnwick {
 namespace {
@@ -19,8 +18,7 @@ constexpr int kFirstError = 400;  // RFC 9110, section 15.5
 constexpr std::chrono::milliseconds kAtOnce{1};
 /// A clock shows another second then.
 constexpr std::chrono::milliseconds kBetweenFetches{1100};
-
-bool touches(const Hole& one, const Hole& other) { return one.begin <= other.end() && other.begin <= one.end(); }
+constexpr std::chrono::milliseconds kBetweenLooks{20};
 
 /// Why nothing can be learnt of what was fetched; empty for a page.
 std::string faultOf(const TransferResult& result, std::string_view page) {
@@ -34,42 +32,6 @@ std::string faultOf(const TransferResult& result, std::string_view page) {
 }
 
 }  // namespace
-
-Learnt learntFrom(const std::vector<std::string>& copies, const std::string& baseline, LocalTime now) {
-  std::vector<std::string> texts;
-  texts.reserve(copies.size());
-  for (const std::string& copy : copies) {
-    texts.push_back(pageText(copy));
-  }
-  Lesson lesson = learn(texts, now);
-  const std::string page = baseline.empty() ? texts.front() : pageText(baseline);
-  PlacedHoles places = placeIn(page, lesson.holes);
-  Learnt learnt{.holes = std::move(places.placed),
-                .lost = std::move(places.lost),
-                .warnings = std::move(lesson.warnings),
-                .firstCopy = copies.front()};
-  setAnchors(learnt.holes, page);
-  learnt.watched = watchedShare(page, learnt.holes);
-  for (const std::string& text : texts) {
-    if (const Judgement judged = judge(page, learnt.holes, text); !judged.same) {
-      learnt.explains = false;
-      learnt.line = lineAt(page, judged.baselineAt).number;
-      break;
-    }
-  }
-  return learnt;
-}
-
-Holes united(const Holes& before, const Holes& learnt) {
-  Holes all = learnt;
-  for (const Hole& hole : before) {
-    if (std::ranges::none_of(learnt, [&](const Hole& other) { return touches(hole, other); })) {
-      all.push_back(hole);
-    }
-  }
-  std::ranges::sort(all, {}, &Hole::begin);
-  return all;
-}
 
 /// A learning that is under way.
 struct PageLearning::Work {
@@ -90,6 +52,7 @@ struct PageLearning::Work {
   std::unique_ptr<Timer> timer;
   std::vector<std::string> copies;
   bool waitsForNext = false;
+  std::unique_ptr<LearningApart> learning;
 };
 
 PageLearning::PageLearning(const Machine& machine) : machine_(machine) {}
@@ -105,6 +68,14 @@ void PageLearning::start(std::int16_t idSite, const std::string& baseline, const
   fetch();
 }
 
+void PageLearning::compare(const std::string& baseline, const RuleSet& set, const std::string& page,
+                           Handlers handlers) {
+  work_ = std::make_unique<Work>(machine_, std::int16_t{0}, baseline, Plan{}, std::move(handlers), [this] { goOn(); });
+  const LocalTime now = machine_.clock.localNow();
+  learnApart([&] { return widenedBy(baseline, set, page, now); },
+             [=] { return roughlyWidenedBy(baseline, set, page); });
+}
+
 void PageLearning::fetch() {
   // While the control tells of its end it cannot be used again, nor be destroyed: the rest follows with the timer.
   work_->control.execute(machine_.fetch.requestOf(work_->idSite), [this] { wait(kAtOnce); });
@@ -115,29 +86,68 @@ void PageLearning::wait(std::chrono::milliseconds time) {
   work_->timer->setEnabled(true);
 }
 
-// Who is told may begin another learning, or end this object's life.
 void PageLearning::goOn() {
   work_->timer->setEnabled(false);
-  if (std::exchange(work_->waitsForNext, false)) {
+  if (work_->learning != nullptr) {
+    look();
+  } else if (std::exchange(work_->waitsForNext, false)) {
     fetch();
-    return;
+  } else {
+    takeCopy();
   }
+}
+
+// Who is told may begin another learning, or end this object's life.
+void PageLearning::takeCopy() {
   SingleControl& control = work_->control;
   if (const std::string fault = faultOf(control.result(), control.sInetContent); !fault.empty()) {
-    const std::unique_ptr<Work> ended = std::move(work_);
-    ended->handlers.failed(fault);
+    end([&](const Handlers& handlers) { handlers.failed(fault); });
     return;
   }
   work_->copies.push_back(std::move(control.sInetContent));
   const auto done = static_cast<int>(work_->copies.size());
   if (done == work_->plan.fetches) {
-    const std::unique_ptr<Work> ended = std::move(work_);
-    ended->handlers.learnt(learntFrom(ended->copies, ended->baseline, machine_.clock.localNow()));
+    learn();
+  } else {
+    work_->waitsForNext = true;
+    wait(std::max(kBetweenFetches, std::chrono::milliseconds(work_->plan.over) / (work_->plan.fetches - 1)));
+  }
+  work_->handlers.progressed(done);
+}
+
+void PageLearning::learn() {
+  const Work& work = *work_;
+  const LocalTime now = machine_.clock.localNow();
+  learnApart([&work, now] { return learntFrom(work.copies, work.baseline, now); },
+             [&work] { return roughlyLearntFrom(work.copies, work.baseline); });
+}
+
+void PageLearning::learnApart(const std::function<Learnt()>& exact, std::function<Learnt()> rough) {
+  work_->learning = std::make_unique<LearningApart>(exact, std::move(rough));
+  wait(kAtOnce);
+}
+
+void PageLearning::look() {
+  if (!work_->learning->take()) {
+    wait(kBetweenLooks);
     return;
   }
-  work_->waitsForNext = true;
-  wait(std::max(kBetweenFetches, std::chrono::milliseconds(work_->plan.over) / (work_->plan.fetches - 1)));
-  work_->handlers.progressed(done);
+  std::optional<Learnt> learnt = work_->learning->result();
+  if (learnt && !work_->copies.empty()) {
+    learnt->firstCopy = std::move(work_->copies.front());
+  }
+  end([&](const Handlers& handlers) {
+    if (learnt) {
+      handlers.learnt(std::move(*learnt));
+    } else {
+      handlers.failed("The pages are too large to learn from.");
+    }
+  });
+}
+
+void PageLearning::end(const std::function<void(const Handlers& handlers)>& tell) {
+  const std::unique_ptr<Work> ended = std::move(work_);
+  tell(ended->handlers);
 }
 
 }  // namespace tarnwick

@@ -2,12 +2,15 @@
 #include "engine/pass_recording.h"
 
 #include <algorithm>
+#include <array>
 #include <new>
 #include <stdexcept>
 #include <utility>
 
 #include "alerts/alert_dispatch.h"
 #include "base/errors.h"
+#include "delivery/delivery.h"
+#include "engine/channel_alerts.h"
 #include "engine/due_sites.h"
 #include "engine/site_alarms.h"
 #include "engine/sites_to_test.h"
@@ -128,6 +131,9 @@ void PassRecording::tell(std::size_t row, const Fetched& fetched, const Stored& 
   const std::int16_t id = sites_.idSite(row);
   debts_.checks.settle(id);
   sites_.setRecorded(row);
+  if (!stored.passed || (stored.alarm && !stored.alarm->alerts.empty())) {
+    needs_.delivery.deliver();
+  }
   if (!stored.passed) {
     // The alerts of a failure wait for the network, so they cannot be part of the transaction. The site is down from
     // here on, whatever becomes of them; and nothing is written before them that could fail and leave them out.
@@ -139,8 +145,7 @@ void PassRecording::tell(std::size_t row, const Fetched& fetched, const Stored& 
     repeat_(row, *stored.alarm->repeatAfter);
   }
   std::erase(brightened_, id);
-  needs_.view.showResult(
-      {id, sites_.url(row), stored.passed, fetched.errCode, fetched.errDescription, fetched.content, stored.remark});
+  needs_.view.showResult(resultOf(row, fetched, stored));
 }
 
 // By its number alone: with an address in it every site would have a fault, and a box, of its own.
@@ -243,9 +248,27 @@ std::optional<PassRecording::Stored> PassRecording::storeResult(std::size_t row,
     stored.alarm =
         debts_.alarms.take(id, {passed, errCode != 0 ? errDescription : kPageDiffers, needs_.pool.siteTook(row)});
   }
+  keepForChannels(row, fetched, stored);
   whole.commit();
   needs_.keptPages.logSizeKept();
   return stored;
+}
+
+// With the result, so that neither is there without the other.
+void PassRecording::keepForChannels(std::size_t row, const Fetched& fetched, const Stored& stored) {
+  static constexpr std::array kDown{AlertKind::down};
+  ChannelAlerts channels(needs_, options_);
+  if (stored.alarm) {
+    channels.keep(resultOf(row, fetched, stored), std::span(stored.alarm->alerts).subspan(stored.alarm->owedBefore),
+                  outageOf(stored.alarm->standing, needs_.clock.localNow()));
+  } else if (!stored.passed) {
+    channels.keep(resultOf(row, fetched, stored), kDown, {.now = needs_.clock.localNow()});
+  }
+}
+
+CheckResult PassRecording::resultOf(std::size_t row, const Fetched& fetched, const Stored& stored) const {
+  return {sites_.idSite(row),     sites_.url(row), stored.passed, fetched.errCode,
+          fetched.errDescription, fetched.content, stored.remark};
 }
 
 // The site stays due, and is recorded once there is room; until then it is told again at its own interval.
@@ -256,6 +279,7 @@ void PassRecording::alertUnrecorded(std::size_t row, const Fetched& fetched) {
   }
   debts_.checks.checkedUnrecorded(id, needs_.clock.steadyNow());
   if (!needs_.results.wouldPass(id, fetched.content, fetched.errCode, firstBaselineOf(row))) {
+    ChannelAlerts(needs_, options_).tellUnkept(resultOf(row, fetched, {.passed = false, .counted = false}));
     needs_.alerts.sendAlerts(id);
     tellLostMail(id, sites_.url(row));
   }

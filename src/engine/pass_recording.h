@@ -114,6 +114,8 @@ class PassRecording {
   KeptPage keptPage() const;
   std::optional<Stored> store(std::size_t row, const Fetched& fetched);
   std::optional<Stored> storeResult(std::size_t row, const Fetched& fetched, KeptPage kept, bool isTooFull);
+  void keepForChannels(std::size_t row, const Fetched& fetched, const Stored& stored);
+  CheckResult resultOf(std::size_t row, const Fetched& fetched, const Stored& stored) const;
   void shortenLog();
   std::optional<std::uint64_t> logLimit() const;
   void alertUnrecorded(std::size_t row, const Fetched& fetched);

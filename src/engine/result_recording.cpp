@@ -19,6 +19,10 @@ constexpr std::string_view kFailedFetch = "11:";
 
 }  // namespace
 
+bool isPage(std::string_view stored) {
+  return !stored.empty() && !stored.starts_with(kFailedFetch) && stored != kPageNotKept;
+}
+
 ResultRecording::Judged ResultRecording::judge(std::int16_t idSite, std::string_view content, std::int32_t errCode,
                                                FirstBaseline first) {
   const auto rows = db_.query("select url,method,content_compare from sites where idSite = " + sqlQuote(idSite));

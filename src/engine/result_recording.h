@@ -35,6 +35,10 @@ enum class KeptPage {
 /// What then stands in the place of the page.
 inline constexpr const char* kPageNotKept = "The page was not kept: there is too little room on the disk.";
 
+/// Whether what is stored as the latest page of a site is a page: not nothing yet, not the text of a fetch that failed,
+/// not one that was not kept. A page that begins as those texts do is taken for one of them.
+bool isPage(std::string_view stored);
+
 /// A counter that stands at its limit. The check itself has been recorded.
 class FullCounter : public OverflowError {
  public:

@@ -11,6 +11,9 @@
 #include "alerts/alert_dispatch.h"
 #include "base/errors.h"
 #include "base/raised_flag.h"
+#include "delivery/delivery.h"
+#include "engine/channel_alerts.h"
+#include "engine/proof_of_life.h"
 #include "engine/result_recording.h"
 #include "engine/test_pass.h"
 #include "platform/prompts.h"
@@ -56,7 +59,8 @@ RunController::RunController(const Needs& needs, TimerMaker& timers, Guard guard
       sites_(needs.dueSites),
       uncounted_(needs.results, needs.dueSites, needs.view),
       alarms_(needs.standings, needs.alerts, needs.clock),
-      network_({needs.transfers, needs.timers, needs.pump, needs.clock}) {}
+      network_({needs.transfers, needs.timers, needs.pump, needs.clock}),
+      life_(std::make_unique<ProofOfLife>(needs_)) {}
 
 RunController::~RunController() { uncounted_.end(); }
 
@@ -142,6 +146,7 @@ void RunController::obey(OptionsInForce options) {
   }
   obeyed_ = options;
   newSitesAtOnce_ = options.newSitesAtOnce();
+  provesLife_ = ProofOfLife::isWanted(options);
   network_.obey(options);
   alarms_.setOptions(std::move(options));
 }
@@ -168,6 +173,15 @@ void RunController::tellWhatTimeHasBrought() {
   TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_});
   pass.tellWhatTimeHasBrought();
 }
+
+// Also while a pass is on, which may take long. A run that cannot record anything is as good as dead.
+void RunController::proveLife() {
+  if (provesLife_ && running_ && !backOff_.isFailing() && !network_.offlineSince()) {
+    life_->tick(*obeyed_);
+  }
+}
+
+const std::string& RunController::heartbeatFault() const { return life_->heartbeatFault(); }
 
 bool RunController::testOnce(TextTable sites) {
   TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_});
@@ -213,6 +227,7 @@ void RunController::guardedTick() {
     guard_("run", [this] { timerPass(); });
   }
   guard_("alarms", [this] { tellWhatTimeHasBrought(); });
+  guard_("life", [this] { proveLife(); });
 }
 
 void RunController::tmrCheckSites_Timer() {
@@ -290,6 +305,10 @@ bool RunController::staysOffline() {
   if (network_.offlineSince()) {
     forgetOffline();
     const TestPass noPassMeanwhile(*this, needs_, busy_, {sites_, uncounted_, alarms_});
+    Transaction whole(needs_.standings.database());
+    ChannelAlerts(needs_, *obeyed_).keepOnline(since);
+    whole.commit();
+    needs_.delivery.deliver();
     needs_.alerts.sendOnlineNotice(since, needs_.clock.localNow());
   }
   return false;

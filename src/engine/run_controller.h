@@ -26,6 +26,8 @@
 namespace tarnwick {
 
 class AlertDispatch;
+class Delivery;
+class ProofOfLife;
 class KeptPages;
 class PageFetch;
 class ResultRecording;
@@ -46,6 +48,7 @@ class RunController {
     PageFetch& pages;
     ResultRecording& results;
     AlertDispatch& alerts;
+    Delivery& delivery;
     InetPool& pool;
     RunView& view;
     const Clock& clock;
@@ -104,6 +107,8 @@ class RunController {
 
   /// Whether this machine has a way to the net.
   OwnNetwork& network() { return network_; }
+  /// Why the latest heartbeat was not taken; empty while it was, or none is wanted.
+  const std::string& heartbeatFault() const;
   /// For the pass that is on: this machine is offline; see `OwnNetwork::setOffline`.
   void goOffline(std::string page, Request request);
   /// Whether the machine may have slept, or been told another time, in the last moments.
@@ -137,6 +142,7 @@ class RunController {
   void guardedTick();
   void readOptions();
   void tellWhatTimeHasBrought();
+  void proveLife();
   bool staysOffline();
   void forgetOffline();
   /// Counts one second down; true when a pass is to begin.
@@ -170,6 +176,8 @@ class RunController {
   // When it was asked last what time has brought.
   std::chrono::minutes alarmsSeen_{};
   OwnNetwork network_;
+  std::unique_ptr<ProofOfLife> life_;
+  bool provesLife_ = false;
   std::optional<std::chrono::milliseconds> wokeAt_;
   bool clockWasSet_ = false;
   // Sites were due in the last pass, and each of them rests.

@@ -7,6 +7,11 @@
 #include "alerts/alert_dispatch.h"
 
 namespace tarnwick {
+
+OutageFacts outageOf(const SiteStanding& standing, LocalTime now) {
+  return {standing.outageSince, standing.outageChecks, standing.outageError, now};
+}
+
 void SiteAlarms::setOptions(OptionsInForce options) {
   options_ = std::move(options);
   policies_.clear();
@@ -66,13 +71,12 @@ void SiteAlarms::settle(std::int16_t idSite) {
 
 bool SiteAlarms::raise(std::int16_t idSite, AlertKind kind) {
   const SiteStanding standing = standings_.standingOf(idSite);
-  alerts_.sendAlerts(idSite, kind,
-                     {standing.outageSince, standing.outageChecks, standing.outageError, clock_.localNow()});
+  alerts_.sendAlerts(idSite, kind, outageOf(standing, clock_.localNow()));
   return !alerts_.mailOutcome().lost || alerts_.mailOutcome().otherWay;
 }
 
-std::map<std::int16_t, std::vector<AlertKind>> SiteAlarms::timeHasGoneBy() {
-  std::map<std::int16_t, std::vector<AlertKind>> alerts;
+std::map<std::int16_t, AlarmStep> SiteAlarms::timeHasGoneBy() {
+  std::map<std::int16_t, AlarmStep> steps;
   for (auto& [id, stored] : standings_.standings()) {
     if (!std::in_range<std::int16_t>(id)) {
       continue;
@@ -88,10 +92,10 @@ std::map<std::int16_t, std::vector<AlertKind>> SiteAlarms::timeHasGoneBy() {
     }
     forgiven_.erase(idSite);
     if (!step.alerts.empty()) {
-      alerts.emplace(idSite, std::move(step.alerts));
+      steps.emplace(idSite, std::move(step));
     }
   }
-  return alerts;
+  return steps;
 }
 
 }  // namespace tarnwick

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "alerts/event_texts.h"
 #include "engine/alarm_rule.h"
 #include "platform/clock.h"
 #include "store/site_options.h"
@@ -16,6 +17,9 @@
 namespace tarnwick {
 
 class AlertDispatch;
+
+/// What is known of the outage of a site that stands so.
+OutageFacts outageOf(const SiteStanding& standing, LocalTime now);
 
 /// Carries out what `decideAlarm` decides: keeps how the sites stand, and tells what there is to be told. A site whose
 /// options of the alarm are not set is none of its business; its failures are told as they originally were. Every
@@ -45,7 +49,7 @@ class SiteAlarms {
   bool raise(std::int16_t idSite, AlertKind kind);
 
   /// The sites of which time has brought something to be told, with it; it is kept as owed. REQUIRES: a transaction.
-  std::map<std::int16_t, std::vector<AlertKind>> timeHasGoneBy();
+  std::map<std::int16_t, AlarmStep> timeHasGoneBy();
   /// Whether it may bring something, without a look at the database: an option of the alarm is set.
   bool watchesTime() const { return watchesTime_; }
 

@@ -6,6 +6,7 @@
 #include "base/errors.h"
 #include "engine/cause.h"
 #include "engine/result_recording.h"
+#include "engine/widening.h"
 #include "store/first_field.h"
 #include "store/site_rules.h"
 #include "store/sql_quote.h"
@@ -15,6 +16,8 @@ namespace {
 
 /// More than this of pages would hold up the window for longer than anybody should wait for a hint.
 constexpr std::int64_t kTooLargeToLook = std::int64_t{48} << 20U;
+/// The same for what else could be said of them.
+constexpr std::size_t kTooLargeToLookTwice = std::size_t{2} << 20U;
 
 // The newest row of the log for what stands in `site`; Null where the day has none. By day, address, result and moment,
 // as the index of the log has them, so that neither a long log nor its pages are read.
@@ -121,7 +124,11 @@ std::string SiteReasons::reasonOf(std::int16_t idSite) {
     result.errDescription =
         "the page differs from the baseline, and was not kept: there is too little room on the disk";
   }
-  return causeOf(result, baseline, SiteRules(db_).rulesOf(idSite));
+  const RuleSet rules = SiteRules(db_).rulesOf(idSite);
+  const std::string cause = causeOf(result, baseline, rules);
+  const bool isSmall = baseline.size() + page.size() <= kTooLargeToLookTwice;
+  const std::string look = isSmall && !baseline.empty() && isPage(page) ? firstLook(baseline, rules, page) : "";
+  return look.empty() ? cause : cause + "; it looks like " + look;
 }
 
 std::set<std::int64_t> SiteReasons::sitesNotFetched(std::int16_t idSite) {

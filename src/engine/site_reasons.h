@@ -16,7 +16,8 @@ class SiteReasons {
  public:
   explicit SiteReasons(Database& database) : db_(database) {}
 
-  /// Why an active site is down, in the words of a check (see `causeOf`); of one that is up only because the text of a
+  /// Why an active site is down, in the words of a check (see `causeOf`), and what the difference looks like (see
+  /// `firstLook`); of one that is up only because the text of a
   /// fetch that fails is its baseline, that it is so. Empty for all others. Reads the pages of a site that is down,
   /// unless they are so large that it would take tenths of a second: to be asked for a site that somebody looks at.
   std::string reasonOf(std::int16_t idSite);

@@ -10,6 +10,9 @@
 
 #include "alerts/alert_dispatch.h"
 #include "base/errors.h"
+#include "base/host_of_address.h"
+#include "delivery/delivery.h"
+#include "engine/channel_alerts.h"
 #include "engine/due_sites.h"
 #include "engine/result_recording.h"
 #include "engine/site_alarms.h"
@@ -56,6 +59,8 @@ TestPass::TestPass(RunController& run, const RunController::Needs& needs, bool& 
     : run_(run), needs_(needs), busy_(busy), debts_(debts) {
   needs_.view.indicators(RunState::start);
   needs_.alerts.beginPass();
+  needs_.alerts.replaceMail(needs_.delivery.replacesMail());
+  needs_.delivery.beginPass();
   busy_ = true;
 }
 
@@ -63,6 +68,7 @@ TestPass::~TestPass() {
   needs_.pool.killAllSockets();
   needs_.pool.tmrInet().setEnabled(false);
   needs_.alerts.endPass();
+  needs_.delivery.endPass();
   busy_ = false;
   for (const std::int16_t id : brightened_) {
     try {
@@ -104,13 +110,20 @@ void TestPass::test(TextTable sites) {
 
 void TestPass::tellWhatTimeHasBrought() {
   Transaction whole(needs_.standings.database());
-  const auto alerts = debts_.alarms.timeHasGoneBy();
+  const auto steps = debts_.alarms.timeHasGoneBy();
+  const OptionsInForce options = needs_.options.optionsInForce();
+  ChannelAlerts channels(needs_, options);
+  for (const auto& [id, step] : steps) {
+    channels.keep(id, needs_.results.getUrl(id), std::span(step.alerts).subspan(step.owedBefore),
+                  outageOf(step.standing, needs_.clock.localNow()));
+  }
   whole.commit();
-  for (const auto& [id, kinds] : alerts) {
+  needs_.delivery.deliver();
+  for (const auto& [id, step] : steps) {
     if (stopped()) {
       return;
     }
-    recording_.raiseAlarms(id, needs_.results.getUrl(id), kinds);
+    recording_.raiseAlarms(id, needs_.results.getUrl(id), step.alerts);
   }
 }
 

@@ -410,4 +410,8 @@ std::vector<Region> differingRegions(std::span<const std::string> copies) {
   return between(common, copies);
 }
 
+std::vector<Region> regionBetweenEnds(std::span<const std::string> copies) {
+  return between(commonEnds(copies), copies);
+}
+
 }  // namespace tarnwick

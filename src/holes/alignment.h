@@ -33,6 +33,9 @@ struct Region {
 
 /// Where copies differ, in their order: between two regions all copies have the same bytes. REQUIRES: at least two.
 std::vector<Region> differingRegions(std::span<const std::string> copies);
+/// One region for all that lies between what all copies begin with and what all end with, or none where they are the
+/// same. Takes time in proportion to their length, whatever they hold.
+std::vector<Region> regionBetweenEnds(std::span<const std::string> copies);
 
 /// Whether the page is no text: it has bytes that no text has.
 bool isBinary(std::string_view page);

@@ -6,8 +6,8 @@
 
 namespace tarnwick {
 
-Copies::Copies(std::span<const std::string> texts) : texts_(texts) {
-  for (Region& region : differingRegions(texts)) {
+Copies::Copies(std::span<const std::string> texts, std::vector<Region> regions) : texts_(texts) {
+  for (Region& region : regions) {
     places_.push_back({std::move(region)});
   }
 }

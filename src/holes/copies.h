@@ -23,7 +23,9 @@ struct Place {
 /// Several copies of a page and where they differ.
 class Copies {
  public:
-  explicit Copies(std::span<const std::string> texts);
+  explicit Copies(std::span<const std::string> texts) : Copies(texts, differingRegions(texts)) {}
+  /// The same where it is known already where they differ.
+  Copies(std::span<const std::string> texts, std::vector<Region> regions);
 
   std::span<const std::string> texts() const { return texts_; }
   std::string_view first() const { return texts_.front(); }

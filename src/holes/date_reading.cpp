@@ -17,7 +17,7 @@ class Reader {
   std::optional<DateRead> read(std::string_view form) {
     for (std::size_t i = 0; i < form.size(); ++i) {
       const bool isField = form[i] == '%' && i + 1 < form.size() && form[i + 1] != '%';
-      if (form[i] == '%') {
+      if (form[i] == '%' && i + 1 < form.size()) {
         ++i;
       }
       if (!(isField ? field(form[i]) : literal(form[i]))) {

@@ -16,6 +16,9 @@ namespace {
 /// More places than that are no places but a page that is always another one.
 constexpr std::size_t kMostPlaces = 2000;
 
+constexpr const char* kTooMuchToTellApart =
+    "So much of the page changes that its places cannot be told apart: all from the first to the last of them is one.";
+
 Hole holeOf(const Copies& copies, const Place& place, bool binary) {
   Hole hole = place.known ? *place.known : classified(copies.values(place.region), binary);
   hole.begin = place.region.from.front();
@@ -98,6 +101,16 @@ Lesson learn(std::span<const std::string> texts, LocalTime now) {
   lesson.holes = explaining(copies);
   setAnchors(lesson.holes, texts.front());
   lesson.warnings = warningsOf(texts, lesson.holes, now);
+  return lesson;
+}
+
+Lesson learnRoughly(std::span<const std::string> texts) {
+  Copies copies(texts, regionBetweenEnds(texts));
+  if (!copies.places().empty()) {
+    makeOne(copies);
+  }
+  Lesson lesson{holesOf(copies), {kTooMuchToTellApart}};
+  setAnchors(lesson.holes, texts.front());
   return lesson;
 }
 

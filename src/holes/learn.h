@@ -25,4 +25,8 @@ struct Lesson {
 /// that have too little in common one hole "anything" is learnt, with a warning.
 Lesson learn(std::span<const std::string> copies, LocalTime now);
 
+/// What is left to be said of copies that it takes too long to learn from: one hole "anything" between what all of them
+/// begin with and what all of them end with, and a warning. Takes time in proportion to their length, and little of it.
+Lesson learnRoughly(std::span<const std::string> copies);
+
 }  // namespace tarnwick

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Selectors as far as rules need them (CSS Selectors Level 3): names, *, #id, .class, attributes with all their
 // comparisons, :first-child, :last-child, :nth-child(n), :not(...), the four ways to combine them, and lists.
+#include <charconv>
+#include <cstdint>
 #include <string>
 
 #include "base/text.h"
@@ -208,13 +210,18 @@ class Selector {
     skipBlanks();
     std::string condition;
     if (which == "nth-child") {
-      const std::string number = name();
-      if (number.find_first_not_of("0123456789") != std::string::npos || number == "0") {
+      const std::string digits = name();
+      const char* const last = digits.data() + digits.size();
+      std::uint32_t number = 0;
+      const auto [end, error] = std::from_chars(digits.data(), last, number);
+      if (error != std::errc() || end != last || number == 0) {
         fail();
       }
-      condition = "count(preceding-sibling::*)=" + std::to_string(std::stoul(number) - 1);
-    } else if (which == "not") {
+      condition = "count(preceding-sibling::*)=" + std::to_string(number - 1);
+    } else if (which == "not" && nested_ < kMostNested) {
+      ++nested_;
       condition = "not(self::" + compound() + ")";
+      --nested_;
     } else {
       fail();
     }
@@ -225,8 +232,12 @@ class Selector {
     return condition;
   }
 
+  /// Reading goes as deep as the selector does.
+  static constexpr int kMostNested = 20;
+
   std::string_view text_;
   std::size_t at_ = 0;
+  int nested_ = 0;
 };
 
 }  // namespace

@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include <simdjson.h>
 
+#include <algorithm>
+#include <cstddef>
+
 #include "page_rules/languages.h"
 
 namespace tarnwick {
 namespace {
+
+/// A value is looked up by going as deep as it lies; deeper ones than these are in no page that people write.
+constexpr std::ptrdiff_t kMostSteps = 1000;
 
 void checkPointer(const std::string& pointer) {
   if (!pointer.empty() && pointer.front() != '/') {
@@ -21,6 +27,9 @@ void checkPointer(const std::string& pointer) {
 
 std::vector<ByteRange> foundByPointer(const std::string& rule, std::string_view page) {
   checkPointer(rule);
+  if (std::ranges::count(rule, '/') > kMostSteps) {
+    return {};
+  }
   const simdjson::padded_string padded(page);
   simdjson::ondemand::parser parser;
   simdjson::ondemand::document document;

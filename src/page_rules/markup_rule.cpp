@@ -23,6 +23,20 @@ struct Free {
 };
 
 void saysNothing(void* /*data*/, xmlErrorPtr /*error*/) {}
+void printsNothing(void* /*context*/, const char* /*format*/, ...) {}
+
+/// The library prints some faults, as of a function that there is not, instead of telling them.
+class Silence {
+ public:
+  Silence() { xmlSetGenericErrorFunc(nullptr, &printsNothing); }
+  ~Silence() { xmlSetGenericErrorFunc(context_, print_); }
+  Silence(const Silence&) = delete;
+  Silence& operator=(const Silence&) = delete;
+
+ private:
+  void* const context_ = xmlGenericErrorContext;
+  const xmlGenericErrorFunc print_ = xmlGenericError;
+};
 
 /// Each byte outside ASCII becomes one letter, in page and rule alike, so that no encoding moves a place.
 std::string asAscii(std::string_view text) {
@@ -36,6 +50,7 @@ std::string asAscii(std::string_view text) {
 }  // namespace
 
 std::vector<ByteRange> foundByXPath(const std::string& rule, std::string_view page) {
+  const Silence silence;
   const std::unique_ptr<xmlXPathContext, Free> context(xmlXPathNewContext(nullptr));
   if (!context) {
     throw std::bad_alloc();

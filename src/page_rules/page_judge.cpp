@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "page_rules/page_judge.h"
 
+#include <optional>
 #include <stdexcept>
+#include <utility>
 
 #include "base/visible_text.h"
 #include "holes/judge.h"
@@ -59,6 +61,24 @@ PageVerdict judgeByRules(const std::string& before, const std::string& now, cons
   }
 }
 
+/// The page with the baseline's parts between what is kept of it; nothing when as many parts are not kept of both.
+std::optional<std::string> withPartsOf(const CutPage& cutBefore, std::string_view before, const CutPage& cutNow,
+                                       std::string_view now) {
+  if (cutBefore.kept.size() != cutNow.kept.size()) {
+    return std::nullopt;
+  }
+  std::string text;
+  std::size_t at = 0;
+  for (std::size_t i = 0; i < cutNow.kept.size(); ++i) {
+    const ByteRange& kept = cutNow.kept[i];
+    text += before.substr(at, cutBefore.kept[i].begin - at);
+    text += now.substr(kept.begin, kept.end - kept.begin);
+    at = cutBefore.kept[i].end;
+  }
+  text += before.substr(at);
+  return text;
+}
+
 }  // namespace
 
 PlacedHoles holesOf(std::string_view baseline, const Holes& holes) {
@@ -90,11 +110,34 @@ std::string withoutVariation(std::string_view baseline, const Holes& holes, std:
   return text;
 }
 
+ShownPages shownDifference(const std::string& baseline, const std::string& page, const RuleSet& set) {
+  const Holes holes = holesOf(baseline, set.holes).placed;
+  ShownPages shown{baseline, page};
+  Holes left = holes;
+  try {
+    if (!set.rules.empty()) {
+      CutPage cutBefore = cut(baseline, set.rules);
+      CutPage cutNow = cut(page, set.rules);
+      if (auto whole = withPartsOf(cutBefore, baseline, cutNow, page)) {
+        shown.now = std::move(*whole);
+      } else {
+        left = holesLeft(cutBefore, holes);
+        shown = {std::move(cutBefore.text), std::move(cutNow.text)};
+      }
+    }
+  } catch (const std::runtime_error&) {
+    // As it is judged.
+  }
+  shown.now = withoutVariation(shown.before, left, shown.now);
+  return shown;
+}
+
 PageVerdict judgePage(std::string_view baseline, std::string_view page, const RuleSet& set) {
   const std::string before = pageText(baseline);
   const std::string now = pageText(page);
   const PlacedHoles holes = holesOf(before, set.holes);
   PageVerdict verdict = judgeByRules(before, now, set.rules, holes.placed);
+  verdict.same = verdict.same || before == now;
   const std::string lost = remarkOn(holes.lost);
   verdict.remark += (verdict.remark.empty() || lost.empty() ? "" : " ") + lost;
   return verdict;

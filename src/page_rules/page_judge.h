@@ -29,6 +29,16 @@ PlacedHoles holesOf(std::string_view baseline, const Holes& holes);
 /// `pageText` gives them, the holes as they lie in the baseline.
 std::string withoutVariation(std::string_view baseline, const Holes& holes, std::string_view page);
 
+/// A baseline and a page as they differ by a rule set, for people who read the difference.
+struct ShownPages {
+  std::string before;
+  std::string now;
+};
+/// The page has what the baseline has where rules leave something out and where it may vary. Where so much of it comes
+/// or goes that this cannot be told, both are without what is left out. Both as `pageText` gives them; a rule that
+/// cannot be understood leaves nothing out.
+ShownPages shownDifference(const std::string& baseline, const std::string& page, const RuleSet& set);
+
 /// Judges a page as it was fetched. Without rules it is compared byte for byte; a page that equals its baseline is the
 /// same whatever the rules say. A rule that cannot be understood leaves nothing out.
 PageVerdict judgePage(std::string_view baseline, std::string_view page, const RuleSet& set);

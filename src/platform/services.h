@@ -5,8 +5,11 @@
 #include "platform/desktop.h"
 #include "platform/event_pump.h"
 #include "platform/file_system.h"
+#include "platform/mail_transfer.h"
+#include "platform/notifier.h"
 #include "platform/prompts.h"
 #include "platform/run_lock.h"
+#include "platform/secret_store.h"
 #include "platform/sql_connection.h"
 #include "platform/tcp_socket.h"
 #include "platform/timer.h"
@@ -30,6 +33,10 @@ struct Services {
   ProgramStarter& programs;
   DesktopOpener& opener;
   RunLockMaker& runLocks;
+  MailTransferMaker& mails;
+  SecretStoreMaker& secrets;
+  Notifier& notifier;
+  ProgramRunner& runner;
 
   /// What takes the place of a part; null leaves the part as it is.
   struct Exchanged {
@@ -41,6 +48,10 @@ struct Services {
     SoundPlayer* sound = nullptr;
     ProgramStarter* programs = nullptr;
     DesktopOpener* opener = nullptr;
+    MailTransferMaker* mails = nullptr;
+    SecretStoreMaker* secrets = nullptr;
+    Notifier* notifier = nullptr;
+    ProgramRunner* runner = nullptr;
   };
   /// The same machine with some parts exchanged: `services.with({.prompts = &others})`.
   Services with(const Exchanged& other) const {
@@ -55,7 +66,11 @@ struct Services {
             .sound = other.sound != nullptr ? *other.sound : sound,
             .programs = other.programs != nullptr ? *other.programs : programs,
             .opener = other.opener != nullptr ? *other.opener : opener,
-            .runLocks = runLocks};
+            .runLocks = runLocks,
+            .mails = other.mails != nullptr ? *other.mails : mails,
+            .secrets = other.secrets != nullptr ? *other.secrets : secrets,
+            .notifier = other.notifier != nullptr ? *other.notifier : notifier,
+            .runner = other.runner != nullptr ? *other.runner : runner};
   }
 };
 

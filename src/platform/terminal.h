@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -32,5 +33,19 @@ void prepareStandardStreams();
 inline constexpr std::size_t kUsualTerminalWidth = 80;
 /// How many characters a line of the terminal holds now.
 std::size_t terminalWidth();
+
+/// Keeps what is typed on standard input from being shown, for this object's life; a signal that ends the process ends
+/// that, too. Does nothing where standard input is no terminal. One at a time.
+class HiddenTyping {
+ public:
+  HiddenTyping();
+  ~HiddenTyping();
+  HiddenTyping(const HiddenTyping&) = delete;
+  HiddenTyping& operator=(const HiddenTyping&) = delete;
+
+ private:
+  struct Before;
+  std::unique_ptr<Before> before_;
+};
 
 }  // namespace tarnwick

@@ -69,12 +69,16 @@ struct Request {
   std::chrono::seconds timeout{kDefaultRequestTimeout};
   /// "GET", "POST", or any other method text; empty means "GET".
   std::string method{};
-  /// Sent with "POST" only.
+  /// Sent with "POST" only, unless `sendsBodyAlways`.
   std::string body{};
   /// Further header lines, separated by CR LF; empty for none.
   std::string headers{};
   /// The IP address of a server that has failed: another one that the host has, too, is tried first.
   std::string otherThan{};
+  /// The body is sent with whatever method but "GET" and "HEAD", with which no server expects one.
+  bool sendsBodyAlways = false;
+  /// Else the answer that leads elsewhere is the page, and nothing of the request goes to another place.
+  bool followsRedirects = true;
 };
 
 /// What a request came to: a page, or a fault and its cause.

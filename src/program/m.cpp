@@ -11,6 +11,8 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       SiteOptions(ownedDatabase_, fields.options),
       SiteStandings(ownedDatabase_),
       SiteRules(ownedDatabase_),
+      Channels(ownedDatabase_),
+      Outbox(ownedDatabase_),
       ResultLog(ownedDatabase_),
       KeptPages(ownedDatabase_, services.files),
       RoomReserve(ownedDatabase_, services.files),
@@ -22,7 +24,8 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       AlertDispatch(ownedDatabase_, *this, *this, ownedMail_, services),
       DailyReport(ownedDatabase_, services.files, services.clock),
       Compaction(ownedDatabase_, services.databases, services.files, services.prompts),
-      fields_(fields) {
+      fields_(fields),
+      delivery_(ownedDatabase_, *this, *this, services) {
   removeRemains();
   keepReserve();
 }

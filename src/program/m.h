@@ -5,6 +5,7 @@
 #include <string>
 
 #include "alerts/alert_dispatch.h"
+#include "delivery/delivery.h"
 #include "engine/due_sites.h"
 #include "engine/page_fetch.h"
 #include "engine/result_recording.h"
@@ -13,9 +14,11 @@
 #include "mail/mail_socket.h"
 #include "platform/services.h"
 #include "report/daily_report.h"
+#include "store/channels.h"
 #include "store/compaction.h"
 #include "store/database.h"
 #include "store/kept_pages.h"
+#include "store/outbox.h"
 #include "store/post_vars.h"
 #include "store/result_log.h"
 #include "store/room_reserve.h"
@@ -57,6 +60,8 @@ class m : private MembersOfM,
           public SiteOptions,
           public SiteStandings,
           public SiteRules,
+          public Channels,
+          public Outbox,
           public ResultLog,
           public KeptPages,
           public RoomReserve,
@@ -82,6 +87,8 @@ class m : private MembersOfM,
   SingleControl& single() { return ownedControl_; }
   /// The socket of the alert mails.
   MailSocket& mail() { return ownedMail_; }
+  /// What has the alerts of the outbox leave.
+  Delivery& delivery() { return delivery_; }
 
   /// What frees room, as the groups do it, also on a full disk.
   void clearLog();
@@ -95,6 +102,7 @@ class m : private MembersOfM,
   using SettingsAndLog::addLog;
 
   const Fields& fields_;
+  Delivery delivery_;
 };
 
 }  // namespace tarnwick

@@ -16,6 +16,7 @@ struct Program::Parts {
              .pages = data,
              .results = data,
              .alerts = data,
+             .delivery = data.delivery(),
              .pool = pool,
              .view = view,
              .clock = services.clock,
@@ -66,6 +67,7 @@ void Program::start() {
   data().reIdpostVars();
   run().prepare();
   report().prepare();
+  data().delivery().deliver();
   view_.showStatus("Ready ...");
 }
 
@@ -95,6 +97,7 @@ void Program::close() {
   if (!parts_->run.busy()) {
     parts_->pool.killAllSockets();
   }
+  parts_->data.delivery().stop();
   parts_->data.single().sInet().cancel();
   parts_->data.mail().winsock1().close();
 }

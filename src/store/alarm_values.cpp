@@ -6,6 +6,7 @@
 #include <charconv>
 #include <map>
 
+#include "base/one_line.h"
 #include "base/text.h"
 
 namespace tarnwick {
@@ -387,6 +388,55 @@ std::optional<std::vector<std::string>> readHosts(std::string_view text) {
     hosts.emplace_back(part);
   }
   return hosts;
+}
+
+std::optional<seconds> readTimeOfDay(std::string_view text) {
+  text = trimmed(text);
+  const auto hour = takeNumber(text, 0, static_cast<int>(kHours) - 1);
+  if (!hour || text.empty()) {
+    return hour ? std::optional(seconds(std::chrono::hours(*hour))) : std::nullopt;
+  }
+  if (!text.starts_with(':')) {
+    return std::nullopt;
+  }
+  text.remove_prefix(1);
+  const bool hasTwoDigits = text.size() == 2;
+  const auto minute = takeNumber(text, 0, 59);
+  return minute && hasTwoDigits && text.empty() ? std::optional(seconds(std::chrono::hours(*hour) + minutes(*minute)))
+                                                : std::nullopt;
+}
+
+std::string timeOfDayText(seconds time) {
+  const std::string minute = std::to_string(time / minutes(1) % 60);
+  return std::to_string(time / std::chrono::hours(1)) + (minute.size() == 1 ? ":0" : ":") + minute;
+}
+
+std::optional<std::string> readWebAddress(std::string_view text) {
+  text = trimmed(text);
+  const std::string start = lowerCase(std::string(text.substr(0, 8)));
+  return (start.starts_with("http://") || start.starts_with("https://")) && !hasLineEnd(text)
+             ? std::optional(std::string(text))
+             : std::nullopt;
+}
+
+std::string webAddressText(const std::string& address) { return address; }
+
+std::optional<std::vector<std::string>> readNames(std::string_view text) {
+  std::vector<std::string> names;
+  if (isNone(text)) {
+    return names;
+  }
+  for (const std::string_view part : parts(text, ',')) {
+    if (part.empty() || hasLineEnd(part)) {
+      return std::nullopt;
+    }
+    names.emplace_back(part);
+  }
+  return names;
+}
+
+std::string namesText(const std::vector<std::string>& names) {
+  return names.empty() ? std::string(kNone) : joined(names, ", ");
 }
 
 std::string hostsText(const std::vector<std::string>& hosts) {

@@ -70,4 +70,16 @@ bool isPaused(const Pause& pause, LocalTime now);
 std::optional<std::vector<std::string>> readHosts(std::string_view text);
 std::string hostsText(const std::vector<std::string>& hosts);
 
+/// A time of the day, "8", "8:05" or "20:30", as the span since midnight.
+std::optional<std::chrono::seconds> readTimeOfDay(std::string_view text);
+std::string timeOfDayText(std::chrono::seconds time);
+
+/// One line that begins with http:// or https://.
+std::optional<std::string> readWebAddress(std::string_view text);
+std::string webAddressText(const std::string& address);
+
+/// Names parted by commas; "none" for no name.
+std::optional<std::vector<std::string>> readNames(std::string_view text);
+std::string namesText(const std::vector<std::string>& names);
+
 }  // namespace tarnwick

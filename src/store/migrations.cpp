@@ -37,9 +37,26 @@ bool addRules(SqlConnection& connection, const std::string&) {
   return true;
 }
 
+bool addChannels(SqlConnection& connection, const std::string&) {
+  connection.execute(
+      "create table if not exists channels (idChannel INTEGER NOT NULL, name TEXT NOT NULL, value TEXT NOT NULL, "
+      "primary key (idChannel, name)) without rowid",
+      {});
+  connection.execute(
+      "create table if not exists outbox (idAlert INTEGER PRIMARY KEY, idChannel INTEGER NOT NULL, idSite INTEGER NOT "
+      "NULL, pass TEXT NOT NULL, made TEXT NOT NULL, event TEXT NOT NULL, url TEXT NOT NULL, cause TEXT NOT NULL, "
+      "downSince TEXT NOT NULL, downFor TEXT NOT NULL, checks TEXT NOT NULL, firstError TEXT NOT NULL, difference TEXT "
+      "NOT NULL, page BLOB, state TEXT NOT NULL, tries INTEGER NOT NULL, nextTry TEXT NOT NULL, lastTry TEXT NOT NULL, "
+      "deadline TEXT NOT NULL, answer TEXT NOT NULL)",
+      {});
+  connection.execute("create index if not exists outboxByState on outbox (state, idChannel, idAlert)", {});
+  return true;
+}
+
 /// What leads from each form to the next; the first makes form 1 of form 0. A step that has been in a release never
 /// changes: lists that have gone through it are in people's hands.
-constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense, &addSiteState, &addRules};
+constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense, &addSiteState, &addRules,
+                                                    &addChannels};
 
 void refuseNewer(std::int64_t form, const std::string& path) {
   if (form > kFormOfTables) {

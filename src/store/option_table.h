@@ -66,6 +66,10 @@ inline constexpr std::string_view maintenance = "maintenance";
 inline constexpr std::string_view pause = "pause";
 inline constexpr std::string_view ownNetwork = "ownNetwork";
 inline constexpr std::string_view witnesses = "witnesses";
+inline constexpr std::string_view channels = "channels";
+inline constexpr std::string_view allIsWell = "allIsWell";
+inline constexpr std::string_view testAlert = "testAlert";
+inline constexpr std::string_view heartbeat = "heartbeat";
 }  // namespace option_name
 
 /// Values that it asks for.

@@ -8,17 +8,14 @@
 
 #include "base/text.h"
 #include "store/migrations.h"
+#include "store/table_there.h"
 
 namespace tarnwick {
 namespace {
 
 using Parameters = std::span<const SqlValue>;
 
-bool hasTable(Database& database) {
-  const auto found = database.conn().execute(
-      "select 1 from sqlite_master where type = 'table' and name = 'siteOptions'", Parameters());
-  return !found->eof();
-}
+bool hasTable(Database& database) { return hasTable(database, "siteOptions"); }
 
 void change(Database& database, std::string_view sql, Parameters parameters) {
   database.optionsChange();

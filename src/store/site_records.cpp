@@ -8,6 +8,7 @@
 #include "base/errors.h"
 #include "base/text.h"
 #include "store/first_field.h"
+#include "store/outbox.h"
 #include "store/site_options.h"
 #include "store/site_rules.h"
 #include "store/site_standing.h"
@@ -41,6 +42,7 @@ void removeWhatGoesWith(Database& database, std::int64_t idSite) {
   removeOptionsOf(database, idSite);
   SiteStandings(database).removeStanding(idSite);
   SiteRules(database).removeRules(idSite);
+  Outbox(database).removeAlertsOf(idSite);
 }
 
 }  // namespace

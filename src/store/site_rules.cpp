@@ -7,6 +7,7 @@
 #include <string>
 
 #include "store/migrations.h"
+#include "store/table_there.h"
 
 namespace tarnwick {
 namespace {
@@ -15,12 +16,7 @@ constexpr const char* kInsert = "insert into rules (idSite, ord, kind, rule) val
 
 }  // namespace
 
-bool SiteRules::hasTable() {
-  return !db_.conn()
-              .execute("select 1 from sqlite_master where type = 'table' and name = 'rules'",
-                       std::span<const SqlValue>())
-              ->eof();
-}
+bool SiteRules::hasTable() { return tarnwick::hasTable(db_, "rules"); }
 
 RuleSet SiteRules::rulesOf(std::int16_t idSite) {
   RuleSet set;

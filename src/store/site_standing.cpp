@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "store/migrations.h"
+#include "store/table_there.h"
 
 namespace tarnwick {
 namespace {
@@ -76,11 +77,7 @@ SiteStanding standingIn(const Recordset& rows) {
   return site;
 }
 
-bool hasTable(Database& database) {
-  return !database.conn()
-              .execute("select 1 from sqlite_master where type = 'table' and name = 'siteState'", Parameters())
-              ->eof();
-}
+bool hasTable(Database& database) { return hasTable(database, "siteState"); }
 
 }  // namespace
 

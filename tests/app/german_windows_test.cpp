@@ -15,7 +15,9 @@
 
 #include "app/translations.h"
 #include "app/users_language.h"
+#include "store/channel_table.h"
 #include "ui/controls/quiet_hours_form.h"
+#include "ui/outbox/outbox_dialog.h"
 #include "ui/settings/control_dialog.h"
 #include "ui/support/dialog_fixture.h"
 
@@ -107,6 +109,26 @@ TEST_F(GermanWindowsTest, TheSettingsHaveRoomForTheirTexts) {
   master->setEditors({.site = {}, .settings = settingsDialogOf(master->program(), *master)});
   click("btnSetup");
   expectWhole(opened<ControlDialog>());
+}
+
+TEST_F(GermanWindowsTest, TheOutboxAndEveryKindOfChannelHaveRoomForTheirTexts) {
+  open();
+  master->setEditors({.site = {},
+                      .settings = settingsDialogOf(master->program(), *master),
+                      .outbox = outboxOf(master->program(), *master, {})});
+  find<QAction>("outbox").trigger();
+  expectWhole(opened<OutboxDialog>());
+  opened<OutboxDialog>().reject();
+  click("btnSetup");
+  auto& dialog = opened<ControlDialog>();
+  dialog.resize(dialog.size().expandedTo(dialog.sizeHint()));
+  dialog.findChild<QTabWidget*>()->setCurrentIndex(2);
+  for (const ChannelKind& kind : channelKinds()) {
+    SCOPED_TRACE(kind.name);
+    dialog.findChild<QAction*>(QStringLiteral("channelAdd_") + QString::fromStdString(kind.name))->trigger();
+    QCoreApplication::processEvents();
+    expectRoomInAll(dialog);
+  }
 }
 
 TEST_F(GermanWindowsTest, TheFormsOfASiteHaveRoomForTheirTexts) {

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "base/host_of_address.h"
+
 namespace tarnwick::testing {
 namespace {
 

@@ -51,6 +51,13 @@ TEST_F(SiteReasonsTest, AChangedPageIsToldAsACheckTellsIt) {
   EXPECT_EQ(reasons.reasonOf(1), R"(line 2: expected "two", found "TWO")");
 }
 
+TEST_F(SiteReasonsTest, WhatLooksLikeNoChangeIsSaidToDoSo) {
+  check(1, "It is 18:40:11 now.\n");
+  check(1, "It is 19:02:45 now.\n");
+  EXPECT_EQ(reasons.reasonOf(1),
+            R"(line 1: expected "It is 18:40:11 now.", found "It is 19:02:45 now."; it looks like a time)");
+}
+
 TEST_F(SiteReasonsTest, AFailedFetchIsToldByTheLog) {
   check(1, "page");
   checkFails(1);
@@ -64,7 +71,8 @@ TEST_F(SiteReasonsTest, APageThatBeginsLikeAFailureIsNone) {
   check(1, "11:05");
   EXPECT_THAT(reasons.sitesNotFetched(), IsEmpty());
   check(1, "11:06");
-  EXPECT_EQ(reasons.reasonOf(1), R"(line 1: expected "11:05", found "11:06")");
+  EXPECT_EQ(reasons.reasonOf(1), R"(line 1: expected "11:05", found "11:06")")
+      << "it is taken for the text of a fetch that failed";
 }
 
 TEST_F(SiteReasonsTest, AnInactiveSiteHasNone) {

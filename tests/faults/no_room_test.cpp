@@ -107,10 +107,10 @@ TEST_F(NoRoom, TheLogCanBeClearedOnAFullDisk) {
   const int before = pages();
   TestServices machine;
   FilledFiles files;
-  files.room = DiskRoom{120 * kKib, 64 * 1024 * kKib};
+  files.room = DiskRoom{160 * kKib, 64 * 1024 * kKib};
   {
     m data(used.folder.path(), machine.services().with({.files = &files}));
-    disk.leaveRoom(120 * kKib);
+    disk.leaveRoom(160 * kKib);
     data.clearLog();
   }
   disk.heal();

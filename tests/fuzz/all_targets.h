@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "fuzz/core_targets.h"
+#include "fuzz/entries/delivery_entries.h"
 #include "fuzz/entries/page_entries.h"
 #include "fuzz/entries/site_list_entries.h"
 #include "fuzz/entries/text_entries.h"
@@ -16,6 +17,7 @@ namespace tarnwick::testing {
 inline std::vector<FuzzTarget> furtherFuzzTargets() {
   std::vector<FuzzTarget> targets;
   const auto add = [&targets](const auto& some) { std::copy(some.begin(), some.end(), std::back_inserter(targets)); };
+  add(kHookJsonFuzzTargets);
   add(kPageFuzzTargets);
   add(kSiteListFuzzTargets);
   add(kTextFuzzTargets);

@@ -6,8 +6,10 @@
 #include <vector>
 
 #include "fuzz/entries/command_entries.h"
+#include "fuzz/entries/delivery_entries.h"
 #include "fuzz/entries/hole_entries.h"
 #include "fuzz/entries/mail_entries.h"
+#include "fuzz/entries/rule_entries.h"
 #include "fuzz/entries/sql_entries.h"
 #include "fuzz/entries/uu_entries.h"
 
@@ -18,8 +20,10 @@ inline std::vector<FuzzTarget> coreFuzzTargets() {
   std::vector<FuzzTarget> targets;
   const auto add = [&targets](const auto& some) { std::copy(some.begin(), some.end(), std::back_inserter(targets)); };
   add(kCommandFuzzTargets);
+  add(kDeliveryFuzzTargets);
   add(kHoleFuzzTargets);
   add(kMailFuzzTargets);
+  add(kRuleFuzzTargets);
   add(kSqlFuzzTargets);
   add(kUuFuzzTargets);
   return targets;

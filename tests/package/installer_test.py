@@ -10,6 +10,7 @@ Exit status 0: passed, 1: failed, 77: the machine lacks something for it.
 
 from __future__ import annotations
 
+import json
 import os
 import shutil
 import subprocess
@@ -99,8 +100,13 @@ def try_archive(windows: Windows, folder: Path, url: str) -> None:
     unpack = ["unzip", "-qo", str(archive), "-d", str(place)]
     subprocess.run(unpack, check=True)
     expect(not (place / "tarnwick/tarnwick.mdb").exists(), "the archive brings a list")
-    for name in ("LICENSE.txt", "README.txt", "tarnwick.spdx.json", "licenses/qt6-base.txt", "licenses/curl.txt"):
+    licences = [f"licenses/{name}.txt" for name in ("qt6-base", "curl", "sqlite3", "re2", "libxml2", "simdjson")]
+    for name in ("LICENSE.txt", "README.txt", "tarnwick.spdx.json", *licences):
         expect((place / "tarnwick" / name).is_file(), f"the archive has no {name}")
+    parts = json.loads((place / "tarnwick/tarnwick.spdx.json").read_text(encoding="utf-8"))["packages"]
+    expect({"qt", "curl", "sqlite", "re2", "libxml2", "simdjson"} <= {part["name"] for part in parts}, f"it lists {parts}")
+    unknown = [part["name"] for part in parts if part["licenseDeclared"] == "NOASSERTION"]
+    expect(not unknown, f"the list names no licence of {unknown}")
     tool = place / "tarnwick/tarnwickctl.exe"
     wanted = watches(windows, tool, url)
     expect((place / "tarnwick/tarnwick.mdb").exists(), "the list does not lie in the folder")

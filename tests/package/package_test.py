@@ -37,8 +37,9 @@ GUIDE = [*(DOCS / "guide").glob("*.md"), *(DOCS / name for name in ("tarnwickctl
 HELP_FILES = {"help/style.css", *(f"help/{text.stem}.html" for text in GUIDE),
               *(f"help/images/{name}" for text in GUIDE
                 for name in re.findall(r"!\[.*?\]\(\S*images/(.+?)\)", text.read_text(encoding="utf-8")))}
+PRESETS = {f"channels/{file.name}" for file in (DOCS.parent / "assets/channels").glob("*.txt")}
 PROGRAM_FILES = {"help.html", "images/logosmall.bmp", "images/tarnwick.png", "reports/green.jpg", "reports/red.jpg",
-                 *PICTURES, *HELP_FILES}
+                 *PICTURES, *PRESETS, *HELP_FILES}
 USER_FILES = {"tarnwick.mdb", "email.txt", "recovered.txt"}
 ICON_SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
 
@@ -312,7 +313,7 @@ def debian_packages_lie_in_the_systems_places(case: Case) -> None:
     bars = {"reports/green.jpg", "reports/red.jpg"}
     cli = documentation("tarnwick-cli", "tarnwickctl") | {
         f"lib/tarnwick/{name}" for name in ("shared-installation.txt", "fresh/tarnwick.mdb", "fresh/email.txt",
-                                     "fresh/recovered.txt", *bars)} | {
+                                     "fresh/recovered.txt", *bars, *PRESETS)} | {
         "lib/systemd/system/tarnwick.service", "lib/sysusers.d/tarnwick.conf",
         "share/bash-completion/completions/tarnwickctl", "share/fish/vendor_completions.d/tarnwickctl.fish"}
     zsh = {"share/zsh/vendor-completions/_tarnwickctl", "share/zsh/site-functions/_tarnwickctl"}
@@ -321,7 +322,7 @@ def debian_packages_lie_in_the_systems_places(case: Case) -> None:
     found = without_translations(found)
     expect(len(found & zsh) == 1 and found - zsh == cli, f"tarnwick-cli differs: {(found - zsh) ^ cli}")
     usr = case.system()
-    window = documentation("tarnwick", "tarnwick") | {f"lib/tarnwick/{name}" for name in PROGRAM_FILES - bars} | {
+    window = documentation("tarnwick", "tarnwick") | {f"lib/tarnwick/{name}" for name in PROGRAM_FILES - bars - PRESETS} | {
         "share/applications/tarnwick.desktop", "share/metainfo/example.tarnwick.tarnwick.metainfo.xml",
         "share/icons/hicolor/scalable/apps/tarnwick.svg",
         *(f"share/icons/hicolor/{size}x{size}/apps/tarnwick.png" for size in ICON_SIZES)}

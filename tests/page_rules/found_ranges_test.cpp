@@ -55,6 +55,10 @@ TEST(RulesByRegularExpressions, FindWhatMatchesOrItsFirstGroup) {
   EXPECT_THAT(found(Language::regex, "(?s)price.*", page), ElementsAre(page));
   EXPECT_THAT(found(Language::regex, "x*", page), ElementsAre("x")) << "nothing is no finding";
   EXPECT_THAT(found(Language::regex, "caf.", "caf\xE9 au lait"), ElementsAre("caf\xE9")) << "not UTF-8";
+  EXPECT_THAT(found(Language::regex, "caf\xE9", "caf\xE9"), ElementsAre("caf\xE9"));
+  EXPECT_EQ(faultOf(Language::regex, "caf\xE9"), "") << "whether a rule is understood is no matter of the page";
+  EXPECT_THAT(found(Language::regex, "\\x{2014}|a", "caf\xE9"), IsEmpty()) << "a letter that the page cannot have";
+  EXPECT_THAT(found(Language::regex, "\\x{2014}", "\xE2\x80\x94"), ElementsAre("\xE2\x80\x94"));
   EXPECT_THAT(faultOf(Language::regex, "a(b"), HasSubstr("missing ): a(b"));
   EXPECT_THAT(faultOf(Language::regex, "(a)\\1"), HasSubstr("\"regex (a)\\1\"")) << "no references back";
 }
@@ -64,6 +68,7 @@ TEST(RulesByRegularExpressions, EndInTimeOnAPageMadeForThem) {
   const auto begun = std::chrono::steady_clock::now();
   found(Language::regex, "(?s)x(.*y)?", page);
   found(Language::regex, "(x+x+)+y", page);
+  found(Language::regex, "(y)|x(?s:.*z)?", "y" + page);
   EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(4));
 }
 
@@ -93,7 +98,8 @@ TEST(RulesBySelectors, FindWholeElementsWithTheirTags) {
   EXPECT_THAT(css("li:first-child"), ElementsAre("<li>a"));
   EXPECT_THAT(css("li ~ li"), ElementsAre("<li>b"));
   EXPECT_THAT(css("table"), IsEmpty());
-  for (const char* rule : {"", "p >", "p..x", "[", "p:hover", "a[b=]", "p, ", "::before", "p:nth-child(0)"}) {
+  for (const char* rule : {"", "p >", "p..x", "[", "p:hover", "a[b=]", "p, ", "::before", "p:nth-child(0)",
+                           "p:nth-child(99999999999999999999)"}) {
     EXPECT_NE(faultOf(Language::css, rule), "") << rule;
   }
 }
@@ -103,6 +109,9 @@ TEST(RulesByXPath, FindWholeElements) {
   EXPECT_THAT(found(Language::xpath, "//p[contains(., 'Zw\xC3\xB6lf')]/b/text()", kPage), ElementsAre("<b>bold</b>"));
   EXPECT_THAT(found(Language::xpath, "/html/body/p", kPage), ElementsAre("<p>last\n"));
   EXPECT_THAT(found(Language::xpath, "count(//p)", kPage), IsEmpty()) << "a number is no element";
+  ::testing::internal::CaptureStderr();
+  EXPECT_THAT(found(Language::xpath, "//p[nosuch(.)] | //p[$x]", kPage), IsEmpty());
+  EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
   EXPECT_NE(faultOf(Language::xpath, "//p["), "");
   EXPECT_NE(faultOf(Language::xpath, ""), "");
 }
@@ -134,6 +143,29 @@ TEST(RulesOnMarkup, EndInTimeOnAPageMadeForThem) {
   found(Language::css, "td", cells);
   found(Language::css, "a", names);
   EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(10));
+}
+
+TEST(Rules, ThatAreNestedDeeplyAreNoDanger) {
+  constexpr std::size_t kDepth = 100'000;
+  const auto repeated = [](const std::string& part) {
+    std::string all;
+    for (std::size_t i = 0; i < kDepth; ++i) {
+      all += part;
+    }
+    return all;
+  };
+  for (const std::string part : {"(", "[", "-", "a[", "not(", "//*[", "a/"}) {
+    const std::string rule = repeated(part);
+    for (const Language language : {Language::regex, Language::css, Language::xpath, Language::json}) {
+      faultOf(language, rule);
+    }
+  }
+  EXPECT_NE(faultOf(Language::css, repeated(":not(") + "p" + repeated(")")), "");
+  EXPECT_NE(faultOf(Language::xpath, repeated("(") + "//p" + repeated(")")), "");
+  faultOf(Language::regex, repeated("(") + "a" + repeated(")*"));
+  EXPECT_THAT(found(Language::json, repeated("/0"), repeated("[") + repeated("]")), IsEmpty());
+  EXPECT_THAT(found(Language::xpath, "//b", repeated("<div>") + "<b>x</b>"), IsEmpty());
+  EXPECT_THAT(found(Language::css, "b", "<p>" + repeated("<i>") + "</p><b>x</b>"), IsEmpty());
 }
 
 TEST(RulesOnMarkup, KeepTheirPlacesWhateverTheBytesAre) {

@@ -22,6 +22,12 @@ TEST(APageWithRules, IsJudgedByWhatIsLeft) {
   EXPECT_EQ(verdict.remark, "");
 }
 
+TEST(APageThatEqualsItsBaseline, IsTheSameWhateverTheRulesSay) {
+  RuleSet set;
+  set.holes.push_back({.begin = 10, .length = 3, .kind = HoleClass::digits, .least = 1, .most = 3});
+  EXPECT_TRUE(judgePage("<p>count 1024 visits", "<p>count 1024 visits", set).same);
+}
+
 TEST(ARuleThatMatchesNothing, IsToldBesideTheVerdict) {
   const PageVerdict verdict = judgePage("a\n", "a\n", leavingOut("7"));
   EXPECT_TRUE(verdict.same);
@@ -48,6 +54,31 @@ TEST(APageInUtf16, IsJudgedByItsCharacters) {
       {.begin = 9, .length = 2, .kind = HoleClass::digits, .least = 1, .most = 4});  // behind mark and BOM
   EXPECT_TRUE(judgePage(utf16("seen 12 times"), utf16("seen 1234 times"), set).same);
   EXPECT_FALSE(judgePage(utf16("seen 12 times"), utf16("seen xy times"), set).same);
+}
+
+TEST(ShownDifference, HasTheBaselinesPartsWhereRulesLeaveSomethingOut) {
+  const RuleSet set{{{PageRule::Use::leaveOut, PageRule::Language::regex, "<i>.*</i>"}}, {}};
+  const ShownPages shown =
+      shownDifference("a <i>17</i>\nb\nc <i>x</i>\n", "a <i>a longer one</i>\nB\nc <i></i>\n", set);
+  EXPECT_EQ(shown.before, "a <i>17</i>\nb\nc <i>x</i>\n");
+  EXPECT_EQ(shown.now, "a <i>17</i>\nB\nc <i>x</i>\n");
+}
+
+TEST(ShownDifference, HasTheBaselinesPartsBesideWhatIsCompared) {
+  const RuleSet set{{{PageRule::Use::compareOnly, PageRule::Language::lines, "2"}}, {}};
+  EXPECT_EQ(shownDifference("a\nb\nc\n", "A\nB\nC\n", set).now, "a\nB\nc\n");
+}
+
+TEST(ShownDifference, IsWithoutWhatIsLeftOutWhereThatComesOrGoes) {
+  const RuleSet set{{{PageRule::Use::leaveOut, PageRule::Language::regex, "ad.*\n"}}, {}};
+  const ShownPages shown = shownDifference("a\nb\n", "a\nad 1\nB\nad 2\n", set);
+  EXPECT_EQ(shown.before, "a\nb\n");
+  EXPECT_EQ(shown.now, "a\nB\n");
+}
+
+TEST(ShownDifference, LeavesNothingOutByARuleThatCannotBeUnderstood) {
+  const RuleSet set{{{PageRule::Use::leaveOut, PageRule::Language::regex, "("}}, {}};
+  EXPECT_EQ(shownDifference("a\n", "b\n", set).now, "b\n");
 }
 
 }  // namespace

@@ -29,6 +29,8 @@ LIBRARY_TARGETS = (
     ("Qt6::Network", r"Q(Tcp|Host|Network|Ssl|LocalS|AbstractSocket)\w*", ("Qt6::Core",)),
     ("Qt6::Widgets", r"Q(Application|StylePainter|\w*(Widget|Dialog|Layout|Button|Edit|Box|TableView|HeaderView|Bar|Label"
                      r"|Menu|Style|StyleOption\w*|Delegate|MainWindow|ToolTip))", ("Qt6::Core", "Qt6::Gui")),
+    ("Qt6::DBus", r"QDBus\w*", ("Qt6::Core",)),
+    ("Qt6Keychain::Qt6Keychain", r"qt6keychain/.*", ()),
     ("Qt6::Core", r"Q[A-Z]\w*", ()),
 )
 ANY_LIBRARY = re.compile("|".join(headers for _, headers, _ in LIBRARY_TARGETS))

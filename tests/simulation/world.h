@@ -20,6 +20,7 @@
 #include "simulation/simulated_time.h"
 #include "simulation/simulated_web.h"
 #include "simulation/system_time.h"
+#include "support/recording_doors.h"
 
 namespace tarnwick::simulation {
 
@@ -53,7 +54,11 @@ struct World {
             .sound = desktop,
             .programs = desktop,
             .opener = desktop,
-            .runLocks = runLocks};
+            .runLocks = runLocks,
+            .mails = mails,
+            .secrets = secrets,
+            .notifier = notifier,
+            .runner = runner};
   }
 
   /// Every process ends at once, by a power cut or killed. What they still do while they unwind reaches nothing.
@@ -74,6 +79,10 @@ struct World {
   SimulatedMail mail;
   SimulatedDesktop desktop{journal};
   SimulatedRunLocks runLocks;
+  testing::RecordingMails mails{timers};
+  testing::RecordingSecrets secrets{timers};
+  testing::RecordingNotifier notifier{timers};
+  testing::RecordingRunner runner{timers};
   LocalFiles files;
   SqliteConnections databases{clock};
   /// Of the living processes.

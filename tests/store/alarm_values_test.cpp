@@ -214,11 +214,11 @@ TEST(AlarmValues, EveryOptionRefusesWhatItDoesNotTakeAndNamesIt) {
       continue;
     }
     try {
-      option.checked("what is this?");
+      option.checked("what is\nthis?");
       ADD_FAILURE() << option.name;
     } catch (const std::runtime_error& error) {
       EXPECT_EQ(std::string(error.what()),
-                "The option " + option.name + " does not take \"what is this?\". It takes " + option.takes + ".");
+                "The option " + option.name + " does not take \"what is\nthis?\". It takes " + option.takes + ".");
     }
     EXPECT_THROW(option.checked(""), std::runtime_error) << option.name;
   }

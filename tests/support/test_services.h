@@ -12,6 +12,7 @@
 #include "support/hand_clock.h"
 #include "support/hand_timers.h"
 #include "support/recording_desktop.h"
+#include "support/recording_doors.h"
 
 namespace tarnwick::testing {
 
@@ -48,7 +49,11 @@ struct TestServices {
             .sound = sound,
             .programs = programs,
             .opener = opener,
-            .runLocks = runLocks};
+            .runLocks = runLocks,
+            .mails = mails,
+            .secrets = secrets,
+            .notifier = notifier,
+            .runner = runner};
   }
 
   const Time time;
@@ -66,6 +71,10 @@ struct TestServices {
   RecordingPrograms programs;
   RecordingOpener opener;
   FileRunLocks runLocks;
+  RecordingMails mails{timers()};
+  RecordingSecrets secrets{timers()};
+  RecordingNotifier notifier{timers()};
+  RecordingRunner runner{timers()};
 };
 
 }  // namespace tarnwick::testing

@@ -47,7 +47,11 @@ void World::start() {
                           .sound = desktop,
                           .programs = desktop,
                           .opener = desktop,
-                          .runLocks = runLocks};
+                          .runLocks = runLocks,
+                          .mails = mails,
+                          .secrets = secrets,
+                          .notifier = notifier,
+                          .runner = runner};
   program_ = std::make_unique<Program>(folder.path(), services, view);
   attempt("starts the program", [this] { program_->start(); });
   events_->lead(*program_);

@@ -17,6 +17,7 @@
 #include "support/hand_clock.h"
 #include "support/hand_timers.h"
 #include "support/program_folder.h"
+#include "support/recording_doors.h"
 #include "support/smtp_server.h"
 #include "support/watched_sql.h"
 #include "transcript/led_events.h"
@@ -63,6 +64,10 @@ struct World {
   RecordedConnections recordedDatabases{watched, transcript};
   LocalFiles files;
   FileRunLocks runLocks;
+  RecordingMails mails{timers};
+  RecordingSecrets secrets{timers};
+  RecordingNotifier notifier{timers};
+  RecordingRunner runner{timers};
   CurlTransfers transfers{{}};
   QtTcpSockets sockets;
   RecordedSockets recordedSockets{sockets, mailServer, transcript};

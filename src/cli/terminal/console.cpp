@@ -105,6 +105,15 @@ std::string Console::ask(std::string_view question) {
   return answer;
 }
 
+std::string Console::askSecret(std::string_view question) {
+  const HiddenTyping hidden;
+  std::string answer = ask(question);
+  if (answer.ends_with('\r')) {
+    answer.pop_back();
+  }
+  return answer;
+}
+
 void Console::live(const std::string& text) {
   if (!canRewrite() || text == live_) {
     return;

@@ -48,6 +48,8 @@ class Console {
   /// Asks on the stream of the complaints, in the user's language, and returns the line that the user types; empty at
   /// the end of the input.
   std::string ask(std::string_view question);
+  /// The same for a secret: what is typed is not shown.
+  std::string askSecret(std::string_view question);
 
   /// A text in the user's language; what is for other programs to read does not come through here.
   std::string worded(std::string_view text) const { return wording_(text); }

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "cli/terminal/json_output.h"
+#include "cli/verbs/delivery_words.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "engine/cause.h"
@@ -195,6 +196,7 @@ int check(Tool& tool, const CheckOptions& options) {
                      " sites were checked.");
     return exit_status::failed;
   }
+  deliverAndTell(console, program.data(), tool.services());
   if (view.down() > 0) {
     return exit_status::down;
   }

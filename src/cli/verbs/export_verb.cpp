@@ -3,8 +3,10 @@
 #include <ostream>
 
 #include "base/text.h"
+#include "cli/verbs/delivery_words.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
+#include "delivery/delivery.h"
 #include "exchange/list/site_import.h"
 #include "exchange/list/site_list_csv.h"
 #include "exchange/list/site_list_json.h"
@@ -22,6 +24,7 @@ struct ExportOptions {
   std::string format;
   bool noPasswords = false;
   bool baselines = false;
+  bool withSecrets = false;
 };
 
 Format formatOf(const std::string& file, const std::string& format) {
@@ -106,7 +109,35 @@ class ListOutput {
   std::string line_;
 };
 
-std::size_t writeList(Tool& tool, Format format, ListColumns columns, const ByteSink& sink) {
+std::optional<std::string> secretOf(Tool& tool, const Channel& channel) {
+  const auto answer = awaited<SecretStore::Answer>(
+      tool.services(), {.why = "The key ring has not answered."},
+      [&](auto answered) { tool.data().delivery().secrets().read(secretName(channel.id), answered); });
+  if (!answer.secret) {
+    tool.console().complain("The password or token of the channel " + channel.name +
+                            " is not in the file: " + (answer.why.empty() ? "none is kept." : answer.why));
+  }
+  return answer.secret;
+}
+
+std::vector<ListedChannel> channelsOf(Tool& tool, Format format, bool withSecrets) {
+  std::vector<ListedChannel> listed;
+  for (Channel& channel : tool.data().channels()) {
+    const bool hasSecret = withSecrets && format == Format::json && needsSecret(channel);
+    std::optional<std::string> secret = hasSecret ? secretOf(tool, channel) : std::nullopt;
+    listed.push_back({std::move(channel), std::move(secret)});
+  }
+  if (!listed.empty() && format == Format::csv) {
+    tool.console().complain("A CSV file has no place for channels. They are in one whose name ends in .json.");
+  } else if (withSecrets) {
+    tool.console().complain(
+        "The file holds the passwords and tokens of the channels in clear. Keep it where nobody else can read it.");
+  }
+  return listed;
+}
+
+std::size_t writeList(Tool& tool, Format format, ListColumns columns, const std::vector<ListedChannel>& channels,
+                      const ByteSink& sink) {
   m& data = tool.data();
   // Whether options are columns is of the same state as the options, whoever sets one meanwhile.
   const Snapshot oneState(data.database());
@@ -116,7 +147,7 @@ std::size_t writeList(Tool& tool, Format format, ListColumns columns, const Byte
                                             : makeJsonWriter(columns, sink, tool.fields());
   ImportWarnings warnings(tool.console(), tool.fields());
   std::size_t count = 0;
-  writer->begin(columns.options ? knownOptions(data, kAllSites) : OptionValues());
+  writer->begin(columns.options ? knownOptions(data, kAllSites) : OptionValues(), channels);
   readListedSites(data, columns, [&](const ListedSite& site) {
     writer->add(site);
     warnings.look(site);
@@ -131,9 +162,10 @@ int exportList(Tool& tool, const ExportOptions& options) {
   const Format format = formatOf(options.file, options.format);
   const ListColumns columns{.passwords = !options.noPasswords, .baselines = options.baselines};
   Console& console = tool.console();
+  const std::vector<ListedChannel> channels = channelsOf(tool, format, options.withSecrets);
   if (options.file == kStream) {
     ListOutput out(console);
-    writeList(tool, format, columns, [&out](std::string_view bytes) { out.write(bytes); });
+    writeList(tool, format, columns, channels, [&out](std::string_view bytes) { out.write(bytes); });
     out.end();
     return exit_status::ok;
   }
@@ -143,8 +175,8 @@ int exportList(Tool& tool, const ExportOptions& options) {
                              "\" is the list itself. Export to a file of another name.");
   }
   std::size_t count = 0;
-  tool.services().files.writePrivately(options.file,
-                                       [&](const ByteSink& sink) { count = writeList(tool, format, columns, sink); });
+  tool.services().files.writePrivately(
+      options.file, [&](const ByteSink& sink) { count = writeList(tool, format, columns, channels, sink); });
   console.tell("Exported " + countText(count) + " to " + shownName(options.file) + ".");
   return exit_status::ok;
 }
@@ -165,8 +197,10 @@ Verb exportVerb() {
         .meaning = "The file's format, whatever its name: csv or json",
         .oneOf = {"csv", "json"}},
        {"--no-passwords", &options->noPasswords, "Leave the passwords out; an import then keeps those stored"},
+       {"--with-secrets", &options->withSecrets, "Write the passwords and tokens of the channels as well, in clear"},
        {"--baselines", &options->baselines, "Write the pages that the sites are compared with as well"}},
-      "The file holds what has been set for each site, with its POST variables; what checks have found is not part "
+      "The file holds what has been set for each site, with its POST variables, and as JSON the channels; what checks "
+      "have found is not part "
       "of it. Only you can read it, and one that is there already is replaced when the new one is complete.\n" +
           examples({{"export sites.csv", "for a spreadsheet, or for another computer"},
                     {"export --baselines sites.json", "a copy of the whole list"},

@@ -5,9 +5,11 @@
 #include "cli/terminal/consent.h"
 #include "cli/terminal/input_file.h"
 #include "cli/terminal/json_output.h"
+#include "cli/verbs/delivery_words.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/unwatched.h"
 #include "cli/verbs/verbs.h"
+#include "delivery/delivery.h"
 #include "exchange/foreign/any_list.h"
 #include "exchange/foreign/list_reading.h"
 #include "exchange/list/site_facts.h"
@@ -113,10 +115,20 @@ void addNotes(JsonValue& json, const std::vector<ForeignNote>& notes) {
   json["leftOut"] = std::move(leftOut);
 }
 
+std::vector<std::string> channelNames(const ImportPlan& plan) {
+  std::vector<std::string> names;
+  std::ranges::transform(plan.channels, std::back_inserter(names),
+                         [](const ListedChannel& listed) { return listed.channel.name; });
+  return names;
+}
+
 void tellJson(Tool& tool, const ImportPlan& plan, const ReadList& file, const ImportVerbOptions& options) {
   JsonValue json = jsonOf(tool.fields(), plan, options.dryRun);
   if (plan.optionsOfAll) {
     json["optionsOfAll"] = optionsJson(*plan.optionsOfAll);
+  }
+  if (!plan.channels.empty()) {
+    json["channels"] = JsonValue::array(channelNames(plan));
   }
   if (file.list.foreign) {
     json["format"] = file.word;
@@ -140,6 +152,9 @@ void tell(Tool& tool, const ImportPlan& plan, const ReadList& file, const Import
   if (options.dryRun && plan.optionsOfAll) {
     console.tell("change the options of all sites");
   }
+  if (options.dryRun && !plan.channels.empty()) {
+    console.tell("store the channels: " + inWords(channelNames(plan), ", "));
+  }
   for (const ImportStep& step : plan.steps) {
     if (options.dryRun) {
       console.out() << lineOf(tool.fields(), step) << '\n';
@@ -153,6 +168,9 @@ void tell(Tool& tool, const ImportPlan& plan, const ReadList& file, const Import
   }
   if (!options.dryRun && plan.optionsOfAll) {
     console.tell("The options of all sites are changed.");
+  }
+  if (!options.dryRun && !plan.channels.empty()) {
+    console.tell("The channels are stored: " + inWords(channelNames(plan), ", "));
   }
   const char* const to = options.dryRun ? " to " : " ";
   const auto part = [&](ImportStep::Action action, const char* coming, const char* done) {
@@ -221,6 +239,22 @@ std::vector<std::int16_t> takenIn(const ImportPlan& plan) {
   return ids;
 }
 
+/// What the list itself does not hold; a channel that is left without is named.
+void storeSecrets(Tool& tool, const ImportPlan& plan) {
+  m& data = tool.data();
+  for (const auto& [channel, secret] : channelsWithSecret(data, plan)) {
+    const std::string why = storeSecret(data, tool.services(), channel.id, secret.value());
+    if (!why.empty()) {
+      tool.console().complain("The channel " + channel.name + " is stored, but not its password or token: " + why);
+    }
+  }
+  for (const ListedChannel& listed : plan.channels) {
+    if (listed.channel.id == 0 && !listed.secret && needsSecret(listed.channel)) {
+      hintAtSecret(tool.console(), listed.channel);
+    }
+  }
+}
+
 int importList(Tool& tool, const ImportVerbOptions& options) {
   ReadList file = readFile(tool.services().files, options, tool.fields());
   ListFaults& faults = file.faults;
@@ -242,6 +276,7 @@ int importList(Tool& tool, const ImportVerbOptions& options) {
     whole.commit();
     tell(tool, plan, file, options);
     complainOfDoubts(tool.console(), options.file, plan.doubts);
+    storeSecrets(tool, plan);
     hintAtUnwatched(tool, takenIn(plan));
     return exit_status::ok;
   } catch (const SiteListError& error) {
@@ -272,7 +307,8 @@ Verb importVerb() {
        {"--dry-run", &options->dryRun, "Only say what would be done"},
        jsonOption(options->json)},
       "A site whose id is in the list is changed, in the fields that the file has; one with another id is added under "
-      "it, and one without an id is added as a new one. All of the file is taken, or nothing: each fault is told with "
+      "it, and one without an id is added as a new one. A channel takes the place of one that has its name. All of the "
+      "file is taken, or nothing: each fault is told with "
       "its line.\n"
       "A CSV file names its columns in the first line, separated by commas. Only url must be there; the others are "
       "idSite, method (get or post), active, tInterval (minutes), alertEmail, email, sUserName, sPassWord, postVars "

@@ -10,7 +10,9 @@
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "engine/page_learning.h"
+#include "engine/result_recording.h"
 #include "holes/page_text.h"
+#include "page_rules/page_judge.h"
 #include "platform/interrupts.h"
 
 namespace tarnwick {
@@ -20,6 +22,7 @@ struct LearnOptions {
   std::vector<std::int16_t> sites;
   std::int64_t fetches = PageLearning::Plan{}.fetches;
   std::optional<std::string> over;
+  bool fromLast = false;
   bool yes = false;
   bool json = false;
 };
@@ -54,22 +57,38 @@ Pupils pupilsOf(Tool& tool, const LearnOptions& options) {
   return pupils;
 }
 
+PageLearning::Handlers handlersOf(Console& console, const LearnOptions& options, Pupil& pupil) {
+  return {.progressed =
+              [&](int done) {
+                console.live(console.worded(nameOf(pupil) + ": " + std::to_string(done) + " of " +
+                                            std::to_string(options.fetches) + " fetches"));
+              },
+          .learnt = [&](Learnt learnt) { pupil.learnt = std::move(learnt); },
+          .failed = [&](const std::string& why) { pupil.fault = why; }};
+}
+
+void compareWithLast(Tool& tool, const LearnOptions& options, Pupil& pupil) {
+  const std::string page = tool.data().getContentRuntime(pupil.idSite);
+  if (pupil.baseline.empty() || !isPage(page)) {
+    pupil.fault = "There is no baseline yet, or the latest check brought no page.";
+    return;
+  }
+  pupil.learning.compare(pupil.baseline, tool.data().rulesOf(pupil.idSite), page,
+                         handlersOf(tool.console(), options, pupil));
+}
+
 // False when it was interrupted.
-bool fetchAll(Tool& tool, const LearnOptions& options, Pupils& pupils) {
+bool learnAll(Tool& tool, const LearnOptions& options, Pupils& pupils) {
   const Interrupts interrupts([&tool] { tool.services().pump.close(); });
   const PageLearning::Plan plan{static_cast<int>(options.fetches),
                                 options.over ? spanOf(*options.over) : std::chrono::seconds(0)};
   Console& console = tool.console();
   for (const auto& pupil : pupils) {
-    Pupil& each = *pupil;
-    each.learning.start(each.idSite, each.baseline, plan,
-                        {.progressed =
-                             [&](int done) {
-                               console.live(console.worded(nameOf(each) + ": " + std::to_string(done) + " of " +
-                                                           std::to_string(plan.fetches) + " fetches"));
-                             },
-                         .learnt = [&](Learnt learnt) { each.learnt = std::move(learnt); },
-                         .failed = [&](const std::string& why) { each.fault = why; }});
+    if (options.fromLast) {
+      compareWithLast(tool, options, *pupil);
+    } else {
+      pupil->learning.start(pupil->idSite, pupil->baseline, plan, handlersOf(console, options, *pupil));
+    }
   }
   const auto isUnderWay = [](const auto& pupil) { return pupil->learning.isUnderWay(); };
   while (std::ranges::any_of(pupils, isUnderWay) && !tool.services().pump.closing()) {
@@ -84,9 +103,12 @@ std::string pageOf(const Pupil& pupil) {
 }
 
 // "3 places may vary; 99.2 % of the page stays watched."
-void show(Console& console, const Pupil& pupil) {
+void show(Console& console, const Pupil& pupil, const LearnOptions& options) {
   const Learnt& learnt = *pupil.learnt;
   const std::size_t count = learnt.holes.size();
+  if (count == 0 && options.fromLast && !learnt.explains) {
+    return;  // the refusal says it
+  }
   if (count == 0 && learnt.explains) {
     console.tell(nameOf(pupil) + ": nothing has varied.");
   } else {
@@ -96,6 +118,10 @@ void show(Console& console, const Pupil& pupil) {
   }
   for (const std::string& warning : learnt.warnings) {
     console.complain(warning);
+  }
+  if (options.fromLast && !learnt.explains) {
+    console.complain(nameOf(pupil) + ": line " + std::to_string(learnt.line) +
+                     " differs as well, and does not look like what always changes: it stays watched.");
   }
 }
 
@@ -119,9 +145,15 @@ JsonValue jsonOf(const Pupil& pupil, bool stored) {
 }
 
 /// Why what was learnt cannot be taken; empty when it can.
-std::string refusalOf(const Pupil& pupil) {
+std::string refusalOf(const Pupil& pupil, const LearnOptions& options) {
   if (!pupil.learnt) {
     return nameOf(pupil) + ": nothing was learnt. " + pupil.fault;
+  }
+  if (options.fromLast) {
+    return pupil.learnt->holes.empty() && !pupil.learnt->explains
+               ? nameOf(pupil) + ": line " + std::to_string(pupil.learnt->line) +
+                     " differs, and nothing of it looks like what always changes."
+               : std::string();
   }
   const std::string id = std::to_string(pupil.idSite);
   return pupil.learnt->explains
@@ -141,7 +173,7 @@ void store(Tool& tool, const Pupil& pupil) {
     data.updateContentCompare(pupil.idSite, pupil.learnt->firstCopy);
   }
   RuleSet rules = data.rulesOf(pupil.idSite);
-  rules.holes = united(rules.holes, pupil.learnt->holes);
+  rules.holes = united(holesOf(pageOf(pupil), rules.holes).placed, pupil.learnt->holes);
   data.storeRules(pupil.idSite, rules);
   whole.commit();
 }
@@ -153,9 +185,12 @@ bool isTaken(Tool& tool, const LearnOptions& options, const Pupil& pupil) {
 }
 
 int learn(Tool& tool, const LearnOptions& options) {
+  if (options.fromLast && (options.over || options.fetches != PageLearning::Plan{}.fetches)) {
+    throw std::runtime_error("Nothing is fetched with --from-last: leave out --fetches and --over.");
+  }
   Console& console = tool.console();
   Pupils pupils = pupilsOf(tool, options);
-  if (!fetchAll(tool, options, pupils)) {
+  if (!learnAll(tool, options, pupils)) {
     console.complain("Interrupted; nothing is learnt.");
     return exit_status::failed;
   }
@@ -163,9 +198,9 @@ int learn(Tool& tool, const LearnOptions& options) {
   JsonValue all = JsonValue::array();
   for (const auto& pupil : pupils) {
     if (pupil->learnt && !options.json) {
-      show(console, *pupil);
+      show(console, *pupil, options);
     }
-    const std::string refusal = refusalOf(*pupil);
+    const std::string refusal = refusalOf(*pupil, options);
     const bool stored = refusal.empty() && isTaken(tool, options, *pupil);
     if (stored) {
       store(tool, *pupil);
@@ -204,12 +239,15 @@ Verb learnVerb() {
         .target = &options->over,
         .meaning = "Spread the fetches over this time, as 30m, 2h or 1d; at once without this",
         .type = "TIME"},
+       {"--from-last", &options->fromLast,
+        "Fetch nothing: propose what of the latest page's difference looks like a number, a key, a date or a time"},
        {"--yes", &options->yes, "Store what was learnt without asking"},
        jsonOption(options->json)},
       "Numbers, keys, dates and words that vary become places where anything of their kind may stand; all around them\n"
       "stays compared byte for byte. With --json nothing is stored unless --yes is given.\n" +
           examples({{"learn 3", "fetch the page of site 3 five times, and ask"},
                     {"learn 3 --over 1d --yes", "the same over a day, which finds what changes with the date"},
+                    {"learn 3 --from-last", "the page differs by what is no change: let that vary"},
                     {"rules 3", "what may vary in it"}}),
       [options](Tool& tool) { return learn(tool, *options); }};
 }

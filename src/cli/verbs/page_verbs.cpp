@@ -2,11 +2,11 @@
 #include <algorithm>
 #include <ostream>
 
-#include "cli/pages/unified_diff.h"
 #include "cli/terminal/input_file.h"
 #include "cli/terminal/json_output.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
+#include "difference/unified_diff.h"
 #include "holes/page_text.h"
 #include "page_rules/page_judge.h"
 #include "platform/interrupts.h"
@@ -146,13 +146,10 @@ void printDiffLine(Console& console, const DiffLine& line) {
   console.out() << console.coloured(colour, mark + console.shown(line.text)) << '\n';
 }
 
-/// The latest page with what the baseline has where it may vary: what is left is the difference. A page in UTF-16 is
-/// shown as it is.
-std::string withoutVariation(const std::string& before, const std::string& after, const Holes& holes) {
-  if (pageText(before) != before || pageText(after) != after) {
-    return after;
-  }
-  return withoutVariation(before, holesOf(before, holes).placed, after);
+/// What is to be shown of the difference by the rules of the site. Pages in UTF-16 are shown as they are.
+ShownPages shownPages(const std::string& before, const std::string& after, const RuleSet& rules) {
+  const bool isText = pageText(before) == before && pageText(after) == after;
+  return isText && !rules.empty() ? shownDifference(before, after, rules) : ShownPages{before, after};
 }
 
 int diff(Tool& tool, const DiffOptions& options) {
@@ -165,11 +162,11 @@ int diff(Tool& tool, const DiffOptions& options) {
   }
   const RuleSet rules = tool.data().rulesOf(options.idSite);
   const bool same = before == after || (!rules.empty() && judgePage(before, after, rules).same);
-  const std::string shownAfter = rules.holes.empty() ? after : withoutVariation(before, after, rules.holes);
+  const ShownPages shown = shownPages(before, after, rules);
   Console& console = tool.console();
   if (options.json) {
     JsonValue lines = JsonValue::array();
-    unifiedDiff(before, shownAfter, [&](const DiffLine& line) {
+    unifiedDiff(shown.before, shown.now, [&](const DiffLine& line) {
       lines.add(jsonText(std::string(line.mark == '@' ? "" : std::string(1, line.mark)) + std::string(line.text)));
     });
     JsonValue json{{"idSite", options.idSite}, {"equal", before == after}};
@@ -181,7 +178,7 @@ int diff(Tool& tool, const DiffOptions& options) {
   } else if (!same) {
     console.out() << console.coloured(Console::Colour::bold, console.worded("--- baseline of site " + id)) << '\n'
                   << console.coloured(Console::Colour::bold, console.worded("+++ latest page of site " + id)) << '\n';
-    unifiedDiff(before, shownAfter, [&](const DiffLine& line) { printDiffLine(console, line); });
+    unifiedDiff(shown.before, shown.now, [&](const DiffLine& line) { printDiffLine(console, line); });
   }
   return same ? exit_status::ok : exit_status::down;
 }
@@ -211,9 +208,8 @@ Verb diffVerb() {
   return Verb{"diff",
               "Compare a site's baseline with its latest page, as a unified diff",
               {siteIdOption(options->idSite), jsonOption(options->json)},
-              "The latest page is that of the last check. What may vary is no difference. Exit status: 0 when equal, 1 "
-              "when they "
-              "differ.\n" +
+              "The latest page is that of the last check. What may vary or is left out by rules is no difference. Exit "
+              "status: 0 when equal, 1 when they differ.\n" +
                   examples({{"diff 3", "what has changed, coloured on a terminal"},
                             {"diff 3 > page.patch", "for the program patch"}}),
               [options](Tool& tool) { return diff(tool, *options); }};

@@ -6,7 +6,7 @@
 #include "base/visible_text.h"
 #include "cli/terminal/json_output.h"
 #include "cli/terminal/text_grid.h"
-#include "engine/first_difference.h"
+#include "difference/first_difference.h"
 #include "holes/hole_words.h"
 
 namespace tarnwick {

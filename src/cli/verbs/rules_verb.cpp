@@ -9,7 +9,7 @@
 #include "cli/verbs/rule_words.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
-#include "engine/first_difference.h"
+#include "difference/first_difference.h"
 #include "holes/classify.h"
 #include "holes/date_form.h"
 #include "holes/page_text.h"

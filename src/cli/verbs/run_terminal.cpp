@@ -6,6 +6,8 @@
 #include <set>
 #include <utility>
 
+#include "base/errors.h"
+#include "cli/verbs/delivery_words.h"
 #include "engine/cause.h"
 #include "store/site_table.h"
 
@@ -38,6 +40,7 @@ std::string sitesText(std::size_t count) { return std::to_string(count) + (count
 
 void RunTerminal::prepare(m& data) {
   data_ = &data;
+  watchOutbox();
   const TextTable sites = data.getArraySitesActiveTrue(site_choice::active);
   active_ = sites.lastRow();
   for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
@@ -47,6 +50,19 @@ void RunTerminal::prepare(m& data) {
       known_[*id] = SqlValue(status).toBool();
     }
   }
+}
+
+void RunTerminal::watchOutbox() {
+  m& data = *data_;
+  // What was given up in earlier runs has been told there.
+  outbox_.failed = data.channelsInForce().empty() ? 0 : data.outboxSummary().failed;
+  data.delivery().onChanged([this, &data] {
+    try {
+      showOutbox(data.outboxSummary());
+    } catch (const DataAccessError&) {
+      // What keeps the file from being read is told elsewhere.
+    }
+  });
 }
 
 void RunTerminal::begin() {
@@ -63,7 +79,26 @@ void RunTerminal::end() {
   if (begun_) {
     tell("Run stopped.", "stopped", [] { return JsonValue::object(); });
   }
+  if (data_ != nullptr) {
+    data_->delivery().onChanged(nullptr);
+  }
   data_ = nullptr;
+}
+
+void RunTerminal::showOutbox(const OutboxSummary& summary) {
+  const OutboxSummary before = std::exchange(outbox_, summary);
+  if (summary.failed > before.failed) {
+    tell(lossText(summary), "alertsLost", [&] {
+      return JsonValue{{"failed", summary.failed}, {"answer", jsonText(summary.failedBy)}};
+    });
+  }
+  if (summary.delayed > 0 && before.delayed == 0) {
+    tell(delayText(summary), "alertsWaiting", [&] {
+      return JsonValue{{"waiting", summary.delayed}, {"answer", jsonText(summary.delayedBy)}};
+    });
+  } else if (summary.delayed == 0 && before.delayed > 0 && summary.failed == before.failed) {
+    tell("All alerts are delivered again.", "alertsDelivered", [] { return JsonValue::object(); });
+  }
 }
 
 void RunTerminal::showStatus(const std::string& text) {

@@ -52,6 +52,9 @@ class RunTerminal final : public SilentView {
     std::size_t leftOutMails = 0;
   };
 
+  void watchOutbox();
+  /// Says what of it is worth it: when something has to wait, is given up, or has all arrived after all.
+  void showOutbox(const OutboxSummary& summary);
   void begin();
   /// `detailsOf` is asked where the run is told as JSON.
   void tell(const std::string& text, const char* event, const std::function<JsonValue()>& detailsOf);
@@ -75,6 +78,7 @@ class RunTerminal final : public SilentView {
   std::chrono::milliseconds begunAt_{0};
   RunState state_ = RunState::stop;
   Count pass_;
+  OutboxSummary outbox_;
   std::string status_;
   std::string runTime_;
   std::int64_t progress_ = 0;

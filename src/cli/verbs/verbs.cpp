@@ -19,6 +19,8 @@ std::vector<Verb> allVerbs(const Fields& fields) {
   all.push_back(runVerb());
   all.push_back(settingsVerb(fields));
   all.push_back(optionVerb(fields));
+  all.push_back(channelVerb());
+  all.push_back(outboxVerb());
   add(pauseVerbs());
   all.push_back(learnVerb());
   all.push_back(rulesVerb());

@@ -23,6 +23,9 @@ Verb runVerb();
 Verb settingsVerb(const Fields& fields);
 /// The verb with all options in its help.
 Verb optionVerb(const Fields& fields);
+/// The verb with all fields of channels in its help.
+Verb channelVerb();
+Verb outboxVerb();
 /// pause, resume
 std::vector<Verb> pauseVerbs();
 Verb learnVerb();

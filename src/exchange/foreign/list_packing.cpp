@@ -173,6 +173,17 @@ void pack(Way& way, RuleSet& rules) {
 }
 
 template <typename Way>
+void pack(Way& way, ListedChannel& listed) {
+  pack(way, listed.channel.id);
+  pack(way, listed.channel.name);
+  pack(way, listed.channel.kind);
+  pack(way, listed.channel.on);
+  pack(way, listed.channel.forAll);
+  pack(way, listed.channel.settings);
+  pack(way, listed.secret);
+}
+
+template <typename Way>
 void pack(Way& way, ListedSite& site) {
   pack(way, site.line);
   pack(way, site.idSite);
@@ -180,6 +191,7 @@ void pack(Way& way, ListedSite& site) {
   pack(way, site.postVars);
   pack(way, site.baseline);
   pack(way, site.options);
+  pack(way, site.channels);
   pack(way, site.rules);
   pack(way, site.state);
   pack(way, site.given);

@@ -90,7 +90,7 @@ class ImportPlanner::Plan {
       return;
     }
     if (site.idSite == kAllSites) {
-      planOptionsOfAll(std::move(site));
+      planAllSites(std::move(site));
       return;
     }
     const auto stored = site.idSite ? stored_.find(*site.idSite) : stored_.end();
@@ -126,9 +126,16 @@ class ImportPlanner::Plan {
     return true;
   }
 
-  void planOptionsOfAll(ListedSite all) {
-    if (all.options != knownOptions(data_, kAllSites)) {
+  void planAllSites(ListedSite all) {
+    if (all.given.has(list_name::options) && all.options != knownOptions(data_, kAllSites)) {
       plan_.optionsOfAll = std::move(all.options);
+    }
+    for (ListedChannel& listed : all.channels) {
+      const auto stored = data_.channelNamed(listed.channel.name);
+      listed.channel.id = stored ? stored->id : 0;
+      if (listed.secret || stored != listed.channel) {
+        plan_.channels.push_back(std::move(listed));
+      }
     }
   }
 
@@ -316,11 +323,20 @@ ImportPlan planImport(m& data, std::vector<ListedSite> sites, const ImportOption
   return std::move(planner).finish();
 }
 
+void ImportWriter::storeForAll() {
+  if (plan_.optionsOfAll) {
+    data_.storeOptions(kAllSites, *plan_.optionsOfAll);
+  }
+  for (const ListedChannel& listed : plan_.channels) {
+    data_.storeChannel(listed.channel);
+  }
+}
+
 // What is deleted goes first, since another site may come under its id.
 bool ImportWriter::next() {
   const std::size_t count = plan_.steps.size();
-  if (next_ == 0 && plan_.optionsOfAll) {
-    data_.storeOptions(kAllSites, *plan_.optionsOfAll);
+  if (!std::exchange(begun_, true)) {
+    storeForAll();
   }
   while (next_ < 2 * count) {
     const bool removing = next_ < count;
@@ -337,6 +353,18 @@ bool ImportWriter::next() {
 
 double ImportWriter::done() const {
   return plan_.steps.empty() ? 1 : static_cast<double>(next_) / static_cast<double>(2 * plan_.steps.size());
+}
+
+std::vector<ListedChannel> channelsWithSecret(m& data, const ImportPlan& plan) {
+  std::vector<ListedChannel> all;
+  for (ListedChannel listed : plan.channels) {
+    const auto stored = data.channelNamed(listed.channel.name);
+    if (stored && listed.secret) {
+      listed.channel = *stored;
+      all.push_back(std::move(listed));
+    }
+  }
+  return all;
 }
 
 void carryOut(m& data, const ImportPlan& plan) {

@@ -52,6 +52,9 @@ struct ImportPlan {
   std::size_t unchanged = 0;
   /// What is to be set for all sites in place of what is; nothing when that stays.
   std::optional<OptionValues> optionsOfAll;
+  /// Those that are stored: with its id in place of the one of the list that has its name, or with the id 0 as a new
+  /// one. Their secrets are not stored with them; see `channelsWithSecret`.
+  std::vector<ListedChannel> channels;
   /// What was left out since it stands in the file already.
   std::vector<RepeatedAddress> repeated;
   /// What is imported, but could not be typed in.
@@ -102,14 +105,20 @@ class ImportWriter {
   double done() const;
 
  private:
+  void storeForAll();
+
   m& data_;
   const ImportPlan& plan_;
   std::size_t next_ = 0;
+  bool begun_ = false;
 };
 
 /// What an import of `sites` would do, faults of the single sites added to `faults`; a plan with faults is not to be
 /// carried out. Raises DataAccessError.
 ImportPlan planImport(m& data, std::vector<ListedSite> sites, const ImportOptions& options, ListFaults& faults);
+
+/// The channels of `plan`, as they are stored when it has been carried out, whose secrets the file had.
+std::vector<ListedChannel> channelsWithSecret(m& data, const ImportPlan& plan);
 
 /// Does it. REQUIRES: one transaction around the planning and this, which is committed when this returns.
 void carryOut(m& data, const ImportPlan& plan);

@@ -16,6 +16,7 @@
 #include "holes/page_rule.h"
 #include "platform/file_system.h"
 #include "store/adoption.h"
+#include "store/channels.h"
 #include "store/fields.h"
 #include "store/site_options.h"
 
@@ -55,6 +56,7 @@ class ListForm {
 namespace list_name {
 inline constexpr std::string_view idSite = "idSite";
 inline constexpr std::string_view url = "url";
+inline constexpr std::string_view channels = "channels";
 inline constexpr std::string_view method = "method";
 inline constexpr std::string_view postVars = "postVars";
 inline constexpr std::string_view baseline = "baseline";
@@ -74,7 +76,15 @@ class ListFields {
   std::set<std::string, std::less<>> names_;
 };
 
-/// A site of the file; with the id 0 what is set for all of them, which is options alone.
+/// A channel of the file.
+struct ListedChannel {
+  /// With the id 0.
+  Channel channel;
+  /// Its password or token, where the file has it.
+  std::optional<std::string> secret{};
+};
+
+/// A site of the file; with the id 0 what is set for all of them, which is options and channels.
 struct ListedSite {
   /// Where it begins in the file, from 1.
   std::size_t line = 0;
@@ -84,6 +94,8 @@ struct ListedSite {
   std::vector<PostVar> postVars;
   std::string baseline;
   OptionValues options;
+  /// Of all sites.
+  std::vector<ListedChannel> channels;
   RuleSet rules;
   /// What checks have found, of a site that comes from another database; it counts for a site that is added.
   std::optional<CheckedState> state{};
@@ -189,8 +201,8 @@ struct ListColumns {
 class SiteListWriter {
  public:
   virtual ~SiteListWriter() = default;
-  /// `ofAll` is set for all sites.
-  virtual void begin(const OptionValues& ofAll = {}) = 0;
+  /// `ofAll` is set for all sites. Channels have no place in CSV.
+  virtual void begin(const OptionValues& ofAll = {}, const std::vector<ListedChannel>& channels = {}) = 0;
   virtual void add(const ListedSite& site) = 0;
   virtual void end() = 0;
 };

@@ -13,7 +13,7 @@ class CsvWriter final : public SiteListWriter {
   CsvWriter(ListColumns columns, ByteSink sink, const Fields& fields)
       : columns_(columns), sink_(std::move(sink)), form_(fields) {}
 
-  void begin(const OptionValues& ofAll) override {
+  void begin(const OptionValues& ofAll, const std::vector<ListedChannel>& /*channels*/) override {
     for (const ListField& field : form_.all()) {
       addField(field, field.name);
     }

@@ -8,6 +8,7 @@
 
 #include "base/visible_text.h"
 #include "exchange/json/line_counter.h"
+#include "exchange/list/site_list_channels.h"
 #include "exchange/list/site_list_json_site.h"
 
 namespace tarnwick {
@@ -105,6 +106,7 @@ class ListHandler final : public nlohmann::json_sax<Json> {
         break;
       case Place::site:
       case Place::options:
+      case Place::channels:
         break;
       case Place::list:
         if (key_ != list_name::options) {
@@ -121,6 +123,10 @@ class ListHandler final : public nlohmann::json_sax<Json> {
     if (place_ == Place::list && key_ == kSitesName) {
       place_ = Place::sites;
       return true;
+    }
+    if (place_ == Place::list && key_ == list_name::channels) {
+      place_ = Place::channels;
+      siteLine_ = line_;
     }
     return inValue() ? begin(JsonValue::array()) : misplaced();
   }
@@ -159,6 +165,10 @@ class ListHandler final : public nlohmann::json_sax<Json> {
       place_ = Place::list;
     } else {
       builder_.end();
+      if (!builder_.isOpen()) {
+        place_ = Place::list;
+        takeChannels();
+      }
     }
     return true;
   }
@@ -172,13 +182,16 @@ class ListHandler final : public nlohmann::json_sax<Json> {
   }
 
  private:
-  enum class Place { outside, list, sites, site, options };
+  enum class Place { outside, list, sites, site, options, channels };
 
   bool listKey(const std::string& name) {
-    bool& seen = name == kSitesName ? hasSites_ : name == list_name::options ? hasOptions_ : hasVersion_;
-    if (name != kSitesName && name != kVersionName && name != list_name::options) {
+    bool& seen = name == kSitesName            ? hasSites_
+                 : name == list_name::options  ? hasOptions_
+                 : name == list_name::channels ? hasChannels_
+                                               : hasVersion_;
+    if (&seen == &hasVersion_ && name != kVersionName) {
       faults_.add(line_, "there is no member " + quotedForMessage(name) +
-                             R"( beside the sites: the members are "tarnwick", "options" and "sites")");
+                             R"( beside the sites: the members are "tarnwick", "options", "channels" and "sites")");
       return false;
     }
     if (std::exchange(seen, true)) {
@@ -240,17 +253,32 @@ class ListHandler final : public nlohmann::json_sax<Json> {
     return false;
   }
 
-  bool inValue() const { return place_ == Place::site || place_ == Place::options; }
+  bool inValue() const { return place_ == Place::site || place_ == Place::options || place_ == Place::channels; }
 
   // They stand in the list as what is set for the site 0.
   void takeOptions() {
-    ListedSite all;
-    all.line = siteLine_;
-    all.idSite = kAllSites;
+    ListedSite& all = siteOfAll();
     all.given.set(list_name::options);
     ListValues values(siteLine_, faults_);
     readOptionsOfJson(builder_.root(), form_.fields(), all.options, values);
-    sites_.push_back(std::move(all));
+  }
+
+  void takeChannels() {
+    ListedSite& all = siteOfAll();
+    all.given.set(list_name::channels);
+    ListValues values(siteLine_, faults_);
+    readChannelsOfJson(builder_.root(), all.channels, values);
+  }
+
+  ListedSite& siteOfAll() {
+    const auto all = std::ranges::find(sites_, std::optional(kAllSites), &ListedSite::idSite);
+    if (all != sites_.end()) {
+      return *all;
+    }
+    ListedSite fresh;
+    fresh.line = siteLine_;
+    fresh.idSite = kAllSites;
+    return sites_.emplace_back(std::move(fresh));
   }
 
   void takeSite() {
@@ -280,6 +308,7 @@ class ListHandler final : public nlohmann::json_sax<Json> {
   bool hasVersion_ = false;
   bool hasSites_ = false;
   bool hasOptions_ = false;
+  bool hasChannels_ = false;
   ValueBuilder builder_;
   std::size_t siteLine_ = 0;
   std::size_t siteFaults_ = 0;

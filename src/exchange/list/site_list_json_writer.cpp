@@ -3,6 +3,7 @@
 
 #include "exchange/json/json_text.h"
 #include "exchange/list/site_facts.h"
+#include "exchange/list/site_list_channels.h"
 #include "exchange/list/site_list_json.h"
 
 namespace tarnwick {
@@ -13,9 +14,12 @@ class JsonWriter final : public SiteListWriter {
   JsonWriter(ListColumns columns, ByteSink sink, const Fields& fields)
       : columns_(columns), sink_(std::move(sink)), form_(fields) {}
 
-  void begin(const OptionValues& ofAll) override {
-    sink_(R"({"tarnwick": 1, )" + (columns_.options ? R"("options": )" + jsonLine(optionsJson(ofAll)) + ", " : "") +
-          R"("sites": [)");
+  void begin(const OptionValues& ofAll, const std::vector<ListedChannel>& channels) override {
+    sink_(R"({"tarnwick": 1, )" + (columns_.options ? R"("options": )" + jsonLine(optionsJson(ofAll)) + ", " : ""));
+    if (!channels.empty()) {
+      sink_(R"("channels": )" + jsonLine(channelsJson(channels)) + ",\n");
+    }
+    sink_(R"("sites": [)");
   }
 
   void add(const ListedSite& site) override {

@@ -66,4 +66,22 @@ std::size_t terminalWidth() {
              : kUsualTerminalWidth;
 }
 
+struct HiddenTyping::Before {
+  DWORD mode = 0;
+};
+
+HiddenTyping::HiddenTyping() {
+  Before before;
+  if (GetConsoleMode(GetStdHandle(STD_INPUT_HANDLE), &before.mode) != FALSE) {
+    before_ = std::make_unique<Before>(before);
+    SetConsoleMode(GetStdHandle(STD_INPUT_HANDLE), before.mode & ~static_cast<DWORD>(ENABLE_ECHO_INPUT));
+  }
+}
+
+HiddenTyping::~HiddenTyping() {
+  if (before_) {
+    SetConsoleMode(GetStdHandle(STD_INPUT_HANDLE), before_->mode);
+  }
+}
+
 }  // namespace tarnwick

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -23,6 +24,9 @@ class WorkApart {
   /// For the work, within itself: from here on it takes at most `bytes` more of memory, and is refused what is beyond
   /// that (std::bad_alloc). Does nothing where the work is done in this process, or the system cannot tell.
   static void limitMemory(std::size_t bytes);
+  /// For the work, within itself: it comes to a bad end after so much time of a processor, which is one second at
+  /// least. Does nothing where the work is done in this process.
+  static void limitTime(std::chrono::seconds time);
 
   /// Starts it. Raises std::system_error when the system has no room for a process.
   explicit WorkApart(const Work& work);

@@ -20,7 +20,7 @@ namespace tarnwick {
 namespace {
 
 // A damaged file can send a library in circles.
-constexpr rlim_t kMostProcessorSeconds = 300;
+constexpr std::chrono::seconds kMostProcessorTime{300};
 // At once, so that the one who takes it can do something else between.
 constexpr std::size_t kPiece = std::size_t{1} << 20U;
 
@@ -48,8 +48,7 @@ bool writeAll(int pipe, std::string_view bytes) {
     ::dup2(nowhere, STDOUT_FILENO);
     ::dup2(nowhere, STDERR_FILENO);
   }
-  const rlimit seconds{kMostProcessorSeconds, kMostProcessorSeconds};
-  ::setrlimit(RLIMIT_CPU, &seconds);
+  WorkApart::limitTime(kMostProcessorTime);
   const rlimit noCore{0, 0};
   ::setrlimit(RLIMIT_CORE, &noCore);
   bool good = false;
@@ -75,6 +74,12 @@ void WorkApart::limitMemory([[maybe_unused]] std::size_t bytes) {
     ::setrlimit(RLIMIT_AS, &memory);
   }
 #endif
+}
+
+void WorkApart::limitTime(std::chrono::seconds time) {
+  const auto seconds = static_cast<rlim_t>(std::max<std::chrono::seconds::rep>(time.count(), 1));
+  const rlimit most{seconds, seconds};
+  ::setrlimit(RLIMIT_CPU, &most);
 }
 
 struct WorkApart::Process {

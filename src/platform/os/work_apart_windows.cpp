@@ -15,6 +15,8 @@ WorkApart::~WorkApart() = default;
 
 void WorkApart::limitMemory(std::size_t /*bytes*/) {}
 
+void WorkApart::limitTime(std::chrono::seconds /*time*/) {}
+
 int WorkApart::handle() const { return -1; }
 
 bool WorkApart::take() { return true; }

@@ -17,9 +17,8 @@ class CurlEventLoop;
 /// hold. Where certificates are not OpenSSL's affair nothing is kept, and the library judges them in its own way.
 class Authorities : public std::enable_shared_from_this<Authorities> {
  public:
-  /// `file` in PEM, the system's when that is empty; `folder` with the names that `openssl rehash` gives, the system's
-  /// when that is empty.
-  Authorities(std::string file, std::string folder);
+  /// `file` in PEM, `folder` with the names that `openssl rehash` gives; those of the system where neither is named.
+  Authorities(const std::string& file, const std::string& folder);
   ~Authorities();
   Authorities(const Authorities&) = delete;
   Authorities& operator=(const Authorities&) = delete;

@@ -101,9 +101,9 @@ struct Authorities::Store {
   State state = State::reading;
 };
 
-Authorities::Authorities(std::string file, std::string folder)
-    : file_(file.empty() ? textOf(library().cainfo) : std::move(file)),
-      folder_(folder.empty() ? textOf(library().capath) : std::move(folder)) {}
+Authorities::Authorities(const std::string& file, const std::string& folder)
+    : file_(file.empty() ? textOf(library().cainfo) : file),
+      folder_(folder.empty() && file.empty() ? textOf(library().capath) : folder) {}
 
 Authorities::~Authorities() = default;
 

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/web/authorities.h"
 
-#include <utility>
-
 namespace tarnwick {
 
 // Windows itself judges certificates, by a list that it keeps in memory.
 
 struct Authorities::Store {};
 
-Authorities::Authorities(std::string file, std::string folder) : file_(std::move(file)), folder_(std::move(folder)) {}
+Authorities::Authorities(const std::string& file, const std::string& folder) : file_(file), folder_(folder) {}
 
 Authorities::~Authorities() = default;
 

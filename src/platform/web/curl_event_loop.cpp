@@ -85,13 +85,14 @@ CurlEventLoop::~CurlEventLoop() {
   curl_multi_cleanup(multi_);
 }
 
-bool CurlEventLoop::start(CURL* easy, milliseconds timeout, std::function<void(CURLcode)> done) {
+bool CurlEventLoop::start(CURL* easy, milliseconds timeout, std::function<void(CURLcode)> done,
+                          std::function<void()> connected) {
   // What the program has done before is not for this transfer.
   extendDeadlines();
   boundWaitsInside(easy, timeout);
   enteredAt_ = steady_clock::now();
   const TransferClock clock(enteredAt_, timeout);
-  transfers_.insert_or_assign(easy, Transfer{std::move(done), clock});
+  transfers_.insert_or_assign(easy, Transfer{std::move(done), std::move(connected), clock});
   if (curl_multi_add_handle(multi_, easy) != CURLM_OK) {
     transfers_.erase(easy);
     return false;
@@ -196,7 +197,7 @@ void CurlEventLoop::act(curl_socket_t socket, int events) {
 void CurlEventLoop::collectEnded() {
   int left = 0;
   while (const CURLMsg* message = curl_multi_info_read(multi_, &left)) {
-    if (message->msg != CURLMSG_DONE) {
+    if (message->msg != CURLMSG_DONE || staysConnected(*message)) {
       continue;
     }
     // The message is gone once its handle is taken out.
@@ -204,6 +205,15 @@ void CurlEventLoop::collectEnded() {
   }
   while (endNext(&Transfer::starved, kStarved)) {
   }
+}
+
+bool CurlEventLoop::staysConnected(const CURLMsg& message) {
+  const auto found = transfers_.find(message.easy_handle);
+  if (found == transfers_.end() || !found->second.connected || message.data.result != CURLE_OK) {
+    return false;
+  }
+  found->second.connected();
+  return true;
 }
 
 bool CurlEventLoop::endNext(bool Transfer::*marked, CURLcode result) {

@@ -32,7 +32,11 @@ class CurlEventLoop {
   /// Starts the transfer, which may take `timeout`. When it ends the handle is taken out and `done` is called with its
   /// result, from the event loop; with `kStarved` when this machine had no memory for it. `done` must not start or
   /// stop a transfer nor handle events, and raises nothing. False when libcurl did not take the handle.
-  bool start(CURL* easy, std::chrono::milliseconds timeout, std::function<void(CURLcode)> done);
+  ///
+  /// With `connected` it is a transfer that only connects (CURLOPT_CONNECT_ONLY): that is called when it has, in the
+  /// same way, and the handle stays in until it is stopped, or `done` tells that the time is over.
+  bool start(CURL* easy, std::chrono::milliseconds timeout, std::function<void(CURLcode)> done,
+             std::function<void()> connected = {});
   /// Ends the transfer at once; its `done` is not called. Harmless when it is not under way.
   void stop(CURL* easy);
 
@@ -57,6 +61,7 @@ class CurlEventLoop {
 
   struct Transfer {
     std::function<void(CURLcode)> done;
+    std::function<void()> connected;
     TransferClock clock;
     /// It is overdue; what has arrived for it is still looked at once.
     bool lastRound = false;
@@ -79,6 +84,7 @@ class CurlEventLoop {
   void act(curl_socket_t socket, int events);
   bool endNext(bool Transfer::*marked, CURLcode result);
   void collectEnded();
+  bool staysConnected(const CURLMsg& message);
   void endWith(CURL* easy, CURLcode result);
   void beat();
   void pollConnecting();

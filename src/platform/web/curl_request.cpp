@@ -185,7 +185,7 @@ void CurlRequest::noteSent(curl_off_t bodyBytes) {
   }
   long requestBytes = 0;
   curl_easy_getinfo(easy_.get(), CURLINFO_REQUEST_SIZE, &requestBytes);
-  const auto wanted = request_.method == "POST" ? static_cast<curl_off_t>(request_.body.size()) : curl_off_t{0};
+  const auto wanted = sendsBody() ? static_cast<curl_off_t>(request_.body.size()) : curl_off_t{0};
   if (requestBytes > 0 && bodyBytes >= wanted) {
     reach(transfer_state::requestSent);
   }

@@ -78,6 +78,7 @@ class CurlRequest {
   void setBounds();
   void setCaches();
   void setTarget();
+  bool sendsBody() const;
   void setMethod();
   void setHeaders();
   void setCredentials();

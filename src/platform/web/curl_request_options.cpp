@@ -112,7 +112,7 @@ void CurlRequest::setTarget() {
   set(easy, CURLOPT_URL, address ? address->bareUrl.c_str() : "");
   set(easy, CURLOPT_PROTOCOLS_STR, kFetchedSchemes);
   set(easy, CURLOPT_REDIR_PROTOCOLS_STR, kFetchedSchemes);
-  set(easy, CURLOPT_FOLLOWLOCATION, 1L);
+  set(easy, CURLOPT_FOLLOWLOCATION, request_.followsRedirects ? 1L : 0L);
   set(easy, CURLOPT_MAXREDIRS, static_cast<long>(kMaxRedirects));
   set(easy, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
   set(easy, CURLOPT_SSL_VERIFYPEER, 1L);
@@ -120,13 +120,23 @@ void CurlRequest::setTarget() {
   authorities_.prepare(easy);
 }
 
+bool CurlRequest::sendsBody() const {
+  const std::string& method = request_.method;
+  return method == "POST" || (request_.sendsBodyAlways && !method.empty() && method != "GET" && method != "HEAD");
+}
+
 void CurlRequest::setMethod() {
   CURL* const easy = easy_.get();
   const std::string& method = request_.method;
   if (method.empty() || method == "GET") {
     set(easy, CURLOPT_HTTPGET, 1L);
-  } else if (method == "POST") {
+  } else if (sendsBody()) {
     set(easy, CURLOPT_POST, 1L);
+    if (method != "POST") {
+      set(easy, CURLOPT_CUSTOMREQUEST, method.c_str());
+      // It stays what it is where the server leads elsewhere (RFC 9110, section 15.4), and so does what it carries.
+      set(easy, CURLOPT_POSTREDIR, static_cast<long>(CURL_REDIR_POST_301 | CURL_REDIR_POST_302));
+    }
     set(easy, CURLOPT_POSTFIELDS, request_.body.c_str());
     set(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request_.body.size()));
   } else if (method == "HEAD") {

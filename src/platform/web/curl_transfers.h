@@ -19,7 +19,8 @@ class CurlTransfers final : public TransferMaker {
   struct Options {
     /// PEM file of the certificate authorities to trust; empty means those of the system.
     std::string caFile{};
-    /// Folder of further ones, with the names that `openssl rehash` gives; empty means that of the system.
+    /// Folder of further ones, with the names that `openssl rehash` gives; empty means that of the system, and none
+    /// beside a file.
     std::string caFolder{};
     /// The largest page that is taken, in bytes after decoding.
     std::size_t largestPage = kLargestPage;
@@ -33,6 +34,10 @@ class CurlTransfers final : public TransferMaker {
 
   std::unique_ptr<TransferControl> makeTransferControl() override;
   bool hasWayOut() override;
+
+  /// What else speaks over libcurl shares these.
+  const std::shared_ptr<CurlEventLoop>& loop() const { return loop_; }
+  const std::shared_ptr<Authorities>& authorities() const { return authorities_; }
 
  private:
   Options options_;

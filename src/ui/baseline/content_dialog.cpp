@@ -30,7 +30,7 @@ std::string foreignMessage(const QString& character) {
 
 }  // namespace
 
-ContentDialog::ContentDialog(Program& program, QWidget* siteEditor) : QDialog(siteEditor), program_(program) {
+ContentDialog::ContentDialog(Program& program, QWidget* below) : QDialog(below), program_(program) {
   setObjectName(QStringLiteral("frmContent"));
   setWindowTitle(tr("Content"));
   layOut();
@@ -79,9 +79,9 @@ void ContentDialog::layOut() {
 
 void ContentDialog::Form_Load() {
   resize(kDefaultSize);
-  const QWidget& siteEditor = *parentWidget();
-  if (!siteEditor.isMinimized() && !siteEditor.isMaximized()) {
-    placeAt(*this, siteEditor, kBesideCorner);
+  const QWidget& below = *parentWidget();
+  if (!below.isMinimized() && !below.isMaximized()) {
+    placeAt(*this, below, kBesideCorner);
   }
 }
 
@@ -91,6 +91,12 @@ void ContentDialog::populateMe(std::int16_t idSite) {
   tContent_->setPage(program_.data().getContentCompare(idSite));
   holes_->start(idSite);
   btnHoles_->setChecked(holes_->hasAny());
+}
+
+void ContentDialog::proposeChanges(std::int16_t idSite) {
+  populateMe(idSite);
+  btnHoles_->setChecked(true);
+  holes_->propose();
 }
 
 void ContentDialog::setLoading(bool loading) {

@@ -22,11 +22,13 @@ class ContentDialog final : public QDialog, public UnsavedEdits {
   Q_OBJECT
 
  public:
-  /// `program` outlives the form. `siteEditor` is the window below it.
-  ContentDialog(Program& program, QWidget* siteEditor);
+  /// `program` outlives the form. `below` is the window below it.
+  ContentDialog(Program& program, QWidget* below);
 
   /// Shows the stored baseline of a site. Raises DataAccessError.
   void populateMe(std::int16_t idSite);
+  /// The same, with what of the latest page's difference looks like something that always changes as proposals.
+  void proposeChanges(std::int16_t idSite);
   /// Hides the form and has it taken down.
   void formExit();
 

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "engine/learnt.h"
 #include "holes/hole_values.h"
 #include "holes/judge.h"
 #include "page_rules/cut_page.h"
@@ -122,7 +123,8 @@ void HoleDraft::placeAgain(std::size_t from, std::size_t to) {
     if (missing != found.lost.end() && *missing == entries_[i].hole) {
       ++missing;
     } else {
-      entries_[i] = {*next++, false};
+      entries_[i].hole = *next++;
+      entries_[i].isLost = false;
       entries_[i].hole.begin += begin;
     }
   }
@@ -192,6 +194,13 @@ void HoleDraft::setHoles(Holes holes) {
     entries_.push_back({std::move(hole)});
   }
   look();
+}
+
+void HoleDraft::propose(const Holes& holes) {
+  setHoles(united(placed(), holes));
+  for (Entry& entry : entries_) {
+    entry.isProposed = std::ranges::find(holes, entry.hole.begin, &Hole::begin) != holes.end();
+  }
 }
 
 std::size_t HoleDraft::add(std::size_t begin, std::size_t end) {

@@ -25,6 +25,8 @@ class HoleDraft {
     Hole hole;
     /// Whether its place in the baseline is gone. It comes back with its place, as by an undo.
     bool isLost = false;
+    /// Whether nobody has asked for it: it was found in the difference from the latest page.
+    bool isProposed = false;
     /// What the latest page has there; nothing where that cannot be told.
     std::optional<std::string> seen{};
   };
@@ -50,6 +52,8 @@ class HoleDraft {
   void setRules(std::vector<PageRule> rules);
   /// Instead of all holes.
   void setHoles(Holes holes);
+  /// In place of those that they touch, marked as proposed.
+  void propose(const Holes& holes);
   /// Makes a hole of that part of the baseline, and of the holes that it touches; returns its place among the entries.
   std::size_t add(std::size_t begin, std::size_t end);
   void remove(std::size_t entry);

@@ -9,8 +9,8 @@
 
 #include "base/visible_text.h"
 #include "holes/hole_words.h"
-#include "ui/baseline/row_table.h"
 #include "ui/controls/display_text.h"
+#include "ui/controls/row_table.h"
 
 namespace tarnwick {
 namespace {
@@ -133,7 +133,8 @@ QString HoleTableModel::toolTipOf(int row, int column) const {
     return entry.seen ? textOf(row, column)
                       : tr("Not known: there is no page yet, or it differs from the baseline before this place.");
   }
-  const QString words = displayMessage(describe(entry.hole));
+  const QString kind = displayMessage(describe(entry.hole));
+  const QString words = entry.isProposed ? tr("%1: proposed. OK stores it, Remove drops it.").arg(kind) : kind;
   return column == lengthColumn && entry.hole.kind == HoleClass::digits ? tr("%1; separators do not count").arg(words)
                                                                         : words;
 }
@@ -144,9 +145,12 @@ QVariant HoleTableModel::data(const QModelIndex& index, int role) const {
   }
   const HoleDraft::Entry& entry = draft_.entries()[static_cast<std::size_t>(index.row())];
   switch (role) {
-    case Qt::AccessibleTextRole:
-      return QStringLiteral("%1: %2").arg(headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString(),
-                                          textOf(index.row(), index.column()));
+    case Qt::AccessibleTextRole: {
+      const QString text = textOf(index.row(), index.column());
+      return QStringLiteral("%1: %2").arg(
+          headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString(),
+          entry.isProposed && index.column() == placeColumn ? tr("%1, proposed").arg(text) : text);
+    }
     case Qt::EditRole:
       return index.column() == whatColumn ? QVariant(static_cast<int>(entry.hole.kind))
                                           : QVariant(textOf(index.row(), index.column()));
@@ -158,6 +162,7 @@ QVariant HoleTableModel::data(const QModelIndex& index, int role) const {
       // What is left to say of it stays readable.
       QFont font;
       font.setStrikeOut(entry.isLost && index.column() != seenColumn);
+      font.setBold(entry.isProposed);
       return font;
     }
     default:

@@ -26,7 +26,11 @@ constexpr std::chrono::milliseconds kSettled{200};
 }  // namespace
 
 HolesPanel::HolesPanel(Program& program, BaselineEdit& text, QWidget* parent)
-    : QGroupBox(parent), program_(program), text_(text), model_(draft_) {
+    : QGroupBox(parent),
+      program_(program),
+      text_(text),
+      model_(draft_),
+      comparing_({program.data(), program.services().transfers, program.services().timers, program.services().clock}) {
   setObjectName(QStringLiteral("frameHoles"));
   settled_.setSingleShot(true);
   settled_.setInterval(kSettled);
@@ -38,6 +42,11 @@ HolesPanel::HolesPanel(Program& program, BaselineEdit& text, QWidget* parent)
 void HolesPanel::layOut() {
   watched_ = new AmberLine(this);
   watched_->setObjectName(QStringLiteral("holesWatched"));
+  proposed_ = named(new QLabel(this), "holesProposed");
+  proposed_->setTextFormat(Qt::PlainText);
+  proposed_->setWordWrap(true);
+  proposed_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  proposed_->hide();
   table_ = named(new HoleTable(this), "holes", tr("What may vary"));
   table_->setHoles(model_);
   btnMayVary_ = addButton(*this, "btnMayVary", tr("May &Vary Here"),
@@ -51,6 +60,7 @@ void HolesPanel::layOut() {
   }
   auto* lines = new QVBoxLayout(this);
   lines->addWidget(watched_);
+  lines->addWidget(proposed_);
   lines->addWidget(table_, 1);
   lines->addLayout(buttons);
   mayVary_ = new QAction(tr("May &Vary Here"), &text_);

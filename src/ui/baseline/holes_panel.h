@@ -40,6 +40,9 @@ class HolesPanel final : public QGroupBox {
 
   /// Makes a hole of the text that is selected.
   void mayVaryHere();
+  /// Looks what of the difference between the baseline and the latest page looks like something that always changes,
+  /// and adds it to the list, as proposals, with a sentence what was seen.
+  void propose();
 
  Q_SIGNALS:
   /// The text box shows a page that was fetched.
@@ -55,6 +58,9 @@ class HolesPanel final : public QGroupBox {
   void openBefore(QDialog& dialog);
   void learn();
   void take(const Learnt& learnt);
+  void showProposals(const Learnt& learnt);
+  static QString wordsOf(const Learnt& learnt, const std::string& baseline);
+  void tellProposals(const QString& sentence);
   void chooseRules();
   void removeChosen();
   void editHoles();
@@ -72,9 +78,11 @@ class HolesPanel final : public QGroupBox {
   HoleDraft draft_;
   HoleTableModel model_;
   bool edited_ = false;
+  PageLearning comparing_;
   QTimer settled_;
   QAction* mayVary_ = nullptr;
   QLabel* watched_ = nullptr;
+  QLabel* proposed_ = nullptr;
   HoleTable* table_ = nullptr;
   QPushButton* btnMayVary_ = nullptr;
   QPushButton* btnLearn_ = nullptr;

@@ -135,7 +135,7 @@ QWidget* LearnDialog::makePlan() {
 void LearnDialog::start() {
   const std::chrono::seconds over(spread_->isChecked() ? over_->currentData().toInt() : 0);
   learning_.start(idSite_, baseline_, {times_->value(), over},
-                  {[this](int done) { program_.faults().run([&] { progress_->setValue(done); }); },
+                  {[this](int done) { program_.faults().run([&] { showProgress(done); }); },
                    [this](Learnt learnt) { program_.faults().run([&] { showLearnt(std::move(learnt)); }); },
                    [this](const std::string& why) {
                      program_.faults().run([&] {
@@ -147,6 +147,13 @@ void LearnDialog::start() {
   plan_->setEnabled(false);
   btnTake_->setEnabled(false);
   tell(tr("Fetching the page …"), {});
+}
+
+void LearnDialog::showProgress(int fetched) {
+  progress_->setValue(fetched);
+  if (fetched == progress_->maximum()) {
+    tell(tr("Looking at what varies …"), {});
+  }
 }
 
 void LearnDialog::stop() {

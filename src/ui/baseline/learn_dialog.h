@@ -34,6 +34,7 @@ class LearnDialog final : public QDialog {
  private:
   QWidget* makePlan();
   void start();
+  void showProgress(int fetched);
   void stop();
   void showLearnt(Learnt learnt);
   void tell(const QString& result, const QStringList& warnings);

@@ -10,9 +10,9 @@
 #include <QStyledItemDelegate>
 
 #include "page_rules/found_ranges.h"
-#include "ui/baseline/row_table.h"
 #include "ui/controls/colour_text.h"
 #include "ui/controls/display_text.h"
+#include "ui/controls/row_table.h"
 #include "ui/controls/tones.h"
 
 namespace tarnwick {

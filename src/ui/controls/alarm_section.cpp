@@ -23,15 +23,19 @@ constexpr std::string_view kNone = "none";
 
 }  // namespace
 
-AlarmSection::AlarmSection(bool ofAll, QWidget* parent) : QWidget(parent), ofAll_(ofAll) {
+AlarmSection::AlarmSection(Program& program, bool ofAll, QWidget* parent) : QWidget(parent), ofAll_(ofAll) {
   auto* presets = addFrame(*this, "alarmTellMe", tr("Tell me"));
   makePresets(*presets);
   details_ = new AlarmDetails(this);
+  channels_ = new ChannelChoice(program, ofAll, this);
   makeQuiet();
   details_->lines().addStretch();
   example_ = named(new AlarmStrip(this), "alarmExample");
   auto* frames = new QHBoxLayout;
-  frames->addWidget(presets);
+  auto* left = new QVBoxLayout;
+  left->addWidget(presets, 1);
+  left->addWidget(channels_);
+  frames->addLayout(left);
   frames->addWidget(details_, 1);
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins({});
@@ -39,6 +43,9 @@ AlarmSection::AlarmSection(bool ofAll, QWidget* parent) : QWidget(parent), ofAll
   lines->addLayout(frames);
   lines->addWidget(example_);
   connect(details_, &AlarmDetails::touched, this, &AlarmSection::touch);
+  connect(channels_, &ChannelChoice::chosen, this, [this](const QString& value) {
+    value.isEmpty() ? options_.unset(option_name::channels) : options_.set(option_name::channels, value.toStdString());
+  });
 }
 
 QString AlarmSection::captionOf(AlarmPreset preset, bool ofAll) {
@@ -64,7 +71,8 @@ bool AlarmSection::isFor(const std::vector<OptionField>& options) {
 }
 
 bool AlarmSection::hasPlaceFor(std::string_view option) {
-  constexpr std::array kBeside{option_name::quiet, option_name::quietHow, option_name::maintenance, option_name::pause};
+  constexpr std::array kBeside{option_name::quiet, option_name::quietHow, option_name::maintenance, option_name::pause,
+                               option_name::channels};
   return std::ranges::find(kPresetOptions, option) != kPresetOptions.end() ||
          std::ranges::find(kBeside, option) != kBeside.end();
 }
@@ -143,6 +151,7 @@ void AlarmSection::setValues(OptionEdit options, LocalTime now) {
   if (ofAll_ && presets_[static_cast<std::size_t>(AlarmPreset::everyCheck)]->isChecked()) {
     presets_[static_cast<std::size_t>(AlarmPreset::own)]->setChecked(true);
   }
+  channels_->setValues(options_);
   showAll();
 }
 

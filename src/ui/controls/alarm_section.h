@@ -15,6 +15,7 @@
 #include "store/option_table.h"
 #include "ui/controls/alarm_details.h"
 #include "ui/controls/alarm_strip.h"
+#include "ui/controls/channel_choice.h"
 #include "ui/controls/option_edit.h"
 
 namespace tarnwick {
@@ -25,14 +26,15 @@ class AlarmSection final : public QWidget {
   Q_OBJECT
 
  public:
-  explicit AlarmSection(bool ofAll, QWidget* parent = nullptr);
+  /// `program` outlives this.
+  AlarmSection(Program& program, bool ofAll, QWidget* parent = nullptr);
 
   /// Whether the program has the options that this is about.
   static bool isFor(const std::vector<OptionField>& options);
   /// Whether the option has its control here, or on the page of the pauses.
   static bool hasPlaceFor(std::string_view option);
 
-  /// Shows these values; what was changed before is dropped.
+  /// Shows these values; what was changed before is dropped. Raises DataAccessError.
   void setValues(OptionEdit options, LocalTime now);
   /// How often the site is checked, for the example.
   void setInterval(std::chrono::minutes interval);
@@ -64,6 +66,7 @@ class AlarmSection final : public QWidget {
   AlarmDetails* details_;
   QComboBox* quiet_ = nullptr;
   QComboBox* quietHow_ = nullptr;
+  ChannelChoice* channels_;
   AlarmStrip* example_;
   QWidget* paused_ = nullptr;
   QLabel* pausedText_ = nullptr;

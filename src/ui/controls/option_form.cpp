@@ -101,7 +101,7 @@ void OptionForm::makeRows() {
   auto* all = new QVBoxLayout(page);
   const bool ofAll = idSite_ == kAllSites;
   if (AlarmSection::isFor(program_.data().optionFields())) {
-    alarm_ = new AlarmSection(ofAll, page);
+    alarm_ = new AlarmSection(program_, ofAll, page);
     alarm_->setInterval(interval_);
     all->addWidget(alarm_);
   }

@@ -7,8 +7,10 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QListView>
+#include <QPointer>
 #include <QVBoxLayout>
 
+#include "delivery/delivery.h"
 #include "exchange/list/site_import.h"
 #include "platform/file_system.h"
 #include "store/database.h"
@@ -198,7 +200,7 @@ void ImportDialog::tellPlan() {
                             .arg(plan.count(change))
                             .arg(plan.unchanged)
                             .arg(list_.list.content.notes.size()));
-  btnImport_->setEnabled(!plan.steps.empty() || plan.optionsOfAll);
+  btnImport_->setEnabled(!plan.steps.empty() || plan.optionsOfAll || !plan.channels.empty());
   btnImport_->setDefault(true);
   if (!btnImport_->isEnabled()) {
     showNothingLeftToDo();
@@ -232,6 +234,16 @@ void ImportDialog::lookAtImport() {
     read();  // for the next attempt
     throw;
   }
+  for (const auto& [channel, secret] : channelsWithSecret(program_.data(), work_->plan())) {
+    program_.data().delivery().secrets().store(
+        secretName(channel.id), *secret, [dialog = QPointer(this)](const std::string& why) {
+          if (dialog && !why.empty()) {
+            dialog->importState_->setText(dialog->importState_->text() + QLatin1Char('\n') +
+                                          QString::fromStdString(why));
+          }
+        });
+  }
+  program_.data().delivery().deliver();
   showNothingLeftToDo();
   program_.run().init();
 }

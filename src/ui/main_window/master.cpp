@@ -20,6 +20,7 @@
 #include "ui/controls/program_file.h"
 #include "ui/main_window/damage_box.h"
 #include "ui/main_window/master_pictures.h"
+#include "ui/main_window/notice_actions.h"
 #include "ui/main_window/site_menu.h"
 
 namespace tarnwick {
@@ -28,10 +29,6 @@ namespace {
 const QString kHelpFile = QStringLiteral("/help.html");
 constexpr QSize kDefaultSize{820, 580};
 constexpr QSize kSmallestSize{660, 380};
-
-QString versionText() {
-  return QStringLiteral("Version:%1.%2").arg(TARNWICK_VERSION_MAJOR).arg(TARNWICK_VERSION_MINOR);
-}
 
 /// A folder in the user's home as a shell writes it: the foot line has little room.
 QString withTilde(const QString& folder) {
@@ -59,7 +56,9 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   setCentralWidget(canvas);
   notices_ = new Notices(program_, *controls_.noticeBar, *controls_.grid1, this);
   marks_ = new AlarmMarks(program_, sites_, this);
-  new SiteMenu(program_, *controls_.grid1, *controls_.pauseAll, this);
+  auto* menu = new SiteMenu(program_, *controls_.grid1, *controls_.pauseAll, this);
+  connect(menu, &SiteMenu::alwaysChanges, this,
+          [this](std::int16_t idSite) { program_.faults().run([&] { editors_.site.propose(idSite); }); });
   connect(marks_, &AlarmMarks::pauseRead, notices_, &Notices::tellPaused);
   setObjectName(QStringLiteral("master"));
   setAccessibleName(QString::fromLatin1(kProductName));
@@ -107,11 +106,13 @@ void Master::tellNotice() {
 }
 
 void Master::fullInit() {
-  controls_.lblVersion->setText(versionText());
+  controls_.lblVersion->setText(
+      QStringLiteral("Version:%1.%2").arg(TARNWICK_VERSION_MAJOR).arg(TARNWICK_VERSION_MINOR));
   loadPictures(controls_, program_.programFolder());
   controls_.lClock->clear();
   setupGridHeader();
   controls_.pb1->fill();
+  followDelivery(program_, *notices_, *controls_.grid1, editors_.site);
   program_.start();
 }
 
@@ -125,6 +126,8 @@ void Master::connectControls() {
   connectAction(controls_.makeNew, QKeySequence::New, &Master::btnNew_Click);
   connectAction(controls_.setup, {}, &Master::btnSetup_Click);
   connect(controls_.importList, &QAction::triggered, this, [this] { program_.faults().run(editors_.importList); });
+  connect(controls_.outbox, &QAction::triggered, this, [this] { program_.faults().run(editors_.outbox); });
+  connect(notices_, &Notices::outboxWanted, controls_.outbox, &QAction::trigger);
   connect(controls_.grid1, &SiteGridView::rowChosen, this, &Master::grid1_Click);
   connect(controls_.Label1, &LinkButton::clicked, this, &Master::Label1_Click);
   // In every window of the program.
@@ -144,12 +147,13 @@ void Master::connectAction(const ActionControls& action, const QKeySequence& sho
 
 void Master::setEditors(Editors editors) {
   editors_ = std::move(editors);
-  const bool settings = static_cast<bool>(editors_.settings);
   const QString toolTip =
-      settings ? tr("Change the settings")
-               : tr("The settings are kept in the table \"control\" of the database; this window cannot change them");
-  controls_.setup.allow(settings, toolTip);
+      editors_.settings
+          ? tr("Change the settings")
+          : tr("The settings are kept in the table \"control\" of the database; this window cannot change them");
+  controls_.setup.allow(static_cast<bool>(editors_.settings), toolTip);
   controls_.importList->setEnabled(static_cast<bool>(editors_.importList));
+  controls_.outbox->setEnabled(static_cast<bool>(editors_.outbox));
 }
 
 void Master::btnStart_Click() { program_.startRun(); }

@@ -25,6 +25,8 @@ struct Editors {
   std::function<void()> settings;
   /// Lets the user choose a file whose sites come into the list.
   std::function<void()> importList{};
+  /// Shows the alerts that are on their way.
+  std::function<void()> outbox{};
 };
 
 /// The main window, the only one that stands as long as the program runs: the list of sites, the lamps of the run, its

@@ -51,6 +51,11 @@ void makeListMenu(QWidget& canvas, MasterControls& controls) {
   auto* menu = new QMenu(controls.listButton);
   controls.importList = menu->addAction(QObject::tr("&Import..."));
   controls.importList->setObjectName(QStringLiteral("importList"));
+  controls.outbox = menu->addAction(QObject::tr("&Outbox…"));
+  controls.outbox->setObjectName(QStringLiteral("outbox"));
+  controls.outbox->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_O);
+  // Its key holds in the window, not in the menu alone.
+  canvas.addAction(controls.outbox);
   controls.pauseAll = menu->addMenu(QObject::tr("&Pause All"));
   controls.pauseAll->setObjectName(QStringLiteral("pauseAll"));
   controls.listButton->setMenu(menu);

@@ -39,6 +39,7 @@ struct MasterControls {
   /// What is done with the list as a whole, as a menu.
   QPushButton* listButton;
   QAction* importList;
+  QAction* outbox;
   QMenu* pauseAll;
   SiteGridView* grid1;
   StatusLine* lStatus;

@@ -52,26 +52,26 @@ void paintBars(QPainter& painter) {
   painter.drawRect(QRectF(9.0, 2.5, 2.0, 9.0));
 }
 
-NoticeTone toneOf(Notice::Icon icon) {
-  return icon == Notice::Icon::letter || icon == Notice::Icon::eye ? NoticeTone::amber : NoticeTone::blue;
+NoticeTone toneOf(NoticeButton::Icon icon) {
+  return icon == NoticeButton::Icon::letter || icon == NoticeButton::Icon::eye ? NoticeTone::amber : NoticeTone::blue;
 }
 
-void paintIcon(QPainter& painter, Notice::Icon icon, const QPoint& place, const QColor& ink) {
+void paintIcon(QPainter& painter, NoticeButton::Icon icon, const QPoint& place, const QColor& ink) {
   painter.save();
   painter.translate(place);
   painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.setBrush(Qt::NoBrush);
   switch (icon) {
-    case Notice::Icon::unplugged:
+    case NoticeButton::Icon::unplugged:
       paintPlug(painter);
       break;
-    case Notice::Icon::letter:
+    case NoticeButton::Icon::letter:
       paintLetter(painter);
       break;
-    case Notice::Icon::eye:
+    case NoticeButton::Icon::eye:
       paintEye(painter);
       break;
-    case Notice::Icon::bars:
+    case NoticeButton::Icon::bars:
       paintBars(painter);
       break;
   }
@@ -80,7 +80,7 @@ void paintIcon(QPainter& painter, Notice::Icon icon, const QPoint& place, const 
 
 }  // namespace
 
-Notice::Notice(Icon icon, QWidget* parent) : QPushButton(parent), icon_(icon) {
+NoticeButton::NoticeButton(Icon icon, QWidget* parent) : QPushButton(parent), icon_(icon) {
   setFlat(true);
   setAutoDefault(true);  // so that Enter does what Space does
   setCursor(Qt::PointingHandCursor);
@@ -88,7 +88,7 @@ Notice::Notice(Icon icon, QWidget* parent) : QPushButton(parent), icon_(icon) {
   hide();
 }
 
-void Notice::tell(const QString& sentence, const QString& action) {
+void NoticeButton::tell(const QString& sentence, const QString& action) {
   const QString line = sentence.left(kLongestMeasured).simplified();
   if (line != sentence_ || action != action_) {
     sentence_ = line;
@@ -103,40 +103,40 @@ void Notice::tell(const QString& sentence, const QString& action) {
   setVisible(!line.isEmpty());
 }
 
-QFont Notice::actionFont() const {
+QFont NoticeButton::actionFont() const {
   QFont underlined = font();
   underlined.setUnderline(true);
   return underlined;
 }
 
-int Notice::actionWidth() const { return QFontMetrics(actionFont()).horizontalAdvance(action_); }
+int NoticeButton::actionWidth() const { return QFontMetrics(actionFont()).horizontalAdvance(action_); }
 
-QRect Notice::sentenceRect() const {
+QRect NoticeButton::sentenceRect() const {
   return rect().adjusted(kPadding + kIconSize + kGap, 0, -(kPadding + actionWidth() + 2 * kGap), 0);
 }
 
-QSize Notice::sizeHint() const {
+QSize NoticeButton::sizeHint() const {
   return {minimumSizeHint().width() - kLeastLetters * fontMetrics().averageCharWidth() +
               fontMetrics().horizontalAdvance(sentence_) + 1,
           minimumSizeHint().height()};
 }
 
-QSize Notice::minimumSizeHint() const {
+QSize NoticeButton::minimumSizeHint() const {
   return {2 * kPadding + kIconSize + 3 * kGap + actionWidth() + kLeastLetters * fontMetrics().averageCharWidth(),
           std::max(kHeight, fontMetrics().height() + kVerticalPadding)};
 }
 
-void Notice::resizeEvent(QResizeEvent* event) {
+void NoticeButton::resizeEvent(QResizeEvent* event) {
   QPushButton::resizeEvent(event);
   explainWhatIsCut();
 }
 
-void Notice::explainWhatIsCut() {
+void NoticeButton::explainWhatIsCut() {
   const bool isCut = fontMetrics().horizontalAdvance(sentence_) > sentenceRect().width();
   explain(*this, isCut ? sentence_ : QString());
 }
 
-void Notice::paintEvent(QPaintEvent*) {
+void NoticeButton::paintEvent(QPaintEvent*) {
   const NoticeColours colours = noticeColours(toneOf(icon_), isDark(palette()));
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -158,10 +158,10 @@ void Notice::paintEvent(QPaintEvent*) {
 }
 
 NoticeBar::NoticeBar(QWidget* parent) : QWidget(parent) {
-  offline_ = add(Notice::Icon::unplugged, "noticeOffline");
-  outbox_ = add(Notice::Icon::letter, "noticeOutbox");
-  unwatched_ = add(Notice::Icon::eye, "noticeUnwatched");
-  paused_ = add(Notice::Icon::bars, "noticePaused");
+  offline_ = add(NoticeButton::Icon::unplugged, "noticeOffline");
+  outbox_ = add(NoticeButton::Icon::letter, "noticeOutbox");
+  unwatched_ = add(NoticeButton::Icon::eye, "noticeUnwatched");
+  paused_ = add(NoticeButton::Icon::bars, "noticePaused");
   more_ = new QLabel(this);
   more_->setObjectName(QStringLiteral("noticeMore"));
   more_->hide();
@@ -169,15 +169,15 @@ NoticeBar::NoticeBar(QWidget* parent) : QWidget(parent) {
   hide();
 }
 
-Notice* NoticeBar::add(Notice::Icon icon, const char* name) {
-  auto* notice = new Notice(icon, this);
+NoticeButton* NoticeBar::add(NoticeButton::Icon icon, const char* name) {
+  auto* notice = new NoticeButton(icon, this);
   notice->setObjectName(QString::fromLatin1(name));
   return notice;
 }
 
-std::vector<Notice*> NoticeBar::shown() const {
-  std::vector<Notice*> notices{offline_, outbox_, unwatched_, paused_};
-  std::erase_if(notices, [](const Notice* notice) { return notice->sentence().isEmpty(); });
+std::vector<NoticeButton*> NoticeBar::shown() const {
+  std::vector<NoticeButton*> notices{offline_, outbox_, unwatched_, paused_};
+  std::erase_if(notices, [](const NoticeButton* notice) { return notice->sentence().isEmpty(); });
   return notices;
 }
 
@@ -197,38 +197,38 @@ void NoticeBar::resizeEvent(QResizeEvent* event) {
 
 // Where there is no room for all, the longest give way, and those that need less than their part keep what they need.
 void NoticeBar::arrange() {
-  std::vector<Notice*> notices = shown();
+  std::vector<NoticeButton*> notices = shown();
   QStringList others;
   while (notices.size() > kMostShown) {
     others.prepend(notices.back()->sentence());
     notices.back()->hide();
     notices.pop_back();
   }
-  for (Notice* notice : notices) {
+  for (NoticeButton* notice : notices) {
     notice->show();
   }
   more_->setText(QStringLiteral("+%1").arg(others.size()));
   explain(*more_, others.join(QLatin1Char('\n')));
   more_->setVisible(!others.isEmpty());
   const int roomForMore = others.isEmpty() ? 0 : more_->sizeHint().width() + kGap;
-  std::vector<Notice*> byLength = notices;
-  std::ranges::sort(byLength, {}, [](const Notice* notice) { return notice->sizeHint().width(); });
+  std::vector<NoticeButton*> byLength = notices;
+  std::ranges::sort(byLength, {}, [](const NoticeButton* notice) { return notice->sizeHint().width(); });
   auto left = static_cast<int>(byLength.size());
   int room = width() - roomForMore - (left - 1) * kGap;
-  for (Notice* notice : byLength) {
+  for (NoticeButton* notice : byLength) {
     const int part = std::min(notice->sizeHint().width(), room / left--);
     notice->resize(part, height());
     room -= part;
   }
   int x = 0;
-  for (Notice* notice : notices) {
+  for (NoticeButton* notice : notices) {
     notice->move(x, 0);
     x += notice->width() + kGap;
   }
   more_->setGeometry(x, 0, roomForMore, height());
 }
 
-void NoticeBar::tell(Notice& notice, const QString& sentence, const QString& action, QWidget& heir) {
+void NoticeBar::tell(NoticeButton& notice, const QString& sentence, const QString& action, QWidget& heir) {
   if (sentence.isEmpty() && notice.hasFocus()) {
     heir.setFocus();
   }

@@ -11,13 +11,13 @@ namespace tarnwick {
 
 /// One notice: an icon, a sentence and its one action, underlined, which a click anywhere on it does. A sentence that
 /// does not fit is shortened at its end and told by the tooltip; its beginning, where the number stands, stays.
-class Notice final : public QPushButton {
+class NoticeButton final : public QPushButton {
   Q_OBJECT
 
  public:
   enum class Icon { unplugged, letter, eye, bars };
 
-  explicit Notice(Icon icon, QWidget* parent = nullptr);
+  explicit NoticeButton(Icon icon, QWidget* parent = nullptr);
 
   /// What is to be said, plain and on one line, and what a click does about it; nothing to be said hides the notice.
   void tell(const QString& sentence, const QString& action);
@@ -50,15 +50,15 @@ class NoticeBar final : public QWidget {
   explicit NoticeBar(QWidget* parent = nullptr);
 
   /// The notices, in the order in which they stand.
-  Notice& offline() { return *offline_; }
-  Notice& outbox() { return *outbox_; }
-  Notice& unwatched() { return *unwatched_; }
-  Notice& paused() { return *paused_; }
+  NoticeButton& offline() { return *offline_; }
+  NoticeButton& outbox() { return *outbox_; }
+  NoticeButton& unwatched() { return *unwatched_; }
+  NoticeButton& paused() { return *paused_; }
   /// The first notice that is there; null when all is well.
-  Notice* first() const { return shown().empty() ? nullptr : shown().front(); }
+  NoticeButton* first() const { return shown().empty() ? nullptr : shown().front(); }
 
   /// Says something in one of the notices, or takes it away. The focus that goes with a notice is given to `heir`.
-  void tell(Notice& notice, const QString& sentence, const QString& action, QWidget& heir);
+  void tell(NoticeButton& notice, const QString& sentence, const QString& action, QWidget& heir);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
@@ -70,13 +70,13 @@ class NoticeBar final : public QWidget {
  private:
   void arrange();
   /// Those that have something to tell.
-  std::vector<Notice*> shown() const;
-  Notice* add(Notice::Icon icon, const char* name);
+  std::vector<NoticeButton*> shown() const;
+  NoticeButton* add(NoticeButton::Icon icon, const char* name);
 
-  Notice* offline_;
-  Notice* outbox_;
-  Notice* unwatched_;
-  Notice* paused_;
+  NoticeButton* offline_;
+  NoticeButton* outbox_;
+  NoticeButton* unwatched_;
+  NoticeButton* paused_;
   QLabel* more_;
 };
 

@@ -49,11 +49,11 @@ QString onOneLine(const QString& text) { return text.left(kLongestListed).simpli
 Notices::Notices(Program& program, NoticeBar& bar, SiteGridView& grid, QObject* parent)
     : QObject(parent), program_(program), bar_(bar), grid_(grid) {
   soon_.setSingleShot(true);
-  connect(&soon_, &QTimer::timeout, this, &Notices::countUnwatched);
-  connect(&bar_.outbox(), &Notice::clicked, this, &Notices::listLost);
-  connect(&bar_.unwatched(), &Notice::clicked, this, &Notices::helpUnwatched);
-  connect(&bar_.offline(), &Notice::clicked, this, [this] { program_.run().network().lookAtOnce(); });
-  connect(&bar_.paused(), &Notice::clicked, this, [this] { program_.faults().run([this] { resume(); }); });
+  connect(&soon_, &QTimer::timeout, this, &Notices::lookAround);
+  connect(&bar_.outbox(), &NoticeButton::clicked, this, &Notices::openOutbox);
+  connect(&bar_.unwatched(), &NoticeButton::clicked, this, &Notices::helpUnwatched);
+  connect(&bar_.offline(), &NoticeButton::clicked, this, [this] { program_.run().network().lookAtOnce(); });
+  connect(&bar_.paused(), &NoticeButton::clicked, this, [this] { program_.faults().run([this] { resume(); }); });
   connect(new QShortcut(Qt::Key_F6, bar_.window()), &QShortcut::activated, this, &Notices::switchArea);
   // Whoever comes back to the window may have started or ended a run elsewhere.
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
@@ -74,7 +74,7 @@ void Notices::lookNowAndThen() {
   }
 }
 
-void Notices::countUnwatched() {
+void Notices::lookAround() {
   try {
     if (!changes_) {
       changes_.emplace(program_.data().database());
@@ -83,16 +83,28 @@ void Notices::countUnwatched() {
     // A site may be overdue by nothing but the time.
     const auto minute = std::chrono::floor<std::chrono::minutes>(program_.services().clock.steadyNow());
     const bool isNewMinute = std::exchange(counted_, minute) != minute;
-    if (!std::exchange(isStale_, false) && !isChanged && !isNewMinute) {
+    const bool isFaultNew = program_.data().delivery().fault() != fault_;
+    if (!std::exchange(isStale_, false) && !isChanged && !isNewMinute && !isFaultNew) {
       return;
     }
-    const bool runIsOn = program_.run().running();
-    tellUnwatched(runIsOn || !anotherRunIsOn() ? program_.run().unwatched().count : 0, runIsOn);
+    countUnwatched();
+    lookAtOutbox();
   } catch (const std::exception&) {
     // That the list cannot be read is told elsewhere. What was counted last stays until it can be read again.
     isStale_ = true;
     soon_.start(kAfterFault);
   }
+}
+
+void Notices::countUnwatched() {
+  const bool runIsOn = program_.run().running();
+  tellUnwatched(runIsOn || !anotherRunIsOn() ? program_.run().unwatched().count : 0, runIsOn);
+}
+
+void Notices::lookAtOutbox() {
+  fault_ = program_.data().delivery().fault();
+  summary_ = program_.data().outboxSummary();
+  tellOutbox();
 }
 
 // As far as its file tells, which a run that was killed may have left behind.
@@ -140,7 +152,7 @@ void Notices::add(const LostMail& mail) {
     lost_.pop_front();
   }
   ++lostInAll_;
-  tellLost();
+  tellOutbox();
 }
 
 void Notices::tellOffline(std::optional<LocalTime> since) {
@@ -167,14 +179,42 @@ void Notices::resume() {
   program_.run().init();
 }
 
-void Notices::tellLost() {
-  QString sentence;
-  if (lostInAll_ > 0) {
-    const QString& why = lost_.back().why;
-    sentence = lostInAll_ == 1 ? tr("1 alert was not delivered: %1").arg(why)
-                               : tr("%1 alerts were not delivered: %2").arg(QString::number(lostInAll_), why);
+QString Notices::outboxSentence() const {
+  if (!fault_.empty()) {
+    return tr("No alert can be delivered: %1").arg(displayMessage(fault_));
   }
+  if (summary_.failed > 0) {
+    const QString why = onOneLine(displayMessage(summary_.failedBy));
+    return summary_.failed == 1 ? tr("1 alert was not delivered: %1").arg(why)
+                                : tr("%1 alerts were not delivered: %2").arg(QString::number(summary_.failed), why);
+  }
+  if (summary_.delayed > 0) {
+    const QString why = onOneLine(displayMessage(summary_.delayedBy));
+    return summary_.delayed == 1 ? tr("1 alert is waiting: %1").arg(why)
+                                 : tr("%1 alerts are waiting: %2").arg(QString::number(summary_.delayed), why);
+  }
+  return {};
+}
+
+// Mails that nobody tries again come first, and are over once they have been read.
+void Notices::tellOutbox() {
+  if (lostInAll_ == 0) {
+    bar_.tell(bar_.outbox(), outboxSentence(), tr("Outbox…"), grid_);
+    return;
+  }
+  const QString& why = lost_.back().why;
+  const QString sentence = lostInAll_ == 1
+                               ? tr("1 alert was not delivered: %1").arg(why)
+                               : tr("%1 alerts were not delivered: %2").arg(QString::number(lostInAll_), why);
   bar_.tell(bar_.outbox(), sentence, tr("Details"), grid_);
+}
+
+void Notices::openOutbox() {
+  if (lostInAll_ > 0) {
+    listLost();
+  } else {
+    Q_EMIT outboxWanted();
+  }
 }
 
 void Notices::listLost() {
@@ -189,13 +229,13 @@ void Notices::listLost() {
   }
   lost_.clear();
   lostInAll_ = 0;
-  tellLost();
+  tellOutbox();
   program_.services().prompts.inform(
       {.text = lines.join(QLatin1Char('\n')).toStdString(), .icon = PromptIcon::exclamation});
 }
 
 void Notices::switchArea() {
-  Notice* notice = bar_.first();
+  NoticeButton* notice = bar_.first();
   QWidget* const next = grid_.hasFocus() && notice != nullptr ? notice : static_cast<QWidget*>(&grid_);
   next->setFocus(Qt::ShortcutFocusReason);
 }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <deque>
 #include <optional>
+#include <string>
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -14,6 +15,7 @@
 #include "program/program.h"
 #include "store/alarm_values.h"
 #include "store/data_changes.h"
+#include "store/outbox.h"
 #include "ui/main_window/notice_bar.h"
 #include "ui/main_window/site_grid_view.h"
 
@@ -39,6 +41,10 @@ class Notices final : public QObject {
   /// Time goes by in a run: they are counted again within about a second, if anything was changed meanwhile.
   void lookNowAndThen();
 
+ Q_SIGNALS:
+  /// Somebody wants to see what is on its way.
+  void outboxWanted();
+
  private:
   struct Lost {
     std::int16_t idSite;
@@ -46,13 +52,17 @@ class Notices final : public QObject {
     QString why;
   };
 
+  void lookAround();
   void countUnwatched();
+  void lookAtOutbox();
   bool anotherRunIsOn() const;
   void tellUnwatched(std::int64_t count, bool runIsOn);
   void helpUnwatched();
   void showFirstUnwatched();
   void resume();
-  void tellLost();
+  void tellOutbox();
+  QString outboxSentence() const;
+  void openOutbox();
   void listLost();
   void switchArea();
 
@@ -61,6 +71,8 @@ class Notices final : public QObject {
   SiteGridView& grid_;
   std::deque<Lost> lost_;  // the last ones
   std::size_t lostInAll_ = 0;
+  OutboxSummary summary_;
+  std::string fault_;
   QTimer soon_;
   bool isStale_ = true;
   std::chrono::minutes counted_{};

@@ -64,6 +64,11 @@ class SiteGridModel final : public QAbstractTableModel {
   int rowOfSite(std::int16_t idSite) const;
   /// How the site of a row stands.
   SiteState stateOfRow(int row) const;
+  /// Whether the last check of the site of a row brought a page that differs from the baseline.
+  bool differsInRow(int row) const {
+    const Row& it = rows_.at(static_cast<std::size_t>(row));
+    return it.shade == Shade::down && it.fetched;
+  }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

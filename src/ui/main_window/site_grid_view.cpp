@@ -129,6 +129,11 @@ void SiteGridView::selectSite(std::int16_t idSite) {
   }
 }
 
+std::optional<std::int16_t> SiteGridView::currentDifferingSite() const {
+  const int row = currentIndex().row();
+  return row >= 0 && sites_.differsInRow(row) ? currentSite() : std::nullopt;
+}
+
 std::optional<std::int16_t> SiteGridView::currentSite() const { return sites_.siteOfRow(currentIndex().row()); }
 
 void SiteGridView::setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched) {

@@ -27,6 +27,8 @@ class SiteGridView final : public QTableView {
   void selectSite(std::int16_t idSite);
   /// The site whose row is the current one.
   std::optional<std::int16_t> currentSite() const;
+  /// The same where the last check brought a page that differs from the baseline.
+  std::optional<std::int16_t> currentDifferingSite() const;
 
   /// Shows `sites` in place of what is shown (see `SiteGridModel::setSites`); the current row and the scroll position
   /// stay with their site. Where there is a row, one is current.

@@ -42,6 +42,15 @@ void SiteMenu::makeRowMenu() {
   });
   openSite->setObjectName(QStringLiteral("openSite"));
   row_->addSeparator();
+  always_ = row_->addAction(tr("This Always C&hanges…"), this, [this] {
+    if (const auto idSite = grid_.currentDifferingSite()) {
+      Q_EMIT alwaysChanges(*idSite);
+    }
+  });
+  always_->setObjectName(QStringLiteral("alwaysChanges"));
+  // It says whether there is something to do while the menu is shown; the keys look for themselves.
+  connect(row_, &QMenu::aboutToHide, always_, [this] { always_->setEnabled(true); });
+  row_->addSeparator();
   QMenu* pauses = row_->addMenu(tr("&Pause"));
   pauses->setObjectName(QStringLiteral("pauseSite"));
   addPauses(
@@ -57,6 +66,7 @@ void SiteMenu::makeRowMenu() {
   };
   openSite->setText(openSite->text() + QLatin1Char('\t') +
                     QKeySequence(Qt::Key_Enter).toString(QKeySequence::NativeText));
+  key(*always_, Qt::CTRL | Qt::SHIFT | Qt::Key_V);
   key(*pauses->actions().front(), Qt::CTRL | Qt::Key_P);
   key(*remove, QKeySequence::Delete);
 }
@@ -76,6 +86,7 @@ QMenu* SiteMenu::addPauses(QMenu& menu, const Pausing& pause, const std::functio
 }
 
 void SiteMenu::open(const QPoint& place) {
+  always_->setEnabled(grid_.currentDifferingSite().has_value());
   const QModelIndex cell = grid_.indexAt(place);
   const QRect current = grid_.visualRect(grid_.currentIndex());
   // The Menu key asks for the current row, wherever the pointer is.

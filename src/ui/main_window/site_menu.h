@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <QMenu>
 #include <QObject>
@@ -12,13 +13,17 @@
 namespace tarnwick {
 
 /// What can be done with the site of the current row, as a menu that a right click and the Menu key open, and what can
-/// be paused of all sites. Ctrl+P and Del do their part of it in the list without the menu.
+/// be paused of all sites. Ctrl+Shift+V, Ctrl+P and Del do their part of it in the list without the menu.
 class SiteMenu final : public QObject {
   Q_OBJECT
 
  public:
   /// `pauseAll` is filled. `program` outlives the events of the window.
   SiteMenu(Program& program, SiteGridView& grid, QMenu& pauseAll, QObject* parent);
+
+ Q_SIGNALS:
+  /// The user says that what the page of the site differs by always changes.
+  void alwaysChanges(std::int16_t idSite);
 
  private:
   using Pausing = std::function<void(const Pause& pause)>;
@@ -38,6 +43,7 @@ class SiteMenu final : public QObject {
   Program& program_;
   SiteGridView& grid_;
   QMenu* row_;
+  QAction* always_ = nullptr;
 };
 
 }  // namespace tarnwick

@@ -117,6 +117,12 @@ void ControlDialog::showInFront() {
   bringToFront(dialog != nullptr ? *dialog : *this);
 }
 
+void ControlDialog::showChannel(std::int64_t idChannel) {
+  showInFront();
+  turnTo(*controls_.channels);
+  controls_.channels->choose(idChannel);
+}
+
 std::vector<Setting> ControlDialog::shownSettings() const {
   std::vector<Setting> settings;
   for (const FieldControl& setting : controls_.settings) {
@@ -126,7 +132,8 @@ std::vector<Setting> ControlDialog::shownSettings() const {
 }
 
 QString ControlDialog::unsavedEdits() const {
-  return shownSettings() != loaded_ || controls_.defaults->isChanged() || controls_.pause->isChanged()
+  return shownSettings() != loaded_ || controls_.defaults->isChanged() || controls_.channels->isChanged() ||
+                 controls_.pause->isChanged()
              ? tr("the settings")
              : QString();
 }
@@ -145,8 +152,10 @@ void ControlDialog::Command1_Click() {
   Transaction whole(program_.data().database());
   storeSettings();
   controls_.defaults->store();
+  controls_.channels->store();
   controls_.pause->store();
   whole.commit();
+  controls_.channels->settle();
   unload(Accepted);
 }
 
@@ -231,14 +240,26 @@ void ControlDialog::unload(DialogCode result) {
   }
 }
 
-std::function<void()> settingsDialogOf(Program& program, QWidget& parent) {
-  return [&program, &parent, dialog = QPointer<ControlDialog>()]() mutable {
-    // One that has been closed may not have been taken down yet.
-    if (dialog == nullptr || !dialog->isVisible()) {
-      dialog = new ControlDialog(program, &parent);
+namespace {
+
+// The one that is shown, else a new one: one that has been closed may not have been taken down yet.
+ControlDialog& theSettings(Program& program, QWidget& parent) {
+  for (auto* dialog : parent.findChildren<ControlDialog*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (dialog->isVisible()) {
+      return *dialog;
     }
-    dialog->showInFront();
-  };
+  }
+  return *new ControlDialog(program, &parent);
+}
+
+}  // namespace
+
+std::function<void()> settingsDialogOf(Program& program, QWidget& parent) {
+  return [&program, &parent] { theSettings(program, parent).showInFront(); };
+}
+
+std::function<void(std::int64_t)> channelSettingsOf(Program& program, QWidget& parent) {
+  return [&program, &parent](std::int64_t idChannel) { theSettings(program, parent).showChannel(idChannel); };
 }
 
 }  // namespace tarnwick

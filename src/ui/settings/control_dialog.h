@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -28,6 +29,8 @@ class ControlDialog final : public QDialog, public UnsavedEdits {
 
   /// Shows the dialog, or brings it to the front with all that was typed.
   void showInFront();
+  /// The same on that channel.
+  void showChannel(std::int64_t idChannel);
 
   QString unsavedEdits() const override;
 
@@ -63,5 +66,7 @@ class ControlDialog final : public QDialog, public UnsavedEdits {
 
 /// Opens the one settings dialog of `program`, above `parent`; made when it is first needed.
 std::function<void()> settingsDialogOf(Program& program, QWidget& parent);
+/// Opens the same on a channel.
+std::function<void(std::int64_t idChannel)> channelSettingsOf(Program& program, QWidget& parent);
 
 }  // namespace tarnwick

@@ -211,12 +211,18 @@ ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program) {
   auto* defaults = new QWidget;
   controls.defaults = named(new OptionForm(program, defaults), "defaults", QObject::tr("Defaults for all sites"));
   layOutPage(*defaults, *controls.defaults, "btnOk", "btnCancel", controls);
+  auto* channels = new QWidget;
+  controls.channels =
+      named(new ChannelsPage(program, channels), "channels", QObject::tr("The ways by which alerts leave"));
+  layOutPage(*channels, *controls.channels, "btnOkChannels", "btnCancelChannels", controls);
   auto* pause = new QWidget;
   controls.pause = named(new PausePage(program, pause), "pause", QObject::tr("Pause and quiet hours of all sites"));
   layOutPage(*pause, *controls.pause, "btnOkPause", "btnCancelPause", controls);
 
-  controls.pages = addPages(
-      dialog, {{QObject::tr("General"), general}, {QObject::tr("Defaults"), defaults}, {QObject::tr("Pause"), pause}});
+  controls.pages = addPages(dialog, {{QObject::tr("General"), general},
+                                     {QObject::tr("Defaults"), defaults},
+                                     {QObject::tr("Channels"), channels},
+                                     {QObject::tr("Pause"), pause}});
   auto* all = new QVBoxLayout(&dialog);
   all->addWidget(controls.pages);
   return controls;

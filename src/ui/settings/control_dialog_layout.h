@@ -10,6 +10,7 @@
 
 #include "ui/controls/field_control.h"
 #include "ui/controls/option_form.h"
+#include "ui/settings/channels_page.h"
 #include "ui/settings/pause_page.h"
 
 namespace tarnwick {
@@ -30,8 +31,9 @@ struct ControlDialogControls {
   QPushButton* Command1;  ///< OK
   QPushButton* Command2;  ///< Cancel
 
-  QTabWidget* pages;  ///< General, Defaults, Pause
+  QTabWidget* pages;  ///< General, Defaults, Channels, Pause
   OptionForm* defaults;
+  ChannelsPage* channels;
   PausePage* pause;
   /// OK and Cancel of each page behind the first one.
   std::vector<QPushButton*> btnOks;
@@ -47,7 +49,7 @@ struct ControlDialogControls {
 
 /// Makes the controls of the settings dialog and lays them out: on the first page the settings with OK and Cancel at
 /// the top, the administration functions below; on the second one the options for all sites, on the third one
-/// when it is quiet.
+/// the ways by which alerts leave, on the fourth one when it is quiet.
 ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program);
 
 /// Tells under the list of time-outs, while none is selected, what is stored; where that is nothing, what holds.

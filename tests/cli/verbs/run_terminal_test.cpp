@@ -6,6 +6,9 @@
 #include <system_error>
 
 #include "cli/support/tool_fixture.h"
+#include "delivery/delivery.h"
+#include "store/channel_table.h"
+#include "support/wait_until.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -155,6 +158,33 @@ TEST_F(RunTerminalTest, TellsAScriptWhichSitesTheRunDoesNotWatch) {
   machine.handClock.advance(std::chrono::minutes(20));
   folder.execute("update sites set lastChecked = '2024-05-17 12:15:00' where idSite = 1");
   EXPECT_EQ(pass(), (Json{{"event", "pass"}, {"up", 1}, {"down", 0}, {"overdue", 1}}));
+  json.end();
+}
+
+TEST_F(RunTerminalTest, TellsWhenAlertsHaveToWaitAndWhenTheyHaveArrived) {
+  m data(folder.path(), machine.services());
+  data.storeChannel({.name = "office",
+                     .kind = std::string(channel_kind::mail),
+                     .settings = {{"to", "me@example.org"}, {"server", "smtp.example.org"}}});
+  RunTerminal json(console, machine.clock(), machine.pump, {.json = true});
+  json.prepare(data);
+  const auto event = [&] {
+    const std::string lines = written.str();
+    const std::size_t begin = lines.rfind("{\"time\"");
+    Json last = begin == std::string::npos ? Json::object() : Json::parse(lines.substr(begin));
+    last.erase("time");
+    return last;
+  };
+  machine.mails.answer({.delivered = false, .words = "RCPT TO: 550 User unknown"});
+  Transaction whole(data.database());
+  data.delivery().add({.idSite = 1, .made = machine.clock().localNow(), .event = "down", .url = "http://a/"}, {});
+  whole.commit();
+  data.delivery().deliver();
+  ASSERT_TRUE(waitUntil([&] { return !event().empty(); }));
+  EXPECT_EQ(event(), (Json{{"event", "alertsWaiting"}, {"waiting", 1}, {"answer", "RCPT TO: 550 User unknown"}}));
+  EXPECT_EQ(data.retryAlerts({}, machine.clock().localNow()), 1);
+  data.delivery().deliver();
+  ASSERT_TRUE(waitUntil([&] { return event()["event"] == "alertsDelivered"; }));
   json.end();
 }
 

@@ -9,10 +9,10 @@
 
 #include "base/text.h"
 #include "base/windows_1252.h"
-#include "cli/pages/unified_diff.h"
 #include "cli/terminal/console.h"
 #include "cli/terminal/moment.h"
-#include "engine/first_difference.h"
+#include "difference/first_difference.h"
+#include "difference/unified_diff.h"
 #include "support/hand_clock.h"
 
 namespace tarnwick::testing {

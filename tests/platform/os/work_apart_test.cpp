@@ -58,6 +58,18 @@ TEST(WorkApart, CanBeHeldToSomeMemory) {
   EXPECT_EQ(std::string(std::size_t{512} << 20U, 'x').size(), std::size_t{512} << 20U) << "others are not held to it";
 }
 
+TEST(WorkApart, CanBeHeldToSomeTime) {
+  SKIP_ON_WINDOWS("There the work is done in this process.");
+  WorkApart endless([]() -> std::string {
+    WorkApart::limitTime(std::chrono::seconds(1));
+    for (volatile bool on = true; on;) {
+    }
+    return {};
+  });
+  endless.wait();
+  EXPECT_EQ(endless.result(), std::nullopt);
+}
+
 TEST(WorkApart, IsEndedWithItsObject) {
   SKIP_ON_WINDOWS("There the work is done at once.");
   WorkApart endless([]() -> std::string {

@@ -174,6 +174,57 @@ TEST_F(TransferRequest, SeeOtherTurnsAnyMethodIntoGet) {
   EXPECT_EQ(sent(1).method, "GET");
 }
 
+TEST_F(TransferRequest, BodyGoesWithAnyMethodWhereThatIsAskedFor) {
+  for (const char* method : {"PUT", "PATCH", "DELETE"}) {
+    server_.clearRecords();
+    probe_.request.sendsBodyAlways = false;
+    probe_.fetch(server_.url("/hook"), method, "a=1", kFormHeader);
+    EXPECT_EQ(sent(0).body, "") << method;
+    probe_.request.sendsBodyAlways = true;
+    EXPECT_EQ(probe_.fetch(server_.url("/hook"), method, "a=1", kFormHeader), "page of /hook") << method;
+    EXPECT_EQ(probe_.states, kAllStates) << method;
+    EXPECT_EQ(sent(1).method, method);
+    EXPECT_EQ(sent(1).body, "a=1") << method;
+    EXPECT_EQ(sent(1).header("Content-Length"), "3") << method;
+  }
+  for (const char* method : {"GET", "HEAD", ""}) {
+    server_.clearRecords();
+    probe_.fetch(server_.url("/hook"), method, "a=1");
+    EXPECT_EQ(sent(0).body, "") << method;
+    EXPECT_FALSE(sent(0).hasHeader("Content-Length")) << method;
+  }
+}
+
+TEST_F(TransferRequest, MethodAndBodySurviveARedirectThatDoesNotChangeThem) {
+  probe_.request.sendsBodyAlways = true;
+  for (const int status : {301, 302, 307, 308}) {
+    server_.clearRecords();
+    server_.respond("/form", HttpResponse::redirect("/result", status));
+    EXPECT_EQ(probe_.fetch(server_.url("/form"), "PUT", "a=1", kFormHeader), "page of /result") << status;
+    EXPECT_EQ(sent(1).method, "PUT") << status;
+    EXPECT_EQ(sent(1).body, "a=1") << status;
+    EXPECT_TRUE(sent(1).hasHeader("Content-Type")) << status;
+  }
+  server_.clearRecords();
+  server_.respond("/form", HttpResponse::redirect("/result", 303));
+  EXPECT_EQ(probe_.fetch(server_.url("/form"), "PUT", "a=1", kFormHeader), "page of /result");
+  EXPECT_EQ(sent(1).method, "GET");
+  EXPECT_EQ(sent(1).body, "");
+}
+
+TEST_F(TransferRequest, NothingGoesToAnotherPlaceWhereRedirectsAreNotFollowed) {
+  HttpServer other;
+  for (const int status : {301, 302, 303, 307, 308}) {
+    HttpResponse answer = HttpResponse::redirect(other.url("/stolen"), status);
+    answer.body = "moved";
+    server_.respond("/hook", answer);
+    probe_.request.followsRedirects = false;
+    EXPECT_EQ(probe_.fetch(server_.url("/hook"), "POST", "{}", "Authorization: Bearer secret"), "moved") << status;
+    EXPECT_TRUE(probe_.succeeded()) << status;
+  }
+  EXPECT_EQ(other.connections(), 0);
+}
+
 TEST_F(TransferRequest, CookiesLiveForOneRequestsRedirectsOnly) {
   server_.respond("/login", {.status = 302, .headers = {{"Set-Cookie", "key=1; Path=/"}, {"Location", "/inside"}}});
   probe_.fetch(server_.url("/login"));

@@ -2,11 +2,15 @@
 // Learning what varies in a page, from the content dialog.
 #include "ui/baseline/learn_dialog.h"
 
+#include <random>
 #include <QComboBox>
 
+#include "support/system.h"
 #include "support/wait_until.h"
 #include "ui/baseline/hole_table.h"
 #include "ui/support/dialog_fixture.h"
+#include "ui/support/longest_gap.h"
+#include "ui/support/patience.h"
 
 namespace tarnwick {
 namespace {
@@ -70,6 +74,42 @@ TEST_F(LearnDialogTest, LearnsWhatVariesAndOkOfTheContentStoresIt) {
   ASSERT_EQ(rules().holes.size(), 1U);
   EXPECT_EQ(rules().holes[0].begin, page(0).find("1820"));
   EXPECT_EQ(column(1, "content_compare"), page(0)) << "the baseline was changed";
+}
+
+// Each is worse than any page for one of the steps of learning.
+std::vector<std::string> hostilePages(int visit) {
+  constexpr std::size_t kSize = 5'000'000;
+  std::mt19937 random(static_cast<unsigned>(visit));
+  std::string ones;
+  std::string noise;
+  std::string days;
+  while (ones.size() < kSize) {
+    ones += random() % 97 == 0 ? "2," : "1,";
+    noise += static_cast<char>(' ' + static_cast<char>(random() % 95));
+    noise += static_cast<char>(' ' + static_cast<char>(random() % 95));
+    days += random() % 97 == 0 ? "Tue " : "Mon ";
+  }
+  return {ones, noise, days.substr(0, kSize)};
+}
+
+TEST_F(LearnDialogTest, HoldsTheWindowUpForNoTimeWhateverThePagesHold) {
+  SKIP_ON_WINDOWS("There it is done in the window's own process.");
+  const std::vector<std::vector<std::string>> pages{hostilePages(1), hostilePages(2)};
+  auto& dialog = openLearn();
+  in<QSpinBox>(dialog, "learnTimes").setValue(2);
+  for (std::size_t kind = 0; kind < pages[0].size(); ++kind) {
+    visits = 0;
+    server.handle("/page", [&](const auto&) {
+      return testing::HttpResponse{.body = pages[static_cast<std::size_t>(visits++ % 2)][kind]};
+    });
+    in<QProgressBar>(dialog, "learnProgress").setValue(0);
+    testing::LongestGap gap;
+    press(dialog, "learnStart");
+    ASSERT_TRUE(waitUntil([&] { return isReady(dialog); }, testing::patience(std::chrono::seconds(20))));
+    EXPECT_LE(gap.longest(), testing::patience(std::chrono::milliseconds(30))) << "page " << kind;
+    EXPECT_EQ(said(dialog, "learnWarnings").find("differs"), std::string::npos) << "page " << kind;
+    EXPECT_TRUE(in<QPushButton>(dialog, "btnTake").isEnabled()) << "page " << kind;
+  }
 }
 
 TEST_F(LearnDialogTest, WithoutABaselineTheFirstCopyBecomesIt) {

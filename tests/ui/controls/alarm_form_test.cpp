@@ -7,6 +7,7 @@
 #include <QSpinBox>
 #include <QTabWidget>
 
+#include "store/channel_table.h"
 #include "ui/controls/alarm_section.h"
 #include "ui/controls/alarm_words.h"
 #include "ui/controls/quiet_hours_form.h"
@@ -18,6 +19,7 @@ namespace {
 
 using testing::DialogTest;
 using ::testing::HasSubstr;
+using testing::waitUntil;
 
 class AlarmFormTest : public DialogTest {
  protected:
@@ -241,7 +243,7 @@ TEST_F(AlarmFormTest, APauseStandsOnTopUntilItIsOver) {
 }
 
 TEST_F(AlarmFormTest, ADragOverTheMapMakesHoursQuiet) {
-  auto& dialog = openSettings(2);
+  auto& dialog = openSettings(3);
   auto& map = in<WeekMap>(dialog, "quietMap");
   const auto middle = [&](int day, int hour) { return map.visualRect(map.model()->index(day, hour)).center(); };
   const QModelIndex first = map.model()->index(0, 22);
@@ -255,7 +257,7 @@ TEST_F(AlarmFormTest, ADragOverTheMapMakesHoursQuiet) {
 }
 
 TEST_F(AlarmFormTest, ChosenHoursFollowSpace) {
-  auto& dialog = openSettings(2);
+  auto& dialog = openSettings(3);
   auto& map = in<WeekMap>(dialog, "quietMap");
   map.setFocus();
   QTest::keyClick(&map, Qt::Key_Right, Qt::ShiftModifier);
@@ -266,7 +268,7 @@ TEST_F(AlarmFormTest, ChosenHoursFollowSpace) {
 }
 
 TEST_F(AlarmFormTest, AllIsPausedUntilTomorrow) {
-  auto& dialog = openSettings(2);
+  auto& dialog = openSettings(3);
   auto& pause = in<QComboBox>(dialog, "pauseNow");
   pause.setFocus();
   QTest::keyClick(&pause, Qt::Key_Down);
@@ -277,7 +279,7 @@ TEST_F(AlarmFormTest, AllIsPausedUntilTomorrow) {
 }
 
 TEST_F(AlarmFormTest, ADatedWindowIsAddedAndRemoved) {
-  auto& dialog = openSettings(2);
+  auto& dialog = openSettings(3);
   EXPECT_EQ(dialog.unsavedEdits(), QString());
   press(dialog, "addWindow");
   EXPECT_NE(dialog.unsavedEdits(), QString());
@@ -288,6 +290,53 @@ TEST_F(AlarmFormTest, ADatedWindowIsAddedAndRemoved) {
   press(dialog, "btnOkPause");
   EXPECT_THAT(options(0), ::testing::AllOf(::testing::StartsWith("maintenance="),
                                            ::testing::EndsWith("12:00, do not check: new, server")));
+}
+
+TEST_F(AlarmFormTest, ASiteTellsThroughTheChannelsThatAreTicked) {
+  openProgram();
+  m& data = master->program().data();
+  for (const char* name : {"phone", "office mail"}) {
+    data.storeChannel({.name = name,
+                       .kind = std::string(channel_kind::mail),
+                       .settings = {{"to", "me@example.org"}, {"server", "smtp.example.org"}}});
+  }
+  clickRow(0);
+  auto& editor = opened<SiteEditor>();
+  page(editor, 1);
+  auto& button = in<QPushButton>(editor, "alarmChannels");
+  EXPECT_THAT(button.accessibleName().toStdString(), ::testing::StartsWith("Defaults: phone, office mail"));
+  editor.findChild<QAction*>(QStringLiteral("alarmChannel0"))->trigger();
+  EXPECT_EQ(button.text(), QStringLiteral("office mail"));
+  press(editor, "alarmChannelsTest");
+  auto& answer = in<QLabel>(editor, "alarmChannelsAnswer");
+  EXPECT_TRUE(waitUntil([&] { return answer.text() == QStringLiteral("office mail: ok: The message: 250 taken"); }));
+  press(editor, "Command3");
+  EXPECT_EQ(options(3), "channels=office mail");
+  editor.findChild<QAction*>(QStringLiteral("alarmChannel1"))->trigger();
+  EXPECT_EQ(button.text(), QStringLiteral("none"));
+  EXPECT_FALSE(in<QPushButton>(editor, "alarmChannelsTest").isEnabled());
+  press(editor, "Command3");
+  EXPECT_EQ(options(3), "channels=none");
+  editor.findChild<QAction*>(QStringLiteral("alarmChannelsUsual"))->trigger();
+  press(editor, "Command3");
+  EXPECT_EQ(options(3), "");
+}
+
+TEST_F(AlarmFormTest, ATestGoesThroughEveryChosenChannel) {
+  open();
+  m& data = master->program().data();
+  for (const char* name : {"phone", "office mail"}) {
+    data.storeChannel({.name = name,
+                       .kind = std::string(channel_kind::mail),
+                       .settings = {{"to", "me@example.org"}, {"server", "smtp.example.org"}}});
+  }
+  auto& dialog = openSettings(1);
+  machine.mails.answer({.delivered = false, .words = "RCPT TO: 550 no"});
+  press(dialog, "alarmChannelsTest");
+  auto& answer = in<QLabel>(dialog, "alarmChannelsAnswer");
+  EXPECT_TRUE(waitUntil([&] {
+    return answer.text() == QStringLiteral("phone: RCPT TO: 550 no\noffice mail: ok: The message: 250 taken");
+  }));
 }
 
 TEST(DatedWindowsModelTest, TheEndNeverComesBeforeTheBeginning) {

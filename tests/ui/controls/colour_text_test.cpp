@@ -5,6 +5,8 @@
 
 #include <array>
 
+#include "ui/controls/tones.h"
+
 namespace tarnwick {
 namespace {
 
@@ -65,6 +67,16 @@ TEST(ColourText, TextIsReadableOnEveryColourOfARow) {
 TEST(ColourText, ContrastOfBlackAndWhiteIs21) {
   EXPECT_NEAR(contrastRatio(QColor(Qt::black), QColor(Qt::white)), 21.0, 0.01);
   EXPECT_NEAR(contrastRatio(QColor(Qt::white), QColor(Qt::white)), 1.0, 0.01);
+}
+
+TEST(HoleColours, CanBeReadAndSeen) {
+  for (const bool dark : {false, true}) {
+    const HoleColours hole = holeColours(dark);
+    const QColor page = dark ? QColor(0x1E, 0x20, 0x23) : QColor(Qt::white);
+    EXPECT_GE(contrastRatio(hole.ink, hole.fill), dark ? 9.5 : 10.6) << dark;
+    EXPECT_GE(contrastRatio(hole.edge, hole.fill), 3.0) << dark;
+    EXPECT_GE(contrastRatio(hole.edge, page), 3.0) << dark;
+  }
 }
 
 }  // namespace

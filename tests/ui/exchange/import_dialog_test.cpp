@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <ctime>
 #include <QAbstractItemView>
 #include <QMenu>
 #include <QSignalSpy>
@@ -38,21 +37,21 @@ class Hold {
  public:
   Hold() {
     QObject::connect(&timer_, &QTimer::timeout, [this] {
-      const std::clock_t now = std::clock();
+      const double now = processorSeconds();
       longest_ = std::max(longest_, now - last_);
       last_ = now;
     });
     timer_.start(0);
   }
-  std::chrono::milliseconds longest() const { return std::chrono::milliseconds(longest_ * 1000 / CLOCKS_PER_SEC); }
+  std::chrono::milliseconds longest() const { return std::chrono::milliseconds(static_cast<int>(longest_ * 1000)); }
   void forget() {
     longest_ = 0;
-    last_ = std::clock();
+    last_ = processorSeconds();
   }
 
  private:
-  std::clock_t last_ = std::clock();
-  std::clock_t longest_ = 0;
+  double last_ = processorSeconds();
+  double longest_ = 0;
   QTimer timer_;
 };
 

@@ -22,8 +22,8 @@ using testing::waitUntil;
 
 class NoticesTest : public MasterTest {
  protected:
-  Notice& unwatched() { return find<Notice>("noticeUnwatched"); }
-  Notice& outbox() { return find<Notice>("noticeOutbox"); }
+  NoticeButton& unwatched() { return find<NoticeButton>("noticeUnwatched"); }
+  NoticeButton& outbox() { return find<NoticeButton>("noticeOutbox"); }
   NoticeBar& bar() { return find<NoticeBar>("noticeBar"); }
   /// Waits until the notice about unwatched sites says this; nothing for no notice.
   ::testing::AssertionResult says(const char* sentence) {
@@ -79,7 +79,7 @@ TEST_F(NoticesTest, APauseOfAllAlertsIsToldAndEndedByItsNotice) {
   open();
   master->program().data().setOption(kAllSites, "pause", "for good");
   master->program().run().init();
-  auto& paused = find<Notice>("noticePaused");
+  auto& paused = find<NoticeButton>("noticePaused");
   ASSERT_TRUE(waitUntil([&] { return paused.isVisible(); }));
   EXPECT_EQ(paused.sentence(), QStringLiteral("Alerts are paused for good."));
   click("noticePaused");
@@ -90,7 +90,7 @@ TEST_F(NoticesTest, APauseOfAllAlertsIsToldAndEndedByItsNotice) {
 TEST_F(NoticesTest, AMachineThatIsOfflineIsToldUntilItIsOnlineAgain) {
   open();
   master->showOffline(parseDateTime("2026-11-22 14:02:33"));
-  auto& offline = find<Notice>("noticeOffline");
+  auto& offline = find<NoticeButton>("noticeOffline");
   EXPECT_TRUE(offline.isVisible());
   EXPECT_EQ(offline.sentence(), QStringLiteral("This machine is offline since 14:02. Nothing is counted as down."));
   master->showOffline(std::nullopt);
@@ -108,9 +108,9 @@ TEST_F(NoticesTest, MoreThanThreeAreCounted) {
   auto& more = find<QLabel>("noticeMore");
   ASSERT_TRUE(waitUntil([&] { return more.isVisible(); }));
   EXPECT_EQ(more.text(), QStringLiteral("+1"));
-  EXPECT_FALSE(find<Notice>("noticePaused").isVisible());
+  EXPECT_FALSE(find<NoticeButton>("noticePaused").isVisible());
   master->showOffline(std::nullopt);
-  EXPECT_TRUE(waitUntil([&] { return !more.isVisible() && find<Notice>("noticePaused").isVisible(); }));
+  EXPECT_TRUE(waitUntil([&] { return !more.isVisible() && find<NoticeButton>("noticePaused").isVisible(); }));
 }
 
 TEST_F(NoticesTest, WithoutARunEveryActiveSiteIsUnwatchedAndTheNoticeStartsOne) {

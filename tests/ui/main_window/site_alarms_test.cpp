@@ -131,7 +131,7 @@ TEST_F(SiteAlarmsTest, ASiteIsPausedFromItsMenuAndGoesOn) {
   EXPECT_TRUE(says(0, "1, paused"));
   EXPECT_EQ(colour(0, 0), colourFromText(colours::kDown));
   EXPECT_TRUE(says(1, "2, up"));
-  EXPECT_FALSE(find<Notice>("noticePaused").isVisible());
+  EXPECT_FALSE(find<NoticeButton>("noticePaused").isVisible());
   choose(openMenu(0), "resume");
   EXPECT_EQ(option(1, "pause"), "");
   EXPECT_TRUE(says(0, "1, changed"));
@@ -163,7 +163,7 @@ TEST_F(SiteAlarmsTest, AllArePausedFromTheMenuOfTheListAndTheNoticeResumes) {
   open();
   choose(find<QMenu>("pauseAll"), "pauseTomorrow");
   EXPECT_EQ(option(0, "pause"), pauseText({true, tomorrowMorning(machine.clock().localNow())}));
-  auto& notice = find<Notice>("noticePaused");
+  auto& notice = find<NoticeButton>("noticePaused");
   ASSERT_TRUE(waitUntil([&] { return notice.isVisible(); }));
   EXPECT_EQ(notice.sentence(), QStringLiteral("Alerts are paused until tomorrow 8:00."));
   EXPECT_TRUE(says(0, "1, paused"));
@@ -190,7 +190,7 @@ TEST_F(SiteAlarmsTest, BeingOfflineStandsInANotice) {
   open();
   const LocalTime now = machine.clock().localNow();
   master->showOffline(now);
-  auto& notice = find<Notice>("noticeOffline");
+  auto& notice = find<NoticeButton>("noticeOffline");
   EXPECT_TRUE(notice.isVisible());
   EXPECT_EQ(notice.sentence(),
             QStringLiteral("This machine is offline since %1. Nothing is counted as down.").arg(momentWords(now, now)));
