@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -12,8 +13,8 @@
 
 namespace tarnwick {
 
-/// Learns in a process of its own, where the system can do that, so that it holds up nothing; and in a few seconds,
-/// whatever the pages hold: what takes longer is learnt roughly.
+/// Learns in a process of its own, so that it holds up nothing; and in a few seconds, whatever the pages hold: what
+/// takes longer is learnt roughly. Where the system has no such process, large pages are.
 class LearningApart {
  public:
   /// What a processor takes for it at most, in each of the two ways.
@@ -21,9 +22,9 @@ class LearningApart {
   /// Holds what it learns from.
   using Work = std::function<Learnt()>;
 
-  /// Begins with `exact`; `rough` follows where that comes to a bad end. Raises std::system_error when the system has
-  /// no room for a process.
-  LearningApart(const Work& exact, Work rough, std::chrono::seconds most = kMostTime);
+  /// Begins with `exact`; `rough` follows where that comes to a bad end, or takes its place where pages of `bytes`
+  /// together would hold up this process. Raises std::system_error when the system has no room for a process.
+  LearningApart(std::size_t bytes, const Work& exact, Work rough, std::chrono::seconds most = kMostTime);
 
   /// Looks how far it is, without waiting. True once it is done.
   bool take();
@@ -32,8 +33,10 @@ class LearningApart {
   std::optional<Learnt> result();
 
  private:
+  void learnRoughly();
+
   Work rough_;
-  std::unique_ptr<WorkApart> work_;
+  std::unique_ptr<WorkApart> work_{};
   std::optional<std::string> packed_{};
 };
 

@@ -72,8 +72,9 @@ void PageLearning::compare(const std::string& baseline, const RuleSet& set, cons
                            Handlers handlers) {
   work_ = std::make_unique<Work>(machine_, std::int16_t{0}, baseline, Plan{}, std::move(handlers), [this] { goOn(); });
   const LocalTime now = machine_.clock.localNow();
-  learnApart([&] { return widenedBy(baseline, set, page, now); },
-             [=] { return roughlyWidenedBy(baseline, set, page); });
+  learnApart(
+      baseline.size() + page.size(), [&] { return widenedBy(baseline, set, page, now); },
+      [=] { return roughlyWidenedBy(baseline, set, page); });
 }
 
 void PageLearning::fetch() {
@@ -118,12 +119,17 @@ void PageLearning::takeCopy() {
 void PageLearning::learn() {
   const Work& work = *work_;
   const LocalTime now = machine_.clock.localNow();
-  learnApart([&work, now] { return learntFrom(work.copies, work.baseline, now); },
-             [&work] { return roughlyLearntFrom(work.copies, work.baseline); });
+  std::size_t bytes = work.baseline.size();
+  for (const std::string& copy : work.copies) {
+    bytes += copy.size();
+  }
+  learnApart(
+      bytes, [&work, now] { return learntFrom(work.copies, work.baseline, now); },
+      [&work] { return roughlyLearntFrom(work.copies, work.baseline); });
 }
 
-void PageLearning::learnApart(const std::function<Learnt()>& exact, std::function<Learnt()> rough) {
-  work_->learning = std::make_unique<LearningApart>(exact, std::move(rough));
+void PageLearning::learnApart(std::size_t bytes, const std::function<Learnt()>& exact, std::function<Learnt()> rough) {
+  work_->learning = std::make_unique<LearningApart>(bytes, exact, std::move(rough));
   wait(kAtOnce);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -60,7 +61,7 @@ class PageLearning {
   void goOn();
   void takeCopy();
   void learn();
-  void learnApart(const std::function<Learnt()>& exact, std::function<Learnt()> rough);
+  void learnApart(std::size_t bytes, const std::function<Learnt()>& exact, std::function<Learnt()> rough);
   void look();
   void end(const std::function<void(const Handlers& handlers)>& tell);
 

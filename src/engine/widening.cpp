@@ -9,13 +9,13 @@
 #include <utility>
 
 #include "difference/first_difference.h"
-#include "holes/alignment.h"
 #include "holes/classify.h"
 #include "holes/hole_values.h"
 #include "holes/hole_words.h"
 #include "holes/judge.h"
 #include "holes/learn.h"
 #include "holes/page_text.h"
+#include "holes/regions.h"
 #include "page_rules/cut_page.h"
 #include "page_rules/page_judge.h"
 

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "holes/alignment.h"
 #include "holes/hole.h"
+#include "holes/regions.h"
 
 namespace tarnwick {
 

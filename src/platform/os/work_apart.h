@@ -21,6 +21,8 @@ class WorkApart {
   /// The bytes of the result. Nothing of this process may be changed by it; it raises nothing.
   using Work = std::function<std::string()>;
 
+  /// Whether this system has such processes: elsewhere who makes one stands still until the work is done.
+  static bool isApart();
   /// For the work, within itself: from here on it takes at most `bytes` more of memory, and is refused what is beyond
   /// that (std::bad_alloc). Does nothing where the work is done in this process, or the system cannot tell.
   static void limitMemory(std::size_t bytes);

@@ -13,6 +13,8 @@ WorkApart::WorkApart(const Work& work) : process_(std::make_unique<Process>(Proc
 
 WorkApart::~WorkApart() = default;
 
+bool WorkApart::isApart() { return false; }
+
 void WorkApart::limitMemory(std::size_t /*bytes*/) {}
 
 void WorkApart::limitTime(std::chrono::seconds /*time*/) {}

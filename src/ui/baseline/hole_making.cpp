@@ -4,10 +4,10 @@
 #include <array>
 #include <limits>
 
-#include "holes/alignment.h"
 #include "holes/classify.h"
 #include "holes/date_form.h"
 #include "holes/hole_values.h"
+#include "holes/regions.h"
 #include "ui/baseline/hole_draft.h"
 
 namespace tarnwick {
