@@ -12,8 +12,8 @@ struct LineMarks {
   std::vector<bool> added;
 };
 
-/// The fewest lines that make `after` of `before`, up to some thousand; when there are more, all lines between the
-/// equal ones at the beginning and at the end.
+/// The fewest lines that make `after` of `before`, up to some thousand; when there are more, what lies between the
+/// lines that both have once.
 LineMarks differingLines(const std::vector<std::string_view>& before, const std::vector<std::string_view>& after);
 
 }  // namespace tarnwick

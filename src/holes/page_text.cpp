@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "holes/page_text.h"
 
-#include <algorithm>
-#include <optional>
-
 #include "base/text.h"
+#include "base/utf16_order.h"
 
 namespace tarnwick {
 namespace {
@@ -12,39 +10,11 @@ namespace {
 /// Marks what was UTF-16: bytes that no UTF-8 has.
 constexpr char kBigEndianMark = '\xFE';
 constexpr char kLittleEndianMark = '\xFF';
-constexpr std::size_t kLooked = 1024;
-constexpr std::size_t kFewest = 16;
-
-// The place of the high bytes: 0 in big endian, 1 in little endian.
-std::optional<std::size_t> highBytes(std::string_view page) {
-  if (page.size() < 2 || page.size() % 2 != 0) {
-    return std::nullopt;
-  }
-  if (page.starts_with("\xFE\xFF")) {
-    return 0;
-  }
-  if (page.starts_with("\xFF\xFE")) {
-    return 1;
-  }
-  const std::string_view begin = page.substr(0, std::min(page.size(), kLooked));
-  for (const std::size_t high : {0U, 1U}) {
-    std::size_t zeros = 0;
-    bool otherZeros = false;
-    for (std::size_t i = 0; i + 1 < begin.size(); i += 2) {
-      zeros += begin[i + high] == '\0' ? 1U : 0U;
-      otherZeros = otherZeros || begin[i + 1 - high] == '\0';
-    }
-    if (begin.size() >= kFewest && !otherZeros && zeros * 4 > begin.size()) {  // half of all characters
-      return high;
-    }
-  }
-  return std::nullopt;
-}
 
 }  // namespace
 
 std::string pageText(std::string_view page) {
-  const auto high = highBytes(page);
+  const auto high = utf16HighBytes(page);
   if (!high) {
     return std::string(page);
   }
