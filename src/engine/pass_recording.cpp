@@ -178,7 +178,7 @@ std::optional<PassRecording::Stored> PassRecording::store(std::size_t row, const
 // A long page takes its time, in which the window is to go on.
 std::unique_ptr<StoredText> PassRecording::storeAhead(std::size_t row, const Fetched& fetched) {
   try {
-    return keptPage() == KeptPage::whole
+    return fetched.content.size() > kLargePage && keptPage() == KeptPage::whole
                ? needs_.results.storeAhead(sites_.idSite(row), fetched.content, [this] { needs_.pump.pump(); })
                : nullptr;
   } catch (const DataAccessError&) {

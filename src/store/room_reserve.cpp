@@ -58,7 +58,7 @@ void RoomReserve::keepReserve() noexcept {
     if (!room) {
       return;
     }
-    const std::string reserve = path();
+    const std::string& reserve = path();
     const bool isThere = files_.exists(reserve);
     const std::uint64_t held = isThere ? files_.sizeOf(reserve) : 0;
     if (!isLittle({room->free / 2, room->whole})) {
@@ -91,7 +91,12 @@ void RoomReserve::runWithoutReserve(const std::function<void()>& action) {
   keepReserve();
 }
 
-std::string RoomReserve::path() const { return files_.resolveLinks(db_.dbPath()) + kReserve; }
+const std::string& RoomReserve::path() {
+  if (path_.empty()) {
+    path_ = files_.resolveLinks(db_.dbPath()) + kReserve;
+  }
+  return path_;
+}
 
 void RoomReserve::giveUp() noexcept {
   try {

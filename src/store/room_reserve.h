@@ -28,11 +28,12 @@ class RoomReserve {
   void runWithoutReserve(const std::function<void()>& action);
 
  private:
-  std::string path() const;
+  const std::string& path();
   void giveUp() noexcept;
 
   Database& db_;
   FileSystem& files_;
+  std::string path_{};
 };
 
 }  // namespace tarnwick

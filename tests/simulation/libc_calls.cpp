@@ -4,6 +4,7 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <sys/time.h>
 #include <unistd.h>
 
@@ -83,6 +84,12 @@ ssize_t writeAt(Write* write, int descriptor, const void* bytes, std::size_t len
     if (const int error = disk->write(descriptor, bytes, length, offset, growth)) {
       return failed(error);
     }
+    if (const std::size_t done = disk->writeMapped(descriptor, bytes, length, offset)) {
+      return static_cast<ssize_t>(done);
+    }
+    const ssize_t done = write(descriptor, bytes, length, offset);
+    disk->written(descriptor, offset + std::max<ssize_t>(done, 0));
+    return done;
   }
   return write(descriptor, bytes, length, offset);
 }
@@ -149,15 +156,6 @@ struct Facts {
   int error = 0;
   struct stat64 facts {};
 };
-
-struct Piece {
-  int descriptor;
-  std::size_t length;
-  std::int64_t offset;
-  bool operator==(const Piece&) const = default;
-};
-
-constexpr std::size_t kShortPiece = 128;
 
 }  // namespace
 
@@ -259,22 +257,25 @@ int stat(const char* path, struct stat* facts) noexcept {
 ssize_t pread64(int descriptor, void* bytes, size_t length, off64_t offset) {
   TARNWICK_REAL(pread64);
   const SimulatedMemory::OfWorld ours;
-  SimulatedDisk* const disk = length <= kShortPiece ? diskOf(descriptor) : nullptr;
-  if (disk == nullptr) {
-    return next(descriptor, bytes, length, offset);
+  SimulatedDisk* const disk = diskOf(descriptor);
+  const std::size_t got = disk == nullptr ? 0 : disk->readMapped(descriptor, bytes, length, offset);
+  return got > 0 ? static_cast<ssize_t>(got) : next(descriptor, bytes, length, offset);
+}
+
+// As much as a disk of today has.
+int statvfs(const char* path, struct statvfs* facts) noexcept {
+  TARNWICK_REAL(statvfs);
+  const SimulatedMemory::OfWorld ours;
+  if (diskOf(path) == nullptr) {
+    return next(path, facts);
   }
-  static Known<Piece, std::string> known;
-  const Piece piece{descriptor, length, offset};
-  const std::string* const answer = known.find(piece, disk->edition());
-  if (answer == nullptr) {
-    const ssize_t got = next(descriptor, bytes, length, offset);
-    if (got >= 0) {
-      known.add(piece, std::string(static_cast<const char*>(bytes), static_cast<std::size_t>(got)));
-    }
-    return got;
-  }
-  std::ranges::copy(*answer, static_cast<char*>(bytes));
-  return static_cast<ssize_t>(answer->size());
+  constexpr unsigned long kBlock = 4096;
+  constexpr fsblkcnt_t kBlocks = 1UL << 26U;
+  *facts = {};
+  facts->f_bsize = facts->f_frsize = kBlock;
+  facts->f_blocks = kBlocks;
+  facts->f_bfree = facts->f_bavail = kBlocks / 2;
+  return 0;
 }
 
 int fsync(int descriptor) {

@@ -100,12 +100,11 @@ void Shadow::watch() {
   process_.pump().onWait = [this] { compare(); };
 }
 
-// A run that takes on new sites at once asks afresh when others have changed the list, by what SQLite tells it: of a
-// file that was just opened, as after a compaction, that may be anything.
+// A run that takes on new sites at once asks afresh when others have changed the list, or a file was opened in its place,
+// as after a compaction: by what the connection tells.
 void Shadow::second() {
   if (asksAfresh_ && model_->countdown() > 1) {
-    const auto told = list().execute("pragma data_version", {});
-    if (const std::int64_t version = told->field(0).toInt64(); std::exchange(listVersion_, version) != version) {
+    if (const std::int64_t version = list().changesOfOthers(); std::exchange(listVersion_, version) != version) {
       model_->editorClosed();
     }
   }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "simulation/simulated_disk.h"
 
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -15,12 +18,16 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kSector = 512;
+/// What lies behind that in a file is read and written by the system.
+constexpr std::size_t kMapped = std::size_t{64} << 20U;
 
 std::string contentsOf(const fs::path& path) {
   std::string bytes(fs::file_size(path), '\0');
   std::ifstream(path, std::ios::binary).read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   return bytes;
 }
+
+bool isLog(const std::string& path) { return path.ends_with("-wal"); }
 
 bool isSharedMemory(const std::string& path) { return path.ends_with("-shm"); }
 
@@ -104,6 +111,7 @@ void SimulatedDisk::opened(int descriptor, const char* path, bool made) {
   }
   Open& open = at(descriptor);
   open = {path, nullptr};
+  open.mapped = mapped(descriptor);
   edition_ += made ? 1 : 0;
   if (!counting_ || isSharedMemory(open.path)) {
     return;
@@ -113,6 +121,64 @@ void SimulatedDisk::opened(int descriptor, const char* path, bool made) {
   }
   if (const auto named = names_.find(open.path); named != names_.end()) {
     open.file = named->second;
+  }
+}
+
+SimulatedDisk::Mapped::Mapped(int descriptor, std::int64_t fileSize) : size(fileSize) {
+  void* const place = mmap(nullptr, kMapped, PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0);
+  bytes = place == MAP_FAILED ? nullptr : static_cast<char*>(place);
+}
+
+SimulatedDisk::Mapped::~Mapped() {
+  if (bytes != nullptr) {
+    munmap(bytes, kMapped);
+  }
+}
+
+bool SimulatedDisk::Mapped::has(std::size_t length, std::int64_t offset) const {
+  const std::int64_t end = offset + static_cast<std::int64_t>(length);
+  return bytes != nullptr && end <= size && end <= static_cast<std::int64_t>(kMapped);
+}
+
+// One for all who have the file open.
+std::shared_ptr<SimulatedDisk::Mapped> SimulatedDisk::mapped(int descriptor) {
+  struct stat facts {};
+  const std::string& path = at(descriptor).path;
+  if ((!isLog(path) && !path.ends_with(".mdb")) || (fcntl(descriptor, F_GETFL) & O_ACCMODE) != O_RDWR ||
+      fstat(descriptor, &facts) != 0) {
+    return nullptr;
+  }
+  std::weak_ptr<Mapped>& known = mapped_[facts.st_ino];
+  std::shared_ptr<Mapped> mapped = known.lock();
+  if (mapped == nullptr) {
+    mapped = std::make_shared<Mapped>(descriptor, facts.st_size);
+    known = mapped;
+  }
+  mapped->size = facts.st_size;
+  return mapped;
+}
+
+std::size_t SimulatedDisk::readMapped(int descriptor, void* bytes, std::size_t length, std::int64_t offset) {
+  const auto& mapped = at(descriptor).mapped;
+  if (mapped == nullptr || !mapped->has(length, offset)) {
+    return 0;
+  }
+  std::copy_n(mapped->bytes + offset, length, static_cast<char*>(bytes));
+  return length;
+}
+
+std::size_t SimulatedDisk::writeMapped(int descriptor, const void* bytes, std::size_t length, std::int64_t offset) {
+  const Open& open = at(descriptor);
+  if (open.mapped == nullptr || !isLog(open.path) || !open.mapped->has(length, offset)) {
+    return 0;
+  }
+  std::copy_n(static_cast<const char*>(bytes), length, open.mapped->bytes + offset);
+  return length;
+}
+
+void SimulatedDisk::written(int descriptor, std::int64_t end) {
+  if (const auto& mapped = at(descriptor).mapped) {
+    mapped->size = std::max(mapped->size, end);
   }
 }
 
@@ -172,6 +238,9 @@ int SimulatedDisk::truncate(int descriptor, std::int64_t size) {
   if (const FilePtr& file = at(descriptor).file) {
     willChange(*file);
     file->pending.push_back({size, {}, true});
+  }
+  if (const auto& mapped = at(descriptor).mapped) {
+    mapped->size = size;
   }
   return 0;
 }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <sys/types.h>
+
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -93,6 +96,12 @@ class SimulatedDisk {
   /// `length` becomes how many of the bytes are to be written; the file grows by up to `growth` of them.
   int write(int descriptor, const void* bytes, std::size_t& length, std::int64_t offset, std::int64_t growth);
   int truncate(int descriptor, std::int64_t size);
+  /// Reads and writes within what a file has go to the memory that it lies in, without the system; 0 where it has to be
+  /// asked. The time of the last change of a database counts, so that is written to by the system.
+  std::size_t readMapped(int descriptor, void* bytes, std::size_t length, std::int64_t offset);
+  std::size_t writeMapped(int descriptor, const void* bytes, std::size_t length, std::int64_t offset);
+  /// So many bytes were written there by the system.
+  void written(int descriptor, std::int64_t end);
   int sync(int descriptor);
   int rename(const char* from, const char* to);
   int unlink(const char* path);
@@ -117,12 +126,24 @@ class SimulatedDisk {
     std::string name;
     FilePtr file;
   };
+  /// Where in this process's memory a file lies that is open.
+  struct Mapped {
+    char* bytes = nullptr;
+    std::int64_t size = 0;  ///< of the file
+    Mapped(int descriptor, std::int64_t fileSize);
+    ~Mapped();
+    Mapped(const Mapped&) = delete;
+    Mapped& operator=(const Mapped&) = delete;
+    bool has(std::size_t length, std::int64_t offset) const;
+  };
   struct Open {
     std::string path{};
     FilePtr file{};
+    std::shared_ptr<Mapped> mapped{};
     bool isStream = false;
   };
 
+  std::shared_ptr<Mapped> mapped(int descriptor);
   Open& at(int descriptor) { return open_[static_cast<std::size_t>(descriptor)]; }
   bool strikes();
   static void willChange(File& file);
@@ -144,6 +165,7 @@ class SimulatedDisk {
   Names syncedNames_;  ///< as they would be found after a cut
   std::vector<NameChange> nameChanges_;
   std::vector<Open> open_;  ///< by descriptor
+  std::map<ino_t, std::weak_ptr<Mapped>> mapped_;
   DiskFault fault_ = DiskFault::none;
   std::uint64_t faultOneIn_ = 1;
   Chance faultChance_{0};

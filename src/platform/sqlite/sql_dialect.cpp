@@ -125,6 +125,7 @@ class RowsTranslator {
       } else if (before(1).is("(") && before(2).is("now")) {
         if (now_.empty()) {
           now_ = parameter(SqlValue(dateTimeText(clock_.localNow())));
+          statement_.nowParameter = statement_.parameters.size();
         }
         replace(2, now_);
       }

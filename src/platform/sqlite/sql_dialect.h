@@ -26,6 +26,8 @@ struct PlainStatement {
   /// The columns of the result, by their numbers from 0, that hold the number of a page where the statement asks for
   /// the page itself.
   std::vector<std::size_t> pageColumns = {};
+  /// The number of the parameter that holds the moment, from 1; 0 where the statement does not ask for it.
+  std::size_t nowParameter = 0;
 };
 
 /// `update sites set content_compare = '...' where idSite = n`, or `content_runtime`, where pages lie apart.

@@ -22,11 +22,15 @@
 #include "platform/sqlite/sqlite_pages.h"
 #include "platform/sqlite/sqlite_recordset.h"
 #include "platform/sqlite/sqlite_tables.h"
+#include "platform/sqlite/translated_statements.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr std::size_t kNotFound = std::string_view::npos;
+
+/// A statement that is longer has a text in it, and is not asked again as it is.
+constexpr std::size_t kLongestKept = 512;
 
 /// Where `wanted` stands first in `text`, letter case aside.
 std::size_t findIgnoringCase(std::string_view text, std::string_view wanted) {
@@ -121,6 +125,7 @@ class SqliteConnection final : public SqlConnection {
     const bool within = inTransaction();
     try {
       runKept("BEGIN IMMEDIATE");
+      database_->hasBegun();
     } catch (...) {
       if (!within) {
         rollback();  // it may have begun before memory ran out, and nobody else would end it
@@ -146,11 +151,15 @@ class SqliteConnection final : public SqlConnection {
     }
     return begun;
   }
-  void commit() override { runKept("COMMIT"); }
+  void commit() override {
+    runKept("COMMIT");
+    database_->hasEnded();
+  }
 
   void rollback() noexcept override {
     if (inTransaction()) {
       sqlite3_exec(database_->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+      database_->hasEnded();
     }
     if (inTransaction()) {
       // Without memory not even this can be done. What followed would go into a transaction that nobody ends, and be
@@ -191,6 +200,9 @@ class SqliteConnection final : public SqlConnection {
 
   std::unique_ptr<Recordset> run(std::string_view sql, const std::optional<LongText>& text) {
     return told(sql, [&](SqliteDatabase& database) -> std::unique_ptr<Recordset> {
+      if (!text && sql.size() <= kLongestKept) {
+        return carryOut(database, translations_.translated(sql, database.pages()), sql);
+      }
       SqlCommand command = translateSql(sql, clock_, database.pages());
       if (text) {
         putIn(command, *text);
@@ -328,6 +340,7 @@ class SqliteConnection final : public SqlConnection {
   }
 
   const Clock& clock_;
+  TranslatedStatements translations_{clock_};
   std::chrono::milliseconds patience_;
   std::string path_;
   std::unique_ptr<SqliteDatabase> database_;

@@ -2,8 +2,7 @@
 #include "platform/sqlite/sqlite_database.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
+#include <functional>
 #include <limits>
 #include <utility>
 #include <variant>
@@ -18,7 +17,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::size_t kStatementsKept = 96;
 /// How long the database is kept from others where it must be had alone, before it is looked whether it still must.
 constexpr std::chrono::seconds kAloneAtMost{5};
 /// How long the files themselves are not looked at while the log says that nothing has happened.
@@ -69,8 +67,9 @@ void StatementLoan::giveBack() noexcept {
   }
   sqlite3_reset(statement_.get());
   sqlite3_clear_bindings(statement_.get());
-  if (reusable_) {
-    database_->keep(std::move(statement_));
+  if (place_ != nullptr) {
+    place_->statement = std::move(statement_);
+    place_->isLent = false;
   }
   statement_.reset();
 }
@@ -114,6 +113,7 @@ int SqliteDatabase::takeLogIn(void* self, sqlite3* database, const char* name, i
   constexpr int kLongTransaction = 8192;
   SqliteDatabase& of = *static_cast<SqliteDatabase*>(self);
   SqliteFileWatch& watch = *of.watch_;
+  of.followOwnChange(static_cast<std::uint32_t>(pages));
   // Whoever has waited for a transaction as long as that of a large page is not made to wait for this as well.
   const bool waited = pages - std::exchange(of.pagesInLog_, pages) > kLongTransaction;
   if (pages < kPagesOfLog || waited) {
@@ -149,8 +149,7 @@ void SqliteDatabase::open(const std::optional<FileIdentity>& before) {
 }
 
 void SqliteDatabase::openFile(const std::optional<FileIdentity>& before) {
-  keptByText_.clear();
-  kept_.clear();
+  kept_ = {};
   handle_.reset();
   requireFile(path_);
   // Without SQLITE_OPEN_CREATE: an empty database in place of a lost one would look like a loss of all sites.
@@ -202,8 +201,7 @@ SqliteDatabase::~SqliteDatabase() {
   for (SqliteRecordset* recordset : open) {
     recordset->close();
   }
-  keptByText_.clear();
-  kept_.clear();
+  kept_ = {};
   if (watch_) {
     watch_->beforeClosing();
     handle_.reset();
@@ -279,12 +277,7 @@ void SqliteDatabase::chooseJournal() noexcept {
 }
 
 StatementLoan SqliteDatabase::prepare(const PlainStatement& statement) {
-  SqliteStatement prepared = takeKept(statement.text);
-  const bool reusable = prepared != nullptr || statement.reusable;
-  if (prepared == nullptr) {
-    prepared = compile(statement);
-  }
-  StatementLoan loan(*this, std::move(prepared), reusable);
+  StatementLoan loan = lend(statement);
   if (static_cast<std::size_t>(sqlite3_bind_parameter_count(loan.get())) != statement.parameters.size()) {
     throw sqliteError(SQLITE_RANGE, sqlite3_errstr(SQLITE_RANGE), path_);
   }
@@ -297,16 +290,33 @@ StatementLoan SqliteDatabase::prepare(const PlainStatement& statement) {
   return loan;
 }
 
-SqliteStatement SqliteDatabase::takeKept(std::string_view text) {
-  const auto found = keptByText_.find(text);
-  if (found == keptByText_.end()) {
-    return nullptr;
+StatementLoan SqliteDatabase::lend(const PlainStatement& statement) {
+  const std::size_t hash = std::hash<std::string_view>()(statement.text);
+  const auto lent = [&](KeptStatement& place) {
+    place.isLent = true;
+    place.lentAt = ++loans_;
+    return &place;
+  };
+  for (KeptStatement& kept : kept_) {
+    if (kept.hash == hash && kept.statement != nullptr && statement.text == sqlite3_sql(kept.statement.get())) {
+      return {std::move(kept.statement), lent(kept)};
+    }
   }
-  const Kept::iterator place = found->second;
-  SqliteStatement prepared = std::move(*place);
-  keptByText_.erase(found);
-  kept_.erase(place);
-  return prepared;
+  SqliteStatement prepared = compile(statement);
+  KeptStatement* const place = statement.reusable ? placeForOneMore() : nullptr;
+  if (place != nullptr) {
+    place->hash = hash;
+    place->statement.reset();
+    lent(*place);
+  }
+  return {std::move(prepared), place};
+}
+
+// That of the statement that was on loan longest ago; null while all are.
+KeptStatement* SqliteDatabase::placeForOneMore() {
+  const auto place = std::ranges::min_element(
+      kept_, {}, [](const KeptStatement& kept) { return std::pair(kept.isLent, kept.lentAt); });
+  return place->isLent ? nullptr : &*place;
 }
 
 SqliteStatement SqliteDatabase::compile(const PlainStatement& statement) {
@@ -341,9 +351,17 @@ bool SqliteDatabase::isKnownUnchanged() const noexcept {
   return logEnd_ && !outdated_ && std::chrono::steady_clock::now() < nextCount_ && endOfOpenLog(handle()) == logEnd_;
 }
 
+// The log has grown by the transaction that has just ended. Somebody else's may have followed already: then it is
+// longer.
+void SqliteDatabase::followOwnChange(std::uint32_t pages) noexcept {
+  const auto end = changesAlone_ ? endOfOpenLog(handle()) : std::nullopt;
+  logEnd_ = end && hasGrownTo(pages, *logEnd_, *end) ? end : std::nullopt;
+}
+
 // Where the log stands is read first: what others change meanwhile is then found at the next look.
 void SqliteDatabase::countChangesOfOthers() {
   logEnd_.reset();
+  hasEnded();
   const auto end = watch_ ? endOfOpenLog(handle()) : std::nullopt;
   const PlainStatement question{"pragma data_version", {}, true};
   const StatementLoan loan = prepare(question);
@@ -396,28 +414,12 @@ DataAccessError SqliteDatabase::lastError() {
     case SQLITE_NOMEM:
     case SQLITE_CORRUPT:
       sqlite3_exec(handle(), "rollback", nullptr, nullptr, nullptr);
+      hasEnded();
       break;
     default:
       break;
   }
   return error;
-}
-
-void SqliteDatabase::keep(SqliteStatement statement) noexcept {
-  try {
-    const std::string_view text = sqlite3_sql(statement.get());
-    if (keptByText_.contains(text)) {
-      return;
-    }
-    kept_.push_front(std::move(statement));
-    keptByText_.emplace(text, kept_.begin());
-    if (kept_.size() > kStatementsKept) {
-      keptByText_.erase(sqlite3_sql(kept_.back().get()));
-      kept_.pop_back();
-    }
-  } catch (const std::bad_alloc&) {
-    // Only kept for speed. A statement in the list that cannot be found by its text is dropped with the oldest.
-  }
 }
 
 }  // namespace tarnwick

@@ -3,13 +3,14 @@
 
 #include <sqlite3.h>
 
+#include <array>
 #include <chrono>
-#include <list>
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "base/errors.h"
@@ -30,13 +31,21 @@ struct SqliteFinalizer {
 using SqliteHandle = std::unique_ptr<sqlite3, SqliteCloser>;
 using SqliteStatement = std::unique_ptr<sqlite3_stmt, SqliteFinalizer>;
 
+/// A prepared statement that is kept for the next time, or the place of one that is on loan.
+struct KeptStatement {
+  std::size_t hash = 0;  ///< of its text
+  SqliteStatement statement{};
+  std::uint64_t lentAt = 0;  ///< counted in loans
+  bool isLent = false;
+};
+
 /// A prepared statement on loan: for one run, or as long as its rows are read. Given back, it holds no lock and no
 /// value any more.
 class StatementLoan {
  public:
   StatementLoan() = default;
-  StatementLoan(SqliteDatabase& database, SqliteStatement statement, bool reusable)
-      : database_(&database), statement_(std::move(statement)), reusable_(reusable) {}
+  /// `place` is where it is given back to; null for one that is not worth keeping.
+  StatementLoan(SqliteStatement statement, KeptStatement* place) : statement_(std::move(statement)), place_(place) {}
   ~StatementLoan() { giveBack(); }
   StatementLoan(StatementLoan&& other) noexcept = default;
   StatementLoan& operator=(StatementLoan&&) = delete;
@@ -45,9 +54,8 @@ class StatementLoan {
   void giveBack() noexcept;
 
  private:
-  SqliteDatabase* database_ = nullptr;
   SqliteStatement statement_;
-  bool reusable_ = false;
+  KeptStatement* place_ = nullptr;
 };
 
 /// How long another program's lock is waited for.
@@ -106,6 +114,9 @@ class SqliteDatabase {
   /// Whether nobody has changed the database since `countChangesOfOthers`, as far as is seen without asking it or the
   /// system for anything. The files are to be looked at now and then, too: then this is false.
   bool isKnownUnchanged() const noexcept;
+  /// A transaction has begun that writes: nobody else can before its end.
+  void hasBegun() noexcept { changesAlone_ = logEnd_ && endOfOpenLog(handle()) == logEnd_; }
+  void hasEnded() noexcept { changesAlone_ = false; }
   /// Asks how often others have changed the database.
   void countChangesOfOthers();
   /// What came of that.
@@ -122,13 +133,13 @@ class SqliteDatabase {
   void strikeOff(const SqliteRecordset& recordset) noexcept { std::erase(open_, &recordset); }
 
  private:
-  friend class StatementLoan;
   SqliteStatement compile(const PlainStatement& statement);
-  SqliteStatement takeKept(std::string_view text);
-  void keep(SqliteStatement statement) noexcept;
+  StatementLoan lend(const PlainStatement& statement);
+  KeptStatement* placeForOneMore();
   void open(const std::optional<FileIdentity>& before);
   void openFile(const std::optional<FileIdentity>& before);
   void openUnchanged();
+  void followOwnChange(std::uint32_t pages) noexcept;
   static int takeLogIn(void* self, sqlite3* database, const char* name, int pages) noexcept;
   void refuseDamage();
   /// What is wrong with the file; empty for nothing. Raises what keeps it from being read.
@@ -136,20 +147,21 @@ class SqliteDatabase {
   std::int64_t sizeOfFile() const;
   void chooseJournal() noexcept;
 
-  using Kept = std::list<SqliteStatement>;
+  static constexpr std::size_t kStatementsKept = 96;
 
   std::string path_;
   SqliteHandle handle_;
   std::optional<SqliteFileWatch> watch_;
-  /// The prepared statements not on loan, the one used last in front; found by the text they hold themselves.
-  Kept kept_;
-  std::unordered_map<std::string_view, Kept::iterator> keptByText_;
+  std::array<KeptStatement, kStatementsKept> kept_{};
+  std::uint64_t loans_ = 0;
   std::vector<SqliteRecordset*> open_;
   int pagesInLog_ = 0;
   // Where the log stood when others' changes were counted last, how many there were, and until when that is taken for
   // granted.
   std::optional<LogEnd> logEnd_;
   std::int64_t changesOfOthers_ = 0;
+  /// Whether the transaction that is open follows upon what was counted then.
+  bool changesAlone_ = false;
   std::chrono::steady_clock::time_point nextCount_{};
   bool outdated_ = false;
   // Opened as a file that nobody changes.

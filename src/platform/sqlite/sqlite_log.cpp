@@ -2,6 +2,7 @@
 #include "platform/sqlite/sqlite_log.h"
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <string_view>
 
@@ -47,6 +48,8 @@ class LogSums {
 
 constexpr std::size_t kLogHeader = 32;
 constexpr std::size_t kSaltsAt = 16;
+/// Where the salts stand in the memory that is shared.
+constexpr std::size_t kSalts = 32;
 constexpr std::size_t kSaltsSize = 8;
 
 /// Reads a log from its start. `read(to, size)` hands the next bytes, and is false where they are not all there.
@@ -270,8 +273,15 @@ std::optional<LogEnd> endOfOpenLog(sqlite3* database) {
   return end;
 }
 
+bool hasGrownTo(std::uint32_t pages, const LogEnd& before, const LogEnd& now) {
+  constexpr std::size_t kPages = 16;
+  std::uint32_t counted = 0;
+  std::memcpy(&counted, now.data() + kPages, sizeof counted);  // in this machine's order, as all of that memory
+  return counted == pages &&
+         std::equal(before.begin() + kSalts, before.begin() + kSalts + kSaltsSize, now.begin() + kSalts);
+}
+
 std::optional<LogProgress> progressOfOpenLog(sqlite3* database) {
-  constexpr std::size_t kSalts = 32;
   constexpr std::size_t kDone = 96;
   constexpr std::size_t kBegun = 128;
   const volatile unsigned char* const bytes = sharedMemoryOf(database);

@@ -76,6 +76,8 @@ using LogEnd = std::array<unsigned char, 48>;
 /// Of the log that `database`, which uses one, has open: a look into the memory that they share. Nothing where there is
 /// none.
 std::optional<LogEnd> endOfOpenLog(sqlite3* database);
+/// Whether the log that ended at `before` has grown to so many pages, and has not been begun anew.
+bool hasGrownTo(std::uint32_t pages, const LogEnd& before, const LogEnd& now);
 
 /// Of the log that `database`, which uses one, has open. Nothing where it cannot be told.
 std::optional<LogProgress> progressOfOpenLog(sqlite3* database);

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <string>
+#include <utility>
 
 #include "base/errors.h"
 #include "open_database.h"
@@ -161,6 +162,36 @@ TEST_F(SqliteConnectionTest, TellsWhetherOthersHaveChangedTheDatabase) {
   database.conn->rollback();
   database.folder.execute("pragma wal_checkpoint(truncate); update sites set url = 'again'");
   EXPECT_NE(database.conn->changesOfOthers(), after) << "The log was begun anew meanwhile.";
+}
+
+TEST_F(SqliteConnectionTest, TellsChangesOfOthersAroundOwnTransactions) {
+  const OpenDatabase database;
+  database.run("insert into sites (idSite,url) values (1,'u')");
+  std::int64_t known = database.conn->changesOfOthers();
+  const auto change = [&](bool isKept) {
+    database.conn->begin();
+    database.run("update sites set url = 'own'");
+    isKept ? database.conn->commit() : database.conn->rollback();
+  };
+  const auto isTold = [&] { return std::exchange(known, database.conn->changesOfOthers()) != known; };
+  change(true);
+  EXPECT_FALSE(isTold()) << "after an own transaction";
+  database.folder.execute("update sites set url = 'other'");
+  change(true);
+  EXPECT_TRUE(isTold()) << "before an own transaction";
+  change(true);
+  database.folder.execute("update sites set url = 'other'");
+  EXPECT_TRUE(isTold()) << "after an own transaction";
+  change(false);
+  database.folder.execute("update sites set url = 'other'");
+  database.run("update sites set url = 'own'");
+  EXPECT_TRUE(isTold()) << "between one that was taken back and a change without one";
+  change(true);
+  database.folder.execute("pragma wal_checkpoint(truncate)");
+  change(true);
+  isTold();
+  database.folder.execute("update sites set url = 'other'");
+  EXPECT_TRUE(isTold()) << "in a log that was begun anew";
 }
 
 TEST_F(SqliteConnectionTest, TakesAFileThatIsOpenedAgainForOneThatOthersHaveChanged) {

@@ -161,5 +161,25 @@ TEST_F(SqliteStatements, MoreDifferentStatementsThanAreKeptPrepared) {
   }
 }
 
+TEST_F(SqliteStatements, AreTheSameHoweverOftenTheyAreAsked) {
+  addSite("1");
+  const std::string moment = "select now() from sites where idSite = 1";
+  for (int day = 1; day <= 3; ++day) {
+    const std::string date = "2026-11-0" + std::to_string(day) + " 10:00:00";
+    database_.clock.setLocal(HandClock::at(date));
+    EXPECT_EQ(database_.rows(moment), date + ";") << "the moment in which it is asked";
+    // So many others that one of them is forgotten, and translated again.
+    for (int site = 1; site <= 400; ++site) {
+      const std::string id = std::to_string(site);
+      database_.run("update sites set url = 'u" + id + "' where idSite = " + id);
+      EXPECT_EQ(database_.rows("select url from sites where url = 'u" + id + "' and idSite = 1"),
+                id == "1" ? "u1;" : "");
+    }
+    database_.run("update sites set url = 'u1' where idSite = 1");
+  }
+  EXPECT_THROW(database_.run("select 'without an end"), DataAccessError);
+  EXPECT_THROW(database_.run("select 'without an end"), DataAccessError);
+}
+
 }  // namespace
 }  // namespace tarnwick::testing
