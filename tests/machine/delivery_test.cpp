@@ -318,6 +318,31 @@ TEST_F(DeliveryTest, ATestTellsTheAnswerAndKeepsNothing) {
   EXPECT_EQ(folder.queryText("select count(*) from outbox"), "0");
 }
 
+TEST_F(DeliveryTest, TheLastTryOfEachChannelIsTold) {
+  const std::int64_t office = addMail("office");
+  machine.mails.silent = true;
+  happen("a.example.org");
+  advance(seconds(1));
+  EXPECT_THAT(one.outbox.lastTries(), IsEmpty()) << "what is under way has come to nothing yet";
+  advance(seconds(58));
+  const LastTry failed = one.outbox.lastTries().at(office);
+  EXPECT_FALSE(failed.isSent);
+  EXPECT_LT(machine.handClock.localNow() - failed.at, seconds(2));
+  machine.mails.silent = false;
+  const std::int64_t home = addMail("home");
+  happen("b.example.org");
+  advance(minutes(2));
+  EXPECT_TRUE(one.outbox.lastTries().at(office).isSent);
+  EXPECT_TRUE(one.outbox.lastTries().at(home).isSent);
+  EXPECT_GT(one.outbox.lastTries().at(office).at, failed.at);
+  // Of two of one moment the later alert counts.
+  const std::string asOf = "update outbox set lastTry = '2026-11-22 15:00:00', state = iif(idAlert = ";
+  folder.execute(asOf + "(select min(idAlert) from outbox), 'failed', 'sent')");
+  EXPECT_TRUE(one.outbox.lastTries().at(office).isSent);
+  folder.execute(asOf + "(select min(idAlert) from outbox), 'sent', 'failed')");
+  EXPECT_FALSE(one.outbox.lastTries().at(office).isSent);
+}
+
 TEST_F(DeliveryTest, ALockedFileHoldsUpNobodyAndLosesNothing) {
   addMail("office");
   Deliverer other(folder.path(), machine.services());

@@ -11,6 +11,7 @@
 #include <QSslKey>
 #include <QSslSocket>
 #include <QTcpServer>
+#include <QTimer>
 
 #include "base/text.h"
 
@@ -29,9 +30,10 @@ class Listener final : public QTcpServer {
 
 class EsmtpServer::Impl {
  public:
-  Impl(EsmtpServer& owner, const TlsIdentity& identity, bool atOnce) : owner_(owner), identity_(identity) {
+  Impl(EsmtpServer& owner, const TlsIdentity& identity, bool atOnce, const std::string& address)
+      : owner_(owner), identity_(identity) {
     server.taken = [this, atOnce](qintptr handle) { accept(handle, atOnce); };
-    if (!server.listen(QHostAddress(QHostAddress::LocalHost))) {
+    if (!server.listen(QHostAddress(QString::fromStdString(address)))) {
       ADD_FAILURE() << "The mail server cannot listen: " << server.errorString().toStdString();
     }
   }
@@ -100,12 +102,29 @@ class EsmtpServer::Impl {
     if (answers.size() > 1) {
       answers.pop_front();
     }
-    if (words) {
-      client->write(words->data(), static_cast<qint64>(words->size()));
-    } else {
+    if (!words) {
+      client->disconnectFromHost();
+      return {};
+    }
+    const auto manner = owner_.manners.find(to);
+    if (manner != owner_.manners.end() && manner->second == Manner::byteByByte) {
+      dribble(*words);
+      return *words;
+    }
+    client->write(words->data(), static_cast<qint64>(words->size()));
+    if (manner != owner_.manners.end()) {
       client->disconnectFromHost();
     }
-    return words.value_or("");
+    return *words;
+  }
+
+  void dribble(const std::string& words) {
+    if (!client || words.empty()) {
+      return;
+    }
+    client->write(words.data(), 1);
+    client->flush();
+    QTimer::singleShot(1, client.data(), [this, rest = words.substr(1)] { dribble(rest); });
   }
 
   Listener server;
@@ -123,7 +142,7 @@ class EsmtpServer::Impl {
   bool inLogin_ = false;
 };
 
-EsmtpServer::EsmtpServer(const TlsIdentity& identity, bool atOnce)
+EsmtpServer::EsmtpServer(const TlsIdentity& identity, bool atOnce, const std::string& address)
     : replies{{"greeting", {"220 mail.example ready\r\n"}},
               {"EHLO", {"250-mail.example greets you\r\n250 8BITMIME\r\n"}},
               {"STARTTLS", {"220 go on\r\n"}},
@@ -132,7 +151,7 @@ EsmtpServer::EsmtpServer(const TlsIdentity& identity, bool atOnce)
               {"DATA", {"354 go on, end with a dot\r\n"}},
               {"message", {"250 2.0.0 taken as 1\r\n"}},
               {"QUIT", {"221 bye\r\n"}}},
-      impl_(std::make_unique<Impl>(*this, identity, atOnce)) {}
+      impl_(std::make_unique<Impl>(*this, identity, atOnce, address)) {}
 EsmtpServer::~EsmtpServer() = default;
 
 std::uint16_t EsmtpServer::port() const { return impl_->server.serverPort(); }

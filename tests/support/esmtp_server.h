@@ -27,15 +27,19 @@ class EsmtpServer {
   /// hangs up.
   using Replies = std::deque<std::optional<std::string>>;
 
+  /// How a reply is given, by what it is given to: one byte each millisecond, or with the connection closed behind it.
+  enum class Manner { byteByByte, thenClosed };
+
   EsmtpServer() : EsmtpServer(TlsIdentity{}, false) {}
   /// One that can be secured; from its first byte on `atOnce`.
-  explicit EsmtpServer(const TlsIdentity& identity, bool atOnce = false);
+  explicit EsmtpServer(const TlsIdentity& identity, bool atOnce = false, const std::string& address = "127.0.0.1");
   ~EsmtpServer();
   EsmtpServer(const EsmtpServer&) = delete;
   EsmtpServer& operator=(const EsmtpServer&) = delete;
 
   std::uint16_t port() const;
   std::map<std::string, Replies> replies;
+  std::map<std::string, Manner> manners;
 
   struct Line {
     std::string text;

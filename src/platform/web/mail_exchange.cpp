@@ -28,6 +28,10 @@ constexpr int kRefused = 400;
 constexpr std::size_t kShortestHidden = 4;
 /// A line of a reply has at most 512 (RFC 5321, section 4.5.3.1.5); of a longer one the start will do.
 constexpr std::size_t kLongestLine = 2048;
+/// More than that is no answer to a command: a server that talks faster than we read would be listened to for ever.
+constexpr std::size_t kLongestAnswer = 1'000'000;
+/// The server is about to close the connection; the old greeting would only be met by silence (RFC 5321, section 3.8).
+constexpr int kClosing = 421;
 
 template <class Value>
 void set(CURL* easy, CURLoption option, Value value) {
@@ -182,6 +186,9 @@ std::size_t MailExchange::onHeard(char* data, std::size_t size, std::size_t coun
 bool MailExchange::goesOn(std::string_view line) {
   const bool replied = talk_.heard(line);
   const bool greeted = replied && (talk_.step() == "EHLO" || talk_.step() == "HELO") && talk_.code() < kRefused;
+  if (replied && talk_.code() == kClosing) {
+    return false;
+  }
   const bool asFarAsItGets = server_.safety != MailSafety::startTls || talk_.startsTls();
   if (greeted && asFarAsItGets && needsUtf8_ && !talk_.offersUtf8()) {
     stopped_ = Stopped::withoutUtf8;
@@ -248,7 +255,12 @@ bool MailExchange::receive() {
       end(CURLE_RECV_ERROR);
       return false;
     }
+    heard_ += length;
     take({bytes.data(), length});
+    if (!ended_ && heard_ > kLongestAnswer) {
+      end(CURLE_WEIRD_SERVER_REPLY);
+      return false;
+    }
     if (!unsent_.empty()) {
       return true;
     }
@@ -289,6 +301,7 @@ void MailExchange::goOn() {
 }
 
 void MailExchange::sayNext() {
+  heard_ = 0;
   unsent_ = commands_[said_++];
   if (said_ < commands_.size()) {
     talk_.said(unsent_);

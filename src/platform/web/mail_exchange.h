@@ -83,6 +83,8 @@ class MailExchange {
   std::size_t said_ = 0;
   // Of the one that is being said.
   std::string_view unsent_;
+  // How many bytes have come since it was begun.
+  std::size_t heard_ = 0;
   bool hungUp_ = false;
   bool ended_ = false;
   // What has come of a line.

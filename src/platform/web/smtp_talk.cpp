@@ -76,9 +76,9 @@ bool SmtpTalk::heard(std::string_view line) {
   }
   const bool isLast = line.size() == kCodeLength || line[kCodeLength] == ' ';
   std::string_view words = line.substr(std::min(line.size(), kCodeLength + 1));
-  if (!between_) {
-    reply_ = line.substr(0, kCodeLength);
-  } else if (const auto code = enhancedCode(words); !code.empty() && reply_.find(code) == kCodeLength + 1) {
+  // Of codes that differ the last one counts.
+  reply_.replace(0, between_ ? kCodeLength : std::string::npos, line.substr(0, kCodeLength));
+  if (const auto code = enhancedCode(words); between_ && !code.empty() && reply_.find(code) == kCodeLength + 1) {
     words.remove_prefix(code.size());
   }
   noteOffer(words);
@@ -101,7 +101,7 @@ void SmtpTalk::noteOffer(std::string_view words) {
   if (step_ == "EHLO") {
     const std::string offer = upperCase(std::string(words.substr(0, words.find_first_of(" ="))));
     offersUtf8_ = offersUtf8_ || offer == "SMTPUTF8";
-    offersLogin_ = offersLogin_ || offer == "AUTH";
+    offersLogin_ = offersLogin_ || words.starts_with("AUTH ");
     offersSize_ = offersSize_ || offer == "SIZE";
   }
 }
