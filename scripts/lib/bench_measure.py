@@ -84,15 +84,23 @@ class FastServer:
 class SlowServer:
     """The benchmark's own server, which answers after a while and counts."""
 
-    def __init__(self, delay, size, hosts=1, dead=0):
+    def __init__(self, delay, size, hosts=1, dead=0, changed=0):
         self.process = subprocess.Popen([sys.executable, str(HERE / "bench_server.py"), "--delay", str(delay), "--size",
-                                         str(size), "--hosts", str(hosts), "--dead", str(dead)],
+                                         str(size), "--hosts", str(hosts), "--dead", str(dead),
+                                         "--changed", str(changed)],
                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         self.port = int(self.process.stdout.readline())
 
-    def in_flight(self):
+    def told(self):
         with urllib.request.urlopen(f"http://127.0.0.1:{self.port}/-/in-flight") as answer:
-            told = json.load(answer)
+            return json.load(answer)
+
+    def busy_seconds(self):
+        """For how long any request was open, since it was last asked."""
+        return sum(self.told()["seconds"].values())
+
+    def in_flight(self):
+        told = self.told()
         total = sum(told["seconds"].values()) or 1
         mean = sum(int(count) * seconds for count, seconds in told["seconds"].items()) / total
         return f"{told['served']} requests, at most {told['most']} in flight, {mean:.2f} on average"

@@ -16,6 +16,7 @@ from pathlib import Path
 from types import SimpleNamespace
 
 import bench_contenders
+from bench_alerts import alerts_round
 from bench_large import large_round
 from bench_measure import FastServer, SlowServer, load, measured, print_row
 
@@ -255,7 +256,8 @@ def window_round(options, tools, folder):
 
 
 PARTS = {"fast": fast_rounds, "secure": secure_round, "names": names_round, "slow": slow_round,
-         "parallel": parallel_round, "scale": scale_round, "window": window_round, "large": large_round}
+         "parallel": parallel_round, "scale": scale_round, "window": window_round, "large": large_round,
+         "alerts": alerts_round}
 
 
 def arguments():
@@ -271,7 +273,7 @@ def arguments():
     parser.add_argument("--parallel-sites", type=int, default=2000, help="sites of the part parallel (default 2000)")
     parser.add_argument("--patient", action="store_true",
                         help="let five at a time wait for the silent ones as well: some minutes")
-    parser.add_argument("--slow-sites", type=int, default=500, help="sites of the part slow (default 500)")
+    parser.add_argument("--slow-sites", type=int, default=500, help="sites of the parts slow and alerts (default 500)")
     options = parser.parse_args()
     if options.quick:
         options.runs = 1
