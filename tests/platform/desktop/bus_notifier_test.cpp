@@ -2,6 +2,8 @@
 #include "platform/desktop/bus_notifier.h"
 
 #include <gtest/gtest.h>
+#include <QProcess>
+#include <QTimer>
 
 #include "notice_service.h"
 #include "platform/desktop/desktop_notifier.h"
@@ -9,6 +11,36 @@
 
 namespace tarnwick::testing {
 namespace {
+
+/// Another program, for as long as this lives.
+class ProgramRun {
+ public:
+  ProgramRun(const QString& program, const QStringList& words, const QByteArray& display = {}) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), QLatin1Char(':') + QString::fromLatin1(display));
+    run_.setProcessEnvironment(environment);
+    run_.start(program, words);
+  }
+  ~ProgramRun() {
+    run_.kill();
+    run_.waitForFinished();
+  }
+  ProgramRun(const ProgramRun&) = delete;
+  ProgramRun& operator=(const ProgramRun&) = delete;
+
+  bool isThere() const { return run_.state() != QProcess::NotRunning; }
+  QByteArray firstLine() const {
+    waitUntil([this] { return run_.canReadLine() || !isThere(); });
+    return run_.readLine().trimmed();
+  }
+  QByteArray whole() const {
+    waitUntil([this] { return !isThere(); });
+    return run_.readAll();
+  }
+
+ private:
+  mutable QProcess run_;
+};
 
 class BusNotifierTest : public ::testing::Test {
  protected:
@@ -87,6 +119,33 @@ TEST_F(BusNotifierTest, ADesktopWithoutTheServiceHasNone) {
     EXPECT_TRUE(notifier->isThere());
   }
   EXPECT_TRUE(waitUntil([&] { return !notifier->isThere(); }));
+}
+
+TEST_F(BusNotifierTest, AServiceOfADesktopShowsThemAsTextAndTellsWhatIsDone) {
+  const ProgramRun display(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1")});
+  const ProgramRun service(QStringLiteral("dunst"), {}, display.firstLine());
+  if (!display.isThere() || !service.isThere()) {
+    GTEST_SKIP() << "Xvfb or dunst is not installed";
+  }
+  const auto notifier = makeDesktopNotifier();
+  QTimer ticks;  // the bus wakes nobody who does not listen to it yet
+  ticks.start(20);
+  ASSERT_TRUE(waitUntil([&] { return notifier->isThere(); }));
+  EXPECT_EQ(show(*notifier, {"A <b>site</b> is down", "<i>no</i> & \"quotes\"", {{"show", "Show what changed"}}}), "");
+  const auto tell = [](const char* what) {
+    return ProgramRun(QStringLiteral("dunstctl"), {QString::fromLatin1(what)}).whole();
+  };
+  const auto isShown = [&tell] { return tell("count").simplified().contains("Currently displayed: 1"); };
+  ASSERT_TRUE(waitUntil(isShown));
+  tell("close");
+  QByteArray shown;
+  EXPECT_TRUE(waitUntil([&] { return (shown = tell("history")).contains("Tarnwick"); }));
+  EXPECT_TRUE(shown.contains("&lt;i&gt;no&lt;/i&gt; &amp;") || shown.contains("<i>no</i> &")) << shown.constData();
+  EXPECT_EQ(show(*notifier, {"Down", "", {{"mute", "Mute"}}}), "");
+  ASSERT_TRUE(waitUntil(isShown));
+  tell("action");
+  EXPECT_TRUE(waitUntil([&] { return keys_.size() == 1; }));
+  EXPECT_EQ(keys_, std::vector<std::string>{"mute"});
 }
 
 TEST(BusNotifierAlone, WithoutABusThereIsNone) {

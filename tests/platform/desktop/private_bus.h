@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -19,8 +20,16 @@ class PrivateBus {
     }
     qunsetenv("DISPLAY");
     qunsetenv("XDG_CURRENT_DESKTOP");
-    daemon_.start(QStringLiteral("dbus-daemon"),
-                  {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address")});
+    // The session's own configuration would start services that this machine happens to have.
+    const QString configuration = home_.filePath(QStringLiteral("bus.conf"));
+    QFile file(configuration);
+    file.open(QIODevice::WriteOnly);
+    file.write("<busconfig><type>session</type><listen>unix:dir=" + home_.path().toUtf8() +
+               "</listen><auth>EXTERNAL</auth><policy context=\"default\"><allow send_destination=\"*\"/>"
+               "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
+    file.close();
+    daemon_.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--config-file=") + configuration,
+                                                  QStringLiteral("--nofork"), QStringLiteral("--print-address")});
     waitUntil([this] { return daemon_.canReadLine() || daemon_.state() == QProcess::NotRunning; });
     address_ = daemon_.readLine().trimmed();
     qputenv("DBUS_SESSION_BUS_ADDRESS", address_);
