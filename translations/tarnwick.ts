@@ -4223,6 +4223,86 @@
         <source>The latest page is that of the last check. What may vary or is left out by rules is no difference. Exit status: 0 when equal, 1 when they differ.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>A message to any of many services, through an Apprise server of your own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A message in a channel of a chat that takes web hooks as Discord does</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A message on phones and in browsers, through a server of your own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A message in a room of Matrix</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A notice on phones and desktops, through a public server or one of your own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A message in a channel of a chat that takes incoming web hooks as Slack does</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The end of the web hook&apos;s address, behind /webhooks/</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The end of the web hook&apos;s address, behind /services/</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The token of the application</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The access token of the account that writes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The daily test alert has not arrived through %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The daily test alert has not arrived through %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The daily messages cannot leave: no channel is on for all sites.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The heartbeat is not taken: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The heartbeat is taken again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>answered with %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 site names the channel %1 still. Who names no other one tells through those for all sites.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites name the channel %2 still. Who names no other one tells through those for all sites.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be changed: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What starts with the desktop cannot be changed: Windows has refused it.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -5968,6 +6048,21 @@ and when it is back</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::ChannelMenu</name>
+    <message>
+        <source>%1. What is in capitals in the address is yours.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. The password or token: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Any Other Service</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::ChannelsPage</name>
     <message>
         <source>Channels</source>
@@ -6039,6 +6134,14 @@ and when it is back</source>
     </message>
     <message>
         <source>ok: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 site names it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites name it.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -6821,6 +6924,26 @@ Do You Want To Discard Them And Close %2?</source>
         <source>Outbox…</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The daily test alert has not arrived through %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The daily test alert has not arrived through %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The heartbeat is not taken: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The daily messages cannot leave: no channel is on for all sites.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channels…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::OptionForm</name>
@@ -7420,6 +7543,53 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::Tray</name>
+    <message>
+        <source>Open %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause Alerts for 1 Hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outbox…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resume Alerts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outbox: %1 waiting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No site is active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of 1 site down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 sites down</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::VarsForm</name>
     <message>
         <source>Command1</source>
@@ -7434,6 +7604,33 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>%1 %2 to %3: not quiet</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::WindowFrame</name>
+    <message>
+        <source>Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close to the tray</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closing the window leaves the program in the tray, as long as there is one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This desktop has no tray: closing the window ends the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The window opens when you log in to this desktop</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -4223,6 +4223,86 @@
         <source>The latest page is that of the last check. What may vary or is left out by rules is no difference. Exit status: 0 when equal, 1 when they differ.</source>
         <translation>Die letzte Seite ist die der letzten Prüfung. Was abweichen darf oder durch Regeln ausgelassen wird, ist kein Unterschied. Status: 0 bei Gleichheit, 1 bei Unterschieden.</translation>
     </message>
+    <message>
+        <source>A message to any of many services, through an Apprise server of your own</source>
+        <translation>Eine Nachricht an einen von vielen Diensten, über einen eigenen Apprise-Server</translation>
+    </message>
+    <message>
+        <source>A message in a channel of a chat that takes web hooks as Discord does</source>
+        <translation>Eine Nachricht in einem Kanal eines Chats, der Web-Hooks so nimmt wie Discord</translation>
+    </message>
+    <message>
+        <source>A message on phones and in browsers, through a server of your own</source>
+        <translation>Eine Nachricht auf Telefonen und in Browsern, über einen eigenen Server</translation>
+    </message>
+    <message>
+        <source>A message in a room of Matrix</source>
+        <translation>Eine Nachricht in einem Raum von Matrix</translation>
+    </message>
+    <message>
+        <source>A notice on phones and desktops, through a public server or one of your own</source>
+        <translation>Ein Hinweis auf Telefonen und Desktops, über einen öffentlichen oder eigenen Server</translation>
+    </message>
+    <message>
+        <source>A message in a channel of a chat that takes incoming web hooks as Slack does</source>
+        <translation>Eine Nachricht in einem Kanal eines Chats, der eingehende Web-Hooks so nimmt wie Slack</translation>
+    </message>
+    <message>
+        <source>The end of the web hook&apos;s address, behind /webhooks/</source>
+        <translation>Das Ende der Adresse des Web-Hooks, hinter /webhooks/</translation>
+    </message>
+    <message>
+        <source>The end of the web hook&apos;s address, behind /services/</source>
+        <translation>Das Ende der Adresse des Web-Hooks, hinter /services/</translation>
+    </message>
+    <message>
+        <source>The token of the application</source>
+        <translation>Das Token der Anwendung</translation>
+    </message>
+    <message>
+        <source>The access token of the account that writes</source>
+        <translation>Das Zugangstoken des Kontos, das schreibt</translation>
+    </message>
+    <message>
+        <source>The daily test alert has not arrived through %1.</source>
+        <translation>Der tägliche Probealarm ist über %1 nicht angekommen.</translation>
+    </message>
+    <message>
+        <source>The daily test alert has not arrived through %1: %2</source>
+        <translation>Der tägliche Probealarm ist über %1 nicht angekommen: %2</translation>
+    </message>
+    <message>
+        <source>The daily messages cannot leave: no channel is on for all sites.</source>
+        <translation>Die täglichen Nachrichten können nicht hinaus: Kein Kanal ist für alle Seiten eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>The heartbeat is not taken: %1</source>
+        <translation>Das Lebenszeichen wird nicht angenommen: %1</translation>
+    </message>
+    <message>
+        <source>The heartbeat is taken again.</source>
+        <translation>Das Lebenszeichen wird wieder angenommen.</translation>
+    </message>
+    <message>
+        <source>answered with %1</source>
+        <translation>mit %1 beantwortet</translation>
+    </message>
+    <message>
+        <source>1 site names the channel %1 still. Who names no other one tells through those for all sites.</source>
+        <translation>1 Seite nennt den Kanal %1 noch. Wer keinen anderen nennt, meldet über die für alle Seiten.</translation>
+    </message>
+    <message>
+        <source>%1 sites name the channel %2 still. Who names no other one tells through those for all sites.</source>
+        <translation>%1 Seiten nennen den Kanal %2 noch. Wer keinen anderen nennt, meldet über die für alle Seiten.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be changed: %2.</source>
+        <translation>Die Datei %1 lässt sich nicht ändern: %2.</translation>
+    </message>
+    <message>
+        <source>What starts with the desktop cannot be changed: Windows has refused it.</source>
+        <translation>Was mit dem Desktop startet, lässt sich nicht ändern: Windows hat es abgelehnt.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -5969,6 +6049,21 @@ und wenn sie wieder da ist</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::ChannelMenu</name>
+    <message>
+        <source>%1. What is in capitals in the address is yours.</source>
+        <translation>%1. Was in der Adresse groß geschrieben ist, ist das Ihre.</translation>
+    </message>
+    <message>
+        <source>%1. The password or token: %2.</source>
+        <translation>%1. Passwort oder Token: %2.</translation>
+    </message>
+    <message>
+        <source>Any Other Service</source>
+        <translation>Irgendein anderer Dienst</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::ChannelsPage</name>
     <message>
         <source>Channels</source>
@@ -6041,6 +6136,14 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>ok: %1</source>
         <translation>gut: %1</translation>
+    </message>
+    <message>
+        <source>1 site names it.</source>
+        <translation>1 Seite nennt ihn.</translation>
+    </message>
+    <message>
+        <source>%1 sites name it.</source>
+        <translation>%1 Seiten nennen ihn.</translation>
     </message>
 </context>
 <context>
@@ -6226,7 +6329,7 @@ und wenn sie wieder da ist</translation>
     </message>
     <message>
         <source>The daily test alert</source>
-        <translation>Der tägliche Testalarm</translation>
+        <translation>Der tägliche Probealarm</translation>
     </message>
     <message>
         <source>All is well</source>
@@ -6823,6 +6926,26 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>Outbox…</source>
         <translation>Postausgang…</translation>
+    </message>
+    <message>
+        <source>The daily test alert has not arrived through %1.</source>
+        <translation>Der tägliche Probealarm ist über %1 nicht angekommen.</translation>
+    </message>
+    <message>
+        <source>The daily test alert has not arrived through %1: %2</source>
+        <translation>Der tägliche Probealarm ist über %1 nicht angekommen: %2</translation>
+    </message>
+    <message>
+        <source>The heartbeat is not taken: %1</source>
+        <translation>Das Lebenszeichen wird nicht angenommen: %1</translation>
+    </message>
+    <message>
+        <source>The daily messages cannot leave: no channel is on for all sites.</source>
+        <translation>Die täglichen Nachrichten können nicht hinaus: Kein Kanal ist für alle Seiten eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>Channels…</source>
+        <translation>Kanäle…</translation>
     </message>
 </context>
 <context>
@@ -7423,6 +7546,53 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::Tray</name>
+    <message>
+        <source>Open %1</source>
+        <translation>%1 öffnen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Pause Alerts for 1 Hour</source>
+        <translation>Alarme 1 Stunde aussetzen</translation>
+    </message>
+    <message>
+        <source>Outbox…</source>
+        <translation>Postausgang…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Resume Alerts</source>
+        <translation>Alarme fortsetzen</translation>
+    </message>
+    <message>
+        <source>Outbox: %1 waiting…</source>
+        <translation>Postausgang: %1 warten…</translation>
+    </message>
+    <message>
+        <source>No site is active</source>
+        <translation>Keine Seite ist aktiv</translation>
+    </message>
+    <message>
+        <source>%1 of 1 site down</source>
+        <translation>%1 von 1 Seite ausgefallen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 sites down</source>
+        <translation>%1 von %2 Seiten ausgefallen</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::VarsForm</name>
     <message>
         <source>Command1</source>
@@ -7438,6 +7608,33 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>%1 %2 to %3: not quiet</source>
         <translation>%1 %2 bis %3: keine Ruhe</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::WindowFrame</name>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Close to the tray</source>
+        <translation>Beim Schließen ins Infofeld</translation>
+    </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation>Mit dem Desktop starten</translation>
+    </message>
+    <message>
+        <source>Closing the window leaves the program in the tray, as long as there is one</source>
+        <translation>Beim Schließen des Fensters bleibt das Programm im Infofeld, solange es eines gibt</translation>
+    </message>
+    <message>
+        <source>This desktop has no tray: closing the window ends the program</source>
+        <translation>Dieser Desktop hat kein Infofeld: Das Schließen des Fensters beendet das Programm</translation>
+    </message>
+    <message>
+        <source>The window opens when you log in to this desktop</source>
+        <translation>Das Fenster öffnet sich, wenn Sie sich an diesem Desktop anmelden</translation>
     </message>
 </context>
 </TS>

@@ -9,12 +9,14 @@
 #include "app/display_guard.h"
 #include "app/translations.h"
 #include "app/window_arguments.h"
+#include "platform/desktop/desktop_habits.h"
 #include "platform/process/unwanted_signals.h"
 #include "platform/program_folder.h"
 #include "platform/terminal.h"
 #include "program/fault_box.h"
 #include "ui/exchange/import_dialog.h"
 #include "ui/main_window/master.h"
+#include "ui/main_window/tray_icon.h"
 #include "ui/outbox/outbox_dialog.h"
 #include "ui/settings/control_dialog.h"
 #include "ui/site/one_site_editor.h"
@@ -63,12 +65,15 @@ int main(int argc, char** argv) {
   if (!tarnwick::FaultBox(machine.services().prompts).run(choose)) {
     return failed();
   }
+  const auto habits = tarnwick::makeUserHabits();
   tarnwick::Master window(folder, machine.services());
-  window.setEditors(
-      {.site = tarnwick::siteEditorOf(window.program(), window),
-       .settings = tarnwick::settingsDialogOf(window.program(), window),
-       .importList = tarnwick::importOf(window.program(), window),
-       .outbox = tarnwick::outboxOf(window.program(), window, tarnwick::channelSettingsOf(window.program(), window))});
+  const auto channels = tarnwick::channelSettingsOf(window.program(), window, habits.get());
+  window.setEditors({.site = tarnwick::siteEditorOf(window.program(), window),
+                     .settings = tarnwick::settingsDialogOf(window.program(), window, habits.get()),
+                     .importList = tarnwick::importOf(window.program(), window),
+                     .outbox = tarnwick::outboxOf(window.program(), window, channels),
+                     .channels = [&channels] { channels(0); }});
+  window.useTray(tarnwick::makeTrayIcon(), [&habits] { return habits->closesToTray(); });
   if (!window.load()) {
     failed();
     return window.isLoaded() ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -106,6 +106,20 @@ void Delivery::addUnkept(const Alert& alert, const std::optional<std::string>& o
   deliver();
 }
 
+std::optional<Delivery::LostTrial> Delivery::lostTrial() {
+  const std::vector<Channel>& all = channels_.channelsInForce();
+  if (all.empty()) {
+    return std::nullopt;
+  }
+  for (const OutboxRow& row : outbox_.undelivered(kDailyTest, services_.clock.localNow() - kTrialPatience)) {
+    const auto channel = std::ranges::find(all, row.idChannel, &Channel::id);
+    if (channel != all.end() && channel->on) {
+      return LostTrial{channel->name, row.answer};
+    }
+  }
+  return std::nullopt;
+}
+
 void Delivery::beginPass() {
   inPass_ = true;
   passBegan_ = services_.clock.localNow();

@@ -66,6 +66,16 @@ class Delivery {
   OutboxSummary summary() { return outbox_.outboxSummary(); }
   /// When an alert of that event was made last. Raises DataAccessError.
   std::optional<LocalTime> lastMade(const std::string& event) { return outbox_.lastMade(event); }
+  /// How long the daily test alert may take to arrive: three tries after the first one have been made by then.
+  static constexpr std::chrono::minutes kTrialPatience{20};
+  /// That a test alert has not arrived.
+  struct LostTrial {
+    std::string channel;  ///< by which it should have left
+    std::string answer;   ///< what its last try came to; empty when there was none
+  };
+  /// The first channel that is on and by which the latest daily test alert has not arrived in time. "Arrived" is what
+  /// the next server, program or desktop has taken: nobody tells of what becomes of it there. Raises DataAccessError.
+  std::optional<LostTrial> lostTrial();
   /// Why nothing can be delivered just now; empty when it can.
   const std::string& fault() const { return fault_; }
 

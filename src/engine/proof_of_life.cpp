@@ -16,7 +16,6 @@ constexpr std::chrono::seconds kLongestBeat{30};
 constexpr int kFirstRefusal = 300;  // RFC 9110, section 15
 
 constexpr const char* kAllIsWell = "all is well";
-constexpr const char* kTrial = "daily test";
 
 std::string counted(std::int64_t count, const char* one, const char* many) {
   return std::to_string(count) + " " + (count == 1 ? one : many);
@@ -32,9 +31,14 @@ bool ProofOfLife::isWanted(const OptionsInForce& options) {
   return options.setsAnyOf(kWishes);
 }
 
+bool ProofOfLife::lacksChannel(const OptionsInForce& options, Delivery& delivery) {
+  static constexpr std::array kDaily{option_name::allIsWell, option_name::testAlert};
+  return options.setsAnyOf(kDaily) && !delivery.tellsOf(std::nullopt);
+}
+
 void ProofOfLife::tick(const OptionsInForce& options) {
   tellDaily(options.valueOf(kAllSites, option_name::allIsWell), kAllIsWell);
-  tellDaily(options.valueOf(kAllSites, option_name::testAlert), kTrial);
+  tellDaily(options.valueOf(kAllSites, option_name::testAlert), kDailyTest);
   beat(options.valueOf(kAllSites, option_name::heartbeat));
 }
 
@@ -73,9 +77,25 @@ std::string ProofOfLife::figures() {
   return text + ".";
 }
 
+void ProofOfLife::rest() {
+  heart_.reset();
+  lastBeat_.reset();
+  setFault({});
+}
+
+void ProofOfLife::setFault(std::string fault) {
+  if (fault != heartbeatFault_) {
+    heartbeatFault_ = std::move(fault);
+    needs_.view.showHeartbeat(heartbeatFault_);
+  }
+}
+
 void ProofOfLife::beat(const std::optional<std::string>& address) {
-  if (!address || (heart_ && heart_->stillExecuting()) ||
-      (lastBeat_ && needs_.clock.steadyNow() - *lastBeat_ < kBetweenBeats)) {
+  if (!address) {
+    rest();
+    return;
+  }
+  if ((heart_ && heart_->stillExecuting()) || (lastBeat_ && needs_.clock.steadyNow() - *lastBeat_ < kBetweenBeats)) {
     return;
   }
   lastBeat_ = needs_.clock.steadyNow();
@@ -83,9 +103,9 @@ void ProofOfLife::beat(const std::optional<std::string>& address) {
     heart_ = needs_.transfers.makeTransferControl();
     heart_->onIdle([this] {
       const TransferResult result = heart_->takeResult();
-      heartbeatFault_ = result.fault != TransferFault::none ? result.cause
-                        : result.status >= kFirstRefusal    ? "answered with " + std::to_string(result.status)
-                                                            : std::string();
+      setFault(result.fault != TransferFault::none ? result.cause
+               : result.status >= kFirstRefusal    ? "answered with " + std::to_string(result.status)
+                                                   : std::string());
     });
   }
   heart_->execute({.url = *address, .timeout = kLongestBeat});

@@ -25,8 +25,13 @@ class ProofOfLife {
   /// Whether any of them is.
   static bool isWanted(const OptionsInForce& options);
 
+  /// Whether a daily message is wanted that no channel would take, since none is on for all sites.
+  static bool lacksChannel(const OptionsInForce& options, Delivery& delivery);
+
   /// Sends what is due. Raises DataAccessError when that cannot be kept. REQUIRES: a run is on, and no transaction.
   void tick(const OptionsInForce& options);
+  /// No run is on, or none of them is wanted any more.
+  void rest();
   /// Why nobody has taken the latest request to that address; empty while all is well.
   const std::string& heartbeatFault() const { return heartbeatFault_; }
 
@@ -34,6 +39,7 @@ class ProofOfLife {
   void tellDaily(const std::optional<std::string>& at, const std::string& event);
   std::string figures();
   void beat(const std::optional<std::string>& address);
+  void setFault(std::string fault);
 
   const RunController::Needs& needs_;
   std::unique_ptr<TransferControl> heart_;

@@ -104,6 +104,7 @@ void RunController::stopChecking() {
   needs_.view.indicators(RunState::stop);
   tmrCheckSites_->setEnabled(false);
   forgetOffline();
+  life_->rest();
   needs_.view.showStatus("Stopped.");
 }
 
@@ -147,6 +148,9 @@ void RunController::obey(OptionsInForce options) {
   obeyed_ = options;
   newSitesAtOnce_ = options.newSitesAtOnce();
   provesLife_ = ProofOfLife::isWanted(options);
+  if (!provesLife_) {
+    life_->rest();
+  }
   network_.obey(options);
   alarms_.setOptions(std::move(options));
 }

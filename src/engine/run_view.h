@@ -80,6 +80,8 @@ class RunView {
   /// Tells since when this machine has had no way to the net, as far as that is looked after; nothing as soon as it has
   /// one again. Nothing is counted as down meanwhile.
   virtual void showOffline(std::optional<LocalTime> /*since*/) {}
+  /// Tells why the heartbeat is not taken; empty as soon as it is again, and when none is wanted any more.
+  virtual void showHeartbeat(const std::string& /*fault*/) {}
   /// Writes a site's "Time Of Last Test" cell.
   virtual void setLastChecked(std::int16_t idSite, const std::string& dateTime) = 0;
 };

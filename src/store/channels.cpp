@@ -8,6 +8,7 @@
 
 #include "base/one_line.h"
 #include "base/text.h"
+#include "store/alarm_values.h"
 #include "store/channel_table.h"
 #include "store/migrations.h"
 #include "store/table_there.h"
@@ -35,6 +36,41 @@ void take(Channel& channel, const std::string& name, std::string value) {
     channel.forAll = value == option_value::on;
   } else {
     channel.settings.emplace(name, std::move(value));
+  }
+}
+
+/// What a site, or all of them, names as channels.
+struct Naming {
+  std::int64_t idSite = 0;
+  std::vector<std::string> names;
+};
+
+/// Who names that channel, in any letter case.
+std::vector<Naming> namingsOf(Database& database, std::string_view channel) {
+  std::vector<Naming> all;
+  if (!hasTable(database, "siteOptions")) {
+    return all;
+  }
+  const SqlValue option{std::string(option_name::channels)};
+  const auto rows = database.conn().execute("select idSite, value from siteOptions where name = ?1", {&option, 1});
+  for (; !rows->eof(); rows->moveNext()) {
+    auto names = readNames(rows->field(std::size_t{1}).toText()).value_or(std::vector<std::string>());
+    if (std::ranges::any_of(names, [&](const std::string& name) { return equalsIgnoringCase(name, channel); })) {
+      all.push_back({rows->field(std::size_t{0}).toInt64(), std::move(names)});
+    }
+  }
+  rows->close();
+  return all;
+}
+
+void renameInOptions(Database& database, std::string_view before, const std::string& after) {
+  for (Naming& naming : namingsOf(database, before)) {
+    for (std::string& name : naming.names) {
+      name = equalsIgnoringCase(name, before) ? after : name;
+    }
+    const std::array<SqlValue, 3> row{SqlValue(namesText(naming.names)), SqlValue(naming.idSite),
+                                      SqlValue(std::string(option_name::channels))};
+    database.conn().execute("update siteOptions set value = ?1 where idSite = ?2 and name = ?3", row)->close();
   }
 }
 
@@ -122,6 +158,9 @@ std::int64_t Channels::storeChannel(const Channel& given) {
     if (other.id != channel.id && equalsIgnoringCase(other.name, channel.name)) {
       throw std::runtime_error("There is a channel \"" + other.name + "\" already. Give this one another name.");
     }
+    if (other.id == channel.id && other.name != channel.name) {
+      renameInOptions(db_, other.name, channel.name);
+    }
   }
   channel.id = channel.id == 0 ? highest + 1 : channel.id;
   const SqlValue id(channel.id);
@@ -137,6 +176,10 @@ std::int64_t Channels::storeChannel(const Channel& given) {
   }
   whole.commit();
   return channel.id;
+}
+
+std::int64_t Channels::sitesNaming(std::string_view name) {
+  return std::ranges::count_if(namingsOf(db_, name), [](const Naming& naming) { return naming.idSite != kAllSites; });
 }
 
 void Channels::removeChannel(std::int64_t idChannel) {

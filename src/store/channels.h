@@ -50,8 +50,10 @@ class Channels {
   /// The one of that name, in any letter case; nothing when there is none.
   std::optional<Channel> channelNamed(std::string_view name);
   /// Stores a channel, in place of the one with its id, and returns the id. Raises std::runtime_error as
-  /// `checkedChannel` does, and when another one has its name.
+  /// `checkedChannel` does, and when another one has its name. Sites that name it follow a new name.
   std::int64_t storeChannel(const Channel& channel);
+  /// How many sites name that channel among their own, in any letter case.
+  std::int64_t sitesNaming(std::string_view name);
   /// Removes it with the alerts that wait for it. Nothing when there is none.
   void removeChannel(std::int64_t idChannel);
 

@@ -182,6 +182,19 @@ OutboxSummary Outbox::outboxSummary() {
   return summary;
 }
 
+std::vector<OutboxRow> Outbox::undelivered(const std::string& event, LocalTime madeUntil) {
+  if (!hasOutbox()) {
+    return {};
+  }
+  const std::array<SqlValue, 4> of{SqlValue(event), stored(OutboxRow::State::failed), stored(OutboxRow::State::waiting),
+                                   stored(madeUntil)};
+  return rowsOf(db_,
+                "where event = ?1 and (state = ?2 or (state = ?3 and made <= ?4)) and not exists (select 1 from outbox "
+                "as later where later.event = ?1 and later.idChannel = outbox.idChannel and later.idAlert > "
+                "outbox.idAlert and later.state not in (?3)) order by idAlert",
+                of);
+}
+
 std::optional<LocalTime> Outbox::lastMade(const std::string& event) {
   if (!hasOutbox()) {
     return std::nullopt;

@@ -33,6 +33,9 @@ struct Alert {
   bool operator==(const Alert&) const = default;
 };
 
+/// The event of the alert that only tries the channels, each day.
+inline constexpr const char* kDailyTest = "daily test";
+
 /// An alert on its way through one channel.
 struct OutboxRow {
   enum class State { waiting, sent, failed };
@@ -88,6 +91,9 @@ class Outbox {
   /// Those that wait for the same channel, were made in the same pass and have been tried as often, with that one.
   std::vector<OutboxRow> waitingLike(const OutboxRow& first);
   OutboxSummary outboxSummary();
+  /// The latest alerts of that event, one of each channel at most, that were given up, or still wait and were made
+  /// until then; without those of a channel that has delivered a later one.
+  std::vector<OutboxRow> undelivered(const std::string& event, LocalTime madeUntil);
   /// When an alert of that event was made last; nothing when none is kept.
   std::optional<LocalTime> lastMade(const std::string& event);
   /// The last try of each channel, as far as it is still known.

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "delivery/delivery.h"
+#include "engine/proof_of_life.h"
 #include "engine/run_controller.h"
 #include "store/channel_table.h"
 #include "support/program_fixture.h"
@@ -80,6 +82,76 @@ TEST_F(ProofOfLifeTest, TheHeartBeatsOnceAMinuteWhileARunIsOn) {
   program.run().stopChecking();
   advance(minutes(5));
   EXPECT_EQ(server.requests().size(), 3U);
+}
+
+TEST_F(ProofOfLifeTest, AHeartbeatThatIsNotTakenIsShownUntilItIsOrNoneIsWanted) {
+  server.respond("/alive", {.status = 503, .body = "no"});
+  set("heartbeat", server.url("/alive"));
+  program.run().startChecking();
+  advance(seconds(60));
+  ASSERT_TRUE(waitUntil([&] { return view.heartbeat == "answered with 503"; }));
+  EXPECT_EQ(program.run().heartbeatFault(), "answered with 503");
+  server.respond("/alive", {.body = "ok"});
+  advance(seconds(60));
+  EXPECT_TRUE(waitUntil([&] { return view.heartbeat.empty(); }));
+  server.respond("/alive", {.status = 503, .body = "no"});
+  advance(seconds(60));
+  ASSERT_TRUE(waitUntil([&] { return !view.heartbeat.empty(); }));
+  program.run().stopChecking();
+  EXPECT_EQ(view.heartbeat, "");
+}
+
+TEST_F(ProofOfLifeTest, ATestAlertThatStillWaitsAfterItsTimeIsLostUntilOneArrives) {
+  Delivery& delivery = program.data().delivery();
+  set("testAlert", "8:00");
+  for (int tries = 0; tries < 5; ++tries) {
+    machine.mails.answer({.delivered = false, .words = "450 later"});
+  }
+  program.run().startChecking();
+  advance(minutes(35));
+  EXPECT_THAT(told(), HasSubstr("daily test"));
+  EXPECT_FALSE(delivery.lostTrial()) << "it has not had its time";
+  advance(minutes(20));
+  ASSERT_TRUE(delivery.lostTrial());
+  EXPECT_EQ(delivery.lostTrial()->channel, "office");
+  EXPECT_EQ(delivery.lostTrial()->answer, "450 later");
+  advance(hours(4));
+  EXPECT_FALSE(delivery.lostTrial()) << "it has arrived";
+}
+
+TEST_F(ProofOfLifeTest, ATestAlertThatWasGivenUpIsLostUntilALaterOneArrives) {
+  Delivery& delivery = program.data().delivery();
+  const auto keep = [this](const std::string& made, const std::string& state) {
+    folder.execute(
+        "insert into outbox (idChannel, idSite, pass, made, event, state, tries, nextTry, deadline, answer, url, "
+        "cause, downSince, downFor, checks, firstError, difference, page, lastTry) values (1, "
+        "0, '" +
+        made + "', '" + made + "', 'daily test', '" + state + "', 1, '" + made + "', '" + made +
+        "', 'why', '', '', '', '', '', '', '', '', '')");
+  };
+  keep("2026-11-20 08:00:00", "failed");
+  ASSERT_TRUE(delivery.lostTrial());
+  keep("2026-11-22 07:29:00", "waiting");
+  EXPECT_TRUE(delivery.lostTrial());
+  keep("2026-11-22 07:29:30", "sent");
+  EXPECT_EQ(delivery.lostTrial().has_value(), false);
+  keep("2026-11-22 07:29:40", "failed");
+  ASSERT_TRUE(delivery.lostTrial());
+  Channel off = program.data().channels().front();
+  off.on = false;
+  program.data().storeChannel(off);
+  EXPECT_FALSE(delivery.lostTrial()) << "it was switched off on purpose";
+}
+
+TEST_F(ProofOfLifeTest, DailyMessagesNeedAChannelForAllSites) {
+  const auto lacks = [this] {
+    return ProofOfLife::lacksChannel(program.data().optionsInForce(), program.data().delivery());
+  };
+  EXPECT_FALSE(lacks());
+  set("allIsWell", "8:00");
+  EXPECT_FALSE(lacks());
+  program.data().removeChannel(1);
+  EXPECT_TRUE(lacks());
 }
 
 }  // namespace

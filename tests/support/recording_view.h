@@ -41,6 +41,7 @@ class RecordingView final : public RunView {
     whyLost.emplace_back(mail.why);
   }
   void showDropped(std::int16_t idSite, const std::string&) override { dropped.push_back(idSite); }
+  void showHeartbeat(const std::string& fault) override { heartbeat = fault; }
   void showOffline(std::optional<LocalTime> since) override { offline = since; }
   void setLastChecked(std::int16_t idSite, const std::string& dateTime) override {
     lastChecked.emplace_back(idSite, dateTime);
@@ -52,6 +53,7 @@ class RecordingView final : public RunView {
   }
 
   std::optional<LocalTime> offline;
+  std::string heartbeat;
   std::string caption;
   int gridFills = 0;
   std::vector<std::string> statuses;

@@ -308,14 +308,19 @@ int remove(Tool& tool, const ChannelVerbOptions& options) {
                                  std::to_string(count) + ")?")) {
     return exit_status::failed;
   }
+  const std::int64_t naming = tool.data().sitesNaming(channel.name);
   tool.data().removeChannel(channel.id);
   awaited<bool>(tool.services(), false, [&](const std::function<void(bool)>& answered) {
     tool.data().delivery().secrets().remove(secretName(channel.id), [answered] { answered(true); });
   });
   if (options.json) {
-    sayJson(tool.console(), {{"removed", jsonText(channel.name)}});
-  } else {
-    tool.console().tell("The channel " + channel.name + " is removed.");
+    sayJson(tool.console(), {{"removed", jsonText(channel.name)}, {"sites", naming}});
+    return exit_status::ok;
+  }
+  tool.console().tell("The channel " + channel.name + " is removed.");
+  if (naming > 0) {
+    tool.console().complain(std::to_string(naming) + (naming == 1 ? " site names" : " sites name") + " the channel " +
+                            channel.name + " still. Who names no other one tells through those for all sites.");
   }
   return exit_status::ok;
 }

@@ -3,6 +3,7 @@
 
 #include "delivery/channel_sender.h"
 #include "delivery/delivery.h"
+#include "engine/proof_of_life.h"
 
 namespace tarnwick {
 namespace {
@@ -21,6 +22,18 @@ std::string delayText(const OutboxSummary& summary) {
 std::string lossText(const OutboxSummary& summary) {
   return textOf(summary.failed, " alert was given up", " alerts were given up", summary.failedBy);
 }
+
+std::string trialText(m& data) {
+  if (ProofOfLife::lacksChannel(data.optionsInForce(), data.delivery())) {
+    return "The daily messages cannot leave: no channel is on for all sites.";
+  }
+  const auto lost = data.delivery().lostTrial();
+  return lost ? "The daily test alert has not arrived through " + visibleText(lost->channel) +
+                    (lost->answer.empty() ? "." : ": " + visibleText(lost->answer))
+              : std::string();
+}
+
+std::string heartbeatText(const std::string& fault) { return "The heartbeat is not taken: " + visibleText(fault); }
 
 void awaitDelivery(const Services& services, const std::function<bool()>& goesOn) {
   bool isOver = false;
@@ -46,13 +59,16 @@ void hintAtSecret(Console& console, const Channel& channel) {
 
 void deliverAndTell(Console& console, m& data, const Services& services) {
   if (data.channelsInForce().empty()) {
+    if (const std::string text = trialText(data); !text.empty()) {
+      console.complain(text);
+    }
     return;
   }
   Delivery& delivery = data.delivery();
   delivery.deliver();
   awaitDelivery(services, [&] { return delivery.isUnderWay() || delivery.hasUntried(); });
   const OutboxSummary summary = data.outboxSummary();
-  for (const std::string& text : {delayText(summary), lossText(summary), delivery.fault()}) {
+  for (const std::string& text : {delayText(summary), lossText(summary), trialText(data), delivery.fault()}) {
     if (!text.empty()) {
       console.complain(text);
     }

@@ -18,6 +18,11 @@ std::string delayText(const OutboxSummary& summary);
 /// "2 alerts were given up: ..."; empty when none was.
 std::string lossText(const OutboxSummary& summary);
 
+/// "The daily test alert has not arrived through office: ..."; empty when nothing is known against it.
+std::string trialText(m& data);
+/// "The heartbeat is not taken: ..."
+std::string heartbeatText(const std::string& fault);
+
 /// Handles events for as long as `goesOn`, one try's time at most, and not when the program is being closed.
 void awaitDelivery(const Services& services, const std::function<bool()>& goesOn);
 

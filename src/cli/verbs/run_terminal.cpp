@@ -59,6 +59,7 @@ void RunTerminal::watchOutbox() {
   data.delivery().onChanged([this, &data] {
     try {
       showOutbox(data.outboxSummary());
+      lookAfterTheTrial();
     } catch (const DataAccessError&) {
       // What keeps the file from being read is told elsewhere.
     }
@@ -98,6 +99,23 @@ void RunTerminal::showOutbox(const OutboxSummary& summary) {
     });
   } else if (summary.delayed == 0 && before.delayed > 0 && summary.failed == before.failed) {
     tell("All alerts are delivered again.", "alertsDelivered", [] { return JsonValue::object(); });
+  }
+}
+
+void RunTerminal::lookAfterTheTrial() {
+  const std::string text = trialText(*data_);
+  if (text != std::exchange(trial_, text) && !text.empty()) {
+    tell(text, "testAlertLost", [&] { return JsonValue{{"cause", jsonText(text)}}; });
+  }
+}
+
+void RunTerminal::showHeartbeat(const std::string& fault) {
+  const bool wasTaken = std::exchange(heartbeat_, fault).empty();
+  if (!fault.empty()) {
+    tell(heartbeatText(fault), "heartbeat", [&] { return JsonValue{{"taken", false}, {"cause", jsonText(fault)}}; });
+  } else if (!wasTaken && state_ != RunState::stop &&
+             data_->optionsInForce().valueOf(kAllSites, option_name::heartbeat)) {
+    tell("The heartbeat is taken again.", "heartbeat", [] { return JsonValue{{"taken", true}}; });
   }
 }
 
@@ -200,6 +218,7 @@ void RunTerminal::endPass() {
            return json;
          });
     forgetWhatIsNotWatched();
+    lookAfterTheTrial();
   }
 }
 

@@ -42,6 +42,7 @@ class RunTerminal final : public SilentView {
   void setProgressWidth(std::int64_t width) override;
   void showResult(const CheckResult& result) override;
   void showLostMail(const LostMail& mail) override;
+  void showHeartbeat(const std::string& fault) override;
   void showDropped(std::int16_t idSite, const std::string& url) override;
 
  private:
@@ -59,6 +60,7 @@ class RunTerminal final : public SilentView {
   /// `detailsOf` is asked where the run is told as JSON.
   void tell(const std::string& text, const char* event, const std::function<JsonValue()>& detailsOf);
   void endPass();
+  void lookAfterTheTrial();
   void addUnwatched(JsonValue& json);
   void forgetWhatIsNotWatched();
   bool hasLiveLine() const;
@@ -79,6 +81,9 @@ class RunTerminal final : public SilentView {
   RunState state_ = RunState::stop;
   Count pass_;
   OutboxSummary outbox_;
+  // What was told last.
+  std::string trial_;
+  std::string heartbeat_;
   std::string status_;
   std::string runTime_;
   std::int64_t progress_ = 0;

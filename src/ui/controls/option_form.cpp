@@ -2,6 +2,7 @@
 #include "ui/controls/option_form.h"
 
 #include <algorithm>
+#include <array>
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
@@ -19,6 +20,12 @@ constexpr int kGap = 12;
 constexpr QSize kUsualSize{762, 430};
 
 QString translated(const std::string& text) { return QObject::tr(text.c_str()); }
+
+/// Whether an option stands elsewhere: among what is told, or beside the channels that it leaves through.
+bool hasPlaceElsewhere(std::string_view option) {
+  constexpr std::array kBesideChannels{option_name::allIsWell, option_name::testAlert, option_name::heartbeat};
+  return AlarmSection::hasPlaceFor(option) || std::ranges::find(kBesideChannels, option) != kBesideChannels.end();
+}
 
 }  // namespace
 
@@ -108,7 +115,7 @@ void OptionForm::makeRows() {
   QGridLayout* network = nullptr;
   QGridLayout* others = nullptr;
   for (const OptionField& option : program_.data().optionFields()) {
-    if ((!ofAll && !option.ofSite) || (alarm_ != nullptr && AlarmSection::hasPlaceFor(option.name))) {
+    if ((!ofAll && !option.ofSite) || (alarm_ != nullptr && hasPlaceElsewhere(option.name))) {
       continue;
     }
     const bool ofNetwork =

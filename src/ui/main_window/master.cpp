@@ -128,6 +128,11 @@ void Master::connectControls() {
   connect(controls_.importList, &QAction::triggered, this, [this] { program_.faults().run(editors_.importList); });
   connect(controls_.outbox, &QAction::triggered, this, [this] { program_.faults().run(editors_.outbox); });
   connect(notices_, &Notices::outboxWanted, controls_.outbox, &QAction::trigger);
+  connect(notices_, &Notices::channelsWanted, this, [this] {
+    if (editors_.channels) {
+      program_.faults().run(editors_.channels);
+    }
+  });
   connect(controls_.grid1, &SiteGridView::rowChosen, this, &Master::grid1_Click);
   connect(controls_.Label1, &LinkButton::clicked, this, &Master::Label1_Click);
   // In every window of the program.
@@ -192,31 +197,6 @@ void Master::Label1_Click() { openPage(program_.services(), fileOf(kHelpFile).to
 
 void Master::imgLogoSmall_Click() { visitPage(program_.services(), kProductHomePage); }
 
-void Master::closeEvent(QCloseEvent* event) {
-  const QString unsaved = std::exchange(mayLose_, true) ? QString() : everyUnsavedEdit();
-  if (!unsaved.isEmpty()) {
-    event->ignore();
-    const QString question = tr("These changes are not stored: %1.\n\nDo You Want To Discard Them And Close %2?")
-                                 .arg(unsaved, QString::fromLatin1(kProductName));
-    program_.services().prompts.confirm(
-        {.text = question.toStdString(), .icon = PromptIcon::question, .destroys = true}, [this](bool yes) {
-          mayLose_ = yes;
-          if (yes) {
-            // Not from within the event that asked.
-            QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
-          }
-        });
-    return;
-  }
-  program_.close();
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (auto* dialog = qobject_cast<QDialog*>(window); dialog != nullptr && dialog->isVisible()) {
-      dialog->reject();
-    }
-  }
-  event->accept();
-}
-
 void Master::setCaption(const std::string& caption) { setWindowTitle(QString::fromStdString(caption)); }
 
 void Master::fillGrid() {
@@ -238,6 +218,9 @@ void Master::showStatus(const std::string& text) { controls_.lStatus->showText(d
 void Master::indicators(RunState state) {
   state_ = state;
   notices_->look();
+  if (tray_ != nullptr) {
+    tray_->look();
+  }
   controls_.lamps[0]->setLit(state == RunState::stop);
   controls_.lamps[1]->setLit(state == RunState::pause);
   controls_.lamps[2]->setLit(state == RunState::start);

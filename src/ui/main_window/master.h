@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <QMainWindow>
 
@@ -15,6 +16,7 @@
 #include "ui/main_window/master_layout.h"
 #include "ui/main_window/notices.h"
 #include "ui/main_window/site_grid_model.h"
+#include "ui/main_window/tray.h"
 
 namespace tarnwick {
 
@@ -27,6 +29,8 @@ struct Editors {
   std::function<void()> importList{};
   /// Shows the alerts that are on their way.
   std::function<void()> outbox{};
+  /// Opens the settings on the channels.
+  std::function<void()> channels{};
 };
 
 /// The main window, the only one that stands as long as the program runs: the list of sites, the lamps of the run, its
@@ -48,6 +52,12 @@ class Master final : public QMainWindow, public RunView {
   /// Sets what a click on a row, "New" and "Setup" open.
   void setEditors(Editors editors);
 
+  /// Shows the worst state of the sites in the desktop's tray, if there is one. `closesTo` tells, while the tray is
+  /// there, whether closing the window only takes it away; else closing it ends the program, always.
+  void useTray(std::unique_ptr<TrayIcon> icon, std::function<bool()> closesTo);
+  /// Ends the program as closing the window does where there is no tray.
+  void quit();
+
   // What the run shows.
   void setCaption(const std::string& caption) override;
   void fillGrid() override;
@@ -62,6 +72,7 @@ class Master final : public QMainWindow, public RunView {
   void updateGridRow(std::int16_t idSite, bool passed) override;
   void showResult(const CheckResult& result) override;
   void showOffline(std::optional<LocalTime> since) override;
+  void showHeartbeat(const std::string&) override { notices_->look(); }
   void showLostMail(const LostMail& mail) override { notices_->add(mail); }
   void setLastChecked(std::int16_t idSite, const std::string& dateTime) override;
 
@@ -100,6 +111,10 @@ class Master final : public QMainWindow, public RunView {
   Editors editors_;
   // Whether the user is being asked, or has agreed, to lose what is not stored. Closing the window once more is a Yes.
   bool mayLose_ = false;
+  // The icon in the tray, where one is used, and whether closing the window leaves the program there.
+  Tray* tray_ = nullptr;
+  std::function<bool()> closesToTray_;
+  bool quits_ = false;
   // The run shows itself in the controls, so it goes before them.
   Program program_;
 };

@@ -29,6 +29,10 @@ void paintLetter(QPainter& painter) {
   painter.drawPolyline(QPolygonF({{1.0, 3.2}, {7.0, 8.0}, {13.0, 3.2}}));
 }
 
+void paintPulse(QPainter& painter) {
+  painter.drawPolyline(QPolygonF({{0.7, 7.0}, {3.8, 7.0}, {5.6, 2.5}, {8.2, 11.5}, {10.0, 7.0}, {13.3, 7.0}}));
+}
+
 void paintEye(QPainter& painter) {
   QPainterPath lids(QPointF(0.7, 7.0));
   lids.quadTo(7.0, 0.0, 13.3, 7.0);
@@ -53,7 +57,8 @@ void paintBars(QPainter& painter) {
 }
 
 NoticeTone toneOf(NoticeButton::Icon icon) {
-  return icon == NoticeButton::Icon::letter || icon == NoticeButton::Icon::eye ? NoticeTone::amber : NoticeTone::blue;
+  return icon == NoticeButton::Icon::unplugged || icon == NoticeButton::Icon::bars ? NoticeTone::blue
+                                                                                   : NoticeTone::amber;
 }
 
 void paintIcon(QPainter& painter, NoticeButton::Icon icon, const QPoint& place, const QColor& ink) {
@@ -67,6 +72,9 @@ void paintIcon(QPainter& painter, NoticeButton::Icon icon, const QPoint& place, 
       break;
     case NoticeButton::Icon::letter:
       paintLetter(painter);
+      break;
+    case NoticeButton::Icon::pulse:
+      paintPulse(painter);
       break;
     case NoticeButton::Icon::eye:
       paintEye(painter);
@@ -160,6 +168,7 @@ void NoticeButton::paintEvent(QPaintEvent*) {
 NoticeBar::NoticeBar(QWidget* parent) : QWidget(parent) {
   offline_ = add(NoticeButton::Icon::unplugged, "noticeOffline");
   outbox_ = add(NoticeButton::Icon::letter, "noticeOutbox");
+  life_ = add(NoticeButton::Icon::pulse, "noticeLife");
   unwatched_ = add(NoticeButton::Icon::eye, "noticeUnwatched");
   paused_ = add(NoticeButton::Icon::bars, "noticePaused");
   more_ = new QLabel(this);
@@ -176,7 +185,7 @@ NoticeButton* NoticeBar::add(NoticeButton::Icon icon, const char* name) {
 }
 
 std::vector<NoticeButton*> NoticeBar::shown() const {
-  std::vector<NoticeButton*> notices{offline_, outbox_, unwatched_, paused_};
+  std::vector<NoticeButton*> notices{offline_, outbox_, life_, unwatched_, paused_};
   std::erase_if(notices, [](const NoticeButton* notice) { return notice->sentence().isEmpty(); });
   return notices;
 }

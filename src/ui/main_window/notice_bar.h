@@ -15,7 +15,7 @@ class NoticeButton final : public QPushButton {
   Q_OBJECT
 
  public:
-  enum class Icon { unplugged, letter, eye, bars };
+  enum class Icon { unplugged, letter, pulse, eye, bars };
 
   explicit NoticeButton(Icon icon, QWidget* parent = nullptr);
 
@@ -52,6 +52,7 @@ class NoticeBar final : public QWidget {
   /// The notices, in the order in which they stand.
   NoticeButton& offline() { return *offline_; }
   NoticeButton& outbox() { return *outbox_; }
+  NoticeButton& life() { return *life_; }
   NoticeButton& unwatched() { return *unwatched_; }
   NoticeButton& paused() { return *paused_; }
   /// The first notice that is there; null when all is well.
@@ -75,6 +76,7 @@ class NoticeBar final : public QWidget {
 
   NoticeButton* offline_;
   NoticeButton* outbox_;
+  NoticeButton* life_;
   NoticeButton* unwatched_;
   NoticeButton* paused_;
   QLabel* more_;

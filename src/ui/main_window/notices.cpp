@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QTime>
 
+#include "engine/proof_of_life.h"
 #include "platform/run_lock_file.h"
 #include "store/site_pauses.h"
 #include "store/site_table.h"
@@ -51,6 +52,7 @@ Notices::Notices(Program& program, NoticeBar& bar, SiteGridView& grid, QObject* 
   soon_.setSingleShot(true);
   connect(&soon_, &QTimer::timeout, this, &Notices::lookAround);
   connect(&bar_.outbox(), &NoticeButton::clicked, this, &Notices::openOutbox);
+  connect(&bar_.life(), &NoticeButton::clicked, this, &Notices::channelsWanted);
   connect(&bar_.unwatched(), &NoticeButton::clicked, this, &Notices::helpUnwatched);
   connect(&bar_.offline(), &NoticeButton::clicked, this, [this] { program_.run().network().lookAtOnce(); });
   connect(&bar_.paused(), &NoticeButton::clicked, this, [this] { program_.faults().run([this] { resume(); }); });
@@ -104,7 +106,9 @@ void Notices::countUnwatched() {
 void Notices::lookAtOutbox() {
   fault_ = program_.data().delivery().fault();
   summary_ = program_.data().outboxSummary();
+  lostTrial_ = program_.data().delivery().lostTrial();
   tellOutbox();
+  tellLife();
 }
 
 // As far as its file tells, which a run that was killed may have left behind.
@@ -183,6 +187,12 @@ QString Notices::outboxSentence() const {
   if (!fault_.empty()) {
     return tr("No alert can be delivered: %1").arg(displayMessage(fault_));
   }
+  if (lostTrial_) {
+    const QString channel = onOneLine(displayText(lostTrial_->channel));
+    return lostTrial_->answer.empty() ? tr("The daily test alert has not arrived through %1.").arg(channel)
+                                      : tr("The daily test alert has not arrived through %1: %2")
+                                            .arg(channel, onOneLine(displayMessage(lostTrial_->answer)));
+  }
   if (summary_.failed > 0) {
     const QString why = onOneLine(displayMessage(summary_.failedBy));
     return summary_.failed == 1 ? tr("1 alert was not delivered: %1").arg(why)
@@ -194,6 +204,16 @@ QString Notices::outboxSentence() const {
                                  : tr("%1 alerts are waiting: %2").arg(QString::number(summary_.delayed), why);
   }
   return {};
+}
+
+void Notices::tellLife() {
+  m& data = program_.data();
+  const std::string& fault = program_.run().heartbeatFault();
+  const QString sentence = !fault.empty() ? tr("The heartbeat is not taken: %1").arg(onOneLine(displayMessage(fault)))
+                           : ProofOfLife::lacksChannel(data.optionsInForce(), data.delivery())
+                               ? tr("The daily messages cannot leave: no channel is on for all sites.")
+                               : QString();
+  bar_.tell(bar_.life(), sentence, tr("Channels…"), grid_);
 }
 
 // Mails that nobody tries again come first, and are over once they have been read.

@@ -11,6 +11,7 @@
 #include <QString>
 #include <QTimer>
 
+#include "delivery/delivery.h"
 #include "engine/run_view.h"
 #include "program/program.h"
 #include "store/alarm_values.h"
@@ -44,6 +45,8 @@ class Notices final : public QObject {
  Q_SIGNALS:
   /// Somebody wants to see what is on its way.
   void outboxWanted();
+  /// Somebody wants to see the channels.
+  void channelsWanted();
 
  private:
   struct Lost {
@@ -61,6 +64,7 @@ class Notices final : public QObject {
   void showFirstUnwatched();
   void resume();
   void tellOutbox();
+  void tellLife();
   QString outboxSentence() const;
   void openOutbox();
   void listLost();
@@ -72,6 +76,7 @@ class Notices final : public QObject {
   std::deque<Lost> lost_;  // the last ones
   std::size_t lostInAll_ = 0;
   OutboxSummary summary_;
+  std::optional<Delivery::LostTrial> lostTrial_;
   std::string fault_;
   QTimer soon_;
   bool isStale_ = true;

@@ -5,7 +5,6 @@
 #include <utility>
 #include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QMenu>
 #include <QPointer>
 #include <QVBoxLayout>
 
@@ -14,6 +13,7 @@
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
 #include "ui/controls/row_table.h"
+#include "ui/settings/channel_menu.h"
 
 namespace tarnwick {
 namespace {
@@ -32,10 +32,14 @@ void setUp(QTableView& table) {
 
 ChannelsPage::ChannelsPage(Program& program, QWidget* parent)
     : QWidget(parent), program_(program), list_(new ChannelList(this)) {
-  auto* sides = new QHBoxLayout(this);
-  sides->setContentsMargins({});
+  auto* sides = new QHBoxLayout;
   sides->addWidget(makeList(), 5);
   sides->addWidget(makeChannel(), 7);
+  life_ = new LifeForm(program, this);
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins({});
+  all->addLayout(sides, 1);
+  all->addWidget(life_);
   connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this] { program_.faults().run([this] { showChannel(); }); });
   // Where the box is, which Space ticks.
@@ -75,15 +79,8 @@ QWidget* ChannelsPage::makeList() {
 
 QPushButton* ChannelsPage::makeAdd(QWidget& parent) {
   QPushButton* button = addButton(parent, "channelAdd", tr("Add"), tr("Another way by which alerts leave"));
-  auto* menu = new QMenu(button);
-  for (const ChannelKind& kind : channelKinds()) {
-    QAction* action =
-        menu->addAction(channelKindWords(kind), this, [this, &kind] { program_.faults().run([&] { add(kind); }); });
-    action->setObjectName(QStringLiteral("channelAdd_") + QString::fromStdString(kind.name));
-    action->setToolTip(QObject::tr(kind.meaning.c_str()));
-  }
-  menu->setToolTipsVisible(true);
-  button->setMenu(menu);
+  button->setMenu(new ChannelMenu(
+      program_, [this](Channel channel, const QString& hint) { add(std::move(channel), hint); }, button));
   return button;
 }
 
@@ -132,6 +129,7 @@ void ChannelsPage::load() {
   list_->setChannels(program_.data().channels(), program_.data().lastTries(), program_.services().clock.localNow());
   removed_.clear();
   tellWhatMailDoes();
+  life_->load();
   setEnabled(true);
   loaded_ = true;
   chooseRow(0);
@@ -164,18 +162,25 @@ void ChannelsPage::choose(std::int64_t idChannel) {
   table_->setFocus();
 }
 
-void ChannelsPage::add(const ChannelKind& kind) {
-  const std::string name = list_->freeName(channelKindWords(kind).toStdString());
-  chooseRow(list_->add({.channel = {.name = name, .kind = kind.name}, .lastTry = lastTryWords(nullptr, {})}));
+void ChannelsPage::add(Channel channel, const QString& hint) {
+  channel.name = list_->freeName(channel.name);
+  chooseRow(list_->add({.channel = std::move(channel), .lastTry = lastTryWords(nullptr, {})}));
   form_->name().setFocus();
   form_->name().selectAll();
+  if (!hint.isEmpty()) {
+    hint_->setText(hint);
+  }
 }
 
 void ChannelsPage::remove() {
   const ChannelDraft draft = list_->at(currentRow());
-  const QString question =
+  const std::int64_t naming = draft.channel.id == 0 ? 0 : program_.data().sitesNaming(draft.stored.name);
+  QString question =
       tr("Do You Want To Remove The Channel %1?").arg(displayText(draft.channel.name)) + QStringLiteral("\n\n") +
       tr("Alerts that wait for it are not delivered, and sites that name it tell nothing through it any more.");
+  if (naming > 0) {
+    question += QLatin1Char('\n') + (naming == 1 ? tr("1 site names it.") : tr("%1 sites name it.").arg(naming));
+  }
   ask(*this, program_, {.text = question.toStdString(), .destroys = true}, [this, id = draft.channel.id](bool yes) {
     if (!yes) {
       return;
@@ -247,11 +252,12 @@ void ChannelsPage::tellTested(const SendReply& reply) {
 }
 
 bool ChannelsPage::isChanged() const {
-  return !removed_.empty() || std::ranges::any_of(list_->drafts(), &ChannelDraft::isChanged);
+  return life_->isChanged() || !removed_.empty() || std::ranges::any_of(list_->drafts(), &ChannelDraft::isChanged);
 }
 
 void ChannelsPage::store() {
   secrets_.clear();
+  life_->store();
   for (const std::int64_t id : removed_) {
     program_.data().removeChannel(id);
   }

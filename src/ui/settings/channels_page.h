@@ -17,6 +17,7 @@
 #include "program/program.h"
 #include "ui/settings/channel_form.h"
 #include "ui/settings/channel_list.h"
+#include "ui/settings/life_form.h"
 
 namespace tarnwick {
 
@@ -50,7 +51,7 @@ class ChannelsPage final : public QWidget {
   QPushButton* makeAdd(QWidget& parent);
   void load();
   void tellWhatMailDoes();
-  void add(const ChannelKind& kind);
+  void add(Channel channel, const QString& hint);
   void remove();
   void showChannel();
   void takeForm();
@@ -70,6 +71,7 @@ class ChannelsPage final : public QWidget {
   QLabel* hint_ = nullptr;
   QPushButton* btnTest_ = nullptr;
   QPlainTextEdit* answer_ = nullptr;
+  LifeForm* life_ = nullptr;
   ChannelForm* form_ = nullptr;  // of the chosen channel
   std::vector<std::int64_t> removed_;
   // What is to be kept once all is stored: the ids of channels with their new secrets.

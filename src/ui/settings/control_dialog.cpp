@@ -62,8 +62,8 @@ class BusyPointer {
 
 }  // namespace
 
-ControlDialog::ControlDialog(Program& program, QWidget* parent)
-    : QDialog(parent), program_(program), controls_(layOutControlDialog(*this, program)) {
+ControlDialog::ControlDialog(Program& program, QWidget* parent, UserHabits* habits)
+    : QDialog(parent), program_(program), controls_(layOutControlDialog(*this, program, habits)) {
   setObjectName(QStringLiteral("frmControl"));
   setWindowTitle(tr("Settings"));
   connectButtons();
@@ -133,7 +133,7 @@ std::vector<Setting> ControlDialog::shownSettings() const {
 
 QString ControlDialog::unsavedEdits() const {
   return shownSettings() != loaded_ || controls_.defaults->isChanged() || controls_.channels->isChanged() ||
-                 controls_.pause->isChanged()
+                 controls_.pause->isChanged() || (controls_.window != nullptr && controls_.window->isChanged())
              ? tr("the settings")
              : QString();
 }
@@ -154,6 +154,9 @@ void ControlDialog::Command1_Click() {
   controls_.defaults->store();
   controls_.channels->store();
   controls_.pause->store();
+  if (controls_.window != nullptr) {
+    controls_.window->store();
+  }
   whole.commit();
   controls_.channels->settle();
   unload(Accepted);
@@ -243,23 +246,25 @@ void ControlDialog::unload(DialogCode result) {
 namespace {
 
 // The one that is shown, else a new one: one that has been closed may not have been taken down yet.
-ControlDialog& theSettings(Program& program, QWidget& parent) {
+ControlDialog& theSettings(Program& program, QWidget& parent, UserHabits* habits) {
   for (auto* dialog : parent.findChildren<ControlDialog*>(QString(), Qt::FindDirectChildrenOnly)) {
     if (dialog->isVisible()) {
       return *dialog;
     }
   }
-  return *new ControlDialog(program, &parent);
+  return *new ControlDialog(program, &parent, habits);
 }
 
 }  // namespace
 
-std::function<void()> settingsDialogOf(Program& program, QWidget& parent) {
-  return [&program, &parent] { theSettings(program, parent).showInFront(); };
+std::function<void()> settingsDialogOf(Program& program, QWidget& parent, UserHabits* habits) {
+  return [&program, &parent, habits] { theSettings(program, parent, habits).showInFront(); };
 }
 
-std::function<void(std::int64_t)> channelSettingsOf(Program& program, QWidget& parent) {
-  return [&program, &parent](std::int64_t idChannel) { theSettings(program, parent).showChannel(idChannel); };
+std::function<void(std::int64_t)> channelSettingsOf(Program& program, QWidget& parent, UserHabits* habits) {
+  return [&program, &parent, habits](std::int64_t idChannel) {
+    theSettings(program, parent, habits).showChannel(idChannel);
+  };
 }
 
 }  // namespace tarnwick

@@ -21,8 +21,8 @@ class ControlDialog final : public QDialog, public UnsavedEdits {
 
  public:
   /// Fills the controls from the stored settings; raises DataAccessError. `program` outlives the dialog. `parent` is
-  /// the main window.
-  ControlDialog(Program& program, QWidget* parent);
+  /// the main window. `habits` outlives the dialog; null where nothing can be kept of the user's.
+  ControlDialog(Program& program, QWidget* parent, UserHabits* habits = nullptr);
 
   /// Fills the controls from the stored settings. Raises DataAccessError.
   void populateMe();
@@ -65,8 +65,9 @@ class ControlDialog final : public QDialog, public UnsavedEdits {
 };
 
 /// Opens the one settings dialog of `program`, above `parent`; made when it is first needed.
-std::function<void()> settingsDialogOf(Program& program, QWidget& parent);
+std::function<void()> settingsDialogOf(Program& program, QWidget& parent, UserHabits* habits = nullptr);
 /// Opens the same on a channel.
-std::function<void(std::int64_t idChannel)> channelSettingsOf(Program& program, QWidget& parent);
+std::function<void(std::int64_t idChannel)> channelSettingsOf(Program& program, QWidget& parent,
+                                                              UserHabits* habits = nullptr);
 
 }  // namespace tarnwick

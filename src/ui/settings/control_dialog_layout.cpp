@@ -196,7 +196,7 @@ void layOutPage(QWidget& page, QWidget& content, const char* ok, const char* can
 
 }  // namespace
 
-ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program) {
+ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program, UserHabits* habits) {
   // Made in the order in which the eye reads them, which is the order of the Tab key.
   ControlDialogControls controls{};
   auto* general = new QWidget;
@@ -210,7 +210,15 @@ ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program) {
 
   auto* defaults = new QWidget;
   controls.defaults = named(new OptionForm(program, defaults), "defaults", QObject::tr("Defaults for all sites"));
-  layOutPage(*defaults, *controls.defaults, "btnOk", "btnCancel", controls);
+  auto* content = new QWidget(defaults);
+  auto* parts = new QVBoxLayout(content);
+  parts->setContentsMargins({});
+  parts->addWidget(controls.defaults, 1);
+  if (habits != nullptr) {
+    controls.window = new WindowFrame(*habits, content);
+    parts->addWidget(controls.window);
+  }
+  layOutPage(*defaults, *content, "btnOk", "btnCancel", controls);
   auto* channels = new QWidget;
   controls.channels =
       named(new ChannelsPage(program, channels), "channels", QObject::tr("The ways by which alerts leave"));

@@ -12,6 +12,7 @@
 #include "ui/controls/option_form.h"
 #include "ui/settings/channels_page.h"
 #include "ui/settings/pause_page.h"
+#include "ui/settings/window_frame.h"
 
 namespace tarnwick {
 
@@ -35,6 +36,7 @@ struct ControlDialogControls {
   OptionForm* defaults;
   ChannelsPage* channels;
   PausePage* pause;
+  WindowFrame* window;  ///< null where nothing can be kept of the user's
   /// OK and Cancel of each page behind the first one.
   std::vector<QPushButton*> btnOks;
   std::vector<QPushButton*> btnCancels;
@@ -50,7 +52,8 @@ struct ControlDialogControls {
 /// Makes the controls of the settings dialog and lays them out: on the first page the settings with OK and Cancel at
 /// the top, the administration functions below; on the second one the options for all sites, on the third one
 /// the ways by which alerts leave, on the fourth one when it is quiet.
-ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program);
+/// `habits`: null where nothing can be kept of the user's.
+ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program, UserHabits* habits);
 
 /// Tells under the list of time-outs, while none is selected, what is stored; where that is nothing, what holds.
 void tellStoredTimeout(const ControlDialogControls& controls, const QString& stored);

@@ -119,6 +119,40 @@ TEST_F(ChannelVerb, ChangesWhatIsNamed) {
   EXPECT_THAT(err, HasSubstr("There is no channel \"nowhere\"."));
 }
 
+TEST_F(ChannelVerb, SitesFollowANewNameAndTellWhenTheirChannelGoes) {
+  ASSERT_EQ(addMail("office"), exit_status::ok);
+  addSite("http://a/");
+  addSite("http://b/");
+  ASSERT_EQ(run({"option", "1", "channels=Office, phone"}), exit_status::ok) << err;
+  ASSERT_EQ(run({"option", "2", "channels=phone"}), exit_status::ok) << err;
+  ASSERT_EQ(run({"option", "all", "channels=office"}), exit_status::ok) << err;
+  ASSERT_EQ(run({"channel", "set", "office", "name=work"}), exit_status::ok) << err;
+  EXPECT_EQ(folder.queryRows("select idSite, value from siteOptions where name = 'channels' order by idSite"),
+            "0|work\n1|work, phone\n2|phone\n");
+  ASSERT_EQ(run({"channel", "remove", "work"}), exit_status::ok);
+  EXPECT_EQ(out, "The channel work is removed.\n");
+  EXPECT_THAT(err, HasSubstr("1 site names the channel work still."));
+  ASSERT_EQ(addMail("work"), exit_status::ok);
+  EXPECT_EQ(runJson({"channel", "remove", "work", "--json"})["sites"], 1);
+}
+
+TEST_F(ChannelVerb, ACheckTellsOfATestAlertThatHasNotArrived) {
+  ASSERT_EQ(run({"option", "all", "testAlert=8:00"}), exit_status::ok) << err;
+  addPage("/a", "alpha");
+  EXPECT_EQ(run({"check"}), exit_status::ok);
+  EXPECT_THAT(err, HasSubstr("The daily messages cannot leave: no channel is on for all sites."));
+  ASSERT_EQ(addMail("office"), exit_status::ok);
+  EXPECT_EQ(run({"check"}), exit_status::ok);
+  EXPECT_EQ(err, "");
+  folder.execute(
+      "insert into outbox (idChannel, idSite, pass, made, event, state, tries, nextTry, deadline, answer, url, cause, "
+      "downSince, downFor, checks, firstError, difference, page, lastTry) values "
+      "(1, 0, '2026-11-20 08:00:00', '2026-11-20 08:00:00', 'daily test', 'failed', 30, '2026-11-21 08:00:00', "
+      "'2026-11-21 08:00:00', '550 unknown', '', '', '', '', '', '', '', '', '')");
+  EXPECT_EQ(run({"check"}), exit_status::ok);
+  EXPECT_THAT(err, HasSubstr("The daily test alert has not arrived through office: 550 unknown"));
+}
+
 TEST_F(ChannelVerb, RemovedItTakesItsPasswordAndItsAlertsAlong) {
   input = "word\n";
   ASSERT_EQ(addMail("office", {"--user", "me", "--password-file", "-"}), exit_status::ok);

@@ -188,5 +188,30 @@ TEST_F(RunTerminalTest, TellsWhenAlertsHaveToWaitAndWhenTheyHaveArrived) {
   json.end();
 }
 
+TEST_F(RunTerminalTest, TellsOfAHeartbeatThatIsNotTakenAndOfALostTestAlertOnce) {
+  addSite("http://a/");
+  m data(folder.path(), machine.services());
+  data.setOption(kAllSites, "heartbeat", "http://127.0.0.1:1/");
+  data.setOption(kAllSites, "testAlert", "8:00");
+  shown.prepare(data);
+  shown.indicators(RunState::start);
+  shown.showHeartbeat("answered with 503");
+  EXPECT_THAT(written.str(), HasSubstr("The heartbeat is not taken: answered with 503\n"));
+  shown.showHeartbeat("");
+  EXPECT_THAT(written.str(), HasSubstr("The heartbeat is taken again.\n"));
+  pass({{.idSite = 1, .url = "http://a/", .passed = true}});
+  pass({{.idSite = 1, .url = "http://a/", .passed = true}});
+  const std::string lost = "The daily messages cannot leave: no channel is on for all sites.\n";
+  const std::size_t first = written.str().find(lost);
+  ASSERT_NE(first, std::string::npos);
+  EXPECT_EQ(written.str().find(lost, first + 1), std::string::npos);
+  written.str("");
+  shown.showHeartbeat("answered with 503");
+  data.removeOption(kAllSites, "heartbeat");
+  shown.showHeartbeat("");
+  EXPECT_EQ(written.str().find("again"), std::string::npos) << "none is wanted any more";
+  shown.end();
+}
+
 }  // namespace
 }  // namespace tarnwick::testing

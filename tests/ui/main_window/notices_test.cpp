@@ -212,6 +212,46 @@ TEST_F(NoticesTest, AnAlertThatWasNotDeliveredIsSaidWithoutABox) {
   EXPECT_TRUE(machine.prompts.shown().empty());
 }
 
+TEST_F(NoticesTest, AHeartbeatThatIsNotTakenAndDailyMessagesWithoutAWayLeadToTheChannels) {
+  addSite(1, server.url("/"));
+  server.respond("/", {.body = "page"});
+  server.respond("/alive", {.status = 500, .body = "no"});
+  open();
+  int opened = 0;
+  master->setEditors({.site = {}, .settings = {}, .channels = [&] { ++opened; }});
+  m& data = master->program().data();
+  auto& life = find<NoticeButton>("noticeLife");
+  EXPECT_FALSE(life.isVisible());
+  data.setOption(kAllSites, "testAlert", "8:00");
+  master->program().run().init();
+  ASSERT_TRUE(waitUntil([&] { return life.isVisible(); }));
+  EXPECT_EQ(life.sentence(), QStringLiteral("The daily messages cannot leave: no channel is on for all sites."));
+  click("noticeLife");
+  EXPECT_EQ(opened, 1);
+  data.removeOption(kAllSites, "testAlert");
+  data.setOption(kAllSites, "heartbeat", server.url("/alive"));
+  click("btnStart");
+  ASSERT_TRUE(waitUntil([&] { return life.sentence() == u"The heartbeat is not taken: answered with 500"; }));
+  click("btnStop");
+  EXPECT_TRUE(waitUntil([&] { return !life.isVisible(); }));
+}
+
+TEST_F(NoticesTest, ATestAlertThatHasNotArrivedIsSaidWithItsChannel) {
+  open();
+  master->program().data().storeChannel(
+      {.name = "office", .kind = "mail", .settings = {{"to", "me@example.org"}, {"server", "smtp.example.org"}}});
+  folder.execute(
+      "insert into outbox (idChannel, idSite, pass, made, event, state, tries, nextTry, deadline, answer, url, cause, "
+      "downSince, downFor, checks, firstError, difference, page, lastTry) values (1, "
+      "0, '2026-11-20 08:00:00', '2026-11-20 08:00:00', 'daily test', 'failed', 30, '2026-11-21 08:00:00', "
+      "'2026-11-21 08:00:00', '550 unknown', '', '', '', '', '', '', '', '', '')");
+  master->program().run().init();
+  EXPECT_TRUE(waitUntil([&] {
+    return outbox().sentence() == u"The daily test alert has not arrived through office: 550 unknown";
+  })) << outbox().sentence().toStdString();
+  EXPECT_EQ(outbox().action(), QStringLiteral("Outbox…"));
+}
+
 TEST_F(NoticesTest, DetailsListsTheLastAlertsAndTakesTheNoticeAway) {
   open();
   for (std::int16_t id = 1; id <= 25; ++id) {

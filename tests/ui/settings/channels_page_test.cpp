@@ -4,11 +4,14 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+#include <fstream>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QSpinBox>
 
 #include "store/channel_table.h"
+#include "ui/settings/channel_menu.h"
 #include "ui/settings/control_dialog_fixture.h"
 
 namespace tarnwick::testing {
@@ -258,6 +261,93 @@ TEST_F(ChannelsPageTest, ASecretThatCannotBeKeptIsTold) {
   press(dialog, "btnOkChannels");
   EXPECT_TRUE(waitUntil([&] { return !machine.prompts.shown().empty(); }));
   EXPECT_EQ(machine.prompts.shown().front().text, "The key ring is locked. Unlock it.");
+}
+
+TEST_F(ChannelsPageTest, AServiceThatAWebHookKnowsIsChosenInTheMenu) {
+  std::filesystem::create_directory(folder.path() + "/channels");
+  const auto lay = [this](const std::string& name, const std::string& text) {
+    std::ofstream(folder.path() + "/channels/" + name) << text;
+  };
+  lay("bell.txt",
+      "label = B & ll\nabout = Rings\naddress = https://bell.example.org/RING\nform = json\n"
+      "body = {\"a\": \"{text}\"}\nsecret = The token of the bell\n");
+  auto& dialog = openChannels();
+  auto& menu = in<ChannelMenu>(dialog, "channelMenu");
+  menu.popup({});
+  auto& bell = in<QAction>(menu, "channelPreset_bell");
+  EXPECT_EQ(bell.text(), QStringLiteral("B && ll"));
+  EXPECT_EQ(bell.toolTip(), QStringLiteral("Rings"));
+  bell.trigger();
+  EXPECT_EQ(text(dialog, "channelName"), "B & ll");
+  EXPECT_EQ(text(dialog, "channel_address"), "https://bell.example.org/RING");
+  EXPECT_EQ(label(dialog, "channelHint"), "Rings. The password or token: The token of the bell.");
+  menu.hide();
+  lay("broken.txt", "label\n");
+  menu.popup({});
+  EXPECT_FALSE(in<QMenu>(menu, "channelHooks").actions().back()->isEnabled()) << "what is wrong with a file is told";
+  in<QAction>(menu, "channelPreset_bell").trigger();
+  menu.hide();
+  press(dialog, "btnOkChannels");
+  ASSERT_EQ(channels().size(), 2U);
+  EXPECT_EQ(channels()[0].kind, channel_kind::hook);
+  EXPECT_EQ(channels()[0].setting("body"), "{\"a\": \"{text}\"}");
+  EXPECT_EQ(channels()[1].name, "B & ll 2");
+}
+
+TEST_F(ChannelsPageTest, SitesFollowTheNewNameOfAChannelAndAreCountedBeforeItGoes) {
+  open();
+  store("one");
+  m& data = master->program().data();
+  data.setOption(data.addSite(), "channels", "ONE, two");
+  data.setOption(data.addSite(), "channels", "two");
+  auto& dialog = openChannels();
+  type(dialog, "channelName", "first");
+  press(dialog, "btnOkChannels");
+  EXPECT_EQ(data.options(1).at("channels"), "first, two");
+  EXPECT_EQ(data.options(2).at("channels"), "two");
+  auto& again = openChannels();
+  machine.prompts.answerConfirm(false);
+  press(again, "channelRemove");
+  EXPECT_THAT(machine.prompts.texts().back(), ::testing::EndsWith("\n1 site names it."));
+}
+
+TEST_F(ChannelsPageTest, ProofOfLifeStandsBelowTheChannelsAndIsStoredWithThem) {
+  open();
+  master->program().data().setOption(kAllSites, "testAlert", "6:30");
+  auto& dialog = openChannels();
+  EXPECT_EQ(dialog.unsavedEdits(), QString());
+  EXPECT_TRUE(ticked(dialog, "lifeTestAlert"));
+  EXPECT_EQ(text(dialog, "lifeTestAlertValue"), "6:30");
+  EXPECT_FALSE(in<QLineEdit>(dialog, "lifeAllIsWellValue").isEnabled());
+  tick(dialog, "lifeAllIsWell");
+  EXPECT_EQ(text(dialog, "lifeAllIsWellValue"), "8:00");
+  tick(dialog, "lifeTestAlert");
+  tick(dialog, "lifeHeartbeat");
+  EXPECT_TRUE(in<QLineEdit>(dialog, "lifeHeartbeatValue").hasFocus());
+  EXPECT_FALSE(in<QLabel>(dialog, "lifeFault").isVisible()) << "nothing is typed yet";
+  type(dialog, "lifeHeartbeatValue", "ping.example.org");
+  EXPECT_TRUE(in<QLabel>(dialog, "lifeFault").isVisible());
+  EXPECT_THAT(label(dialog, "lifeFault"), HasSubstr("heartbeat does not take \"ping.example.org\""));
+  in<QTabWidget>(dialog, "pages").setCurrentIndex(0);
+  press(dialog, "Command1");
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_EQ(in<QTabWidget>(dialog, "pages").currentIndex(), 2);
+  EXPECT_TRUE(in<QLineEdit>(dialog, "lifeHeartbeatValue").hasFocus());
+  EXPECT_TRUE(master->program().data().options(kAllSites).contains("testAlert")) << "all or nothing";
+  type(dialog, "lifeHeartbeatValue", "https://ping.example.org/x");
+  EXPECT_FALSE(in<QLabel>(dialog, "lifeFault").isVisible());
+  press(dialog, "btnOkChannels");
+  EXPECT_EQ(master->program().data().options(kAllSites),
+            (OptionValues{{"allIsWell", "8:00"}, {"heartbeat", "https://ping.example.org/x"}}));
+}
+
+TEST_F(ChannelsPageTest, TheDefaultsLeaveProofOfLifeToThisPage) {
+  auto& dialog = openChannels();
+  in<QTabWidget>(dialog, "pages").setCurrentIndex(1);
+  EXPECT_NE(dialog.findChild<QWidget*>(QStringLiteral("option_mailLimit")), nullptr);
+  for (const char* name : {"option_allIsWell", "option_testAlert", "option_heartbeat"}) {
+    EXPECT_EQ(dialog.findChild<QWidget*>(QString::fromLatin1(name)), nullptr) << name;
+  }
 }
 
 TEST_F(ChannelsPageTest, TheSettingsOpenOnAChannel) {
