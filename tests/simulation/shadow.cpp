@@ -100,8 +100,8 @@ void Shadow::watch() {
   process_.pump().onWait = [this] { compare(); };
 }
 
-// A run that takes on new sites at once asks afresh when others have changed the list, or a file was opened in its place,
-// as after a compaction: by what the connection tells.
+// A run that takes on new sites at once asks afresh when others have changed the list, or a file was opened in its
+// place, as after a compaction: by what the connection tells.
 void Shadow::second() {
   if (asksAfresh_ && model_->countdown() > 1) {
     if (const std::int64_t version = list().changesOfOthers(); std::exchange(listVersion_, version) != version) {
