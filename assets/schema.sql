@@ -8,7 +8,7 @@
 PRAGMA encoding = 'UTF-8';
 PRAGMA auto_vacuum = NONE;
 -- The form of the tables: the original ones are form 0; the program brings an older list to today's form.
-PRAGMA user_version = 5;
+PRAGMA user_version = 6;
 
 BEGIN;
 
@@ -236,5 +236,30 @@ CREATE TABLE outbox (
   answer TEXT NOT NULL
 );
 CREATE INDEX outboxByState ON outbox (state, idChannel, idAlert);
+
+-- Baselines beside that of the site's row: those that another one has replaced, and further ones of which a page may
+-- equal any; see src/store/baselines.h.
+CREATE TABLE baselines (
+  idBaseline INTEGER PRIMARY KEY,
+  idSite INTEGER NOT NULL,
+  taken TEXT NOT NULL,
+  origin TEXT NOT NULL,
+  content TEXT NOT NULL
+);
+CREATE INDEX baselinesOfSite ON baselines (idSite, origin, idBaseline);
+
+-- Words by which sites are found; see src/store/site_tags.h.
+CREATE TABLE siteTags (
+  idSite INTEGER NOT NULL,
+  tag TEXT NOT NULL,
+  PRIMARY KEY (idSite, tag)
+) WITHOUT ROWID;
+
+-- The wrong pages that are known, so that nothing is said of them; see src/store/acknowledgements.h.
+CREATE TABLE acknowledged (
+  idSite INTEGER PRIMARY KEY,
+  page TEXT NOT NULL,
+  since TEXT NOT NULL
+);
 
 COMMIT;

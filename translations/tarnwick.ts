@@ -1596,10 +1596,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Only &quot;set&quot; takes a file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Only &quot;accept&quot; takes --force.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2465,14 +2461,6 @@
     </message>
     <message>
         <source>Show or change the page that a site is compared with</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>show (default), load (fetch it from the URL now), set FILE, clear, accept (take the latest page)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file for &quot;set&quot;; - is standard input</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4301,6 +4289,498 @@
     </message>
     <message>
         <source>What starts with the desktop cannot be changed: Windows has refused it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or change the tags of sites, by which they are found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The id of a site, or a query as the verb sites takes it, or all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tags; without one they are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove these tags instead of adding them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>site 3 has these two tags as well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and one of them no more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>every site of that host</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say which tags are to be removed. See: tarnwickctl tag --help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 would have more than %2 tags. Remove some first, with --remove.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no tag: give 1 to %2 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no tag: give a word without blanks, commas, semicolons and quotes, and no - before it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no tag: give 1 to %2 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no tag: give a word without blanks, commas, semicolons and quotes, and no - before it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change several sites at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let runs check them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave them out of runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set an option, or remove it with NAME=; may be given several times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a tag; may be given several times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove a tag; may be given several times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set their counters to 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only show what would change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All of them are changed, or none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what would change of which site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>without a question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say what is to be changed. See: tarnwickctl change --help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--option takes NAME=VALUE, and &quot;%1&quot; has no &quot;=&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The option %1 holds for all sites. Set it with: tarnwickctl option all %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 sites stay as they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 are changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ids of sites, as the verb sites lists them, or a query as that takes it, or all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name the sites either by their ids or by a query: &quot;%1&quot; is both. In a query a site is named as in id:3,7.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No site of the list is like that: %1. See them with: tarnwickctl sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no filter word. Write tag:, host: or id:, or put a text of an address in quotes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a name behind it: write it without a blank, as in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 names no site: give numbers with commas between them, as in id:3,7.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A &quot;-&quot; excludes what the word behind it finds: write it without a blank, as in -down.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last check failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last check was good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down, with another page than the baseline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down, without a page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed, but not often enough to be told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down, and the wrong page is acknowledged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>answers too slowly</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>never checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left out of runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing is told of it now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>found while this machine was offline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its certificate ends soon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>active, but nobody checks it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has this tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lies on this host, or below it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has this number, or one of several with commas between them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only those that all its words find; a - before a word excludes what it finds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only show which sites would be deleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TAGS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the latest pages of sites as their baselines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only sites that have changed as this one has; of all sites where none are named</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the baseline as well: either page is good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only show what would be accepted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Also a page that looks like an error, or is much shorter than the baseline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exactly the bytes of the last check are taken. The baseline before is kept, ten of a site: the verb baseline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lists them and gives the last one back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shows what has changed, and asks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>two servers, two good pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which sites have changed as site 3 has</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all of them, without a question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say which sites. See: tarnwickctl accept --help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has not changed, so no site has changed as it has.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 is as it should be: its latest page is a good one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest page of site %1 was not kept, since there was too little room on the disk. Make room, then fetch it with: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest check of site %1 brought no page but &quot;%2&quot;. Check again with: %3; if that is the page&apos;s own text, use --anyway.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest page of site %1 looks like an error page (%2). If it is how the page shall be, use --anyway.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest page of site %1 has less than half the size of the baseline (%2 bytes instead of %3). If it is how the page shall be, use --anyway.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 sites stay as they are: they have no page that could be accepted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 became %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the places that may vary %1 is not in this page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the places that may vary %1 are not in this page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is that page (%1 bytes) the new baseline of site %2?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is that page (%1 bytes) good for site %2, too?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are these pages the new baselines of %1 sites?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are these pages of %1 sites good, too?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1: the latest page is the baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1: the latest page is good, too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has %2 further good pages, and more are not kept. Remove one first, with: tarnwickctl baseline %3 drop NUMBER</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say nothing of sites as long as exactly the wrong page stays that they have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell of them again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Any other wrong page is told at once. As soon as a site is up again its acknowledgement is over.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>somebody is at it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and is not any more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 is told of again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 is known: nothing is told of it while exactly this page stays.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show which sites have changed, those together that have changed alike</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only of these sites, as the verb sites takes it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>298 sites have a new year in the foot, and one a new price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same of some sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No site has another page than its baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has no earlier baseline: none was kept, since no page was accepted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The baseline before is the baseline again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The baseline before is the baseline again. (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has no baseline beside that which the verb baseline shows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NUMBER</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>KEPT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BYTES</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WHAT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>good, too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>replaced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 has no baseline of the number &quot;%2&quot;. See them with: tarnwickctl baseline %3 list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Baseline %1 of site %2 is removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only &quot;set&quot; takes a file, and &quot;drop&quot; a number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>show (default), load (fetch it from the URL now), set FILE, clear, accept (take the latest page), undo (the one before accept), list (those that are kept), drop NUMBER</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file for &quot;set&quot;, - is standard input; the number for &quot;drop&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the one before it was accepted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the kept baseline &quot;%1&quot; is none: give it as an export writes it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tags is no array: give [&quot;TAG&quot;, ...]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>baselines is no array: give it as an export writes it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 cannot be put back, since another site has its id meanwhile. Delete that one first, or add the address anew.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

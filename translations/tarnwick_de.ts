@@ -1596,10 +1596,6 @@
         <translation>Der letzte Inhalt ist die Basis. (%1)</translation>
     </message>
     <message>
-        <source>Only &quot;set&quot; takes a file.</source>
-        <translation>Nur „set“ nimmt eine Datei.</translation>
-    </message>
-    <message>
         <source>Only &quot;accept&quot; takes --force.</source>
         <translation>Nur „accept“ nimmt --force.</translation>
     </message>
@@ -2466,14 +2462,6 @@
     <message>
         <source>Show or change the page that a site is compared with</source>
         <translation>Die Seite zeigen oder ändern, mit der verglichen wird</translation>
-    </message>
-    <message>
-        <source>show (default), load (fetch it from the URL now), set FILE, clear, accept (take the latest page)</source>
-        <translation>show (sonst), load (jetzt von der URL holen), set FILE, clear, accept (den letzten Inhalt nehmen)</translation>
-    </message>
-    <message>
-        <source>The file for &quot;set&quot;; - is standard input</source>
-        <translation>Die Datei für „set“; - ist die Standardeingabe</translation>
     </message>
     <message>
         <source>For &quot;accept&quot;: also a latest page that looks like a failed fetch</source>
@@ -4302,6 +4290,498 @@
     <message>
         <source>What starts with the desktop cannot be changed: Windows has refused it.</source>
         <translation>Was mit dem Desktop startet, lässt sich nicht ändern: Windows hat es abgelehnt.</translation>
+    </message>
+    <message>
+        <source>Show or change the tags of sites, by which they are found</source>
+        <translation>Die Schlagwörter von Sites zeigen oder ändern, mit denen man sie findet</translation>
+    </message>
+    <message>
+        <source>The id of a site, or a query as the verb sites takes it, or all</source>
+        <translation>Die ID einer Site, eine Suche, wie das Verb sites sie nimmt, oder all</translation>
+    </message>
+    <message>
+        <source>The tags; without one they are shown</source>
+        <translation>Die Schlagwörter; ohne eines werden sie gezeigt</translation>
+    </message>
+    <message>
+        <source>Remove these tags instead of adding them</source>
+        <translation>Diese Schlagwörter wegnehmen statt hinzufügen</translation>
+    </message>
+    <message>
+        <source>site 3 has these two tags as well</source>
+        <translation>Site 3 hat auch diese beiden Schlagwörter</translation>
+    </message>
+    <message>
+        <source>and one of them no more</source>
+        <translation>und eines davon nicht mehr</translation>
+    </message>
+    <message>
+        <source>every site of that host</source>
+        <translation>jede Site dieses Rechners</translation>
+    </message>
+    <message>
+        <source>Say which tags are to be removed. See: tarnwickctl tag --help</source>
+        <translation>Sagen Sie, welche Schlagwörter weg sollen. Siehe: tarnwickctl tag --help</translation>
+    </message>
+    <message>
+        <source>Site %1 would have more than %2 tags. Remove some first, with --remove.</source>
+        <translation>Site %1 hätte mehr als %2 Schlagwörter. Nehmen Sie erst einige weg, mit --remove.</translation>
+    </message>
+    <message>
+        <source>%1 is no tag: give 1 to %2 bytes.</source>
+        <translation>%1 ist kein Schlagwort: Geben Sie 1 bis %2 Bytes an.</translation>
+    </message>
+    <message>
+        <source>%1 is no tag: give a word without blanks, commas, semicolons and quotes, and no - before it.</source>
+        <translation>%1 ist kein Schlagwort: Geben Sie ein Wort ohne Leerzeichen, Kommas, Semikolons und Anführungszeichen an, und ohne - davor.</translation>
+    </message>
+    <message>
+        <source>%1 is no tag: give 1 to %2 bytes</source>
+        <translation>%1 ist kein Schlagwort: Geben Sie 1 bis %2 Bytes an</translation>
+    </message>
+    <message>
+        <source>%1 is no tag: give a word without blanks, commas, semicolons and quotes, and no - before it</source>
+        <translation>%1 ist kein Schlagwort: Geben Sie ein Wort ohne Leerzeichen, Kommas, Semikolons und Anführungszeichen an, und ohne - davor</translation>
+    </message>
+    <message>
+        <source>Change several sites at once</source>
+        <translation>Mehrere Sites auf einmal ändern</translation>
+    </message>
+    <message>
+        <source>Let runs check them</source>
+        <translation>Läufe prüfen sie</translation>
+    </message>
+    <message>
+        <source>Leave them out of runs</source>
+        <translation>Läufe lassen sie aus</translation>
+    </message>
+    <message>
+        <source>Set an option, or remove it with NAME=; may be given several times</source>
+        <translation>Eine Option setzen oder mit NAME= entfernen; mehrfach möglich</translation>
+    </message>
+    <message>
+        <source>Add a tag; may be given several times</source>
+        <translation>Ein Schlagwort hinzufügen; mehrfach möglich</translation>
+    </message>
+    <message>
+        <source>Remove a tag; may be given several times</source>
+        <translation>Ein Schlagwort wegnehmen; mehrfach möglich</translation>
+    </message>
+    <message>
+        <source>Set their counters to 0</source>
+        <translation>Ihre Zähler auf 0 setzen</translation>
+    </message>
+    <message>
+        <source>Only show what would change</source>
+        <translation>Nur zeigen, was sich ändern würde</translation>
+    </message>
+    <message>
+        <source>All of them are changed, or none.</source>
+        <translation>Alle werden geändert oder keine.</translation>
+    </message>
+    <message>
+        <source>what would change of which site</source>
+        <translation>was sich an welcher Site ändern würde</translation>
+    </message>
+    <message>
+        <source>without a question</source>
+        <translation>ohne Frage</translation>
+    </message>
+    <message>
+        <source>Say what is to be changed. See: tarnwickctl change --help</source>
+        <translation>Sagen Sie, was geändert werden soll. Siehe: tarnwickctl change --help</translation>
+    </message>
+    <message>
+        <source>--option takes NAME=VALUE, and &quot;%1&quot; has no &quot;=&quot;.</source>
+        <translation>--option nimmt NAME=VALUE, und „%1“ hat kein „=“.</translation>
+    </message>
+    <message>
+        <source>The option %1 holds for all sites. Set it with: tarnwickctl option all %2</source>
+        <translation>Die Option %1 gilt für alle Sites. Setzen Sie sie mit: tarnwickctl option all %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 sites stay as they are.</source>
+        <translation>%1 von %2 Sites bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Change %1?</source>
+        <translation>%1 ändern?</translation>
+    </message>
+    <message>
+        <source>%1 is changed.</source>
+        <translation>%1 ist geändert.</translation>
+    </message>
+    <message>
+        <source>%1 are changed.</source>
+        <translation>%1 sind geändert.</translation>
+    </message>
+    <message>
+        <source>Ids of sites, as the verb sites lists them, or a query as that takes it, or all</source>
+        <translation>IDs von Sites, wie das Verb sites sie auflistet, eine Suche, wie es sie nimmt, oder all</translation>
+    </message>
+    <message>
+        <source>Name the sites either by their ids or by a query: &quot;%1&quot; is both. In a query a site is named as in id:3,7.</source>
+        <translation>Nennen Sie die Sites entweder mit ihren IDs oder mit einer Suche: „%1“ ist beides. In einer Suche nennt man eine Site wie in id:3,7.</translation>
+    </message>
+    <message>
+        <source>No site of the list is like that: %1. See them with: tarnwickctl sites</source>
+        <translation>Keine Site der Liste ist so: %1. Alle zeigt: tarnwickctl sites</translation>
+    </message>
+    <message>
+        <source>%1 is no filter word. Write tag:, host: or id:, or put a text of an address in quotes.</source>
+        <translation>%1 ist kein Filterwort. Schreiben Sie tag:, host: oder id:, oder setzen Sie einen Text aus einer Adresse in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>%1 needs a name behind it: write it without a blank, as in %2.</source>
+        <translation>Hinter %1 fehlt ein Name: Schreiben Sie ihn ohne Leerzeichen dahinter, wie in %2.</translation>
+    </message>
+    <message>
+        <source>%1 names no site: give numbers with commas between them, as in id:3,7.</source>
+        <translation>%1 nennt keine Site: Geben Sie Nummern mit Kommas dazwischen an, wie in id:3,7.</translation>
+    </message>
+    <message>
+        <source>A &quot;-&quot; excludes what the word behind it finds: write it without a blank, as in -down.</source>
+        <translation>Ein „-“ schließt aus, was das Wort dahinter findet: Schreiben Sie es ohne Leerzeichen, wie in -down.</translation>
+    </message>
+    <message>
+        <source>the last check failed</source>
+        <translation>die letzte Prüfung schlug fehl</translation>
+    </message>
+    <message>
+        <source>the last check was good</source>
+        <translation>die letzte Prüfung war gut</translation>
+    </message>
+    <message>
+        <source>down, with another page than the baseline</source>
+        <translation>gestört, mit einer anderen Seite als der Basis</translation>
+    </message>
+    <message>
+        <source>down, without a page</source>
+        <translation>gestört, ohne eine Seite</translation>
+    </message>
+    <message>
+        <source>failed, but not often enough to be told</source>
+        <translation>fehlgeschlagen, aber nicht oft genug für eine Meldung</translation>
+    </message>
+    <message>
+        <source>down, and the wrong page is acknowledged</source>
+        <translation>gestört, und die falsche Seite ist bekannt</translation>
+    </message>
+    <message>
+        <source>answers too slowly</source>
+        <translation>antwortet zu langsam</translation>
+    </message>
+    <message>
+        <source>never checked</source>
+        <translation>nie geprüft</translation>
+    </message>
+    <message>
+        <source>left out of runs</source>
+        <translation>von Läufen ausgelassen</translation>
+    </message>
+    <message>
+        <source>nothing is told of it now</source>
+        <translation>davon wird gerade nichts gemeldet</translation>
+    </message>
+    <message>
+        <source>found while this machine was offline</source>
+        <translation>geprüft, während dieser Rechner offline war</translation>
+    </message>
+    <message>
+        <source>its certificate ends soon</source>
+        <translation>ihr Zertifikat läuft bald ab</translation>
+    </message>
+    <message>
+        <source>active, but nobody checks it</source>
+        <translation>aktiv, aber niemand prüft sie</translation>
+    </message>
+    <message>
+        <source>has this tag</source>
+        <translation>hat dieses Schlagwort</translation>
+    </message>
+    <message>
+        <source>lies on this host, or below it</source>
+        <translation>liegt auf diesem Rechner oder darunter</translation>
+    </message>
+    <message>
+        <source>has this number, or one of several with commas between them</source>
+        <translation>hat diese Nummer oder eine von mehreren mit Kommas dazwischen</translation>
+    </message>
+    <message>
+        <source>Only those that all its words find; a - before a word excludes what it finds</source>
+        <translation>Nur die, die alle Wörter finden; ein - vor einem Wort schließt aus, was es findet</translation>
+    </message>
+    <message>
+        <source>Only show which sites would be deleted</source>
+        <translation>Nur zeigen, welche Sites gelöscht würden</translation>
+    </message>
+    <message>
+        <source>TAGS</source>
+        <translation>SCHLAGWÖRTER</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Schlagwörter</translation>
+    </message>
+    <message>
+        <source>known</source>
+        <translation>bekannt</translation>
+    </message>
+    <message>
+        <source>Take the latest pages of sites as their baselines</source>
+        <translation>Die letzten Seiten von Sites als ihre Basis übernehmen</translation>
+    </message>
+    <message>
+        <source>Only sites that have changed as this one has; of all sites where none are named</source>
+        <translation>Nur Sites, die sich geändert haben wie diese; unter allen, wo keine genannt sind</translation>
+    </message>
+    <message>
+        <source>Keep the baseline as well: either page is good</source>
+        <translation>Die Basis auch behalten: jede der Seiten ist gut</translation>
+    </message>
+    <message>
+        <source>Only show what would be accepted</source>
+        <translation>Nur zeigen, was übernommen würde</translation>
+    </message>
+    <message>
+        <source>Also a page that looks like an error, or is much shorter than the baseline</source>
+        <translation>Auch eine Seite, die nach einem Fehler aussieht oder viel kürzer als die Basis ist</translation>
+    </message>
+    <message>
+        <source>Exactly the bytes of the last check are taken. The baseline before is kept, ten of a site: the verb baseline</source>
+        <translation>Genau die Bytes der letzten Prüfung werden übernommen. Zehn frühere Basen je Site werden behalten:</translation>
+    </message>
+    <message>
+        <source>lists them and gives the last one back.</source>
+        <translation>das Verb baseline listet sie auf und gibt die letzte zurück.</translation>
+    </message>
+    <message>
+        <source>shows what has changed, and asks</source>
+        <translation>zeigt, was sich geändert hat, und fragt</translation>
+    </message>
+    <message>
+        <source>two servers, two good pages</source>
+        <translation>zwei Server, zwei gute Seiten</translation>
+    </message>
+    <message>
+        <source>which sites have changed as site 3 has</source>
+        <translation>welche Sites sich geändert haben wie Site 3</translation>
+    </message>
+    <message>
+        <source>all of them, without a question</source>
+        <translation>alle, ohne Frage</translation>
+    </message>
+    <message>
+        <source>Say which sites. See: tarnwickctl accept --help</source>
+        <translation>Sagen Sie, welche Sites. Siehe: tarnwickctl accept --help</translation>
+    </message>
+    <message>
+        <source>Site %1 has not changed, so no site has changed as it has.</source>
+        <translation>Site %1 hat sich nicht geändert, also auch keine Site wie sie.</translation>
+    </message>
+    <message>
+        <source>Site %1 is as it should be: its latest page is a good one.</source>
+        <translation>Site %1 ist, wie sie sein soll: Ihre letzte Seite ist eine gute.</translation>
+    </message>
+    <message>
+        <source>The latest page of site %1 was not kept, since there was too little room on the disk. Make room, then fetch it with: %2</source>
+        <translation>Die letzte Seite der Site %1 wurde nicht behalten, da auf der Platte zu wenig Platz war. Schaffen Sie Platz, und holen Sie sie mit: %2</translation>
+    </message>
+    <message>
+        <source>The latest check of site %1 brought no page but &quot;%2&quot;. Check again with: %3; if that is the page&apos;s own text, use --anyway.</source>
+        <translation>Die letzte Prüfung der Site %1 brachte keine Seite, sondern „%2“. Prüfen Sie noch einmal mit: %3; ist das der Text der Seite selbst, nehmen Sie --anyway.</translation>
+    </message>
+    <message>
+        <source>The latest page of site %1 looks like an error page (%2). If it is how the page shall be, use --anyway.</source>
+        <translation>Die letzte Seite der Site %1 sieht nach einer Fehlerseite aus (%2). Soll die Seite so sein, nehmen Sie --anyway.</translation>
+    </message>
+    <message>
+        <source>The latest page of site %1 has less than half the size of the baseline (%2 bytes instead of %3). If it is how the page shall be, use --anyway.</source>
+        <translation>Die letzte Seite der Site %1 hat weniger als die halbe Größe der Basis (%2 Bytes statt %3). Soll die Seite so sein, nehmen Sie --anyway.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 sites stay as they are: they have no page that could be accepted.</source>
+        <translation>%1 von %2 Sites bleiben, wie sie sind: Sie haben keine Seite, die übernommen werden könnte.</translation>
+    </message>
+    <message>
+        <source>%1 is new</source>
+        <translation>%1 ist neu</translation>
+    </message>
+    <message>
+        <source>%1 is gone</source>
+        <translation>%1 ist weg</translation>
+    </message>
+    <message>
+        <source>%1 became %2</source>
+        <translation>%1 wurde zu %2</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Of the places that may vary %1 is not in this page.</source>
+        <translation>Von den Stellen, die abweichen dürfen, ist %1 nicht auf dieser Seite.</translation>
+    </message>
+    <message>
+        <source>Of the places that may vary %1 are not in this page.</source>
+        <translation>Von den Stellen, die abweichen dürfen, sind %1 nicht auf dieser Seite.</translation>
+    </message>
+    <message>
+        <source>Is that page (%1 bytes) the new baseline of site %2?</source>
+        <translation>Ist diese Seite (%1 Bytes) die neue Basis der Site %2?</translation>
+    </message>
+    <message>
+        <source>Is that page (%1 bytes) good for site %2, too?</source>
+        <translation>Ist diese Seite (%1 Bytes) für Site %2 auch gut?</translation>
+    </message>
+    <message>
+        <source>Are these pages the new baselines of %1 sites?</source>
+        <translation>Sind diese Seiten die neuen Basen von %1 Sites?</translation>
+    </message>
+    <message>
+        <source>Are these pages of %1 sites good, too?</source>
+        <translation>Sind diese Seiten von %1 Sites auch gut?</translation>
+    </message>
+    <message>
+        <source>Site %1: the latest page is the baseline.</source>
+        <translation>Site %1: Die letzte Seite ist die Basis.</translation>
+    </message>
+    <message>
+        <source>Site %1: the latest page is good, too.</source>
+        <translation>Site %1: Die letzte Seite ist auch gut.</translation>
+    </message>
+    <message>
+        <source>Site %1 has %2 further good pages, and more are not kept. Remove one first, with: tarnwickctl baseline %3 drop NUMBER</source>
+        <translation>Site %1 hat %2 weitere gute Seiten, und mehr werden nicht behalten. Entfernen Sie erst eine, mit: tarnwickctl baseline %3 drop NUMBER</translation>
+    </message>
+    <message>
+        <source>Say nothing of sites as long as exactly the wrong page stays that they have</source>
+        <translation>Über Sites nichts melden, solange genau die falsche Seite bleibt, die sie haben</translation>
+    </message>
+    <message>
+        <source>Tell of them again</source>
+        <translation>Sie wieder melden</translation>
+    </message>
+    <message>
+        <source>Any other wrong page is told at once. As soon as a site is up again its acknowledgement is over.</source>
+        <translation>Jede andere falsche Seite wird sofort gemeldet. Sobald eine Site wieder gut ist, ist es damit vorbei.</translation>
+    </message>
+    <message>
+        <source>somebody is at it</source>
+        <translation>jemand ist dran</translation>
+    </message>
+    <message>
+        <source>and is not any more</source>
+        <translation>und ist es nicht mehr</translation>
+    </message>
+    <message>
+        <source>Site %1 is told of again.</source>
+        <translation>Site %1 wird wieder gemeldet.</translation>
+    </message>
+    <message>
+        <source>Site %1 is known: nothing is told of it while exactly this page stays.</source>
+        <translation>Site %1 ist bekannt: Solange genau diese Seite bleibt, wird nichts gemeldet.</translation>
+    </message>
+    <message>
+        <source>Show which sites have changed, those together that have changed alike</source>
+        <translation>Zeigen, welche Sites sich geändert haben, die gleich geänderten zusammen</translation>
+    </message>
+    <message>
+        <source>Only of these sites, as the verb sites takes it</source>
+        <translation>Nur von diesen Sites, wie das Verb sites es nimmt</translation>
+    </message>
+    <message>
+        <source>298 sites have a new year in the foot, and one a new price</source>
+        <translation>298 Sites haben eine neue Jahreszahl im Fuß, und eine einen neuen Preis</translation>
+    </message>
+    <message>
+        <source>the same of some sites</source>
+        <translation>dasselbe von einigen Sites</translation>
+    </message>
+    <message>
+        <source>No site has another page than its baseline.</source>
+        <translation>Keine Site hat eine andere Seite als ihre Basis.</translation>
+    </message>
+    <message>
+        <source>Site %1 has no earlier baseline: none was kept, since no page was accepted.</source>
+        <translation>Site %1 hat keine frühere Basis: Keine wurde behalten, da keine Seite übernommen wurde.</translation>
+    </message>
+    <message>
+        <source>The baseline before is the baseline again.</source>
+        <translation>Die Basis davor ist wieder die Basis.</translation>
+    </message>
+    <message>
+        <source>The baseline before is the baseline again. (%1)</source>
+        <translation>Die Basis davor ist wieder die Basis. (%1)</translation>
+    </message>
+    <message>
+        <source>Site %1 has no baseline beside that which the verb baseline shows.</source>
+        <translation>Site %1 hat keine Basis neben der, die das Verb baseline zeigt.</translation>
+    </message>
+    <message>
+        <source>NUMBER</source>
+        <translation>NUMMER</translation>
+    </message>
+    <message>
+        <source>KEPT</source>
+        <translation>SEIT</translation>
+    </message>
+    <message>
+        <source>BYTES</source>
+        <translation>BYTES</translation>
+    </message>
+    <message>
+        <source>WHAT</source>
+        <translation>WAS</translation>
+    </message>
+    <message>
+        <source>good, too</source>
+        <translation>auch gut</translation>
+    </message>
+    <message>
+        <source>replaced</source>
+        <translation>ersetzt</translation>
+    </message>
+    <message>
+        <source>Site %1 has no baseline of the number &quot;%2&quot;. See them with: tarnwickctl baseline %3 list</source>
+        <translation>Site %1 hat keine Basis mit der Nummer „%2“. Alle zeigt: tarnwickctl baseline %3 list</translation>
+    </message>
+    <message>
+        <source>Baseline %1 of site %2 is removed.</source>
+        <translation>Basis %1 der Site %2 ist entfernt.</translation>
+    </message>
+    <message>
+        <source>Only &quot;set&quot; takes a file, and &quot;drop&quot; a number.</source>
+        <translation>Nur „set“ nimmt eine Datei, und „drop“ eine Nummer.</translation>
+    </message>
+    <message>
+        <source>show (default), load (fetch it from the URL now), set FILE, clear, accept (take the latest page), undo (the one before accept), list (those that are kept), drop NUMBER</source>
+        <translation>show (sonst), load (jetzt von der URL holen), set FILE, clear, accept (den letzten Inhalt nehmen), undo (den vor accept), list (die behaltenen), drop NUMBER</translation>
+    </message>
+    <message>
+        <source>The file for &quot;set&quot;, - is standard input; the number for &quot;drop&quot;</source>
+        <translation>Die Datei für „set“, - ist die Standardeingabe; die Nummer für „drop“</translation>
+    </message>
+    <message>
+        <source>the one before it was accepted</source>
+        <translation>die davor</translation>
+    </message>
+    <message>
+        <source>the kept baseline &quot;%1&quot; is none: give it as an export writes it</source>
+        <translation>die behaltene Basis „%1“ ist keine: Geben Sie sie an, wie ein Export sie schreibt</translation>
+    </message>
+    <message>
+        <source>tags is no array: give [&quot;TAG&quot;, ...]</source>
+        <translation>tags ist kein Array: Geben Sie [&quot;WORT&quot;, ...] an</translation>
+    </message>
+    <message>
+        <source>baselines is no array: give it as an export writes it</source>
+        <translation>baselines ist kein Array: Geben Sie es an, wie ein Export es schreibt</translation>
+    </message>
+    <message>
+        <source>Site %1 cannot be put back, since another site has its id meanwhile. Delete that one first, or add the address anew.</source>
+        <translation>Site %1 kann nicht zurückgeholt werden, da eine andere Site inzwischen ihre ID hat. Löschen Sie erst diese, oder fügen Sie die Adresse neu hinzu.</translation>
     </message>
 </context>
 <context>

@@ -54,17 +54,17 @@ std::size_t endOfWord(std::string_view text, std::size_t at, std::size_t end, st
   return at;
 }
 
-ByteRanges rangesOf(const std::vector<bool>& marks, std::size_t begin) {
-  ByteRanges ranges;
+ByteSpans rangesOf(const std::vector<bool>& marks, std::size_t begin) {
+  ByteSpans ranges;
   for (std::size_t i = 0; i < marks.size(); ++i) {
     append(ranges, {begin + i, begin + i + (marks[i] ? 1 : 0)});
   }
   return ranges;
 }
 
-std::size_t sizeOf(const ByteRanges& ranges) {
+std::size_t sizeOf(const ByteSpans& ranges) {
   std::size_t size = 0;
-  for (const ByteRange& range : ranges) {
+  for (const ByteSpan& range : ranges) {
     size += range.size();
   }
   return size;
@@ -72,7 +72,7 @@ std::size_t sizeOf(const ByteRanges& ranges) {
 
 }  // namespace
 
-ChangedBytes::ChangedBytes(std::string_view pageBefore, std::string_view pageAfter, ByteRange before, ByteRange after,
+ChangedBytes::ChangedBytes(std::string_view pageBefore, std::string_view pageAfter, ByteSpan before, ByteSpan after,
                            std::size_t unit)
     : unit_(unit), before_{pageBefore, before}, after_{pageAfter, after}, known_(kBytes) {
   trimEqualEnds();
@@ -158,9 +158,9 @@ bool ChangedBytes::searchAll(const Enough& enough) {
 
 // What equal words leave need not be the least: words do not know how long they are.
 void ChangedBytes::takeFewest() {
-  ByteRanges removed = rangesOf(all_->removed(), before_.range.begin);
+  ByteSpans removed = rangesOf(all_->removed(), before_.range.begin);
   all_->removed().clear();
-  ByteRanges added = rangesOf(all_->added(), after_.range.begin);
+  ByteSpans added = rangesOf(all_->added(), after_.range.begin);
   if (sizeOf(removed) < sizeOf(before_.bytes)) {
     before_.bytes = std::move(removed);
     after_.bytes = std::move(added);
@@ -174,7 +174,7 @@ void ChangedBytes::takeFewest() {
 void ChangedBytes::growWords(Side& side) const {
   side.words.clear();
   std::size_t word = 0;
-  for (const ByteRange& range : side.bytes) {
+  for (const ByteSpan& range : side.bytes) {
     while (word + 1 < side.begins.size() && side.begins[word + 1] <= range.begin) {
       ++word;
     }
@@ -182,7 +182,7 @@ void ChangedBytes::growWords(Side& side) const {
     while (end < side.begins.size() && side.begins[end] < range.end) {
       ++end;
     }
-    ByteRange words = side.wordsFrom(word, end);
+    ByteSpan words = side.wordsFrom(word, end);
     words.begin = std::max(words.begin, side.words.empty() ? 0 : side.words.back().end);
     append(side.words, words);
   }
@@ -204,7 +204,7 @@ bool ChangedBytes::splitWords(Side& side, const Enough& enough) {
   return true;
 }
 
-ByteRange ChangedBytes::Side::wordsFrom(std::size_t first, std::size_t end) const {
+ByteSpan ChangedBytes::Side::wordsFrom(std::size_t first, std::size_t end) const {
   const auto beginOf = [&](std::size_t word) { return word < begins.size() ? begins[word] : range.end; };
   return {beginOf(first), beginOf(end)};
 }
@@ -263,8 +263,8 @@ SequenceSearch::Numbers ChangedBytes::bytesOf(std::string_view text) {
 
 void ChangedBytes::markWhole(const Run& run) {
   const std::size_t same = commonBytes(run.before.of(before_.page), run.after.of(after_.page));
-  const ByteRange before{run.before.begin + same, run.before.end};
-  const ByteRange after{run.after.begin + same, run.after.end};
+  const ByteSpan before{run.before.begin + same, run.before.end};
+  const ByteSpan after{run.after.begin + same, run.after.end};
   const std::size_t atEnd = commonBytesAtEnd(before.of(before_.page), after.of(after_.page));
   append(before_.bytes, {before.begin, before.end - atEnd});
   append(after_.bytes, {after.begin, after.end - atEnd});
@@ -273,8 +273,8 @@ void ChangedBytes::markWhole(const Run& run) {
 }
 
 void ChangedBytes::markFound(const Run& run) {
-  const auto add = [](ByteRanges& ranges, const ByteRanges& found) {
-    for (const ByteRange& range : found) {
+  const auto add = [](ByteSpans& ranges, const ByteSpans& found) {
+    for (const ByteSpan& range : found) {
       append(ranges, range);
     }
   };

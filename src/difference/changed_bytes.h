@@ -17,7 +17,7 @@ class ChangedBytes {
  public:
   /// `unit` is how many bytes a character takes up at least. The pages outlive this object; `before` and `after` are
   /// the changed lines.
-  ChangedBytes(std::string_view pageBefore, std::string_view pageAfter, ByteRange before, ByteRange after,
+  ChangedBytes(std::string_view pageBefore, std::string_view pageAfter, ByteSpan before, ByteSpan after,
                std::size_t unit);
 
   /// Does a piece, and further ones until it is enough; true when all is done.
@@ -29,18 +29,18 @@ class ChangedBytes {
  private:
   struct Side {
     std::string_view page;
-    ByteRange range;  ///< what is to be looked at
+    ByteSpan range;  ///< what is to be looked at
     std::size_t next = 0;
     std::vector<std::uint32_t> begins{};  ///< of the words
     SequenceSearch::Numbers numbers{};
-    ByteRanges bytes{};
-    ByteRanges words{};
+    ByteSpans bytes{};
+    ByteSpans words{};
 
-    ByteRange wordsFrom(std::size_t first, std::size_t end) const;
+    ByteSpan wordsFrom(std::size_t first, std::size_t end) const;
   };
   /// Words of the one side in the place of words of the other.
   struct Run {
-    ByteRange before, after;
+    ByteSpan before, after;
   };
 
   bool searchAll(const Enough& enough);

@@ -22,7 +22,7 @@ constexpr std::size_t kBytesAtOnce = std::size_t{1} << 18U;
 
 }  // namespace
 
-ByteRange PageLines::lines(std::size_t first, std::size_t count) const {
+ByteSpan PageLines::lines(std::size_t first, std::size_t count) const {
   const auto beginOf = [&](std::size_t line) { return line < begins_.size() ? begins_[line] : size_; };
   return {beginOf(first), beginOf(first + count)};
 }
@@ -225,8 +225,8 @@ class PageComparison::Work {
   bool lookIntoLines(const Enough& enough) {
     for (; nextChange_ < difference_.changes.size(); ++nextChange_) {
       PageChange& change = difference_.changes[nextChange_];
-      const ByteRange before = difference_.before.lines(change.firstBefore, change.linesBefore);
-      const ByteRange after = difference_.after.lines(change.firstAfter, change.linesAfter);
+      const ByteSpan before = difference_.before.lines(change.firstBefore, change.linesBefore);
+      const ByteSpan after = difference_.after.lines(change.firstAfter, change.linesAfter);
       if (difference_.shownAsOne) {
         markWhole(change, before, after);
         return true;
@@ -247,7 +247,7 @@ class PageComparison::Work {
     return true;
   }
 
-  void markWhole(PageChange& change, ByteRange before, ByteRange after) const {
+  void markWhole(PageChange& change, ByteSpan before, ByteSpan after) const {
     const std::size_t same = commonBytes(before.of(before_.page), after.of(after_.page));
     before.begin += same;
     after.begin += same;

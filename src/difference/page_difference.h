@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "difference/byte_range.h"
+#include "difference/byte_span.h"
 #include "platform/clock.h"
 
 namespace tarnwick {
@@ -18,11 +18,11 @@ class PageLines {
  public:
   std::size_t count() const { return begins_.size(); }
   /// Line `number`, from 0 on, with its line feed.
-  ByteRange line(std::size_t number) const {
+  ByteSpan line(std::size_t number) const {
     return {begins_[number], number + 1 < begins_.size() ? begins_[number + 1] : size_};
   }
   /// The bytes of `count` lines from `first` on; those of none lie where they would begin.
-  ByteRange lines(std::size_t first, std::size_t count) const;
+  ByteSpan lines(std::size_t first, std::size_t count) const;
   /// The line in which a byte stands; `count()` for the end of the page.
   std::size_t lineOf(std::size_t byte) const;
 
@@ -39,11 +39,11 @@ struct PageChange {
   std::size_t firstAfter = 0;
   std::size_t linesAfter = 0;
   /// Exactly the bytes that are taken away and that have come: without them the lines of both are the same.
-  ByteRanges removed;
-  ByteRanges added;
+  ByteSpans removed;
+  ByteSpans added;
   /// The same for people: the whole words that these bytes belong to.
-  ByteRanges removedWords;
-  ByteRanges addedWords;
+  ByteSpans removedWords;
+  ByteSpans addedWords;
 };
 
 /// How two pages differ.

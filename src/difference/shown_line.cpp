@@ -90,10 +90,10 @@ std::string shown(const Character& character, std::string_view bytes, bool invis
 /// Walks along marks, from one character to the next.
 class Marks {
  public:
-  explicit Marks(const ByteRanges& ranges, std::size_t from)
-      : next_(std::ranges::upper_bound(ranges, from, {}, &ByteRange::end)), end_(ranges.end()) {}
+  explicit Marks(const ByteSpans& ranges, std::size_t from)
+      : next_(std::ranges::upper_bound(ranges, from, {}, &ByteSpan::end)), end_(ranges.end()) {}
 
-  bool touch(ByteRange range) {
+  bool touch(ByteSpan range) {
     while (next_ != end_ && next_->end <= range.begin) {
       ++next_;
     }
@@ -101,14 +101,14 @@ class Marks {
   }
 
  private:
-  ByteRanges::const_iterator next_;
-  ByteRanges::const_iterator end_;
+  ByteSpans::const_iterator next_;
+  ByteSpans::const_iterator end_;
 };
 
 }  // namespace
 
-std::vector<ShownRun> shownLine(std::string_view page, ByteRange line, PageForm form, const ByteRanges& words,
-                                const ByteRanges& bytes, bool invisible) {
+std::vector<ShownRun> shownLine(std::string_view page, ByteSpan line, PageForm form, const ByteSpans& words,
+                                const ByteSpans& bytes, bool invisible) {
   std::vector<ShownRun> runs;
   Marks inWords(words, line.begin);
   Marks inBytes(bytes, line.begin);
@@ -117,7 +117,7 @@ std::vector<ShownRun> shownLine(std::string_view page, ByteRange line, PageForm 
     Character character = characterAt(rest, form);
     // A line feed of the line's own ends it, and a carriage return before it belongs to that.
     const bool isLoneReturn = character.code == '\r' && at + 2 * character.length < line.end;
-    const ByteRange range{at, at + character.length};
+    const ByteSpan range{at, at + character.length};
     const ShownMark mark = inBytes.touch(range)   ? ShownMark::byte
                            : inWords.touch(range) ? ShownMark::word
                                                   : ShownMark::none;
@@ -132,9 +132,9 @@ std::vector<ShownRun> shownLine(std::string_view page, ByteRange line, PageForm 
   return runs;
 }
 
-ByteRanges within(const ByteRanges& ranges, ByteRange range) {
-  ByteRanges cut;
-  for (auto next = std::ranges::upper_bound(ranges, range.begin, {}, &ByteRange::end);
+ByteSpans within(const ByteSpans& ranges, ByteSpan range) {
+  ByteSpans cut;
+  for (auto next = std::ranges::upper_bound(ranges, range.begin, {}, &ByteSpan::end);
        next != ranges.end() && next->begin < range.end; ++next) {
     append(cut, {std::max(next->begin, range.begin), std::min(next->end, range.end)});
   }

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "difference/byte_range.h"
+#include "difference/byte_span.h"
 #include "difference/page_form.h"
 
 namespace tarnwick {
@@ -28,11 +28,11 @@ struct ShownRun {
 /// A part of a page, at most a line, as it is shown: what would break the line or reorder it is written as an escape,
 /// as in `visibleText`. A character of which some bytes are marked is marked. `words` and `bytes` are marks of the
 /// whole page. With `invisible` blanks, tabs and line ends are shown, too; otherwise the line end is left out.
-std::vector<ShownRun> shownLine(std::string_view page, ByteRange line, PageForm form, const ByteRanges& words,
-                                const ByteRanges& bytes, bool invisible);
+std::vector<ShownRun> shownLine(std::string_view page, ByteSpan line, PageForm form, const ByteSpans& words,
+                                const ByteSpans& bytes, bool invisible);
 
 /// The bytes that lie in both.
-ByteRanges within(const ByteRanges& ranges, ByteRange range);
+ByteSpans within(const ByteSpans& ranges, ByteSpan range);
 
 /// Sixteen bytes of a page from `offset` on, fewer at its end, as the row of a hex dump: the offset, the bytes, and
 /// what is ASCII of them. The bytes begin at column `kHexColumn`, three columns each.

@@ -137,6 +137,15 @@ AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& 
     }
   }
   forgetOldChanges(site, policy, now);
+  if (outcome && outcome->known) {
+    site.owed.clear();
+    return step;
+  }
+  if (outcome && outcome->other && site.told == Told::down) {
+    site.told = Told::up;
+    site.toldAt.reset();
+    site.lastToldAt.reset();
+  }
   if (outcome && site.failures > 0 && !isDown(site, policy)) {
     step.repeatAfter = policy.repeatAfter(site.failures);
   }

@@ -17,6 +17,8 @@ struct CheckOutcome {
   bool passed = false;
   std::string error;  ///< why not, in a few words
   std::chrono::milliseconds took{0};
+  bool known = false;  ///< the wrong page is acknowledged, so nothing is told of it
+  bool other = false;  ///< it is another one than the acknowledged one, and so is told as if nothing had been
 };
 
 /// What follows.
@@ -37,6 +39,7 @@ struct AlarmStep {
 /// - While a moment is quiet, or `alerts` is off, nothing is told; what is still so afterwards is told then.
 /// - More changes between up and down for real than `unsteady` bears are told as one alert; then nothing, until there
 ///   was no change for as long.
+/// - While an acknowledged page stays nothing is told. Another wrong page is told at once, as the first of an outage.
 /// - What lies ahead since the clock was set back counts as of now.
 /// - A page that took longer than `slow` is told once, until one comes in time.
 AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& outcome, const AlarmPolicy& policy,

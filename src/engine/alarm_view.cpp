@@ -4,10 +4,13 @@
 namespace tarnwick {
 namespace {
 
-AlarmView::State stateOf(const SiteStanding& standing, const AlarmPolicy& policy) {
+AlarmView::State stateOf(const SiteStanding& standing, const AlarmPolicy& policy, bool acknowledged) {
   using enum AlarmView::State;
   if (standing.unknownSince) {
     return unknown;
+  }
+  if (acknowledged) {
+    return known;
   }
   if (policy.isOriginal()) {
     return none;
@@ -23,8 +26,8 @@ AlarmView::State stateOf(const SiteStanding& standing, const AlarmPolicy& policy
 
 }  // namespace
 
-AlarmView alarmViewOf(const SiteStanding& standing, const AlarmPolicy& policy, LocalTime now) {
-  AlarmView view{.state = stateOf(standing, policy), .quiet = quietAt(policy, now)};
+AlarmView alarmViewOf(const SiteStanding& standing, const AlarmPolicy& policy, LocalTime now, bool acknowledged) {
+  AlarmView view{.state = stateOf(standing, policy, acknowledged), .quiet = quietAt(policy, now)};
   if (isPaused(policy.pause, now)) {
     view.pause = policy.pause;
   }
@@ -33,6 +36,7 @@ AlarmView alarmViewOf(const SiteStanding& standing, const AlarmPolicy& policy, L
       view.since = standing.unknownSince;
       break;
     case AlarmView::State::unconfirmed:
+    case AlarmView::State::known:
     case AlarmView::State::down:
       view.failures = standing.failures;
       view.confirm = policy.confirm;
@@ -61,6 +65,8 @@ std::string wordsOf(const AlarmView& view) {
       return "slow";
     case AlarmView::State::unknown:
       return "unknown";
+    case AlarmView::State::known:
+      return "known";
   }
   return {};
 }

@@ -13,9 +13,9 @@ namespace tarnwick {
 
 /// What there is to be seen of a site's alarm beside up and down. As it is made here, nothing.
 struct AlarmView {
-  /// The one word for it. Unconfirmed is a site whose failures are too few yet; unknown is what is found while this
-  /// machine is offline.
-  enum class State { none, unconfirmed, down, unsteady, slow, unknown };
+  /// The one word for it. Known is one whose wrong page is acknowledged, unconfirmed a site whose failures are too few
+  /// yet; unknown is what is found while this machine is offline.
+  enum class State { none, unconfirmed, down, unsteady, slow, unknown, known };
   State state = State::none;
   int failures = 0;                  ///< in a row
   int confirm = 1;                   ///< how many make it down
@@ -27,9 +27,11 @@ struct AlarmView {
   Quiet quiet = Quiet::no;
 };
 
-AlarmView alarmViewOf(const SiteStanding& standing, const AlarmPolicy& policy, LocalTime now);
+/// `acknowledged` is whether the wrong page of the site is.
+AlarmView alarmViewOf(const SiteStanding& standing, const AlarmPolicy& policy, LocalTime now,
+                      bool acknowledged = false);
 
-/// "unconfirmed (1 of 3)", "down", "unsteady", "slow", "unknown", as it is said; empty for none.
+/// "unconfirmed (1 of 3)", "down", "unsteady", "slow", "unknown", "known", as it is said; empty for none.
 std::string wordsOf(const AlarmView& view);
 
 /// Why an active site is not watched as it should be.

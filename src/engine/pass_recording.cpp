@@ -243,10 +243,11 @@ std::optional<PassRecording::Stored> PassRecording::storeResult(std::size_t row,
   if (counts) {
     count(id, passed);
   }
-  Stored stored{passed, counts, needs_.results.remark()};
+  const KnownStep known = known_.take(id, passed, content);
+  Stored stored{passed, counts, needs_.results.remark(), known == KnownStep::silent};
   if (debts_.alarms.decidesAbout(id)) {
-    stored.alarm =
-        debts_.alarms.take(id, {passed, errCode != 0 ? errDescription : kPageDiffers, needs_.pool.siteTook(row)});
+    stored.alarm = debts_.alarms.take(id, {passed, errCode != 0 ? errDescription : kPageDiffers,
+                                           needs_.pool.siteTook(row), stored.silent, known == KnownStep::other});
   }
   keepForChannels(row, fetched, stored);
   whole.commit();
@@ -261,7 +262,7 @@ void PassRecording::keepForChannels(std::size_t row, const Fetched& fetched, con
   if (stored.alarm) {
     channels.keep(resultOf(row, fetched, stored), std::span(stored.alarm->alerts).subspan(stored.alarm->owedBefore),
                   outageOf(stored.alarm->standing, needs_.clock.localNow()));
-  } else if (!stored.passed) {
+  } else if (!stored.passed && !stored.silent) {
     channels.keep(resultOf(row, fetched, stored), kDown, {.now = needs_.clock.localNow()});
   }
 }
@@ -278,7 +279,8 @@ void PassRecording::alertUnrecorded(std::size_t row, const Fetched& fetched) {
     return;
   }
   debts_.checks.checkedUnrecorded(id, needs_.clock.steadyNow());
-  if (!needs_.results.wouldPass(id, fetched.content, fetched.errCode, firstBaselineOf(row))) {
+  if (!needs_.results.wouldPass(id, fetched.content, fetched.errCode, firstBaselineOf(row)) &&
+      known_.look(id, false, fetched.content) != KnownStep::silent) {
     ChannelAlerts(needs_, options_).tellUnkept(resultOf(row, fetched, {.passed = false, .counted = false}));
     needs_.alerts.sendAlerts(id);
     tellLostMail(id, sites_.url(row));
@@ -295,7 +297,7 @@ void PassRecording::alert(std::size_t row, const Stored& stored) {
   const std::int16_t id = sites_.idSite(row);
   if (stored.alarm) {
     raiseAlarms(id, sites_.url(row), stored.alarm->alerts);
-  } else {
+  } else if (!stored.silent) {
     needs_.alerts.sendAlerts(id);
     tellLostMail(id, sites_.url(row));
   }

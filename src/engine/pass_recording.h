@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "engine/alarm_rule.h"
+#include "engine/known_page.h"
 #include "engine/result_recording.h"
 #include "engine/run_controller.h"
 #include "engine/selected_sites.h"
@@ -71,7 +72,8 @@ class PassRecording {
         options_(shared.options),
         brightened_(shared.brightened),
         faults_(shared.faults),
-        repeat_(shared.repeat) {}
+        repeat_(shared.repeat),
+        known_(needs.standings.database()) {}
 
   /// Lets even a single result wait a moment for others. REQUIRES: events that come more often than that.
   void waitForMore(bool waits) { waitsForMore_ = waits; }
@@ -100,6 +102,8 @@ class PassRecording {
     bool counted;
     /// What must be told beside the verdict; empty for most.
     std::string remark{};
+    /// What somebody has acknowledged is still there.
+    bool silent = false;
     /// Nothing where the site follows the original rule.
     std::optional<AlarmStep> alarm{};
   };
@@ -136,6 +140,7 @@ class PassRecording {
   std::vector<std::int16_t>& brightened_;
   PassFaults& faults_;
   std::function<void(std::size_t row, std::chrono::seconds after)> repeat_;
+  KnownPages known_;
   // The rows whose requests have ended and are to be recorded, in that order.
   std::vector<std::size_t> waiting_;
   std::chrono::milliseconds waitingSince_{};

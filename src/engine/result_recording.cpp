@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/errors.h"
+#include "engine/settling.h"
 #include "page_rules/page_judge.h"
 #include "store/first_field.h"
 #include "store/sql_quote.h"
@@ -41,6 +42,10 @@ ResultRecording::Judged ResultRecording::judge(std::int16_t idSite, std::string_
     site.equals = site.equals || verdict.same;
     site.remark = verdict.remark;
   }
+  if (site.hasBaseline && !site.equals && errCode == 0 && hasFurther(idSite)) {
+    site.equals = isFurtherGood(further_, idSite, content, hasRules(idSite) ? rules_.rulesOf(idSite) : RuleSet());
+    site.remark = site.equals ? "" : site.remark;
+  }
   site.isAdopted = isAdopted(idSite, site, content, errCode, first);
   return site;
 }
@@ -50,6 +55,13 @@ bool ResultRecording::hasRules(std::int16_t idSite) {
     withRules_ = rules_.sitesWithRules();
   }
   return withRules_->contains(idSite);
+}
+
+bool ResultRecording::hasFurther(std::int16_t idSite) {
+  if (!withFurther_) {
+    withFurther_ = further_.sitesWithFurtherPages();
+  }
+  return withFurther_->contains(idSite);
 }
 
 bool ResultRecording::isAdopted(std::int16_t idSite, Judged& site, std::string_view content, std::int32_t errCode,

@@ -11,6 +11,7 @@
 
 #include "base/errors.h"
 #include "platform/clock.h"
+#include "store/baselines.h"
 #include "store/database.h"
 #include "store/settings_and_log.h"
 #include "store/site_rules.h"
@@ -46,16 +47,19 @@ class FullCounter : public OverflowError {
 };
 
 /// Judges a fetched page and keeps the outcome in the site's row and in the log. A site is up when the page equals its
-/// stored baseline byte for byte, but for what its rules leave out (`SiteRules`), where it has any; the first page of a
-/// site without a baseline becomes its baseline. Every failed
+/// stored baseline byte for byte, but for what its rules leave out (`SiteRules`), where it has any, or one of its
+/// further good pages (`Baselines`); the first page of a site without a baseline becomes its baseline. Every failed
 /// statement raises DataAccessError. A change to a site that does not exist does nothing.
 class ResultRecording {
  public:
   ResultRecording(Database& database, SettingsAndLog& log, const Clock& clock)
-      : db_(database), log_(log), clock_(clock), rules_(database) {}
+      : db_(database), log_(log), clock_(clock), rules_(database), further_(database) {}
 
-  /// Looks again which sites have rules: before a pass, and when rules were stored.
-  void forgetSitesWithRules() { withRules_.reset(); }
+  /// Looks again which sites have rules or further good pages: before a pass, and when such were stored.
+  void forgetSitesWithRules() {
+    withRules_.reset();
+    withFurther_.reset();
+  }
 
   /// Makes what is recorded during the returned object's life one whole, kept when it is committed. REQUIRES: no wait
   /// for the network meanwhile, since the database is locked for writing.
@@ -140,12 +144,15 @@ class ResultRecording {
   bool isAdopted(std::int16_t idSite, Judged& site, std::string_view content, std::int32_t errCode,
                  FirstBaseline first);
   bool hasRules(std::int16_t idSite);
+  bool hasFurther(std::int16_t idSite);
 
   Database& db_;
   SettingsAndLog& log_;
   const Clock& clock_;
   SiteRules rules_;
   std::optional<std::set<std::int64_t>> withRules_;
+  Baselines further_;
+  std::optional<std::set<std::int64_t>> withFurther_;
   std::string remark_;
 };
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "alerts/alert_dispatch.h"
+#include "store/acknowledgements.h"
 
 namespace tarnwick {
 
@@ -77,6 +78,7 @@ bool SiteAlarms::raise(std::int16_t idSite, AlertKind kind) {
 
 std::map<std::int16_t, AlarmStep> SiteAlarms::timeHasGoneBy() {
   std::map<std::int16_t, AlarmStep> steps;
+  std::optional<std::map<std::int64_t, Acknowledgement>> known;
   for (auto& [id, stored] : standings_.standings()) {
     if (!std::in_range<std::int16_t>(id)) {
       continue;
@@ -84,6 +86,12 @@ std::map<std::int16_t, AlarmStep> SiteAlarms::timeHasGoneBy() {
     const auto idSite = static_cast<std::int16_t>(id);
     const AlarmPolicy* const policy = policyOf(idSite);
     if (policy == nullptr || !waitsForTime(stored, *policy)) {
+      continue;
+    }
+    if (!known) {
+      known = Acknowledgements(standings_.database()).acknowledgements();
+    }
+    if (known->contains(id)) {
       continue;
     }
     AlarmStep step = decideAlarm(standingOf(idSite), std::nullopt, *policy, clock_.localNow());

@@ -9,14 +9,18 @@
 #include "engine/due_sites.h"
 #include "engine/page_fetch.h"
 #include "engine/result_recording.h"
+#include "engine/settling.h"
 #include "engine/single_control.h"
 #include "engine/site_reasons.h"
 #include "mail/mail_socket.h"
 #include "platform/services.h"
 #include "report/daily_report.h"
+#include "store/acknowledgements.h"
+#include "store/baselines.h"
 #include "store/channels.h"
 #include "store/compaction.h"
 #include "store/database.h"
+#include "store/deleted_site.h"
 #include "store/kept_pages.h"
 #include "store/outbox.h"
 #include "store/post_vars.h"
@@ -27,6 +31,7 @@
 #include "store/site_records.h"
 #include "store/site_rules.h"
 #include "store/site_standing.h"
+#include "store/site_tags.h"
 #include "store/text_files.h"
 
 namespace tarnwick {
@@ -60,6 +65,9 @@ class m : private MembersOfM,
           public SiteOptions,
           public SiteStandings,
           public SiteRules,
+          public Baselines,
+          public SiteTags,
+          public Acknowledgements,
           public Channels,
           public Outbox,
           public ResultLog,
@@ -70,6 +78,7 @@ class m : private MembersOfM,
           public PageFetch,
           public ResultRecording,
           public SiteReasons,
+          public Settling,
           public AlertDispatch,
           public DailyReport,
           public Compaction {
@@ -94,9 +103,16 @@ class m : private MembersOfM,
   void clearLog();
   void deleteSite(std::int16_t idSite);
   void deleteSiteOfAnyId(std::int64_t idSite);
+  /// The same of one that may be put back.
+  DeletedSite takeSiteOut(std::int64_t idSite);
+  /// As `tarnwick::putSiteBack`; its rules count from the next check on.
+  void putSiteBack(const DeletedSite& site);
 
   /// From the next check on, also of a pass that is under way.
   void storeRules(std::int16_t idSite, const RuleSet& rules);
+  void accept(std::int16_t idSite, const std::string& page, AcceptAs as);
+  bool dropBaseline(std::int16_t idSite, std::int64_t number);
+  void storeBaselines(std::int16_t idSite, const std::vector<ListedBaseline>& baselines);
 
  private:
   using SettingsAndLog::addLog;

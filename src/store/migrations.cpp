@@ -53,10 +53,26 @@ bool addChannels(SqlConnection& connection, const std::string&) {
   return true;
 }
 
+bool addSettling(SqlConnection& connection, const std::string&) {
+  connection.execute(
+      "create table if not exists baselines (idBaseline INTEGER PRIMARY KEY, idSite INTEGER NOT NULL, taken TEXT NOT "
+      "NULL, origin TEXT NOT NULL, content TEXT NOT NULL)",
+      {});
+  connection.execute("create index if not exists baselinesOfSite on baselines (idSite, origin, idBaseline)", {});
+  connection.execute(
+      "create table if not exists siteTags (idSite INTEGER NOT NULL, tag TEXT NOT NULL, primary key (idSite, tag)) "
+      "without rowid",
+      {});
+  connection.execute(
+      "create table if not exists acknowledged (idSite INTEGER PRIMARY KEY, page TEXT NOT NULL, since TEXT NOT NULL)",
+      {});
+  return true;
+}
+
 /// What leads from each form to the next; the first makes form 1 of form 0. A step that has been in a release never
 /// changes: lists that have gone through it are in people's hands.
-constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense, &addSiteState, &addRules,
-                                                    &addChannels};
+constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense, &addSiteState,
+                                                    &addRules,       &addChannels,    &addSettling};
 
 void refuseNewer(std::int64_t form, const std::string& path) {
   if (form > kFormOfTables) {

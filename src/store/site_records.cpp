@@ -7,12 +7,15 @@
 
 #include "base/errors.h"
 #include "base/text.h"
+#include "store/acknowledgements.h"
+#include "store/baselines.h"
 #include "store/first_field.h"
 #include "store/outbox.h"
 #include "store/site_options.h"
 #include "store/site_rules.h"
 #include "store/site_standing.h"
 #include "store/site_table.h"
+#include "store/site_tags.h"
 #include "store/sql_quote.h"
 
 namespace tarnwick {
@@ -43,6 +46,9 @@ void removeWhatGoesWith(Database& database, std::int64_t idSite) {
   SiteStandings(database).removeStanding(idSite);
   SiteRules(database).removeRules(idSite);
   Outbox(database).removeAlertsOf(idSite);
+  Baselines(database).removeBaselinesOf(idSite);
+  SiteTags(database).removeTagsOf(idSite);
+  Acknowledgements(database).removeAcknowledgement(idSite);
 }
 
 }  // namespace

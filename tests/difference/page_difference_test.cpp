@@ -16,11 +16,11 @@ namespace {
 
 using std::chrono::milliseconds;
 
-std::string without(std::string_view page, const PageDifference& difference, ByteRanges PageChange::*marks) {
+std::string without(std::string_view page, const PageDifference& difference, ByteSpans PageChange::*marks) {
   std::string rest;
   std::size_t from = 0;
   for (const PageChange& change : difference.changes) {
-    for (const ByteRange& range : change.*marks) {
+    for (const ByteSpan& range : change.*marks) {
       EXPECT_LE(from, range.begin);
       EXPECT_LT(range.begin, range.end);
       rest.append(page.substr(from, range.begin - from));
@@ -30,10 +30,10 @@ std::string without(std::string_view page, const PageDifference& difference, Byt
   return rest.append(page.substr(from));
 }
 
-std::size_t marked(const PageDifference& difference, ByteRanges PageChange::*marks) {
+std::size_t marked(const PageDifference& difference, ByteSpans PageChange::*marks) {
   std::size_t bytes = 0;
   for (const PageChange& change : difference.changes) {
-    for (const ByteRange& range : change.*marks) {
+    for (const ByteSpan& range : change.*marks) {
       bytes += range.size();
     }
   }
@@ -46,17 +46,17 @@ void expectExact(std::string_view before, std::string_view after, const PageDiff
   for (const PageChange& change : difference.changes) {
     for (const auto& [bytes, words] :
          {std::pair(&change.removed, &change.removedWords), std::pair(&change.added, &change.addedWords)}) {
-      for (const ByteRange& range : *bytes) {
+      for (const ByteSpan& range : *bytes) {
         EXPECT_TRUE(std::ranges::any_of(
-            *words, [&](const ByteRange& word) { return word.begin <= range.begin && range.end <= word.end; }));
+            *words, [&](const ByteSpan& word) { return word.begin <= range.begin && range.end <= word.end; }));
       }
     }
   }
   std::size_t equalBefore = 0;
   std::size_t equalAfter = 0;
   for (const PageChange& change : difference.changes) {
-    const ByteRange one = difference.before.lines(equalBefore, change.firstBefore - equalBefore);
-    const ByteRange other = difference.after.lines(equalAfter, change.firstAfter - equalAfter);
+    const ByteSpan one = difference.before.lines(equalBefore, change.firstBefore - equalBefore);
+    const ByteSpan other = difference.after.lines(equalAfter, change.firstAfter - equalAfter);
     EXPECT_TRUE(one.of(before) == other.of(after)) << "lines before the change at " << change.firstBefore;
     equalBefore = change.firstBefore + change.linesBefore;
     equalAfter = change.firstAfter + change.linesAfter;
@@ -94,11 +94,11 @@ TEST(PageDifference, MarksLinesWordsAndBytes) {
 TEST(PageDifference, MarksALineEndThatHasChanged) {
   const PageDifference ends = differenceOf("a\nb\n", "a\r\nb\n");
   ASSERT_EQ(ends.changes.size(), 1U);
-  EXPECT_EQ(ends.changes[0].removed, ByteRanges());
-  EXPECT_EQ(ends.changes[0].added, (ByteRanges{{1, 2}}));
+  EXPECT_EQ(ends.changes[0].removed, ByteSpans());
+  EXPECT_EQ(ends.changes[0].added, (ByteSpans{{1, 2}}));
   const PageDifference last = differenceOf("a\nb\n", "a\nb");
   ASSERT_EQ(last.changes.size(), 1U);
-  EXPECT_EQ(last.changes[0].removed, (ByteRanges{{3, 4}}));
+  EXPECT_EQ(last.changes[0].removed, (ByteSpans{{3, 4}}));
 }
 
 TEST(PageDifference, KnowsTheLinesOfUtf16) {
@@ -113,9 +113,9 @@ TEST(PageDifference, KnowsTheLinesOfUtf16) {
   const PageDifference difference = differenceOf(before, after);
   EXPECT_EQ(difference.before.count(), 2U);
   ASSERT_EQ(difference.changes.size(), 1U);
-  EXPECT_EQ(difference.before.line(1), (ByteRange{6, 10}));
-  EXPECT_EQ(difference.changes[0].removed, (ByteRanges{{6, 7}}));
-  EXPECT_EQ(difference.changes[0].removedWords, (ByteRanges{{6, 8}}));
+  EXPECT_EQ(difference.before.line(1), (ByteSpan{6, 10}));
+  EXPECT_EQ(difference.changes[0].removed, (ByteSpans{{6, 7}}));
+  EXPECT_EQ(difference.changes[0].removedWords, (ByteSpans{{6, 8}}));
 }
 
 TEST(PageDifference, MarksEveryChangedByteAndNoOther) {

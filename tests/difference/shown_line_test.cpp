@@ -52,7 +52,7 @@ TEST(ShownLine, MarksWholeCharacters) {
   const std::string after = "\xc3\xb6";
   const PageDifference difference = differenceOf(before, after);
   const PageChange& change = difference.changes.at(0);
-  EXPECT_EQ(change.added, (ByteRanges{{1, 2}}));
+  EXPECT_EQ(change.added, (ByteSpans{{1, 2}}));
   EXPECT_EQ(text(shownLine(after, {0, 2}, PageForm::utf8, change.addedWords, change.added, false)), "[\xc3\xb6]");
 }
 

@@ -70,6 +70,44 @@ class AlarmRuleTest : public ::testing::Test {
 const CheckOutcome kFailed{.passed = false, .error = "refused", .took = {}};
 const CheckOutcome kPassed{.passed = true, .error = "", .took = {}};
 
+const CheckOutcome kKnown{.passed = false, .error = "refused", .took = {}, .known = true};
+const CheckOutcome kOther{.passed = false, .error = "refused", .took = {}, .other = true};
+
+TEST_F(AlarmRuleTest, OfAPageThatIsKnownNothingIsToldUntilAnotherComesOrTheSiteIsUp) {
+  policy.confirm = 2;
+  policy.remind = {.kind = Reminders::Kind::regular, .every = minutes(10)};
+  policy.recovery = true;
+  EXPECT_EQ(fails(), "");
+  EXPECT_EQ(fails(), "down");
+  now += hours(2);
+  EXPECT_EQ(step(kKnown), "");
+  EXPECT_EQ(repeatAfter, std::nullopt);
+  now += hours(2);
+  EXPECT_EQ(step(kKnown), "");
+  EXPECT_EQ(standing.failures, 4);
+  EXPECT_EQ(step(kOther), "down");
+  EXPECT_EQ(step(kKnown), "");
+  EXPECT_EQ(passes(), "up");
+}
+
+TEST_F(AlarmRuleTest, WhatWasOwedOfAPageThatIsKnownIsForgotten) {
+  standing.owed = {AlertKind::down};
+  standing.failures = 3;
+  standing.told = SiteStanding::Told::down;
+  EXPECT_EQ(step(kKnown), "");
+  EXPECT_TRUE(standing.owed.empty());
+}
+
+TEST_F(AlarmRuleTest, AnotherPageInAQuietTimeIsToldWhenItEnds) {
+  policy.remind = {.kind = Reminders::Kind::never, .every = {}};
+  EXPECT_EQ(fails(), "down");
+  EXPECT_EQ(step(kKnown), "");
+  policy.alerts = false;
+  EXPECT_EQ(step(kOther), "");
+  policy.alerts = true;
+  EXPECT_EQ(timeGoesBy(), "down");
+}
+
 TEST_F(AlarmRuleTest, UnsetEachFailedCheckIsToldAndNothingElse) {
   EXPECT_EQ(passes(), "");
   EXPECT_EQ(fails(), "down");

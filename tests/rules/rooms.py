@@ -10,7 +10,7 @@ from rules.tree import Tree, room_of
 # here includes nothing else, and what is not named here is no room.
 MACHINE = ("base", "platform")
 DATA = (*MACHINE, "holes", "store")
-RUN = (*DATA, "difference", "page_rules", "uucode", "mail", "alerts", "delivery", "report", "engine")
+RUN = (*DATA, "difference", "finding", "page_rules", "uucode", "mail", "alerts", "delivery", "report", "engine")
 EXCHANGE = (*RUN, "program", "exchange/json")
 TOOL = (*EXCHANGE, "exchange/list", "exchange/foreign", "cli/terminal")
 WINDOW = (*RUN, "program", "ui/controls")
@@ -27,6 +27,7 @@ ROOMS = {
     "platform/desktop": (*MACHINE, "platform/os", "platform/secrets"),
     "holes": MACHINE,
     "difference": MACHINE,
+    "finding": MACHINE,
     "page_rules": (*MACHINE, "holes"),
     "store": (*MACHINE, "holes"),
     "uucode": MACHINE,
@@ -34,7 +35,7 @@ ROOMS = {
     "alerts": (*DATA, "mail"),
     "delivery": (*DATA, "alerts"),
     "report": DATA,
-    "engine": (*DATA, "difference", "page_rules", "alerts", "delivery", "report", "platform/os"),
+    "engine": (*DATA, "difference", "finding", "page_rules", "alerts", "delivery", "report", "platform/os"),
     "program": RUN,
     "exchange/json": MACHINE,
     "exchange/list": EXCHANGE,

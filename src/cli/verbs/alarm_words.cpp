@@ -55,6 +55,8 @@ const char* wordOf(AlarmView::State state) {
       return "slow";
     case AlarmView::State::unknown:
       return "unknown";
+    case AlarmView::State::known:
+      return "known";
   }
   return "";
 }
@@ -65,13 +67,14 @@ SiteWatches::SiteWatches(Tool& tool)
     : now_(tool.services().clock.localNow()),
       runIsOn_(seemsToRun(tool)),
       options_(tool.data().optionsInForce()),
-      standings_(tool.data().standings()) {}
+      standings_(tool.data().standings()),
+      known_(tool.data().acknowledgements()) {}
 
 SiteWatch SiteWatches::of(const SiteFacts& facts) const {
   const auto known = standings_.find(facts.idSite);
   SiteWatch watch;
   watch.alarm = alarmViewOf(known == standings_.end() ? SiteStanding{} : known->second,
-                            alarmPolicyOf(options_, facts.idSite), now_);
+                            alarmPolicyOf(options_, facts.idSite), now_, known_.contains(facts.idSite));
   watch.unwatched = unwatchedOf({.active = facts.site.active,
                                  .lastChecked = parseStamp(facts.lastChecked),
                                  .interval = SqlValue(facts.site.tInterval).toInt64(),

@@ -34,6 +34,7 @@ class SiteWatches {
   bool runIsOn_;
   OptionsInForce options_;
   std::map<std::int64_t, SiteStanding> standings_;
+  std::map<std::int64_t, Acknowledgement> known_;
 };
 
 /// Adds what there is to be said to the JSON of a site: the members "alarm" and "unwatched".

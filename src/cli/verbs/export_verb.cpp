@@ -143,6 +143,8 @@ std::size_t writeList(Tool& tool, Format format, ListColumns columns, const std:
   const Snapshot oneState(data.database());
   columns.options = hasOptions(data);
   columns.rules = hasRules(data);
+  columns.tags = hasTags(data);
+  columns.kept = columns.baselines && hasKeptBaselines(data);
   const auto writer = format == Format::csv ? makeCsvWriter(columns, sink, tool.fields())
                                             : makeJsonWriter(columns, sink, tool.fields());
   ImportWarnings warnings(tool.console(), tool.fields());

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <charconv>
 #include <ostream>
 
 #include "cli/terminal/input_file.h"
 #include "cli/terminal/json_output.h"
+#include "cli/terminal/text_grid.h"
+#include "cli/verbs/page_diff.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
-#include "difference/unified_diff.h"
-#include "holes/page_text.h"
 #include "page_rules/page_judge.h"
 #include "platform/interrupts.h"
 
@@ -109,14 +110,66 @@ int acceptLatest(Tool& tool, const BaselineOptions& options) {
                              visibleText(page, 100) + "\". Check again with: " + check +
                              "; if that is the page's own text, use --force.");
   }
-  tool.data().updateContentCompare(options.idSite, page);
+  tool.data().accept(options.idSite, page, AcceptAs::baseline);
   return told(tool, options, "The latest page is the baseline.");
+}
+
+int undoAccept(Tool& tool, const BaselineOptions& options) {
+  if (!tool.data().undoAccept(options.idSite)) {
+    throw std::runtime_error("Site " + std::to_string(options.idSite) +
+                             " has no earlier baseline: none was kept, since no page was accepted.");
+  }
+  return told(tool, options, "The baseline before is the baseline again.");
+}
+
+int listBaselines(Tool& tool, const BaselineOptions& options) {
+  const std::vector<KeptBaseline> kept = tool.data().baselinesOf(options.idSite);
+  if (options.json) {
+    JsonArray array(tool.console());
+    for (const KeptBaseline& one : kept) {
+      array.add({{"number", one.number},
+                 {"taken", jsonText(one.taken)},
+                 {"origin", jsonText(std::string(wordOf(one.origin)))},
+                 {"size", one.size}});
+    }
+    array.end();
+    return exit_status::ok;
+  }
+  if (kept.empty()) {
+    tool.console().complain("Site " + std::to_string(options.idSite) +
+                            " has no baseline beside that which the verb baseline shows.");
+    return exit_status::ok;
+  }
+  using enum TextGrid::Align;
+  TextGrid grid({{"NUMBER", right}, {"KEPT"}, {"BYTES", right}, {"WHAT"}});
+  for (const KeptBaseline& one : kept) {
+    grid.addRow({{std::to_string(one.number)},
+                 {one.taken},
+                 {std::to_string(one.size)},
+                 {tool.console().worded(one.origin == BaselineOrigin::also ? "good, too" : "replaced")}});
+  }
+  grid.print(tool.console());
+  return exit_status::ok;
+}
+
+int dropBaseline(Tool& tool, const BaselineOptions& options) {
+  std::int64_t number = 0;
+  const char* const end = options.file.data() + options.file.size();
+  const auto [rest, fault] = std::from_chars(options.file.data(), end, number);
+  if (fault != std::errc() || rest != end || !tool.data().dropBaseline(options.idSite, number)) {
+    throw std::runtime_error("Site " + std::to_string(options.idSite) + " has no baseline of the number \"" +
+                             visibleText(options.file) + "\". See them with: tarnwickctl baseline " +
+                             std::to_string(options.idSite) + " list");
+  }
+  tool.console().tell("Baseline " + std::to_string(number) + " of site " + std::to_string(options.idSite) +
+                      " is removed.");
+  return exit_status::ok;
 }
 
 int baseline(Tool& tool, const BaselineOptions& options) {
   requireListed(tool, options.idSite);
-  if (!options.file.empty() && options.action != "set") {
-    throw std::runtime_error("Only \"set\" takes a file.");
+  if (!options.file.empty() && options.action != "set" && options.action != "drop") {
+    throw std::runtime_error("Only \"set\" takes a file, and \"drop\" a number.");
   }
   if (options.force && options.action != "accept") {
     throw std::runtime_error("Only \"accept\" takes --force.");
@@ -135,21 +188,16 @@ int baseline(Tool& tool, const BaselineOptions& options) {
     tool.data().clearContentCompare(options.idSite);
     return told(tool, options, "The baseline is cleared: the next page that is fetched becomes it.");
   }
+  if (options.action == "undo") {
+    return undoAccept(tool, options);
+  }
+  if (options.action == "list") {
+    return listBaselines(tool, options);
+  }
+  if (options.action == "drop") {
+    return dropBaseline(tool, options);
+  }
   return options.action == "accept" ? acceptLatest(tool, options) : showBaseline(tool, options);
-}
-
-void printDiffLine(Console& console, const DiffLine& line) {
-  using enum Console::Colour;
-  const Console::Colour colour = line.mark == '-' ? red : line.mark == '+' ? green : line.mark == '@' ? cyan : plain;
-  // A hunk's head brings its marks along; on a terminal nothing of a page may act on it.
-  const std::string mark = line.mark == '@' ? "" : std::string(1, line.mark);
-  console.out() << console.coloured(colour, mark + console.shown(line.text)) << '\n';
-}
-
-/// What is to be shown of the difference by the rules of the site. Pages in UTF-16 are shown as they are.
-ShownPages shownPages(const std::string& before, const std::string& after, const RuleSet& rules) {
-  const bool isText = pageText(before) == before && pageText(after) == after;
-  return isText && !rules.empty() ? shownDifference(before, after, rules) : ShownPages{before, after};
 }
 
 int diff(Tool& tool, const DiffOptions& options) {
@@ -162,23 +210,16 @@ int diff(Tool& tool, const DiffOptions& options) {
   }
   const RuleSet rules = tool.data().rulesOf(options.idSite);
   const bool same = before == after || (!rules.empty() && judgePage(before, after, rules).same);
-  const ShownPages shown = shownPages(before, after, rules);
-  Console& console = tool.console();
+  const PagesOfSite pages{options.idSite, before, after, rules};
   if (options.json) {
-    JsonValue lines = JsonValue::array();
-    unifiedDiff(shown.before, shown.now, [&](const DiffLine& line) {
-      lines.add(jsonText(std::string(line.mark == '@' ? "" : std::string(1, line.mark)) + std::string(line.text)));
-    });
     JsonValue json{{"idSite", options.idSite}, {"equal", before == after}};
     if (!rules.empty()) {
       json["same"] = same;
     }
-    json["diff"] = std::move(lines);
-    sayJson(console, std::move(json));
+    json["diff"] = differenceJson(pages);
+    sayJson(tool.console(), std::move(json));
   } else if (!same) {
-    console.out() << console.coloured(Console::Colour::bold, console.worded("--- baseline of site " + id)) << '\n'
-                  << console.coloured(Console::Colour::bold, console.worded("+++ latest page of site " + id)) << '\n';
-    unifiedDiff(shown.before, shown.now, [&](const DiffLine& line) { printDiffLine(console, line); });
+    printDifference(tool.console(), pages);
   }
   return same ? exit_status::ok : exit_status::down;
 }
@@ -191,15 +232,16 @@ Verb baselineVerb() {
                {.name = "ACTION",
                 .target = &options->action,
                 .meaning = "show (default), load (fetch it from the URL now), set FILE, clear, accept (take the latest "
-                           "page)",
-                .oneOf = {"show", "load", "set", "clear", "accept"}},
-               {"FILE", &options->file, "The file for \"set\"; - is standard input"},
+                           "page), undo (the one before accept), list (those that are kept), drop NUMBER",
+                .oneOf = {"show", "load", "set", "clear", "accept", "undo", "list", "drop"}},
+               {"FILE", &options->file, "The file for \"set\", - is standard input; the number for \"drop\""},
                {"--force", &options->force, "For \"accept\": also a latest page that looks like a failed fetch"},
                jsonOption(options->json)},
               examples({{"baseline 3 > page.html", "the baseline, byte for byte"},
                         {"baseline 3 set page.html", "an edited one"},
                         {"baseline 3 accept", "what the last check fetched is how the page shall be"},
-                        {"baseline 3 load", "fetch the page now and take it"}}),
+                        {"baseline 3 load", "fetch the page now and take it"},
+                        {"baseline 3 undo", "the one before it was accepted"}}),
               [options](Tool& tool) { return baseline(tool, *options); }};
 }
 

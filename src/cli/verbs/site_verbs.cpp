@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <charconv>
 #include <iterator>
 #include <ostream>
 #include <set>
@@ -9,6 +10,7 @@
 #include "cli/terminal/json_output.h"
 #include "cli/terminal/text_grid.h"
 #include "cli/verbs/alarm_words.h"
+#include "cli/verbs/chosen_sites.h"
 #include "cli/verbs/site_edit_verbs.h"
 #include "cli/verbs/verbs.h"
 #include "exchange/list/site_facts.h"
@@ -20,6 +22,7 @@ namespace {
 constexpr std::size_t kMostNamed = 10;
 
 struct SitesOptions {
+  std::vector<std::string> query;
   bool down = false;
   bool active = false;
   bool inactive = false;
@@ -33,7 +36,8 @@ struct ShowOptions {
 };
 
 struct DeleteOptions {
-  std::vector<std::int64_t> ids;
+  std::vector<std::string> sites;
+  bool dryRun = false;
   bool yes = false;
 };
 
@@ -70,51 +74,68 @@ StateText stateOf(const SiteFacts& facts, const AlarmView& alarm) {
   return state;
 }
 
-void printSites(Console& console, const std::vector<SiteFacts>& sites, const SiteWatches& watches) {
+std::string tagsText(const Tags& tags) {
+  std::string text;
+  for (const std::string& tag : tags) {
+    text += (text.empty() ? "" : " ") + tag;
+  }
+  return text.empty() ? "-" : text;
+}
+
+/// The tags are a column where any site has some.
+void printSites(Console& console, const std::vector<SiteFacts>& sites, const SiteFinder& finder) {
   using enum TextGrid::Align;
-  TextGrid grid({{"ID", right},
-                 {"STATE"},
-                 {"METHOD"},
-                 {"INTERVAL", right},
-                 {"LAST TEST"},
-                 {"UP", right},
-                 {"DOWN", right},
-                 {"URL"}});
+  std::vector<TextGrid::Column> columns{{"ID", right}, {"STATE"},     {"METHOD"},     {"INTERVAL", right},
+                                        {"LAST TEST"}, {"UP", right}, {"DOWN", right}};
+  if (finder.anyTags()) {
+    columns.push_back({"TAGS"});
+  }
+  columns.push_back({"URL"});
+  TextGrid grid(columns);
   for (const SiteFacts& facts : sites) {
-    const StateText state = stateOf(facts, watches.of(facts).alarm);
-    grid.addRow({{std::to_string(facts.idSite)},
-                 {console.worded(state.text), state.colour},
-                 {facts.site.method},
-                 {facts.site.tInterval},
-                 {facts.lastChecked.empty() ? "-" : facts.lastChecked},
-                 {std::to_string(facts.success)},
-                 {std::to_string(facts.failure)},
-                 {facts.site.url}});
+    const StateText state = stateOf(facts, finder.watches().of(facts).alarm);
+    std::vector<TextGrid::Cell> row{{std::to_string(facts.idSite)},
+                                    {console.worded(state.text), state.colour},
+                                    {facts.site.method},
+                                    {facts.site.tInterval},
+                                    {facts.lastChecked.empty() ? "-" : facts.lastChecked},
+                                    {std::to_string(facts.success)},
+                                    {std::to_string(facts.failure)}};
+    if (finder.anyTags()) {
+      row.push_back({tagsText(finder.tagsOf(facts.idSite))});
+    }
+    row.push_back({facts.site.url});
+    grid.addRow(row);
   }
   grid.print(console);
 }
 
 int listSites(Tool& tool, const SitesOptions& options) {
   Console& console = tool.console();
-  std::vector<SiteFacts> sites = readSiteFacts(tool.data());
-  markThoseWithoutPage(tool.data(), sites);
-  const SiteWatches watches(tool);
+  const SiteQuery query = queryOf(options.query);
+  const SiteFinder finder(tool);
+  const SiteWatches& watches = finder.watches();
+  std::vector<SiteFacts> sites = finder.sites();
   UnwatchedCount unwatched;
   for (const SiteFacts& facts : sites) {
     unwatched.add(facts.idSite, watches.of(facts).unwatched);
   }
   const bool empty = sites.empty();
-  std::erase_if(sites, [&](const SiteFacts& facts) { return !isWanted(facts, options); });
+  std::erase_if(sites,
+                [&](const SiteFacts& facts) { return !isWanted(facts, options) || !finder.finds(query, facts); });
   if (options.json) {
     JsonArray array(console);
     for (const SiteFacts& facts : sites) {
       JsonValue json = siteJson(tool.fields(), facts);
       addTo(json, watches.of(facts));
+      if (const Tags& tags = finder.tagsOf(facts.idSite); !tags.empty()) {
+        json["tags"] = tagsJson(tags);
+      }
       array.add(std::move(json));
     }
     array.end();
   } else if (!sites.empty()) {
-    printSites(console, sites, watches);
+    printSites(console, sites, finder);
     unwatched.complain(tool);
   } else if (empty) {
     console.complain("There is no site in the list yet. Add the first one with: tarnwickctl add URL");
@@ -143,7 +164,7 @@ std::string alertText(const Console& console, const SiteDraft& site) {
   return yesNo(console, site.alertEmail) + (site.email.empty() ? "" : ", " + visibleText(site.email));
 }
 
-void printSite(Console& console, const Fields& fields, const SiteFacts& facts, const SiteWatch& watch,
+void printSite(Console& console, const Fields& fields, const SiteFacts& facts, const SiteWatch& watch, const Tags& tags,
                const std::vector<PostVar>& vars, std::size_t baselineSize, bool showPassword) {
   const SiteDraft& site = facts.site;
   const StateText state = stateOf(facts, watch.alarm);
@@ -162,6 +183,9 @@ void printSite(Console& console, const Fields& fields, const SiteFacts& facts, c
       {"Password", passwordText(console, site.sPassWord, showPassword)},
       {"Baseline", console.worded(baselineText(baselineSize))},
       {"Variables", vars.empty() ? console.worded("none") : std::to_string(vars.size())}};
+  if (!tags.empty()) {
+    lines.emplace_back("Tags", visibleText(tagsText(tags)));
+  }
   std::ranges::copy(linesOf(console, watch), std::back_inserter(lines));
   for (const SiteField& field : fields.site) {
     if (std::holds_alternative<std::monostate>(field.member)) {
@@ -199,11 +223,15 @@ int showSite(Tool& tool, const ShowOptions& options) {
   const std::size_t baselineSize = data.getContentCompare(options.idSite).size();
   const SiteWatch watch = SiteWatches(tool).of(*facts);
   if (!options.json) {
-    printSite(tool.console(), tool.fields(), *facts, watch, vars, baselineSize, options.showPassword);
+    printSite(tool.console(), tool.fields(), *facts, watch, data.tagsOf(options.idSite), vars, baselineSize,
+              options.showPassword);
     return exit_status::ok;
   }
   JsonValue json = siteJson(tool.fields(), *facts, options.showPassword);
   addTo(json, watch);
+  if (const Tags tags = data.tagsOf(options.idSite); !tags.empty()) {
+    json["tags"] = tagsJson(tags);
+  }
   json["postVars"] = postVarsJson(vars);
   json["hasBaseline"] = baselineSize != 0;
   json["baselineSize"] = baselineSize;
@@ -219,12 +247,16 @@ std::string addressOf(m& data, std::int64_t id) {
   return std::in_range<std::int16_t>(id) ? ", " + visibleText(readSite(data, static_cast<std::int16_t>(id)).url) : "";
 }
 
+std::runtime_error noId(const std::string& text) {
+  return std::runtime_error("\"" + text + "\" is no id: ids are whole numbers from 1 to 32767");
+}
+
 void requireAnyListed(m& data, std::int64_t id) {
   if (data.anyIdExists(id)) {
     return;
   }
   if (!std::in_range<std::int16_t>(id)) {
-    throw std::runtime_error("\"" + std::to_string(id) + "\" is no id: ids are whole numbers from 1 to 32767");
+    throw noId(std::to_string(id));
   }
   throw noSuchSite(id);
 }
@@ -246,11 +278,34 @@ std::string questionOf(m& data, const std::set<std::int64_t>& ids) {
   return "Delete " + std::to_string(ids.size()) + " sites (" + list + ") with their POST variables and baselines?";
 }
 
+/// Ids that another tool has given are named one by one; nothing but their removal can reach them.
+std::set<std::int64_t> idsToDelete(Tool& tool, const std::vector<std::string>& words) {
+  std::set<std::int64_t> ids;
+  for (const std::string& word : words) {
+    std::int64_t id = 0;
+    const char* const end = word.data() + word.size();
+    const auto [rest, fault] = std::from_chars(word.data(), end, id);
+    if (fault == std::errc::result_out_of_range && rest == end) {
+      throw noId(word);
+    }
+    if (fault != std::errc() || rest != end) {
+      const std::vector<std::int16_t> chosen = chosenSites(tool, words);
+      return {chosen.begin(), chosen.end()};
+    }
+    requireAnyListed(tool.data(), id);
+    ids.insert(id);
+  }
+  return ids;
+}
+
 int deleteSites(Tool& tool, const DeleteOptions& options) {
   m& data = tool.data();
-  const std::set<std::int64_t> ids(options.ids.begin(), options.ids.end());
-  for (const std::int64_t id : ids) {
-    requireAnyListed(data, id);
+  const std::set<std::int64_t> ids = idsToDelete(tool, options.sites);
+  if (options.dryRun) {
+    for (const std::int64_t id : ids) {
+      tool.console().say(std::to_string(id) + addressOf(data, id));
+    }
+    return exit_status::ok;
   }
   if (!consents(tool.console(), options.yes, questionOf(data, ids))) {
     return exit_status::failed;
@@ -274,7 +329,10 @@ Verb sitesVerb() {
   return Verb{
       "sites",
       "List the sites",
-      {{"--down", &options->down, "Only those whose last check failed"},
+      {{.name = "QUERY",
+        .target = &options->query,
+        .meaning = "Only those that all its words find; a - before a word excludes what it finds"},
+       {"--down", &options->down, "Only those whose last check failed"},
        {"--active", &options->active, "Only those that a run checks"},
        {.name = "--inactive",
         .target = &options->inactive,
@@ -311,10 +369,8 @@ Verb deleteVerb() {
   auto options = std::make_shared<DeleteOptions>();
   return Verb{"delete",
               "Delete sites with their POST variables and baselines",
-              {{.name = "ID",
-                .target = &options->ids,
-                .meaning = "The ids of the sites, as the verb sites lists them",
-                .required = true},
+              {chosenSitesOption(options->sites),
+               {"--dry-run", &options->dryRun, "Only show which sites would be deleted"},
                {"--yes", &options->yes, "Do not ask; needed where nobody can be asked"}},
               "All of them are deleted, or none when one is not in the list. What the log says of them stays.\n" +
                   examples({{"delete 3", "asks first"}, {"delete 3 7 12 --yes", "three sites, without a question"}}),

@@ -14,6 +14,9 @@ std::vector<Verb> allVerbs(const Fields& fields) {
   all.push_back(deleteVerb());
   all.push_back(postVerb());
   add(pageVerbs());
+  add(settlingVerbs());
+  all.push_back(tagVerb());
+  all.push_back(changeVerb());
   all.push_back(countersVerb());
   all.push_back(checkVerb());
   all.push_back(runVerb());

@@ -16,6 +16,10 @@ Verb deleteVerb();
 Verb postVerb();
 /// baseline, diff
 std::vector<Verb> pageVerbs();
+Verb tagVerb();
+Verb changeVerb();
+/// accept, acknowledge, changes
+std::vector<Verb> settlingVerbs();
 Verb countersVerb();
 Verb checkVerb();
 Verb runVerb();

@@ -184,6 +184,15 @@ void pack(Way& way, ListedChannel& listed) {
 }
 
 template <typename Way>
+void pack(Way& way, ListedBaseline& kept) {
+  bool isFurther = kept.origin == BaselineOrigin::also;
+  pack(way, kept.taken);
+  pack(way, isFurther);
+  pack(way, kept.page);
+  kept.origin = isFurther ? BaselineOrigin::also : BaselineOrigin::replaced;
+}
+
+template <typename Way>
 void pack(Way& way, ListedSite& site) {
   pack(way, site.line);
   pack(way, site.idSite);
@@ -193,6 +202,8 @@ void pack(Way& way, ListedSite& site) {
   pack(way, site.options);
   pack(way, site.channels);
   pack(way, site.rules);
+  pack(way, site.tags);
+  pack(way, site.kept);
   pack(way, site.state);
   pack(way, site.given);
 }

@@ -136,6 +136,14 @@ JsonValue rulesJson(const RuleSet& rules) {
   return lines;
 }
 
+JsonValue tagsJson(const Tags& tags) {
+  JsonValue json = JsonValue::array();
+  for (const std::string& tag : tags) {
+    json.add(jsonText(tag));
+  }
+  return json;
+}
+
 JsonValue optionsJson(const OptionValues& options) {
   JsonValue json = JsonValue::object();
   for (const auto& [name, value] : options) {

@@ -48,6 +48,8 @@ void markThoseWithoutPage(m& data, std::vector<SiteFacts>& sites);
 /// A site as JSON, its members named as the database's columns; the password only when it is to be shown.
 JsonValue siteJson(const Fields& fields, const SiteFacts& facts, bool showPassword = false);
 
+/// Tags as JSON, an array of texts.
+JsonValue tagsJson(const Tags& tags);
 /// Options as JSON, an object of texts.
 JsonValue optionsJson(const OptionValues& options);
 /// What is set for a site, or for all, as far as the options take it: what an import would take.

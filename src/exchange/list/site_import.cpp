@@ -167,6 +167,12 @@ class ImportPlanner::Plan {
     if (site.given.has(list_name::rules)) {
       merge.take(list_name::rules, site.rules, data_.rulesOf(step.idSite));
     }
+    if (site.given.has(list_name::tags)) {
+      merge.take(list_name::tags, site.tags, data_.tagsOf(step.idSite));
+    }
+    if (site.given.has(list_name::kept)) {
+      merge.take(list_name::kept, site.kept, data_.listedBaselines(step.idSite));
+    }
     check(site);
     if (step.fields.none()) {
       ++plan_.unchanged;
@@ -264,6 +270,12 @@ void storeListed(m& data, const ImportStep& step) {
   }
   if (step.fields.has(list_name::rules)) {
     data.storeRules(step.idSite, step.listed.rules);
+  }
+  if (step.fields.has(list_name::tags)) {
+    data.storeTags(step.idSite, step.listed.tags);
+  }
+  if (step.fields.has(list_name::kept)) {
+    data.storeBaselines(step.idSite, step.listed.kept);
   }
   if (!step.fields.has(list_name::baseline)) {
     return;

@@ -4,9 +4,13 @@
 #include <algorithm>
 #include <charconv>
 #include <limits>
+#include <utility>
 
+#include "base/base64.h"
+#include "base/decode_error.h"
 #include "base/text.h"
 #include "base/visible_text.h"
+#include "platform/clock.h"
 #include "platform/transfer_control.h"
 
 namespace tarnwick {
@@ -36,6 +40,8 @@ ListForm::ListForm(const Fields& fields) : fields_(fields) {
   all_.push_back({std::string(list_name::baseline), baseline});
   all_.push_back({std::string(list_name::options), options});
   all_.push_back({std::string(list_name::rules), rules});
+  all_.push_back({std::string(list_name::tags), tags});
+  all_.push_back({std::string(list_name::kept), kept});
 }
 
 const ListField* ListForm::find(std::string_view name) const {
@@ -150,6 +156,37 @@ void ListValues::rule(RuleSet& rules, std::string_view text) {
     fault("the rule " + quotedForMessage(text) +
           " is none: give it as an export writes it, for instance \"leave out css div.clock\"");
   }
+}
+
+void ListValues::tag(Tags& tags, std::string_view text) {
+  if (const std::string wrong = faultOfTag(text); !wrong.empty()) {
+    fault(wrong.substr(0, wrong.size() - 1));
+    return;
+  }
+  tags = withTags(std::move(tags), {std::string(text)});
+}
+
+void ListValues::kept(std::vector<ListedBaseline>& baselines, std::string_view text) {
+  constexpr std::size_t kStamp = 19;
+  const std::string_view word = text.substr(0, text.find(' '));
+  const std::string_view rest = text.substr(std::min(text.size(), word.size() + 1));
+  const auto origin = baselineOriginOf(word);
+  const std::string taken(rest.substr(0, kStamp));
+  try {
+    if (origin && parseDateTime(taken) && rest.substr(kStamp).starts_with(' ')) {
+      if (auto page = baseline(decodeBase64(rest.substr(kStamp + 1)))) {
+        baselines.push_back({taken, *origin, std::move(*page)});
+      }
+      return;
+    }
+  } catch (const DecodeError&) {
+    // As any other that is none.
+  }
+  fault("the kept baseline " + quotedForMessage(text) + " is none: give it as an export writes it");
+}
+
+std::string textOf(const ListedBaseline& baseline) {
+  return std::string(wordOf(baseline.origin)) + " " + baseline.taken + " " + encodeBase64(baseline.page);
 }
 
 std::optional<std::string> ListValues::baseline(std::string bytes) {

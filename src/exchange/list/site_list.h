@@ -16,16 +16,18 @@
 #include "holes/page_rule.h"
 #include "platform/file_system.h"
 #include "store/adoption.h"
+#include "store/baselines.h"
 #include "store/channels.h"
 #include "store/fields.h"
 #include "store/site_options.h"
+#include "store/site_tags.h"
 
 namespace tarnwick {
 
 /// What a file of the list of sites tells of a site: a column of CSV, a member of a JSON object. What checks have found
 /// is no part of it.
 struct ListField {
-  enum class Role { idSite, siteField, postVars, baseline, options, rules };
+  enum class Role { idSite, siteField, postVars, baseline, options, rules, tags, kept };
 
   std::string name;
   Role role = Role::siteField;
@@ -62,6 +64,8 @@ inline constexpr std::string_view postVars = "postVars";
 inline constexpr std::string_view baseline = "baseline";
 inline constexpr std::string_view options = "options";
 inline constexpr std::string_view rules = "rules";
+inline constexpr std::string_view tags = "tags";
+inline constexpr std::string_view kept = "baselines";
 }  // namespace list_name
 
 /// Fields of a file, by their names.
@@ -97,6 +101,9 @@ struct ListedSite {
   /// Of all sites.
   std::vector<ListedChannel> channels;
   RuleSet rules;
+  Tags tags;
+  /// The earlier and further baselines.
+  std::vector<ListedBaseline> kept;
   /// What checks have found, of a site that comes from another database; it counts for a site that is added.
   std::optional<CheckedState> state{};
   /// What the file tells of the site.
@@ -166,6 +173,10 @@ class ListValues {
   std::optional<std::string> baseline(std::string bytes);
   /// Takes a rule or a hole into `rules`.
   void rule(RuleSet& rules, std::string_view text);
+  /// Takes a tag into `tags`.
+  void tag(Tags& tags, std::string_view text);
+  /// Takes an earlier or further baseline, as `textOf` writes it.
+  void kept(std::vector<ListedBaseline>& baselines, std::string_view text);
 
   void fault(std::string text) { faults_.add(line_, std::move(text)); }
 
@@ -175,6 +186,9 @@ class ListValues {
   std::size_t line_;
   ListFaults& faults_;
 };
+
+/// An earlier or further baseline in one line: "also 2026-11-23 04:00:00 " and the page in base64.
+std::string textOf(const ListedBaseline& baseline);
 
 /// A text of a file as it stands in a message: between quotes, on one line, not too long.
 std::string quotedForMessage(std::string_view text);
@@ -189,11 +203,15 @@ struct ListColumns {
   bool options = false;
   /// Rules are written when any site has some, for the same reason.
   bool rules = false;
+  /// The same of tags, and with `baselines` of earlier and further ones.
+  bool tags = false;
+  bool kept = false;
 
   bool has(const ListField& field) const {
     return (field.field == nullptr || field.field->kind != FieldKind::secret || passwords) &&
            (field.role != ListField::Role::baseline || baselines) &&
-           (field.role != ListField::Role::options || options) && (field.role != ListField::Role::rules || rules);
+           (field.role != ListField::Role::options || options) && (field.role != ListField::Role::rules || rules) &&
+           (field.role != ListField::Role::tags || tags) && (field.role != ListField::Role::kept || kept);
   }
 };
 

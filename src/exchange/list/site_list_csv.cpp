@@ -76,7 +76,15 @@ class CsvSite {
       case ListField::Role::options:
         return readOptions(text);
       case ListField::Role::rules:
-        return readRules(text);
+        return readEach(list_name::rules, '\n', text, [this](auto line) { values_.rule(site_.rules, line); });
+      case ListField::Role::tags:
+        return readEach(list_name::tags, ' ', text, [this](auto tag) {
+          if (!tag.empty()) {
+            values_.tag(site_.tags, tag);
+          }
+        });
+      case ListField::Role::kept:
+        return readEach(list_name::kept, '\n', text, [this](auto line) { values_.kept(site_.kept, line); });
       case ListField::Role::siteField:
         return readValue(*field.field, text);
     }
@@ -138,13 +146,13 @@ class CsvSite {
     }
   }
 
-  // One a line.
-  void readRules(std::string_view text) {
-    site_.given.set(list_name::rules);
+  template <typename Take>
+  void readEach(std::string_view name, char between, std::string_view text, Take take) {
+    site_.given.set(name);
     hasMore_ = hasMore_ || !text.empty();
     while (!text.empty()) {
-      const std::string_view line = text.substr(0, text.find('\n'));
-      values_.rule(site_.rules, line);
+      const std::string_view line = text.substr(0, text.find(between));
+      take(line);
       text.remove_prefix(std::min(text.size(), line.size() + 1));
     }
   }

@@ -56,6 +56,23 @@ class CsvWriter final : public SiteListWriter {
     return text;
   }
 
+  static std::string joined(const std::vector<std::string>& texts, const char* between) {
+    std::string all;
+    for (const std::string& text : texts) {
+      all += (all.empty() ? "" : between) + text;
+    }
+    return all;
+  }
+
+  // One a line.
+  static std::string keptOf(const std::vector<ListedBaseline>& baselines) {
+    std::vector<std::string> lines;
+    for (const ListedBaseline& baseline : baselines) {
+      lines.push_back(tarnwick::textOf(baseline));
+    }
+    return joined(lines, "\n");
+  }
+
   static std::string textOf(const ListField& field, const ListedSite& site) {
     switch (field.role) {
       case ListField::Role::idSite:
@@ -68,6 +85,10 @@ class CsvWriter final : public SiteListWriter {
         return encodePostVars(pairsOf(site.options));
       case ListField::Role::rules:
         return rulesOf(site.rules);
+      case ListField::Role::tags:
+        return joined(site.tags, " ");
+      case ListField::Role::kept:
+        return keptOf(site.kept);
       case ListField::Role::siteField:
         break;
     }

@@ -37,7 +37,14 @@ class JsonSite {
         readOptionsOfJson(value, form_.fields(), site_.options, values_);
         return site_.given.set(field.name);
       case ListField::Role::rules:
-        return readRules(field, value);
+        return readTexts(field, value, R"(rules is no array: give ["RULE", ...])",
+                         [this](const std::string& text) { values_.rule(site_.rules, text); });
+      case ListField::Role::tags:
+        return readTexts(field, value, R"(tags is no array: give ["TAG", ...])",
+                         [this](const std::string& text) { values_.tag(site_.tags, text); });
+      case ListField::Role::kept:
+        return readTexts(field, value, R"(baselines is no array: give it as an export writes it)",
+                         [this](const std::string& text) { values_.kept(site_.kept, text); });
       case ListField::Role::baseline:
         if (auto bytes = text(field.name, value)) {
           keep(field, site_.baseline, values_.baseline(std::move(*bytes)));
@@ -51,15 +58,16 @@ class JsonSite {
     }
   }
 
-  void readRules(const ListField& field, const JsonValue& value) {
+  template <typename Take>
+  void readTexts(const ListField& field, const JsonValue& value, const char* fault, Take take) {
     const auto* const lines = value.as<JsonValue::Array>();
     if (lines == nullptr) {
-      values_.fault(R"(rules is no array: give ["RULE", ...])");
+      values_.fault(fault);
       return;
     }
     for (const JsonValue& line : *lines) {
-      if (const auto rule = text(field.name, line)) {
-        values_.rule(site_.rules, *rule);
+      if (const auto read = text(field.name, line)) {
+        take(*read);
       }
     }
     site_.given.set(field.name);

@@ -35,6 +35,14 @@ class JsonWriter final : public SiteListWriter {
   void end() override { sink_("\n]}\n"); }
 
  private:
+  static JsonValue keptJson(const std::vector<ListedBaseline>& baselines) {
+    JsonValue json = JsonValue::array();
+    for (const ListedBaseline& baseline : baselines) {
+      json.add(jsonText(textOf(baseline)));
+    }
+    return json;
+  }
+
   static JsonValue valueOfField(const ListField& field, const ListedSite& site) {
     switch (field.role) {
       case ListField::Role::idSite:
@@ -47,6 +55,10 @@ class JsonWriter final : public SiteListWriter {
         return optionsJson(site.options);
       case ListField::Role::rules:
         return rulesJson(site.rules);
+      case ListField::Role::tags:
+        return tagsJson(site.tags);
+      case ListField::Role::kept:
+        return keptJson(site.kept);
       case ListField::Role::siteField:
         break;
     }

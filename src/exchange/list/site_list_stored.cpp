@@ -34,6 +34,12 @@ void readListedSites(m& data, ListColumns columns, const std::function<void(cons
     if (columns.rules) {
       site.rules = data.rulesOf(id);
     }
+    if (columns.tags) {
+      site.tags = data.tagsOf(id);
+    }
+    if (columns.kept) {
+      site.kept = data.listedBaselines(id);
+    }
     if (columns.baselines) {
       site.baseline = data.getContentCompare(id);
     }
@@ -48,6 +54,10 @@ bool hasOptions(m& data) {
   return std::ranges::any_of(readSiteFacts(data),
                              [&](const SiteFacts& facts) { return !knownOptions(data, idOf(facts)).empty(); });
 }
+
+bool hasTags(m& data) { return !data.tagsOfSites().empty(); }
+
+bool hasKeptBaselines(m& data) { return !data.sitesWithKeptBaselines().empty(); }
 
 bool hasRules(m& data) { return !data.sitesWithRules().empty(); }
 

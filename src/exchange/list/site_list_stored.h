@@ -20,6 +20,9 @@ void readListedSites(m& data, ListColumns columns, const std::function<void(cons
 bool hasOptions(m& data);
 /// Whether any site has rules.
 bool hasRules(m& data);
+/// Whether any site has tags, and whether any has earlier or further baselines.
+bool hasTags(m& data);
+bool hasKeptBaselines(m& data);
 
 /// The stored id; raises OverflowError, which names it, when it does not fit 16 bits.
 std::int16_t idOf(const SiteFacts& facts);

@@ -205,7 +205,8 @@ TEST_F(SqliteConnectionTest, TakesAFileThatIsOpenedAgainForOneThatOthersHaveChan
 TEST_F(SqliteConnectionTest, AFreshDatabaseHasEveryTableButTheWorkTable) {
   EXPECT_EQ(
       folder_.queryRows("select name from sqlite_master where type = 'table' order by name collate nocase"),
-      "channels\ncontrol\nlog\nmethods\noutbox\npagePieces\npostVars\nrules\nsiteOptions\nsiteRows\nsiteState\ntest\n");
+      "acknowledged\nbaselines\nchannels\ncontrol\nlog\nmethods\noutbox\npagePieces\npostVars\nrules\nsiteOptions\n"
+      "siteRows\nsiteState\nsiteTags\ntest\n");
   EXPECT_EQ(folder_.queryText("pragma integrity_check"), "ok");
 }
 

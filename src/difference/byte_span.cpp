@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "difference/byte_range.h"
+#include "difference/byte_span.h"
 
 #include <algorithm>
 
 namespace tarnwick {
 
-void append(ByteRanges& ranges, ByteRange range) {
+void append(ByteSpans& ranges, ByteSpan range) {
   if (range.empty()) {
     return;
   }

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "engine/site_finding.h"
+
+#include <utility>
+
+namespace tarnwick {
+
+FoundSite foundSiteOf(const SiteSeen& seen, Tags tags) {
+  FoundSite found;
+  found.id = seen.idSite;
+  found.setAddress(seen.url);
+  found.up = seen.status == true;
+  found.down = seen.status == false;
+  found.changed = found.down && seen.hasPage;
+  found.noAnswer = found.down && !seen.hasPage;
+  found.unconfirmed = seen.alarm.state == AlarmView::State::unconfirmed;
+  found.known = seen.acknowledged;
+  found.slow = seen.alarm.state == AlarmView::State::slow;
+  found.never = !seen.isChecked;
+  found.active = seen.active;
+  found.paused = seen.alarm.pause.has_value();
+  found.offline = seen.alarm.state == AlarmView::State::unknown;
+  found.unwatched = seen.unwatched != Unwatched::no;
+  found.tags = std::move(tags);
+  return found;
+}
+
+}  // namespace tarnwick
