@@ -73,6 +73,7 @@ std::vector<ChangeGroup> groupsOf(const std::vector<ChangePhrases>& pages) {
     }
   }
   std::vector<ChangeGroup> groups;
+  groups.reserve(alike.size());
   for (auto& [phrases, members] : alike) {
     groups.push_back({phrases, std::move(members)});
   }

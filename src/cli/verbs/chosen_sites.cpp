@@ -96,8 +96,7 @@ std::vector<std::int16_t> chosenSites(Tool& tool, const std::vector<std::string>
     }
   }
   std::ranges::sort(ids);
-  const auto repeated = std::ranges::unique(ids);
-  ids.erase(repeated.begin(), repeated.end());
+  ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
   return ids;
 }
 

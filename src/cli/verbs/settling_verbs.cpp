@@ -156,6 +156,7 @@ struct SitesAlike {
 
 std::vector<SitesAlike> sitesAlike(m& data, const std::vector<std::int16_t>& ids) {
   std::vector<ChangePhrases> changes;
+  changes.reserve(ids.size());
   for (const std::int16_t id : ids) {
     changes.push_back(data.changeOf(id));
   }
