@@ -48,6 +48,8 @@ NO_MESSAGES = {
                                        (" (nothing is shown)", "; may be given", "Fields, for set", " It has to be",
                                         "Do not ask")),
     "src/uucode/*": ("the encoder of attachments, which neither the window nor the tool reaches", ()),
+    "src/ui/main_window/first_steps.cpp": ("the steps that an empty list offers",
+                                           ("Which page", "Add your", "1. ", "2. ", "3. ", "You can also")),
     "src/base/base64.cpp": ("who decodes says what is wrong in words of his own", ()),
     "src/engine/inet_pool.cpp": ("the states of a request, kept for callers of the pool and shown nowhere", ()),
     "src/holes/hole_words.cpp": ("what may stand in a place that varies; the guide explains it", ()),

@@ -6816,6 +6816,49 @@ and when it is back</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::FirstSteps</name>
+    <message>
+        <source>Which page shall be watched?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start (F5)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose how…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add your first site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1. Which page shall be watched?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2. Start watching. The page as it is now becomes the baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3. Be told when it changes or does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You can also import a list: the button List, Import...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no address of a page: enter one like https://example.org/</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::HoleTableModel</name>
     <message>
         <source>digits</source>
@@ -7968,6 +8011,45 @@ Do You Want To Discard Them And Close %2?</source>
     <name>tarnwick::SiteReason</name>
     <message>
         <source>Site %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteSearch</name>
+    <message>
+        <source>Filter the list of sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter: down, never, tag:shop … (Ctrl+F)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the original order again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No site matches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show All Sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorted by %1 ✕</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 site, %1 down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites, %2 down</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

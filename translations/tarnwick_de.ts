@@ -6817,6 +6817,49 @@ und wenn sie wieder da ist</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::FirstSteps</name>
+    <message>
+        <source>Which page shall be watched?</source>
+        <translation>Welche Seite soll überwacht werden?</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Start (F5)</source>
+        <translation>Start (F5)</translation>
+    </message>
+    <message>
+        <source>Choose how…</source>
+        <translation>Wege wählen…</translation>
+    </message>
+    <message>
+        <source>Add your first site</source>
+        <translation>Die erste Seite hinzufügen</translation>
+    </message>
+    <message>
+        <source>1. Which page shall be watched?</source>
+        <translation>1. Welche Seite soll überwacht werden?</translation>
+    </message>
+    <message>
+        <source>2. Start watching. The page as it is now becomes the baseline.</source>
+        <translation>2. Die Überwachung beginnen. Die Seite, wie sie jetzt ist, wird die Basis.</translation>
+    </message>
+    <message>
+        <source>3. Be told when it changes or does not answer.</source>
+        <translation>3. Es erfahren, wenn sie sich ändert oder nicht antwortet.</translation>
+    </message>
+    <message>
+        <source>You can also import a list: the button List, Import...</source>
+        <translation>Eine Liste lässt sich auch einlesen: Knopf Liste, Importieren...</translation>
+    </message>
+    <message>
+        <source>This is no address of a page: enter one like https://example.org/</source>
+        <translation>Das ist keine Adresse einer Seite: Geben Sie eine wie https://example.org/ ein</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::HoleTableModel</name>
     <message>
         <source>digits</source>
@@ -7972,6 +8015,45 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>Site %1: %2</source>
         <translation>Seite %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteSearch</name>
+    <message>
+        <source>Filter the list of sites</source>
+        <translation>Die Liste der Seiten filtern</translation>
+    </message>
+    <message>
+        <source>Filter: down, never, tag:shop … (Ctrl+F)</source>
+        <translation>Filter: down, never, tag:shop … (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Show the original order again</source>
+        <translation>Die ursprüngliche Reihenfolge wieder zeigen</translation>
+    </message>
+    <message>
+        <source>No site matches.</source>
+        <translation>Keine Seite passt.</translation>
+    </message>
+    <message>
+        <source>Show All Sites</source>
+        <translation>Alle Seiten zeigen</translation>
+    </message>
+    <message>
+        <source>Sorted by %1 ✕</source>
+        <translation>Nach %1 sortiert ✕</translation>
+    </message>
+    <message>
+        <source>%1 of %2 sites</source>
+        <translation>%1 von %2 Seiten</translation>
+    </message>
+    <message>
+        <source>1 site, %1 down</source>
+        <translation>1 Seite, %1 schlecht</translation>
+    </message>
+    <message>
+        <source>%1 sites, %2 down</source>
+        <translation>%1 Seiten, %2 schlecht</translation>
     </message>
 </context>
 <context>

@@ -22,7 +22,8 @@ std::string placeOf(std::string_view baseline, const Hole& hole) {
 
 std::string percentText(double share) {
   // Never up to 100: what may vary is not watched, however little it is.
-  const auto tenths = static_cast<int>(std::floor(share * 1000));
+  constexpr double kRounding = 1e-9;
+  const auto tenths = static_cast<int>(std::floor(share * 1000 + kRounding));
   return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
 }
 

@@ -358,8 +358,13 @@ void SqliteDatabase::followOwnChange(std::uint32_t pages) noexcept {
   logEnd_ = end && hasGrownTo(pages, *logEnd_, *end) ? end : std::nullopt;
 }
 
-// Where the log stands is read first: what others change meanwhile is then found at the next look.
+// Where the log stands is read first: what others change meanwhile is then found at the next look. A log that ends
+// where it did has nothing to tell.
 void SqliteDatabase::countChangesOfOthers() {
+  nextCount_ = std::chrono::steady_clock::now() + kQuietAtMost;
+  if (logEnd_ && endOfOpenLog(handle()) == logEnd_) {
+    return;
+  }
   logEnd_.reset();
   hasEnded();
   const auto end = watch_ ? endOfOpenLog(handle()) : std::nullopt;
@@ -367,7 +372,6 @@ void SqliteDatabase::countChangesOfOthers() {
   const StatementLoan loan = prepare(question);
   changesOfOthers_ = step(loan.get()) ? sqlite3_column_int64(loan.get(), 0) : 0;
   logEnd_ = end;
-  nextCount_ = std::chrono::steady_clock::now() + kQuietAtMost;
 }
 
 bool SqliteDatabase::step(sqlite3_stmt* prepared) {

@@ -15,9 +15,10 @@ namespace tarnwick {
 QString shareWords(double share) {
   // What is nearly all is not all.
   constexpr double kRounding = 1e-9;
-  const double tenths = std::floor(share * 1000 + kRounding) / 10;
   const bool isWhole = share >= 1 || share < kLeastWatched;
-  return AmberLine::tr("%1 %").arg(QLocale().toString(tenths, 'f', isWhole ? 0 : 1));
+  const double steps = isWhole ? 100 : 1000;
+  const double percent = std::floor(share * steps + kRounding) * 100 / steps;
+  return AmberLine::tr("%1 %").arg(QLocale().toString(percent, 'f', isWhole ? 0 : 1));
 }
 
 AmberLine::AmberLine(QWidget* parent) : QLabel(parent) {

@@ -19,6 +19,7 @@
 #include "ui/controls/page_opener.h"
 #include "ui/controls/program_file.h"
 #include "ui/main_window/damage_box.h"
+#include "ui/main_window/first_steps.h"
 #include "ui/main_window/master_pictures.h"
 #include "ui/main_window/notice_actions.h"
 #include "ui/main_window/site_menu.h"
@@ -60,6 +61,13 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   connect(menu, &SiteMenu::alwaysChanges, this,
           [this](std::int16_t idSite) { program_.faults().run([&] { editors_.site.propose(idSite); }); });
   connect(marks_, &AlarmMarks::pauseRead, notices_, &Notices::tellPaused);
+  new SiteSearch(program_, *controls_.grid1, controls_.search, this);
+  auto* steps = new FirstSteps(program_, *controls_.grid1);
+  steps->setChooseHow([this] {
+    if (editors_.channels) {
+      editors_.channels();
+    }
+  });
   setObjectName(QStringLiteral("master"));
   setAccessibleName(QString::fromLatin1(kProductName));
   setWindowTitle(QString::fromLatin1(kProductName));
@@ -249,8 +257,6 @@ std::int64_t Master::fullProgressWidth() { return controls_.pb1->takeFullWidth()
 
 void Master::setProgressWidth(std::int64_t width) { controls_.pb1->showWidth(width); }
 
-void Master::brighten(std::int16_t idSite, int amount) { sites_.brighten(idSite, amount); }
-
 void Master::unbrighten(std::int16_t idSite) {
   sites_.unbrighten(idSite);
   try {
@@ -274,10 +280,6 @@ void Master::showResult(const CheckResult& result) {
 void Master::showOffline(std::optional<LocalTime> since) {
   notices_->tellOffline(since);
   marks_->look();
-}
-
-void Master::setLastChecked(std::int16_t idSite, const std::string& dateTime) {
-  sites_.setLastChecked(idSite, dateTime);
 }
 
 }  // namespace tarnwick

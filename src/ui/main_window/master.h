@@ -67,14 +67,16 @@ class Master final : public QMainWindow, public RunView {
   void showClock(const std::string& text) override;
   std::int64_t fullProgressWidth() override;
   void setProgressWidth(std::int64_t width) override;
-  void brighten(std::int16_t idSite, int amount) override;
+  void brighten(std::int16_t idSite, int amount) override { sites_.brighten(idSite, amount); }
   void unbrighten(std::int16_t idSite) override;
   void updateGridRow(std::int16_t idSite, bool passed) override;
   void showResult(const CheckResult& result) override;
   void showOffline(std::optional<LocalTime> since) override;
   void showHeartbeat(const std::string&) override { notices_->look(); }
   void showLostMail(const LostMail& mail) override { notices_->add(mail); }
-  void setLastChecked(std::int16_t idSite, const std::string& dateTime) override;
+  void setLastChecked(std::int16_t idSite, const std::string& dateTime) override {
+    sites_.setLastChecked(idSite, dateTime);
+  }
 
  protected:
   void closeEvent(QCloseEvent* event) override;

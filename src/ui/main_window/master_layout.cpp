@@ -94,19 +94,25 @@ QLayout* buttonsOf(const MasterControls& controls) {
   for (const ActionControls& action : actions) {
     row->addWidget(action.image);
   }
-  row->addStretch(1);
+  auto* strip = new QHBoxLayout;
+  strip->setSpacing(6);
+  strip->addWidget(controls.search.filterEdit, 1);
+  strip->addWidget(controls.search.filterCount);
+  strip->addWidget(controls.search.sortChip);
+  strip->addWidget(controls.listButton);
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(6);
+  buttons->addStretch(1);
   for (const ActionControls& action : actions) {
     buttons->addWidget(action.button);
   }
   // The strip above the buttons, beside the pictures.
   auto* right = new QVBoxLayout;
   right->setSpacing(0);
-  right->addWidget(controls.listButton, 0, Qt::AlignRight | Qt::AlignTop);
+  right->addLayout(strip);
   right->addStretch(1);
   right->addLayout(buttons);
-  row->addLayout(right);
+  row->addLayout(right, 1);
   return row;
 }
 
@@ -138,6 +144,7 @@ MasterControls layOutMaster(QWidget& canvas, SiteGridModel& sites) {
   // The order of making is the order of the Tab key.
   MasterControls controls{};
   makeActions(canvas, controls);
+  controls.search = makeSearch(canvas);
   makeListMenu(canvas, controls);
   controls.grid1 = named(new SiteGridView(sites, &canvas), "grid1", QObject::tr("Sites"));
   controls.noticeBar = named(new NoticeBar(&canvas), "noticeBar", QObject::tr("Notices"));

@@ -15,6 +15,7 @@
 #include "ui/main_window/pass_bar.h"
 #include "ui/main_window/site_grid_view.h"
 #include "ui/main_window/site_reason.h"
+#include "ui/main_window/site_search.h"
 
 namespace tarnwick {
 
@@ -36,6 +37,7 @@ struct MasterControls {
   ActionControls stop;
   ActionControls makeNew;
   ActionControls setup;
+  SearchControls search;
   /// What is done with the list as a whole, as a menu.
   QPushButton* listButton;
   QAction* importList;

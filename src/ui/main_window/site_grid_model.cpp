@@ -12,10 +12,6 @@
 namespace tarnwick {
 namespace {
 
-std::string cellOf(const TextTable& sites, std::size_t column, std::size_t row) {
-  return textOrEmpty(sites.at(column, row));
-}
-
 std::optional<std::int16_t> idOf(const std::string& text) {
   std::int16_t id = 0;
   const char* end = text.data() + text.size();
@@ -26,22 +22,6 @@ std::optional<std::int16_t> idOf(const std::string& text) {
 QVariant alignmentOf(const SiteColumn& column) { return QVariant::fromValue(Qt::AlignVCenter | column.alignment); }
 
 }  // namespace
-
-SiteGridModel::Row SiteGridModel::readRow(const TextTable& sites, std::size_t row) const {
-  const std::string status = cellOf(sites, site_column::status, row);
-  Shade shade = Shade::unjudged;
-  if (sites.at(site_column::active, row) != "True") {
-    shade = Shade::inactive;
-  } else if (!status.empty()) {
-    shade = status == "True" ? Shade::up : Shade::down;
-  }
-  Row read{{}, shade};
-  read.cells.reserve(columns_.size());
-  for (const SiteColumn& column : columns_) {
-    read.cells.push_back(cellOf(sites, column.field, row));
-  }
-  return read;
-}
 
 void SiteGridModel::setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched) {
   beginResetModel();
@@ -58,7 +38,7 @@ void SiteGridModel::setSites(const TextTable& sites, const std::set<std::int64_t
   rowsOfSite_.clear();
   rowsOfSite_.reserve(count);
   for (std::size_t row = 1; row <= count; ++row) {
-    rows_.push_back(readRow(sites, row));
+    rows_.push_back(readSiteRow(sites, row, columns_));
     if (const auto id = idOf(rows_.back().cells[idColumn])) {
       rowsOfSite_.emplace(*id, static_cast<int>(row - 1));
       const auto known = failed.find(*id);
@@ -82,11 +62,11 @@ void SiteGridModel::updateSite(const TextTable& sites) {
   if (sites.lastRow() == 0) {
     return;
   }
-  const Row site = readRow(sites, 1);
+  const Row site = readSiteRow(sites, 1, columns_);
   if (const auto id = idOf(site.cells[idColumn])) {
     changeRows(*id, [&](Row& row) {
       const bool fetched = row.fetched;
-      const Alarm alarm = row.alarm;
+      const Row::Alarm alarm = row.alarm;
       row = site;
       row.fetched = fetched;
       row.alarm = alarm;
@@ -102,7 +82,7 @@ void SiteGridModel::setAlarm(int row, const AlarmView& view) {
   if (row < 0 || row >= rowCount()) {
     return;
   }
-  const Alarm alarm{view.state, view.pause.has_value(), view.failures, view.confirm};
+  const Row::Alarm alarm{view.state, view.pause.has_value(), view.failures, view.confirm};
   Row& shown = rows_[static_cast<std::size_t>(row)];
   if (shown.alarm != alarm) {
     shown.alarm = alarm;
@@ -113,6 +93,7 @@ void SiteGridModel::setAlarm(int row, const AlarmView& view) {
 void SiteGridModel::setResult(std::int16_t idSite, bool passed) {
   marks_.erase(idSite);
   changeRows(idSite, [&](Row& row) {
+    row.status = passed;
     if (row.shade != Shade::inactive) {
       row.shade = passed ? Shade::up : Shade::down;
     }
@@ -160,68 +141,14 @@ int SiteGridModel::rowOfSite(std::int16_t idSite) const {
   return found;
 }
 
+int SiteGridModel::downCount() const { return static_cast<int>(std::ranges::count(rows_, Shade::down, &Row::shade)); }
+
 int SiteGridModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
 int SiteGridModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(columns_.size());
-}
-
-// The stored result, but for what only an option brings.
-QColor SiteGridModel::colourOf(const Row& row) {
-  if (row.alarm.state == AlarmView::State::unknown && row.shade != Shade::inactive) {
-    return colourFromText(colours::kOffline);
-  }
-  switch (row.shade) {
-    case Shade::up:
-      return colourFromText(row.alarm.state == AlarmView::State::slow ? colours::kWarning : colours::kUp);
-    case Shade::down:
-      return colourFromText(colours::kDown);
-    case Shade::inactive:
-      return colourFromText(colours::kInactive);
-    default:
-      return colourFromText(colours::kUnpainted);
-  }
-}
-
-QString SiteGridModel::stateText(Shade shade) {
-  switch (shade) {
-    case Shade::up:
-      return tr("up");
-    case Shade::down:
-      return tr("down");
-    case Shade::inactive:
-      return tr("not active");
-    default:
-      return tr("not tested yet");
-  }
-}
-
-SiteState SiteGridModel::stateOf(const Row& row) {
-  using State = AlarmView::State;
-  if (row.shade != Shade::inactive && row.alarm.paused) {
-    return SiteState::paused;
-  }
-  if (row.shade != Shade::inactive && row.alarm.state == State::unknown) {
-    return SiteState::offline;
-  }
-  if ((row.shade == Shade::up || row.shade == Shade::down) && row.alarm.state == State::unsteady) {
-    return SiteState::unsteady;
-  }
-  switch (row.shade) {
-    case Shade::up:
-      return !row.fetched ? SiteState::notAPage : row.alarm.state == State::slow ? SiteState::slow : SiteState::up;
-    case Shade::down:
-      if (row.alarm.state == State::unconfirmed) {
-        return SiteState::unconfirmed;
-      }
-      return row.fetched ? SiteState::changed : SiteState::noAnswer;
-    case Shade::inactive:
-      return SiteState::inactive;
-    default:
-      return SiteState::never;
-  }
 }
 
 QString SiteGridModel::wordOfRow(const Row& row) const {
@@ -272,7 +199,7 @@ QVariant SiteGridModel::data(const QModelIndex& index, int role) const {
         return QStringLiteral("%1, %2").arg(displayText(text), wordOfRow(row));
       }
       // The colour's meaning in words, for those who do not see it.
-      return index.column() == urlColumn ? QStringLiteral("%1, %2").arg(displayText(text), stateText(row.shade))
+      return index.column() == urlColumn ? QStringLiteral("%1, %2").arg(displayText(text), resultOf(row))
                                          : displayText(text);
     default:
       return {};

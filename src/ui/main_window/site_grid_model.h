@@ -13,6 +13,7 @@
 #include "engine/alarm_view.h"
 #include "store/text_table.h"
 #include "ui/main_window/site_columns.h"
+#include "ui/main_window/site_row.h"
 #include "ui/main_window/site_state.h"
 
 namespace tarnwick {
@@ -23,6 +24,9 @@ class SiteGridModel final : public QAbstractTableModel {
   Q_OBJECT
 
  public:
+  using Row = SiteRow;
+  using Shade = SiteRow::Shade;
+
   /// Where the columns stand that every list has.
   enum Column { idColumn, urlColumn, upColumn, downColumn, timeColumn };
 
@@ -62,6 +66,10 @@ class SiteGridModel final : public QAbstractTableModel {
   std::optional<std::int16_t> siteOfRow(int row) const;
   /// The first row of a site, -1 when it has none.
   int rowOfSite(std::int16_t idSite) const;
+  /// What is known of the site of a row.
+  const Row& row(int row) const { return rows_.at(static_cast<std::size_t>(row)); }
+  /// How many sites are down.
+  int downCount() const;
   /// How the site of a row stands.
   SiteState stateOfRow(int row) const;
   /// Whether the last check of the site of a row brought a page that differs from the baseline.
@@ -76,30 +84,7 @@ class SiteGridModel final : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
-  enum class Shade { unjudged, up, down, inactive };
-
-  // What is seen of a site's alarm.
-  struct Alarm {
-    AlarmView::State state = AlarmView::State::none;
-    bool paused = false;
-    int failures = 0;
-    int confirm = 1;
-
-    bool operator==(const Alarm&) const = default;
-  };
-
-  struct Row {
-    std::vector<std::string> cells;  // one a column
-    Shade shade = Shade::unjudged;
-    bool fetched = true;  // the last check brought a page
-    Alarm alarm{};
-  };
-
-  Row readRow(const TextTable& sites, std::size_t row) const;
-  static QColor colourOf(const Row& row);
   QString wordOfRow(const Row& row) const;
-  static QString stateText(Shade shade);
-  static SiteState stateOf(const Row& row);
   bool isMarked(const Row& row) const;
   QColor background(const QModelIndex& index) const;
   void repaintRow(int row);

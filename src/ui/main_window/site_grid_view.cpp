@@ -16,8 +16,8 @@
 #include "ui/main_window/site_row_delegate.h"
 
 namespace tarnwick {
-SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(parent), sites_(model) {
-  setModel(&model);
+SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(parent), sites_(model), order_(model) {
+  setModel(&order_);
   setItemDelegate(new SiteRowDelegate(this));
   setSelectionBehavior(SelectRows);
   setSelectionMode(SingleSelection);
@@ -41,7 +41,8 @@ SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(p
   horizontalHeader()->viewport()->setMouseTracking(true);
   horizontalHeader()->viewport()->installEventFilter(this);
   setContextMenuPolicy(Qt::CustomContextMenu);
-  connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) { Q_EMIT rowChosen(index.row()); });
+  connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) { Q_EMIT rowChosen(listRow(index)); });
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &SiteGridView::captionClicked);
 }
 
 void SiteGridView::setUpColumns() {
@@ -56,7 +57,8 @@ void SiteGridView::setUpColumns() {
   int widestPart = 0;
   for (const SiteColumn& column : sites_.columns()) {
     if (column.widest != nullptr) {
-      header.resizeSection(section, fontMetrics().horizontalAdvance(QLatin1String(column.widest)) + kPadding);
+      const int widest = fontMetrics().horizontalAdvance(QLatin1String(column.widest)) + kPadding;
+      header.resizeSection(section, std::max(widest, header.sectionSizeHint(section)));
     } else if (column.part > widestPart) {
       widestPart = column.part;
       stretched_ = section;
@@ -85,7 +87,9 @@ void SiteGridView::shareRoom() {
   section = 0;
   for (const SiteColumn& column : sites_.columns()) {
     if (column.widest == nullptr && section != stretched_) {
-      header.resizeSection(section, static_cast<int>(std::lround(static_cast<double>(room) * column.part / parts)));
+      // No caption is cut, in whatever language and letters.
+      const auto part = static_cast<int>(std::lround(static_cast<double>(room) * column.part / parts));
+      header.resizeSection(section, std::max(part, header.sectionSizeHint(section)));
     }
     ++section;
   }
@@ -123,34 +127,57 @@ QString SiteGridView::columnToolTip(int column) const {
 
 void SiteGridView::selectSite(std::int16_t idSite) {
   const int row = sites_.rowOfSite(idSite);
-  if (row >= 0) {
-    selectRow(row);
-    scrollTo(sites_.index(row, SiteGridModel::idColumn));
+  if (row >= 0 && order_.shownRow(row) < 0) {
+    Q_EMIT hiddenSiteWanted();
+  }
+  selectListRow(row);
+}
+
+void SiteGridView::selectListRow(int row) {
+  if (const int shown = row < 0 ? -1 : order_.shownRow(row); shown >= 0) {
+    selectRow(shown);
+    scrollTo(order_.index(shown, SiteGridModel::idColumn));
   }
 }
 
 std::optional<std::int16_t> SiteGridView::currentDifferingSite() const {
-  const int row = currentIndex().row();
+  const int row = listRow(currentIndex());
   return row >= 0 && sites_.differsInRow(row) ? currentSite() : std::nullopt;
 }
 
-std::optional<std::int16_t> SiteGridView::currentSite() const { return sites_.siteOfRow(currentIndex().row()); }
+std::optional<std::int16_t> SiteGridView::currentSite() const { return sites_.siteOfRow(listRow(currentIndex())); }
 
 void SiteGridView::setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched) {
   const auto current = currentSite();
   const int place = std::max(currentIndex().row(), 0);
   const int scrolled = verticalScrollBar()->value();
   sites_.setSites(sites, notFetched);
-  const int row = current ? sites_.rowOfSite(*current) : -1;
-  if (sites_.rowCount() > 0) {
-    // There is always a row that the keys begin at; where its site is gone, the one that has moved up.
-    selectRow(row >= 0 ? row : std::min(place, sites_.rowCount() - 1));
-  }
+  keepCurrent(current, place);
   // The scroll bar learns of the new rows with the next layout, which must come first.
   updateGeometries();
   verticalScrollBar()->setValue(scrolled);
   isFilled_ = true;
   shareRoom();
+  Q_EMIT filled();
+}
+
+void SiteGridView::changeOrder(const std::function<void()>& change) {
+  const auto current = currentSite();
+  const int place = std::max(currentIndex().row(), 0);
+  change();
+  keepCurrent(current, place);
+  if (currentIndex().isValid()) {
+    scrollTo(currentIndex());
+  }
+}
+
+// There is always a row that the keys begin at; where its site is gone, the one that has moved up.
+void SiteGridView::keepCurrent(std::optional<std::int16_t> site, int place) {
+  const int row = site ? sites_.rowOfSite(*site) : -1;
+  const int shown = row >= 0 ? order_.shownRow(row) : -1;
+  if (order_.rowCount() > 0) {
+    selectRow(shown >= 0 ? shown : std::min(place, order_.rowCount() - 1));
+  }
 }
 
 QString SiteGridView::reasonOf(int row) const {
@@ -162,7 +189,7 @@ void SiteGridView::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (enter && currentIndex().isValid()) {
     event->accept();
-    Q_EMIT rowChosen(currentIndex().row());
+    Q_EMIT rowChosen(listRow(currentIndex()));
     return;
   }
   QTableView::keyPressEvent(event);
@@ -175,7 +202,7 @@ bool SiteGridView::viewportEvent(QEvent* event) {
     const auto& help = static_cast<QHelpEvent&>(*event);
     const QModelIndex cell = indexAt(help.pos());
     const QString reason =
-        cell.isValid() && cell.column() == SiteGridModel::idColumn ? reasonOf(cell.row()) : QString();
+        cell.isValid() && cell.column() == SiteGridModel::idColumn ? reasonOf(listRow(cell)) : QString();
     if (reason.isEmpty()) {
       showColumnToolTip(help.globalPos());
     } else {

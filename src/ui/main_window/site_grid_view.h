@@ -8,6 +8,7 @@
 #include <QTableView>
 
 #include "ui/main_window/site_grid_model.h"
+#include "ui/main_window/site_order.h"
 
 namespace tarnwick {
 
@@ -23,7 +24,10 @@ class SiteGridView final : public QTableView {
   /// the last one belongs to the column behind the last.
   QString columnToolTip(int column) const;
 
-  /// Selects a site's row and scrolls to it. Nothing when the grid does not hold it.
+  /// Which sites are shown, and in which order.
+  SiteOrder& order() { return order_; }
+
+  /// Selects a site's row and scrolls to it; tells that a filter hides it. Nothing when the list does not hold it.
   void selectSite(std::int16_t idSite);
   /// The site whose row is the current one.
   std::optional<std::int16_t> currentSite() const;
@@ -34,16 +38,29 @@ class SiteGridView final : public QTableView {
   /// stay with their site. Where there is a row, one is current.
   void setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched = {});
 
+  /// Lets `change` find or sort; the current row stays with its site while that is shown.
+  void changeOrder(const std::function<void()>& change);
+
   /// Sets what tells why a site is down; it is asked for the site that somebody looks at, and may take its time.
   void setReasons(std::function<QString(std::int16_t idSite)> reasons) { reasons_ = std::move(reasons); }
-  /// Why the site of a row is down, or up without a page; empty for all others.
+  /// How many sites of the list are down.
+  int downCount() const { return sites_.downCount(); }
+  /// The row of the list that an index of the grid stands for; -1 for none.
+  int listRow(const QModelIndex& index) const { return order_.mapToSource(index).row(); }
+  /// Why the site of a row of the list is down, or up without a page; empty for all others.
   QString reasonOf(int row) const;
 
   QSize sizeHint() const override;
 
  Q_SIGNALS:
-  /// A data row was clicked, or Enter was pressed on it.
+  /// `setSites` has shown a list.
+  void filled();
+  /// A data row was clicked, or Enter was pressed on it: its row in the list.
   void rowChosen(int row);
+  /// A site is to be shown that the filter leaves out.
+  void hiddenSiteWanted();
+  /// The caption of a column was clicked.
+  void captionClicked(int column);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -54,12 +71,15 @@ class SiteGridView final : public QTableView {
 
  private:
   void setUpColumns();
+  void selectListRow(int row);
+  void keepCurrent(std::optional<std::int16_t> site, int place);
   void shareRoom();
   void setRowHeight();
   void followMouse(int x);
   void showColumnToolTip(const QPoint& globalPosition);
 
   SiteGridModel& sites_;
+  SiteOrder order_;
   std::function<QString(std::int16_t)> reasons_;
   int stretched_ = 0;
   bool isFilled_ = false;

@@ -37,7 +37,7 @@ void SiteMenu::makeRowMenu() {
   row_->setObjectName(QStringLiteral("rowMenu"));
   QAction* openSite = row_->addAction(tr("&Open Site…"), this, [this] {
     if (grid_.currentIndex().isValid()) {
-      Q_EMIT grid_.rowChosen(grid_.currentIndex().row());
+      Q_EMIT grid_.rowChosen(grid_.listRow(grid_.currentIndex()));
     }
   });
   openSite->setObjectName(QStringLiteral("openSite"));

@@ -54,11 +54,10 @@ void SiteReason::follow(SiteGridView& grid) {
             }
           });
   connect(&pause_, &QTimer::timeout, this, [this, &grid] {
-    const int row = grid.currentIndex().row();
-    const QString reason = row < 0 ? QString() : grid.reasonOf(row);
-    tell(reason.isEmpty()
-             ? reason
-             : tr("Site %1: %2").arg(grid.model()->index(row, SiteGridModel::idColumn).data().toString(), reason));
+    const QModelIndex current = grid.currentIndex();
+    const QString reason = current.isValid() ? grid.reasonOf(grid.listRow(current)) : QString();
+    const QModelIndex id = current.siblingAtColumn(SiteGridModel::idColumn);
+    tell(reason.isEmpty() ? reason : tr("Site %1: %2").arg(id.data().toString(), reason));
   });
 }
 

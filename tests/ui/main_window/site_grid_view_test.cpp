@@ -37,7 +37,7 @@ class SiteGridViewTest : public ::testing::Test {
     }
     grid.setSites(siteTable(cells));
   }
-  QPoint cellCentre(int row, int column) const { return grid.visualRect(model.index(row, column)).center(); }
+  QPoint cellCentre(int row, int column) const { return grid.visualRect(grid.model()->index(row, column)).center(); }
   QString toolTipAt(QPoint position) {
     QTest::mouseMove(grid.viewport(), position);
     return grid.toolTip();
@@ -127,7 +127,7 @@ TEST_F(SiteGridViewTest, ASelectedRowKeepsTheColourOfItsState) {
   const QImage picture = grid.viewport()->grab().toImage();
   EXPECT_EQ(picture.pixelColor(cellCentre(1, 2)), up);
   // The frame around it tells that it is selected.
-  const QRect cell = grid.visualRect(model.index(1, 2));
+  const QRect cell = grid.visualRect(grid.model()->index(1, 2));
   EXPECT_NE(picture.pixelColor(cell.center().x(), cell.top()), up);
 }
 
@@ -138,7 +138,7 @@ TEST_F(SiteGridViewTest, AFrameShowsTheCurrentRowFromTheStartAndDashesThatTheFoc
   other.show();
   const auto darkOnTop = [&] {
     const QImage picture = grid.viewport()->grab().toImage();
-    const QRect cell = grid.visualRect(model.index(0, SiteGridModel::urlColumn));
+    const QRect cell = grid.visualRect(grid.model()->index(0, SiteGridModel::urlColumn));
     int dark = 0;
     for (int x = cell.left(); x <= cell.right(); ++x) {
       dark += picture.pixelColor(x, cell.top()) == QColor(Qt::black) ? 1 : 0;
@@ -215,7 +215,7 @@ TEST_F(SiteGridViewTest, SelectingASiteScrollsToIt) {
   show(500);
   grid.selectSite(400);
   EXPECT_EQ(grid.currentSite(), std::int16_t{400});
-  EXPECT_TRUE(grid.viewport()->rect().intersects(grid.visualRect(model.index(399, 0))));
+  EXPECT_TRUE(grid.viewport()->rect().intersects(grid.visualRect(grid.model()->index(399, 0))));
   grid.selectSite(501);
   EXPECT_EQ(grid.currentSite(), std::int16_t{400});
 }

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+#include <QColor>
+#include <QString>
+
+#include "engine/alarm_view.h"
+#include "store/text_table.h"
+#include "ui/main_window/site_columns.h"
+#include "ui/main_window/site_state.h"
+
+namespace tarnwick {
+
+/// What the list knows of one site.
+struct SiteRow {
+  enum class Shade { unjudged, up, down, inactive };
+
+  /// What is seen of the site's alarm.
+  struct Alarm {
+    AlarmView::State state = AlarmView::State::none;
+    bool paused = false;
+    int failures = 0;
+    int confirm = 1;
+
+    bool operator==(const Alarm&) const = default;
+  };
+
+  std::vector<std::string> cells{};  ///< one a column
+  Shade shade = Shade::unjudged;
+  std::optional<bool> status{};  ///< the stored result, also of one that is not active
+  bool fetched = true;           ///< the last check brought a page
+  Alarm alarm{};
+  std::int64_t interval = 0;  ///< in minutes
+};
+
+/// The site of a row of a site table; a column is one of `columns`.
+SiteRow readSiteRow(const TextTable& sites, std::size_t row, SiteColumns columns);
+
+QColor colourOf(const SiteRow& row);
+SiteState stateOf(const SiteRow& row);
+/// The stored result in a word.
+QString resultOf(const SiteRow& row);
+
+}  // namespace tarnwick
