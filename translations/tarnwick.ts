@@ -8103,6 +8103,10 @@ Do You Want To Discard Them And Close %2?</source>
         <source>offline</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>known</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::Tray</name>

@@ -8106,6 +8106,10 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <source>offline</source>
         <translation>offline</translation>
     </message>
+    <message>
+        <source>known</source>
+        <translation>bekannt</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::Tray</name>

@@ -48,7 +48,8 @@ void AlarmMarks::readAll() {
       return;
     }
     OptionsInForce options = program_.data().optionsInForce();
-    if (!isAlarmSet(options)) {
+    const auto acknowledged = program_.data().acknowledgements();
+    if (!isAlarmSet(options) && acknowledged.empty()) {
       if (std::exchange(options_, std::nullopt)) {
         for (int row = 0; row < sites_.rowCount(); ++row) {
           sites_.setAlarm(row, {});
@@ -68,8 +69,9 @@ void AlarmMarks::readAll() {
       }
       const auto known = standings.find(*id);
       const bool hasOwn = options_->hasOwn(*id);
-      sites_.setAlarm(row, alarmViewOf(known == standings.end() ? SiteStanding() : known->second,
-                                       hasOwn ? alarmPolicyOf(*options_, *id) : common, now));
+      sites_.setAlarm(row,
+                      alarmViewOf(known == standings.end() ? SiteStanding() : known->second,
+                                  hasOwn ? alarmPolicyOf(*options_, *id) : common, now, acknowledged.contains(*id)));
     }
   } catch (const std::exception&) {
     // That the list cannot be read is told elsewhere. What was read last stays until it can be read again.
@@ -83,8 +85,9 @@ void AlarmMarks::update(std::int16_t idSite) {
     return;
   }
   try {
-    const AlarmView view = alarmViewOf(program_.data().standingOf(idSite), alarmPolicyOf(*options_, idSite),
-                                       program_.services().clock.localNow());
+    const AlarmView view =
+        alarmViewOf(program_.data().standingOf(idSite), alarmPolicyOf(*options_, idSite),
+                    program_.services().clock.localNow(), program_.data().acknowledgementOf(idSite).has_value());
     sites_.setAlarm(sites_.rowOfSite(idSite), view);
   } catch (const std::exception&) {
     look();

@@ -85,6 +85,9 @@ SiteState stateOf(const SiteRow& row) {
       if (row.alarm.state == State::unconfirmed) {
         return SiteState::unconfirmed;
       }
+      if (row.alarm.state == State::known) {
+        return SiteState::known;
+      }
       return row.fetched ? SiteState::changed : SiteState::noAnswer;
     case SiteRow::Shade::inactive:
       return SiteState::inactive;

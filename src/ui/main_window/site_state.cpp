@@ -64,6 +64,8 @@ QString wordOf(SiteState state, bool testing, int failures, int confirm) {
       return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "not a page"));
     case SiteState::unconfirmed:
       return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "%1 of %2")).arg(failures).arg(confirm);
+    case SiteState::known:
+      return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "known"));
     case SiteState::unsteady:
       return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "unsteady"));
     case SiteState::slow:
@@ -106,6 +108,10 @@ void paintIcon(QPainter& painter, const QRectF& box, SiteState state, const QCol
       sketch.line({{7, 1.5}, {13, 12.5}, {1, 12.5}, {7, 1.5}});
       sketch.line({{7, 5.5}, {7, 8.6}});
       sketch.line({{7, 10.7}, {7, 10.8}});
+      break;
+    case SiteState::known:  // a struck circle
+      sketch.circle(5);
+      sketch.line({{3.5, 10.5}, {10.5, 3.5}});
       break;
     case SiteState::unsteady:  // a zigzag
       sketch.line({{1.5, 9}, {4.5, 4}, {7, 10}, {9.5, 4}, {12.5, 9}});

@@ -17,6 +17,7 @@ enum class SiteState {
   never,        ///< never judged
   notAPage,     ///< up only because the text of a fetch that fails is its baseline
   unconfirmed,  ///< has failed, and not often enough yet to be told
+  known,        ///< down by a wrong page that somebody has acknowledged
   unsteady,     ///< changes between up and down all the time
   slow,         ///< up, but its page took long
   paused,       ///< nothing is told of it for a time
@@ -30,6 +31,7 @@ constexpr bool needsReason(SiteState state) {
     case SiteState::noAnswer:
     case SiteState::notAPage:
     case SiteState::unconfirmed:
+    case SiteState::known:
     case SiteState::unsteady:
     case SiteState::paused:
       return true;

@@ -18,13 +18,11 @@ constexpr std::array kSizes{16, 22, 24, 32, 48, 64};
 /// From the best to the worst.
 constexpr std::array kBySeverity{SiteState::inactive, SiteState::up,       SiteState::never,    SiteState::paused,
                                  SiteState::offline,  SiteState::slow,     SiteState::notAPage, SiteState::unconfirmed,
-                                 SiteState::unsteady, SiteState::noAnswer, SiteState::changed};
+                                 SiteState::known,    SiteState::unsteady, SiteState::noAnswer, SiteState::changed};
 
 auto severity(SiteState state) { return std::ranges::find(kBySeverity, state) - kBySeverity.begin(); }
 
-bool isDown(SiteState state) {
-  return state == SiteState::changed || state == SiteState::noAnswer || state == SiteState::unsteady;
-}
+bool isDown(SiteState state) { return severity(state) >= severity(SiteState::known); }
 
 bool isToBeNamed(SiteState state) { return severity(state) >= severity(SiteState::slow); }
 

@@ -4,6 +4,7 @@
 
 #include <QDateTimeEdit>
 #include <QDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 
@@ -197,6 +198,19 @@ TEST_F(SiteAlarmsTest, BeingOfflineStandsInANotice) {
   EXPECT_EQ(notice.action(), QStringLiteral("Check Again"));
   master->showOffline(std::nullopt);
   EXPECT_FALSE(notice.isVisible());
+}
+
+TEST_F(SiteAlarmsTest, AWrongPageThatIsAcknowledgedIsKnown) {
+  addDown(3);
+  folder.execute("insert into acknowledged (idSite, page, since) values (3, 'digest', '2026-11-21 04:30:00')");
+  open();
+  EXPECT_TRUE(says(0, "3, known"));
+  find<QLineEdit>("filterEdit").setText(QStringLiteral("known"));
+  EXPECT_EQ(rows(), 1);
+  find<QLineEdit>("filterEdit").clear();
+  folder.execute("delete from acknowledged");
+  master->fillGrid();
+  EXPECT_TRUE(says(0, "3, changed"));
 }
 
 }  // namespace
