@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main_window/site_search.h"
 
+#include <algorithm>
 #include <exception>
 #include <stdexcept>
 #include <QApplication>
@@ -88,8 +89,11 @@ void SiteSearch::sortBy(int column) {
     endSorting();
     return;
   }
-  grid_.horizontalHeader()->setSortIndicator(column, order.sortOrder());
-  grid_.horizontalHeader()->setSortIndicatorShown(true);
+  QHeaderView& header = *grid_.horizontalHeader();
+  header.setSortIndicator(column, order.sortOrder());
+  header.setSortIndicatorShown(true);
+  // With room for the arrow.
+  header.resizeSection(column, std::max(header.sectionSize(column), header.sectionSizeHint(column)));
   const QString caption = order.headerData(column, Qt::Horizontal).toString();
   controls_.sortChip->setText(tr("Sorted by %1 ✕").arg(caption));
   controls_.sortChip->show();
