@@ -219,7 +219,7 @@ build_curl() {
     -DCURL_DISABLE_LDAP=ON -DCURL_DISABLE_LDAPS=ON -DCURL_DISABLE_TELNET=ON -DCURL_DISABLE_DICT=ON \
     -DCURL_DISABLE_TFTP=ON -DCURL_DISABLE_GOPHER=ON -DCURL_DISABLE_MQTT=ON \
     -DCURL_DISABLE_SMB=ON -DCURL_DISABLE_RTSP=ON -DCURL_DISABLE_POP3=ON -DCURL_DISABLE_IMAP=ON \
-    -DCURL_DISABLE_SMTP=ON -DENABLE_UNICODE=ON
+    -DENABLE_UNICODE=ON
   quietly "$windows_cache/log/curl.log" cmake --build "$build" --target install -- -j"$jobs"
 }
 
@@ -267,6 +267,10 @@ build_core_libraries() {
 build_libraries() {
   build_core_libraries
   build_version headers "$(package_versions libcli11-dev nlohmann-json3-dev)" build_headers
+  # One that was built before mails left through it knows no mail servers.
+  if ! grep -qs '^ *for protocol in .*SMTP' "$windows_cache/root/bin/curl-config"; then
+    rm -f "$windows_cache/root/.built-curl"
+  fi
   build_version curl "$(source_version curl)" build_curl
   build_version qt "$(source_version qt6-base)" build_qt
 }

@@ -242,7 +242,7 @@ TEST_F(HolesPanelTest, TellsWhenLittleStaysWatched) {
   mayVary(dialog, std::string(300, 'x'));
   const auto& line = in<QLabel>(dialog, "holesWatched");
   EXPECT_TRUE(line.isVisible());
-  EXPECT_EQ(line.text().toStdString(), "Only 18 % stays watched");
+  EXPECT_EQ(line.text().toStdString(), "Only 17 % stays watched");
   EXPECT_EQ(line.palette().color(QPalette::Window), noticeColours(NoticeTone::amber, false).fill);
   EXPECT_EQ(title(dialog), "What may vary");
 }
