@@ -4,9 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <regex>
-
 #include "store/channel_table.h"
+#include "support/whole_match.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -78,8 +77,7 @@ TEST(MailLetter, AttachesThePageOnWish) {
 
 TEST(MailLetter, TheDateIsThatOfTheAlertWithItsDistanceFromUtc) {
   const std::string date = mailDate(parseDateTime("2026-11-22 14:02:11").value());
-  const std::regex form("Sun, 22 Nov 2026 14:02:11 [+-][0-9]{4}");
-  EXPECT_TRUE(std::regex_match(date, form)) << date;
+  EXPECT_THAT(date, WholeMatch("Sun, 22 Nov 2026 14:02:11 [+-][0-9]{4}"));
 }
 
 }  // namespace

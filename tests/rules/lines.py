@@ -13,6 +13,7 @@ SQL = re.compile(r'"\s*(select\s(?=[^"]*\sfrom\s|\s*")|update\s+\w+\s+set\s|inse
                  r"|(create|alter|drop)\s+table\s|pragma\s+\w)", re.IGNORECASE)
 SLEEP = re.compile(r"\b(sleep_for|sleep_until|usleep|nanosleep|qSleep|msleep)\b|\b(?:QThread|std)?::sleep\s*\("
                    r"|(?<![\w.>:])sleep\s*\(")
+OWN_REGEX = re.compile(r"\b(MatchesRegex|ContainsRegex)\b")
 REASON = re.compile(r"//\s*sleeps because \S")
 SYSTEM = re.compile(r"^\s*#\s*(if|ifdef|ifndef|elif).*\b(_WIN32|_WIN64|__linux__|__unix__|__APPLE__|Q_OS_\w+)\b")
 CALLBACK = re.compile(r"CURLM?OPT_\w+FUNCTION\b")
@@ -44,6 +45,16 @@ def tests_do_not_sleep(tree: Tree):
             if SLEEP.search(line.split("//")[0]) and not REASON.search(line):
                 yield (name, number, "sleeps: a sleep is either too short or too long. Wait on a condition with a "
                        "limit (support/wait_until.h), or say why not at the end of the line: // sleeps because ...")
+
+
+def tests_match_alike_on_each_system(tree: Tree):
+    for name, lines in tree.lines.items():
+        if not name.startswith("tests/"):
+            continue
+        for number, line in enumerate(lines, 1):
+            if OWN_REGEX.search(line.split("//")[0]):
+                yield (name, number, "matches by the test library's own expressions, which know no brackets on Windows: "
+                       "take WholeMatch of support/whole_match.h.")
 
 
 def only_the_platform_knows_the_system(tree: Tree):
@@ -97,6 +108,6 @@ def sources_name_their_licence(tree: Tree):
             yield name, 1, "does not name its licence: begin it with // SPDX-License-Identifier: MIT"
 
 
-RULES = (front_ends_write_no_sql, files_are_short, tests_do_not_sleep, only_the_platform_knows_the_system,
-         callbacks_are_guarded, variants_can_be_copied_without_memory, nothing_is_unfinished,
+RULES = (front_ends_write_no_sql, files_are_short, tests_do_not_sleep, tests_match_alike_on_each_system,
+         only_the_platform_knows_the_system, callbacks_are_guarded, variants_can_be_copied_without_memory, nothing_is_unfinished,
          headers_are_included_once, sources_name_their_licence)

@@ -45,6 +45,8 @@ TREES = {
     "a file in no room": ("src/stray/a.h:1: lies in src/stray, which is no room", {"src/stray/a.h": HEADER}),
     "a long source": ("has 501 lines", {"src/store/a.h": HEADER + "\n" * 500}),
     "a long form": ("has 301 lines", {"src/ui/site/a.h": HEADER + "\n" * 300}),
+    "an expression that Windows reads otherwise": ("tests/a.h:2: matches by the test library's own",
+                                                   {"tests/a.h": HEADER + 'EXPECT_THAT(a, MatchesRegex("[a]"));\n'}),
     "a sleep": ("tests/a.h:2: sleeps", {"tests/a.h": HEADER + "std::this_thread::sleep_for(1s);\n"}),
     "a sleep with an empty reason": ("sleeps", {"tests/a.h": HEADER + "QTest::qSleep(5);  // sleeps because\n"}),
     "another sleep": ("sleeps", {"tests/a.h": HEADER + "QThread::sleep(1);\n"}),

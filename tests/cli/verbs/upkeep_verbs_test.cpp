@@ -7,13 +7,12 @@
 #include "cli/support/tool_fixture.h"
 #include "platform/sqlite/sqlite_connection.h"
 #include "store/database.h"
-#include "support/system.h"
+#include "support/whole_match.h"
 
 namespace tarnwick::testing {
 namespace {
 
 using ::testing::HasSubstr;
-using ::testing::MatchesRegex;
 using ::testing::Not;
 using ::testing::StartsWith;
 
@@ -62,9 +61,7 @@ TEST_F(CompactVerb, ShrinksTheDatabaseAndPrintsTheSizes) {
 
 TEST_F(CompactVerb, PrintsTheSizesForPeople) {
   EXPECT_EQ(run({"compact"}), exit_status::ok) << err;
-  EXPECT_THAT(out,
-              MatchesRegex(kOnWindows ? "The database is compacted: \\d+ bytes before, \\d+ bytes after\\. .*\n"
-                                      : "The database is compacted: [0-9]+ bytes before, [0-9]+ bytes after\\. .*\n"));
+  EXPECT_THAT(out, WholeMatch("The database is compacted: [0-9]+ bytes before, [0-9]+ bytes after\\. .*\n"));
 }
 
 TEST_F(CompactVerb, FailsWithTheReasonWhileAnotherProgramHasTheDatabaseOpen) {

@@ -7,13 +7,13 @@
 #include "base/base64.h"
 #include "mail_probe.h"
 #include "support/test_certificates.h"
+#include "support/whole_match.h"
 
 namespace tarnwick::testing {
 namespace {
 
 using ::testing::AllOf;
 using ::testing::HasSubstr;
-using ::testing::MatchesRegex;
 using ::testing::Not;
 using ::testing::StartsWith;
 
@@ -32,14 +32,14 @@ TEST_F(MailExchangeTest, GreetsAndHandsTheMailOver) {
   EXPECT_EQ(probe_.send(server_.port()), "Message: 250 2.0.0 taken as 1");
   EXPECT_TRUE(probe_.delivered());
   EXPECT_FALSE(probe_.whileAnswered);
-  EXPECT_THAT(server_.spoken(), MatchesRegex("EHLO [^|]+\\|MAIL FROM:<watch@example.org>\\|RCPT TO:<me@example.org>\\|"
-                                             "RCPT TO:<you@example.org>\\|DATA(\\|QUIT)?"));
+  EXPECT_THAT(server_.spoken(), WholeMatch("EHLO [^|]+\\|MAIL FROM:<watch@example.org>\\|RCPT TO:<me@example.org>\\|"
+                                           "RCPT TO:<you@example.org>\\|DATA(\\|QUIT)?"));
   EXPECT_TRUE(waitUntil([&] { return server_.clientGone(); }));
 }
 
 TEST_F(MailExchangeTest, GreetsWithAWholeNameOrAnAddress) {
   probe_.send(server_.port());
-  EXPECT_THAT(server_.lines().at(0).text, MatchesRegex("EHLO (\\[127\\.0\\.0\\.1\\]|[A-Za-z0-9-]+\\.[A-Za-z0-9.-]+)"));
+  EXPECT_THAT(server_.lines().at(0).text, WholeMatch("EHLO (\\[127\\.0\\.0\\.1\\]|[A-Za-z0-9-]+\\.[A-Za-z0-9.-]+)"));
 }
 
 TEST_F(MailExchangeTest, AServerThatKnowsNoNewGreetingIsGreetedTheOldWay) {
@@ -343,7 +343,7 @@ TEST_F(SecuredMail, WhereItIsRequiredNoByteOfTheLogInGoesInClear) {
     EsmtpServer server(certificates_.good());
     server.replies["EHLO"] = answers[i].first;
     server.replies["STARTTLS"] = {answers[i].second};
-    EXPECT_THAT(probe_.send(server.port()), MatchesRegex(words[i]));
+    EXPECT_THAT(probe_.send(server.port()), WholeMatch(words[i]));
     EXPECT_FALSE(probe_.delivered());
     EXPECT_THAT(server.inClear(), AllOf(Not(HasSubstr("AUTH")), Not(HasSubstr("MAIL")))) << i;
     EXPECT_THAT(server.spoken(), Not(HasSubstr("AUTH"))) << i;
@@ -360,12 +360,12 @@ TEST_F(SecuredMail, AServerThatCannotProveItselfGetsNothing) {
     return words;
   };
   const std::string start = "The certificate of the server 127\\.0\\.0\\.1 port [0-9]+ could not be verified: ";
-  EXPECT_THAT(wordsFor(certificates_.wrongHost()), MatchesRegex(start + "it was issued for another host\\."));
-  EXPECT_THAT(wordsFor(certificates_.expired()), MatchesRegex(start + "certificate has expired\\."));
-  EXPECT_THAT(wordsFor(certificates_.selfSigned()), MatchesRegex(start + "self-signed certificate\\."));
-  EXPECT_THAT(wordsFor(certificates_.ofAStranger()), MatchesRegex(start + ".+"));
+  EXPECT_THAT(wordsFor(certificates_.wrongHost()), WholeMatch(start + "it was issued for another host\\."));
+  EXPECT_THAT(wordsFor(certificates_.expired()), WholeMatch(start + "certificate has expired\\."));
+  EXPECT_THAT(wordsFor(certificates_.selfSigned()), WholeMatch(start + "self-signed certificate\\."));
+  EXPECT_THAT(wordsFor(certificates_.ofAStranger()), WholeMatch(start + ".+"));
   probe_.server.caFile.clear();
-  EXPECT_THAT(wordsFor(certificates_.good()), MatchesRegex(start + ".+"));
+  EXPECT_THAT(wordsFor(certificates_.good()), WholeMatch(start + ".+"));
   probe_.server.caFile = "/no/such/file.pem";
   EXPECT_EQ(wordsFor(certificates_.good()), "The file of trusted certificates /no/such/file.pem could not be read.");
 }
