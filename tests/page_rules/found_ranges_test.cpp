@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <ctime>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -65,11 +65,11 @@ TEST(RulesByRegularExpressions, FindWhatMatchesOrItsFirstGroup) {
 
 TEST(RulesByRegularExpressions, EndInTimeOnAPageMadeForThem) {
   const std::string page(5'000'000, 'x');
-  const auto begun = std::chrono::steady_clock::now();
+  const std::clock_t begun = std::clock();
   found(Language::regex, "(?s)x(.*y)?", page);
   found(Language::regex, "(x+x+)+y", page);
   found(Language::regex, "(y)|x(?s:.*z)?", "y" + page);
-  EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(4));
+  EXPECT_LT(std::clock() - begun, 4 * CLOCKS_PER_SEC) << "of a processor, whatever else the machine does";
 }
 
 const std::string kPage =
@@ -117,7 +117,7 @@ TEST(RulesByXPath, FindWholeElements) {
 }
 
 TEST(RulesOnMarkup, EndInTimeOnAPageMadeForThem) {
-  const auto begun = std::chrono::steady_clock::now();
+  const std::clock_t begun = std::clock();
   std::string deep;
   for (int i = 0; i < 200'000; ++i) {
     deep += "<div>";
@@ -142,7 +142,7 @@ TEST(RulesOnMarkup, EndInTimeOnAPageMadeForThem) {
   found(Language::css, "p", attributes + ">");
   found(Language::css, "td", cells);
   found(Language::css, "a", names);
-  EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(10));
+  EXPECT_LT(std::clock() - begun, 10 * CLOCKS_PER_SEC);
 }
 
 TEST(Rules, ThatAreNestedDeeplyAreNoDanger) {
