@@ -86,7 +86,7 @@ NO_MESSAGES = {
     "src/ui/main_window/damage_box.cpp": ("the kinds of files in the file dialog", ("Lists of Sites",)),
     "src/ui/exchange/import_dialog.cpp": ("kinds of files, and labels", (
         "As its content", "CSV of", "JSON of", "List of", "List or", "Bookmarks of", "&Kind of", "Lists and", "Jet database")),
-    "src/ui/settings/control_dialog.cpp": ("the kinds of files in the file dialog", ("Audio Files", "Program Files")),
+    "src/ui/settings/file_kinds.h": ("the kinds of files in the file dialog", ("Audio Files", "Program Files")),
     "src/app/window_arguments.cpp": ("what --help prints", ("Usage:",)),
     "src/alerts/alert_dispatch.cpp": ("the sample for a program that is tried", ("The connection was refused",)),
     "src/alerts/event_texts.cpp": ("subjects and texts of the mails", ()),

@@ -4783,6 +4783,38 @@
         <source>Site %1 cannot be put back, since another site has its id meanwhile. Delete that one first, or add the address anew.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Certificates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the user and the password; some providers want a password made for programs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check User, Password and Encryption: the server wants to know who sends.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check From: most servers take the address of the account alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the address in To.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the name of the server; where its certificate is your own, name the CA file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the token.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the address.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -5763,10 +5795,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>A PEM file of the certificate authorities to trust for this server</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>A mail through the mail server of your provider, or one of your own</source>
         <translation type="unfinished"></translation>
     </message>
@@ -5796,10 +5824,6 @@
     </message>
     <message>
         <source>Attach the page</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Authorities</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5864,10 +5888,6 @@
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Safety</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -6019,15 +6039,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the first address of who is told</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>the password is used</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>there is no log-in</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -6044,6 +6056,26 @@
     </message>
     <message>
         <source>{title}, a line end and {text}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A file with the certificate authorities (PEM) to trust for this server, as for a certificate of your own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CA file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encryption</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the user, where that is an address; else the first address of who is told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>without a log-in</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -6499,6 +6531,14 @@ and when it is back</source>
         <source>kept, type to replace it</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Browse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the file</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::ChannelList</name>
@@ -6543,6 +6583,33 @@ and when it is back</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::ChannelTrial</name>
+    <message>
+        <source>Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send a test message with what stands in the fields, stored or not</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Answer to the test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the password or token first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Testing …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sent. Look whether it has arrived.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::ChannelsPage</name>
     <message>
         <source>Channels</source>
@@ -6573,22 +6640,6 @@ and when it is back</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Send a test message with what stands in the fields, stored or not</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Answer to the test</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mail now goes by: the channels of the kind mail. The original exchange rests.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Mail now goes by: the original exchange, port 25. A channel of the kind mail replaces it.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -6605,23 +6656,15 @@ and when it is back</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Enter the password or token first.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Testing …</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>ok: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>1 site names it.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 sites name it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mail now goes by: the channels of the kind mail. The original exchange is not used.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -7270,6 +7313,21 @@ and when it is back</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::MailWayHint</name>
+    <message>
+        <source>Channels…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mail goes by the channels of the kind mail; this server is not used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For a mail server with a log-in, a phone or a chat add a channel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::Master</name>
     <message>
         <source>Tarnwick web-site monitor. Copyright © the Tarnwick developers.</source>
@@ -7510,10 +7568,6 @@ Do You Want To Discard Them And Close %2?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The whole answer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Outbox</source>
         <translation type="unfinished"></translation>
     </message>
@@ -7527,10 +7581,6 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>Nothing was given up.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Choose an alert to read the whole answer.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -7599,6 +7649,14 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>Do You Want To Drop Them?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The whole answer, and the whole alert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose an alert to read it, and the whole answer.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -4783,6 +4783,38 @@
         <source>Site %1 cannot be put back, since another site has its id meanwhile. Delete that one first, or add the address anew.</source>
         <translation>Site %1 kann nicht zurückgeholt werden, da eine andere Site inzwischen ihre ID hat. Löschen Sie erst diese, oder fügen Sie die Adresse neu hinzu.</translation>
     </message>
+    <message>
+        <source>Certificates</source>
+        <translation>Zertifikate</translation>
+    </message>
+    <message>
+        <source>Check the user and the password; some providers want a password made for programs.</source>
+        <translation>Prüfen Sie Benutzer und Passwort; manche Anbieter wollen ein eigenes Passwort für Programme.</translation>
+    </message>
+    <message>
+        <source>Check User, Password and Encryption: the server wants to know who sends.</source>
+        <translation>Prüfen Sie Benutzer, Passwort und Verschlüsselung: Der Server will wissen, wer sendet.</translation>
+    </message>
+    <message>
+        <source>Check From: most servers take the address of the account alone.</source>
+        <translation>Prüfen Sie „Von“: Die meisten Server nehmen nur die Adresse des Kontos.</translation>
+    </message>
+    <message>
+        <source>Check the address in To.</source>
+        <translation>Prüfen Sie die Adresse in „An“.</translation>
+    </message>
+    <message>
+        <source>Check the name of the server; where its certificate is your own, name the CA file.</source>
+        <translation>Prüfen Sie den Namen des Servers; ist sein Zertifikat Ihr eigenes, nennen Sie die CA-Datei.</translation>
+    </message>
+    <message>
+        <source>Check the token.</source>
+        <translation>Prüfen Sie das Token.</translation>
+    </message>
+    <message>
+        <source>Check the address.</source>
+        <translation>Prüfen Sie die Adresse.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -5763,10 +5795,6 @@
         <translation>587, mit TLS 465, ohne Verschlüsselung 25</translation>
     </message>
     <message>
-        <source>A PEM file of the certificate authorities to trust for this server</source>
-        <translation>Eine PEM-Datei der Zertifizierungsstellen, denen für diesen Server vertraut wird</translation>
-    </message>
-    <message>
         <source>A mail through the mail server of your provider, or one of your own</source>
         <translation>Eine Mail über den Mailserver Ihres Anbieters oder einen eigenen</translation>
     </message>
@@ -5797,10 +5825,6 @@
     <message>
         <source>Attach the page</source>
         <translation>Seite anhängen</translation>
-    </message>
-    <message>
-        <source>Authorities</source>
-        <translation>Zertifikate</translation>
     </message>
     <message>
         <source>Body</source>
@@ -5865,10 +5889,6 @@
     <message>
         <source>Program</source>
         <translation>Programm</translation>
-    </message>
-    <message>
-        <source>Safety</source>
-        <translation>Sicherheit</translation>
     </message>
     <message>
         <source>Server</source>
@@ -6019,16 +6039,8 @@
         <translation>nur der Unterschied steht in der Mail</translation>
     </message>
     <message>
-        <source>the first address of who is told</source>
-        <translation>die erste Adresse derer, die Bescheid bekommen</translation>
-    </message>
-    <message>
         <source>the password is used</source>
         <translation>das Passwort gilt</translation>
-    </message>
-    <message>
-        <source>there is no log-in</source>
-        <translation>es gibt keine Anmeldung</translation>
     </message>
     <message>
         <source>those of the system</source>
@@ -6045,6 +6057,26 @@
     <message>
         <source>{title}, a line end and {text}</source>
         <translation>{title}, ein Zeilenende und {text}</translation>
+    </message>
+    <message>
+        <source>A file with the certificate authorities (PEM) to trust for this server, as for a certificate of your own</source>
+        <translation>Eine Datei mit den Zertifizierungsstellen (PEM), denen für diesen Server vertraut wird, etwa bei einem eigenen Zertifikat</translation>
+    </message>
+    <message>
+        <source>CA file</source>
+        <translation>CA-Datei</translation>
+    </message>
+    <message>
+        <source>Encryption</source>
+        <translation>Verschlüsselung</translation>
+    </message>
+    <message>
+        <source>the user, where that is an address; else the first address of who is told</source>
+        <translation>der Benutzer, wenn er eine Adresse ist; sonst die erste Adresse derer, die benachrichtigt werden</translation>
+    </message>
+    <message>
+        <source>without a log-in</source>
+        <translation>ohne Anmeldung</translation>
     </message>
 </context>
 <context>
@@ -6500,6 +6532,14 @@ und wenn sie wieder da ist</translation>
         <source>kept, type to replace it</source>
         <translation>liegt vor, zum Ersetzen tippen</translation>
     </message>
+    <message>
+        <source>Browse</source>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Choose the file</source>
+        <translation>Die Datei auswählen</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::ChannelList</name>
@@ -6544,6 +6584,33 @@ und wenn sie wieder da ist</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::ChannelTrial</name>
+    <message>
+        <source>Test</source>
+        <translation>Testen</translation>
+    </message>
+    <message>
+        <source>Send a test message with what stands in the fields, stored or not</source>
+        <translation>Eine Testnachricht senden mit dem, was in den Feldern steht, gespeichert oder nicht</translation>
+    </message>
+    <message>
+        <source>Answer to the test</source>
+        <translation>Antwort auf den Test</translation>
+    </message>
+    <message>
+        <source>Enter the password or token first.</source>
+        <translation>Geben Sie zuerst Passwort oder Token ein.</translation>
+    </message>
+    <message>
+        <source>Testing …</source>
+        <translation>Test läuft …</translation>
+    </message>
+    <message>
+        <source>Sent. Look whether it has arrived.</source>
+        <translation>Gesendet. Sehen Sie nach, ob es angekommen ist.</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::ChannelsPage</name>
     <message>
         <source>Channels</source>
@@ -6574,22 +6641,6 @@ und wenn sie wieder da ist</translation>
         <translation>Ein weiterer Weg, auf dem Alarme hinausgehen</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Testen</translation>
-    </message>
-    <message>
-        <source>Send a test message with what stands in the fields, stored or not</source>
-        <translation>Eine Testnachricht mit dem senden, was in den Feldern steht, gespeichert oder nicht</translation>
-    </message>
-    <message>
-        <source>Answer to the test</source>
-        <translation>Antwort auf den Test</translation>
-    </message>
-    <message>
-        <source>Mail now goes by: the channels of the kind mail. The original exchange rests.</source>
-        <translation>Mail geht jetzt über: die Kanäle der Art Mail. Der ursprüngliche Versand ruht.</translation>
-    </message>
-    <message>
         <source>Mail now goes by: the original exchange, port 25. A channel of the kind mail replaces it.</source>
         <translation>Mail geht jetzt über: den ursprünglichen Versand, Port 25. Ein Kanal der Art Mail ersetzt ihn.</translation>
     </message>
@@ -6606,24 +6657,16 @@ und wenn sie wieder da ist</translation>
         <translation>Richten Sie einen Weg ein, auf dem Alarme Sie erreichen: eine Mail über Ihren Anbieter, einen Web-Hook eines Dienstes für Telefone oder eines Chats, eine Meldung auf diesem Desktop.</translation>
     </message>
     <message>
-        <source>Enter the password or token first.</source>
-        <translation>Geben Sie zuerst das Passwort oder Token ein.</translation>
-    </message>
-    <message>
-        <source>Testing …</source>
-        <translation>Test läuft …</translation>
-    </message>
-    <message>
-        <source>ok: %1</source>
-        <translation>gut: %1</translation>
-    </message>
-    <message>
         <source>1 site names it.</source>
         <translation>1 Seite nennt ihn.</translation>
     </message>
     <message>
         <source>%1 sites name it.</source>
         <translation>%1 Seiten nennen ihn.</translation>
+    </message>
+    <message>
+        <source>Mail now goes by: the channels of the kind mail. The original exchange is not used.</source>
+        <translation>Mail geht jetzt über: die Kanäle der Art Mail. Der ursprüngliche Versand wird nicht benutzt.</translation>
     </message>
 </context>
 <context>
@@ -7271,6 +7314,21 @@ und wenn sie wieder da ist</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::MailWayHint</name>
+    <message>
+        <source>Channels…</source>
+        <translation>Kanäle…</translation>
+    </message>
+    <message>
+        <source>Mail goes by the channels of the kind mail; this server is not used.</source>
+        <translation>Mail geht über die Kanäle der Art Mail; dieser Server wird nicht benutzt.</translation>
+    </message>
+    <message>
+        <source>For a mail server with a log-in, a phone or a chat add a channel.</source>
+        <translation>Für einen Mailserver mit Anmeldung, ein Telefon oder einen Chat fügen Sie einen Kanal hinzu.</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::Master</name>
     <message>
         <source>Tarnwick web-site monitor. Copyright © the Tarnwick developers.</source>
@@ -7513,10 +7571,6 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <translation>Alarme</translation>
     </message>
     <message>
-        <source>The whole answer</source>
-        <translation>Die ganze Antwort</translation>
-    </message>
-    <message>
         <source>Outbox</source>
         <translation>Postausgang</translation>
     </message>
@@ -7531,10 +7585,6 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>Nothing was given up.</source>
         <translation>Nichts wurde aufgegeben.</translation>
-    </message>
-    <message>
-        <source>Choose an alert to read the whole answer.</source>
-        <translation>Wählen Sie einen Alarm, um die ganze Antwort zu lesen.</translation>
     </message>
     <message>
         <source>&amp;Retry Now</source>
@@ -7603,6 +7653,14 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>Do You Want To Drop Them?</source>
         <translation>Möchten Sie sie verwerfen?</translation>
+    </message>
+    <message>
+        <source>The whole answer, and the whole alert</source>
+        <translation>Die ganze Antwort und der ganze Alarm</translation>
+    </message>
+    <message>
+        <source>Choose an alert to read it, and the whole answer.</source>
+        <translation>Wählen Sie einen Alarm, um ihn und die ganze Antwort zu lesen.</translation>
     </message>
 </context>
 <context>

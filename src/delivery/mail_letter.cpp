@@ -43,6 +43,12 @@ std::vector<std::string> listOf(const std::string& addresses) {
   return list;
 }
 
+/// Servers refuse, or drop unseen, what comes from an address that is not that of the account.
+std::string usualSender(const Channel& channel, const std::vector<std::string>& to) {
+  const std::string user = channel.setting(channel_field::user);
+  return isMailAddress(user) ? user : to.empty() ? std::string() : to.front();
+}
+
 }  // namespace
 
 MailServer mailServer(const Channel& channel, const std::string& secret) {
@@ -88,8 +94,8 @@ MailMessage mailLetter(const Channel& channel, std::span<const OutboxRow> rows, 
   MailMessage mail;
   mail.to = listOf(channel.setting(channel_field::to));
   mail.from = channel.setting(channel_field::from);
-  if (mail.from.empty() && !mail.to.empty()) {
-    mail.from = mail.to.front();
+  if (mail.from.empty()) {
+    mail.from = usualSender(channel, mail.to);
   }
   mail.subject = message.title;
   mail.text = message.text;

@@ -17,13 +17,6 @@ std::optional<std::string> lineForm(std::string_view text) {
   return line.empty() || hasLineEnd(line) ? std::nullopt : std::optional(std::string(line));
 }
 
-/// What no mail server could take for anything but an address, and no header for its end (RFC 5321, section 4.1.2).
-bool isMailAddress(std::string_view text) {
-  const std::size_t at = text.rfind('@');
-  return at != std::string_view::npos && at > 0 && at + 1 < text.size() &&
-         text.find_first_of(" \t<>,;\"()") == std::string_view::npos && !hasLineEnd(text);
-}
-
 std::optional<std::string> mailAddressForm(std::string_view text) {
   return isMailAddress(trimmed(text)) ? std::optional(std::string(trimmed(text))) : std::nullopt;
 }
@@ -99,7 +92,7 @@ ChannelKind mailKind() {
        .form = &mailAddressesForm,
        .takes = "one mail address or more, parted by commas, as in \"me@example.org, team@example.org\""},
       {.name = std::string(channel_field::from),
-       .original = "the first address of who is told",
+       .original = "the user, where that is an address; else the first address of who is told",
        .label = "From",
        .meaning = "Whose mail it is; most servers want the address of your own account here",
        .form = &mailAddressForm,
@@ -120,7 +113,7 @@ ChannelKind mailKind() {
        .choices = {std::string(channel_value::startTls), std::string(channel_value::tls),
                    std::string(channel_value::none)},
        .original = "starttls: nothing but the greeting is sent before the line is encrypted",
-       .label = "Safety",
+       .label = "Encryption",
        .meaning = "Whether the line is encrypted: asked for after the greeting, from the first byte on, or not at all"},
       {.name = std::string(channel_field::login),
        .kind = OptionKind::choice,
@@ -130,7 +123,7 @@ ChannelKind mailKind() {
        .label = "Log-in",
        .meaning = "How to log in; xoauth2 with a token, as some providers want it"},
       oneLineOf({.name = std::string(channel_field::user),
-                 .original = "there is no log-in",
+                 .original = "without a log-in",
                  .label = "User",
                  .meaning = "The name to log in with, often the mail address"}),
       oneLineOf({.name = std::string(channel_field::tokenCommand),
@@ -139,8 +132,9 @@ ChannelKind mailKind() {
                  .meaning = "A program that prints the token for xoauth2; it is run before each mail"}),
       oneLineOf({.name = std::string(channel_field::authorities),
                  .original = "those of the system",
-                 .label = "Authorities",
-                 .meaning = "A PEM file of the certificate authorities to trust for this server"}),
+                 .label = "CA file",
+                 .meaning = "A file with the certificate authorities (PEM) to trust for this server, as for a "
+                            "certificate of your own"}),
       {.name = std::string(channel_field::attach),
        .kind = OptionKind::flag,
        .original = "the difference alone is in the mail",
@@ -226,6 +220,13 @@ std::string namesOf(const Entries& entries) {
 }
 
 }  // namespace
+
+bool isMailAddress(std::string_view text) {
+  // What no mail server could take for anything else, and no header for its end.
+  const std::size_t at = text.rfind('@');
+  return at != std::string_view::npos && at > 0 && at + 1 < text.size() &&
+         text.find_first_of(" \t<>,;\"()") == std::string_view::npos && !hasLineEnd(text);
+}
 
 const std::vector<ChannelKind>& channelKinds() {
   static const std::vector<ChannelKind> kinds = allKinds();

@@ -64,6 +64,10 @@ struct ChannelKind {
   std::string secret{};
 };
 
+/// Whether it can stand for one person's mail address, without a name before it: "me@example.org" (RFC 5321, section
+/// 4.1.2, without its quoted forms).
+bool isMailAddress(std::string_view text);
+
 /// All kinds, in the order in which they are offered.
 const std::vector<ChannelKind>& channelKinds();
 /// The kind of that name, in any letter case; raises std::runtime_error, which lists all of them, for another name.

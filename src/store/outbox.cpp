@@ -161,7 +161,8 @@ OutboxSummary Outbox::outboxSummary() {
     return summary;
   }
   const auto rows = db_.conn().execute(
-      "select state, tries > 0, count(*), max(idAlert) from outbox where state <> 'sent' group by 1, 2", Parameters());
+      "select state, answer <> '', count(*), max(idAlert) from outbox where state <> 'sent' group by 1, 2",
+      Parameters());
   for (; !rows->eof(); rows->moveNext()) {
     const bool isFailed = rows->field(std::size_t{0}).toText() == "failed";
     const bool isTried = rows->field(std::size_t{1}).toInt64() != 0;
@@ -271,7 +272,7 @@ std::int64_t Outbox::retryAlerts(std::span<const std::int64_t> ids, LocalTime no
   Transaction whole(db_);
   const std::int64_t count =
       changedOf(db_, ids,
-                "update outbox set state = 'waiting', nextTry = ?1, deadline = ?2 where state <> "
+                "update outbox set state = 'waiting', tries = 0, nextTry = ?1, deadline = ?2 where state <> "
                 "'sent' and not (tries > 0 and lastTry = '' and nextTry > ?1) and (?3 is null or "
                 "idAlert = ?3)",
                 {stored(now), stored(now + kPatience)});

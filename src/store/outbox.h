@@ -44,6 +44,7 @@ struct OutboxRow {
   std::int64_t idChannel = 0;
   Alert alert{};
   State state = State::waiting;
+  /// Since it was made, or its user had it tried again.
   int tries = 0;
   /// Of one that waits; what lies in the future may also be the end of a try that is under way.
   LocalTime nextTry{};
@@ -108,8 +109,8 @@ class Outbox {
   void setNotSent(std::span<const OutboxRow> rows, LocalTime now, std::string_view answer,
                   std::optional<LocalTime> nextTry);
 
-  /// Has all that wait, and all that were given up, tried again now, for as long as new ones; those of the ids, or all.
-  /// One that is being tried is left alone. Returns how many.
+  /// Has all that wait, and all that were given up, tried again now, and from then on as often and for as long as new
+  /// ones; those of the ids, or all. One that is being tried is left alone. Returns how many.
   std::int64_t retryAlerts(std::span<const std::int64_t> ids, LocalTime now);
   /// Takes those of the ids, or all, out that wait or were given up. Returns how many.
   std::int64_t dropAlerts(std::span<const std::int64_t> ids);

@@ -59,6 +59,13 @@ TEST(MailLetter, TellsWhatHasChangedInTextAndInHtml) {
   EXPECT_FALSE(mail.attachment);
 }
 
+TEST(MailLetter, IsFromTheAccountWhereNothingIsSaidAndTheUserIsAnAddress) {
+  EXPECT_EQ(letterOf(mailChannel({{"user", "account@example.org"}}), changedSite()).from, "account@example.org");
+  EXPECT_EQ(letterOf(mailChannel({{"user", "account"}}), changedSite()).from, "me@example.org");
+  EXPECT_EQ(letterOf(mailChannel({{"user", "account@example.org"}, {"from", "other@example.org"}}), changedSite()).from,
+            "other@example.org");
+}
+
 TEST(MailLetter, IsTheSameOneWhenItIsTriedAgain) {
   const MailMessage first = letterOf(mailChannel(), changedSite());
   OutboxRow later = changedSite();

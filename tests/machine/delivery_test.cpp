@@ -306,6 +306,21 @@ TEST_F(DeliveryTest, RetriedItIsTriedAtOnceAndDroppedItIsGone) {
   EXPECT_THAT(sent(), IsEmpty());
 }
 
+TEST_F(DeliveryTest, RetriedInVainItIsTriedAgainAsSoonAsANewOne) {
+  addMail("office");
+  refuse(5);
+  happen("a.example.org");
+  advance(minutes(30));
+  sent();
+  one.outbox.retryAlerts({}, machine.handClock.localNow());
+  one.delivery.deliver();
+  advance(seconds(1));
+  ASSERT_EQ(sent().size(), 1U);
+  EXPECT_EQ(one.outbox.outboxSummary().delayed, 1);
+  advance(minutes(1));
+  EXPECT_EQ(sent().size(), 1U) << "a press puts nothing off";
+}
+
 TEST_F(DeliveryTest, ATestTellsTheAnswerAndKeepsNothing) {
   Channel channel{.name = "new", .kind = std::string(channel_kind::mail)};
   channel.settings = {{"to", "me@example.org"}, {"server", "smtp.example.org"}, {"user", "me"}};

@@ -13,6 +13,7 @@
 #include "cli/verbs/verbs.h"
 #include "delivery/channel_preset.h"
 #include "delivery/delivery.h"
+#include "delivery/refusal_advice.h"
 #include "platform/interrupts.h"
 #include "store/channel_table.h"
 
@@ -337,6 +338,9 @@ int test(Tool& tool, const ChannelVerbOptions& options) {
   } else {
     tool.console().tell((reply.sent ? "The test message is sent: " : "The test message is not sent: ") +
                         visibleText(reply.words));
+    if (const std::string advice(adviceOn(reply.words)); !advice.empty()) {
+      tool.console().tell(advice);
+    }
   }
   return reply.sent ? exit_status::ok : exit_status::down;
 }

@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QVBoxLayout>
 
+#include "delivery/alert_text.h"
 #include "ui/controls/boxes.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
@@ -21,7 +22,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int kLook = 500;  // milliseconds
-constexpr int kAnswerLines = 3;
+constexpr int kAnswerLines = 7;
 constexpr std::size_t kMostNamed = 8;
 
 void setUp(QTableView& table) {
@@ -35,6 +36,17 @@ void setUp(QTableView& table) {
   }
 }
 
+/// What was answered, then what is told, as a mail has it.
+QString wholeWords(const OutboxRow& row) {
+  const AlertText text = alertTextOf({&row, 1});
+  QStringList parts;
+  if (!row.answer.empty()) {
+    parts << displayMessage(row.answer) << QString();
+  }
+  parts << displayText(text.title) << displayText(text.text);
+  return parts.join(QLatin1Char('\n')).trimmed();
+}
+
 }  // namespace
 
 OutboxDialog::OutboxDialog(Program& program, OpenChannel openChannel, QWidget* parent)
@@ -43,7 +55,7 @@ OutboxDialog::OutboxDialog(Program& program, OpenChannel openChannel, QWidget* p
       openChannel_(std::move(openChannel)),
       changes_(program.data().database()),
       pages_(named(new QTabWidget(this), "outboxPages", tr("Alerts"))),
-      answer_(named(new QPlainTextEdit(this), "outboxAnswer", tr("The whole answer"))) {
+      answer_(named(new QPlainTextEdit(this), "outboxAnswer", tr("The whole answer, and the whole alert"))) {
   setObjectName(QStringLiteral("frmOutbox"));
   setWindowTitle(tr("Outbox"));
   tabs_ = {addTab(OutboxRow::State::waiting, "outboxWaiting", tr("Nothing is waiting.")),
@@ -77,7 +89,7 @@ void OutboxDialog::layOut() {
   answer_->setReadOnly(true);
   answer_->setTabChangesFocus(true);
   answer_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  answer_->setPlaceholderText(tr("Choose an alert to read the whole answer."));
+  answer_->setPlaceholderText(tr("Choose an alert to read it, and the whole answer."));
   answer_->setFixedHeight(answer_->fontMetrics().lineSpacing() * kAnswerLines +
                           2 * (answer_->frameWidth() + static_cast<int>(answer_->document()->documentMargin())));
   auto* lines = new QVBoxLayout(this);
@@ -186,9 +198,9 @@ std::vector<std::int64_t> OutboxDialog::chosenAlerts() {
 void OutboxDialog::showAnswer() {
   const Tab& tab = current();
   const QModelIndexList chosen = tab.table->selectionModel()->selectedRows();
-  const QString answer = chosen.isEmpty() ? QString() : displayMessage(tab.model->rowAt(chosen.front().row()).answer);
-  if (answer_->toPlainText() != answer) {
-    answer_->setPlainText(answer);
+  const QString words = chosen.isEmpty() ? QString() : wholeWords(tab.model->rowAt(chosen.front().row()));
+  if (answer_->toPlainText() != words) {
+    answer_->setPlainText(words);
   }
   const bool isThere = tab.model->rowCount() > 0;
   const bool isSent = tab.model->state() == OutboxRow::State::sent;

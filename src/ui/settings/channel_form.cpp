@@ -14,6 +14,7 @@
 #include "delivery/mail_letter.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
+#include "ui/settings/file_kinds.h"
 
 namespace tarnwick {
 namespace {
@@ -52,6 +53,13 @@ std::string_view usualChoice(const OptionField& field) {
 
 bool hasLines(const OptionField& field) {
   return field.name == channel_field::headers || field.name == channel_field::body;
+}
+
+/// Which files a field names, as a `FileChoice` has it; empty for a field that names none.
+QString filterOf(const OptionField& field) {
+  return field.name == channel_field::authorities ? QString::fromLatin1(file_kind::certificates)
+         : field.name == channel_field::file      ? QString::fromLatin1(file_kind::sounds)
+                                                  : QString();
 }
 
 OptionControl makeLines() {
@@ -171,12 +179,22 @@ void ChannelForm::addRow(const OptionField& field) {
     line_->addStretch(1);
   }
   follow(control, hintOf(field));
+  if (!filterOf(field).isEmpty()) {
+    addBrowse(field, *qobject_cast<ByteLineEdit*>(&control));
+  }
   if (auto* choice = qobject_cast<QComboBox*>(&control)) {
     connect(choice, &QComboBox::activated, this, &ChannelForm::tellUsualPort);
     connect(choice, &QComboBox::activated, this, &ChannelForm::edited);
   } else if (auto* text = qobject_cast<QLineEdit*>(&control)) {
     connect(text, &QLineEdit::textEdited, this, &ChannelForm::edited);
   }
+}
+
+void ChannelForm::addBrowse(const OptionField& field, ByteLineEdit& box) {
+  QPushButton* button = addButton(*this, ("channelBrowse_" + field.name).c_str(), tr("Browse"), tr("Choose the file"));
+  button->setAccessibleName(QStringLiteral("%1: %2").arg(button->text(), translated(field.label)));
+  line_->addWidget(button);
+  connect(button, &QPushButton::clicked, this, [this, &box, filter = filterOf(field)] { Q_EMIT browse(box, filter); });
 }
 
 void ChannelForm::addSecret(const std::optional<std::string>& secret, bool inKeyRing, bool isKept) {

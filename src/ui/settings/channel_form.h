@@ -40,6 +40,8 @@ class ChannelForm final : public QWidget {
   void edited();
   /// What the field with the focus means.
   void hint(const QString& text);
+  /// The user wants to choose the file whose path goes into `box`; `filter` as a `FileChoice` has it.
+  void browse(ByteLineEdit& box, const QString& filter);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -51,6 +53,7 @@ class ChannelForm final : public QWidget {
   };
 
   void addRow(const OptionField& field);
+  void addBrowse(const OptionField& field, ByteLineEdit& box);
   void addSecret(const std::optional<std::string>& secret, bool inKeyRing, bool isKept);
   void addLine(const QString& caption, QWidget& control);
   void follow(QWidget& control, const QString& hint);

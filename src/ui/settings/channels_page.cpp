@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <utility>
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QVBoxLayout>
@@ -18,7 +17,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int kAnswerLines = 2;
 constexpr int kHintLines = 3;
 
 void setUp(QTableView& table) {
@@ -96,23 +94,14 @@ QWidget* ChannelsPage::makeChannel() {
   hint_->setWordWrap(true);
   hint_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   hint_->setFixedHeight(hint_->fontMetrics().lineSpacing() * kHintLines);
-  btnTest_ = addButton(*side, "channelTest", tr("Test"),
-                       tr("Send a test message with what stands in the fields, stored or not"));
-  answer_ = named(new QPlainTextEdit(side), "channelAnswer", tr("Answer to the test"));
-  answer_->setReadOnly(true);
-  answer_->setTabChangesFocus(true);
-  answer_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  answer_->setFixedHeight(answer_->fontMetrics().lineSpacing() * kAnswerLines +
-                          2 * (answer_->frameWidth() + static_cast<int>(answer_->document()->documentMargin())));
-  auto* foot = new QHBoxLayout;
-  foot->addWidget(btnTest_, 0, Qt::AlignTop);
-  foot->addWidget(answer_, 1);
+  trial_ = new ChannelTrial(
+      program_, [this] { return list_->at(currentRow()); }, side);
   auto* lines = new QVBoxLayout(side);
   lines->setContentsMargins({});
   lines->addWidget(place_, 1);
   lines->addWidget(hint_);
-  lines->addLayout(foot);
-  onClick(*btnTest_, program_.faults(), [this] { test(); });
+  lines->addWidget(trial_);
+  connect(trial_, &ChannelTrial::tried, this, &ChannelsPage::tellTried);
   return side;
 }
 
@@ -138,7 +127,7 @@ void ChannelsPage::load() {
 
 void ChannelsPage::tellWhatMailDoes() {
   mailNow_->setText(program_.data().delivery().replacesMail()
-                        ? tr("Mail now goes by: the channels of the kind mail. The original exchange rests.")
+                        ? tr("Mail now goes by: the channels of the kind mail. The original exchange is not used.")
                         : tr("Mail now goes by: the original exchange, port 25. A channel of the kind mail replaces "
                              "it."));
 }
@@ -196,13 +185,11 @@ void ChannelsPage::remove() {
 void ChannelsPage::showChannel() {
   const int row = currentRow();
   const bool isThere = row >= 0;
-  answer_->clear();
+  trial_->begin(isThere);
   delete place_->takeWidget();
   form_ = nullptr;
-  for (QWidget* control : {static_cast<QWidget*>(btnRemove_), static_cast<QWidget*>(forAll_),
-                           static_cast<QWidget*>(btnTest_), static_cast<QWidget*>(answer_)}) {
-    control->setEnabled(isThere);
-  }
+  btnRemove_->setEnabled(isThere);
+  forAll_->setEnabled(isThere);
   if (!isThere) {
     forAll_->setChecked(false);
     hint_->setText(
@@ -219,6 +206,7 @@ void ChannelsPage::showChannel() {
   form_->setAutoFillBackground(false);
   place_->viewport()->setAutoFillBackground(false);
   connect(form_, &ChannelForm::edited, this, &ChannelsPage::takeForm);
+  connect(form_, &ChannelForm::browse, this, &ChannelsPage::chooseFile);
   connect(form_, &ChannelForm::hint, hint_, &QLabel::setText);
 }
 
@@ -229,26 +217,24 @@ void ChannelsPage::takeForm() {
   list_->change(currentRow(), std::move(draft));
 }
 
-void ChannelsPage::test() {
-  const ChannelDraft& draft = list_->at(currentRow());
-  const Channel channel = checkedChannel(draft.channel);
-  if (channel.id == 0 && !draft.secret && needsSecret(channel)) {
-    answer_->setPlainText(tr("Enter the password or token first."));
-    return;
-  }
-  answer_->setPlainText(tr("Testing …"));
-  program_.data().delivery().test(
-      channel, draft.secret,
-      [page = QPointer<ChannelsPage>(this), form = QPointer<ChannelForm>(form_)](const SendReply& reply) {
-        if (page != nullptr && form != nullptr) {
-          page->tellTested(reply);
-        }
-      });
+void ChannelsPage::tellTried(bool isSent) {
+  const LocalTime now = program_.services().clock.localNow();
+  const LastTry last{isSent, now};
+  ChannelDraft draft = list_->at(currentRow());
+  draft.lastTry = lastTryWords(&last, now);
+  list_->change(currentRow(), std::move(draft));
 }
 
-void ChannelsPage::tellTested(const SendReply& reply) {
-  const QString words = displayMessage(reply.words);
-  answer_->setPlainText(reply.sent ? tr("ok: %1").arg(words) : words);
+void ChannelsPage::chooseFile(ByteLineEdit& into, const QString& filter) {
+  program_.services().prompts.chooseFile(
+      {.folder = program_.programFolder(), .filter = filter.toStdString(), .owner = this},
+      [this, form = QPointer<ChannelForm>(form_), box = QPointer<ByteLineEdit>(&into)](const std::string& path) {
+        if (box != nullptr && form == form_) {
+          box->setBytes(path);
+          box->setFocus();
+          takeForm();
+        }
+      });
 }
 
 bool ChannelsPage::isChanged() const {

@@ -8,15 +8,14 @@
 #include <vector>
 #include <QCheckBox>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTableView>
 
-#include "delivery/channel_sender.h"
 #include "program/program.h"
 #include "ui/settings/channel_form.h"
 #include "ui/settings/channel_list.h"
+#include "ui/settings/channel_trial.h"
 #include "ui/settings/life_form.h"
 
 namespace tarnwick {
@@ -55,8 +54,8 @@ class ChannelsPage final : public QWidget {
   void remove();
   void showChannel();
   void takeForm();
-  void test();
-  void tellTested(const SendReply& reply);
+  void tellTried(bool isSent);
+  void chooseFile(ByteLineEdit& into, const QString& filter);
   int currentRow() const;
   void chooseRow(int row);
 
@@ -69,8 +68,7 @@ class ChannelsPage final : public QWidget {
   QLabel* mailNow_ = nullptr;
   QScrollArea* place_ = nullptr;
   QLabel* hint_ = nullptr;
-  QPushButton* btnTest_ = nullptr;
-  QPlainTextEdit* answer_ = nullptr;
+  ChannelTrial* trial_ = nullptr;
   LifeForm* life_ = nullptr;
   ChannelForm* form_ = nullptr;  // of the chosen channel
   std::vector<std::int64_t> removed_;

@@ -12,12 +12,10 @@
 #include "ui/controls/display_text.h"
 #include "ui/controls/page_opener.h"
 #include "ui/controls/placement.h"
+#include "ui/settings/file_kinds.h"
 
 namespace tarnwick {
 namespace {
-
-constexpr const char* kAudioFiles = "Audio Files (*.wav)|*.wav";
-constexpr const char* kProgramFiles = "Program Files (*.exe;*.bat;*.vbs)|*.exe;*.bat;*.vbs";
 
 constexpr const char* kAskClearLogs = "Are You Sure You Want To Delete All Logs?";
 constexpr const char* kAskCompact =
@@ -82,6 +80,7 @@ void ControlDialog::connectButtons() {
   onClick(*controls_.Command7, program_.faults(), [this] { Command7_Click(); });
   onClick(*controls_.Command8, program_.faults(), [this] { Command8_Click(); });
   onClick(*controls_.Command9, program_.faults(), [this] { Command9_Click(); });
+  connect(controls_.mailWay, &MailWayHint::followed, this, [this] { turnTo(*controls_.channels); });
   for (QPushButton* ok : controls_.btnOks) {
     onClick(*ok, program_.faults(), [this] { Command1_Click(); });
   }
@@ -222,13 +221,13 @@ void ControlDialog::chooseFileInto(ByteLineEdit& text, const std::string& filter
                                          });
 }
 
-void ControlDialog::Command6_Click() { chooseFileInto(*controls_.tAudio, kAudioFiles); }
+void ControlDialog::Command6_Click() { chooseFileInto(*controls_.tAudio, file_kind::sounds); }
 
 void ControlDialog::Command7_Click() { program_.data().playWave(controls_.tAudio->bytes()); }
 
 void ControlDialog::Command8_Click() { program_.data().testShellExecuteAlert(controls_.tProgram->bytes()); }
 
-void ControlDialog::Command9_Click() { chooseFileInto(*controls_.tProgram, kProgramFiles); }
+void ControlDialog::Command9_Click() { chooseFileInto(*controls_.tProgram, file_kind::programs); }
 
 void ControlDialog::reject() {
   program_.faults().run([this] { unload(Rejected); });

@@ -101,12 +101,11 @@ QLabel* makeStatus(QGroupBox& frame, const char* name, const QString& caption, c
 }
 
 // Texts one below the other, and the list of time-outs on their right; the flags go into `foot`.
-QLayout* makeSettings(QGroupBox& frame, const std::vector<SettingField>& settings, ControlDialogControls& controls,
-                      QLayout& foot) {
+QLayout* makeSettings(QGroupBox& frame, Program& program, ControlDialogControls& controls, QLayout& foot) {
   constexpr int kColumnOfList = 5;
   auto* fields = new QGridLayout;
   int row = 0;
-  for (const FieldLook& look : looksOf(settings)) {
+  for (const FieldLook& look : looksOf(program.data().fields().settings)) {
     if (look.control == "lbInterval") {
       controls.lbInterval = makeTimeouts(frame, look);
       controls.settings.push_back(bindField(look.field, *controls.lbInterval));
@@ -129,6 +128,8 @@ QLayout* makeSettings(QGroupBox& frame, const std::vector<SettingField>& setting
     }
     ++row;
   }
+  controls.mailWay = new MailWayHint(program, &frame);
+  fields->addWidget(controls.mailWay, row, 1, 1, 3, Qt::AlignTop);
   fields->addWidget(controls.lbInterval, 1, kColumnOfList, row, 1);
   controls.lblTimeout = makeStatus(frame, "lblTimeout", QString(), QObject::tr("Stored TCP Timeout"));
   controls.lblTimeout->hide();
@@ -139,10 +140,10 @@ QLayout* makeSettings(QGroupBox& frame, const std::vector<SettingField>& setting
   return fields;
 }
 
-void makeConfiguration(QGroupBox& frame, const std::vector<SettingField>& settings, ControlDialogControls& controls) {
+void makeConfiguration(QGroupBox& frame, Program& program, ControlDialogControls& controls) {
   auto* foot = new QHBoxLayout;
   auto* lines = new QVBoxLayout(&frame);
-  lines->addLayout(makeSettings(frame, settings, controls, *foot), 1);
+  lines->addLayout(makeSettings(frame, program, controls, *foot), 1);
   lines->addLayout(foot);
   controls.tEmail = frame.findChild<ByteLineEdit*>(QStringLiteral("tEmail"));
   controls.tAudio = frame.findChild<ByteLineEdit*>(QStringLiteral("tAudio"));
@@ -155,7 +156,9 @@ void makeConfiguration(QGroupBox& frame, const std::vector<SettingField>& settin
   foot->addWidget(controls.Command1);
   foot->addWidget(controls.Command2);
   // The list stands on the right of all texts, and so comes after them.
-  QWidget::setTabOrder(controls.Command8, controls.lbInterval);
+  auto* link = controls.mailWay->findChild<QAbstractButton*>();
+  QWidget::setTabOrder(controls.Command8, link);
+  QWidget::setTabOrder(link, controls.lbInterval);
 }
 
 void makeAdministration(QGroupBox& frame, ControlDialogControls& controls) {
@@ -201,7 +204,7 @@ ControlDialogControls layOutControlDialog(QDialog& dialog, Program& program, Use
   ControlDialogControls controls{};
   auto* general = new QWidget;
   QGroupBox* configuration = addFrame(*general, "Frame1", QObject::tr("Configuration Data"));
-  makeConfiguration(*configuration, program.data().fields().settings, controls);
+  makeConfiguration(*configuration, program, controls);
   QGroupBox* administration = addFrame(*general, "Frame2", QObject::tr("Administration Functions"));
   makeAdministration(*administration, controls);
   auto* lines = new QVBoxLayout(general);

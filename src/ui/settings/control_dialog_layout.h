@@ -11,6 +11,7 @@
 #include "ui/controls/field_control.h"
 #include "ui/controls/option_form.h"
 #include "ui/settings/channels_page.h"
+#include "ui/settings/mail_way_hint.h"
 #include "ui/settings/pause_page.h"
 #include "ui/settings/window_frame.h"
 
@@ -31,6 +32,8 @@ struct ControlDialogControls {
   QLabel* lblTimeout;     ///< what is stored, or holds, while no time-out is selected
   QPushButton* Command1;  ///< OK
   QPushButton* Command2;  ///< Cancel
+
+  MailWayHint* mailWay;
 
   QTabWidget* pages;  ///< General, Defaults, Channels, Pause
   OptionForm* defaults;

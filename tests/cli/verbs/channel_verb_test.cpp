@@ -172,7 +172,7 @@ TEST_F(ChannelVerb, ATestShowsTheServersOwnWords) {
   EXPECT_EQ(out, "The test message is sent: The message: 250 taken\n");
   machine.mails.answer({.delivered = false, .words = "RCPT TO: 550 5.1.1 User unknown"});
   EXPECT_EQ(run({"channel", "test", "office"}), exit_status::down) << err;
-  EXPECT_EQ(out, "The test message is not sent: RCPT TO: 550 5.1.1 User unknown\n");
+  EXPECT_EQ(out, "The test message is not sent: RCPT TO: 550 5.1.1 User unknown\nCheck the address in To.\n");
   machine.mails.answer({.delivered = false, .words = "no"});
   EXPECT_EQ(run({"channel", "test", "office", "--json"}), exit_status::down);
   EXPECT_EQ(Json::parse(out), (Json{{"sent", false}, {"answer", "no"}}));

@@ -81,7 +81,12 @@ TEST_F(ChannelsPageTest, AMailAccountIsSetUpTestedAndStored) {
 
   machine.mails.answer({.delivered = false, .words = "AUTH: 535 5.7.8 Wrong user or password"});
   press(dialog, "channelTest");
-  ASSERT_TRUE(waitUntil([&] { return answer(dialog) == "AUTH: 535 5.7.8 Wrong user or password"; }));
+  ASSERT_TRUE(waitUntil([&] {
+    return answer(dialog) ==
+           "Check the user and the password; some providers want a password made for programs.\n"
+           "AUTH: 535 5.7.8 Wrong user or password";
+  }));
+  EXPECT_THAT(cell(dialog, 0, ChannelList::lastTry), HasSubstr("refused"));
   ASSERT_EQ(machine.mails.sent.size(), 1U);
   EXPECT_EQ(machine.mails.sent.front().server.secret, "s3cret");
   EXPECT_THAT(channels(), IsEmpty());
@@ -198,8 +203,33 @@ TEST_F(ChannelsPageTest, TheTestUsesTheKeptSecretOfAStoredChannel) {
   auto& dialog = openChannels();
   EXPECT_EQ(label(dialog, "channelSecretKept"), "Kept in the desktop's key ring");
   press(dialog, "channelTest");
-  ASSERT_TRUE(waitUntil([&] { return answer(dialog) == "ok: The message: 250 taken"; }));
+  ASSERT_TRUE(
+      waitUntil([&] { return answer(dialog) == "Sent. Look whether it has arrived.\nThe message: 250 taken"; }));
   EXPECT_EQ(machine.mails.sent.front().server.secret, "kept");
+}
+
+TEST_F(ChannelsPageTest, TheFileOfTheAuthoritiesCanBeChosen) {
+  auto& dialog = openChannels();
+  add(dialog, channel_kind::mail);
+  typeMail(dialog);
+  machine.prompts.answerFile("/etc/my own/ca.pem");
+  press(dialog, "channelBrowse_authorities");
+  EXPECT_EQ(text(dialog, "channel_authorities"), "/etc/my own/ca.pem");
+  press(dialog, "btnOkChannels");
+  ASSERT_EQ(channels().size(), 1U);
+  EXPECT_EQ(channels().front().setting(channel_field::authorities), "/etc/my own/ca.pem");
+}
+
+TEST_F(ChannelsPageTest, TheFirstPageTellsOfTheChannelsAndLeadsToThem) {
+  auto& dialog = openSettings();
+  EXPECT_THAT(label(dialog, "mailWay"), HasSubstr("add a channel"));
+  in<QAbstractButton>(dialog, "mailWayChannels").click();
+  EXPECT_EQ(in<QTabWidget>(dialog, "pages").currentIndex(), 2);
+  EXPECT_TRUE(dialog.findChild<ChannelsPage*>()->isVisible());
+  add(dialog, channel_kind::mail);
+  typeMail(dialog);
+  press(dialog, "btnOkChannels");
+  EXPECT_THAT(label(openSettings(), "mailWay"), HasSubstr("is not used"));
 }
 
 TEST_F(ChannelsPageTest, TheHeadersOfAWebHookAreLines) {

@@ -308,9 +308,9 @@ TEST_F(ControlDialogTest, AChangedTimeoutCountsAtItsNextUse) {
 TEST_F(ControlDialogTest, IsReachedByTheKeyboardInTheOrderOfTheEye) {
   auto& dialog = openSettings();
   EXPECT_EQ(tabOrder(dialog, in<QWidget>(dialog, "tEmail")),
-            (Strings{"tEmail", "tSmtp", "tAudio", "Command6", "Command7", "tProgram", "Command9", "Command8",
-                     "lbInterval", "cLogs", "cReports", "cEmail", "cAudio", "cProgram", "Command1", "Command2",
-                     "Command3", "Command4", "Command5"}));
+            (Strings{"tEmail",   "tSmtp",           "tAudio",     "Command6", "Command7", "tProgram", "Command9",
+                     "Command8", "mailWayChannels", "lbInterval", "cLogs",    "cReports", "cEmail",   "cAudio",
+                     "cProgram", "Command1",        "Command2",   "Command3", "Command4", "Command5"}));
   std::vector<QChar> keys = mnemonics(dialog);
   std::ranges::sort(keys);
   EXPECT_TRUE(std::ranges::adjacent_find(keys) == keys.end()) << "two controls share a mnemonic";
