@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "engine/known_page.h"
 
-#include "base/sha256.h"
 #include "holes/page_text.h"
 #include "page_rules/page_judge.h"
+#include "platform/digest.h"
 #include "store/site_rules.h"
 
 namespace tarnwick {

@@ -61,6 +61,7 @@ CODINGS = r"zlib\.h|brotli/.*|zstd\w*\.h"
 QT = r"Q[A-Z]\w*|Qt\w*/.*|q[a-z]+\.h"
 KEY_RING = r"qt6keychain/.*"
 LIBRARIES = {
+    "platform/os": r"openssl/evp\.h",
     "platform/sqlite": r"sqlite3\w*\.h",
     "platform/web": rf"curl/.*|openssl/.*|{CODINGS}|{QT}",
     "platform/events": QT,
