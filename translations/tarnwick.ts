@@ -4815,6 +4815,10 @@
         <source>Check the address.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The system makes no SHA-256 digest.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

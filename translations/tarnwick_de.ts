@@ -4815,6 +4815,10 @@
         <source>Check the address.</source>
         <translation>Prüfen Sie die Adresse.</translation>
     </message>
+    <message>
+        <source>The system makes no SHA-256 digest.</source>
+        <translation>Das System berechnet keine SHA-256-Prüfsumme.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
