@@ -346,7 +346,8 @@ run_under_wine() {
     log=$PWD/$1/wine-logs/$name.log
     filter=$(skipped_under_wine "$name")
     if (cd "$(dirname "$program")" &&
-      timeout 900 wine "./$name.exe" --gtest_brief=1 "--gtest_filter=-$filter" >"$log" 2>&1 </dev/null); then
+      timeout 900 wine "./$name.exe" --gtest_brief=1 "--gtest_filter=-$filter" >"$log" 2>&1 </dev/null) &&
+      grep -aq '\[  PASSED  \]' "$log"; then # a program that crashes may leave with 0 there
       echo "$name: $(grep -a 'PASSED' "$log" | tr -d '\r')"
     else
       tr -d '\r' <"$log" | tail -60 >&2

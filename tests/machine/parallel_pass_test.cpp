@@ -14,10 +14,16 @@ struct ParallelPass : ::testing::Test, ProgramFixture {
 };
 
 TEST_F(ParallelPass, AsManyAreInFlightAsTheOptionSays) {
+  // Nobody is answered before twelve have asked, and the rest once the twelfth has its answer.
+  int asked = 0;
+  server.handleOthers([&](const HttpRequest& request) -> HttpResponse {
+    if (++asked > 12) {
+      server.release();
+    }
+    return {.body = request.target, .delay = milliseconds(50), .hold = asked < 12};
+  });
   for (int i = 0; i < 30; ++i) {
-    const std::string path = "/" + std::to_string(i);
-    server.respond(path, {.body = path, .delay = milliseconds(50)});
-    addSite(server.url(path));
+    addSite(server.url("/" + std::to_string(i)));
   }
   program.data().storeOptions(kAllSites, {{"parallel", "12"}, {"perHost", "256"}, {"spacing", "0"}});
   program.run().startChecking();

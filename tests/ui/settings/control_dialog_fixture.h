@@ -12,9 +12,11 @@ namespace tarnwick::testing {
 /// A main window whose settings dialog is opened as a user opens it.
 class ControlDialogTest : public DialogTest {
  protected:
-  /// Starts the program and presses Setup.
+  /// Starts the program, unless it runs, and presses Setup.
   ControlDialog& openSettings(const char* button = "btnSetup") {
-    open();
+    if (master == nullptr) {
+      open();
+    }
     master->setEditors({.site = {}, .settings = settingsDialogOf(master->program(), *master)});
     click(button);
     auto& dialog = opened<ControlDialog>();
