@@ -4819,6 +4819,10 @@
         <source>The system makes no SHA-256 digest.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Site %1 would have more than %2 tags. Remove some first.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -7808,6 +7812,133 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::RowActions</name>
+    <message>
+        <source>Check %1 sites now?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 are not active and are not checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell of %1 sites again?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 are not acknowledged and stay as they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ending acknowledgements ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acknowledge the wrong pages of %1 sites? Nothing is said of them while exactly these pages stay.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 have no such page and stay as they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acknowledging pages ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause the alerts of %1 sites %2?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pausing alerts ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resume the alerts of %1 sites?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 are not paused and stay as they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resuming alerts ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the counters of this site to 0?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the counters of %1 sites to 0?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 are at 0 and stay as they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do You Want To Delete This Site?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do You Want To Delete These %1 Sites?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deleting sites ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check 1 site now?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 is not active and is not checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell of 1 site again?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 is not acknowledged and stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acknowledge the wrong page of 1 site? Nothing is said of it while exactly this page stays.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 has no such page and stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resume the alerts of 1 site?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 is not paused and stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 is at 0 and stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clearing counters ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::RuleTableModel</name>
     <message>
         <source>Rule %1 matches nothing: it would not be watched.</source>
@@ -8061,11 +8192,55 @@ Do You Want To Discard Them And Close %2?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Site %1: %2</source>
+        <source>This Always C&amp;hanges…</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This Always C&amp;hanges…</source>
+        <source>Check &amp;Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ac&amp;knowledge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset Counters…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open in &amp;Browser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy Address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cop&amp;y Rows as Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose one site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No page differs from its baseline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The site is not active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no wrong page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The counters are at 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm A&amp;gain</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8167,6 +8342,13 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>known</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteWork</name>
+    <message>
+        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

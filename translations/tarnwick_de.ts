@@ -4819,6 +4819,10 @@
         <source>The system makes no SHA-256 digest.</source>
         <translation>Das System berechnet keine SHA-256-Prüfsumme.</translation>
     </message>
+    <message>
+        <source>Site %1 would have more than %2 tags. Remove some first.</source>
+        <translation>Seite %1 hätte mehr als %2 Schlagwörter. Entfernen Sie zuerst einige.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -7811,6 +7815,133 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::RowActions</name>
+    <message>
+        <source>Check %1 sites now?</source>
+        <translation>%1 Seiten jetzt prüfen?</translation>
+    </message>
+    <message>
+        <source>%1 of %2 are not active and are not checked.</source>
+        <translation>%1 von %2 sind nicht aktiv und werden nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>Tell of %1 sites again?</source>
+        <translation>Von %1 Seiten wieder melden?</translation>
+    </message>
+    <message>
+        <source>%1 of %2 are not acknowledged and stay as they are.</source>
+        <translation>%1 von %2 sind nicht als bekannt vermerkt und bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Ending acknowledgements ...</source>
+        <translation>Vermerke werden entfernt ...</translation>
+    </message>
+    <message>
+        <source>Acknowledge the wrong pages of %1 sites? Nothing is said of them while exactly these pages stay.</source>
+        <translation>Die falschen Inhalte von %1 Seiten als bekannt vermerken? Von ihnen wird nichts gemeldet, solange genau diese Inhalte bleiben.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 have no such page and stay as they are.</source>
+        <translation>%1 von %2 haben keinen solchen Inhalt und bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Acknowledging pages ...</source>
+        <translation>Inhalte werden als bekannt vermerkt ...</translation>
+    </message>
+    <message>
+        <source>Pause the alerts of %1 sites %2?</source>
+        <translation>Die Meldungen von %1 Seiten pausieren, %2?</translation>
+    </message>
+    <message>
+        <source>Pausing alerts ...</source>
+        <translation>Meldungen werden pausiert ...</translation>
+    </message>
+    <message>
+        <source>Resume the alerts of %1 sites?</source>
+        <translation>Die Meldungen von %1 Seiten fortsetzen?</translation>
+    </message>
+    <message>
+        <source>%1 of %2 are not paused and stay as they are.</source>
+        <translation>%1 von %2 sind nicht pausiert und bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Resuming alerts ...</source>
+        <translation>Meldungen werden fortgesetzt ...</translation>
+    </message>
+    <message>
+        <source>Set the counters of this site to 0?</source>
+        <translation>Die Zähler dieser Seite auf 0 setzen?</translation>
+    </message>
+    <message>
+        <source>Set the counters of %1 sites to 0?</source>
+        <translation>Die Zähler von %1 Seiten auf 0 setzen?</translation>
+    </message>
+    <message>
+        <source>%1 of %2 are at 0 and stay as they are.</source>
+        <translation>%1 von %2 stehen auf 0 und bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Do You Want To Delete This Site?</source>
+        <translation>Möchten Sie diese Seite löschen?</translation>
+    </message>
+    <message>
+        <source>Do You Want To Delete These %1 Sites?</source>
+        <translation>Möchten Sie diese %1 Seiten löschen?</translation>
+    </message>
+    <message>
+        <source>Deleting sites ...</source>
+        <translation>Seiten werden gelöscht ...</translation>
+    </message>
+    <message>
+        <source>Site %1: %2</source>
+        <translation>Seite %1: %2</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Check 1 site now?</source>
+        <translation>1 Seite jetzt prüfen?</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is not active and is not checked.</source>
+        <translation>%1 von %2 ist nicht aktiv und wird nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>Tell of 1 site again?</source>
+        <translation>Von 1 Seite wieder melden?</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is not acknowledged and stays as it is.</source>
+        <translation>%1 von %2 ist nicht als bekannt vermerkt und bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Acknowledge the wrong page of 1 site? Nothing is said of it while exactly this page stays.</source>
+        <translation>Den falschen Inhalt von 1 Seite als bekannt vermerken? Von ihr wird nichts gemeldet, solange genau dieser Inhalt bleibt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 has no such page and stays as it is.</source>
+        <translation>%1 von %2 hat keinen solchen Inhalt und bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Resume the alerts of 1 site?</source>
+        <translation>Die Meldungen von 1 Seite fortsetzen?</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is not paused and stays as it is.</source>
+        <translation>%1 von %2 ist nicht pausiert und bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is at 0 and stays as it is.</source>
+        <translation>%1 von %2 steht auf 0 und bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Clearing counters ...</source>
+        <translation>Zähler werden zurückgesetzt ...</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::RuleTableModel</name>
     <message>
         <source>Rule %1 matches nothing: it would not be watched.</source>
@@ -8064,12 +8195,56 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Site %1: %2</source>
-        <translation>Seite %1: %2</translation>
-    </message>
-    <message>
         <source>This Always C&amp;hanges…</source>
         <translation>Das ändert sich &amp;immer …</translation>
+    </message>
+    <message>
+        <source>Check &amp;Now</source>
+        <translation>Jetzt &amp;prüfen</translation>
+    </message>
+    <message>
+        <source>Ac&amp;knowledge</source>
+        <translation>&amp;Bekannt</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Counters…</source>
+        <translation>Zähle&amp;r zurücksetzen…</translation>
+    </message>
+    <message>
+        <source>Open in &amp;Browser</source>
+        <translation>Im Bro&amp;wser öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Address</source>
+        <translation>Adresse &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y Rows as Text</source>
+        <translation>&amp;Zeilen als Text kopieren</translation>
+    </message>
+    <message>
+        <source>Choose one site</source>
+        <translation>Wählen Sie eine Seite</translation>
+    </message>
+    <message>
+        <source>No page differs from its baseline</source>
+        <translation>Kein Inhalt weicht von seiner Basis ab</translation>
+    </message>
+    <message>
+        <source>The site is not active</source>
+        <translation>Die Seite ist nicht aktiv</translation>
+    </message>
+    <message>
+        <source>There is no wrong page</source>
+        <translation>Es gibt keinen falschen Inhalt</translation>
+    </message>
+    <message>
+        <source>The counters are at 0</source>
+        <translation>Die Zähler stehen auf 0</translation>
+    </message>
+    <message>
+        <source>Alarm A&amp;gain</source>
+        <translation>Wieder &amp;melden</translation>
     </message>
 </context>
 <context>
@@ -8171,6 +8346,13 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>known</source>
         <translation>bekannt</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

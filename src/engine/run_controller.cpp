@@ -76,6 +76,7 @@ void RunController::prepare() {
 
 void RunController::startChecking() {
   if (running_) {
+    startWanted_ = testsOnce_;
     return;
   }
   needs_.view.showStatus("Running.");
@@ -101,6 +102,7 @@ void RunController::stopChecking() {
   needs_.alerts.giveUpMail();
   needs_.view.indicators(RunState::pause);
   running_ = false;
+  startWanted_ = false;
   needs_.view.indicators(RunState::stop);
   tmrCheckSites_->setEnabled(false);
   forgetOffline();
@@ -188,11 +190,27 @@ void RunController::proveLife() {
 const std::string& RunController::heartbeatFault() const { return life_->heartbeatFault(); }
 
 bool RunController::testOnce(TextTable sites) {
-  TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_});
-  // The pass looks at this flag; it is lowered before the pass puts the lamps right.
-  const RaisedFlag whileTested(running_);
-  pass.test(std::move(sites));
-  return running_;
+  startWanted_ = false;
+  const bool whole = [&] {
+    TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_});
+    // The pass looks at this flag; it is lowered before the pass puts the lamps right.
+    const RaisedFlag whileTested(running_);
+    const RaisedFlag withoutRun(testsOnce_);
+    pass.test(std::move(sites));
+    return running_;
+  }();
+  if (std::exchange(startWanted_, false)) {
+    startChecking();
+  }
+  return whole;
+}
+
+void RunController::checkSoon(const std::vector<std::int16_t>& ids) {
+  for (const std::int16_t id : ids) {
+    sites_.owe(id);
+  }
+  secondsToNext_ = 0;
+  standstill_.reset();
 }
 
 void RunController::recordResult(std::int16_t idSite, bool result) {

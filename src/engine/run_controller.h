@@ -77,8 +77,12 @@ class RunController {
   /// One test pass over the sites of `mode` (see `DueSites::getArraySitesActiveTrue`); nothing when one is in progress.
   void runTestPass(std::int16_t mode);
   /// Tests the sites of a site table once, without a run: no countdown follows. Stop ends it as it ends a run's pass;
-  /// false then. REQUIRES: no run is on and no pass in progress.
+  /// false then. A run that is started meanwhile begins when that is done. REQUIRES: no run is on and no pass in
+  /// progress.
   bool testOnce(TextTable sites);
+  /// These sites are due at once in the run that is on, whatever the time of their last check. One that is not active
+  /// is left out.
+  void checkSoon(const std::vector<std::int16_t>& ids);
   /// These options hold from now on, as at the beginning of each pass those that are stored.
   void obey(OptionsInForce options);
   /// `sites` without those that are not to be checked now, since that is how their quiet time is to be spent.
@@ -158,6 +162,9 @@ class RunController {
   std::unique_ptr<Timer> tmrCheckSites_;
   std::unique_ptr<Timer> timer2_;
   bool running_ = false;
+  // Sites are tested without a run, and whether one has been asked for meanwhile.
+  bool testsOnce_ = false;
+  bool startWanted_ = false;
   bool busy_ = false;
   bool inTimerPass_ = false;
   bool foundNothing_ = false;  // the last pass

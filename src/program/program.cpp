@@ -1,9 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "program/program.h"
 
+#include <set>
+#include <string>
 #include <utility>
 
+#include "store/site_table.h"
+
 namespace tarnwick {
+namespace {
+
+TextTable sitesOf(m& data, const std::vector<std::int16_t>& ids) {
+  if (ids.size() == 1) {
+    return data.getArraySites(ids.front());
+  }
+  std::set<std::string> texts;
+  for (const std::int16_t id : ids) {
+    texts.insert(std::to_string(id));
+  }
+  const TextTable all = data.getArraySites(0);
+  return rowsWhere(all, [&](std::size_t row) { return texts.contains(all.at(site_column::idSite, row)); });
+}
+
+}  // namespace
 
 // What needs the open database. The controller refers to the pool and the data, so it is the first to go.
 struct Program::Parts {
@@ -84,6 +103,21 @@ bool Program::startRun() {
 void Program::stopRun() {
   faults_.run([this] { run().stopChecking(); });
   lock_->release();
+}
+
+void Program::checkNow(const std::vector<std::int16_t>& ids) {
+  faults_.run(
+      [&] {
+        if (run().running()) {
+          run().checkSoon(ids);
+        } else if (!run().busy()) {
+          run().obey(data().optionsInForce());
+          if (run().testOnce(sitesOf(data(), ids)) && !run().running()) {
+            view_.showStatus("Ready ...");
+          }
+        }
+      },
+      "run");
 }
 
 void Program::close() {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "engine/inet_pool.h"
 #include "engine/run_controller.h"
@@ -55,6 +57,11 @@ class Program {
   /// ended; false when it failed, also because another process has a run on in this folder.
   bool startRun();
   void stopRun();
+
+  /// Checks these sites: in the run that is on, if there is one, which takes those that are active as soon as it can;
+  /// otherwise at once, and no countdown follows. It returns when they have been checked then. A failure ends in one
+  /// box. Nothing while a pass comes to its end after Stop.
+  void checkNow(const std::vector<std::int16_t>& ids);
 
   /// Ends every wait and transfer: what the closing of the last window does. A pass in progress unwinds.
   void close();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "program/site_changes.h"
 
+#include <stdexcept>
 #include <utility>
 
 #include "base/sql_value.h"
@@ -66,28 +67,44 @@ void change(m& data, std::int16_t id, const SiteChanges& changes) {
     data.clearCounters(id);
   }
   if (!changes.addedTags.empty() || !changes.removedTags.empty()) {
-    data.storeTags(id, changedTags(data.tagsOf(id), changes));
+    const Tags tags = changedTags(data.tagsOf(id), changes);
+    if (tags.size() > kMostTags) {
+      throw std::runtime_error("Site " + std::to_string(id) + " would have more than " + std::to_string(kMostTags) +
+                               " tags. Remove some first.");
+    }
+    data.storeTags(id, tags);
   }
 }
 
 }  // namespace
 
+std::optional<PlannedChange> planChange(m& data, std::int16_t idSite, const SiteChanges& changes) {
+  auto what = whatChanges(data, idSite, changes);
+  return what.empty() ? std::nullopt : std::optional(PlannedChange{idSite, std::move(what)});
+}
+
 std::vector<PlannedChange> planChanges(m& data, const std::vector<std::int16_t>& ids, const SiteChanges& changes) {
   std::vector<PlannedChange> plan;
   for (const std::int16_t id : ids) {
-    if (auto what = whatChanges(data, id, changes); !what.empty()) {
-      plan.push_back({id, std::move(what)});
+    if (auto planned = planChange(data, id, changes)) {
+      plan.push_back(std::move(*planned));
     }
   }
   return plan;
 }
 
+void carryOutChange(m& data, std::int16_t idSite, const SiteChanges& changes) {
+  Transaction whole(data.database());
+  if (data.idExists(idSite)) {
+    change(data, idSite, changes);
+  }
+  whole.commit();
+}
+
 void carryOutChanges(m& data, const std::vector<PlannedChange>& plan, const SiteChanges& changes) {
   Transaction whole(data.database());
   for (const PlannedChange& planned : plan) {
-    if (data.idExists(planned.idSite)) {
-      change(data, planned.idSite, changes);
-    }
+    carryOutChange(data, planned.idSite, changes);
   }
   whole.commit();
 }

@@ -32,11 +32,17 @@ struct PlannedChange {
   std::vector<std::string> what;
 };
 
+/// What changes of one site; nothing when it stays as it is, or is gone. Raises DataAccessError.
+std::optional<PlannedChange> planChange(m& data, std::int16_t idSite, const SiteChanges& changes);
+
+/// Changes one site; nothing when it is gone. Raises as `carryOutChanges`.
+void carryOutChange(m& data, std::int16_t idSite, const SiteChanges& changes);
+
 /// The sites of which something changes, in the order of `ids`: the preview. Raises DataAccessError.
 std::vector<PlannedChange> planChanges(m& data, const std::vector<std::int16_t>& ids, const SiteChanges& changes);
 
 /// Changes them, all or none. Sites that are gone meanwhile are left out. Raises DataAccessError, and
-/// std::runtime_error for an option's value that is none.
+/// std::runtime_error for an option's value that is none, and for more tags than a site may have.
 void carryOutChanges(m& data, const std::vector<PlannedChange>& plan, const SiteChanges& changes);
 
 }  // namespace tarnwick

@@ -48,7 +48,8 @@ ROOMS = {
     "ui/settings": WINDOW,
     "ui/exchange": (*WINDOW, "exchange/list", "exchange/foreign", "platform/os"),
     "ui/outbox": WINDOW,
-    "ui/main_window": WINDOW,
+    "ui/rows": WINDOW,
+    "ui/main_window": (*WINDOW, "ui/rows"),
     "app": None,  # puts together whatever there is
 }
 # What reads the files of other programs.
@@ -79,6 +80,7 @@ LIBRARIES = {
     "ui/settings": QT,
     "ui/exchange": QT,
     "ui/outbox": QT,
+    "ui/rows": QT,
     "ui/main_window": QT,
     "app": QT,
 }

@@ -178,7 +178,7 @@ void ImportDialog::showDone(const QString& what) {
 }
 
 void ImportDialog::plan() {
-  work_ = std::make_unique<ImportWork>(program_, list_.list, ImportWork::Aim::plan,
+  work_ = std::make_unique<ImportWork>(program_, list_.list, ImportWork::Aim::read,
                                        [this] { program_.faults().run([this] { tellPlan(); }); });
   showDone(tr("Comparing with the list ..."));
 }

@@ -20,7 +20,7 @@ SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(p
   setModel(&order_);
   setItemDelegate(new SiteRowDelegate(this));
   setSelectionBehavior(SelectRows);
-  setSelectionMode(SingleSelection);
+  setSelectionMode(ExtendedSelection);
   setEditTriggers(NoEditTriggers);
   setTabKeyNavigation(false);
   setWordWrap(false);
@@ -41,7 +41,7 @@ SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(p
   horizontalHeader()->viewport()->setMouseTracking(true);
   horizontalHeader()->viewport()->installEventFilter(this);
   setContextMenuPolicy(Qt::CustomContextMenu);
-  connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) { Q_EMIT rowChosen(listRow(index)); });
+  connect(this, &QTableView::clicked, this, &SiteGridView::onClick);
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &SiteGridView::captionClicked);
 }
 
@@ -123,61 +123,6 @@ QString SiteGridView::columnToolTip(int column) const {
   // The original hints are one more than the columns.
   const char* hint = index == columns.size() ? QT_TR_NOOP("Date Last Checked") : columns[index].hint;
   return hint == nullptr ? QString() : tr(hint);
-}
-
-void SiteGridView::selectSite(std::int16_t idSite) {
-  const int row = sites_.rowOfSite(idSite);
-  if (row >= 0 && order_.shownRow(row) < 0) {
-    Q_EMIT hiddenSiteWanted();
-  }
-  selectListRow(row);
-}
-
-void SiteGridView::selectListRow(int row) {
-  if (const int shown = row < 0 ? -1 : order_.shownRow(row); shown >= 0) {
-    selectRow(shown);
-    scrollTo(order_.index(shown, SiteGridModel::idColumn));
-  }
-}
-
-std::optional<std::int16_t> SiteGridView::currentDifferingSite() const {
-  const int row = listRow(currentIndex());
-  return row >= 0 && sites_.differsInRow(row) ? currentSite() : std::nullopt;
-}
-
-std::optional<std::int16_t> SiteGridView::currentSite() const { return sites_.siteOfRow(listRow(currentIndex())); }
-
-void SiteGridView::setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched) {
-  const auto current = currentSite();
-  const int place = std::max(currentIndex().row(), 0);
-  const int scrolled = verticalScrollBar()->value();
-  sites_.setSites(sites, notFetched);
-  keepCurrent(current, place);
-  // The scroll bar learns of the new rows with the next layout, which must come first.
-  updateGeometries();
-  verticalScrollBar()->setValue(scrolled);
-  isFilled_ = true;
-  shareRoom();
-  Q_EMIT filled();
-}
-
-void SiteGridView::changeOrder(const std::function<void()>& change) {
-  const auto current = currentSite();
-  const int place = std::max(currentIndex().row(), 0);
-  change();
-  keepCurrent(current, place);
-  if (currentIndex().isValid()) {
-    scrollTo(currentIndex());
-  }
-}
-
-// There is always a row that the keys begin at; where its site is gone, the one that has moved up.
-void SiteGridView::keepCurrent(std::optional<std::int16_t> site, int place) {
-  const int row = site ? sites_.rowOfSite(*site) : -1;
-  const int shown = row >= 0 ? order_.shownRow(row) : -1;
-  if (order_.rowCount() > 0) {
-    selectRow(shown >= 0 ? shown : std::min(place, order_.rowCount() - 1));
-  }
 }
 
 QString SiteGridView::reasonOf(int row) const {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <set>
+#include <vector>
 #include <QTableView>
 
 #include "ui/main_window/site_grid_model.h"
@@ -34,17 +35,24 @@ class SiteGridView final : public QTableView {
   /// The same where the last check brought a page that differs from the baseline.
   std::optional<std::int16_t> currentDifferingSite() const;
 
-  /// Shows `sites` in place of what is shown (see `SiteGridModel::setSites`); the current row and the scroll position
-  /// stay with their site. Where there is a row, one is current.
+  /// The rows of the list that are chosen, in the order in which they are shown; that of the current one where none is.
+  std::vector<int> chosenRows() const;
+  /// Chooses those sites that are shown; the current row stays.
+  void selectSites(const std::vector<std::int16_t>& ids);
+
+  /// Shows `sites` in place of what is shown (see `SiteGridModel::setSites`); the rows that are chosen and the scroll
+  /// position stay with their sites. Where there is a row, one is current.
   void setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched = {});
 
-  /// Lets `change` find or sort; the current row stays with its site while that is shown.
+  /// Lets `change` find or sort; the rows that are chosen stay with their sites while those are shown.
   void changeOrder(const std::function<void()>& change);
 
   /// Sets what tells why a site is down; it is asked for the site that somebody looks at, and may take its time.
   void setReasons(std::function<QString(std::int16_t idSite)> reasons) { reasons_ = std::move(reasons); }
   /// How many sites of the list are down.
   int downCount() const { return sites_.downCount(); }
+  /// What is known of the site of a row of the list.
+  const SiteGridModel& sites() const { return sites_; }
   /// The row of the list that an index of the grid stands for; -1 for none.
   int listRow(const QModelIndex& index) const { return order_.mapToSource(index).row(); }
   /// Why the site of a row of the list is down, or up without a page; empty for all others.
@@ -55,8 +63,11 @@ class SiteGridView final : public QTableView {
  Q_SIGNALS:
   /// `setSites` has shown a list.
   void filled();
-  /// A data row was clicked, or Enter was pressed on it: its row in the list.
+  /// A data row was clicked, or Enter was pressed on it: its row in the list. A click that only chooses rows, with Ctrl
+  /// or Shift or on a further column, is none.
   void rowChosen(int row);
+  /// The icon of a row was clicked: somebody wants to know what has changed there.
+  void detailsWanted(int row);
   /// A site is to be shown that the filter leaves out.
   void hiddenSiteWanted();
   /// The caption of a column was clicked.
@@ -64,6 +75,9 @@ class SiteGridView final : public QTableView {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
   bool viewportEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -72,7 +86,9 @@ class SiteGridView final : public QTableView {
  private:
   void setUpColumns();
   void selectListRow(int row);
-  void keepCurrent(std::optional<std::int16_t> site, int place);
+  void selectShown(int shownRow);
+  void keepChosen(const std::function<void()>& change);
+  void onClick(const QModelIndex& cell);
   void shareRoom();
   void setRowHeight();
   void followMouse(int x);
@@ -81,6 +97,8 @@ class SiteGridView final : public QTableView {
   SiteGridModel& sites_;
   SiteOrder order_;
   std::function<QString(std::int16_t)> reasons_;
+  QPoint pressed_;
+  Qt::KeyboardModifiers pressedWith_;
   int stretched_ = 0;
   bool isFilled_ = false;
   bool isShared_ = false;

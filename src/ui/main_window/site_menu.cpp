@@ -2,16 +2,18 @@
 #include "ui/main_window/site_menu.h"
 
 #include <algorithm>
+#include <QClipboard>
 #include <QDateTimeEdit>
 #include <QDialog>
+#include <QGuiApplication>
 #include <QShortcut>
 #include <QVBoxLayout>
 
 #include "store/site_pauses.h"
 #include "ui/controls/alarm_words.h"
-#include "ui/controls/boxes.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
+#include "ui/controls/page_opener.h"
 #include "ui/main_window/site_grid_model.h"
 
 namespace tarnwick {
@@ -26,7 +28,11 @@ QDateTime shown(LocalTime time) {
 }  // namespace
 
 SiteMenu::SiteMenu(Program& program, SiteGridView& grid, QMenu& all, QObject* parent)
-    : QObject(parent), program_(program), grid_(grid), row_(new QMenu(&grid)) {
+    : QObject(parent),
+      program_(program),
+      grid_(grid),
+      actions_(new RowActions(program, *grid.window(), this)),
+      row_(new QMenu(&grid)) {
   makeRowMenu();
   addPauses(
       all, [this](const Pause& pause) { pauseAll(pause); }, [this] { resumeAll(); });
@@ -35,45 +41,66 @@ SiteMenu::SiteMenu(Program& program, SiteGridView& grid, QMenu& all, QObject* pa
 
 void SiteMenu::makeRowMenu() {
   row_->setObjectName(QStringLiteral("rowMenu"));
-  QAction* openSite = row_->addAction(tr("&Open Site…"), this, [this] {
+  row_->setToolTipsVisible(true);
+  openSite_ = row_->addAction(tr("&Open Site…"), this, [this] {
     if (grid_.currentIndex().isValid()) {
       Q_EMIT grid_.rowChosen(grid_.listRow(grid_.currentIndex()));
     }
   });
-  openSite->setObjectName(QStringLiteral("openSite"));
+  openSite_->setObjectName(QStringLiteral("openSite"));
+  openSite_->setText(openSite_->text() + QLatin1Char('\t') +
+                     QKeySequence(Qt::Key_Enter).toString(QKeySequence::NativeText));
+  check_ = add("checkNow", tr("Check &Now"), Qt::CTRL | Qt::Key_R, &RowActions::checkNow);
   row_->addSeparator();
-  always_ = row_->addAction(tr("This Always C&hanges…"), this, [this] {
+  always_ = add("alwaysChanges", tr("This Always C&hanges…"), Qt::CTRL | Qt::SHIFT | Qt::Key_V, [this] {
     if (const auto idSite = grid_.currentDifferingSite()) {
       Q_EMIT alwaysChanges(*idSite);
     }
   });
-  always_->setObjectName(QStringLiteral("alwaysChanges"));
-  // It says whether there is something to do while the menu is shown; the keys look for themselves.
-  connect(row_, &QMenu::aboutToHide, always_, [this] { always_->setEnabled(true); });
-  row_->addSeparator();
+  acknowledge_ = add("acknowledge", tr("Ac&knowledge"), Qt::CTRL | Qt::SHIFT | Qt::Key_K, &RowActions::acknowledge);
   QMenu* pauses = row_->addMenu(tr("&Pause"));
   pauses->setObjectName(QStringLiteral("pauseSite"));
   addPauses(
-      *pauses, [this](const Pause& pause) { pauseSite(pause); }, [this] { resumeSite(); });
+      *pauses, [this](const Pause& pause) { actions_->pause(chosen(), pause); },
+      [this] { actions_->resume(chosen()); });
+  addKey(*pauses->actions().front(), Qt::CTRL | Qt::Key_P);
   row_->addSeparator();
-  QAction* remove = row_->addAction(tr("&Delete…"), this, &SiteMenu::remove);
-  remove->setObjectName(QStringLiteral("deleteSite"));
-  // Told in the menu, carried out by the list alone: elsewhere the keys are those of a text.
-  const auto key = [this](QAction& action, const QKeySequence& keys) {
+  reset_ = add("resetCounters", tr("&Reset Counters…"), {}, &RowActions::resetCounters);
+  row_->addSeparator();
+  browser_ = add("openInBrowser", tr("Open in &Browser"), Qt::CTRL | Qt::Key_B, [this] { openInBrowser(); });
+  add("copyAddress", tr("&Copy Address"), QKeySequence::Copy, [this] { copyAddresses(); });
+  add("copyRows", tr("Cop&y Rows as Text"), Qt::CTRL | Qt::SHIFT | Qt::Key_C, [this] { copyRows(); });
+  row_->addSeparator();
+  add("deleteSite", tr("&Delete…"), QKeySequence::Delete, &RowActions::remove);
+  // What means nothing is told while the menu is shown; the keys look for themselves.
+  connect(row_, &QMenu::aboutToHide, this, &SiteMenu::allowAll);
+}
+
+QAction* SiteMenu::add(const char* name, const QString& caption, const QKeySequence& keys,
+                       const std::function<void()>& action) {
+  QAction* entry = row_->addAction(caption, this, [this, action] { program_.faults().run(action); });
+  entry->setObjectName(QString::fromLatin1(name));
+  addKey(*entry, keys);
+  return entry;
+}
+
+QAction* SiteMenu::add(const char* name, const QString& caption, const QKeySequence& keys, Doing action) {
+  return add(name, caption, keys, [this, action] { (actions_->*action)(chosen()); });
+}
+
+// Told in the menu, carried out by the list alone: elsewhere the keys are those of a text.
+void SiteMenu::addKey(QAction& action, const QKeySequence& keys) {
+  if (!keys.isEmpty()) {
     action.setText(action.text() + QLatin1Char('\t') + keys.toString(QKeySequence::NativeText));
     connect(new QShortcut(keys, &grid_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, &action,
             &QAction::trigger);
-  };
-  openSite->setText(openSite->text() + QLatin1Char('\t') +
-                    QKeySequence(Qt::Key_Enter).toString(QKeySequence::NativeText));
-  key(*always_, Qt::CTRL | Qt::SHIFT | Qt::Key_V);
-  key(*pauses->actions().front(), Qt::CTRL | Qt::Key_P);
-  key(*remove, QKeySequence::Delete);
+  }
 }
 
-QMenu* SiteMenu::addPauses(QMenu& menu, const Pausing& pause, const std::function<void()>& resume) {
+void SiteMenu::addPauses(QMenu& menu, const Pausing& pause, const std::function<void()>& resume) {
   const auto add = [&](const char* name, const QString& caption, const std::function<void()>& action) {
-    menu.addAction(caption, this, [this, action] { run(action); })->setObjectName(QString::fromLatin1(name));
+    menu.addAction(caption, this, [this, action] { program_.faults().run(action); })
+        ->setObjectName(QString::fromLatin1(name));
   };
   const auto now = [this] { return program_.services().clock.localNow(); };
   add("pauseHour", tr("for 1 &Hour"), [pause, now] { pause({true, now() + std::chrono::hours(1)}); });
@@ -82,11 +109,51 @@ QMenu* SiteMenu::addPauses(QMenu& menu, const Pausing& pause, const std::functio
   add("pauseForGood", tr("for &Good"), [pause] { pause({true, std::nullopt}); });
   menu.addSeparator();
   add("resume", tr("&Resume"), resume);
-  return &menu;
+}
+
+ChosenSites SiteMenu::chosen() const {
+  ChosenSites chosen;
+  for (const int row : grid_.chosenRows()) {
+    const SiteRow& site = grid_.sites().row(row);
+    const auto isCounted = [&](std::size_t column) { return !site.cells[column].empty() && site.cells[column] != "0"; };
+    chosen.push_back({.idSite = *grid_.sites().siteOfRow(row),
+                      .url = site.cells[SiteGridModel::urlColumn],
+                      .active = site.shade != SiteRow::Shade::inactive,
+                      .down = site.status == false,
+                      .known = site.alarm.state == AlarmView::State::known,
+                      .paused = site.alarm.paused,
+                      .counted = isCounted(SiteGridModel::upColumn) || isCounted(SiteGridModel::downColumn)});
+  }
+  return chosen;
+}
+
+void SiteMenu::allowAll() {
+  for (QAction* action : row_->actions()) {
+    action->setEnabled(true);
+    action->setToolTip({});
+  }
+}
+
+void SiteMenu::adjust() {
+  const ChosenSites sites = chosen();
+  const bool isOne = sites.size() == 1;
+  const auto allow = [](QAction& action, bool means, const QString& whyNot) {
+    action.setEnabled(means);
+    action.setToolTip(means ? QString() : whyNot);
+  };
+  allow(*openSite_, isOne, tr("Choose one site"));
+  allow(*always_, isOne && grid_.currentDifferingSite(), tr("No page differs from its baseline"));
+  allow(*browser_, isOne, tr("Choose one site"));
+  allow(*check_, std::ranges::any_of(sites, &ChosenSite::active), tr("The site is not active"));
+  allow(*acknowledge_, !RowActions::toAcknowledge(sites).empty(), tr("There is no wrong page"));
+  allow(*reset_, std::ranges::any_of(sites, &ChosenSite::counted), tr("The counters are at 0"));
+  const QString keys = acknowledge_->text().section(QLatin1Char('\t'), 1);
+  acknowledge_->setText((RowActions::endsAcknowledgement(sites) ? tr("Alarm A&gain") : tr("Ac&knowledge")) +
+                        QLatin1Char('\t') + keys);
 }
 
 void SiteMenu::open(const QPoint& place) {
-  always_->setEnabled(grid_.currentDifferingSite().has_value());
+  adjust();
   const QModelIndex cell = grid_.indexAt(place);
   const QRect current = grid_.visualRect(grid_.currentIndex());
   // The Menu key asks for the current row, wherever the pointer is.
@@ -96,8 +163,6 @@ void SiteMenu::open(const QPoint& place) {
     row_->popup(grid_.viewport()->mapToGlobal(current.bottomLeft()));
   }
 }
-
-void SiteMenu::run(const std::function<void()>& action) { program_.faults().run(action); }
 
 void SiteMenu::pauseUntil(const Pausing& pause) {
   auto* dialog = new QDialog(grid_.window());
@@ -124,23 +189,9 @@ void SiteMenu::pauseUntil(const Pausing& pause) {
   connect(ok, &QPushButton::clicked, dialog, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
   connect(dialog, &QDialog::accepted, this, [this, until, pause] {
-    run([&] { pause({true, parseStamp(until->dateTime().toString(kMoment).toStdString())}); });
+    program_.faults().run([&] { pause({true, parseStamp(until->dateTime().toString(kMoment).toStdString())}); });
   });
   dialog->open();
-}
-
-void SiteMenu::pauseSite(const Pause& pause) {
-  if (const auto idSite = grid_.currentSite()) {
-    SitePauses(program_.data().database(), program_.data()).pause({*idSite}, pause);
-    program_.run().init();
-  }
-}
-
-void SiteMenu::resumeSite() {
-  if (const auto idSite = grid_.currentSite()) {
-    SitePauses(program_.data().database(), program_.data()).resume({*idSite}, program_.services().clock.localNow());
-    program_.run().init();
-  }
 }
 
 void SiteMenu::pauseAll(const Pause& pause) {
@@ -153,21 +204,33 @@ void SiteMenu::resumeAll() {
   program_.run().init();
 }
 
-void SiteMenu::remove() {
-  const auto idSite = grid_.currentSite();
-  if (!idSite) {
-    return;
+void SiteMenu::openInBrowser() {
+  if (const ChosenSites sites = chosen(); sites.size() == 1) {
+    visitPage(program_.services(), sites.front().url, grid_.window());
   }
-  const QString url = grid_.model()->index(grid_.currentIndex().row(), SiteGridModel::urlColumn).data().toString();
-  const QString site = tr("Site %1: %2").arg(*idSite).arg(url);
-  ask(*grid_.window(), program_,
-      {.text = "Do You Want To Delete This Site?\n\n" + site.toStdString(), .destroys = true},
-      [this, id = *idSite](bool yes) {
-        if (yes) {
-          program_.data().deleteSite(id);
-          program_.run().init();
-        }
-      });
+}
+
+void SiteMenu::copyAddresses() {
+  QStringList addresses;
+  for (const ChosenSite& site : chosen()) {
+    addresses << displayText(site.url);
+  }
+  QGuiApplication::clipboard()->setText(addresses.join(QLatin1Char('\n')));
+}
+
+// What is shown, as a table that spreadsheets take.
+void SiteMenu::copyRows() {
+  QStringList lines;
+  for (const int row : grid_.chosenRows()) {
+    QStringList cells;
+    for (int column = 0; column < grid_.sites().columnCount(); ++column) {
+      if (!grid_.isColumnHidden(column)) {
+        cells << grid_.sites().index(row, column).data().toString().simplified();
+      }
+    }
+    lines << cells.join(QLatin1Char('\t'));
+  }
+  QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
 }
 
 }  // namespace tarnwick

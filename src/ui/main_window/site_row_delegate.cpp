@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QStyle>
+#include <QTableView>
 
 #include "ui/main_window/site_grid_model.h"
 
@@ -51,19 +52,33 @@ void paintEdges(QPainter& painter, const QPen& pen, const QRect& cell, bool firs
   }
 }
 
-void paintFrame(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
-  constexpr int kThickness = 2;
+int lastShown(const QStyleOptionViewItem& option, const QModelIndex& index) {
+  int last = index.model()->columnCount() - 1;
+  if (const auto* grid = qobject_cast<const QTableView*>(option.widget)) {
+    while (last > 0 && grid->isColumnHidden(last)) {
+      --last;
+    }
+  }
+  return last;
+}
+
+bool isCurrentRow(const QStyleOptionViewItem& option, const QModelIndex& index) {
+  const auto* grid = qobject_cast<const QTableView*>(option.widget);
+  return grid != nullptr && grid->currentIndex().row() == index.row();
+}
+
+void paintFrame(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index, int thickness) {
   const QRect& cell = option.rect;
   const bool first = index.column() == 0;
-  const bool last = index.column() == index.model()->columnCount() - 1;
+  const bool last = index.column() == lastShown(option, index);
   painter.save();
   // The grid is white in every theme, so the frame is dark in every theme.
-  QPen pen(Qt::black, kThickness, Qt::SolidLine, Qt::FlatCap);
+  QPen pen(Qt::black, thickness, Qt::SolidLine, Qt::FlatCap);
   if (option.widget != nullptr && !option.widget->hasFocus()) {
-    paintEdges(painter, QPen(Qt::white, kThickness, Qt::SolidLine, Qt::FlatCap), cell, first, last);
+    paintEdges(painter, QPen(Qt::white, thickness, Qt::SolidLine, Qt::FlatCap), cell, first, last);
     // The dashes of a cell go on in the next one.
     pen.setDashPattern({3, 2});
-    pen.setDashOffset(cell.left() / static_cast<qreal>(kThickness));
+    pen.setDashOffset(cell.left() / static_cast<qreal>(thickness));
   }
   paintEdges(painter, pen, cell, first, last);
   painter.restore();
@@ -83,8 +98,12 @@ void SiteRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
   } else {
     QStyledItemDelegate::paint(painter, plain, index);
   }
+  constexpr int kChosen = 2;
+  constexpr int kCurrent = 1;
   if (option.state.testFlag(QStyle::State_Selected)) {
-    paintFrame(*painter, option, index);
+    paintFrame(*painter, option, index, kChosen);
+  } else if (isCurrentRow(option, index)) {
+    paintFrame(*painter, option, index, kCurrent);
   }
 }
 
