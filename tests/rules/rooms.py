@@ -49,7 +49,8 @@ ROOMS = {
     "ui/exchange": (*WINDOW, "exchange/list", "exchange/foreign", "platform/os"),
     "ui/outbox": WINDOW,
     "ui/rows": WINDOW,
-    "ui/main_window": (*WINDOW, "ui/rows"),
+    "ui/details": WINDOW,
+    "ui/main_window": (*WINDOW, "ui/rows", "ui/details"),
     "app": None,  # puts together whatever there is
 }
 # What reads the files of other programs.
@@ -81,6 +82,7 @@ LIBRARIES = {
     "ui/exchange": QT,
     "ui/outbox": QT,
     "ui/rows": QT,
+    "ui/details": QT,
     "ui/main_window": QT,
     "app": QT,
 }

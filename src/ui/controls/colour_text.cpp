@@ -58,6 +58,8 @@ double contrastRatio(const QColor& one, const QColor& other) {
 
 bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
 
+QColor mutedInk(const QPalette& palette) { return isDark(palette) ? QColor(0xA9AEB4) : QColor(0x555555); }
+
 QColor readableOn(const QColor& background) {
   const QColor black(Qt::black);
   const QColor white(Qt::white);

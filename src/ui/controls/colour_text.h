@@ -40,6 +40,9 @@ QColor brightened(const QColor& colour, int amount);
 /// Whether a desktop of this palette is a dark one.
 bool isDark(const QPalette& palette);
 
+/// The ink of what stands back on a window of this palette.
+QColor mutedInk(const QPalette& palette);
+
 /// Black or white, whichever is easier to read on `background` (contrast ratio after WCAG 2.1).
 QColor readableOn(const QColor& background);
 

@@ -17,4 +17,15 @@ HoleColours holeColours(bool dark) {
               : HoleColours{QColor(0xDC, 0xE6, 0xFA), QColor(0x1B, 0x2E, 0x57), QColor(0x5B, 0x7F, 0xC7)};
 }
 
+DifferenceColours differenceColours(bool added, bool dark) {
+  const QColor ink = dark ? QColor(0xE4, 0xE6, 0xE8) : QColor(Qt::black);
+  const QColor wordInk = dark ? QColor(Qt::white) : QColor(Qt::black);
+  if (added) {
+    return dark ? DifferenceColours{QColor(0x17, 0x40, 0x2B), ink, QColor(0x23, 0x69, 0x3F), wordInk}
+                : DifferenceColours{QColor(0xCD, 0xEF, 0xD9), ink, QColor(0x86, 0xD7, 0xA5), wordInk};
+  }
+  return dark ? DifferenceColours{QColor(0x4A, 0x1E, 0x1E), ink, QColor(0x8E, 0x2F, 0x2A), wordInk}
+              : DifferenceColours{QColor(0xFB, 0xD9, 0xD6), ink, QColor(0xF1, 0x9A, 0x93), wordInk};
+}
+
 }  // namespace tarnwick

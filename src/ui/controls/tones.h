@@ -22,4 +22,13 @@ struct HoleColours {
 };
 HoleColours holeColours(bool dark);
 
+/// The colours of what was taken away from a page, or has come: of its rows, and of the words in them that differ.
+struct DifferenceColours {
+  QColor fill;
+  QColor ink;
+  QColor wordFill;
+  QColor wordInk;
+};
+DifferenceColours differenceColours(bool added, bool dark);
+
 }  // namespace tarnwick

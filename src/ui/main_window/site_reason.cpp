@@ -27,7 +27,7 @@ SiteReason::SiteReason(QWidget* parent) : QLabel(parent) {
 }
 
 void SiteReason::setInk() {
-  const QColor ink = isDark(palette()) ? QColor(0xA9AEB4) : QColor(0x555555);
+  const QColor ink = mutedInk(palette());
   if (palette().color(QPalette::WindowText) != ink) {
     QPalette muted;
     muted.setColor(QPalette::WindowText, ink);

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace tarnwick {
+
+/// Two pages that are compared: the one that is good, and the one that came last.
+struct ComparedPages {
+  std::string before;
+  std::string after;
+};
+
+}  // namespace tarnwick
