@@ -9,6 +9,7 @@ namespace tarnwick {
 struct ComparedPages {
   std::string before;
   std::string after;
+  bool operator==(const ComparedPages&) const = default;
 };
 
 }  // namespace tarnwick

@@ -30,6 +30,8 @@ class DifferenceView final : public QAbstractScrollArea {
   bool isComparing() const { return slices_.isActive(); }
   /// Nothing is shown as long as this is null.
   const PageDifference* difference() const { return rows_ ? difference_ : nullptr; }
+  bool hasPages() const { return pages_ != nullptr; }
+  /// REQUIRES: `hasPages()`.
   const ComparedPages& pages() const { return *pages_; }
 
   void setDifferenceLayout(DifferenceLayout layout);

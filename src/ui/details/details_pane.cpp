@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "ui/details/details_pane.h"
+
+#include <exception>
+#include <QHBoxLayout>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include "ui/controls/dialog_parts.h"
+#include "ui/controls/display_text.h"
+#include "ui/controls/row_table.h"
+#include "ui/details/settling_words.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::chrono::milliseconds kPause{80};
+
+}  // namespace
+
+DetailsPane::DetailsPane(Program& program, SiteSettling& settling, QWidget* parent)
+    : QWidget(parent), program_(program), settling_(settling), log_(new LogList(this)) {
+  setObjectName(QStringLiteral("details"));
+  layOut();
+  tellNothing();
+  pause_.setSingleShot(true);
+  pause_.setInterval(kPause);
+  connect(&pause_, &QTimer::timeout, this, [this] { program_.faults().run([this] { read(); }); });
+}
+
+QWidget* DetailsPane::makeHead() {
+  auto* head = new QWidget(this);
+  headline_ = named(new StatusLine(head), "detailsHeadline", tr("Site"));
+  btnAccept_ = addButton(*head, "btnAccept", tr("&Accept…"));
+  btnAcknowledge_ = addButton(*head, "btnAcknowledge", tr("Ac&knowledge"));
+  btnPause_ = addButton(*head, "btnPause", tr("&Pause"), tr("Tell nothing of the site for a time"));
+  auto* close = named(new QToolButton(head), "detailsClose", tr("Close the details (F4)"));
+  close->setText(QStringLiteral("✕"));
+  close->setAutoRaise(true);
+  close->setToolTip(close->accessibleName());
+  onClick(*btnAccept_, program_.faults(), [this] { accept(); });
+  onClick(*btnAcknowledge_, program_.faults(), [this] { acknowledge(); });
+  connect(close, &QToolButton::clicked, this, &DetailsPane::closed);
+  auto* line = new QHBoxLayout(head);
+  line->setContentsMargins({});
+  line->addWidget(headline_, 1);
+  for (QWidget* button : {static_cast<QWidget*>(btnAccept_), static_cast<QWidget*>(btnAcknowledge_),
+                          static_cast<QWidget*>(btnPause_), static_cast<QWidget*>(close)}) {
+    line->addWidget(button);
+  }
+  return head;
+}
+
+void DetailsPane::layOut() {
+  auto* lines = new QVBoxLayout(this);
+  lines->setContentsMargins(0, 4, 0, 0);
+  lines->setSpacing(4);
+  lines->addWidget(makeHead());
+  tabs_ = named(new QTabWidget(this), "detailsTabs", tr("Details"));
+  tabs_->setDocumentMode(true);
+  panel_ = new DifferencePanel(program_.services().clock, this);
+  auto* window = named(new QToolButton(&panel_->corner()), "differenceWindow", tr("Show it in a window of its own"));
+  window->setText(QStringLiteral("⧉"));
+  window->setAutoRaise(true);
+  window->setToolTip(window->accessibleName());
+  panel_->corner().layout()->addWidget(window);
+  connect(window, &QToolButton::clicked, this, [this] {
+    if (idSite_) {
+      Q_EMIT windowWanted(*idSite_);
+    }
+  });
+  auto* log = named(new QTableView(this), "detailsLog", tr("Log of the site, the latest first"));
+  log->setModel(log_);
+  setUpList(*log);
+  log->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  log->horizontalHeader()->setStretchLastSection(true);
+  tabs_->addTab(panel_, tr("What changed"));
+  tabs_->addTab(log, tr("Log"));
+  // Beside the tabs, where it takes no room of its own.
+  tabs_->setCornerWidget(&panel_->corner());
+  connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
+    panel_->corner().setVisible(tab == 0);
+    program_.faults().run([this] { read(); });
+  });
+  lines->addWidget(tabs_, 1);
+}
+
+void DetailsPane::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  pause_.start();
+}
+
+void DetailsPane::showSite(std::optional<std::int16_t> idSite) {
+  idSite_ = idSite;
+  if (isVisible()) {
+    pause_.start();
+  }
+}
+
+void DetailsPane::read() {
+  if (!idSite_ || !isVisible()) {
+    tellNothing();
+    return;
+  }
+  setAccessibleName(tr("Details of site %1").arg(*idSite_));
+  found_ = program_.data().toSettle(*idSite_);
+  const QString reason = canBeSettled(*found_) ? displayMessage(program_.data().reasonOf(*idSite_)) : QString();
+  headline_->showText(standingWords(*idSite_, *found_, reason));
+  tellButtons();
+  if (tabs_->currentIndex() != 0) {
+    log_->read(program_.data(), *idSite_);
+    return;
+  }
+  const QString sentence = nothingToShow(*idSite_, *found_);
+  if (sentence.isEmpty()) {
+    const ComparedPages pages{found_->baseline, found_->page};
+    if (panel_->view().hasPages() && panel_->view().pages() == pages) {
+      return;
+    }
+    panel_->compare(pages, tr("What changed in site %1").arg(*idSite_));
+  } else {
+    panel_->tell(sentence);
+  }
+}
+
+void DetailsPane::tellNothing() {
+  found_.reset();
+  setAccessibleName(tr("Details"));
+  headline_->showText({});
+  panel_->tell(tr("Choose a site to see what changed."));
+  log_->clear();
+  tellButtons();
+}
+
+void DetailsPane::tellButtons() {
+  const bool settles = found_ && canBeSettled(*found_);
+  const bool isKnown = settles && found_->isAcknowledged;
+  btnAccept_->setText(offersCheck() ? tr("Check &Now") : tr("&Accept…"));
+  btnAccept_->setEnabled(settles);
+  btnAccept_->setToolTip(!settles        ? tr("There is no changed page to accept")
+                         : offersCheck() ? tr("Fetch the page again, at once")
+                                         : tr("Take the page of the latest check as the baseline"));
+  btnAcknowledge_->setText(isKnown ? tr("Alarm A&gain") : tr("Ac&knowledge"));
+  btnAcknowledge_->setEnabled(settles);
+  btnAcknowledge_->setToolTip(!settles  ? tr("There is nothing wrong to acknowledge")
+                              : isKnown ? tr("Tell of this page again, at each failed check")
+                                        : tr("Known: say nothing while exactly this page stays"));
+  btnPause_->setEnabled(idSite_.has_value());
+}
+
+void DetailsPane::accept() {
+  if (!idSite_ || !found_) {
+    return;
+  }
+  if (offersCheck()) {
+    Q_EMIT checkWanted(*idSite_);
+  } else {
+    settling_.accept(*idSite_);
+  }
+}
+
+void DetailsPane::acknowledge() {
+  if (!idSite_ || !found_ || !canBeSettled(*found_)) {
+    return;
+  }
+  found_->isAcknowledged ? settling_.alarmAgain(*idSite_) : settling_.acknowledge(*idSite_, found_->page);
+  pause_.start();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTimer>
+#include <QToolButton>
+#include <QWidget>
+
+#include "engine/settling.h"
+#include "program/program.h"
+#include "ui/controls/status_line.h"
+#include "ui/details/difference_panel.h"
+#include "ui/details/log_list.h"
+#include "ui/details/site_settling.h"
+
+namespace tarnwick {
+
+/// What there is to know of one site: why it is as it is, what has changed, what its log says, and what settles it.
+class DetailsPane final : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// Both outlive this.
+  DetailsPane(Program& program, SiteSettling& settling, QWidget* parent = nullptr);
+
+  /// Shows that site after a pause, so that nobody who wanders through the list is held up; nothing: that none is
+  /// chosen. One that is shown is read anew.
+  void showSite(std::optional<std::int16_t> idSite);
+  std::optional<std::int16_t> site() const { return idSite_; }
+
+  /// Settles the site that is shown, as the buttons do.
+  void accept();
+  void acknowledge();
+
+  QPushButton& pauseButton() { return *btnPause_; }
+  QTabWidget& tabs() { return *tabs_; }
+  DifferencePanel& panel() { return *panel_; }
+
+  QSize sizeHint() const override { return {800, 170}; }
+
+ Q_SIGNALS:
+  void closed();
+  /// The same in a window of its own is wanted.
+  void windowWanted(std::int16_t idSite);
+  /// The site is to be checked now.
+  void checkWanted(std::int16_t idSite);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  QWidget* makeHead();
+  void layOut();
+  void read();
+  void tellNothing();
+  void tellButtons();
+  bool offersCheck() const { return found_ && found_->state == ToSettle::State::failedFetch; }
+
+  Program& program_;
+  SiteSettling& settling_;
+  QTimer pause_;
+  std::optional<std::int16_t> idSite_;
+  std::optional<ToSettle> found_;
+  StatusLine* headline_ = nullptr;
+  QPushButton* btnAccept_ = nullptr;
+  QPushButton* btnAcknowledge_ = nullptr;
+  QPushButton* btnPause_ = nullptr;
+  QTabWidget* tabs_ = nullptr;
+  DifferencePanel* panel_ = nullptr;
+  LogList* log_ = nullptr;
+};
+
+}  // namespace tarnwick

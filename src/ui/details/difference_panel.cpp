@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "ui/details/difference_panel.h"
+
+#include <utility>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "ui/controls/dialog_parts.h"
+
+namespace tarnwick {
+
+DifferencePanel::DifferencePanel(const Clock& clock, QWidget* parent)
+    : QWidget(parent),
+      view_(nullptr),
+      corner_(named(new QWidget(this), "differenceCorner")),
+      place_(named(new QLabel(corner_), "differencePlace")) {
+  previous_ = addTool("differencePrevious", QStringLiteral("▲"), tr("Previous change"), Qt::SHIFT | Qt::Key_F3);
+  next_ = addTool("differenceNext", QStringLiteral("▼"), tr("Next change"), Qt::Key_F3);
+  layouts_ = named(new QComboBox(corner_), "differenceLayout", tr("How both pages are laid out"));
+  layouts_->addItem(tr("Side by side"), static_cast<int>(DifferenceLayout::sideBySide));
+  layouts_->addItem(tr("Unified"), static_cast<int>(DifferenceLayout::unified));
+  layouts_->addItem(tr("Bytes (hex)"), static_cast<int>(DifferenceLayout::hex));
+  layouts_->setToolTip(layouts_->accessibleName());
+  invisible_ = addTool("differenceInvisible", QStringLiteral("¶"), tr("Show blanks, tabs and line ends"), {});
+  invisible_->setCheckable(true);
+  view_ = named(new DifferenceView(clock, this), "difference", tr("What changed"));
+  layOut();
+  tellPlace();
+  connect(previous_, &QToolButton::clicked, this, [this] { view_->goOn(-1); });
+  connect(next_, &QToolButton::clicked, this, [this] { view_->goOn(1); });
+  connect(layouts_, &QComboBox::activated, this, [this] {
+    isChosen_ = true;
+    view_->setDifferenceLayout(static_cast<DifferenceLayout>(layouts_->currentData().toInt()));
+  });
+  connect(invisible_, &QToolButton::toggled, view_, &DifferenceView::setInvisible);
+  connect(view_, &DifferenceView::moved, this, &DifferencePanel::tellPlace);
+  connect(view_, &DifferenceView::compared, this, &DifferencePanel::tellPlace);
+}
+
+QToolButton* DifferencePanel::addTool(const char* name, const QString& sign, const QString& words,
+                                      const QKeySequence& key) {
+  auto* tool = named(new QToolButton(corner_), name, words);
+  tool->setText(sign);
+  tool->setAutoRaise(true);
+  tool->setFocusPolicy(Qt::StrongFocus);
+  tool->setShortcut(key);
+  tool->setToolTip(key.isEmpty() ? words
+                                 : QStringLiteral("%1 (%2)").arg(words, key.toString(QKeySequence::NativeText)));
+  return tool;
+}
+
+void DifferencePanel::layOut() {
+  auto* tools = new QHBoxLayout(corner_);
+  tools->setContentsMargins({});
+  tools->setSpacing(4);
+  tools->addWidget(place_);
+  tools->addStretch(1);
+  for (QWidget* tool : {static_cast<QWidget*>(previous_), static_cast<QWidget*>(next_),
+                        static_cast<QWidget*>(layouts_), static_cast<QWidget*>(invisible_)}) {
+    tools->addWidget(tool);
+  }
+  auto* lines = new QVBoxLayout(this);
+  lines->setContentsMargins({});
+  lines->setSpacing(4);
+  lines->addWidget(corner_);
+  lines->addWidget(view_, 1);
+}
+
+// What is no text is shown as bytes, until somebody wants it otherwise.
+void DifferencePanel::compare(ComparedPages pages, const QString& name) {
+  name_ = name;
+  const bool isBinary = pageFormOf(pages.before) == PageForm::binary || pageFormOf(pages.after) == PageForm::binary;
+  if (!isChosen_) {
+    const auto layout = isBinary ? DifferenceLayout::hex : DifferenceLayout::sideBySide;
+    layouts_->setCurrentIndex(layouts_->findData(static_cast<int>(layout)));
+    view_->setDifferenceLayout(layout);
+  }
+  view_->compare(std::move(pages));
+  tellPlace();
+}
+
+void DifferencePanel::tell(const QString& sentence) {
+  name_ = sentence;
+  view_->tell(sentence);
+  tellPlace();
+}
+
+void DifferencePanel::tellPlace() {
+  const int changes = view_->changes();
+  const bool asOne = view_->difference() != nullptr && view_->difference()->shownAsOne;
+  const QString count = asOne          ? tr("more than %1 changes, shown as one").arg(kMostChanges)
+                        : changes == 1 ? tr("1 change")
+                                       : tr("%1 changes").arg(changes);
+  place_->setText(view_->difference() == nullptr                 ? QString()
+                  : changes > 1 && view_->currentChange() >= 0 ? tr("Change %1 of %2").arg(view_->currentChange() + 1).arg(changes)
+                                                                 : count);
+  view_->setAccessibleName(view_->difference() == nullptr ? name_ : QStringLiteral("%1: %2").arg(name_, count));
+  previous_->setEnabled(changes > 0);
+  next_->setEnabled(changes > 0);
+  layouts_->setEnabled(view_->difference() != nullptr);
+  invisible_->setEnabled(view_->difference() != nullptr);
+}
+
+}  // namespace tarnwick

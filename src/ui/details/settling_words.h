@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <QString>
+
+#include "engine/settling.h"
+
+namespace tarnwick {
+
+/// How a site stands, in one sentence: "Site 3 changed: line 6 differs". `reason` is why it is down, and may be empty.
+QString standingWords(std::int16_t idSite, const ToSettle& found, const QString& reason);
+
+/// What is said in the place of a difference where there is none to be shown; empty where there is one.
+QString nothingToShow(std::int16_t idSite, const ToSettle& found);
+
+/// Why the page of its latest check is not accepted without a second thought, a line each; empty for most.
+QString doubtWords(const ToSettle& found);
+
+/// A number of bytes as people read it: "1,204 bytes".
+QString bytesWords(std::size_t bytes);
+
+/// Whether the latest check brought a page that can be accepted, or acknowledged.
+bool canBeSettled(const ToSettle& found);
+
+}  // namespace tarnwick
