@@ -6086,6 +6086,49 @@
         <source>without a log-in</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>List and details</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AcceptDialog</name>
+    <message>
+        <source>Accept a Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What changed in site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in &amp;place of the baseline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;beside it: either page is good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This page becomes the baseline of site %1: %2 instead of %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, 1 change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, %1 changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AlarmDetails</name>
@@ -6431,6 +6474,29 @@ and when it is back</source>
     </message>
     <message>
         <source>Select &amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ChangeWindow</name>
+    <message>
+        <source>&amp;Accept…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the page of the latest check as the baseline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What Changed in Site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What changed in site %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -6863,6 +6929,194 @@ and when it is back</source>
     </message>
     <message>
         <source>All is well</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DetailsArea</name>
+    <message>
+        <source>Show &amp;What Changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Accept…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accept A&amp;lso…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo Accept…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DetailsPane</name>
+    <message>
+        <source>Site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Accept…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ac&amp;knowledge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell nothing of the site for a time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close the details (F4)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show it in a window of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log of the site, the latest first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Details of site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What changed in site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a site to see what changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check &amp;Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no changed page to accept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch the page again, at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the page of the latest check as the baseline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm A&amp;gain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing wrong to acknowledge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell of this page again, at each failed check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Known: say nothing while exactly this page stays</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DifferencePanel</name>
+    <message>
+        <source>Previous change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How both pages are laid out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bytes (hex)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show blanks, tabs and line ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>more than %1 changes, shown as one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DifferenceView</name>
+    <message>
+        <source>%1 equal bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 equal line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 equal lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comparing …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both pages are empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -7317,6 +7571,29 @@ and when it is back</source>
     </message>
     <message>
         <source>Looking at what varies …</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::LogList</name>
+    <message>
+        <source>up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cause</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8053,6 +8330,65 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::SettlingWords</name>
+    <message>
+        <source>There is no site %1 any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 was not checked yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 is as it should be.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 changed, and its page was not kept for want of room.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 changed, which is known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest check brought no page, but the text of an error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This looks like an error page (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has less than half the size of the baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 place that may vary is not found in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 places that may vary are not found in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 byte</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::SiteEditor</name>
     <message>
         <source>Site</source>
@@ -8247,7 +8583,7 @@ Do You Want To Discard Them And Close %2?</source>
 <context>
     <name>tarnwick::SiteReason</name>
     <message>
-        <source>Site %1: %2</source>
+        <source>Site %1: %2 (F4)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8287,6 +8623,13 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>%1 sites, %2 down</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteSettling</name>
+    <message>
+        <source>Site %1 has no earlier baseline.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

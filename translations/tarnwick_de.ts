@@ -6086,6 +6086,49 @@
         <source>without a log-in</source>
         <translation>ohne Anmeldung</translation>
     </message>
+    <message>
+        <source>List and details</source>
+        <translation>Liste und Einzelheiten</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AcceptDialog</name>
+    <message>
+        <source>Accept a Page</source>
+        <translation>Seite übernehmen</translation>
+    </message>
+    <message>
+        <source>What changed in site %1</source>
+        <translation>Was sich an Seite %1 geändert hat</translation>
+    </message>
+    <message>
+        <source>in &amp;place of the baseline</source>
+        <translation>an&amp;stelle der Basis</translation>
+    </message>
+    <message>
+        <source>&amp;beside it: either page is good</source>
+        <translation>&amp;daneben: beide sind gut</translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>Ü&amp;bernehmen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>This page becomes the baseline of site %1: %2 instead of %3.</source>
+        <translation>Dieser Inhalt wird die Basis von Seite %1: %2 statt %3.</translation>
+    </message>
+    <message>
+        <source>, 1 change.</source>
+        <translation>, 1 Änderung.</translation>
+    </message>
+    <message>
+        <source>, %1 changes.</source>
+        <translation>, %1 Änderungen.</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AlarmDetails</name>
@@ -6433,6 +6476,29 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>Select &amp;All</source>
         <translation>A&amp;lles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ChangeWindow</name>
+    <message>
+        <source>&amp;Accept…</source>
+        <translation>Ü&amp;bernehmen…</translation>
+    </message>
+    <message>
+        <source>Take the page of the latest check as the baseline</source>
+        <translation>Den Inhalt der letzten Prüfung als Basis übernehmen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>What Changed in Site %1</source>
+        <translation>Was sich an Seite %1 geändert hat</translation>
+    </message>
+    <message>
+        <source>What changed in site %1</source>
+        <translation>Was sich an Seite %1 geändert hat</translation>
     </message>
 </context>
 <context>
@@ -6865,6 +6931,194 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>All is well</source>
         <translation>Alles ist gut</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DetailsArea</name>
+    <message>
+        <source>Show &amp;What Changed</source>
+        <translation>&amp;Änderung zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Accept…</source>
+        <translation>Ü&amp;bernehmen…</translation>
+    </message>
+    <message>
+        <source>Accept A&amp;lso…</source>
+        <translation>Auch übe&amp;rnehmen…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Accept…</source>
+        <translation>Übernahme &amp;zurücknehmen…</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DetailsPane</name>
+    <message>
+        <source>Site</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Accept…</source>
+        <translation>Ü&amp;bernehmen…</translation>
+    </message>
+    <message>
+        <source>Ac&amp;knowledge</source>
+        <translation>Be&amp;kannt</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>Tell nothing of the site for a time</source>
+        <translation>Eine Zeit lang nichts über die Seite melden</translation>
+    </message>
+    <message>
+        <source>Close the details (F4)</source>
+        <translation>Einzelheiten schließen (F4)</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Einzelheiten</translation>
+    </message>
+    <message>
+        <source>Show it in a window of its own</source>
+        <translation>In einem eigenen Fenster zeigen</translation>
+    </message>
+    <message>
+        <source>Log of the site, the latest first</source>
+        <translation>Log der Seite, das Neueste zuerst</translation>
+    </message>
+    <message>
+        <source>What changed</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Log</translation>
+    </message>
+    <message>
+        <source>Details of site %1</source>
+        <translation>Einzelheiten zu Seite %1</translation>
+    </message>
+    <message>
+        <source>What changed in site %1</source>
+        <translation>Was sich an Seite %1 geändert hat</translation>
+    </message>
+    <message>
+        <source>Choose a site to see what changed.</source>
+        <translation>Wählen Sie eine Seite, um zu sehen, was sich geändert hat.</translation>
+    </message>
+    <message>
+        <source>Check &amp;Now</source>
+        <translation>&amp;Jetzt prüfen</translation>
+    </message>
+    <message>
+        <source>There is no changed page to accept</source>
+        <translation>Es gibt keinen geänderten Inhalt zu übernehmen</translation>
+    </message>
+    <message>
+        <source>Fetch the page again, at once</source>
+        <translation>Die Seite sofort noch einmal abrufen</translation>
+    </message>
+    <message>
+        <source>Take the page of the latest check as the baseline</source>
+        <translation>Den Inhalt der letzten Prüfung als Basis übernehmen</translation>
+    </message>
+    <message>
+        <source>Alarm A&amp;gain</source>
+        <translation>&amp;Wieder melden</translation>
+    </message>
+    <message>
+        <source>There is nothing wrong to acknowledge</source>
+        <translation>Es gibt nichts Falsches, das bekannt sein könnte</translation>
+    </message>
+    <message>
+        <source>Tell of this page again, at each failed check</source>
+        <translation>Diesen Inhalt wieder melden, bei jeder fehlgeschlagenen Prüfung</translation>
+    </message>
+    <message>
+        <source>Known: say nothing while exactly this page stays</source>
+        <translation>Bekannt: nichts melden, solange genau dieser Inhalt bleibt</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DifferencePanel</name>
+    <message>
+        <source>Previous change</source>
+        <translation>Vorige Änderung</translation>
+    </message>
+    <message>
+        <source>Next change</source>
+        <translation>Nächste Änderung</translation>
+    </message>
+    <message>
+        <source>How both pages are laid out</source>
+        <translation>Wie beide Inhalte angeordnet sind</translation>
+    </message>
+    <message>
+        <source>Side by side</source>
+        <translation>Nebeneinander</translation>
+    </message>
+    <message>
+        <source>Unified</source>
+        <translation>Untereinander</translation>
+    </message>
+    <message>
+        <source>Bytes (hex)</source>
+        <translation>Bytes (hex)</translation>
+    </message>
+    <message>
+        <source>Show blanks, tabs and line ends</source>
+        <translation>Leerzeichen, Tabulatoren und Zeilenenden zeigen</translation>
+    </message>
+    <message>
+        <source>What changed</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>more than %1 changes, shown as one</source>
+        <translation>mehr als %1 Änderungen, als eine gezeigt</translation>
+    </message>
+    <message>
+        <source>1 change</source>
+        <translation>1 Änderung</translation>
+    </message>
+    <message>
+        <source>%1 changes</source>
+        <translation>%1 Änderungen</translation>
+    </message>
+    <message>
+        <source>Change %1 of %2</source>
+        <translation>Änderung %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::DifferenceView</name>
+    <message>
+        <source>%1 equal bytes</source>
+        <translation>%1 gleiche Bytes</translation>
+    </message>
+    <message>
+        <source>%1 equal line</source>
+        <translation>%1 gleiche Zeile</translation>
+    </message>
+    <message>
+        <source>%1 equal lines</source>
+        <translation>%1 gleiche Zeilen</translation>
+    </message>
+    <message>
+        <source>Comparing …</source>
+        <translation>Wird verglichen …</translation>
+    </message>
+    <message>
+        <source>Both pages are empty.</source>
+        <translation>Beide Inhalte sind leer.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
     </message>
 </context>
 <context>
@@ -7319,6 +7573,29 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>Looking at what varies …</source>
         <translation>Es wird geprüft, was sich ändert …</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::LogList</name>
+    <message>
+        <source>up</source>
+        <translation>gut</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>ausgefallen</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Ursache</translation>
     </message>
 </context>
 <context>
@@ -8056,6 +8333,65 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::SettlingWords</name>
+    <message>
+        <source>There is no site %1 any more.</source>
+        <translation>Seite %1 gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Site %1 was not checked yet.</source>
+        <translation>Seite %1 wurde noch nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>Site %1 is as it should be.</source>
+        <translation>Seite %1 ist, wie sie sein soll.</translation>
+    </message>
+    <message>
+        <source>Site %1 changed, and its page was not kept for want of room.</source>
+        <translation>Seite %1 hat sich geändert; ihr Inhalt wurde aus Platzmangel nicht aufgehoben.</translation>
+    </message>
+    <message>
+        <source>Site %1 does not answer</source>
+        <translation>Seite %1 antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Site %1 changed, which is known</source>
+        <translation>Seite %1 hat sich geändert, was bekannt ist</translation>
+    </message>
+    <message>
+        <source>Site %1 changed</source>
+        <translation>Seite %1 hat sich geändert</translation>
+    </message>
+    <message>
+        <source>The latest check brought no page, but the text of an error.</source>
+        <translation>Die letzte Prüfung brachte keine Seite, sondern den Text eines Fehlers.</translation>
+    </message>
+    <message>
+        <source>This looks like an error page (%1).</source>
+        <translation>Das sieht nach einer Fehlerseite aus (%1).</translation>
+    </message>
+    <message>
+        <source>It has less than half the size of the baseline.</source>
+        <translation>Der Inhalt ist weniger als halb so groß wie die Basis.</translation>
+    </message>
+    <message>
+        <source>1 place that may vary is not found in it.</source>
+        <translation>1 Stelle, die sich ändern darf, kommt darin nicht vor.</translation>
+    </message>
+    <message>
+        <source>%1 places that may vary are not found in it.</source>
+        <translation>%1 Stellen, die sich ändern dürfen, kommen darin nicht vor.</translation>
+    </message>
+    <message>
+        <source>1 byte</source>
+        <translation>1 Byte</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::SiteEditor</name>
     <message>
         <source>Site</source>
@@ -8250,8 +8586,8 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
 <context>
     <name>tarnwick::SiteReason</name>
     <message>
-        <source>Site %1: %2</source>
-        <translation>Seite %1: %2</translation>
+        <source>Site %1: %2 (F4)</source>
+        <translation>Seite %1: %2 (F4)</translation>
     </message>
 </context>
 <context>
@@ -8291,6 +8627,13 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>%1 sites, %2 down</source>
         <translation>%1 Seiten, %2 schlecht</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteSettling</name>
+    <message>
+        <source>Site %1 has no earlier baseline.</source>
+        <translation>Seite %1 hat keine frühere Basis.</translation>
     </message>
 </context>
 <context>

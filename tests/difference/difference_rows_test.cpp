@@ -17,7 +17,9 @@ constexpr std::array kLayouts{DifferenceLayout::sideBySide, DifferenceLayout::un
 
 struct Rows {
   Rows(std::string one, std::string other, DifferenceLayout layout = DifferenceLayout::sideBySide)
-      : before(std::move(one)), after(std::move(other)), difference(differenceOf(before, after)),
+      : before(std::move(one)),
+        after(std::move(other)),
+        difference(differenceOf(before, after)),
         rows(before, after, difference, layout) {}
 
   /// The rows as lines: "1 a | 1 b", "4 equal lines".

@@ -14,8 +14,6 @@ struct SiteEditing {
   std::function<void(const std::function<std::int16_t()>& add)> openNew;
   /// Opens the site's content, with what of its latest page's difference may be no change as proposals.
   std::function<void(std::int16_t idSite)> propose{};
-  /// Opens its content.
-  std::function<void(std::int16_t idSite)> openContent{};
 };
 
 }  // namespace tarnwick

@@ -75,8 +75,9 @@ void AcceptDialog::layOut(bool beside) {
 }
 
 void AcceptDialog::tellSize() {
-  QString words = tr("This page becomes the baseline of site %1: %2 instead of %3.")
-                      .arg(QString::number(idSite_), bytesWords(found_.page.size()), bytesWords(found_.baseline.size()));
+  QString words =
+      tr("This page becomes the baseline of site %1: %2 instead of %3.")
+          .arg(QString::number(idSite_), bytesWords(found_.page.size()), bytesWords(found_.baseline.size()));
   if (difference_->view().difference() != nullptr) {
     const int changes = difference_->view().changes();
     words.chop(1);

@@ -22,7 +22,8 @@ ChangeWindow::ChangeWindow(Program& program, SiteSettling& settling, QWidget* pa
       program_(program),
       headline_(named(new QLabel(this), "changeHeadline")),
       panel_(new DifferencePanel(program.services().clock, this)),
-      accept_(addButton(*this, "changeAccept", tr("&Accept…"), tr("Take the page of the latest check as the baseline"))) {
+      accept_(
+          addButton(*this, "changeAccept", tr("&Accept…"), tr("Take the page of the latest check as the baseline"))) {
   setObjectName(QStringLiteral("frmChange"));
   setWindowFlag(Qt::WindowMinMaxButtonsHint);
   headline_->setTextFormat(Qt::PlainText);

@@ -3,6 +3,7 @@
 
 #include <exception>
 #include <QHBoxLayout>
+#include <QStyle>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -60,7 +61,7 @@ void DetailsPane::layOut() {
   tabs_->setDocumentMode(true);
   panel_ = new DifferencePanel(program_.services().clock, this);
   auto* window = named(new QToolButton(&panel_->corner()), "differenceWindow", tr("Show it in a window of its own"));
-  window->setText(QStringLiteral("⧉"));
+  window->setIcon(style()->standardIcon(QStyle::SP_TitleBarNormalButton));
   window->setAutoRaise(true);
   window->setToolTip(window->accessibleName());
   panel_->corner().layout()->addWidget(window);
@@ -153,7 +154,7 @@ void DetailsPane::accept() {
     return;
   }
   if (offersCheck()) {
-    Q_EMIT checkWanted(*idSite_);
+    program_.checkNow({*idSite_});
   } else {
     settling_.accept(*idSite_);
   }

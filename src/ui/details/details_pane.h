@@ -46,8 +46,6 @@ class DetailsPane final : public QWidget {
   void closed();
   /// The same in a window of its own is wanted.
   void windowWanted(std::int16_t idSite);
-  /// The site is to be checked now.
-  void checkWanted(std::int16_t idSite);
 
  protected:
   void showEvent(QShowEvent* event) override;

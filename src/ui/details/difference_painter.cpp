@@ -74,10 +74,20 @@ DifferencePainter::Side DifferencePainter::sideOf(const DifferenceRow& row, bool
   static const ByteSpans kNone;
   const bool isChanged = row.kind == DifferenceRow::Kind::changed;
   const PageChange* change = isChanged ? &difference_.changes[row.change] : nullptr;
-  return after ? Side{pages_.after, row.after, row.numberAfter, rows_.formAfter(),
-                      isChanged ? &change->addedWords : &kNone, isChanged ? &change->added : &kNone, true}
-               : Side{pages_.before, row.before, row.numberBefore, rows_.formBefore(),
-                      isChanged ? &change->removedWords : &kNone, isChanged ? &change->removed : &kNone, false};
+  return after ? Side{pages_.after,
+                      row.after,
+                      row.numberAfter,
+                      rows_.formAfter(),
+                      isChanged ? &change->addedWords : &kNone,
+                      isChanged ? &change->added : &kNone,
+                      true}
+               : Side{pages_.before,
+                      row.before,
+                      row.numberBefore,
+                      rows_.formBefore(),
+                      isChanged ? &change->removedWords : &kNone,
+                      isChanged ? &change->removed : &kNone,
+                      false};
 }
 
 void DifferencePainter::paint(QPainter& painter, const QRect& area, std::size_t index) const {

@@ -55,8 +55,8 @@ void DifferencePanel::layOut() {
   tools->setSpacing(4);
   tools->addWidget(place_);
   tools->addStretch(1);
-  for (QWidget* tool : {static_cast<QWidget*>(previous_), static_cast<QWidget*>(next_),
-                        static_cast<QWidget*>(layouts_), static_cast<QWidget*>(invisible_)}) {
+  for (QWidget* tool : {static_cast<QWidget*>(previous_), static_cast<QWidget*>(next_), static_cast<QWidget*>(layouts_),
+                        static_cast<QWidget*>(invisible_)}) {
     tools->addWidget(tool);
   }
   auto* lines = new QVBoxLayout(this);
@@ -91,9 +91,10 @@ void DifferencePanel::tellPlace() {
   const QString count = asOne          ? tr("more than %1 changes, shown as one").arg(kMostChanges)
                         : changes == 1 ? tr("1 change")
                                        : tr("%1 changes").arg(changes);
-  place_->setText(view_->difference() == nullptr                 ? QString()
-                  : changes > 1 && view_->currentChange() >= 0 ? tr("Change %1 of %2").arg(view_->currentChange() + 1).arg(changes)
-                                                                 : count);
+  place_->setText(view_->difference() == nullptr ? QString()
+                  : changes > 1 && view_->currentChange() >= 0
+                      ? tr("Change %1 of %2").arg(view_->currentChange() + 1).arg(changes)
+                      : count);
   view_->setAccessibleName(view_->difference() == nullptr ? name_ : QStringLiteral("%1: %2").arg(name_, count));
   previous_->setEnabled(changes > 0);
   next_->setEnabled(changes > 0);

@@ -2,14 +2,9 @@
 #include "ui/details/difference_view.h"
 
 #include <algorithm>
-#include <QAccessible>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QFontDatabase>
 #include <QGuiApplication>
-#include <QKeyEvent>
-#include <QMenu>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -123,8 +118,8 @@ void DifferenceView::goOn(int by) {
 }
 
 DifferencePainter DifferenceView::painterOf() const {
-  return {*pages_, *difference_, *rows_, fontMetrics(), palette(),
-          {layout_, invisible_, horizontalScrollBar()->value()}};
+  return {*pages_,       *difference_, *rows_,
+          fontMetrics(), palette(),    {layout_, invisible_, horizontalScrollBar()->value()}};
 }
 
 std::size_t DifferenceView::rowsOnPage() const {
@@ -185,7 +180,8 @@ void DifferenceView::paintEvent(QPaintEvent*) {
 }
 
 std::optional<std::size_t> DifferenceView::rowAt(int y) const {
-  const auto row = static_cast<std::size_t>(verticalScrollBar()->value() + std::max(0, y) / (fontMetrics().height() + 2));
+  const auto row =
+      static_cast<std::size_t>(verticalScrollBar()->value() + std::max(0, y) / (fontMetrics().height() + 2));
   return rows_ && row < rows_->count() ? std::optional(row) : std::nullopt;
 }
 
@@ -206,67 +202,6 @@ void DifferenceView::openFold(std::size_t row) {
   rows_->open(row);
   setBars();
   setCurrent(row, false);
-}
-
-void DifferenceView::keyPressEvent(QKeyEvent* event) {
-  if (!rows_ || rows_->count() == 0) {
-    QAbstractScrollArea::keyPressEvent(event);
-    return;
-  }
-  const bool selects = event->modifiers().testFlag(Qt::ShiftModifier);
-  const auto goBy = [&](std::ptrdiff_t rows) {
-    setCurrent(static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, static_cast<std::ptrdiff_t>(current_) + rows)),
-               selects);
-  };
-  const auto page = static_cast<std::ptrdiff_t>(rowsOnPage());
-  if (event->matches(QKeySequence::Copy)) {
-    copy();
-  } else if (event->matches(QKeySequence::SelectAll)) {
-    anchor_ = 0;
-    setCurrent(rows_->count() - 1, true);
-  } else if (event->key() == Qt::Key_F3) {
-    goOn(selects ? -1 : 1);
-  } else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
-    goBy(event->key() == Qt::Key_Up ? -1 : 1);
-  } else if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
-    goBy(event->key() == Qt::Key_PageUp ? -page : page);
-  } else if (event->key() == Qt::Key_Home || event->key() == Qt::Key_End) {
-    setCurrent(event->key() == Qt::Key_Home ? 0 : rows_->count() - 1, selects);
-  } else if (rows_->at(current_).isFold() &&
-             (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space)) {
-    openFold(current_);
-  } else {
-    QAbstractScrollArea::keyPressEvent(event);
-  }
-}
-
-void DifferenceView::mousePressEvent(QMouseEvent* event) {
-  const auto row = rowAt(event->position().toPoint().y());
-  if (!row || event->button() != Qt::LeftButton) {
-    return;
-  }
-  setCurrent(*row, event->modifiers().testFlag(Qt::ShiftModifier));
-  if (rows_->at(*row).isFold()) {
-    openFold(*row);
-  }
-}
-
-void DifferenceView::mouseMoveEvent(QMouseEvent* event) {
-  const auto row = rowAt(event->position().toPoint().y());
-  if (row && event->buttons().testFlag(Qt::LeftButton)) {
-    setCurrent(*row, true);
-  }
-}
-
-void DifferenceView::contextMenuEvent(QContextMenuEvent* event) {
-  if (!rows_) {
-    return;
-  }
-  auto* menu = new QMenu(this);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
-  QAction* copies = menu->addAction(tr("&Copy"), this, [this] { copy(); });
-  copies->setObjectName(QStringLiteral("differenceCopy"));
-  menu->popup(event->globalPos());
 }
 
 void DifferenceView::copy() const { QGuiApplication::clipboard()->setText(selectedText()); }

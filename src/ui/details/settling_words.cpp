@@ -37,9 +37,9 @@ QString standingWords(std::int16_t idSite, const ToSettle& found, const QString&
     case State::differs:
       break;
   }
-  return withReason((found.isAcknowledged ? Words::tr("Site %1 changed, which is known") : Words::tr("Site %1 changed"))
-                        .arg(idSite),
-                    reason);
+  return withReason(
+      (found.isAcknowledged ? Words::tr("Site %1 changed, which is known") : Words::tr("Site %1 changed")).arg(idSite),
+      reason);
 }
 
 QString nothingToShow(std::int16_t idSite, const ToSettle& found) {
@@ -73,11 +73,10 @@ QString doubtWords(const ToSettle& found) {
 }
 
 QString bytesWords(std::size_t bytes) {
-  return bytes == 1 ? Words::tr("1 byte") : Words::tr("%1 bytes").arg(QLocale().toString(static_cast<qulonglong>(bytes)));
+  return bytes == 1 ? Words::tr("1 byte")
+                    : Words::tr("%1 bytes").arg(QLocale().toString(static_cast<qulonglong>(bytes)));
 }
 
-bool canBeSettled(const ToSettle& found) {
-  return found.state == State::differs || found.state == State::failedFetch;
-}
+bool canBeSettled(const ToSettle& found) { return found.state == State::differs || found.state == State::failedFetch; }
 
 }  // namespace tarnwick

@@ -60,6 +60,8 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   auto* menu = new SiteMenu(program_, *controls_.grid1, *controls_.pauseAll, this);
   connect(menu, &SiteMenu::alwaysChanges, this,
           [this](std::int16_t idSite) { program_.faults().run([&] { editors_.site.propose(idSite); }); });
+  details_ = new DetailsArea(program_, *canvas, controls_, this);
+  details_->addTo(menu->rowMenu());
   connect(marks_, &AlarmMarks::pauseRead, notices_, &Notices::tellPaused);
   new SiteSearch(program_, *controls_.grid1, controls_.search, this);
   auto* steps = new FirstSteps(program_, *controls_.grid1);
@@ -120,7 +122,7 @@ void Master::fullInit() {
   controls_.lClock->clear();
   setupGridHeader();
   controls_.pb1->fill();
-  followDelivery(program_, *notices_, *controls_.grid1, editors_.site);
+  followDelivery(program_, *notices_, *controls_.grid1, *details_);
   program_.start();
 }
 

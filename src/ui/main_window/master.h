@@ -13,6 +13,7 @@
 #include "program/program.h"
 #include "ui/controls/site_editing.h"
 #include "ui/main_window/alarm_marks.h"
+#include "ui/main_window/details_area.h"
 #include "ui/main_window/master_layout.h"
 #include "ui/main_window/notices.h"
 #include "ui/main_window/site_grid_model.h"
@@ -108,6 +109,7 @@ class Master final : public QMainWindow, public RunView {
   MasterControls controls_{};
   Notices* notices_ = nullptr;  // the window's own
   AlarmMarks* marks_ = nullptr;
+  DetailsArea* details_ = nullptr;
   bool loaded_ = false;
   RunState state_ = RunState::stop;
   Editors editors_;

@@ -11,10 +11,10 @@
 namespace tarnwick {
 namespace {
 
-void show(SiteGridView& grid, std::int16_t idSite) {
+void show(SiteGridView& grid, DetailsArea& details, std::int16_t idSite) {
   grid.window()->show();
   bringToFront(*grid.window());
-  grid.selectSite(idSite);
+  details.show(idSite);
   grid.setFocus();
 }
 
@@ -24,25 +24,24 @@ void mute(Program& program, std::int16_t idSite) {
   program.run().init();
 }
 
-void act(Program& program, SiteGridView& grid, const SiteEditing& editing, std::int16_t idSite,
-         const std::string& key) {
+void act(Program& program, SiteGridView& grid, DetailsArea& details, std::int16_t idSite, const std::string& key) {
   if (key == "mute") {
     mute(program, idSite);
     return;
   }
-  show(grid, idSite);
-  if (key == "accept" && editing.openContent) {
-    editing.openContent(idSite);
+  show(grid, details, idSite);
+  if (key == "accept") {
+    details.settling().accept(idSite);
   }
 }
 
 }  // namespace
 
-void followDelivery(Program& program, Notices& notices, SiteGridView& grid, const SiteEditing& editing) {
+void followDelivery(Program& program, Notices& notices, SiteGridView& grid, DetailsArea& details) {
   Delivery& delivery = program.data().delivery();
   delivery.onChanged([&notices] { notices.look(); });
   delivery.onNoticeActed([&](std::int16_t idSite, const std::string& key) {
-    program.faults().run([&] { act(program, grid, editing, idSite, key); });
+    program.faults().run([&] { act(program, grid, details, idSite, key); });
   });
 }
 

@@ -23,6 +23,7 @@ class SiteMenu final : public QObject {
   SiteMenu(Program& program, SiteGridView& grid, QMenu& pauseAll, QObject* parent);
 
   RowActions& actions() { return *actions_; }
+  QMenu& rowMenu() { return *row_; }
 
  Q_SIGNALS:
   /// The user says that what the page of the site differs by always changes.

@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <QItemSelectionModel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -20,6 +21,7 @@ constexpr int kVerticalPadding = 4;
 SiteReason::SiteReason(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  setCursor(Qt::PointingHandCursor);
   setInk();
   hide();
   pause_.setSingleShot(true);
@@ -57,7 +59,7 @@ void SiteReason::follow(SiteGridView& grid) {
     const QModelIndex current = grid.currentIndex();
     const QString reason = current.isValid() ? grid.reasonOf(grid.listRow(current)) : QString();
     const QModelIndex id = current.siblingAtColumn(SiteGridModel::idColumn);
-    tell(reason.isEmpty() ? reason : tr("Site %1: %2").arg(id.data().toString(), reason));
+    tell(reason.isEmpty() ? reason : tr("Site %1: %2 (F4)").arg(id.data().toString(), reason));
   });
 }
 
@@ -67,7 +69,18 @@ void SiteReason::tell(const QString& reason) {
     explain(*this, reason);
     updateGeometry();
   }
-  setVisible(!reason.isEmpty());
+  setVisible(!reason.isEmpty() && !isAway_);
+}
+
+void SiteReason::setAway(bool away) {
+  isAway_ = away;
+  setVisible(!text().isEmpty() && !away);
+}
+
+void SiteReason::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+    Q_EMIT clicked();
+  }
 }
 
 QSize SiteReason::sizeHint() const {

@@ -19,10 +19,17 @@ class SiteReason final : public QLabel {
   /// Follows the current row of `grid`. Who holds an arrow key down is not held up: the reason comes after a pause.
   void follow(SiteGridView& grid);
 
+  /// While the reason is told elsewhere it is not told here.
+  void setAway(bool away);
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
+ Q_SIGNALS:
+  void clicked();
+
  protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void changeEvent(QEvent* event) override;
 
@@ -31,6 +38,7 @@ class SiteReason final : public QLabel {
   void setInk();
 
   QTimer pause_;
+  bool isAway_ = false;
 };
 
 }  // namespace tarnwick

@@ -69,6 +69,7 @@ void Tray::makeMenu() {
       openWindow();
       grid_.selectSite(idSite);
       grid_.setFocus();
+      Q_EMIT grid_.detailsWanted(grid_.sites().rowOfSite(idSite));
     });
     worst_.at(place)->setVisible(false);
   }

@@ -41,10 +41,6 @@ SiteEditing siteEditorOf(Program& program, QWidget& parent) {
           .propose =
               [&program, &parent](std::int16_t idSite) {
                 openContent(program, parent, [idSite](ContentDialog& content) { content.proposeChanges(idSite); });
-              },
-          .openContent =
-              [&program, &parent](std::int16_t idSite) {
-                openContent(program, parent, [idSite](ContentDialog& content) { content.populateMe(idSite); });
               }};
 }
 

@@ -59,7 +59,8 @@ class DifferenceViewTest : public ::testing::Test {
 };
 
 TEST_F(DifferenceViewTest, BeginsAtTheFirstChangeAndGoesOnByTheKeyboard) {
-  compare(lines(1, 99) + "old\n" + lines(101, 200) + "price 24\n", lines(1, 99) + "new\n" + lines(101, 200) + "price 29\n");
+  compare(lines(1, 99) + "old\n" + lines(101, 200) + "price 24\n",
+          lines(1, 99) + "new\n" + lines(101, 200) + "price 29\n");
   EXPECT_EQ(view.changes(), 2);
   EXPECT_EQ(view.currentChange(), 0);
   EXPECT_EQ(selected(), "- old\n+ new");
@@ -80,8 +81,8 @@ TEST_F(DifferenceViewTest, OpensAFoldByKeyAndByMouse) {
   key(Qt::Key_End);
   EXPECT_EQ(selected(), "47 equal lines");
   const int height = view.fontMetrics().height() + 2;
-  const int row = view.verticalScrollBar()->maximum() + view.viewport()->height() / height - 1 -
-                  view.verticalScrollBar()->value();
+  const int row =
+      view.verticalScrollBar()->maximum() + view.viewport()->height() / height - 1 - view.verticalScrollBar()->value();
   QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, QPoint(50, row * height + height / 2));
   EXPECT_EQ(selected(), "  line 4");
 }
@@ -96,7 +97,8 @@ TEST_F(DifferenceViewTest, CopiesTheSelectedRows) {
 
 TEST_F(DifferenceViewTest, MarksWhatDiffersInItsColours) {
   compare("<b>24.00</b>\n", "<b>29.00</b>\n");
-  for (const DifferenceLayout layout : {DifferenceLayout::sideBySide, DifferenceLayout::unified, DifferenceLayout::hex}) {
+  for (const DifferenceLayout layout :
+       {DifferenceLayout::sideBySide, DifferenceLayout::unified, DifferenceLayout::hex}) {
     view.setDifferenceLayout(layout);
     for (const bool added : {false, true}) {
       EXPECT_TRUE(hasColour(differenceColours(added, false).fill)) << static_cast<int>(layout);

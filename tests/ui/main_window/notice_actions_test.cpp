@@ -34,13 +34,15 @@ TEST_F(NoticeActionsTest, ShowBringsTheWindowUpWithTheSite) {
   machine.notifier.act(0, "show");
   EXPECT_FALSE(master->isMinimized());
   EXPECT_EQ(find<SiteGridView>("grid1").currentSite(), std::int16_t{7});
+  EXPECT_TRUE(find<QWidget>("details").isVisible());
   EXPECT_EQ(shown<SiteEditor>(), nullptr);
 }
 
-TEST_F(NoticeActionsTest, AcceptOpensTheContentOfTheSite) {
+TEST_F(NoticeActionsTest, AcceptShowsThePageThatThereIsToAccept) {
   machine.notifier.act(0, "accept");
   EXPECT_EQ(find<SiteGridView>("grid1").currentSite(), std::int16_t{7});
-  EXPECT_TRUE(opened<ContentDialog>().isVisible());
+  EXPECT_TRUE(find<QWidget>("details").isVisible());
+  EXPECT_EQ(machine.prompts.texts(), std::vector<std::string>{"Site 7 was not checked yet."});
 }
 
 TEST_F(NoticeActionsTest, MutePausesTheAlertsOfTheSiteForAnHour) {

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "ui/main_window/details_area.h"
+
+#include <algorithm>
+#include <QItemSelectionModel>
+#include <QLayout>
+#include <QScreen>
+#include <QShortcut>
+
+#include "ui/controls/dialog_parts.h"
+#include "ui/details/change_window.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kLeastHeight = 150;
+constexpr int kUsualHeight = 190;
+/// A screen that has less of it has no room for the list with the details.
+constexpr int kLeastScreen = 560;
+constexpr int kLeastRows = 5;
+
+}  // namespace
+
+DetailsArea::DetailsArea(Program& program, QWidget& canvas, const MasterControls& controls, QObject* parent)
+    : QObject(parent),
+      program_(program),
+      canvas_(canvas),
+      grid_(*controls.grid1),
+      reason_(*controls.lReason),
+      settling_(new SiteSettling(program, *canvas.window(), this)),
+      pane_(new DetailsPane(program, *settling_, &canvas)),
+      splitter_(named(new QSplitter(Qt::Vertical, &canvas), "listSplitter", QObject::tr("List and details"))) {
+  pane_->hide();
+  pane_->setMinimumHeight(kLeastHeight);
+  canvas.layout()->replaceWidget(&grid_, splitter_);
+  splitter_->addWidget(&grid_);
+  splitter_->addWidget(pane_);
+  splitter_->setChildrenCollapsible(false);
+  splitter_->setStretchFactor(0, 1);
+  splitter_->setStretchFactor(1, 0);
+  connect(new QShortcut(Qt::Key_F4, canvas.window()), &QShortcut::activated, this, &DetailsArea::toggle);
+  connect(pane_, &DetailsPane::closed, this, &DetailsArea::close);
+  connect(pane_, &DetailsPane::windowWanted, this,
+          [this](std::int16_t idSite) { openChangeWindow(program_, *settling_, *canvas_.window(), idSite); });
+  connect(&grid_, &SiteGridView::detailsWanted, this, [this](int row) {
+    if (const auto idSite = grid_.sites().siteOfRow(row)) {
+      show(*idSite);
+    }
+  });
+  connect(&reason_, &SiteReason::clicked, this, &DetailsArea::open);
+  follow();
+}
+
+void DetailsArea::follow() {
+  const auto look = [this] { pane_->showSite(grid_.currentSite()); };
+  connect(grid_.selectionModel(), &QItemSelectionModel::currentRowChanged, this, look);
+  connect(grid_.model(), &QAbstractItemModel::modelReset, this, look);
+  connect(settling_, &SiteSettling::settled, this, look);
+  connect(grid_.model(), &QAbstractItemModel::dataChanged, this,
+          [this, look](const QModelIndex& first, const QModelIndex& last) {
+            const int row = grid_.currentIndex().row();
+            if (first.row() <= row && row <= last.row()) {
+              look();
+            }
+          });
+}
+
+void DetailsArea::addTo(QMenu& rowMenu) {
+  const auto entry = [&](const char* name) { return rowMenu.findChild<QAction*>(QString::fromLatin1(name)); };
+  rowMenu.insertAction(entry("checkNow"),
+                       makeAction("showChanged", tr("Show &What Changed"), Qt::Key_F4, &DetailsArea::toggle));
+  QAction* always = entry("alwaysChanges");
+  rowMenu.insertAction(
+      always, makeAction("acceptPage", tr("&Accept…"), Qt::CTRL | Qt::SHIFT | Qt::Key_A, &DetailsArea::accept));
+  rowMenu.insertAction(always, makeAction("acceptAlso", tr("Accept A&lso…"), {}, &DetailsArea::acceptAlso));
+  if (auto* pauses = rowMenu.findChild<QMenu*>(QStringLiteral("pauseSite"))) {
+    pane_->pauseButton().setMenu(pauses);
+  }
+  const QList<QAction*> all = rowMenu.actions();
+  const auto acknowledge = all.indexOf(entry("acknowledge"));
+  rowMenu.insertAction(all.value(acknowledge + 1),
+                       makeAction("undoAccept", tr("&Undo Accept…"), {}, &DetailsArea::undoAccept));
+}
+
+// Told in the menu, carried out by the list alone, but for F4, which holds in the window.
+QAction* DetailsArea::makeAction(const char* name, const QString& caption, const QKeySequence& keys,
+                                 void (DetailsArea::*doing)()) {
+  auto* action = new QAction(caption, this);
+  action->setObjectName(QString::fromLatin1(name));
+  connect(action, &QAction::triggered, this, doing);
+  if (!keys.isEmpty()) {
+    action->setText(caption + QLatin1Char('\t') + keys.toString(QKeySequence::NativeText));
+  }
+  if (!keys.isEmpty() && keys != QKeySequence(Qt::Key_F4)) {
+    connect(new QShortcut(keys, &grid_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, action,
+            &QAction::trigger);
+  }
+  return action;
+}
+
+void DetailsArea::show(std::int16_t idSite) {
+  grid_.selectSite(idSite);
+  open();
+}
+
+void DetailsArea::toggle() { pane_->isVisible() ? close() : open(); }
+
+void DetailsArea::open() {
+  if (canvas_.screen()->availableSize().height() < kLeastScreen) {
+    if (const auto idSite = grid_.currentSite()) {
+      openChangeWindow(program_, *settling_, *canvas_.window(), *idSite);
+    }
+    return;
+  }
+  if (!pane_->isVisible()) {
+    const int rows = grid_.verticalHeader()->defaultSectionSize() * kLeastRows + grid_.horizontalHeader()->height();
+    const int height = splitter_->height();
+    pane_->showSite(grid_.currentSite());
+    pane_->show();
+    const int below = std::clamp(kUsualHeight, kLeastHeight, std::max(kLeastHeight, height - rows));
+    splitter_->setSizes({height - below, below});
+    reason_.setAway(true);
+  }
+}
+
+void DetailsArea::close() {
+  const bool hadFocus = pane_->isAncestorOf(canvas_.window()->focusWidget());
+  pane_->hide();
+  reason_.setAway(false);
+  if (hadFocus) {
+    grid_.setFocus();
+  }
+}
+
+void DetailsArea::accept() {
+  if (const auto idSite = grid_.currentSite()) {
+    settling_->accept(*idSite);
+  }
+}
+
+void DetailsArea::acceptAlso() {
+  if (const auto idSite = grid_.currentSite()) {
+    settling_->accept(*idSite, true);
+  }
+}
+
+void DetailsArea::undoAccept() {
+  if (const auto idSite = grid_.currentSite()) {
+    settling_->undoAccept(*idSite);
+  }
+}
+
+}  // namespace tarnwick

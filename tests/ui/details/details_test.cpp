@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+// What has changed at a site, looked at and settled in the real window, with a real list.
+#include <gmock/gmock.h>
+
+#include <QLabel>
+#include <QMenu>
+#include <QRadioButton>
+#include <QTableView>
+#include <QToolButton>
+
+#include "ui/details/accept_dialog.h"
+#include "ui/details/change_window.h"
+#include "ui/details/details_pane.h"
+#include "ui/support/dialog_fixture.h"
+
+namespace tarnwick::testing {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+const std::string kOld = "<p>Kettle</p>\n<b>24.00</b>\n<p>end</p>\n";
+const std::string kNew = "<p>Kettle</p>\n<b>29.00</b>\n<p>end</p>\n";
+
+class DetailsTest : public DialogTest {
+ protected:
+  DetailsTest() {
+    addSite(3, server.url("/shop"));
+    addSite(4, server.url("/other"));
+    for (const char* path : {"/shop", "/other"}) {
+      server.respond(path, {.body = kOld});
+    }
+    open();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(master.get()));
+    check();
+  }
+  void check() { master->program().checkNow({3, 4}); }
+  void change(const std::string& page = kNew) {
+    server.respond("/shop", {.body = page});
+    check();
+  }
+  DetailsPane& details() { return find<DetailsPane>("details"); }
+  QWidget& grid() { return find<QTableView>("grid1"); }
+  void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&grid(), key, modifiers); }
+  std::string headline() { return find<QLabel>("detailsHeadline").text().toStdString(); }
+  std::string shownText(QWidget& form) { return in<DifferenceView>(form, "difference").selectedText().toStdString(); }
+  /// Opens the details on the first site, and waits for what they show.
+  void openDetails() {
+    key(Qt::Key_F4);
+    ASSERT_TRUE(
+        waitUntil([&] { return !headline().empty() && !in<DifferenceView>(details(), "difference").isComparing(); }));
+  }
+  AcceptDialog& openAccept() {
+    key(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
+    auto& dialog = opened<AcceptDialog>();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    EXPECT_TRUE(waitUntil([&] { return in<DifferenceView>(dialog, "difference").difference() != nullptr; }));
+    return dialog;
+  }
+};
+
+TEST_F(DetailsTest, F4ShowsWhatHasChangedAndClosesIt) {
+  change();
+  EXPECT_FALSE(details().isVisible());
+  openDetails();
+  EXPECT_TRUE(details().isVisible());
+  EXPECT_THAT(headline(), StartsWith("Site 3 changed: line 2"));
+  EXPECT_TRUE(waitUntil([&] { return shownText(details()) == "- <b>24.00</b>\n+ <b>29.00</b>"; }));
+  EXPECT_EQ(spoken(in<DifferenceView>(details(), "difference")), QStringLiteral("What changed in site 3: 1 change"));
+  key(Qt::Key_F4);
+  EXPECT_FALSE(details().isVisible());
+}
+
+TEST_F(DetailsTest, TheyFollowTheCurrentRow) {
+  change();
+  openDetails();
+  key(Qt::Key_Down);
+  EXPECT_TRUE(waitUntil([&] { return headline() == "Site 4 is as it should be."; }));
+  EXPECT_FALSE(find<QPushButton>("btnAccept").isEnabled());
+  EXPECT_EQ(find<QPushButton>("btnAccept").toolTip(), QStringLiteral("There is no changed page to accept"));
+}
+
+TEST_F(DetailsTest, ExactlyWhatIsShownIsAccepted) {
+  change();
+  openDetails();
+  clickOn(find<QPushButton>("btnAccept"));
+  auto& dialog = opened<AcceptDialog>();
+  ASSERT_TRUE(waitUntil([&] { return in<DifferenceView>(dialog, "difference").difference() != nullptr; }));
+  EXPECT_EQ(in<QLabel>(dialog, "acceptSentence").text(),
+            QStringLiteral("This page becomes the baseline of site 3: 38 bytes instead of 38 bytes, 1 change."));
+  EXPECT_FALSE(in<QLabel>(dialog, "acceptDoubt").isVisible());
+  // Another one comes while somebody reads.
+  change(kNew + "later\n");
+  press(dialog, "acceptAccept");
+  EXPECT_EQ(column(3, "content_compare"), kNew);
+  EXPECT_EQ(shown<AcceptDialog>(), nullptr);
+}
+
+TEST_F(DetailsTest, AnAcceptedPageIsGivenBackByTheMenu) {
+  change();
+  press(openAccept(), "acceptAccept");
+  ASSERT_EQ(column(3, "content_compare"), kNew);
+  for (QAction* action : find<QMenu>("rowMenu").actions()) {
+    if (action->objectName() == QStringLiteral("undoAccept")) {
+      action->trigger();
+    }
+  }
+  EXPECT_EQ(column(3, "content_compare"), kOld);
+}
+
+TEST_F(DetailsTest, APageBesideTheBaselineIsGoodToo) {
+  change();
+  auto& dialog = openAccept();
+  in<QRadioButton>(dialog, "acceptBeside").click();
+  press(dialog, "acceptAccept");
+  EXPECT_EQ(column(3, "content_compare"), kOld);
+  check();
+  EXPECT_EQ(column(3, "status"), "1");
+}
+
+TEST_F(DetailsTest, OfADoubtfulPageEnterTakesNothing) {
+  change("<html><head><title>404 Not Found</title></head></html>\n");
+  auto& dialog = openAccept();
+  EXPECT_TRUE(in<QLabel>(dialog, "acceptDoubt").isVisible());
+  EXPECT_THAT(in<QLabel>(dialog, "acceptDoubt").text().toStdString(), HasSubstr("looks like an error page (404"));
+  QTest::keyClick(&dialog, Qt::Key_Return);
+  EXPECT_EQ(shown<AcceptDialog>(), nullptr);
+  EXPECT_EQ(column(3, "content_compare"), kOld);
+}
+
+TEST_F(DetailsTest, AWrongPageIsAcknowledgedAndToldOfAgain) {
+  change();
+  openDetails();
+  ASSERT_TRUE(waitUntil([&] { return find<QPushButton>("btnAcknowledge").isEnabled(); }));
+  clickOn(find<QPushButton>("btnAcknowledge"));
+  EXPECT_TRUE(waitUntil([&] { return caption<QPushButton>(details(), "btnAcknowledge") == "Alarm Again"; }));
+  EXPECT_EQ(folder.queryText("select count(*) from acknowledged"), "1");
+  EXPECT_THAT(headline(), StartsWith("Site 3 changed, which is known"));
+  clickOn(find<QPushButton>("btnAcknowledge"));
+  EXPECT_TRUE(waitUntil([&] { return caption<QPushButton>(details(), "btnAcknowledge") == "Acknowledge"; }));
+  EXPECT_EQ(folder.queryText("select count(*) from acknowledged"), "0");
+}
+
+TEST_F(DetailsTest, AFetchThatFailedShowsItsTextAndOffersToCheckNow) {
+  server.respond("/shop", {.drop = true});
+  check();
+  openDetails();
+  EXPECT_THAT(headline(), StartsWith("Site 3 does not answer: "));
+  EXPECT_EQ(caption<QPushButton>(details(), "btnAccept"), "Check Now");
+  server.respond("/shop", {.body = kOld});
+  clickOn(find<QPushButton>("btnAccept"));
+  EXPECT_TRUE(waitUntil([&] { return headline() == "Site 3 is as it should be."; }));
+}
+
+TEST_F(DetailsTest, TheLogStandsBesideIt) {
+  change();
+  openDetails();
+  find<QTabWidget>("detailsTabs").setCurrentIndex(1);
+  const QAbstractItemModel& log = *find<QTableView>("detailsLog").model();
+  ASSERT_EQ(log.rowCount(), 2);
+  EXPECT_EQ(log.index(0, LogList::result).data().toString(), QStringLiteral("down"));
+  EXPECT_EQ(log.index(1, LogList::result).data().toString(), QStringLiteral("up"));
+  EXPECT_FALSE(find<QWidget>("differenceCorner").isVisible());
+}
+
+TEST_F(DetailsTest, OpensInAWindowOfItsOwn) {
+  change();
+  openDetails();
+  clickOn(find<QToolButton>("differenceWindow"));
+  auto& window = opened<ChangeWindow>();
+  ASSERT_TRUE(waitUntil([&] { return shownText(window) == "- <b>24.00</b>\n+ <b>29.00</b>"; }));
+  press(window, "changeAccept");
+  press(opened<AcceptDialog>(), "acceptAccept");
+  EXPECT_TRUE(waitUntil(
+      [&] { return in<QLabel>(window, "changeHeadline").text() == QStringLiteral("Site 3 is as it should be."); }));
+  press(window, "changeClose");
+  EXPECT_EQ(shown<ChangeWindow>(), nullptr);
+}
+
+TEST_F(DetailsTest, TheReasonInTheStatusRowOpensThemAndGoesMeanwhile) {
+  change();
+  auto& reason = find<QLabel>("lReason");
+  ASSERT_TRUE(waitUntil([&] { return reason.isVisible(); }));
+  EXPECT_TRUE(reason.text().endsWith(QStringLiteral("(F4)")));
+  QTest::mouseClick(&reason, Qt::LeftButton);
+  EXPECT_TRUE(details().isVisible());
+  EXPECT_FALSE(reason.isVisible());
+  clickOn(find<QToolButton>("detailsClose"));
+  EXPECT_FALSE(details().isVisible());
+  EXPECT_TRUE(waitUntil([&] { return reason.isVisible(); }));
+}
+
+TEST_F(DetailsTest, ASiteWithoutAChangedPageHasNothingToAccept) {
+  key(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(shown<AcceptDialog>(), nullptr);
+  EXPECT_THAT(machine.prompts.texts(), ::testing::ElementsAre("Site 3 is as it should be."));
+}
+
+}  // namespace
+}  // namespace tarnwick::testing
