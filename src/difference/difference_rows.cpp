@@ -88,10 +88,10 @@ void DifferenceRows::build() {
   layout_ == DifferenceLayout::hex ? addHex() : addText();
 }
 
-void DifferenceRows::add(DifferenceRow row) {
+void DifferenceRows::add(const DifferenceRow& row) {
   widest_ = std::max({widest_, row.before && !row.isFold() ? row.before->size() : 0,
                       row.after && !row.isFold() ? row.after->size() : 0});
-  rows_.push_back(std::move(row));
+  rows_.push_back(row);
 }
 
 void DifferenceRows::addFold(DifferenceRow::Kind kind, Place place, std::size_t hidden) {

@@ -82,7 +82,7 @@ class DifferenceRows {
   void addHexRows(ByteSpan before, ByteSpan after, DifferenceRow::Kind kind, std::size_t change);
   void addHexGap(ByteSpan before, ByteSpan after);
   void addFold(DifferenceRow::Kind kind, Place place, std::size_t hidden);
-  void add(DifferenceRow row);
+  void add(const DifferenceRow& row);
   bool isOpen(Place place) const { return opened_.contains(place); }
 
   std::string_view before_;

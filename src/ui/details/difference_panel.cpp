@@ -11,7 +11,6 @@ namespace tarnwick {
 
 DifferencePanel::DifferencePanel(const Clock& clock, QWidget* parent)
     : QWidget(parent),
-      view_(nullptr),
       corner_(named(new QWidget(this), "differenceCorner")),
       place_(named(new QLabel(corner_), "differencePlace")) {
   previous_ = addTool("differencePrevious", QStringLiteral("▲"), tr("Previous change"), Qt::SHIFT | Qt::Key_F3);

@@ -33,7 +33,7 @@ class DifferencePanel final : public QWidget {
   void tellPlace();
   QToolButton* addTool(const char* name, const QString& sign, const QString& words, const QKeySequence& key);
 
-  DifferenceView* view_;
+  DifferenceView* view_ = nullptr;
   QWidget* corner_;
   QLabel* place_;
   QToolButton* previous_ = nullptr;

@@ -2,6 +2,7 @@
 #include "ui/main_window/details_area.h"
 
 #include <algorithm>
+#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLayout>
 #include <QScreen>
