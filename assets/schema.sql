@@ -8,7 +8,7 @@
 PRAGMA encoding = 'UTF-8';
 PRAGMA auto_vacuum = NONE;
 -- The form of the tables: the original ones are form 0; the program brings an older list to today's form.
-PRAGMA user_version = 6;
+PRAGMA user_version = 7;
 
 BEGIN;
 
@@ -173,7 +173,7 @@ CREATE TABLE siteOptions (
 ) WITHOUT ROWID;
 INSERT INTO siteOptions (idSite, name, value)
 VALUES (0, 'newSites', 'at once'), (0, 'adopt', 'pages only'), (0, 'mailLimit', '60'),
-  (0, 'logLimit', '1024');
+  (0, 'logLimit', '1024'), (0, 'history', 'on');
 
 -- How the sites stand whose options of the alarm make that matter; see src/store/site_standing.h.
 CREATE TABLE siteState (
@@ -260,6 +260,74 @@ CREATE TABLE acknowledged (
   idSite INTEGER PRIMARY KEY,
   page TEXT NOT NULL,
   since TEXT NOT NULL
+);
+
+-- What was known of the sites, for years; see src/store/site_history.h. Moments are seconds since 1970 in UTC, the
+-- beginnings of hours, days and months by the clock on the wall. up and unknown are seconds; what is neither is down.
+-- msSum, msMax and buckets (see src/history/latency.h) tell how many milliseconds the answers took.
+CREATE TABLE hours (
+  idSite INTEGER NOT NULL,
+  hour INTEGER NOT NULL,
+  checks INTEGER NOT NULL,
+  up INTEGER NOT NULL,
+  unknown INTEGER NOT NULL,
+  msSum INTEGER NOT NULL,
+  msMax INTEGER NOT NULL,
+  buckets BLOB NOT NULL,
+  PRIMARY KEY (hour, idSite)
+) WITHOUT ROWID;
+-- The sums of those, once the day or the month is over.
+CREATE TABLE days (
+  idSite INTEGER NOT NULL,
+  day INTEGER NOT NULL,
+  seconds INTEGER NOT NULL,
+  checks INTEGER NOT NULL,
+  up INTEGER NOT NULL,
+  unknown INTEGER NOT NULL,
+  msSum INTEGER NOT NULL,
+  msMax INTEGER NOT NULL,
+  buckets BLOB NOT NULL,
+  PRIMARY KEY (idSite, day)
+) WITHOUT ROWID;
+CREATE TABLE months (
+  idSite INTEGER NOT NULL,
+  month INTEGER NOT NULL,
+  seconds INTEGER NOT NULL,
+  checks INTEGER NOT NULL,
+  up INTEGER NOT NULL,
+  unknown INTEGER NOT NULL,
+  msSum INTEGER NOT NULL,
+  msMax INTEGER NOT NULL,
+  buckets BLOB NOT NULL,
+  PRIMARY KEY (idSite, month)
+) WITHOUT ROWID;
+CREATE TABLE outages (
+  idSite INTEGER NOT NULL,
+  began INTEGER NOT NULL,
+  ended INTEGER,
+  checks INTEGER NOT NULL,
+  cause TEXT NOT NULL,
+  PRIMARY KEY (idSite, began)
+) WITHOUT ROWID;
+-- The last check of each site, which says something until `until`; a row of site 0 stands for the log that was read.
+CREATE TABLE latestChecks (
+  idSite INTEGER PRIMARY KEY,
+  at INTEGER NOT NULL,
+  up INTEGER NOT NULL,
+  until INTEGER,
+  lookUp INTEGER,
+  connect INTEGER,
+  tls INTEGER,
+  firstByte INTEGER,
+  whole INTEGER
+);
+-- The certificates by which the sites were last verified.
+CREATE TABLE certificates (
+  idSite INTEGER PRIMARY KEY,
+  began INTEGER NOT NULL,
+  ends INTEGER NOT NULL,
+  issuer TEXT NOT NULL,
+  told INTEGER
 );
 
 COMMIT;

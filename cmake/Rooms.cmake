@@ -2,7 +2,7 @@
 
 # The rules and the data: what needs neither Qt nor libcurl. Without a desktop's libraries these can be built and tested
 # alone.
-set(TARNWICK_CORE_ROOMS base platform platform/os platform/sqlite difference finding holes page_rules store uucode mail alerts delivery report engine program)
+set(TARNWICK_CORE_ROOMS base platform platform/os platform/sqlite difference finding history holes page_rules store uucode mail alerts delivery report engine program)
 # The machine with its network and its desktop, and the two front ends.
 set(TARNWICK_OUTER_ROOMS platform/web platform/events platform/process platform/sound platform/secrets platform/desktop
     exchange/json exchange/list exchange/foreign

@@ -6090,6 +6090,18 @@
         <source>List and details</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether it is kept for years when each site was up or down, and how long its answers took</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only the log tells of checks that are over</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>

@@ -6090,6 +6090,18 @@
         <source>List and details</source>
         <translation>Liste und Einzelheiten</translation>
     </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Whether it is kept for years when each site was up or down, and how long its answers took</source>
+        <translation>Ob für Jahre festgehalten wird, wann jede Seite erreichbar oder gestört war und wie lange ihre Antworten dauerten</translation>
+    </message>
+    <message>
+        <source>only the log tells of checks that are over</source>
+        <translation>nur das Protokoll nennt vergangene Prüfungen</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>

@@ -12,6 +12,7 @@
 #include "delivery/delivery.h"
 #include "engine/channel_alerts.h"
 #include "engine/due_sites.h"
+#include "engine/history_recording.h"
 #include "engine/site_alarms.h"
 #include "engine/sites_to_test.h"
 #include "engine/uncounted_failures.h"
@@ -26,8 +27,6 @@ constexpr std::size_t kMostTogether = 16;
 constexpr std::chrono::milliseconds kLongestWait{50};
 /// A longer page is recorded by itself.
 constexpr std::size_t kLargePage = std::size_t{1} << 20U;
-
-const std::string kPageDiffers = "the page differs from the baseline";
 
 }  // namespace
 
@@ -86,7 +85,7 @@ std::size_t PassRecording::recordTogether(std::span<const std::size_t> rows) {
       if (fetched.content.size() > kLargePage || sites_.standingOf(row) != SelectedSites::Standing::asSelected) {
         break;
       }
-      stored.push_back(*storeResult(row, fetched, keptPage(), false));
+      stored.push_back(*storeResult(row, fetched, keptPage()));
       if (!stored.back().passed) {
         break;
       }
@@ -158,7 +157,7 @@ std::exception_ptr outOfMemoryFor(std::int16_t idSite) {
 // a page, but often for the result; and where it has none for that, a site that is down is told all the same.
 std::optional<PassRecording::Stored> PassRecording::store(std::size_t row, const Fetched& fetched) {
   try {
-    return storeResult(row, fetched, keptPage(), false);
+    return storeResult(row, fetched, keptPage());
   } catch (const DataAccessError& error) {
     if (!error.forWantOfRoom()) {
       throw;
@@ -166,7 +165,14 @@ std::optional<PassRecording::Stored> PassRecording::store(std::size_t row, const
   }
   shortenLog();
   try {
-    return storeResult(row, fetched, KeptPage::none, true);
+    return storeResult(row, fetched, KeptPage::none, Room::noLog);
+  } catch (const DataAccessError& error) {
+    if (!error.forWantOfRoom()) {
+      throw;
+    }
+  }
+  try {
+    return storeResult(row, fetched, KeptPage::none, Room::noHistory);
   } catch (const DataAccessError& error) {
     if (error.forWantOfRoom()) {
       alertUnrecorded(row, fetched);
@@ -223,7 +229,7 @@ void PassRecording::deferUnlessGeneral(const std::exception_ptr& fault) {
 }
 
 std::optional<PassRecording::Stored> PassRecording::storeResult(std::size_t row, const Fetched& fetched, KeptPage kept,
-                                                                bool isTooFull) {
+                                                                Room room) {
   const std::int16_t id = sites_.idSite(row);
   Transaction whole = writeTurn().take();
   needs_.keptPages.forgetLogSize();
@@ -235,7 +241,7 @@ std::optional<PassRecording::Stored> PassRecording::storeResult(std::size_t row,
   const auto& [content, errCode, errDescription] = fetched;
   const bool passed = needs_.results.testSite(id, content, errCode, errDescription, firstBaselineOf(row), kept);
   needs_.results.setStatus(id, passed);
-  if (const auto most = logLimit(); most && !passed && !isTooFull) {
+  if (const auto most = logLimit(); most && !passed && room == Room::plenty) {
     needs_.keptPages.keepLogWithin(*most);
   }
   // A failure is counted after its alerts; on a disk that may be full by then, with its result.
@@ -249,10 +255,29 @@ std::optional<PassRecording::Stored> PassRecording::storeResult(std::size_t row,
     stored.alarm = debts_.alarms.take(id, {passed, errCode != 0 ? errDescription : kPageDiffers,
                                            needs_.pool.siteTook(row), stored.silent, known == KnownStep::other});
   }
+  if (room != Room::noHistory && debts_.history.takesChecks()) {
+    takeIntoHistory(row, fetched, passed);
+  }
   keepForChannels(row, fetched, stored);
   whole.commit();
   needs_.keptPages.logSizeKept();
   return stored;
+}
+
+void PassRecording::takeIntoHistory(std::size_t row, const Fetched& fetched, bool passed) {
+  const bool isAnswered = fetched.errCode == 0;
+  const std::chrono::milliseconds took = needs_.pool.siteTook(row);
+  SiteHistory::Entry entry;
+  entry.interval = sites_.interval(row);
+  entry.check.up = passed;
+  entry.timings.whole = took;
+  if (isAnswered) {
+    entry.check.took = took;
+  }
+  if (!passed) {
+    entry.check.cause = isAnswered ? kPageDiffers : fetched.errDescription;
+  }
+  debts_.history.take(sites_.idSite(row), entry);
 }
 
 // With the result, so that neither is there without the other.

@@ -21,6 +21,7 @@
 
 namespace tarnwick {
 
+class HistoryRecording;
 class SiteAlarms;
 class SitesToTest;
 class UncountedFailures;
@@ -30,6 +31,7 @@ struct PassDebts {
   SitesToTest& checks;
   UncountedFailures& failures;
   SiteAlarms& alarms;
+  HistoryRecording& history;
 };
 
 /// The first faults of a pass that concern one site alone, told when the others have been tested.
@@ -117,7 +119,10 @@ class PassRecording {
   std::unique_ptr<StoredText> storeAhead(std::size_t row, const Fetched& fetched);
   KeptPage keptPage() const;
   std::optional<Stored> store(std::size_t row, const Fetched& fetched);
-  std::optional<Stored> storeResult(std::size_t row, const Fetched& fetched, KeptPage kept, bool isTooFull);
+  /// What is left out where the disk is too full.
+  enum class Room { plenty, noLog, noHistory };
+  std::optional<Stored> storeResult(std::size_t row, const Fetched& fetched, KeptPage kept, Room room = Room::plenty);
+  void takeIntoHistory(std::size_t row, const Fetched& fetched, bool passed);
   void keepForChannels(std::size_t row, const Fetched& fetched, const Stored& stored);
   CheckResult resultOf(std::size_t row, const Fetched& fetched, const Stored& stored) const;
   void shortenLog();

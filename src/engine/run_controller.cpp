@@ -59,6 +59,7 @@ RunController::RunController(const Needs& needs, TimerMaker& timers, Guard guard
       sites_(needs.dueSites),
       uncounted_(needs.results, needs.dueSites, needs.view),
       alarms_(needs.standings, needs.alerts, needs.clock),
+      history_(needs.history, alarms_, needs.clock),
       network_({needs.transfers, needs.timers, needs.pump, needs.clock}),
       life_(std::make_unique<ProofOfLife>(needs_)) {}
 
@@ -106,6 +107,7 @@ void RunController::stopChecking() {
   needs_.view.indicators(RunState::stop);
   tmrCheckSites_->setEnabled(false);
   forgetOffline();
+  history_.endKnowledge();
   life_->rest();
   needs_.view.showStatus("Stopped.");
 }
@@ -117,7 +119,7 @@ void RunController::runTestPass(std::int16_t mode) {
   const bool takesWhatWasLeft = std::exchange(somethingWasLeft_, false);
   standstill_.reset();
   try {
-    TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_});
+    TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_, history_});
     readOptions();
     needs_.reserve.keepReserve();
     TextTable sites =
@@ -154,7 +156,15 @@ void RunController::obey(OptionsInForce options) {
     life_->rest();
   }
   network_.obey(options);
+  history_.setOptions(options);
   alarms_.setOptions(std::move(options));
+}
+
+void RunController::beginHistory() {
+  history_.beginPass([this] {
+    needs_.pump.pump();
+    return running_ && !needs_.pump.closing();
+  });
 }
 
 TextTable RunController::withoutResting(TextTable sites) {
@@ -176,7 +186,7 @@ void RunController::tellWhatTimeHasBrought() {
   }
   alarmsSeen_ = minuteOf(needs_.clock);
   readOptions();
-  TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_});
+  TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_, history_});
   pass.tellWhatTimeHasBrought();
 }
 
@@ -192,7 +202,7 @@ const std::string& RunController::heartbeatFault() const { return life_->heartbe
 bool RunController::testOnce(TextTable sites) {
   startWanted_ = false;
   const bool whole = [&] {
-    TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_});
+    TestPass pass(*this, needs_, busy_, {sites_, uncounted_, alarms_, history_});
     // The pass looks at this flag; it is lowered before the pass puts the lamps right.
     const RaisedFlag whileTested(running_);
     const RaisedFlag withoutRun(testsOnce_);
@@ -312,6 +322,7 @@ bool RunController::hasJustWoken() {
 
 void RunController::goOffline(std::string page, Request request) {
   network_.setOffline(std::move(page), std::move(request));
+  history_.endKnowledge();
   const LocalTime since = *network_.offlineSince();
   needs_.view.showOffline(since);
   needs_.alerts.sendOfflineNotice(since);
@@ -326,7 +337,7 @@ bool RunController::staysOffline() {
   }
   if (network_.offlineSince()) {
     forgetOffline();
-    const TestPass noPassMeanwhile(*this, needs_, busy_, {sites_, uncounted_, alarms_});
+    const TestPass noPassMeanwhile(*this, needs_, busy_, {sites_, uncounted_, alarms_, history_});
     Transaction whole(needs_.standings.database());
     ChannelAlerts(needs_, *obeyed_).keepOnline(since);
     whole.commit();

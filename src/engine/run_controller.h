@@ -11,6 +11,7 @@
 
 #include "engine/back_off.h"
 #include "engine/due_sites.h"
+#include "engine/history_recording.h"
 #include "engine/inet_pool.h"
 #include "engine/own_network.h"
 #include "engine/run_view.h"
@@ -57,6 +58,7 @@ class RunController {
     KeptPages& keptPages;
     RoomReserve& reserve;
     SiteStandings& standings;
+    SiteHistory& history;
     TransferMaker& transfers;
     TimerMaker& timers;
   };
@@ -85,6 +87,8 @@ class RunController {
   void checkSoon(const std::vector<std::int16_t>& ids);
   /// These options hold from now on, as at the beginning of each pass those that are stored.
   void obey(OptionsInForce options);
+  /// Gets the history ready for the pass that is on.
+  void beginHistory();
   /// `sites` without those that are not to be checked now, since that is how their quiet time is to be spent.
   TextTable withoutResting(TextTable sites);
   /// Vocabulary: no front end calls it.
@@ -180,6 +184,7 @@ class RunController {
   SitesToTest sites_;
   UncountedFailures uncounted_;
   SiteAlarms alarms_;
+  HistoryRecording history_;
   // When it was asked last what time has brought.
   std::chrono::minutes alarmsSeen_{};
   OwnNetwork network_;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/selected_sites.h"
 
+#include <algorithm>
+#include <charconv>
 #include <utility>
 
 #include "base/errors.h"
@@ -35,6 +37,13 @@ std::exception_ptr SelectedSites::unusableId(std::size_t row) const {
   } catch (const OverflowError&) {
     return std::current_exception();
   }
+}
+
+std::chrono::minutes SelectedSites::interval(std::size_t row) const {
+  const std::string& text = cell(site_column::tInterval, row);
+  std::int64_t minutes = 0;
+  std::from_chars(text.data(), text.data() + text.size(), minutes);
+  return std::chrono::minutes(std::max<std::int64_t>(1, minutes));
 }
 
 Request SelectedSites::requestFor(std::size_t row) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
@@ -36,6 +37,9 @@ class SelectedSites {
   std::int16_t idSite(std::size_t row) const;
   /// That error; nothing for an id that can be used.
   std::exception_ptr unusableId(std::size_t row) const;
+
+  /// How long it is between two checks of the row's site: a minute at least.
+  std::chrono::minutes interval(std::size_t row) const;
 
   /// The request for a row's page; what it is asked with is kept until `forget`. Raises DataAccessError.
   Request requestFor(std::size_t row);

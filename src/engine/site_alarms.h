@@ -32,6 +32,8 @@ class SiteAlarms {
   /// What holds from now on.
   void setOptions(OptionsInForce options);
 
+  /// The policy of the site, as long as the options hold; nothing where the original rule does.
+  const AlarmPolicy* policyOf(std::int64_t idSite);
   /// Whether it decides about the site.
   bool decidesAbout(std::int16_t idSite) { return policyOf(idSite) != nullptr; }
   /// Whether the site is not to be checked now, since that is how its quiet time is to be spent.
@@ -54,7 +56,6 @@ class SiteAlarms {
   bool watchesTime() const { return watchesTime_; }
 
  private:
-  const AlarmPolicy* policyOf(std::int64_t idSite);
   SiteStanding standingOf(std::int16_t idSite);
 
   SiteStandings& standings_;

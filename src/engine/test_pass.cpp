@@ -90,6 +90,7 @@ void TestPass::test(TextTable sites) {
   options_ = needs_.options.optionsInForce();
   needs_.results.forgetSitesWithRules();
   run_.obey(options_);
+  run_.beginHistory();
   setUpPool();
   if (sites_.count() == 0) {
     return;

@@ -158,6 +158,26 @@ LocalTime localTimeAt(sys_seconds moment) {
   return local_days{date} + hours{fields->tm_hour} + minutes{fields->tm_min} + seconds{fields->tm_sec};
 }
 
+sys_seconds momentAt(LocalTime time) {
+  const sys_seconds asUtc(time.time_since_epoch());
+  const auto distanceAt = [](sys_seconds moment) {
+    return localTimeAt(moment).time_since_epoch() - moment.time_since_epoch();
+  };
+  // No clock is set twice within two days.
+  const seconds before = distanceAt(asUtc - days{1});
+  const seconds after = distanceAt(asUtc + days{1});
+  for (const seconds distance : {std::max(before, after), std::min(before, after)}) {
+    if (localTimeAt(asUtc - distance) == time) {
+      return asUtc - distance;
+    }
+  }
+  return asUtc - before;
+}
+
+sys_seconds Clock::now() const { return momentAt(localNow()); }
+
+sys_seconds SystemClock::now() const { return floor<seconds>(system_clock::now()); }
+
 milliseconds SystemClock::steadyNow() const {
   return duration_cast<milliseconds>(steady_clock::now().time_since_epoch());
 }

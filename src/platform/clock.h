@@ -19,6 +19,9 @@ class Clock {
   /// The local date and time now.
   virtual LocalTime localNow() const = 0;
 
+  /// The same moment wherever the clock on the wall may stand: it goes on evenly where daylight saving begins or ends.
+  virtual std::chrono::sys_seconds now() const;
+
   /// Time since an arbitrary moment; never goes back. For measuring durations.
   virtual std::chrono::milliseconds steadyNow() const = 0;
 
@@ -42,10 +45,15 @@ std::optional<LocalTime> parseStamp(std::string_view text);
 /// What the clock on the wall of this machine's time zone shows at a moment.
 LocalTime localTimeAt(std::chrono::sys_seconds moment);
 
+/// The moment at which it shows `time`: the first one where that comes twice, and where it is left out, the one that it
+/// would be had the clock not been set.
+std::chrono::sys_seconds momentAt(LocalTime time);
+
 /// The clocks of the operating system.
 class SystemClock final : public Clock {
  public:
   LocalTime localNow() const override;
+  std::chrono::sys_seconds now() const override;
   std::chrono::milliseconds steadyNow() const override;
   std::chrono::milliseconds processorTime() const override;
 };

@@ -14,6 +14,7 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       Baselines(ownedDatabase_),
       SiteTags(ownedDatabase_),
       Acknowledgements(ownedDatabase_),
+      SiteHistory(ownedDatabase_),
       Channels(ownedDatabase_),
       Outbox(ownedDatabase_),
       ResultLog(ownedDatabase_),

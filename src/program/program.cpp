@@ -44,6 +44,7 @@ struct Program::Parts {
              .keptPages = data,
              .reserve = data,
              .standings = data,
+             .history = data,
              .transfers = services.transfers,
              .timers = services.timers},
             services.timers,

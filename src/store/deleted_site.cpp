@@ -8,6 +8,7 @@
 
 #include "base/errors.h"
 #include "store/migrations.h"
+#include "store/site_history.h"
 #include "store/site_records.h"
 #include "store/table_there.h"
 
@@ -15,13 +16,16 @@ namespace tarnwick {
 namespace {
 
 /// What a site has rows in. The log stays where it is, and so does what other tools keep.
-constexpr std::array<std::string_view, 8> kTables{"postVars", "siteOptions", "siteState", "rules",
-                                                  "outbox",   "baselines",   "siteTags",  "acknowledged"};
+constexpr std::array<std::string_view, 14> kTables{"postVars",  "siteOptions", "siteState",    "rules",       "outbox",
+                                                   "baselines", "siteTags",    "acknowledged", "hours",       "days",
+                                                   "months",    "outages",     "latestChecks", "certificates"};
 
 DeletedSite::Rows rowsIn(Database& database, std::string_view table, std::int64_t idSite) {
   DeletedSite::Rows taken{std::string(table), {}, {}};
   const SqlValue id(idSite);
-  const auto rows = database.conn().execute("select * from " + taken.table + " where idSite = ?1", {&id, 1});
+  const std::string sql =
+      table == "hours" ? std::string("select *") + kHoursOfSite : "select * from " + taken.table + " where idSite = ?1";
+  const auto rows = database.conn().execute(sql, {&id, 1});
   for (std::size_t i = 0; i < rows->fieldCount(); ++i) {
     taken.columns.push_back(rows->fieldName(i));
   }

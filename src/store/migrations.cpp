@@ -69,10 +69,41 @@ bool addSettling(SqlConnection& connection, const std::string&) {
   return true;
 }
 
+bool addHistory(SqlConnection& connection, const std::string&) {
+  connection.execute(
+      "create table if not exists hours (idSite INTEGER NOT NULL, hour INTEGER NOT NULL, checks INTEGER NOT NULL, up "
+      "INTEGER NOT NULL, unknown INTEGER NOT NULL, msSum INTEGER NOT NULL, msMax INTEGER NOT NULL, buckets BLOB NOT "
+      "NULL, primary key (hour, idSite)) without rowid",
+      {});
+  connection.execute(
+      "create table if not exists days (idSite INTEGER NOT NULL, day INTEGER NOT NULL, seconds INTEGER NOT NULL, "
+      "checks INTEGER NOT NULL, up INTEGER NOT NULL, unknown INTEGER NOT NULL, msSum INTEGER NOT NULL, msMax INTEGER "
+      "NOT NULL, buckets BLOB NOT NULL, primary key (idSite, day)) without rowid",
+      {});
+  connection.execute(
+      "create table if not exists months (idSite INTEGER NOT NULL, month INTEGER NOT NULL, seconds INTEGER NOT NULL, "
+      "checks INTEGER NOT NULL, up INTEGER NOT NULL, unknown INTEGER NOT NULL, msSum INTEGER NOT NULL, msMax INTEGER "
+      "NOT NULL, buckets BLOB NOT NULL, primary key (idSite, month)) without rowid",
+      {});
+  connection.execute(
+      "create table if not exists outages (idSite INTEGER NOT NULL, began INTEGER NOT NULL, ended INTEGER, checks "
+      "INTEGER NOT NULL, cause TEXT NOT NULL, primary key (idSite, began)) without rowid",
+      {});
+  connection.execute(
+      "create table if not exists latestChecks (idSite INTEGER PRIMARY KEY, at INTEGER NOT NULL, up INTEGER NOT NULL, "
+      "until INTEGER, lookUp INTEGER, connect INTEGER, tls INTEGER, firstByte INTEGER, whole INTEGER)",
+      {});
+  connection.execute(
+      "create table if not exists certificates (idSite INTEGER PRIMARY KEY, began INTEGER NOT NULL, ends INTEGER NOT "
+      "NULL, issuer TEXT NOT NULL, told INTEGER)",
+      {});
+  return true;
+}
+
 /// What leads from each form to the next; the first makes form 1 of form 0. A step that has been in a release never
 /// changes: lists that have gone through it are in people's hands.
-constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense, &addSiteState,
-                                                    &addRules,       &addChannels,    &addSettling};
+constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense, &addSiteState, &addRules,
+                                                    &addChannels,    &addSettling,    &addHistory};
 
 void refuseNewer(std::int64_t form, const std::string& path) {
   if (form > kFormOfTables) {

@@ -218,6 +218,12 @@ std::vector<OptionField> runOptions() {
        .meaning =
            "How much the log holds of pages; the oldest are emptied first, and no page is stored while less than "
            "1 GiB or 5 % of the disk is free"},
+      {.name = std::string(option_name::history),
+       .kind = OptionKind::flag,
+       .recommended = std::string(option_value::on),
+       .original = "only the log tells of checks that are over",
+       .label = "History",
+       .meaning = "Whether it is kept for years when each site was up or down, and how long its answers took"},
       {.name = std::string(option_name::parallel),
        .kind = OptionKind::number,
        .least = 5,

@@ -70,6 +70,7 @@ inline constexpr std::string_view channels = "channels";
 inline constexpr std::string_view allIsWell = "allIsWell";
 inline constexpr std::string_view testAlert = "testAlert";
 inline constexpr std::string_view heartbeat = "heartbeat";
+inline constexpr std::string_view history = "history";
 }  // namespace option_name
 
 /// Values that it asks for.

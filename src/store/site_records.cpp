@@ -11,6 +11,7 @@
 #include "store/baselines.h"
 #include "store/first_field.h"
 #include "store/outbox.h"
+#include "store/site_history.h"
 #include "store/site_options.h"
 #include "store/site_rules.h"
 #include "store/site_standing.h"
@@ -49,6 +50,7 @@ void removeWhatGoesWith(Database& database, std::int64_t idSite) {
   Baselines(database).removeBaselinesOf(idSite);
   SiteTags(database).removeTagsOf(idSite);
   Acknowledgements(database).removeAcknowledgement(idSite);
+  SiteHistory(database).removeHistory(idSite);
 }
 
 }  // namespace

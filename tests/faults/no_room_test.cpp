@@ -107,10 +107,10 @@ TEST_F(NoRoom, TheLogCanBeClearedOnAFullDisk) {
   const int before = pages();
   TestServices machine;
   FilledFiles files;
-  files.room = DiskRoom{160 * kKib, 64 * 1024 * kKib};
+  files.room = DiskRoom{240 * kKib, 64 * 1024 * kKib};
   {
     m data(used.folder.path(), machine.services().with({.files = &files}));
-    disk.leaveRoom(160 * kKib);
+    disk.leaveRoom(240 * kKib);
     data.clearLog();
   }
   disk.heal();

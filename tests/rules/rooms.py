@@ -9,7 +9,7 @@ from rules.tree import Tree, room_of
 # The rooms, and which others each may include: the whole of who knows whom. A room is a folder of src; what is named
 # here includes nothing else, and what is not named here is no room.
 MACHINE = ("base", "platform")
-DATA = (*MACHINE, "holes", "store")
+DATA = (*MACHINE, "history", "holes", "store")
 RUN = (*DATA, "difference", "finding", "page_rules", "uucode", "mail", "alerts", "delivery", "report", "engine")
 EXCHANGE = (*RUN, "program", "exchange/json")
 TOOL = (*EXCHANGE, "exchange/list", "exchange/foreign", "cli/terminal")
@@ -25,11 +25,12 @@ ROOMS = {
     "platform/sound": (*MACHINE, "platform/os"),
     "platform/secrets": (*MACHINE, "platform/os"),
     "platform/desktop": (*MACHINE, "platform/os", "platform/secrets"),
+    "history": MACHINE,
     "holes": MACHINE,
     "difference": MACHINE,
     "finding": MACHINE,
     "page_rules": (*MACHINE, "holes"),
-    "store": (*MACHINE, "holes"),
+    "store": (*MACHINE, "history", "holes"),
     "uucode": MACHINE,
     "mail": MACHINE,
     "alerts": (*DATA, "mail"),

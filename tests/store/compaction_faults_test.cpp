@@ -109,7 +109,7 @@ TEST_F(CompactionFaultsTest, FolderInPlaceOfTheWorkFileFailsSilently) {
 TEST_F(CompactionFaultsTest, DamagedDatabaseFailsSilentlyAndStaysAsItIs) {
   database.close();
   std::string damaged = bytes("tarnwick.mdb");
-  for (std::size_t page = 20; page < 60; ++page) {
+  for (std::size_t page = 30; page < 60; ++page) {
     damaged.replace(page * 4096, 512, std::string(512, '\xEE'));
   }
   writeFile(folder.databasePath(), damaged, FileRest::kept);

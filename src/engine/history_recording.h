@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "engine/alarm_policy.h"
+#include "platform/clock.h"
+#include "store/site_history.h"
+#include "store/site_options.h"
+
+namespace tarnwick {
+
+class SiteAlarms;
+
+/// What of a time is paused, under maintenance, or quiet and spent without checks, by the policy of a site: in rising
+/// order, without overlap.
+std::vector<Stretch> plannedWithin(const AlarmPolicy& policy, Stretch time);
+
+/// Keeps the history of the sites where the option `history` wants it. Every failed statement raises DataAccessError.
+class HistoryRecording {
+ public:
+  HistoryRecording(SiteHistory& history, SiteAlarms& alarms, const Clock& clock)
+      : history_(history), alarms_(alarms), clock_(clock) {}
+
+  /// What holds from now on.
+  void setOptions(const OptionsInForce& options);
+  /// Gets ready for a pass: reads the log of the list, once. `goesOn` takes events in, and is false when the pass ends.
+  void beginPass(const std::function<bool()>& goesOn);
+  /// Whether the checks of this pass are taken.
+  bool takesChecks() const { return takes_; }
+  /// Takes one. REQUIRES: the transaction of its result, and `takesChecks()`.
+  void take(std::int16_t idSite, const SiteHistory::Entry& entry);
+  /// The checks so far say nothing of what comes now. Nothing where the database is in use or at fault: then that ends
+  /// by itself, with the interval of each site.
+  void endKnowledge() noexcept;
+
+ private:
+  SiteHistory& history_;
+  SiteAlarms& alarms_;
+  const Clock& clock_;
+  bool isWanted_ = false;
+  bool takes_ = false;
+};
+
+}  // namespace tarnwick
