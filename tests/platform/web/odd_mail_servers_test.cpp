@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Mail servers that do what no mail server should: what is made of each, and that none of them holds up anything else.
-#include <atomic>
-#include <future>
-#include <list>
-#include <thread>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <atomic>
+#include <condition_variable>
+#include <future>
+#include <list>
+#include <mutex>
+#include <stop_token>
+#include <thread>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
@@ -60,6 +64,29 @@ class LoopWatch {
   std::chrono::steady_clock::duration longest_{};
 };
 
+/// How long the machine lets a thread wait at most that wants to run each millisecond: what it takes from this one, it
+/// takes from the event loop, too.
+class MachineWatch {
+ public:
+  std::chrono::steady_clock::duration longest() const { return longest_; }
+
+ private:
+  void watch(const std::stop_token& end) {
+    std::mutex mutex;
+    std::unique_lock lock(mutex);
+    std::condition_variable_any never;
+    auto last = std::chrono::steady_clock::now();
+    while (!end.stop_requested()) {
+      never.wait_for(lock, end, std::chrono::milliseconds(1), [] { return false; });
+      const auto now = std::chrono::steady_clock::now();
+      longest_ = std::max(longest_.load(), now - std::exchange(last, now));
+    }
+  }
+
+  std::atomic<std::chrono::steady_clock::duration> longest_{};
+  std::jthread thread_{[this](const std::stop_token& end) { watch(end); }};
+};
+
 std::string withPlace(std::string words, std::uint16_t port) {
   if (const auto at = words.find("<place>"); at != std::string::npos) {
     words.replace(at, 7, "127.0.0.1 port " + std::to_string(port));
@@ -83,10 +110,11 @@ TEST_P(OddMailServers, AreToldInTheirOwnWordsAndHoldNothingUp) {
     probe.server.user = GetParam().user;
     probe.server.secret = "a secret";
     probe.server.limit = std::chrono::seconds(20);
+    const MachineWatch machine;
     const LoopWatch watch;
     EXPECT_EQ(probe.send(server.port()), withPlace(GetParam().words, server.port()));
     EXPECT_EQ(probe.delivered(), GetParam().words.find(": 250") != std::string::npos);
-    longest = watch.longest();
+    longest = watch.longest() - machine.longest();
   }
   EXPECT_LE(longest, std::chrono::milliseconds(50));
 }
