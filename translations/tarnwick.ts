@@ -4823,6 +4823,10 @@
         <source>Site %1 would have more than %2 tags. Remove some first.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>These sites hold more than 256 MB, which is too much to be kept until somebody wants them back. Nothing was deleted. Delete fewer at a time, or in a terminal with: tarnwickctl delete</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6490,6 +6494,57 @@ and when it is back</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::ChangeDialog</name>
+    <message>
+        <source>&amp;Check every</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes between two checks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell me</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change Site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change %1 Sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>check them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leave them out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Runs:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tell me:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::ChangeWindow</name>
     <message>
         <source>&amp;Accept…</source>
@@ -7709,6 +7764,13 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::NoticeButton</name>
+    <message>
+        <source>Esc puts it away</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::Notices</name>
     <message>
         <source>1 site is unwatched</source>
@@ -8226,6 +8288,30 @@ Do You Want To Discard Them And Close %2?</source>
         <source>Clearing counters ...</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Changing sites ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 was deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites were deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo Delete Site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo Delete %1 Sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Putting sites back ...</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::RuleTableModel</name>
@@ -8591,6 +8677,14 @@ Do You Want To Discard Them And Close %2?</source>
         <source>Alarm A&amp;gain</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Tags…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chan&amp;ge…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::SiteReason</name>
@@ -8708,6 +8802,76 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::SitesDialog</name>
+    <message>
+        <source>Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is changed yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comparing: %1 of %2 ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 stay as they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 site changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All of them are so already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::TagsDialog</name>
+    <message>
+        <source>Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags of Site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags of %1 Sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New tags:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::Tray</name>
     <message>
         <source>Open %1</source>
@@ -8751,6 +8915,17 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>%1 of %2 sites down</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::UndoNotice</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

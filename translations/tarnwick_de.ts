@@ -4823,6 +4823,10 @@
         <source>Site %1 would have more than %2 tags. Remove some first.</source>
         <translation>Seite %1 hätte mehr als %2 Schlagwörter. Entfernen Sie zuerst einige.</translation>
     </message>
+    <message>
+        <source>These sites hold more than 256 MB, which is too much to be kept until somebody wants them back. Nothing was deleted. Delete fewer at a time, or in a terminal with: tarnwickctl delete</source>
+        <translation>Diese Seiten umfassen mehr als 256 MB, zu viel, um es aufzuheben, bis jemand sie zurückholt. Nichts wurde gelöscht. Löschen Sie weniger auf einmal, oder in einem Terminal mit: tarnwickctl delete</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6491,6 +6495,57 @@ und wenn sie wieder da ist</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::ChangeDialog</name>
+    <message>
+        <source>&amp;Check every</source>
+        <translation>&amp;Prüfen alle</translation>
+    </message>
+    <message>
+        <source>Minutes between two checks</source>
+        <translation>Minuten zwischen zwei Prüfungen</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Läufe</translation>
+    </message>
+    <message>
+        <source>Tell me</source>
+        <translation>Mir melden</translation>
+    </message>
+    <message>
+        <source>Change Site %1</source>
+        <translation>Seite %1 ändern</translation>
+    </message>
+    <message>
+        <source>Change %1 Sites</source>
+        <translation>%1 Seiten ändern</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> Minuten</translation>
+    </message>
+    <message>
+        <source>as it is</source>
+        <translation>wie es ist</translation>
+    </message>
+    <message>
+        <source>check them</source>
+        <translation>prüfen sie</translation>
+    </message>
+    <message>
+        <source>leave them out</source>
+        <translation>lassen sie aus</translation>
+    </message>
+    <message>
+        <source>&amp;Runs:</source>
+        <translation>&amp;Läufe:</translation>
+    </message>
+    <message>
+        <source>&amp;Tell me:</source>
+        <translation>&amp;Mir melden:</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::ChangeWindow</name>
     <message>
         <source>&amp;Accept…</source>
@@ -7712,6 +7767,13 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::NoticeButton</name>
+    <message>
+        <source>Esc puts it away</source>
+        <translation>Esc räumt es weg</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::Notices</name>
     <message>
         <source>1 site is unwatched</source>
@@ -8229,6 +8291,30 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <source>Clearing counters ...</source>
         <translation>Zähler werden zurückgesetzt ...</translation>
     </message>
+    <message>
+        <source>Changing sites ...</source>
+        <translation>Seiten werden geändert ...</translation>
+    </message>
+    <message>
+        <source>Site %1 was deleted.</source>
+        <translation>Seite %1 wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>%1 sites were deleted.</source>
+        <translation>%1 Seiten wurden gelöscht.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Delete Site %1</source>
+        <translation>&amp;Löschen von Seite %1 rückgängig machen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Delete %1 Sites</source>
+        <translation>&amp;Löschen von %1 Seiten rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Putting sites back ...</source>
+        <translation>Seiten werden zurückgeholt ...</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::RuleTableModel</name>
@@ -8594,6 +8680,14 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <source>Alarm A&amp;gain</source>
         <translation>Wieder &amp;melden</translation>
     </message>
+    <message>
+        <source>&amp;Tags…</source>
+        <translation>&amp;Schlagwörter…</translation>
+    </message>
+    <message>
+        <source>Chan&amp;ge…</source>
+        <translation>Än&amp;dern…</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::SiteReason</name>
@@ -8711,6 +8805,76 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::SitesDialog</name>
+    <message>
+        <source>Change</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Nothing is changed yet.</source>
+        <translation>Noch ist nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Comparing: %1 of %2 ...</source>
+        <translation>Wird verglichen: %1 von %2 ...</translation>
+    </message>
+    <message>
+        <source>%1 of %2 stays as it is.</source>
+        <translation>%1 von %2 bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 stay as they are.</source>
+        <translation>%1 von %2 bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>1 site changes.</source>
+        <translation>1 Seite ändert sich.</translation>
+    </message>
+    <message>
+        <source>%1 sites change.</source>
+        <translation>%1 Seiten ändern sich.</translation>
+    </message>
+    <message>
+        <source>All of them are so already.</source>
+        <translation>Alle sind schon so.</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>%1 ändern</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::TagsDialog</name>
+    <message>
+        <source>Tags</source>
+        <translation>Schlagwörter</translation>
+    </message>
+    <message>
+        <source>New tags</source>
+        <translation>Neue Schlagwörter</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Tags of Site %1</source>
+        <translation>Schlagwörter von Seite %1</translation>
+    </message>
+    <message>
+        <source>Tags of %1 Sites</source>
+        <translation>Schlagwörter von %1 Seiten</translation>
+    </message>
+    <message>
+        <source>&amp;New tags:</source>
+        <translation>&amp;Neue Schlagwörter:</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::Tray</name>
     <message>
         <source>Open %1</source>
@@ -8755,6 +8919,17 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>%1 of %2 sites down</source>
         <translation>%1 von %2 Seiten ausgefallen</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::UndoNotice</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
     </message>
 </context>
 <context>

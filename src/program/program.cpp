@@ -91,6 +91,12 @@ void Program::start() {
   view_.showStatus("Ready ...");
 }
 
+void Program::tellDeleted(DeletedSite site) {
+  if (deleted_ && !site.tables.empty()) {
+    deleted_(std::move(site));
+  }
+}
+
 bool Program::startRun() {
   // The passes that follow go on with the first one's work: what stopped that one is not told again by them.
   return faults_.run(

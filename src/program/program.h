@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "engine/inet_pool.h"
@@ -44,6 +46,10 @@ class Program {
   /// What writes the day's report while a run is on.
   ReportTimer& report();
 
+  /// Who deletes a site tells it here, as it was; `onDeleted` sets who wants to know.
+  void tellDeleted(DeletedSite site);
+  void onDeleted(std::function<void(DeletedSite site)> told) { deleted_ = std::move(told); }
+
   /// Shows a handler's failure in one box instead of letting it travel into the event loop.
   FaultBox& faults() { return faults_; }
   const Services& services() const { return services_; }
@@ -75,6 +81,7 @@ class Program {
   RunView& view_;
   const Fields& fields_;
   FaultBox faults_;
+  std::function<void(DeletedSite)> deleted_;
   std::unique_ptr<RunLock> lock_;
   std::unique_ptr<Parts> parts_;
 };

@@ -76,6 +76,19 @@ void insert(Database& database, DeletedSite::Rows rows) {
 
 }  // namespace
 
+std::size_t sizeOf(const DeletedSite& site) {
+  std::size_t size = 0;
+  for (const DeletedSite::Rows& table : site.tables) {
+    for (const std::vector<SqlValue>& row : table.rows) {
+      for (const SqlValue& value : row) {
+        const auto* const text = std::get_if<std::string>(&value.held());
+        size += sizeof(SqlValue) + (text == nullptr ? 0 : text->size());
+      }
+    }
+  }
+  return size;
+}
+
 DeletedSite takeSiteOut(Database& database, std::int64_t idSite) {
   DeletedSite site{idSite, {}, {}};
   Transaction whole(database);

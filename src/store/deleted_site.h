@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -21,6 +22,9 @@ struct DeletedSite {
   std::string url;
   std::vector<Rows> tables;
 };
+
+/// About how many bytes it holds.
+std::size_t sizeOf(const DeletedSite& site);
 
 /// Deletes a site as `SiteRecords::deleteSite` does, and returns it; without tables when there is no such site. What
 /// the log says of it stays. In one transaction; raises DataAccessError.

@@ -42,8 +42,10 @@ class AlarmSection final : public QWidget {
   /// What was changed.
   const OptionEdit& options() const { return options_; }
 
- private:
+  /// The answer in words, of two lines where it is long.
   static QString captionOf(AlarmPreset preset, bool ofAll);
+
+ private:
   void makePresets(QWidget& frame);
   void makeQuiet();
   QWidget* makePaused();

@@ -23,6 +23,7 @@
 #include "ui/main_window/master_pictures.h"
 #include "ui/main_window/notice_actions.h"
 #include "ui/main_window/site_menu.h"
+#include "ui/main_window/undo_notice.h"
 
 namespace tarnwick {
 namespace {
@@ -57,11 +58,12 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   setCentralWidget(canvas);
   notices_ = new Notices(program_, *controls_.noticeBar, *controls_.grid1, this);
   marks_ = new AlarmMarks(program_, sites_, this);
-  auto* menu = new SiteMenu(program_, *controls_.grid1, *controls_.pauseAll, this);
-  connect(menu, &SiteMenu::alwaysChanges, this,
+  menu_ = new SiteMenu(program_, *controls_.grid1, *controls_.pauseAll, this);
+  connect(menu_, &SiteMenu::alwaysChanges, this,
           [this](std::int16_t idSite) { program_.faults().run([&] { editors_.site.propose(idSite); }); });
   details_ = new DetailsArea(program_, *canvas, controls_, this);
-  details_->addTo(menu->rowMenu());
+  details_->addTo(menu_->rowMenu());
+  new UndoNotice(menu_->actions(), *controls_.noticeBar, *controls_.undo, *controls_.grid1, this);
   connect(marks_, &AlarmMarks::pauseRead, notices_, &Notices::tellPaused);
   new SiteSearch(program_, *controls_.grid1, controls_.search, this);
   auto* steps = new FirstSteps(program_, *controls_.grid1);
@@ -81,7 +83,11 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   controls_.grid1->setFocus();
 }
 
-Master::~Master() { qDeleteAll(findChildren<QDialog*>(Qt::FindDirectChildrenOnly)); }  // before the program they know
+// Before the program they know.
+Master::~Master() {
+  qDeleteAll(findChildren<QDialog*>(Qt::FindDirectChildrenOnly));
+  delete menu_;
+}
 
 bool Master::load() {
   return loaded_ = openOrOfferCopy(

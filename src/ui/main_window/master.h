@@ -21,6 +21,8 @@
 
 namespace tarnwick {
 
+class SiteMenu;
+
 /// The windows that edit what the main window shows. What is empty is not offered to the user.
 struct Editors {
   SiteEditing site;
@@ -110,6 +112,7 @@ class Master final : public QMainWindow, public RunView {
   Notices* notices_ = nullptr;  // the window's own
   AlarmMarks* marks_ = nullptr;
   DetailsArea* details_ = nullptr;
+  SiteMenu* menu_ = nullptr;
   bool loaded_ = false;
   RunState state_ = RunState::stop;
   Editors editors_;

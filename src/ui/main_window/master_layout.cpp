@@ -58,6 +58,9 @@ void makeListMenu(QWidget& canvas, MasterControls& controls) {
   canvas.addAction(controls.outbox);
   controls.pauseAll = menu->addMenu(QObject::tr("&Pause All"));
   controls.pauseAll->setObjectName(QStringLiteral("pauseAll"));
+  menu->addSeparator();
+  controls.undo = menu->addAction(QString());
+  controls.undo->setObjectName(QStringLiteral("undo"));
   controls.listButton->setMenu(menu);
 }
 

@@ -43,6 +43,7 @@ struct MasterControls {
   QAction* importList;
   QAction* outbox;
   QMenu* pauseAll;
+  QAction* undo;
   SiteGridView* grid1;
   StatusLine* lStatus;
   SiteReason* lReason;

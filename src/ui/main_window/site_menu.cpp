@@ -65,6 +65,8 @@ void SiteMenu::makeRowMenu() {
       [this] { actions_->resume(chosen()); });
   addKey(*pauses->actions().front(), Qt::CTRL | Qt::Key_P);
   row_->addSeparator();
+  add("editTags", tr("&Tags…"), Qt::CTRL | Qt::Key_T, &RowActions::editTags);
+  add("changeSites", tr("Chan&ge…"), Qt::CTRL | Qt::Key_E, &RowActions::change);
   reset_ = add("resetCounters", tr("&Reset Counters…"), {}, &RowActions::resetCounters);
   row_->addSeparator();
   browser_ = add("openInBrowser", tr("Open in &Browser"), Qt::CTRL | Qt::Key_B, [this] { openInBrowser(); });

@@ -2,24 +2,54 @@
 #include "ui/rows/row_actions.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
+#include <QPointer>
 
 #include "store/site_pauses.h"
 #include "ui/controls/alarm_words.h"
 #include "ui/controls/boxes.h"
+#include "ui/controls/placement.h"
+#include "ui/rows/change_dialog.h"
 #include "ui/rows/row_questions.h"
+#include "ui/rows/tags_dialog.h"
 
 namespace tarnwick {
+namespace {
+
+constexpr std::size_t kMostKept = std::size_t{256} * 1024 * 1024;
+
+}  // namespace
 
 RowActions::RowActions(Program& program, QWidget& window, QObject* parent)
-    : QObject(parent), program_(program), window_(window), work_(new SiteWork(program, window, this)) {}
-
-void RowActions::ask(const QStringList& question, bool destroys, const std::function<void()>& action) {
-  tarnwick::ask(window_, program_, {.text = paragraphs(question), .destroys = destroys}, [action](bool yes) {
-    if (yes) {
-      action();
-    }
+    : QObject(parent),
+      program_(program),
+      work_(new SiteWork(program, window, this)),
+      window_(window),
+      undoList_(new UndoList(this)) {
+  program_.onDeleted([this](DeletedSite site) {
+    const auto deleted = std::make_shared<Deleted>();
+    const std::int64_t id = site.idSite;
+    deleted->emplace(id, std::move(site));
+    keepDeleted(deleted);
   });
+}
+
+// The main window can always be closed, so it is not the one that waits.
+void RowActions::ask(const QStringList& question, bool destroys, const std::function<void()>& action) {
+  if (std::exchange(isAsking_, true)) {
+    return;
+  }
+  program_.services().prompts.confirm(
+      {.text = paragraphs(question), .icon = PromptIcon::question, .destroys = destroys},
+      [self = QPointer(this), action](bool yes) {
+        if (self != nullptr) {
+          self->isAsking_ = false;
+          if (yes) {
+            self->program_.faults().run(action);
+          }
+        }
+      });
 }
 
 void RowActions::askWhereSeveral(const ChosenSites& all, const QStringList& question,
@@ -147,21 +177,80 @@ void RowActions::remove(const ChosenSites& sites) {
   const QString question =
       counted(sites.size(), tr("Do You Want To Delete This Site?"), tr("Do You Want To Delete These %1 Sites?"));
   ask({question, listOf(sites)}, true, [this, sites] {
-    const auto taken = std::make_shared<std::vector<DeletedSite>>();
+    const auto taken = std::make_shared<Deleted>();
     write(
         tr("Deleting sites ..."), sites,
-        [taken](m& data, std::int16_t idSite) {
+        [taken, size = std::size_t{0}](m& data, std::int16_t idSite) mutable {
           DeletedSite site = data.takeSiteOut(idSite);
-          if (!site.tables.empty()) {
-            taken->push_back(std::move(site));
+          size += sizeOf(site);
+          if (size > kMostKept && !taken->empty()) {
+            throw std::runtime_error(
+                "These sites hold more than 256 MB, which is too much to be kept until somebody wants them back. "
+                "Nothing "
+                "was deleted. Delete fewer at a time, or in a terminal with: tarnwickctl delete");
           }
+          taken->emplace(idSite, std::move(site));
         },
         [this, taken] {
-          if (!taken->empty()) {
-            Q_EMIT deleted(taken);
-          }
+          std::erase_if(*taken, [](const auto& site) { return site.second.tables.empty(); });
+          keepDeleted(taken);
         });
   });
+}
+
+void RowActions::editTags(const ChosenSites& sites) {
+  if (!sites.empty()) {
+    openDialog(*new TagsDialog(program_, sites, &window_));
+  }
+}
+
+void RowActions::change(const ChosenSites& sites) {
+  if (!sites.empty()) {
+    openDialog(*new ChangeDialog(program_, sites, &window_));
+  }
+}
+
+void RowActions::openDialog(SitesDialog& dialog) {
+  connect(&dialog, &SitesDialog::agreed, this,
+          [this](const std::vector<std::int16_t>& ids, const SiteChanges& changes) {
+            work_->start(
+                SiteWork::Aim::write, tr("Changing sites ..."), ids,
+                [changes](m& data, std::int16_t idSite) { carryOutChange(data, idSite, changes); },
+                [this] { program_.run().init(); });
+          });
+  sizeToContents(dialog, window_);
+  placeOver(dialog, window_);
+  dialog.show();
+  bringToFront(dialog);
+}
+
+void RowActions::keepDeleted(const std::shared_ptr<const Deleted>& sites) {
+  if (sites->empty()) {
+    return;
+  }
+  const bool isOne = sites->size() == 1;
+  undoList_->add(
+      {isOne ? tr("Site %1 was deleted.").arg(sites->begin()->first) : tr("%1 sites were deleted.").arg(sites->size()),
+       isOne ? tr("&Undo Delete Site %1").arg(sites->begin()->first) : tr("&Undo Delete %1 Sites").arg(sites->size()),
+       [this, sites](const std::function<void()>& done) { undoDelete(sites, done); }});
+}
+
+void RowActions::undoDelete(const std::shared_ptr<const Deleted>& sites, const std::function<void()>& done) {
+  if (work_->isBusy()) {
+    return;
+  }
+  std::vector<std::int16_t> ids;
+  for (const auto& [id, site] : *sites) {
+    ids.push_back(static_cast<std::int16_t>(id));
+  }
+  work_->start(
+      SiteWork::Aim::write, tr("Putting sites back ..."), ids,
+      [sites](m& data, std::int16_t idSite) { data.putSiteBack(sites->at(idSite)); },
+      [this, ids, done] {
+        program_.run().init();
+        Q_EMIT putBack(ids);
+        done();
+      });
 }
 
 }  // namespace tarnwick

@@ -29,6 +29,8 @@ class SiteWork final : public QObject {
   SiteWork(Program& program, QWidget& window, QObject* parent);
   ~SiteWork() override;
 
+  bool isBusy() const { return !jobs_.empty(); }
+
   /// Begins; a single site is dealt with at once, so what is written for one is a whole. `done` follows when all is
   /// well. A failure ends in one box, and nothing was written then. `what` tells people what goes on.
   void start(Aim aim, const QString& what, std::vector<std::int16_t> ids, Piece piece, std::function<void()> done);

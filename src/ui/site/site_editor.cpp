@@ -194,8 +194,9 @@ void SiteEditor::Command6_Click() {
   ask(*this, program_, {.text = "Do You Want To Delete This Site?\n\n" + site.toStdString(), .destroys = true},
       [this](bool yes) {
         if (yes) {
-          program_.data().deleteSite(idSite_);
+          DeletedSite deleted = program_.data().takeSiteOut(idSite_);
           unload();
+          program_.tellDeleted(std::move(deleted));
         }
       });
 }

@@ -12,6 +12,7 @@
 
 #include "platform/process/file_run_lock.h"
 #include "ui/controls/colour_text.h"
+#include "ui/controls/tones.h"
 #include "ui/support/master_fixture.h"
 
 namespace tarnwick {

@@ -5,9 +5,13 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QGuiApplication>
+#include <QListWidget>
 #include <QMenu>
+#include <QSpinBox>
 
 #include "ui/support/longest_gap.h"
 #include "ui/support/master_fixture.h"
@@ -225,6 +229,114 @@ TEST_F(SiteMenuTest, SeveralSitesAreDeletedTogether) {
             "Do You Want To Delete These 2 Sites?\n\nSite 1: http://site1.test/\nSite 3: http://site3.test/");
   EXPECT_TRUE(machine.prompts.shown().back().destroys);
   EXPECT_EQ(query("select group_concat(idSite) from sites"), "2,4");
+}
+
+TEST_F(SiteMenuTest, WhatWasDeletedComesBackTheLastFirst) {
+  for (int id = 1; id <= 4; ++id) {
+    addJudged(id, true, "http://site" + std::to_string(id) + ".test/");
+  }
+  folder.execute("insert into siteTags (idSite, tag) values (3, 'shop')");
+  openOnList();
+  const auto& entry = find<QAction>("undo");
+  EXPECT_FALSE(entry.isEnabled());
+  clickRow(2, Qt::ControlModifier);
+  machine.prompts.answerConfirm(true);
+  press(Qt::Key_Delete);
+  ASSERT_TRUE(waitUntil([&] { return rows() == 2; }));
+  auto& notice = find<NoticeButton>("noticeUndo");
+  EXPECT_TRUE(notice.isVisible());
+  EXPECT_EQ(notice.sentence(), QStringLiteral("2 sites were deleted."));
+  machine.prompts.answerConfirm(true);
+  press(Qt::Key_Delete);
+  EXPECT_EQ(notice.sentence(), QStringLiteral("Site 4 was deleted."));
+  EXPECT_TRUE(entry.text().contains(QStringLiteral("Undo Delete Site 4")));
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(query("select group_concat(idSite) from sites"), "2,4");
+  EXPECT_EQ(chosen(), "4");
+  click("noticeUndo");
+  EXPECT_TRUE(waitUntil([&] { return rows() == 4; }));
+  EXPECT_EQ(query("select tag from siteTags where idSite = 3"), "shop");
+  EXPECT_EQ(chosen(), "1 3");
+  EXPECT_FALSE(notice.isVisible());
+  EXPECT_FALSE(entry.isEnabled());
+}
+
+TEST_F(SiteMenuTest, WhatCannotComeBackStaysWhatCanBeUndone) {
+  addJudged(1, true);
+  openOnList();
+  machine.prompts.answerConfirm(true);
+  press(Qt::Key_Delete);
+  folder.execute("insert into sites (idSite, url) values (1, 'http://other.test/')");
+  find<QAction>("undo").trigger();
+  EXPECT_THAT(machine.prompts.texts().back(), HasSubstr("another site has its id meanwhile"));
+  EXPECT_TRUE(find<QAction>("undo").isEnabled());
+}
+
+TEST_F(SiteMenuTest, TheNoticeOfADeletionCanBePutAway) {
+  addJudged(1, true);
+  addJudged(2, true);
+  openOnList();
+  machine.prompts.answerConfirm(true);
+  press(Qt::Key_Delete);
+  auto& notice = find<NoticeButton>("noticeUndo");
+  QTest::mouseClick(&notice, Qt::LeftButton, {}, QPoint(notice.width() - 10, notice.height() / 2));
+  EXPECT_FALSE(notice.isVisible());
+  EXPECT_EQ(rows(), 1);
+  EXPECT_TRUE(find<QAction>("undo").isEnabled());
+}
+
+TEST_F(SiteMenuTest, TagsAreGivenToAllAndTakenFromSome) {
+  for (int id = 1; id <= 3; ++id) {
+    addJudged(id, true);
+  }
+  folder.execute("insert into siteTags (idSite, tag) values (1, 'news'), (2, 'news'), (1, 'shop')");
+  openOnList();
+  press(Qt::Key_A, Qt::ControlModifier);
+  press(Qt::Key_T, Qt::ControlModifier);
+  auto& dialog = find<QDialog>("frmTags");
+  auto& list = *dialog.findChild<QListWidget*>(QStringLiteral("tagsList"));
+  ASSERT_EQ(list.count(), 2);
+  EXPECT_EQ(list.item(0)->checkState(), Qt::PartiallyChecked);
+  auto& ok = *dialog.findChild<QPushButton*>(QStringLiteral("sitesOk"));
+  EXPECT_FALSE(ok.isEnabled());
+  auto& typed = *dialog.findChild<QLineEdit*>(QStringLiteral("tagsNew"));
+  QTest::keyClicks(&typed, QStringLiteral("a\"b"));
+  QTest::keyClick(&typed, Qt::Key_Return);
+  EXPECT_TRUE(dialog.findChild<QLabel*>(QStringLiteral("tagsFault"))->isVisible());
+  typed.clear();
+  QTest::keyClicks(&typed, QStringLiteral("SHOP"));
+  QTest::keyClick(&typed, Qt::Key_Return);
+  ASSERT_EQ(list.count(), 2) << "letter case does not matter";
+  ASSERT_TRUE(waitUntil([&] { return ok.isEnabled(); }));
+  EXPECT_EQ(dialog.findChild<QLabel*>(QStringLiteral("sitesPreview"))->text(),
+            QStringLiteral("2 sites change. 1 of 3 stays as it is."));
+  QTest::keyClick(&typed, Qt::Key_Return);
+  EXPECT_TRUE(waitUntil([&] { return query("select count(*) from siteTags where tag = 'shop'") == "3"; }));
+  EXPECT_EQ(query("select count(*) from siteTags where tag = 'news'"), "2");
+}
+
+TEST_F(SiteMenuTest, IntervalRunsAndAlarmAreChangedTogether) {
+  for (int id = 1; id <= 3; ++id) {
+    addJudged(id, true);
+  }
+  folder.execute("update sites set tInterval = 5 where idSite = 3");
+  openOnList();
+  press(Qt::Key_A, Qt::ControlModifier);
+  press(Qt::Key_E, Qt::ControlModifier);
+  auto& dialog = find<QDialog>("frmChangeSites");
+  auto& ok = *dialog.findChild<QPushButton*>(QStringLiteral("sitesOk"));
+  const auto& preview = *dialog.findChild<QLabel*>(QStringLiteral("sitesPreview"));
+  dialog.findChild<QCheckBox*>(QStringLiteral("changesInterval"))->click();
+  dialog.findChild<QSpinBox*>(QStringLiteral("newInterval"))->setValue(5);
+  ASSERT_TRUE(waitUntil([&] { return ok.isEnabled(); }));
+  EXPECT_EQ(preview.text(), QStringLiteral("2 sites change. 1 of 3 stays as it is."));
+  EXPECT_EQ(ok.text(), QStringLiteral("Change 2"));
+  auto& alarm = *dialog.findChild<QComboBox*>(QStringLiteral("newAlarm"));
+  alarm.setCurrentIndex(alarm.count() - 1);
+  ASSERT_TRUE(waitUntil([&] { return ok.text() == QStringLiteral("Change 3"); }));
+  QTest::mouseClick(&ok, Qt::LeftButton);
+  EXPECT_TRUE(waitUntil([&] { return query("select count(*) from siteOptions where name = 'alerts'") == "3"; }));
+  EXPECT_EQ(query("select group_concat(tInterval) from sites"), "5,5,5");
 }
 
 TEST_F(SiteMenuTest, SitesAreCheckedNowWithoutARun) {
