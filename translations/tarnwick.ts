@@ -4827,6 +4827,66 @@
         <source>These sites hold more than 256 MB, which is too much to be kept until somebody wants them back. Nothing was deleted. Delete fewer at a time, or in a terminal with: tarnwickctl delete</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Ask for one of --json, --csv and --svg.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A picture is of one site: name one for --svg.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No history is kept. To keep it: tarnwickctl option all history=on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show when sites were up or down, and how long their answers took</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write a picture of one site&apos;s stripes into this file; - is standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print each cell of each stripe as a row of CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of 24 hours, 7, 30, 90 and 365 days. Per cent are those of the time of which something is known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The option history says whether it is kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stripes, figures and outages of a site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one line for each site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a picture for a web page or a mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print how the sites stand as figures for Prometheus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace this file as a whole instead, as the textfile collector of its node exporter wants it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>every figure of every site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for the textfile collector, from cron</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

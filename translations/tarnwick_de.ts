@@ -4827,6 +4827,66 @@
         <source>These sites hold more than 256 MB, which is too much to be kept until somebody wants them back. Nothing was deleted. Delete fewer at a time, or in a terminal with: tarnwickctl delete</source>
         <translation>Diese Seiten umfassen mehr als 256 MB, zu viel, um es aufzuheben, bis jemand sie zurückholt. Nichts wurde gelöscht. Löschen Sie weniger auf einmal, oder in einem Terminal mit: tarnwickctl delete</translation>
     </message>
+    <message>
+        <source>Ask for one of --json, --csv and --svg.</source>
+        <translation>Verlangen Sie nur eines von --json, --csv und --svg.</translation>
+    </message>
+    <message>
+        <source>A picture is of one site: name one for --svg.</source>
+        <translation>Ein Bild zeigt eine Seite: Nennen Sie für --svg genau eine.</translation>
+    </message>
+    <message>
+        <source>No history is kept. To keep it: tarnwickctl option all history=on</source>
+        <translation>Es wird kein Verlauf festgehalten. Einschalten: tarnwickctl option all history=on</translation>
+    </message>
+    <message>
+        <source>Show when sites were up or down, and how long their answers took</source>
+        <translation>Zeigt, wann Seiten erreichbar oder gestört waren und wie lange ihre Antworten dauerten</translation>
+    </message>
+    <message>
+        <source>Write a picture of one site&apos;s stripes into this file; - is standard output</source>
+        <translation>Schreibt ein Bild der Streifen einer Seite in diese Datei; - ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Print each cell of each stripe as a row of CSV</source>
+        <translation>Gibt jedes Feld jedes Streifens als Zeile in CSV aus</translation>
+    </message>
+    <message>
+        <source>Of 24 hours, 7, 30, 90 and 365 days. Per cent are those of the time of which something is known.</source>
+        <translation>Von 24 Stunden, 7, 30, 90 und 365 Tagen. Die Prozente gelten für die bekannte Zeit.</translation>
+    </message>
+    <message>
+        <source>The option history says whether it is kept.</source>
+        <translation>Die Option history sagt, ob er festgehalten wird.</translation>
+    </message>
+    <message>
+        <source>stripes, figures and outages of a site</source>
+        <translation>Streifen, Zahlen und Ausfälle einer Seite</translation>
+    </message>
+    <message>
+        <source>one line for each site</source>
+        <translation>eine Zeile für jede Seite</translation>
+    </message>
+    <message>
+        <source>a picture for a web page or a mail</source>
+        <translation>ein Bild für eine Webseite oder eine Mail</translation>
+    </message>
+    <message>
+        <source>Print how the sites stand as figures for Prometheus</source>
+        <translation>Gibt aus, wie die Seiten stehen, als Zahlen für Prometheus</translation>
+    </message>
+    <message>
+        <source>Replace this file as a whole instead, as the textfile collector of its node exporter wants it</source>
+        <translation>Ersetzt stattdessen diese Datei als Ganzes, wie es der Textfile-Collector des Node-Exporters erwartet</translation>
+    </message>
+    <message>
+        <source>every figure of every site</source>
+        <translation>jede Zahl jeder Seite</translation>
+    </message>
+    <message>
+        <source>for the textfile collector, from cron</source>
+        <translation>für den Textfile-Collector, aus cron</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -28,6 +28,8 @@ std::vector<Verb> allVerbs(const Fields& fields) {
   all.push_back(learnVerb());
   all.push_back(rulesVerb());
   all.push_back(logVerb());
+  all.push_back(historyVerb());
+  all.push_back(metricsVerb());
   add(upkeepVerbs());
   all.push_back(exportVerb());
   all.push_back(importVerb());

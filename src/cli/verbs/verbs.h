@@ -35,6 +35,8 @@ std::vector<Verb> pauseVerbs();
 Verb learnVerb();
 Verb rulesVerb();
 Verb logVerb();
+Verb historyVerb();
+Verb metricsVerb();
 Verb initVerb();
 /// Prints the completions of all verbs.
 Verb completionVerb();

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "history/calendar.h"
+#include "history/history_rule.h"
+#include "store/site_history.h"
+
+namespace tarnwick {
+
+/// What is known of a site over one of the `periods()`, cell by cell.
+struct PeriodView {
+  Period period;
+  /// Where the cells begin, and the present.
+  std::vector<Moment> edges;
+  std::vector<TimeSum> cells;
+
+  std::chrono::seconds lengthOf(std::size_t cell) const { return edges[cell + 1] - edges[cell]; }
+  TimeSum whole() const;
+  std::chrono::seconds length() const { return edges.back() - edges.front(); }
+};
+
+/// One for each of `periods()`, up to `now`, with what the latest check says of the time since. A site that is checked
+/// every `interval`. Raises DataAccessError.
+std::vector<PeriodView> periodsOf(SiteHistory& history, std::int64_t idSite, std::chrono::seconds interval, Moment now);
+
+/// The sums of many sites over each of `periods()`, without how long their answers took but for those of 7 days. Empty
+/// for a site of which nothing is known. Raises DataAccessError.
+using PeriodSums = std::vector<TimeSum>;
+std::map<std::int64_t, PeriodSums> sumsOfPeriods(SiteHistory& history,
+                                                 const std::map<std::int64_t, std::chrono::seconds>& intervals,
+                                                 Moment now);
+
+}  // namespace tarnwick

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "cli/support/tool_fixture.h"
+
+namespace tarnwick::testing {
+namespace {
+
+using ::testing::HasSubstr;
+
+// The clock stands at 2024-05-17 12:00:00.
+class HistoryVerb : public ToolFixture {
+ protected:
+  HistoryVerb() {
+    addSite("http://a.example/");
+    addSite("http://b.example/");
+    const std::string hour = std::to_string(
+        std::chrono::duration_cast<std::chrono::seconds>(machine.clock().now().time_since_epoch()).count() - 7200);
+    folder.execute("insert into hours values (1, " + hour + ", 6, 2700, 0, 600, 200, x'3006'), (1, " + hour +
+                   " + 3600, 6, 1800, 1800, 600, 200, x'3006'); insert into outages values (1, " + hour + ", " + hour +
+                   " + 900, 2, 'refused'); insert into latestChecks (idSite, at, up, until, whole) values (1, " + hour +
+                   " + 7000, 1, " + hour + " + 7000, 100), (0, 1, 1, null, null)");
+    folder.execute("insert or replace into siteOptions values (0, 'history', 'on')");
+  }
+};
+
+TEST_F(HistoryVerb, ShowsStripesFiguresAndOutages) {
+  EXPECT_EQ(run({"history", "1"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("1  http://a.example/"));
+  EXPECT_THAT(out, HasSubstr("83.33 %"));
+  EXPECT_THAT(out, HasSubstr("15 min"));
+  EXPECT_THAT(out, HasSubstr("refused"));
+}
+
+TEST_F(HistoryVerb, PerCentAreThoseOfTheKnownTime) {
+  const Json list = runJson({"history", "all", "--json"});
+  ASSERT_EQ(list.size(), 2U);
+  for (const Json& period : list[0]["periods"]) {
+    EXPECT_NEAR(period["uptime"].get<double>(), 100.0 * 4500 / 5400, 1e-9) << period["days"];
+    EXPECT_EQ(period["checks"], 12);
+    EXPECT_EQ(period["downSeconds"], 900);
+  }
+  EXPECT_TRUE(list[1]["periods"][0]["uptime"].is_null());
+  EXPECT_EQ(list[0]["outages"][0]["seconds"], 900);
+  EXPECT_EQ(list[0]["latestMs"]["whole"], 100);
+}
+
+TEST_F(HistoryVerb, SeveralSitesHaveALineEach) {
+  EXPECT_EQ(run({"history", "all"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("83.33 %  83.33 %  83.33 %  83.33 %  83.33 %"));
+  EXPECT_THAT(out, HasSubstr("http://b.example/"));
+}
+
+TEST_F(HistoryVerb, WritesCsvAndPictures) {
+  EXPECT_EQ(run({"history", "1", "--csv"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr(",2700,900,0,6,"));
+  EXPECT_EQ(run({"history", "1", "--svg", "-"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("<svg "));
+  EXPECT_NE(run({"history", "all", "--svg", "-"}), exit_status::ok);
+  EXPECT_NE(run({"history", "1", "--csv", "--json"}), exit_status::ok);
+}
+
+TEST_F(HistoryVerb, SaysWhenNoneIsKept) {
+  folder.execute("delete from siteOptions");
+  EXPECT_EQ(run({"history", "1"}), exit_status::ok);
+  EXPECT_THAT(err, HasSubstr("history=on"));
+}
+
+TEST_F(HistoryVerb, MetricsAreThoseOfEverySite) {
+  folder.execute("update sites set status = 1, success = 5, failure = 2, active = 1 where idSite = 1");
+  EXPECT_EQ(run({"metrics"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("tarnwick_site_up{id=\"1\",url=\"http://a.example/\"} 1\n"));
+  EXPECT_THAT(out, HasSubstr("result=\"failed\"} 2\n"));
+  EXPECT_THAT(out, HasSubstr("part=\"whole\"} 0.1\n"));
+  EXPECT_EQ(run({"metrics", "--file", folder.file("m.prom")}), exit_status::ok);
+  EXPECT_EQ(out, "");
+}
+
+}  // namespace
+}  // namespace tarnwick::testing
