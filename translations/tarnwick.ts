@@ -4887,6 +4887,10 @@
         <source>for the textfile collector, from cron</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The name of the file %1 ends neither in .csv nor in .json, so its format is not known. Give it one of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6166,6 +6170,34 @@
         <source>only the log tells of checks that are over</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Exported 1 site to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exported %1 sites to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do You Want To Replace The File %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV, for a spreadsheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON, with all that is set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add Addresses…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -6203,6 +6235,69 @@
     </message>
     <message>
         <source>, %1 changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AddressesDialog</name>
+    <message>
+        <source>Add Addresses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Addresses, one a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Addresses, &amp;one a line:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste or type addresses.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 there already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 is none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 are none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 address: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 addresses: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for another program, which has the list locked ...</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -7282,11 +7377,27 @@ and when it is back</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>You can also import a list: the button List, Import...</source>
+        <source>This is no address of a page: enter one like https://example.org/</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This is no address of a page: enter one like https://example.org/</source>
+        <source>You can also add many addresses at once, or import a list: the button List.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Step 2 of 3: start watching.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Step 3 of 3: be told when something happens.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose How…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -4887,6 +4887,10 @@
         <source>for the textfile collector, from cron</source>
         <translation>für den Textfile-Collector, aus cron</translation>
     </message>
+    <message>
+        <source>The name of the file %1 ends neither in .csv nor in .json, so its format is not known. Give it one of them.</source>
+        <translation>Der Name der Datei %1 endet weder auf .csv noch auf .json, daher ist ihr Format nicht bekannt. Geben Sie ihr eine dieser Endungen.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6166,6 +6170,34 @@
         <source>only the log tells of checks that are over</source>
         <translation>nur das Protokoll nennt vergangene Prüfungen</translation>
     </message>
+    <message>
+        <source>Exported 1 site to %1</source>
+        <translation>1 Seite ausgegeben nach %1</translation>
+    </message>
+    <message>
+        <source>Exported %1 sites to %2</source>
+        <translation>%1 Seiten ausgegeben nach %2</translation>
+    </message>
+    <message>
+        <source>Do You Want To Replace The File %1?</source>
+        <translation>Möchten Sie die Datei %1 ersetzen?</translation>
+    </message>
+    <message>
+        <source>CSV, for a spreadsheet</source>
+        <translation>CSV, für eine Tabellenkalkulation</translation>
+    </message>
+    <message>
+        <source>JSON, with all that is set</source>
+        <translation>JSON, mit allem, was eingestellt ist</translation>
+    </message>
+    <message>
+        <source>&amp;Add Addresses…</source>
+        <translation>&amp;Adressen hinzufügen…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportieren…</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -6204,6 +6236,69 @@
     <message>
         <source>, %1 changes.</source>
         <translation>, %1 Änderungen.</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::AddressesDialog</name>
+    <message>
+        <source>Add Addresses</source>
+        <translation>Adressen hinzufügen</translation>
+    </message>
+    <message>
+        <source>Addresses, one a line</source>
+        <translation>Adressen, eine je Zeile</translation>
+    </message>
+    <message>
+        <source>Adding</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Addresses, &amp;one a line:</source>
+        <translation>Adressen, &amp;eine je Zeile:</translation>
+    </message>
+    <message>
+        <source>Paste or type addresses.</source>
+        <translation>Fügen Sie Adressen ein oder tippen Sie welche.</translation>
+    </message>
+    <message>
+        <source>%1 new</source>
+        <translation>%1 neu</translation>
+    </message>
+    <message>
+        <source>%1 there already</source>
+        <translation>%1 schon da</translation>
+    </message>
+    <message>
+        <source>1 is none</source>
+        <translation>1 ist keine</translation>
+    </message>
+    <message>
+        <source>%1 are none</source>
+        <translation>%1 sind keine</translation>
+    </message>
+    <message>
+        <source>1 address: %1</source>
+        <translation>1 Adresse: %1</translation>
+    </message>
+    <message>
+        <source>%1 addresses: %2</source>
+        <translation>%1 Adressen: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Add %1</source>
+        <translation>%1 &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>Waiting for another program, which has the list locked ...</source>
+        <translation>Warten auf ein anderes Programm, das die Liste gesperrt hat ...</translation>
     </message>
 </context>
 <context>
@@ -7283,12 +7378,28 @@ und wenn sie wieder da ist</translation>
         <translation>3. Es erfahren, wenn sie sich ändert oder nicht antwortet.</translation>
     </message>
     <message>
-        <source>You can also import a list: the button List, Import...</source>
-        <translation>Eine Liste lässt sich auch einlesen: Knopf Liste, Importieren...</translation>
-    </message>
-    <message>
         <source>This is no address of a page: enter one like https://example.org/</source>
         <translation>Das ist keine Adresse einer Seite: Geben Sie eine wie https://example.org/ ein</translation>
+    </message>
+    <message>
+        <source>You can also add many addresses at once, or import a list: the button List.</source>
+        <translation>Sie können auch viele Adressen auf einmal hinzufügen oder eine Liste importieren: der Knopf Liste.</translation>
+    </message>
+    <message>
+        <source>Step 2 of 3: start watching.</source>
+        <translation>Schritt 2 von 3: mit dem Beobachten beginnen.</translation>
+    </message>
+    <message>
+        <source>Step 3 of 3: be told when something happens.</source>
+        <translation>Schritt 3 von 3: sich melden lassen, wenn etwas geschieht.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Choose How…</source>
+        <translation>Auswählen…</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,8 @@
 #include "platform/program_folder.h"
 #include "platform/terminal.h"
 #include "program/fault_box.h"
+#include "ui/exchange/addresses_dialog.h"
+#include "ui/exchange/export_list.h"
 #include "ui/exchange/import_dialog.h"
 #include "ui/main_window/master.h"
 #include "ui/main_window/tray_icon.h"
@@ -72,7 +74,9 @@ int main(int argc, char** argv) {
                      .settings = tarnwick::settingsDialogOf(window.program(), window, habits.get()),
                      .importList = tarnwick::importOf(window.program(), window),
                      .outbox = tarnwick::outboxOf(window.program(), window, channels),
-                     .channels = [&channels] { channels(0); }});
+                     .channels = [&channels] { channels(0); },
+                     .addAddresses = tarnwick::addAddressesOf(window.program(), window),
+                     .exportList = tarnwick::exportOf(window.program(), window)});
   window.useTray(tarnwick::makeTrayIcon(), [&habits] { return habits->closesToTray(); });
   if (!window.load()) {
     failed();

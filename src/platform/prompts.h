@@ -26,7 +26,7 @@ struct Message {
   QWidget* owner = nullptr;
 };
 
-/// A choice among existing files.
+/// A choice of a file, one that is there unless it says otherwise.
 struct FileChoice {
   /// Where it begins.
   std::string folder;
@@ -34,6 +34,9 @@ struct FileChoice {
   std::string filter;
   /// As that of a message.
   QWidget* owner = nullptr;
+  /// It is to be written: any name is taken, also that of a file that is there; whether it is to be replaced is asked
+  /// by who writes it.
+  bool isNew = false;
 };
 
 /// Every box that waits for the user goes through here, so that a test can queue the answer and see the question.

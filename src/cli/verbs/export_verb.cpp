@@ -2,22 +2,17 @@
 #include <algorithm>
 #include <ostream>
 
-#include "base/text.h"
 #include "cli/verbs/delivery_words.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "delivery/delivery.h"
+#include "exchange/list/site_export.h"
 #include "exchange/list/site_import.h"
-#include "exchange/list/site_list_csv.h"
-#include "exchange/list/site_list_json.h"
-#include "exchange/list/site_list_stored.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr const char* kStream = "-";
-
-enum class Format { csv, json };
 
 struct ExportOptions {
   std::string file;
@@ -27,14 +22,9 @@ struct ExportOptions {
   bool withSecrets = false;
 };
 
-Format formatOf(const std::string& file, const std::string& format) {
-  const std::string end =
-      format.empty() ? lowerCase(file.substr(std::min(file.rfind('.'), file.size()))) : "." + format;
-  if (end == ".csv") {
-    return Format::csv;
-  }
-  if (end == ".json") {
-    return Format::json;
+ListFormat formatOf(const std::string& file, const std::string& format) {
+  if (const auto known = listFormatOf(format.empty() ? file : "." + format)) {
+    return *known;
   }
   throw std::runtime_error("The format of \"" + visibleText(file) +
                            "\" does not show in its name. Add --format csv or --format json.");
@@ -120,14 +110,14 @@ std::optional<std::string> secretOf(Tool& tool, const Channel& channel) {
   return answer.secret;
 }
 
-std::vector<ListedChannel> channelsOf(Tool& tool, Format format, bool withSecrets) {
+std::vector<ListedChannel> channelsOf(Tool& tool, ListFormat format, bool withSecrets) {
   std::vector<ListedChannel> listed;
   for (Channel& channel : tool.data().channels()) {
-    const bool hasSecret = withSecrets && format == Format::json && needsSecret(channel);
+    const bool hasSecret = withSecrets && format == ListFormat::json && needsSecret(channel);
     std::optional<std::string> secret = hasSecret ? secretOf(tool, channel) : std::nullopt;
     listed.push_back({std::move(channel), std::move(secret)});
   }
-  if (!listed.empty() && format == Format::csv) {
+  if (!listed.empty() && format == ListFormat::csv) {
     tool.console().complain("A CSV file has no place for channels. They are in one whose name ends in .json.");
   } else if (withSecrets) {
     tool.console().complain(
@@ -136,32 +126,17 @@ std::vector<ListedChannel> channelsOf(Tool& tool, Format format, bool withSecret
   return listed;
 }
 
-std::size_t writeList(Tool& tool, Format format, ListColumns columns, const std::vector<ListedChannel>& channels,
-                      const ByteSink& sink) {
-  m& data = tool.data();
-  // Whether options are columns is of the same state as the options, whoever sets one meanwhile.
-  const Snapshot oneState(data.database());
-  columns.options = hasOptions(data);
-  columns.rules = hasRules(data);
-  columns.tags = hasTags(data);
-  columns.kept = columns.baselines && hasKeptBaselines(data);
-  const auto writer = format == Format::csv ? makeCsvWriter(columns, sink, tool.fields())
-                                            : makeJsonWriter(columns, sink, tool.fields());
+std::size_t writeList(Tool& tool, ListFormat format, const ListColumns& columns,
+                      const std::vector<ListedChannel>& channels, const ByteSink& sink) {
   ImportWarnings warnings(tool.console(), tool.fields());
-  std::size_t count = 0;
-  writer->begin(columns.options ? knownOptions(data, kAllSites) : OptionValues(), channels);
-  readListedSites(data, columns, [&](const ListedSite& site) {
-    writer->add(site);
-    warnings.look(site);
-    ++count;
-  });
-  writer->end();
+  const std::size_t count = writeSiteList(tool.data(), format, columns, channels, sink,
+                                          [&warnings](const ListedSite& site) { warnings.look(site); });
   warnings.end();
   return count;
 }
 
 int exportList(Tool& tool, const ExportOptions& options) {
-  const Format format = formatOf(options.file, options.format);
+  const ListFormat format = formatOf(options.file, options.format);
   const ListColumns columns{.passwords = !options.noPasswords, .baselines = options.baselines};
   Console& console = tool.console();
   const std::vector<ListedChannel> channels = channelsOf(tool, format, options.withSecrets);

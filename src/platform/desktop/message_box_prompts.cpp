@@ -108,6 +108,19 @@ QStringList nameFilters(const std::string& filter) {
   return offeredFilters(filters);
 }
 
+/// The ending of the kind that is chosen, for a name that has none.
+void letNameNewFile(QFileDialog& dialog) {
+  const auto follow = [&dialog](const QString& filter) {
+    dialog.setDefaultSuffix(filter.section(QLatin1String("*."), 1, 1).section(QLatin1Char(')'), 0, 0));
+  };
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  // Its own question would be a loop of its own.
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  follow(dialog.selectedNameFilter());
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
+}
+
 }  // namespace
 
 void MessageBoxPrompts::inform(const Message& message, std::function<void()> closed) {
@@ -144,8 +157,12 @@ void MessageBoxPrompts::chooseFile(const FileChoice& choice, std::function<void(
   QWidget* owner = standingOwner(choice.owner);
   auto* dialog =
       new QFileDialog(owner != nullptr ? owner : mainWindow(), QString(), QString::fromStdString(choice.folder));
-  dialog->setFileMode(QFileDialog::ExistingFile);
   dialog->setNameFilters(nameFilters(choice.filter));
+  if (choice.isNew) {
+    letNameNewFile(*dialog);
+  } else {
+    dialog->setFileMode(QFileDialog::ExistingFile);
+  }
   // The dialog's own list goes before what is added to the dialog later.
   dialog->setIconProvider(new KindsByName(dialog));
   // A file is looked for here, not renamed or deleted.

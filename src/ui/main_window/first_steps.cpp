@@ -19,8 +19,6 @@
 namespace tarnwick {
 namespace {
 
-/// So many sites are added by whoever goes through the steps; a longer list came from elsewhere.
-constexpr int kMostSites = 3;
 constexpr int kCharacters = 34;  // of an address, and of a step on its line
 
 /// The address that somebody means who has typed it: nothing where it is none.
@@ -44,15 +42,14 @@ QLabel* addStep(QGridLayout& layout, int row, const QString& text) {
 
 }  // namespace
 
-FirstSteps::FirstSteps(Program& program, SiteGridView& grid)
+FirstSteps::FirstSteps(Program& program, SiteGridView& grid, NoticeBar& bar)
     : QWidget(grid.viewport()),
       program_(program),
       grid_(grid),
       address_(addText<QLineEdit>(*this, "firstAddress", tr("Which page shall be watched?"), kCharacters)),
       btnAdd_(addButton(*this, "firstAdd", tr("Add"))),
       fault_(named(new QLabel(this), "firstFault")),
-      btnStart_(addButton(*this, "firstStart", tr("Start (F5)"))),
-      btnHow_(addButton(*this, "firstHow", tr("Choose how…"))) {
+      bar_(bar) {
   setObjectName(QStringLiteral("firstSteps"));
   setAccessibleName(tr("Add your first site"));
   address_->setPlaceholderText(QStringLiteral("https://"));
@@ -62,11 +59,18 @@ FirstSteps::FirstSteps(Program& program, SiteGridView& grid)
   onClick(*btnAdd_, program_.faults(), [this] { add(); });
   connect(address_, &QLineEdit::returnPressed, btnAdd_, &QPushButton::click);
   connect(address_, &QLineEdit::textEdited, fault_, &QLabel::clear);
-  onClick(*btnStart_, program_.faults(), [this] { start(); });
-  onClick(*btnHow_, program_.faults(), [this] { chooseHow(); });
+  bar_.step().makeClosable([this] { tellStep(0); });
+  connect(&bar_.step(), &NoticeButton::clicked, this, [this] { program_.faults().run([this] { goOn(); }); });
   connect(&grid_, &SiteGridView::filled, this, &FirstSteps::follow);
   grid_.viewport()->installEventFilter(this);
   hide();
+}
+
+// Greyed: there is nothing to start yet, and nothing to be told of.
+QPushButton* FirstSteps::laterStep(const char* name, const QString& caption) {
+  QPushButton* button = addButton(*this, name, caption);
+  button->setEnabled(false);
+  return button;
 }
 
 void FirstSteps::layOut() {
@@ -85,10 +89,10 @@ void FirstSteps::layOut() {
   layout->addWidget(btnAdd_, 1, 2);
   layout->addWidget(fault_, 2, 1, 1, 2);
   addStep(*layout, 3, tr("2. Start watching. The page as it is now becomes the baseline."));
-  layout->addWidget(btnStart_, 3, 1, Qt::AlignLeft);
+  layout->addWidget(laterStep("firstStart", tr("Start (F5)")), 3, 1, Qt::AlignLeft);
   addStep(*layout, 4, tr("3. Be told when it changes or does not answer."));
-  layout->addWidget(btnHow_, 4, 1, Qt::AlignLeft);
-  addStep(*layout, 5, tr("You can also import a list: the button List, Import..."));
+  layout->addWidget(laterStep("firstHow", tr("Choose how…")), 4, 1, Qt::AlignLeft);
+  addStep(*layout, 5, tr("You can also add many addresses at once, or import a list: the button List."));
   layout->setColumnStretch(0, 1);
   layout->setColumnMinimumWidth(0, fontMetrics().averageCharWidth() * kCharacters);
 }
@@ -100,7 +104,6 @@ void FirstSteps::add() {
     address_->setFocus();
     return;
   }
-  isUnderWay_ = true;
   const std::int16_t idSite = program_.data().addSite();
   SiteDraft site = readSite(program_.data(), idSite);
   site.url = *url;
@@ -108,43 +111,51 @@ void FirstSteps::add() {
   address_->clear();
   program_.run().init();
   grid_.selectSite(idSite);
-  btnStart_->setFocus();
-}
-
-void FirstSteps::start() {
-  program_.startRun();
-  btnHow_->setFocus();
-}
-
-void FirstSteps::chooseHow() {
-  isUnderWay_ = false;
-  follow();
   grid_.setFocus();
+  tellStep(program_.run().running() ? 3 : 2);
+}
+
+void FirstSteps::tellStep(int step) {
+  step_ = step;
+  const QString sentence = step == 2   ? tr("Step 2 of 3: start watching.")
+                           : step == 3 ? tr("Step 3 of 3: be told when something happens.")
+                                       : QString();
+  bar_.tell(bar_.step(), sentence, step == 2 ? tr("Start") : tr("Choose How…"), grid_);
+}
+
+void FirstSteps::look() {
+  if (step_ == 2 && program_.run().running()) {
+    tellStep(3);
+  }
+}
+
+void FirstSteps::goOn() {
+  if (step_ == 2) {
+    program_.startRun();
+    return;
+  }
+  tellStep(0);
   if (chooseHow_) {
     chooseHow_();
   }
 }
 
 void FirstSteps::follow() {
-  const int sites = grid_.order().sourceModel()->rowCount();
-  const bool isWanted = sites == 0 || (isUnderWay_ && sites <= kMostSites);
-  btnStart_->setEnabled(sites > 0);
-  btnHow_->setEnabled(sites > 0);
-  const bool begins = sites == 0 && !isVisible();
+  const bool isWanted = grid_.order().sourceModel()->rowCount() == 0;
+  const bool begins = isWanted && !isVisible();
   setVisible(isWanted);
   place();
   if (begins) {
+    tellStep(0);
     address_->setFocus();
   }
 }
 
-// Below the rows that are there.
 void FirstSteps::place() {
   const QRect room = grid_.viewport()->rect();
-  const int rows = grid_.verticalHeader()->length();
   const int width = std::min(room.width(), fontMetrics().averageCharWidth() * 120);
   const int height = heightForWidth(width) > 0 ? heightForWidth(width) : sizeHint().height();
-  setGeometry((room.width() - width) / 2, std::max(rows, (room.height() - height) / 3), width, height);
+  setGeometry((room.width() - width) / 2, (room.height() - height) / 3, width, height);
 }
 
 bool FirstSteps::eventFilter(QObject* watched, QEvent* event) {

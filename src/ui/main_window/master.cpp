@@ -18,6 +18,7 @@
 #include "ui/controls/display_text.h"
 #include "ui/controls/page_opener.h"
 #include "ui/controls/program_file.h"
+#include "ui/main_window/address_paste.h"
 #include "ui/main_window/damage_box.h"
 #include "ui/main_window/first_steps.h"
 #include "ui/main_window/master_pictures.h"
@@ -66,8 +67,8 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   new UndoNotice(menu_->actions(), *controls_.noticeBar, *controls_.undo, *controls_.grid1, this);
   connect(marks_, &AlarmMarks::pauseRead, notices_, &Notices::tellPaused);
   new SiteSearch(program_, *controls_.grid1, controls_.search, this);
-  auto* steps = new FirstSteps(program_, *controls_.grid1);
-  steps->setChooseHow([this] {
+  steps_ = new FirstSteps(program_, *controls_.grid1, *controls_.noticeBar);
+  steps_->setChooseHow([this] {
     if (editors_.channels) {
       editors_.channels();
     }
@@ -142,6 +143,9 @@ void Master::connectControls() {
   connectAction(controls_.makeNew, QKeySequence::New, &Master::btnNew_Click);
   connectAction(controls_.setup, {}, &Master::btnSetup_Click);
   connect(controls_.importList, &QAction::triggered, this, [this] { program_.faults().run(editors_.importList); });
+  connect(controls_.exportList, &QAction::triggered, this, [this] { program_.faults().run(editors_.exportList); });
+  followAddresses(*controls_.grid1, *controls_.addAddresses,
+                  [this](const QString& text) { program_.faults().run([&] { editors_.addAddresses(text); }); });
   connect(controls_.outbox, &QAction::triggered, this, [this] { program_.faults().run(editors_.outbox); });
   connect(notices_, &Notices::outboxWanted, controls_.outbox, &QAction::trigger);
   connect(notices_, &Notices::channelsWanted, this, [this] {
@@ -174,11 +178,12 @@ void Master::setEditors(Editors editors) {
           : tr("The settings are kept in the table \"control\" of the database; this window cannot change them");
   controls_.setup.allow(static_cast<bool>(editors_.settings), toolTip);
   controls_.importList->setEnabled(static_cast<bool>(editors_.importList));
+  controls_.exportList->setEnabled(static_cast<bool>(editors_.exportList));
+  controls_.addAddresses->setEnabled(static_cast<bool>(editors_.addAddresses));
   controls_.outbox->setEnabled(static_cast<bool>(editors_.outbox));
 }
 
 void Master::btnStart_Click() { program_.startRun(); }
-
 void Master::btnStop_Click() { program_.stopRun(); }
 
 void Master::btnNew_Click() {
@@ -234,6 +239,7 @@ void Master::showStatus(const std::string& text) { controls_.lStatus->showText(d
 void Master::indicators(RunState state) {
   state_ = state;
   notices_->look();
+  steps_->look();
   if (tray_ != nullptr) {
     tray_->look();
   }

@@ -21,6 +21,7 @@
 
 namespace tarnwick {
 
+class FirstSteps;
 class SiteMenu;
 
 /// The windows that edit what the main window shows. What is empty is not offered to the user.
@@ -34,6 +35,10 @@ struct Editors {
   std::function<void()> outbox{};
   /// Opens the settings on the channels.
   std::function<void()> channels{};
+  /// Adds the addresses of a text, one a line, when the user agrees.
+  std::function<void(const QString& text)> addAddresses{};
+  /// Lets the user choose a file that the list is written to.
+  std::function<void()> exportList{};
 };
 
 /// The main window, the only one that stands as long as the program runs: the list of sites, the lamps of the run, its
@@ -113,6 +118,7 @@ class Master final : public QMainWindow, public RunView {
   AlarmMarks* marks_ = nullptr;
   DetailsArea* details_ = nullptr;
   SiteMenu* menu_ = nullptr;
+  FirstSteps* steps_ = nullptr;
   bool loaded_ = false;
   RunState state_ = RunState::stop;
   Editors editors_;

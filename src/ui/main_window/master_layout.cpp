@@ -49,8 +49,13 @@ void makeListMenu(QWidget& canvas, MasterControls& controls) {
   controls.listButton = named(new QPushButton(QObject::tr("&List"), &canvas), "listButton", QObject::tr("List: menu"));
   controls.listButton->setToolTip(QObject::tr("What is done with the list as a whole"));
   auto* menu = new QMenu(controls.listButton);
+  controls.addAddresses = menu->addAction(QObject::tr("&Add Addresses…") + QLatin1Char('\t') +
+                                          QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText));
+  controls.addAddresses->setObjectName(QStringLiteral("addAddresses"));
   controls.importList = menu->addAction(QObject::tr("&Import..."));
   controls.importList->setObjectName(QStringLiteral("importList"));
+  controls.exportList = menu->addAction(QObject::tr("&Export…"));
+  controls.exportList->setObjectName(QStringLiteral("exportList"));
   controls.outbox = menu->addAction(QObject::tr("&Outbox…"));
   controls.outbox->setObjectName(QStringLiteral("outbox"));
   controls.outbox->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_O);

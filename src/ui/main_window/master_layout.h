@@ -40,7 +40,9 @@ struct MasterControls {
   SearchControls search;
   /// What is done with the list as a whole, as a menu.
   QPushButton* listButton;
+  QAction* addAddresses;
   QAction* importList;
+  QAction* exportList;
   QAction* outbox;
   QMenu* pauseAll;
   QAction* undo;

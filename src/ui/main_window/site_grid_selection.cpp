@@ -2,9 +2,12 @@
 // Which rows of the list are chosen, and how.
 #include <algorithm>
 #include <iterator>
+#include <QDragEnterEvent>
 #include <QHeaderView>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QUrl>
 
 #include "ui/main_window/site_grid_view.h"
 #include "ui/main_window/site_row_delegate.h"
@@ -122,6 +125,27 @@ QItemSelectionModel::SelectionFlags SiteGridView::selectionCommand(const QModelI
                                                                    const QEvent* event) const {
   return event == nullptr ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
                           : QTableView::selectionCommand(index, event);
+}
+
+void SiteGridView::dragEnterEvent(QDragEnterEvent* event) { dragMoveEvent(event); }
+
+void SiteGridView::dragMoveEvent(QDragMoveEvent* event) {
+  if (event->mimeData()->hasText() || event->mimeData()->hasUrls()) {
+    event->acceptProposedAction();
+  }
+}
+
+void SiteGridView::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  Q_EMIT addressesGiven(addressesIn(*event->mimeData()));
+}
+
+QString SiteGridView::addressesIn(const QMimeData& data) {
+  QStringList addresses;
+  for (const QUrl& url : data.urls()) {
+    addresses << url.toString(QUrl::FullyEncoded);
+  }
+  return addresses.isEmpty() ? data.text() : addresses.join(QLatin1Char('\n'));
 }
 
 // The frame of the current row goes round all of its cells.

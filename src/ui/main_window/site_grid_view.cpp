@@ -38,6 +38,7 @@ SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(p
   setRowHeight();
 
   viewport()->setMouseTracking(true);
+  viewport()->setAcceptDrops(true);
   horizontalHeader()->viewport()->setMouseTracking(true);
   horizontalHeader()->viewport()->installEventFilter(this);
   setContextMenuPolicy(Qt::CustomContextMenu);

@@ -58,6 +58,9 @@ class SiteGridView final : public QTableView {
   /// Why the site of a row of the list is down, or up without a page; empty for all others.
   QString reasonOf(int row) const;
 
+  /// What is given there, as addresses, one a line.
+  static QString addressesIn(const QMimeData& data);
+
   QSize sizeHint() const override;
 
  Q_SIGNALS:
@@ -68,6 +71,8 @@ class SiteGridView final : public QTableView {
   void rowChosen(int row);
   /// The icon of a row was clicked: somebody wants to know what has changed there.
   void detailsWanted(int row);
+  /// Somebody drops or pastes addresses, one a line.
+  void addressesGiven(const QString& text);
   /// A site is to be shown that the filter leaves out.
   void hiddenSiteWanted();
   /// The caption of a column was clicked.
@@ -76,6 +81,9 @@ class SiteGridView final : public QTableView {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
   bool viewportEvent(QEvent* event) override;

@@ -13,6 +13,7 @@ class FirstStepsTest : public MasterTest {
  protected:
   FirstSteps& steps() { return find<FirstSteps>("firstSteps"); }
   QLineEdit& address() { return find<QLineEdit>("firstAddress"); }
+  NoticeButton& notice() { return find<NoticeButton>("noticeStep"); }
   bool mayClick(const char* button) { return find<QPushButton>(button).isEnabled(); }
   void add(const QString& text) {
     address().clear();
@@ -39,16 +40,32 @@ TEST_F(FirstStepsTest, AListWithSitesDoesNot) {
   EXPECT_TRUE(find<QWidget>("filterEdit").isVisible());
 }
 
-TEST_F(FirstStepsTest, AnAddressBecomesTheFirstSite) {
+TEST_F(FirstStepsTest, AnAddressBecomesTheFirstSiteAndTheNextStepIsANotice) {
   open();
   add(QStringLiteral("  shop.example.org/prices "));
   ASSERT_EQ(rows(), 1);
   EXPECT_EQ(cell(0, 1), QStringLiteral("https://shop.example.org/prices"));
-  EXPECT_TRUE(steps().isVisible()) << "two steps are left";
-  EXPECT_TRUE(mayClick("firstStart"));
-  EXPECT_TRUE(find<QPushButton>("firstStart").hasFocus());
-  add(QStringLiteral("http://localhost:8080/b"));
-  EXPECT_EQ(cell(1, 1), QStringLiteral("http://localhost:8080/b"));
+  EXPECT_FALSE(steps().isVisible());
+  EXPECT_EQ(notice().sentence(), QStringLiteral("Step 2 of 3: start watching."));
+  EXPECT_EQ(notice().action(), QStringLiteral("Start"));
+  EXPECT_TRUE(find<SiteGridView>("grid1").hasFocus());
+}
+
+TEST_F(FirstStepsTest, TheNoticeOfTheStepsCanBePutAway) {
+  open();
+  add(QStringLiteral("shop.example.org"));
+  notice().setFocus();
+  QTest::keyClick(&notice(), Qt::Key_Escape);
+  EXPECT_FALSE(notice().isVisible());
+}
+
+TEST_F(FirstStepsTest, WithARunOnThereIsNothingToStart) {
+  open();
+  click("btnStart");
+  EXPECT_FALSE(mayClick("firstStart"));
+  testing::HttpServer server;
+  add(QString::fromStdString(server.url("/page")));
+  EXPECT_EQ(notice().sentence(), QStringLiteral("Step 3 of 3: be told when something happens."));
 }
 
 TEST_F(FirstStepsTest, WhatIsNoAddressIsSaidUnderTheField) {
@@ -69,12 +86,13 @@ TEST_F(FirstStepsTest, TheOtherStepsStartARunAndOpenTheWaysToBeTold) {
   master->setEditors({.site = {}, .settings = {}, .channels = [&] { ++opened; }});
   testing::HttpServer server;
   add(QString::fromStdString(server.url("/page")));
-  click("firstStart");
+  click("noticeStep");
   EXPECT_TRUE(master->program().run().running());
-  click("firstHow");
+  EXPECT_EQ(notice().sentence(), QStringLiteral("Step 3 of 3: be told when something happens."));
+  EXPECT_EQ(notice().action(), QStringLiteral("Choose How…"));
+  click("noticeStep");
   EXPECT_EQ(opened, 1);
-  EXPECT_FALSE(steps().isVisible()) << "all is done";
-  EXPECT_TRUE(find<SiteGridView>("grid1").hasFocus());
+  EXPECT_FALSE(notice().isVisible()) << "all is done";
 }
 
 TEST_F(FirstStepsTest, TheyComeBackWithTheLastSiteGone) {

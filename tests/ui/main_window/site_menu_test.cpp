@@ -8,9 +8,11 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QListWidget>
 #include <QMenu>
+#include <QMimeData>
 #include <QSpinBox>
 
 #include "ui/support/longest_gap.h"
@@ -378,6 +380,25 @@ TEST_F(SiteMenuTest, AddressesAndRowsAreCopied) {
   press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(),
             "1\thttp://one.test/\t5\t0\t2026-11-21 04:24:41\n2\thttp://two.test/\t0\t7\t2026-11-21 04:24:41");
+}
+
+TEST_F(SiteMenuTest, PastedAndDroppedAddressesAreHandedOn) {
+  addJudged(1, true);
+  openOnList();
+  std::vector<QString> given;
+  EXPECT_FALSE(find<QAction>("addAddresses").isEnabled());
+  master->setEditors({.site = {}, .settings = {}, .addAddresses = [&](const QString& text) { given.push_back(text); }});
+  QGuiApplication::clipboard()->setText(QStringLiteral("http://a.test/\nhttp://b.test/"));
+  press(Qt::Key_V, Qt::ControlModifier);
+  QMimeData data;
+  data.setUrls({QUrl(QStringLiteral("http://c.test/"))});
+  QDragEnterEvent enter(at(0), Qt::CopyAction, &data, Qt::LeftButton, {});
+  QApplication::sendEvent(grid().viewport(), &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  QDropEvent drop(at(0), Qt::CopyAction, &data, Qt::LeftButton, {});
+  QApplication::sendEvent(grid().viewport(), &drop);
+  EXPECT_EQ(given,
+            (std::vector<QString>{QStringLiteral("http://a.test/\nhttp://b.test/"), QStringLiteral("http://c.test/")}));
 }
 
 TEST_F(SiteMenuTest, TheBrowserOpensTheSite) {
