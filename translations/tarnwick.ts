@@ -8902,6 +8902,10 @@ Do You Want To Discard Them And Close %2?</source>
         <source>%1 sites, %2 down</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Sorted by %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::SiteSettling</name>

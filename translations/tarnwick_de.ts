@@ -8905,6 +8905,10 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <source>%1 sites, %2 down</source>
         <translation>%1 Seiten, %2 schlecht</translation>
     </message>
+    <message>
+        <source>Sorted by %1</source>
+        <translation>Nach %1 sortiert</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::SiteSettling</name>

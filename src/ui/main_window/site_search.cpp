@@ -12,6 +12,7 @@
 #include "finding/site_query.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
+#include "ui/main_window/sort_chip.h"
 
 namespace tarnwick {
 namespace {
@@ -30,7 +31,7 @@ SearchControls makeSearch(QWidget& canvas) {
   controls.filterEdit->setSizePolicy(policy);
   controls.filterCount = named(new QLabel(&canvas), "filterCount");
   controls.filterCount->setTextFormat(Qt::PlainText);
-  controls.sortChip = named(new QPushButton(&canvas), "sortChip");
+  controls.sortChip = named(new SortChip(&canvas), "sortChip");
   controls.sortChip->setToolTip(SiteSearch::tr("Show the original order again"));
   controls.sortChip->hide();
   return controls;
@@ -96,6 +97,8 @@ void SiteSearch::sortBy(int column) {
   header.resizeSection(column, std::max(header.sectionSize(column), header.sectionSizeHint(column)));
   const QString caption = order.headerData(column, Qt::Horizontal).toString();
   controls_.sortChip->setText(tr("Sorted by %1 ✕").arg(caption));
+  controls_.sortChip->setToolTip(
+      plainToolTip(tr("Sorted by %1").arg(caption) + QLatin1Char('\n') + tr("Show the original order again")));
   controls_.sortChip->show();
 }
 

@@ -145,6 +145,19 @@ TEST_F(SiteSearchTest, AClickOnACaptionSortsUpThenDownThenNotAtAll) {
   EXPECT_EQ(shown(), "3 9 12");
 }
 
+TEST_F(SiteSearchTest, WhatItIsSortedByGivesWayToLargeLetters) {
+  openThree();
+  QFont large = master->font();
+  large.setPixelSize(16);
+  master->setFont(large);
+  master->resize(820, 580);
+  clickCaption(SiteGridModel::timeColumn);
+  auto& chip = find<QPushButton>("sortChip");
+  QCoreApplication::processEvents();
+  EXPECT_GE(chip.width(), chip.minimumSizeHint().width());
+  EXPECT_TRUE(chip.toolTip().contains(QStringLiteral("Sorted by Time Of Last Test")));
+}
+
 TEST_F(SiteSearchTest, TheCurrentRowStaysWithItsSite) {
   openThree();
   grid().selectSite(9);
