@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "engine/site_finding.h"
 
@@ -43,11 +44,27 @@ std::int64_t numberIn(std::string_view text) {
   return number;
 }
 
+/// What is the same has the same rank.
+template <typename Key>
+std::vector<int> ranksOf(std::vector<std::pair<Key, int>> keys) {
+  std::ranges::sort(keys);
+  std::vector<int> ranks(keys.size());
+  int rank = 0;
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    rank += i > 0 && keys[i - 1].first < keys[i].first ? 1 : 0;
+    ranks[static_cast<std::size_t>(keys[i].second)] = rank;
+  }
+  return ranks;
+}
+
 }  // namespace
 
 SiteOrder::SiteOrder(SiteGridModel& sites) : sites_(sites) {
   setDynamicSortFilter(false);
-  connect(&sites, &SiteGridModel::modelAboutToBeReset, this, [this] { found_.clear(); });
+  connect(&sites, &SiteGridModel::modelAboutToBeReset, this, [this] {
+    found_.clear();
+    rankedBy_ = -1;
+  });
   connect(&sites, &SiteGridModel::dataChanged, this,
           [this](const QModelIndex& first, const QModelIndex& last) { forget(first.row(), last.row()); });
   setSourceModel(&sites);
@@ -66,10 +83,14 @@ void SiteOrder::find(const SiteQuery& query, const Moment& moment) {
   invalidateFilter();
 }
 
-void SiteOrder::sortBy(int column, Qt::SortOrder order) { sort(column, order); }
+void SiteOrder::sortBy(int column, Qt::SortOrder order) {
+  rankedBy_ = -1;
+  sort(column, order);
+}
 
 void SiteOrder::renew(const Moment& moment) {
   take(moment);
+  rankedBy_ = -1;
   invalidate();
 }
 
@@ -94,19 +115,31 @@ bool SiteOrder::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const {
   return query_.finds(*found);
 }
 
-// Numbers by their size, times and addresses as they read; what is the same stays in the order of the list.
+// Numbers by their size, times and addresses as they read.
+void SiteOrder::rank(int column) const {
+  const auto cell = static_cast<std::size_t>(column);
+  const int rows = sites_.rowCount();
+  const auto keys = [&](auto keyOf) {
+    std::vector<std::pair<decltype(keyOf(0)), int>> all;
+    all.reserve(static_cast<std::size_t>(rows));
+    for (int row = 0; row < rows; ++row) {
+      all.emplace_back(keyOf(row), row);
+    }
+    return all;
+  };
+  const bool isNumber =
+      column == SiteGridModel::idColumn || column == SiteGridModel::upColumn || column == SiteGridModel::downColumn;
+  ranks_ = isNumber ? ranksOf(keys([&](int row) { return numberIn(sites_.row(row).cells[cell]); }))
+                    : ranksOf(keys([&](int row) { return std::string_view(sites_.row(row).cells[cell]); }));
+  rankedBy_ = column;
+}
+
+// What is the same stays in the order of the list.
 bool SiteOrder::lessThan(const QModelIndex& left, const QModelIndex& right) const {
-  const auto column = static_cast<std::size_t>(left.column());
-  const std::string& one = sites_.row(left.row()).cells[column];
-  const std::string& other = sites_.row(right.row()).cells[column];
-  switch (left.column()) {
-    case SiteGridModel::idColumn:
-    case SiteGridModel::upColumn:
-    case SiteGridModel::downColumn:
-      return numberIn(one) < numberIn(other);
-    default:
-      return one < other;
+  if (rankedBy_ != left.column()) {
+    rank(left.column());
   }
+  return ranks_[static_cast<std::size_t>(left.row())] < ranks_[static_cast<std::size_t>(right.row())];
 }
 
 }  // namespace tarnwick

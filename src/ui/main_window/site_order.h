@@ -52,12 +52,16 @@ class SiteOrder final : public QSortFilterProxyModel {
  private:
   void take(const Moment& moment);
   void forget(int first, int last);
+  void rank(int column) const;
 
   SiteGridModel& sites_;
   SiteQuery query_;
   Moment moment_;
   /// As they were looked at last: a list of thirty thousand is searched with each letter that is typed.
   mutable std::vector<std::optional<FoundSite>> found_;
+  /// The place of each row by the column that is sorted by: what is compared once is not compared again as a text.
+  mutable std::vector<int> ranks_;
+  mutable int rankedBy_ = -1;
 };
 
 }  // namespace tarnwick
