@@ -62,7 +62,7 @@ void SiteWork::look() {
     bar_->setValue(static_cast<int>(jobs_.front()->next));
     return;
   }
-  const std::unique_ptr<SlicedWork> work = std::move(work_);
+  const std::unique_ptr<SlicedWork> work = std::exchange(work_, nullptr);
   const std::unique_ptr<Job> job = std::move(jobs_.front());
   jobs_.pop_front();
   delete bar_;

@@ -85,7 +85,7 @@ void SitesDialog::tellPlan() {
     preview_->setText(tr("Comparing: %1 of %2 ...").arg(next_).arg(sites_.size()));
     return;
   }
-  const std::unique_ptr<SlicedWork> work = std::move(work_);
+  const std::unique_ptr<SlicedWork> work = std::exchange(work_, nullptr);
   program_.faults().run([&] {
     work->raiseFailure();
     const std::size_t all = sites_.size();
