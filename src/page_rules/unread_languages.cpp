@@ -3,6 +3,7 @@
 #include <string>
 
 #include "page_rules/languages.h"
+#include "page_rules/simplified_page.h"
 
 namespace tarnwick {
 
@@ -25,6 +26,8 @@ std::vector<ByteRange> foundByRegex(const std::string& /*rule*/, std::string_vie
 std::vector<ByteRange> foundByXPath(const std::string& /*rule*/, std::string_view /*page*/) {
   refuse("libxml2", "libxml2-dev");
 }
+
+std::string simplifiedPage(std::string_view /*html*/) { return {}; }
 #endif
 
 #ifndef TARNWICK_POINTER

@@ -8,6 +8,12 @@
 #include "ui/controls/dialog_parts.h"
 
 namespace tarnwick {
+namespace {
+
+/// Beside the layouts of a difference.
+constexpr int kAsSeen = -1;
+
+}  // namespace
 
 DifferencePanel::DifferencePanel(const Clock& clock, QWidget* parent)
     : QWidget(parent),
@@ -18,18 +24,23 @@ DifferencePanel::DifferencePanel(const Clock& clock, QWidget* parent)
   layouts_ = named(new QComboBox(corner_), "differenceLayout", tr("How both pages are laid out"));
   layouts_->addItem(tr("Side by side"), static_cast<int>(DifferenceLayout::sideBySide));
   layouts_->addItem(tr("Unified"), static_cast<int>(DifferenceLayout::unified));
+  layouts_->addItem(tr("As seen"), kAsSeen);
   layouts_->addItem(tr("Bytes (hex)"), static_cast<int>(DifferenceLayout::hex));
   layouts_->setToolTip(layouts_->accessibleName());
   invisible_ = addTool("differenceInvisible", QStringLiteral("¶"), tr("Show blanks, tabs and line ends"), {});
   invisible_->setCheckable(true);
-  view_ = named(new DifferenceView(clock, this), "difference", tr("What changed"));
+  pages_ = new QStackedWidget(this);
+  view_ = named(new DifferenceView(clock, pages_), "difference", tr("What changed"));
+  seen_ = new SeenView(pages_);
+  pages_->addWidget(view_);
+  pages_->addWidget(seen_);
   layOut();
   tellPlace();
   connect(previous_, &QToolButton::clicked, this, [this] { view_->goOn(-1); });
   connect(next_, &QToolButton::clicked, this, [this] { view_->goOn(1); });
   connect(layouts_, &QComboBox::activated, this, [this] {
     isChosen_ = true;
-    view_->setDifferenceLayout(static_cast<DifferenceLayout>(layouts_->currentData().toInt()));
+    chooseLayout();
   });
   connect(invisible_, &QToolButton::toggled, view_, &DifferenceView::setInvisible);
   connect(view_, &DifferenceView::moved, this, &DifferencePanel::tellPlace);
@@ -62,7 +73,7 @@ void DifferencePanel::layOut() {
   lines->setContentsMargins({});
   lines->setSpacing(4);
   lines->addWidget(corner_);
-  lines->addWidget(view_, 1);
+  lines->addWidget(pages_, 1);
 }
 
 // What is no text is shown as bytes, until somebody wants it otherwise.
@@ -75,13 +86,28 @@ void DifferencePanel::compare(ComparedPages pages, const QString& name) {
     view_->setDifferenceLayout(layout);
   }
   view_->compare(std::move(pages));
+  chooseLayout();
+}
+
+void DifferencePanel::chooseLayout() {
+  const int layout = layouts_->currentData().toInt();
+  const bool isSeen = layout == kAsSeen && view_->hasPages();
+  if (isSeen) {
+    seen_->showPages(view_->pages());
+  } else {
+    seen_->clear();
+  }
+  if (layout != kAsSeen) {
+    view_->setDifferenceLayout(static_cast<DifferenceLayout>(layout));
+  }
+  pages_->setCurrentWidget(isSeen ? static_cast<QWidget*>(seen_) : view_);
   tellPlace();
 }
 
 void DifferencePanel::tell(const QString& sentence) {
   name_ = sentence;
   view_->tell(sentence);
-  tellPlace();
+  chooseLayout();
 }
 
 void DifferencePanel::tellPlace() {
@@ -95,10 +121,10 @@ void DifferencePanel::tellPlace() {
                       ? tr("Change %1 of %2").arg(view_->currentChange() + 1).arg(changes)
                       : count);
   view_->setAccessibleName(view_->difference() == nullptr ? name_ : QStringLiteral("%1: %2").arg(name_, count));
-  previous_->setEnabled(changes > 0);
-  next_->setEnabled(changes > 0);
+  previous_->setEnabled(changes > 0 && !isSeen());
+  next_->setEnabled(changes > 0 && !isSeen());
   layouts_->setEnabled(view_->difference() != nullptr);
-  invisible_->setEnabled(view_->difference() != nullptr);
+  invisible_->setEnabled(view_->difference() != nullptr && !isSeen());
 }
 
 }  // namespace tarnwick

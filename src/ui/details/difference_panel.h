@@ -3,10 +3,12 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QStackedWidget>
 #include <QToolButton>
 #include <QWidget>
 
 #include "ui/details/difference_view.h"
+#include "ui/details/seen_view.h"
 
 namespace tarnwick {
 
@@ -31,9 +33,13 @@ class DifferencePanel final : public QWidget {
  private:
   void layOut();
   void tellPlace();
+  void chooseLayout();
+  bool isSeen() const { return pages_->currentWidget() == seen_; }
   QToolButton* addTool(const char* name, const QString& sign, const QString& words, const QKeySequence& key);
 
   DifferenceView* view_ = nullptr;
+  SeenView* seen_ = nullptr;
+  QStackedWidget* pages_ = nullptr;
   QWidget* corner_;
   QLabel* place_;
   QToolButton* previous_ = nullptr;

@@ -25,15 +25,16 @@ class SiteSettling final : public QObject {
   void acknowledge(std::int16_t idSite, const std::string& page);
   void alarmAgain(std::int16_t idSite);
 
+  /// Shows the list as it is now, with a site that stands otherwise; 0 for several.
+  void finish(std::int16_t idSite);
+
  Q_SIGNALS:
-  /// The site stands otherwise.
+  /// The site stands otherwise; 0: several do.
   void settled(std::int16_t idSite);
   /// A page became its baseline, which can be undone.
   void accepted(std::int16_t idSite);
 
  private:
-  void finish(std::int16_t idSite);
-
   Program& program_;
   QWidget& window_;
 };

@@ -8,8 +8,11 @@
 #include <QScreen>
 #include <QShortcut>
 
+#include "ui/controls/boxes.h"
 #include "ui/controls/dialog_parts.h"
+#include "ui/controls/placement.h"
 #include "ui/details/change_window.h"
+#include "ui/details/same_changes.h"
 
 namespace tarnwick {
 namespace {
@@ -48,6 +51,8 @@ DetailsArea::DetailsArea(Program& program, QWidget& canvas, const MasterControls
       show(*idSite);
     }
   });
+  controls.listButton->menu()->insertAction(
+      controls.outbox, makeAction("sameChanges", tr("&Same Change on Many Sites…"), {}, &DetailsArea::openSameChanges));
   connect(&reason_, &SiteReason::clicked, this, &DetailsArea::open);
   follow();
 }
@@ -149,6 +154,19 @@ void DetailsArea::undoAccept() {
   if (const auto idSite = grid_.currentSite()) {
     settling_->undoAccept(*idSite);
   }
+}
+
+void DetailsArea::openSameChanges() {
+  std::vector<std::int16_t> ids;
+  for (int row = 0; row < grid_.sites().rowCount(); ++row) {
+    if (const auto idSite = grid_.sites().siteOfRow(row); idSite && grid_.sites().differsInRow(row)) {
+      ids.push_back(*idSite);
+    }
+  }
+  auto* dialog = new SameChanges(program_, *settling_, std::move(ids), canvas_.window());
+  placeOver(*dialog, *canvas_.window());
+  endModalityAt(*dialog);
+  dialog->show();
 }
 
 }  // namespace tarnwick

@@ -39,6 +39,7 @@ class DetailsArea final : public QObject {
   void accept();
   void acceptAlso();
   void undoAccept();
+  void openSameChanges();
 
   Program& program_;
   QWidget& canvas_;

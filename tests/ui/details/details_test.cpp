@@ -11,6 +11,7 @@
 #include "ui/details/accept_dialog.h"
 #include "ui/details/change_window.h"
 #include "ui/details/details_pane.h"
+#include "ui/details/same_changes.h"
 #include "ui/support/dialog_fixture.h"
 
 namespace tarnwick::testing {
@@ -188,6 +189,39 @@ TEST_F(DetailsTest, TheReasonInTheStatusRowOpensThemAndGoesMeanwhile) {
   clickOn(find<QToolButton>("detailsClose"));
   EXPECT_FALSE(details().isVisible());
   EXPECT_TRUE(waitUntil([&] { return reason.isVisible(); }));
+}
+
+TEST_F(DetailsTest, TheSameChangeOnManySitesIsAcceptedAtOnce) {
+  addSite(5, server.url("/third"));
+  server.respond("/third", {.body = kOld});
+  master->program().run().init();
+  master->program().checkNow({5});
+  for (const char* path : {"/shop", "/other"}) {
+    server.respond(path, {.body = kNew});
+  }
+  server.respond("/third", {.body = "<p>another</p>\n"});
+  master->program().checkNow({3, 4, 5});
+  find<QAction>("sameChanges").trigger();
+  auto& dialog = opened<SameChanges>();
+  auto& list = in<QListWidget>(dialog, "sameGroups");
+  ASSERT_TRUE(waitUntil([&] { return list.count() == 2; }));
+  EXPECT_THAT(list.item(0)->text().toStdString(), StartsWith("2 sites: "));
+  EXPECT_THAT(list.item(0)->text().toStdString(), HasSubstr("became"));
+  EXPECT_THAT(list.item(1)->text().toStdString(), StartsWith("Site 5: "));
+  EXPECT_TRUE(waitUntil([&] { return shownText(dialog) == "- <b>24.00</b>\n+ <b>29.00</b>"; }));
+  EXPECT_FALSE(in<QPushButton>(dialog, "sameAccept").isEnabled());
+  list.item(0)->setCheckState(Qt::Checked);
+  EXPECT_EQ(caption<QPushButton>(dialog, "sameAccept"), "Accept 2…");
+  machine.prompts.answerConfirm(false);
+  press(dialog, "sameAccept");
+  EXPECT_EQ(column(3, "content_compare"), kOld);
+  machine.prompts.answerConfirm(true);
+  press(dialog, "sameAccept");
+  EXPECT_TRUE(waitUntil([&] { return list.count() == 1; }));
+  EXPECT_EQ(column(3, "content_compare"), kNew);
+  EXPECT_EQ(column(4, "content_compare"), kNew);
+  EXPECT_EQ(column(5, "content_compare"), kOld);
+  press(dialog, "sameClose");
 }
 
 TEST_F(DetailsTest, ASiteWithoutAChangedPageHasNothingToAccept) {
