@@ -7172,6 +7172,26 @@ and when it is back</source>
         <source>&amp;Undo Accept…</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Same Change on Many Sites…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1: the new page is the baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites: the new pages are the baselines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo Accept of Site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo Accept of %1 Sites</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::DetailsPane</name>
@@ -7312,6 +7332,10 @@ and when it is back</source>
     </message>
     <message>
         <source>Change %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As seen</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8595,6 +8619,123 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>%1 of the page stays watched</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SameChanges</name>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has come</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 became %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites that have changed alike</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Accept…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Same Change on Many Sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comparing …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No site has another page than its baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick the changes that were meant:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What changed in site %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Accept %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest page of 1 site becomes its baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest pages of %1 sites become their baselines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The baselines before are kept. Do You Want To Accept Them?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 stay as they are: they have another page by now, or one that looks like an error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SeenPicture</name>
+    <message>
+        <source>A picture of %1 × %2 is too large to be drawn.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture cannot be drawn: it is damaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SeenView</name>
+    <message>
+        <source>The baseline, simplified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The latest page, simplified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Simplified: without pictures, scripts and the network.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels became %3 × %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each pixel is the same.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 pixels differ (%3 %).</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -7173,6 +7173,26 @@ und wenn sie wieder da ist</translation>
         <source>&amp;Undo Accept…</source>
         <translation>Übernahme &amp;zurücknehmen…</translation>
     </message>
+    <message>
+        <source>&amp;Same Change on Many Sites…</source>
+        <translation>&amp;Gleiche Änderung auf vielen Seiten…</translation>
+    </message>
+    <message>
+        <source>Site %1: the new page is the baseline.</source>
+        <translation>Seite %1: Der neue Inhalt ist die Basis.</translation>
+    </message>
+    <message>
+        <source>%1 sites: the new pages are the baselines.</source>
+        <translation>%1 Seiten: Die neuen Inhalte sind die Basis.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Accept of Site %1</source>
+        <translation>Übernahme von Seite %1 &amp;zurücknehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Accept of %1 Sites</source>
+        <translation>Übernahme von %1 Seiten &amp;zurücknehmen</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::DetailsPane</name>
@@ -7314,6 +7334,10 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>Change %1 of %2</source>
         <translation>Änderung %1 von %2</translation>
+    </message>
+    <message>
+        <source>As seen</source>
+        <translation>Wie gesehen</translation>
     </message>
 </context>
 <context>
@@ -8599,6 +8623,123 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>%1 of the page stays watched</source>
         <translation>%1 der Seite bleiben überwacht</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SameChanges</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>%1 has come</source>
+        <translation>%1 kam dazu</translation>
+    </message>
+    <message>
+        <source>%1 is gone</source>
+        <translation>%1 fiel weg</translation>
+    </message>
+    <message>
+        <source>%1 became %2</source>
+        <translation>%1 wurde %2</translation>
+    </message>
+    <message>
+        <source>Sites that have changed alike</source>
+        <translation>Seiten, die sich gleich geändert haben</translation>
+    </message>
+    <message>
+        <source>&amp;Accept…</source>
+        <translation>Ü&amp;bernehmen…</translation>
+    </message>
+    <message>
+        <source>Same Change on Many Sites</source>
+        <translation>Gleiche Änderung auf vielen Seiten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Comparing …</source>
+        <translation>Wird verglichen …</translation>
+    </message>
+    <message>
+        <source>Site %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>%1 sites</source>
+        <translation>%1 Seiten</translation>
+    </message>
+    <message>
+        <source>No site has another page than its baseline.</source>
+        <translation>Keine Seite hat einen anderen Inhalt als ihre Basis.</translation>
+    </message>
+    <message>
+        <source>Tick the changes that were meant:</source>
+        <translation>Haken Sie die gewollten Änderungen an:</translation>
+    </message>
+    <message>
+        <source>What changed in site %1</source>
+        <translation>Was sich an Seite %1 geändert hat</translation>
+    </message>
+    <message>
+        <source>&amp;Accept %1…</source>
+        <translation>%1 ü&amp;bernehmen…</translation>
+    </message>
+    <message>
+        <source>The latest page of 1 site becomes its baseline.</source>
+        <translation>Der letzte Inhalt von 1 Seite wird ihre Basis.</translation>
+    </message>
+    <message>
+        <source>The latest pages of %1 sites become their baselines.</source>
+        <translation>Die letzten Inhalte von %1 Seiten werden ihre Basis.</translation>
+    </message>
+    <message>
+        <source>The baselines before are kept. Do You Want To Accept Them?</source>
+        <translation>Die bisherigen werden aufgehoben. Möchten Sie sie übernehmen?</translation>
+    </message>
+    <message>
+        <source>%1 of %2 stay as they are: they have another page by now, or one that looks like an error.</source>
+        <translation>%1 von %2 bleiben, wie sie sind: Sie haben inzwischen einen anderen Inhalt, oder einen, der nach einem Fehler aussieht.</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SeenPicture</name>
+    <message>
+        <source>A picture of %1 × %2 is too large to be drawn.</source>
+        <translation>Ein Bild von %1 × %2 ist zu groß, um gezeichnet zu werden.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be drawn: it is damaged.</source>
+        <translation>Das Bild lässt sich nicht zeichnen: Es ist beschädigt.</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SeenView</name>
+    <message>
+        <source>The baseline, simplified</source>
+        <translation>Die Basis, vereinfacht</translation>
+    </message>
+    <message>
+        <source>The latest page, simplified</source>
+        <translation>Der letzte Inhalt, vereinfacht</translation>
+    </message>
+    <message>
+        <source>Simplified: without pictures, scripts and the network.</source>
+        <translation>Vereinfacht: ohne Bilder, Skripte und Netz.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels became %3 × %4.</source>
+        <translation>%1 × %2 Bildpunkte wurden %3 × %4.</translation>
+    </message>
+    <message>
+        <source>Each pixel is the same.</source>
+        <translation>Jeder Bildpunkt ist gleich.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pixels differ (%3 %).</source>
+        <translation>%1 von %2 Bildpunkten sind anders (%3 %).</translation>
     </message>
 </context>
 <context>

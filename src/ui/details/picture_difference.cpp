@@ -58,7 +58,8 @@ PictureDifference differenceOf(const QImage& before, const QImage& after) {
     for (int x = 0; x < before.width(); ++x) {
       if (old[x] != now[x]) {
         ++found.pixels;
-        differs[static_cast<std::size_t>(y / square * columns + x / square)] = true;
+        const int at = y / square * columns + x / square;
+        differs[static_cast<std::size_t>(at)] = true;
       }
     }
   }

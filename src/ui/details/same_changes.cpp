@@ -158,13 +158,13 @@ void SameChanges::ask() {
                            QLatin1Char('\n') + tr("The baselines before are kept. Do You Want To Accept Them?");
   tarnwick::ask(*this, program_, {.text = question.toStdString(), .destroys = true}, [this](bool yes) {
     if (yes) {
-      accept();
+      acceptChosen();
     }
   });
 }
 
 // A page that has come meanwhile is taken if it has changed alike, and no other.
-void SameChanges::accept() {
+void SameChanges::acceptChosen() {
   const auto accepted = std::make_shared<Accepted>();
   start(
       SlicedWork::Aim::write,
@@ -178,8 +178,10 @@ void SameChanges::accept() {
                              list.changeOf(ids_[page]) == phrases_[page];
         if (isMeant) {
           list.accept(ids_[page], found.page, AcceptAs::baseline);
+          accepted->taken.push_back(ids_[page]);
+        } else {
+          ++accepted->left;
         }
-        ++(isMeant ? accepted->taken : accepted->left);
         return true;
       },
       [this, accepted] { finishAccepting(*accepted); });
@@ -187,11 +189,14 @@ void SameChanges::accept() {
 
 void SameChanges::finishAccepting(const Accepted& accepted) {
   settling_.finish(0);
+  if (!accepted.taken.empty()) {
+    Q_EMIT settling_.accepted(accepted.taken);
+  }
   if (accepted.left > 0) {
     const QString words =
         tr("%1 of %2 stay as they are: they have another page by now, or one that looks like an error.")
             .arg(accepted.left)
-            .arg(accepted.left + accepted.taken);
+            .arg(accepted.left + accepted.taken.size());
     tell(*this, program_, words.toStdString());
   }
   read();

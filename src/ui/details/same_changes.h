@@ -33,7 +33,7 @@ class SameChanges final : public QDialog {
 
  private:
   struct Accepted {
-    std::size_t taken = 0;
+    std::vector<std::int16_t> taken;
     std::size_t left = 0;
   };
 
@@ -44,7 +44,7 @@ class SameChanges final : public QDialog {
   void tellCount();
   std::vector<std::size_t> chosen() const;
   void ask();
-  void accept();
+  void acceptChosen();
   void finishAccepting(const Accepted& accepted);
   void start(SlicedWork::Aim aim, SlicedWork::Next next, std::function<void()> finished);
 

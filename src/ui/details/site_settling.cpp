@@ -25,7 +25,7 @@ void SiteSettling::accept(std::int16_t idSite, bool beside) {
         [this, idSite](AcceptAs as) {
           finish(idSite);
           if (as == AcceptAs::baseline) {
-            Q_EMIT accepted(idSite);
+            Q_EMIT accepted({idSite});
           }
         },
         &window_);
@@ -35,12 +35,16 @@ void SiteSettling::accept(std::int16_t idSite, bool beside) {
   });
 }
 
-void SiteSettling::undoAccept(std::int16_t idSite) {
+void SiteSettling::undoAccept(const std::vector<std::int16_t>& ids) {
   program_.faults().run([&] {
-    if (!program_.data().undoAccept(idSite)) {
-      tell(window_, program_, tr("Site %1 has no earlier baseline.").arg(idSite).toStdString());
+    Transaction whole(program_.data().database());
+    for (const std::int16_t idSite : ids) {
+      if (!program_.data().undoAccept(idSite)) {
+        tell(window_, program_, tr("Site %1 has no earlier baseline.").arg(idSite).toStdString());
+      }
     }
-    finish(idSite);
+    whole.commit();
+    finish(ids.size() == 1 ? ids.front() : std::int16_t{0});
   });
 }
 

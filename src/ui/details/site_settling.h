@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <vector>
 #include <QObject>
 #include <QWidget>
 
@@ -19,8 +21,8 @@ class SiteSettling final : public QObject {
 
   /// Shows the page of its latest check, to be taken as the baseline, or beside it. Says so where there is none.
   void accept(std::int16_t idSite, bool beside = false);
-  /// Puts the baseline back that was replaced last.
-  void undoAccept(std::int16_t idSite);
+  /// Puts the baselines back that were replaced last.
+  void undoAccept(const std::vector<std::int16_t>& ids);
   /// Nothing is said of the site while exactly this page stays.
   void acknowledge(std::int16_t idSite, const std::string& page);
   void alarmAgain(std::int16_t idSite);
@@ -31,8 +33,8 @@ class SiteSettling final : public QObject {
  Q_SIGNALS:
   /// The site stands otherwise; 0: several do.
   void settled(std::int16_t idSite);
-  /// A page became its baseline, which can be undone.
-  void accepted(std::int16_t idSite);
+  /// Pages became the baselines of these, which can be undone.
+  void accepted(const std::vector<std::int16_t>& ids);
 
  private:
   Program& program_;

@@ -104,6 +104,20 @@ QAction* DetailsArea::makeAction(const char* name, const QString& caption, const
   return action;
 }
 
+void DetailsArea::remember(UndoList& undo) {
+  connect(settling_, &SiteSettling::accepted, this, [this, &undo](const std::vector<std::int16_t>& ids) {
+    const bool isOne = ids.size() == 1;
+    undo.add({.sentence = isOne ? tr("Site %1: the new page is the baseline.").arg(ids.front())
+                                : tr("%1 sites: the new pages are the baselines.").arg(ids.size()),
+              .caption = isOne ? tr("&Undo Accept of Site %1").arg(ids.front())
+                               : tr("&Undo Accept of %1 Sites").arg(ids.size()),
+              .undo = [this, ids](const std::function<void()>& done) {
+                settling_->undoAccept(ids);
+                done();
+              }});
+  });
+}
+
 void DetailsArea::show(std::int16_t idSite) {
   grid_.selectSite(idSite);
   open();
@@ -152,7 +166,7 @@ void DetailsArea::acceptAlso() {
 
 void DetailsArea::undoAccept() {
   if (const auto idSite = grid_.currentSite()) {
-    settling_->undoAccept(*idSite);
+    settling_->undoAccept({*idSite});
   }
 }
 

@@ -7,6 +7,7 @@
 #include <QSplitter>
 
 #include "program/program.h"
+#include "ui/controls/undo_list.h"
 #include "ui/details/details_pane.h"
 #include "ui/details/site_settling.h"
 #include "ui/main_window/master_layout.h"
@@ -30,6 +31,8 @@ class DetailsArea final : public QObject {
   SiteSettling& settling() { return *settling_; }
   /// Adds to the menu of a row what this does.
   void addTo(QMenu& rowMenu);
+  /// Has what is accepted be taken back by that.
+  void remember(UndoList& undo);
 
  private:
   void open();

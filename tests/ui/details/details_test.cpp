@@ -109,6 +109,17 @@ TEST_F(DetailsTest, AnAcceptedPageIsGivenBackByTheMenu) {
   EXPECT_EQ(column(3, "content_compare"), kOld);
 }
 
+TEST_F(DetailsTest, TheNoticeGivesTheBaselineBack) {
+  change();
+  press(openAccept(), "acceptAccept");
+  auto& notice = find<NoticeButton>("noticeUndo");
+  ASSERT_TRUE(waitUntil([&] { return notice.isVisible(); }));
+  EXPECT_EQ(notice.sentence(), QStringLiteral("Site 3: the new page is the baseline."));
+  clickOn(notice);
+  EXPECT_EQ(column(3, "content_compare"), kOld);
+  EXPECT_FALSE(notice.isVisible());
+}
+
 TEST_F(DetailsTest, APageBesideTheBaselineIsGoodToo) {
   change();
   auto& dialog = openAccept();
@@ -222,6 +233,11 @@ TEST_F(DetailsTest, TheSameChangeOnManySitesIsAcceptedAtOnce) {
   EXPECT_EQ(column(4, "content_compare"), kNew);
   EXPECT_EQ(column(5, "content_compare"), kOld);
   press(dialog, "sameClose");
+  master->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(master.get()));
+  key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(column(3, "content_compare"), kOld);
+  EXPECT_EQ(column(4, "content_compare"), kOld);
 }
 
 TEST_F(DetailsTest, ASiteWithoutAChangedPageHasNothingToAccept) {
