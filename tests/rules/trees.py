@@ -27,7 +27,7 @@ TREES = {
         "src/exchange/list/a.h": HEADER + '#include "exchange/json/b.h"\n',
         "src/exchange/json/b.h": HEADER + "#include <nlohmann/json.hpp>\n",
         "src/cli/terminal/a.h": HEADER + '#include "exchange/json/b.h"\n'}),
-    "a room that looks up": ('includes "engine/e.h": store/ may include only base, holes, platform', {
+    "a room that looks up": ('includes "engine/e.h": store/ may include only base, history, holes, platform', {
         "src/store/a.h": HEADER + '#include "engine/e.h"\n', "src/engine/e.h": HEADER}),
     "a window in the terminal": ('includes "ui/site/s.h": cli/verbs/ may include only', {
         "src/cli/verbs/a.h": HEADER + '#include "ui/site/s.h"\n', "src/ui/site/s.h": HEADER}),
