@@ -7866,11 +7866,11 @@ and when it is back</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Mail goes by the channels of the kind mail; this server is not used.</source>
+        <source>This server is not used; mail goes by:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>For a mail server with a log-in, a phone or a chat add a channel.</source>
+        <source>With a log-in, to a phone or to a chat:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

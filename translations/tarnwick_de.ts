@@ -5820,7 +5820,7 @@
     </message>
     <message>
         <source>Test alert daily at</source>
-        <translation>Probealarm täglich um</translation>
+        <translation>Probealarm um</translation>
     </message>
     <message>
         <source>When a message with the figures of the day leaves through the channels, each day that a run is on</source>
@@ -5832,7 +5832,7 @@
     </message>
     <message>
         <source>&quot;All is well&quot; daily at</source>
-        <translation>„Alles in Ordnung“ täglich um</translation>
+        <translation>„Alles in Ordnung“ um</translation>
     </message>
     <message>
         <source>a time of the day, as in &quot;8:00&quot;</source>
@@ -7867,12 +7867,12 @@ und wenn sie wieder da ist</translation>
         <translation>Kanäle…</translation>
     </message>
     <message>
-        <source>Mail goes by the channels of the kind mail; this server is not used.</source>
-        <translation>Mail geht über die Kanäle der Art Mail; dieser Server wird nicht benutzt.</translation>
+        <source>This server is not used; mail goes by:</source>
+        <translation>Dieser Server wird nicht benutzt; Mail geht über:</translation>
     </message>
     <message>
-        <source>For a mail server with a log-in, a phone or a chat add a channel.</source>
-        <translation>Für einen Mailserver mit Anmeldung, ein Telefon oder einen Chat fügen Sie einen Kanal hinzu.</translation>
+        <source>With a log-in, to a phone or to a chat:</source>
+        <translation>Mit Anmeldung, auf ein Telefon oder in einen Chat:</translation>
     </message>
 </context>
 <context>

@@ -14,7 +14,7 @@ namespace {
 using Value = std::optional<std::string>;
 
 constexpr int kLettersOfTime = 7;
-constexpr int kLettersOfAddress = 24;
+constexpr int kLettersOfAddress = 12;
 
 /// Why a value is not taken; empty when it is.
 QString faultOf(const OptionField& option, const Value& value) {

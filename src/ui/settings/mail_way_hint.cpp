@@ -11,12 +11,12 @@ namespace tarnwick {
 
 MailWayHint::MailWayHint(Program& program, QWidget* parent) : QWidget(parent), program_(program) {
   auto* text = named(new QLabel(this), "mailWay");
-  text->setWordWrap(true);
   auto* link = named(new LinkButton(tr("Channels…"), this), "mailWayChannels", tr("Channels…"));
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins({});
-  line->addWidget(text, 1);
+  line->addWidget(text);
   line->addWidget(link);
+  line->addStretch(1);
   connect(link, &QAbstractButton::clicked, this, &MailWayHint::followed);
 }
 
@@ -25,8 +25,8 @@ void MailWayHint::showEvent(QShowEvent* event) {
   program_.faults().run([this] {
     findChild<QLabel*>(QStringLiteral("mailWay"))
         ->setText(program_.data().delivery().replacesMail()
-                      ? tr("Mail goes by the channels of the kind mail; this server is not used.")
-                      : tr("For a mail server with a log-in, a phone or a chat add a channel."));
+                      ? tr("This server is not used; mail goes by:")
+                      : tr("With a log-in, to a phone or to a chat:"));
   });
 }
 

@@ -222,7 +222,7 @@ TEST_F(ChannelsPageTest, TheFileOfTheAuthoritiesCanBeChosen) {
 
 TEST_F(ChannelsPageTest, TheFirstPageTellsOfTheChannelsAndLeadsToThem) {
   auto& dialog = openSettings();
-  EXPECT_THAT(label(dialog, "mailWay"), HasSubstr("add a channel"));
+  EXPECT_THAT(label(dialog, "mailWay"), HasSubstr("With a log-in"));
   in<QAbstractButton>(dialog, "mailWayChannels").click();
   EXPECT_EQ(in<QTabWidget>(dialog, "pages").currentIndex(), 2);
   EXPECT_TRUE(dialog.findChild<ChannelsPage*>()->isVisible());
