@@ -24,9 +24,8 @@ void MailWayHint::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   program_.faults().run([this] {
     findChild<QLabel*>(QStringLiteral("mailWay"))
-        ->setText(program_.data().delivery().replacesMail()
-                      ? tr("This server is not used; mail goes by:")
-                      : tr("With a log-in, to a phone or to a chat:"));
+        ->setText(program_.data().delivery().replacesMail() ? tr("This server is not used; mail goes by:")
+                                                            : tr("With a log-in, to a phone or to a chat:"));
   });
 }
 
