@@ -63,7 +63,7 @@ class Replay {
 
   void addSite(std::int64_t id, Site site) { sites_.emplace(id, std::move(site)); }
 
-  void take(std::int64_t id, const std::string& url, TakenCheck check) {
+  void take(std::int64_t id, const std::string& url, const TakenCheck& check) {
     const auto found = sites_.find(id);
     if (found == sites_.end() || found->second.url != url) {
       return;
