@@ -153,7 +153,7 @@ std::optional<std::int64_t> takeRows(Database& database, std::int64_t last, Mome
       const std::string cause = rows->field(std::size_t{5}).toText();
       check.cause = cause.empty() ? kPageDiffers : cause;
     }
-    replay.take(rows->field(std::size_t{1}).toInt64(), rows->field(std::size_t{2}).toText(), std::move(check));
+    replay.take(rows->field(std::size_t{1}).toInt64(), rows->field(std::size_t{2}).toText(), check);
   }
   return last;
 }
