@@ -86,6 +86,8 @@ NO_MESSAGES = {
     "src/ui/baseline/rules_dialog.cpp": ("a caption", ()),
     "src/ui/details/accept_dialog.cpp": ("what is accepted", ("What changed in", "This page becomes")),
     "src/ui/details/change_window.cpp": ("a caption", ("What changed in",)),
+    "src/ui/details/alarm_*.cpp": ("what is told of a site; the guide explains it", ()),
+    "src/ui/details/settling_words.cpp": ("which page is which", ("− Good as",)),
     "src/ui/details/details_pane.cpp": ("labels and hints; the guide explains the details", ("What changed in",)),
     "src/ui/details/difference_*.cpp": ("labels of the difference; the guide explains it", ()),
     "src/ui/main_window/details_area.cpp": ("entries of the menus, and what can be taken back; the guide explains them", ()),

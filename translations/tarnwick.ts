@@ -6397,6 +6397,153 @@
     </message>
 </context>
 <context>
+    <name>tarnwick::AlarmPage</name>
+    <message>
+        <source>a channel that is gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was not delivered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failing since %1: %2 of %3 failures in a row.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down for real since %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down for real since %1, %2 failures in a row.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down with a page that is known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsteady: up and down all the time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up, but slow.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown since %1, as this machine is offline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paused %1: nothing is told.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is a quiet time: nothing is told.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Never: its alerts are off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When the next check fails.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When the next %1 checks in a row fail.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With each check that fails, and when it is back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With each check that fails.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From %1 on, if it is still down, or when it is back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From %1 on, if it is still down.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When it is back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing more until it has been up and fails again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When another wrong page comes, or none at all.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When it has been steady for a while.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When the quiet time or pause ends, if it is still so.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a mail to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is set up: nobody is told.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Now:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Told last:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Told next:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Through:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;hange…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose when and how is told of this site</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::AlarmSection</name>
     <message>
         <source>Tell me</source>
@@ -7281,6 +7428,18 @@ and when it is back</source>
     </message>
     <message>
         <source>Known: say nothing while exactly this page stays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Resume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell of the site again</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8274,6 +8433,13 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::PageHeads</name>
+    <message>
+        <source>Compare with another good page</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::PausePage</name>
     <message>
         <source>Right now</source>
@@ -8795,6 +8961,26 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>%1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>− Baseline, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>+ Latest check %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>+ Latest check, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>− Good as well since %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>− Baseline until %1, %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -6397,6 +6397,153 @@
     </message>
 </context>
 <context>
+    <name>tarnwick::AlarmPage</name>
+    <message>
+        <source>a channel that is gone</source>
+        <translation>ein Kanal, den es nicht mehr gibt</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 um %2</translation>
+    </message>
+    <message>
+        <source>%1 is waiting</source>
+        <translation>%1 wartet noch</translation>
+    </message>
+    <message>
+        <source>%1 was not delivered</source>
+        <translation>%1 wurde nicht zugestellt</translation>
+    </message>
+    <message>
+        <source>Failing since %1: %2 of %3 failures in a row.</source>
+        <translation>Gestört seit %1: %2 von %3 Fehlern in Folge.</translation>
+    </message>
+    <message>
+        <source>Down for real since %1.</source>
+        <translation>Wirklich gestört seit %1.</translation>
+    </message>
+    <message>
+        <source>Down for real since %1, %2 failures in a row.</source>
+        <translation>Wirklich gestört seit %1, %2 Fehler in Folge.</translation>
+    </message>
+    <message>
+        <source>Down with a page that is known.</source>
+        <translation>Gestört mit einem Inhalt, der bekannt ist.</translation>
+    </message>
+    <message>
+        <source>Unsteady: up and down all the time.</source>
+        <translation>Unruhig: wechselt ständig zwischen gut und gestört.</translation>
+    </message>
+    <message>
+        <source>Up, but slow.</source>
+        <translation>Gut, aber langsam.</translation>
+    </message>
+    <message>
+        <source>Unknown since %1, as this machine is offline.</source>
+        <translation>Unbekannt seit %1, da dieser Rechner offline ist.</translation>
+    </message>
+    <message>
+        <source>Paused %1: nothing is told.</source>
+        <translation>Pause %1: Es wird nichts gemeldet.</translation>
+    </message>
+    <message>
+        <source>It is a quiet time: nothing is told.</source>
+        <translation>Es ist Ruhezeit: Es wird nichts gemeldet.</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <translation>um %1</translation>
+    </message>
+    <message>
+        <source>Never: its alerts are off.</source>
+        <translation>Nie: Ihre Alarme sind aus.</translation>
+    </message>
+    <message>
+        <source>When the next check fails.</source>
+        <translation>Wenn die nächste Prüfung scheitert.</translation>
+    </message>
+    <message>
+        <source>When the next %1 checks in a row fail.</source>
+        <translation>Wenn die nächsten %1 Prüfungen in Folge scheitern.</translation>
+    </message>
+    <message>
+        <source>With each check that fails, and when it is back.</source>
+        <translation>Mit jeder Prüfung, die scheitert, und wenn sie wieder da ist.</translation>
+    </message>
+    <message>
+        <source>With each check that fails.</source>
+        <translation>Mit jeder Prüfung, die scheitert.</translation>
+    </message>
+    <message>
+        <source>From %1 on, if it is still down, or when it is back.</source>
+        <translation>Ab %1, wenn sie noch gestört ist, oder wenn sie wieder da ist.</translation>
+    </message>
+    <message>
+        <source>From %1 on, if it is still down.</source>
+        <translation>Ab %1, wenn sie noch gestört ist.</translation>
+    </message>
+    <message>
+        <source>When it is back.</source>
+        <translation>Wenn sie wieder da ist.</translation>
+    </message>
+    <message>
+        <source>Nothing more until it has been up and fails again.</source>
+        <translation>Nichts mehr, bis sie gut war und wieder scheitert.</translation>
+    </message>
+    <message>
+        <source>When another wrong page comes, or none at all.</source>
+        <translation>Wenn ein anderer falscher Inhalt kommt, oder gar keiner.</translation>
+    </message>
+    <message>
+        <source>When it has been steady for a while.</source>
+        <translation>Wenn sie eine Weile ruhig war.</translation>
+    </message>
+    <message>
+        <source>When the quiet time or pause ends, if it is still so.</source>
+        <translation>Wenn Ruhezeit oder Pause enden, falls es noch so ist.</translation>
+    </message>
+    <message>
+        <source>a mail to %1</source>
+        <translation>eine Mail an %1</translation>
+    </message>
+    <message>
+        <source>a sound</source>
+        <translation>ein Klang</translation>
+    </message>
+    <message>
+        <source>a program</source>
+        <translation>ein Programm</translation>
+    </message>
+    <message>
+        <source>Nothing is set up: nobody is told.</source>
+        <translation>Nichts ist eingerichtet: Niemand erfährt davon.</translation>
+    </message>
+    <message>
+        <source>Now:</source>
+        <translation>Jetzt:</translation>
+    </message>
+    <message>
+        <source>Told last:</source>
+        <translation>Zuletzt gemeldet:</translation>
+    </message>
+    <message>
+        <source>Told next:</source>
+        <translation>Nächste Meldung:</translation>
+    </message>
+    <message>
+        <source>Through:</source>
+        <translation>Über:</translation>
+    </message>
+    <message>
+        <source>C&amp;hange…</source>
+        <translation>Än&amp;dern…</translation>
+    </message>
+    <message>
+        <source>Choose when and how is told of this site</source>
+        <translation>Wählen, wann und wie von dieser Seite gemeldet wird</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::AlarmSection</name>
     <message>
         <source>Tell me</source>
@@ -7283,6 +7430,18 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>Known: say nothing while exactly this page stays</source>
         <translation>Bekannt: nichts melden, solange genau dieser Inhalt bleibt</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>&amp;Resume</source>
+        <translation>&amp;Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Tell of the site again</source>
+        <translation>Wieder von der Seite melden</translation>
     </message>
 </context>
 <context>
@@ -8277,6 +8436,13 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::PageHeads</name>
+    <message>
+        <source>Compare with another good page</source>
+        <translation>Mit einem anderen guten Inhalt vergleichen</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::PausePage</name>
     <message>
         <source>Right now</source>
@@ -8799,6 +8965,26 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>%1 bytes</source>
         <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>− Baseline, %1</source>
+        <translation>− Basis, %1</translation>
+    </message>
+    <message>
+        <source>+ Latest check %1, %2</source>
+        <translation>+ Letzte Prüfung %1, %2</translation>
+    </message>
+    <message>
+        <source>+ Latest check, %1</source>
+        <translation>+ Letzte Prüfung, %1</translation>
+    </message>
+    <message>
+        <source>− Good as well since %1, %2</source>
+        <translation>− Auch gut seit %1, %2</translation>
+    </message>
+    <message>
+        <source>− Baseline until %1, %2</source>
+        <translation>− Basis bis %1, %2</translation>
     </message>
 </context>
 <context>

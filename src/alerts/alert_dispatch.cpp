@@ -142,6 +142,14 @@ AlertDispatch::Site AlertDispatch::readSite(std::int16_t idSite) {
   return site;
 }
 
+AlertWays AlertDispatch::waysOf(std::int16_t idSite) {
+  const Site site = readSite(idSite);
+  const bool byMail = settings_.getControl("cEmail").toBool() && site.alertEmail;
+  return {.mailTo = byMail ? site.email : std::string(),
+          .sound = settings_.getControl("cAudio").toBool(),
+          .program = settings_.getControl("cProgram").toBool()};
+}
+
 AlertFacts AlertDispatch::factsOf(const std::string& url, const std::string& idSite, const std::string& email) {
   const TcpSocket& socket = mailSocket_.winsock1();
   return {url, idSite, email, socket.localHostName(), socket.localIP()};

@@ -24,6 +24,15 @@ struct MailOutcome {
   bool otherWay = false;  ///< it was told by a sound or a started program as well
 };
 
+/// The original ways by which a site's alerts leave, as the settings have them.
+struct AlertWays {
+  std::string mailTo{};  ///< empty for no mail; where a channel takes its place, none is sent
+  bool sound = false;
+  bool program = false;
+
+  bool operator==(const AlertWays&) const = default;
+};
+
 /// The alerts of a failed site: a mail, a sound, a started program, in this order, as far as the settings switch them
 /// on. Settings, site and template are read afresh for each. What goes wrong with one alert is not reported and does
 /// not keep the next from following; only a failed statement raises DataAccessError.
@@ -60,6 +69,9 @@ class AlertDispatch {
 
   /// Whether mails leave another way: then none is sent here.
   void replaceMail(bool replaced) { mailIsReplaced_ = replaced; }
+
+  /// Which ways there are for the site.
+  AlertWays waysOf(std::int16_t idSite);
 
   /// What became of the mail of the latest alert; nothing is lost when it was to send none.
   const MailOutcome& mailOutcome() const { return mailOutcome_; }

@@ -77,6 +77,7 @@ int main(int argc, char** argv) {
                      .channels = [&channels] { channels(0); },
                      .addAddresses = tarnwick::addAddressesOf(window.program(), window),
                      .exportList = tarnwick::exportOf(window.program(), window)});
+  window.rememberIn(*habits);
   window.useTray(tarnwick::makeTrayIcon(), [&habits] { return habits->closesToTray(); });
   if (!window.load()) {
     failed();

@@ -33,8 +33,10 @@ class Delivery {
   Delivery(const Delivery&) = delete;
   Delivery& operator=(const Delivery&) = delete;
 
-  /// Whether alerts of a site leave through any channel. `own` is the site's option `channels`, nothing where it has
+  /// The channels through which alerts of a site leave. `own` is the site's option `channels`, nothing where it has
   /// none; one that names no channel that is there counts as none.
+  std::vector<Channel> channelsOf(const std::optional<std::string>& own);
+  /// Whether there is any.
   bool tellsOf(const std::optional<std::string>& own);
   /// Whether a channel is there that takes the place of the original mails: one of the kind mail that is on.
   bool replacesMail();
@@ -99,7 +101,6 @@ class Delivery {
     std::optional<SendReply> reply{};
   };
 
-  std::vector<Channel> channelsOf(const std::optional<std::string>& own);
   bool isHeld(const Channel& channel, const OutboxRow& row) const;
   bool canTry(const Channel& channel) const;
   bool anyFirst(const std::function<bool(const OutboxRow& first)>& holds);

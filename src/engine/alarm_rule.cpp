@@ -170,6 +170,23 @@ AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& 
   return step;
 }
 
+std::optional<LocalTime> nextReminder(const SiteStanding& standing, const Reminders& remind) {
+  if (!standing.toldAt || !standing.lastToldAt) {
+    return std::nullopt;
+  }
+  const int told = remindersUntil(*standing.lastToldAt - *standing.toldAt, remind);
+  switch (remind.kind) {
+    case Reminders::Kind::everyCheck:
+    case Reminders::Kind::never:
+      break;
+    case Reminders::Kind::regular:
+      return *standing.toldAt + remind.every * (std::int64_t{told} + 1);
+    case Reminders::Kind::growing:
+      return *standing.toldAt + hours(std::int64_t{1} << std::min(told, 20));
+  }
+  return std::nullopt;
+}
+
 bool waitsForTime(const SiteStanding& site, const AlarmPolicy& policy) {
   const bool wantsDown = isDown(site, policy) && site.told != Told::down;
   const bool wantsUp = site.failures == 0 && site.told != Told::up;

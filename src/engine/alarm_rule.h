@@ -48,4 +48,7 @@ AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& 
 /// Whether time alone may bring something to be told of the site, so that it is to be asked about now and then.
 bool waitsForTime(const SiteStanding& standing, const AlarmPolicy& policy);
 
+/// When the next reminder of the outage that was told last is due. Nothing where there is none.
+std::optional<LocalTime> nextReminder(const SiteStanding& standing, const Reminders& remind);
+
 }  // namespace tarnwick

@@ -105,7 +105,6 @@ class ResultRecording {
 
   /// Stamps the site with the present time as that of its last check.
   void xupdateLastChecked(std::int16_t idSite);
-  /// Vocabulary: no front end calls it.
   /// The local time of the last check; nothing when there was none, there is no such site, or the stored text is no
   /// date.
   std::optional<LocalTime> getLastChecked(std::int16_t idSite);

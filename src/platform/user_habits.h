@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+#include <string>
+
 namespace tarnwick {
 
 /// What the user of this machine wants of the window, whatever list it shows: kept in the desktop's settings, in no
@@ -18,6 +21,10 @@ class UserHabits {
   virtual bool startsWithDesktop() const = 0;
   /// Raises std::runtime_error, which tells what stands in the way.
   virtual void setStartsWithDesktop(bool wanted) = 0;
+  /// A number that a part of the window remembers under a name of its own; nothing where it has remembered none.
+  virtual std::optional<int> remembered(const std::string& name) const = 0;
+  /// What cannot be kept is forgotten in silence.
+  virtual void remember(const std::string& name, int value) = 0;
 };
 
 }  // namespace tarnwick

@@ -205,6 +205,17 @@ std::optional<LocalTime> Outbox::lastMade(const std::string& event) {
   return rows->eof() ? std::nullopt : parseDateTime(rows->field("made").toText());
 }
 
+std::vector<OutboxRow> Outbox::latestAlertsOf(std::int16_t idSite) {
+  if (!hasOutbox()) {
+    return {};
+  }
+  const std::array<SqlValue, 1> parameters{SqlValue(std::int64_t{idSite})};
+  return rowsOf(db_,
+                "where idAlert in (select max(idAlert) from outbox where idSite = ?1 group by idChannel) order by "
+                "idAlert",
+                parameters);
+}
+
 std::map<std::int64_t, LastTry> Outbox::lastTries() {
   std::map<std::int64_t, LastTry> tries;
   if (!hasOutbox()) {

@@ -97,6 +97,8 @@ class Outbox {
   std::vector<OutboxRow> undelivered(const std::string& event, LocalTime madeUntil);
   /// When an alert of that event was made last; nothing when none is kept.
   std::optional<LocalTime> lastMade(const std::string& event);
+  /// The latest alert of a site through each channel, as far as it is kept, without its page.
+  std::vector<OutboxRow> latestAlertsOf(std::int16_t idSite);
   /// The last try of each channel, as far as it is still known.
   std::map<std::int64_t, LastTry> lastTries();
 

@@ -106,6 +106,19 @@ TEST_F(DeliveryTest, ASiteWhoseChannelsAreGoneIsToldAsIfItNamedNone) {
   EXPECT_THAT(sent(), ElementsAre("office@example.org: a.example.org does not answer"));
 }
 
+TEST_F(DeliveryTest, OfASiteTheLatestAlertOfEachChannelIsKnown) {
+  const std::int64_t office = addMail("office");
+  const std::int64_t phone = addMail("phone");
+  happen("a.test");
+  happen("a.test", "up", "phone");
+  std::vector<std::pair<std::int64_t, std::string>> latest;
+  for (const OutboxRow& row : one.outbox.latestAlertsOf(1)) {
+    latest.emplace_back(row.idChannel, row.alert.event);
+  }
+  EXPECT_THAT(latest, ElementsAre(std::pair(office, "down"), std::pair(phone, "up")));
+  EXPECT_THAT(one.outbox.latestAlertsOf(2), IsEmpty());
+}
+
 TEST_F(DeliveryTest, WithoutAChannelNothingIsKeptAndNothingWakesUp) {
   EXPECT_FALSE(one.delivery.tellsOf(std::nullopt));
   happen("a.example.org");

@@ -18,6 +18,14 @@ class DesktopHabits final : public UserHabits {
   void setClosesToTray(bool wanted) override { settings_.setValue(QLatin1String(kCloseToTray), wanted); }
   bool startsWithDesktop() const override { return isStartedWithDesktop(); }
   void setStartsWithDesktop(bool wanted) override { startWithDesktop(wanted); }
+  std::optional<int> remembered(const std::string& name) const override {
+    bool isNumber = false;
+    const int value = settings_.value(QString::fromStdString(name)).toInt(&isNumber);
+    return isNumber ? std::optional(value) : std::nullopt;
+  }
+  void remember(const std::string& name, int value) override {
+    settings_.setValue(QString::fromStdString(name), value);
+  }
 
  private:
   QSettings settings_{QSettings::IniFormat, QSettings::UserScope, QStringLiteral("tarnwick"), QStringLiteral("window")};

@@ -57,6 +57,9 @@ void ChangeWindow::showSite(std::int16_t idSite) {
   accept_->setEnabled(canBeSettled(found));
   const QString sentence = nothingToShow(idSite, found);
   if (sentence.isEmpty()) {
+    panel_->heads().tell(
+        baselineHead(found.baseline.size()),
+        latestHead(found.page.size(), program_.data().getLastChecked(idSite), program_.services().clock.localNow()));
     panel_->compare({std::move(found.baseline), std::move(found.page)}, tr("What changed in site %1").arg(idSite));
   } else {
     panel_->tell(sentence);

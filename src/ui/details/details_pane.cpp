@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/details/details_pane.h"
 
-#include <exception>
+#include <algorithm>
 #include <QHBoxLayout>
+#include <QShortcut>
 #include <QStyle>
+#include <QTabBar>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -20,7 +22,12 @@ constexpr std::chrono::milliseconds kPause{80};
 }  // namespace
 
 DetailsPane::DetailsPane(Program& program, SiteSettling& settling, QWidget* parent)
-    : QWidget(parent), program_(program), settling_(settling), log_(new LogList(this)) {
+    : QWidget(parent),
+      program_(program),
+      settling_(settling),
+      log_(new LogList(this)),
+      alarm_(new AlarmPage(program, this)),
+      choices_(new QMenu(this)) {
   setObjectName(QStringLiteral("details"));
   layOut();
   tellNothing();
@@ -34,13 +41,18 @@ QWidget* DetailsPane::makeHead() {
   headline_ = named(new StatusLine(head), "detailsHeadline", tr("Site"));
   btnAccept_ = addButton(*head, "btnAccept", tr("&Accept…"));
   btnAcknowledge_ = addButton(*head, "btnAcknowledge", tr("Ac&knowledge"));
-  btnPause_ = addButton(*head, "btnPause", tr("&Pause"), tr("Tell nothing of the site for a time"));
+  btnPause_ = addButton(*head, "btnPause", tr("&Pause"));
   auto* close = named(new QToolButton(head), "detailsClose", tr("Close the details (F4)"));
   close->setText(QStringLiteral("✕"));
   close->setAutoRaise(true);
   close->setToolTip(close->accessibleName());
   onClick(*btnAccept_, program_.faults(), [this] { accept(); });
   onClick(*btnAcknowledge_, program_.faults(), [this] { acknowledge(); });
+  onClick(*btnPause_, program_.faults(), [this] {
+    if (auto* resume = pauses_->findChild<QAction*>(QStringLiteral("resume")); isPaused_ && resume != nullptr) {
+      resume->trigger();
+    }
+  });
   connect(close, &QToolButton::clicked, this, &DetailsPane::closed);
   auto* line = new QHBoxLayout(head);
   line->setContentsMargins({});
@@ -77,13 +89,28 @@ void DetailsPane::layOut() {
   log->horizontalHeader()->setStretchLastSection(true);
   tabs_->addTab(panel_, tr("What changed"));
   tabs_->addTab(log, tr("Log"));
+  tabs_->addTab(alarm_, tr("Alarm"));
+  connect(alarm_, &AlarmPage::changeWanted, this, [this] {
+    if (idSite_) {
+      Q_EMIT alarmWanted(*idSite_);
+    }
+  });
   // Beside the tabs, where it takes no room of its own.
   tabs_->setCornerWidget(&panel_->corner());
-  connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
-    panel_->corner().setVisible(tab == 0);
+  connect(tabs_, &QTabWidget::currentChanged, this, [this] {
+    panel_->corner().setVisible(tabs_->currentWidget() == panel_);
     program_.faults().run([this] { read(); });
   });
   lines->addWidget(tabs_, 1);
+  constexpr int kMostTabs = 9;
+  for (int tab = 0; tab < kMostTabs; ++tab) {
+    const QKeySequence keys(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab));
+    connect(new QShortcut(keys, this), &QShortcut::activated, tabs_, [this, tab] {
+      if (tab < tabs_->count()) {
+        tabs_->setCurrentIndex(tab);
+      }
+    });
+  }
 }
 
 void DetailsPane::showEvent(QShowEvent* event) {
@@ -92,6 +119,9 @@ void DetailsPane::showEvent(QShowEvent* event) {
 }
 
 void DetailsPane::showSite(std::optional<std::int16_t> idSite) {
+  if (idSite != idSite_) {
+    kept_.reset();
+  }
   idSite_ = idSite;
   if (isVisible()) {
     pause_.start();
@@ -107,21 +137,63 @@ void DetailsPane::read() {
   found_ = program_.data().toSettle(*idSite_);
   const QString reason = canBeSettled(*found_) ? displayMessage(program_.data().reasonOf(*idSite_)) : QString();
   headline_->showText(standingWords(*idSite_, *found_, reason));
+  const AlarmPolicy policy = alarmPolicyOf(program_.data().optionsInForce(), *idSite_);
+  isPaused_ = isPaused(policy.pause, program_.services().clock.localNow());
   tellButtons();
-  if (tabs_->currentIndex() != 0) {
+  readTab();
+}
+
+// What is not looked at is read when somebody turns to it.
+void DetailsPane::readTab() {
+  if (tabs_->currentWidget() == alarm_) {
+    alarm_->showSite(*idSite_);
+  } else if (tabs_->currentWidget() == panel_) {
+    readDifference();
+  } else {
     log_->read(program_.data(), *idSite_);
+  }
+}
+
+void DetailsPane::readDifference() {
+  const QString sentence = nothingToShow(*idSite_, *found_);
+  if (!sentence.isEmpty()) {
+    panel_->tell(sentence);
     return;
   }
-  const QString sentence = nothingToShow(*idSite_, *found_);
-  if (sentence.isEmpty()) {
-    const ComparedPages pages{found_->baseline, found_->page};
-    if (panel_->view().hasPages() && panel_->view().pages() == pages) {
-      return;
-    }
-    panel_->compare(pages, tr("What changed in site %1").arg(*idSite_));
-  } else {
-    panel_->tell(sentence);
+  const auto all = program_.data().baselinesOf(*idSite_);
+  const auto chosen = std::ranges::find(all, kept_.value_or(0), &KeptBaseline::number);
+  std::optional<std::string> kept;
+  if (kept_ && chosen != all.end()) {
+    kept = program_.data().keptPage(*idSite_, *kept_);
   }
+  kept_ = kept ? kept_ : std::nullopt;
+  makeChoices(all);
+  panel_->heads().tell(
+      kept ? keptHead(*chosen) : baselineHead(found_->baseline.size()),
+      latestHead(found_->page.size(), program_.data().getLastChecked(*idSite_), program_.services().clock.localNow()));
+  const std::string& before = kept ? *kept : found_->baseline;
+  const DifferenceView& view = panel_->view();
+  if (!view.hasPages() || view.pages().before != before || view.pages().after != found_->page) {
+    panel_->compare({before, found_->page}, tr("What changed in site %1").arg(*idSite_));
+  }
+}
+
+// The baseline, those before it, and further good pages.
+void DetailsPane::makeChoices(const std::vector<KeptBaseline>& kept) {
+  choices_->clear();
+  const auto add = [this](const QString& words, std::optional<std::int64_t> number) {
+    QAction* choice = choices_->addAction(words, this, [this, number] {
+      kept_ = number;
+      program_.faults().run([this] { read(); });
+    });
+    choice->setCheckable(true);
+    choice->setChecked(kept_ == number);
+  };
+  add(baselineHead(found_->baseline.size()), std::nullopt);
+  for (const KeptBaseline& one : kept) {
+    add(keptHead(one), one.number);
+  }
+  panel_->heads().setChoices(kept.empty() ? nullptr : choices_);
 }
 
 void DetailsPane::tellNothing() {
@@ -130,7 +202,14 @@ void DetailsPane::tellNothing() {
   headline_->showText({});
   panel_->tell(tr("Choose a site to see what changed."));
   log_->clear();
+  alarm_->clear();
+  isPaused_ = false;
   tellButtons();
+}
+
+void DetailsPane::setPauses(QMenu& pauses) {
+  pauses_ = &pauses;
+  tellPause();
 }
 
 void DetailsPane::tellButtons() {
@@ -146,7 +225,19 @@ void DetailsPane::tellButtons() {
   btnAcknowledge_->setToolTip(!settles  ? tr("There is nothing wrong to acknowledge")
                               : isKnown ? tr("Tell of this page again, at each failed check")
                                         : tr("Known: say nothing while exactly this page stays"));
-  btnPause_->setEnabled(idSite_.has_value());
+  tellPause();
+}
+
+void DetailsPane::tellPause() {
+  btnPause_->setText(isPaused_ ? tr("&Resume") : tr("&Pause"));
+  btnPause_->setToolTip(isPaused_ ? tr("Tell of the site again") : tr("Tell nothing of the site for a time"));
+  btnPause_->setMenu(isPaused_ ? nullptr : pauses_);
+  btnPause_->setEnabled(idSite_.has_value() && pauses_ != nullptr);
+}
+
+void DetailsPane::takeFocus() {
+  QWidget& shown = *tabs_->currentWidget();
+  (&shown == panel_ ? static_cast<QWidget&>(panel_->view()) : &shown == alarm_ ? *tabs_->tabBar() : shown).setFocus();
 }
 
 void DetailsPane::accept() {

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <vector>
+#include <QMenu>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
@@ -13,6 +15,7 @@
 #include "engine/settling.h"
 #include "program/program.h"
 #include "ui/controls/status_line.h"
+#include "ui/details/alarm_page.h"
 #include "ui/details/difference_panel.h"
 #include "ui/details/log_list.h"
 #include "ui/details/site_settling.h"
@@ -32,11 +35,15 @@ class DetailsPane final : public QWidget {
   void showSite(std::optional<std::int16_t> idSite);
   std::optional<std::int16_t> site() const { return idSite_; }
 
+  /// Gives the focus to what the tab that is open shows.
+  void takeFocus();
   /// Settles the site that is shown, as the buttons do.
   void accept();
   void acknowledge();
 
-  QPushButton& pauseButton() { return *btnPause_; }
+  /// What the button Pause offers. It has an action `resume`, which the button does where the site is paused. Outlives
+  /// this.
+  void setPauses(QMenu& pauses);
   QTabWidget& tabs() { return *tabs_; }
   DifferencePanel& panel() { return *panel_; }
 
@@ -46,6 +53,8 @@ class DetailsPane final : public QWidget {
   void closed();
   /// The same in a window of its own is wanted.
   void windowWanted(std::int16_t idSite);
+  /// What is told of the site is to be changed.
+  void alarmWanted(std::int16_t idSite);
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -55,7 +64,11 @@ class DetailsPane final : public QWidget {
   void layOut();
   void read();
   void tellNothing();
+  void readTab();
+  void readDifference();
+  void makeChoices(const std::vector<KeptBaseline>& kept);
   void tellButtons();
+  void tellPause();
   bool offersCheck() const { return found_ && found_->state == ToSettle::State::failedFetch; }
 
   Program& program_;
@@ -70,6 +83,12 @@ class DetailsPane final : public QWidget {
   QTabWidget* tabs_ = nullptr;
   DifferencePanel* panel_ = nullptr;
   LogList* log_ = nullptr;
+  AlarmPage* alarm_;
+  QMenu* pauses_ = nullptr;
+  QMenu* choices_;
+  /// The kept baseline that somebody wants to see in the place of the baseline.
+  std::optional<std::int64_t> kept_;
+  bool isPaused_ = false;
 };
 
 }  // namespace tarnwick

@@ -198,6 +198,34 @@ void DifferencePainter::paintHex(QPainter& painter, QRect area, const Difference
   }
 }
 
+int DifferencePainter::textWidth(int viewWidth) const {
+  return (look_.layout == DifferenceLayout::unified ? viewWidth : viewWidth / 2) - gutter();
+}
+
+std::optional<std::pair<int, int>> DifferencePainter::firstMark(const DifferenceRow& row) const {
+  std::optional<std::pair<int, int>> first;
+  if (row.kind != DifferenceRow::Kind::changed || look_.layout == DifferenceLayout::hex) {
+    return first;
+  }
+  for (const bool after : {false, true}) {
+    const Side side = sideOf(row, after);
+    int column = 0;
+    int left = 0;
+    if (!side.span) {
+      continue;
+    }
+    for (const ShownRun& run : shownLine(side.page, *side.span, side.form, *side.words, *side.bytes, look_.invisible)) {
+      const int right = left + metrics_.horizontalAdvance(withoutTabs(run.text, column));
+      if (run.mark != ShownMark::none) {
+        first = !first || left < first->first ? std::pair(left, right) : *first;
+        break;
+      }
+      left = right;
+    }
+  }
+  return first;
+}
+
 QString DifferencePainter::textOf(const DifferenceRow& row, bool after) const {
   const Side side = sideOf(row, after);
   if (!side.span) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+#include <utility>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPalette>
@@ -31,6 +33,10 @@ class DifferencePainter {
   /// How wide a page would have to be for its widest row.
   int wholeWidth() const;
   void paint(QPainter& painter, const QRect& area, std::size_t row) const;
+  /// Where the first mark of a row is, in pixels from the begin of its texts; nothing where none is in it.
+  std::optional<std::pair<int, int>> firstMark(const DifferenceRow& row) const;
+  /// How much of that is seen of a page when the view is so wide.
+  int textWidth(int viewWidth) const;
   /// What of a page stands in a row, as text.
   QString textOf(const DifferenceRow& row, bool after) const;
 

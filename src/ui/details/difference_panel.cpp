@@ -18,6 +18,7 @@ constexpr int kAsSeen = -1;
 DifferencePanel::DifferencePanel(const Clock& clock, QWidget* parent)
     : QWidget(parent),
       corner_(named(new QWidget(this), "differenceCorner")),
+      heads_(new PageHeads(this)),
       place_(named(new QLabel(corner_), "differencePlace")) {
   previous_ = addTool("differencePrevious", QStringLiteral("▲"), tr("Previous change"), Qt::SHIFT | Qt::Key_F3);
   next_ = addTool("differenceNext", QStringLiteral("▼"), tr("Next change"), Qt::Key_F3);
@@ -71,8 +72,9 @@ void DifferencePanel::layOut() {
   }
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins({});
-  lines->setSpacing(4);
+  lines->setSpacing(2);
   lines->addWidget(corner_);
+  lines->addWidget(heads_);
   lines->addWidget(pages_, 1);
 }
 
@@ -106,6 +108,7 @@ void DifferencePanel::chooseLayout() {
 
 void DifferencePanel::tell(const QString& sentence) {
   name_ = sentence;
+  heads_->tell({}, {});
   view_->tell(sentence);
   chooseLayout();
 }

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include "ui/details/difference_view.h"
+#include "ui/details/page_heads.h"
 #include "ui/details/seen_view.h"
 
 namespace tarnwick {
@@ -27,6 +28,8 @@ class DifferencePanel final : public QWidget {
   void tell(const QString& sentence);
 
   DifferenceView& view() { return *view_; }
+  /// What stands above the pages; there is nothing as long as nobody says which they are.
+  PageHeads& heads() { return *heads_; }
   /// What stands above the pages, at its right end; a button may be added there.
   QWidget& corner() { return *corner_; }
 
@@ -41,6 +44,7 @@ class DifferencePanel final : public QWidget {
   SeenView* seen_ = nullptr;
   QStackedWidget* pages_ = nullptr;
   QWidget* corner_;
+  PageHeads* heads_;
   QLabel* place_;
   QToolButton* previous_ = nullptr;
   QToolButton* next_ = nullptr;

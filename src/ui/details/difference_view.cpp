@@ -102,18 +102,45 @@ void DifferenceView::goTo(int change) {
   if (change < 0 || change >= changes()) {
     return;
   }
-  const std::size_t row = rows_->rowOf(static_cast<std::size_t>(change));
+  const std::size_t row = rowToShow(static_cast<std::size_t>(change));
   const auto first = static_cast<int>(row);
   QScrollBar& bar = *verticalScrollBar();
   if (first < bar.value() || first + 1 >= bar.value() + static_cast<int>(rowsOnPage())) {
     bar.setValue(first - static_cast<int>(rowsOnPage()) / 3);
   }
   setCurrent(row, false);
+  scrollToMark();
+}
+
+// Its first row with a mark: a long line begins with what is equal.
+std::size_t DifferenceView::rowToShow(std::size_t change) const {
+  constexpr std::size_t kMost = 8;
+  const std::size_t first = rows_->rowOf(change);
+  const std::size_t end = std::min(rows_->count(), first + kMost);
+  for (std::size_t row = first; row < end && rows_->at(row).change == change; ++row) {
+    if (painterOf().firstMark(rows_->at(row))) {
+      return row;
+    }
+  }
+  return first;
+}
+
+// To the side only where it would not be seen otherwise.
+void DifferenceView::scrollToMark() {
+  const DifferencePainter painter = painterOf();
+  const auto mark = painter.firstMark(rows_->at(current_));
+  const int width = painter.textWidth(viewport()->width());
+  QScrollBar& bar = *horizontalScrollBar();
+  if (!mark || mark->second <= width) {
+    bar.setValue(0);
+  } else if (mark->first < bar.value() || mark->second > bar.value() + width) {
+    bar.setValue(mark->first - width / 3);
+  }
 }
 
 void DifferenceView::goOn(int by) {
   const int change = currentChange();
-  const bool isBehind = change >= 0 && by < 0 && rows_->rowOf(static_cast<std::size_t>(change)) < current_;
+  const bool isBehind = change >= 0 && by < 0 && rowToShow(static_cast<std::size_t>(change)) < current_;
   goTo(isBehind ? change : change + by);
 }
 

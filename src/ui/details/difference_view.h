@@ -70,6 +70,8 @@ class DifferenceView final : public QAbstractScrollArea {
   void layOut();
   void setBars();
   DifferencePainter painterOf() const;
+  std::size_t rowToShow(std::size_t change) const;
+  void scrollToMark();
   void setCurrent(std::size_t row, bool select);
   void openFold(std::size_t row);
   void copy() const;

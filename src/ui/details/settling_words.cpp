@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <QStringList>
 
+#include "ui/controls/delivery_words.h"
 #include "ui/controls/display_text.h"
 
 namespace tarnwick {
@@ -70,6 +71,20 @@ QString doubtWords(const ToSettle& found) {
                                     : Words::tr("%1 places that may vary are not found in it.").arg(found.placesLost));
   }
   return lines.join(QLatin1Char('\n'));
+}
+
+QString baselineHead(std::size_t bytes) { return Words::tr("− Baseline, %1").arg(bytesWords(bytes)); }
+
+QString latestHead(std::size_t bytes, std::optional<LocalTime> checked, LocalTime now) {
+  return checked ? Words::tr("+ Latest check %1, %2").arg(stampWords(*checked, now), bytesWords(bytes))
+                 : Words::tr("+ Latest check, %1").arg(bytesWords(bytes));
+}
+
+QString keptHead(const KeptBaseline& kept) {
+  const QString taken = displayText(kept.taken);
+  return (kept.origin == BaselineOrigin::also ? Words::tr("− Good as well since %1, %2")
+                                              : Words::tr("− Baseline until %1, %2"))
+      .arg(taken, bytesWords(kept.size));
 }
 
 QString bytesWords(std::size_t bytes) {

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <QString>
 
 #include "engine/settling.h"
+#include "platform/clock.h"
 
 namespace tarnwick {
 
@@ -16,6 +18,12 @@ QString nothingToShow(std::int16_t idSite, const ToSettle& found);
 
 /// Why the page of its latest check is not accepted without a second thought, a line each; empty for most.
 QString doubtWords(const ToSettle& found);
+
+/// What stands above the two pages: "+ Latest check 04:24:41, 1,204 bytes".
+QString baselineHead(std::size_t bytes);
+QString latestHead(std::size_t bytes, std::optional<LocalTime> checked, LocalTime now);
+/// The same of a baseline that was kept: "− Baseline until 2026-11-21 04:24:41, 1,187 bytes".
+QString keptHead(const KeptBaseline& kept);
 
 /// A number of bytes as people read it: "1,204 bytes".
 QString bytesWords(std::size_t bytes);

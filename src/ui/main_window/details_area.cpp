@@ -22,6 +22,8 @@ constexpr int kUsualHeight = 190;
 /// A screen that has less of it has no room for the list with the details.
 constexpr int kLeastScreen = 560;
 constexpr int kLeastRows = 5;
+constexpr int kRememberedAfter = 500;  // milliseconds
+constexpr const char* kHeight = "detailsHeight";
 
 }  // namespace
 
@@ -31,9 +33,11 @@ DetailsArea::DetailsArea(Program& program, QWidget& canvas, const MasterControls
       canvas_(canvas),
       grid_(*controls.grid1),
       reason_(*controls.lReason),
+      bar_(*controls.noticeBar),
       settling_(new SiteSettling(program, *canvas.window(), this)),
       pane_(new DetailsPane(program, *settling_, &canvas)),
-      splitter_(named(new QSplitter(Qt::Vertical, &canvas), "listSplitter", QObject::tr("List and details"))) {
+      splitter_(named(new QSplitter(Qt::Vertical, &canvas), "listSplitter", QObject::tr("List and details"))),
+      below_(kUsualHeight) {
   pane_->hide();
   pane_->setMinimumHeight(kLeastHeight);
   canvas.layout()->replaceWidget(&grid_, splitter_);
@@ -42,7 +46,24 @@ DetailsArea::DetailsArea(Program& program, QWidget& canvas, const MasterControls
   splitter_->setChildrenCollapsible(false);
   splitter_->setStretchFactor(0, 1);
   splitter_->setStretchFactor(1, 0);
-  connect(new QShortcut(Qt::Key_F4, canvas.window()), &QShortcut::activated, this, &DetailsArea::toggle);
+  connectKeys();
+  later_.setSingleShot(true);
+  later_.setInterval(kRememberedAfter);
+  connect(&later_, &QTimer::timeout, this, [this] {
+    if (habits_ != nullptr) {
+      habits_->remember(kHeight, below_);
+    }
+  });
+  connect(splitter_, &QSplitter::splitterMoved, this, [this] {
+    share(splitter_->sizes().constLast());
+    below_ = splitter_->sizes().constLast();
+    later_.start();
+  });
+  connect(pane_, &DetailsPane::alarmWanted, this, [this](std::int16_t idSite) {
+    if (editAlarm_) {
+      program_.faults().run([&] { editAlarm_(idSite); });
+    }
+  });
   connect(pane_, &DetailsPane::closed, this, &DetailsArea::close);
   connect(pane_, &DetailsPane::windowWanted, this,
           [this](std::int16_t idSite) { openChangeWindow(program_, *settling_, *canvas_.window(), idSite); });
@@ -55,6 +76,38 @@ DetailsArea::DetailsArea(Program& program, QWidget& canvas, const MasterControls
       controls.outbox, makeAction("sameChanges", tr("&Same Change on Many Sites…"), {}, &DetailsArea::openSameChanges));
   connect(&reason_, &SiteReason::clicked, this, &DetailsArea::open);
   follow();
+}
+
+void DetailsArea::connectKeys() {
+  connect(new QShortcut(Qt::Key_F4, canvas_.window()), &QShortcut::activated, this, &DetailsArea::toggle);
+  connect(new QShortcut(Qt::Key_F6, canvas_.window()), &QShortcut::activated, this, &DetailsArea::goOnToNextArea);
+  connect(new QShortcut(Qt::Key_Escape, pane_, nullptr, nullptr, Qt::WidgetWithChildrenShortcut), &QShortcut::activated,
+          this, &DetailsArea::close);
+}
+
+// From the list to the details, to the notices, and back, as far as they are there.
+void DetailsArea::goOnToNextArea() {
+  const QWidget* focus = canvas_.window()->focusWidget();
+  if (pane_->isVisible() && focus == &grid_) {
+    pane_->takeFocus();
+  } else if (bar_.first() != nullptr && (focus == &grid_ || pane_->isAncestorOf(focus))) {
+    bar_.first()->setFocus(Qt::ShortcutFocusReason);
+  } else {
+    grid_.setFocus(Qt::ShortcutFocusReason);
+  }
+}
+
+int DetailsArea::heightOfRows(int rows) const {
+  return grid_.verticalHeader()->defaultSectionSize() * rows + grid_.horizontalHeader()->height() +
+         2 * grid_.frameWidth();
+}
+
+void DetailsArea::share(int below) {
+  const int whole = splitter_->height() - splitter_->handleWidth();
+  const int height = std::max(1, grid_.verticalHeader()->defaultSectionSize());
+  const int rows = std::max(kLeastRows, (whole - std::max(below, kLeastHeight) - heightOfRows(0)) / height);
+  const int list = std::min(heightOfRows(rows), whole - kLeastHeight);
+  splitter_->setSizes({list, whole - list});
 }
 
 void DetailsArea::follow() {
@@ -71,7 +124,8 @@ void DetailsArea::follow() {
           });
 }
 
-void DetailsArea::addTo(QMenu& rowMenu) {
+void DetailsArea::addTo(QMenu& rowMenu, UndoList& undo) {
+  remember(undo);
   const auto entry = [&](const char* name) { return rowMenu.findChild<QAction*>(QString::fromLatin1(name)); };
   rowMenu.insertAction(entry("checkNow"),
                        makeAction("showChanged", tr("Show &What Changed"), Qt::Key_F4, &DetailsArea::toggle));
@@ -80,7 +134,7 @@ void DetailsArea::addTo(QMenu& rowMenu) {
       always, makeAction("acceptPage", tr("&Accept…"), Qt::CTRL | Qt::SHIFT | Qt::Key_A, &DetailsArea::accept));
   rowMenu.insertAction(always, makeAction("acceptAlso", tr("Accept A&lso…"), {}, &DetailsArea::acceptAlso));
   if (auto* pauses = rowMenu.findChild<QMenu*>(QStringLiteral("pauseSite"))) {
-    pane_->pauseButton().setMenu(pauses);
+    pane_->setPauses(*pauses);
   }
   const QList<QAction*> all = rowMenu.actions();
   const auto acknowledge = all.indexOf(entry("acknowledge"));
@@ -133,12 +187,10 @@ void DetailsArea::open() {
     return;
   }
   if (!pane_->isVisible()) {
-    const int rows = grid_.verticalHeader()->defaultSectionSize() * kLeastRows + grid_.horizontalHeader()->height();
-    const int height = splitter_->height();
+    below_ = habits_ == nullptr ? below_ : habits_->remembered(kHeight).value_or(below_);
     pane_->showSite(grid_.currentSite());
     pane_->show();
-    const int below = std::clamp(kUsualHeight, kLeastHeight, std::max(kLeastHeight, height - rows));
-    splitter_->setSizes({height - below, below});
+    share(below_);
     reason_.setAway(true);
   }
 }

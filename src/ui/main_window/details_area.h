@@ -2,10 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 #include <QMenu>
 #include <QObject>
 #include <QSplitter>
+#include <QTimer>
 
+#include "platform/user_habits.h"
 #include "program/program.h"
 #include "ui/controls/undo_list.h"
 #include "ui/details/details_pane.h"
@@ -29,15 +33,23 @@ class DetailsArea final : public QObject {
   void show(std::int16_t idSite);
   void toggle();
   SiteSettling& settling() { return *settling_; }
-  /// Adds to the menu of a row what this does.
-  void addTo(QMenu& rowMenu);
-  /// Has what is accepted be taken back by that.
-  void remember(UndoList& undo);
+  /// Adds to the menu of a row what this does, and to `undo` what is accepted. Both outlive this.
+  void addTo(QMenu& rowMenu, UndoList& undo);
+  /// What opens the editor of a site on what is told of it; nothing where there is none.
+  void setAlarmEditor(std::function<void(std::int16_t idSite)> open) { editAlarm_ = std::move(open); }
+  /// Has how high it is be remembered there. `habits` outlives this.
+  void rememberIn(UserHabits& habits) { habits_ = &habits; }
 
  private:
   void open();
   void close();
+  void remember(UndoList& undo);
   void follow();
+  void connectKeys();
+  void goOnToNextArea();
+  int heightOfRows(int rows) const;
+  /// Shares the room between the list, which ends with a whole row, and the details, about so high.
+  void share(int below);
   QAction* makeAction(const char* name, const QString& caption, const QKeySequence& keys, void (DetailsArea::*doing)());
   void accept();
   void acceptAlso();
@@ -48,9 +60,14 @@ class DetailsArea final : public QObject {
   QWidget& canvas_;
   SiteGridView& grid_;
   SiteReason& reason_;
+  NoticeBar& bar_;
   SiteSettling* settling_;
   DetailsPane* pane_;
   QSplitter* splitter_;
+  std::function<void(std::int16_t)> editAlarm_;
+  UserHabits* habits_ = nullptr;
+  QTimer later_;
+  int below_;  // the height of the pane, as its user wants it
 };
 
 }  // namespace tarnwick

@@ -63,8 +63,7 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   connect(menu_, &SiteMenu::alwaysChanges, this,
           [this](std::int16_t idSite) { program_.faults().run([&] { editors_.site.propose(idSite); }); });
   details_ = new DetailsArea(program_, *canvas, controls_, this);
-  details_->addTo(menu_->rowMenu());
-  details_->remember(menu_->actions().undoList());
+  details_->addTo(menu_->rowMenu(), menu_->actions().undoList());
   new UndoNotice(menu_->actions(), *controls_.noticeBar, *controls_.undo, *controls_.grid1, this);
   connect(marks_, &AlarmMarks::pauseRead, notices_, &Notices::tellPaused);
   new SiteSearch(program_, *controls_.grid1, controls_.search, this);
@@ -173,6 +172,7 @@ void Master::connectAction(const ActionControls& action, const QKeySequence& sho
 
 void Master::setEditors(Editors editors) {
   editors_ = std::move(editors);
+  details_->setAlarmEditor(editors_.site.openAlarm);
   const QString toolTip =
       editors_.settings
           ? tr("Change the settings")

@@ -63,6 +63,8 @@ class Master final : public QMainWindow, public RunView {
   /// Shows the worst state of the sites in the desktop's tray, if there is one. `closesTo` tells, while the tray is
   /// there, whether closing the window only takes it away; else closing it ends the program, always.
   void useTray(std::unique_ptr<TrayIcon> icon, std::function<bool()> closesTo);
+  /// Has what is remembered of the window's looks be kept there. `habits` outlives the window.
+  void rememberIn(UserHabits& habits) { details_->rememberIn(habits); }
   /// Ends the program as closing the window does where there is no tray.
   void quit();
 

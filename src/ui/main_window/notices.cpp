@@ -6,7 +6,6 @@
 #include <string>
 #include <utility>
 #include <QGuiApplication>
-#include <QShortcut>
 #include <QTime>
 
 #include "engine/proof_of_life.h"
@@ -56,7 +55,6 @@ Notices::Notices(Program& program, NoticeBar& bar, SiteGridView& grid, QObject* 
   connect(&bar_.unwatched(), &NoticeButton::clicked, this, &Notices::helpUnwatched);
   connect(&bar_.offline(), &NoticeButton::clicked, this, [this] { program_.run().network().lookAtOnce(); });
   connect(&bar_.paused(), &NoticeButton::clicked, this, [this] { program_.faults().run([this] { resume(); }); });
-  connect(new QShortcut(Qt::Key_F6, bar_.window()), &QShortcut::activated, this, &Notices::switchArea);
   // Whoever comes back to the window may have started or ended a run elsewhere.
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
     if (state == Qt::ApplicationActive && changes_) {
@@ -252,12 +250,6 @@ void Notices::listLost() {
   tellOutbox();
   program_.services().prompts.inform(
       {.text = lines.join(QLatin1Char('\n')).toStdString(), .icon = PromptIcon::exclamation});
-}
-
-void Notices::switchArea() {
-  NoticeButton* notice = bar_.first();
-  QWidget* const next = grid_.hasFocus() && notice != nullptr ? notice : static_cast<QWidget*>(&grid_);
-  next->setFocus(Qt::ShortcutFocusReason);
 }
 
 }  // namespace tarnwick

@@ -68,7 +68,6 @@ class Notices final : public QObject {
   QString outboxSentence() const;
   void openOutbox();
   void listLost();
-  void switchArea();
 
   Program& program_;
   NoticeBar& bar_;

@@ -33,15 +33,17 @@ SiteEditing siteEditorOf(Program& program, QWidget& parent) {
     edit(*fresh);
     *shown = fresh.release();
   };
-  return {.open = [editing](std::int16_t idSite) { editing([&](SiteEditor& editor) { editor.editSite(idSite); }); },
-          .openNew =
-              [editing](const std::function<std::int16_t()>& add) {
-                editing([&](SiteEditor& editor) { editor.editNew(add); });
-              },
-          .propose =
-              [&program, &parent](std::int16_t idSite) {
-                openContent(program, parent, [idSite](ContentDialog& content) { content.proposeChanges(idSite); });
-              }};
+  return {
+      .open = [editing](std::int16_t idSite) { editing([&](SiteEditor& editor) { editor.editSite(idSite); }); },
+      .openAlarm = [editing](std::int16_t idSite) { editing([&](SiteEditor& editor) { editor.editAlarm(idSite); }); },
+      .openNew =
+          [editing](const std::function<std::int16_t()>& add) {
+            editing([&](SiteEditor& editor) { editor.editNew(add); });
+          },
+      .propose =
+          [&program, &parent](std::int16_t idSite) {
+            openContent(program, parent, [idSite](ContentDialog& content) { content.proposeChanges(idSite); });
+          }};
 }
 
 }  // namespace tarnwick

@@ -56,6 +56,18 @@ void SiteEditor::editSite(std::int16_t idSite) {
   leaveSite([this, idSite] { showSiteOf(idSite); });
 }
 
+void SiteEditor::editAlarm(std::int16_t idSite) {
+  if (isVisible() && idSite == idSite_) {
+    editSite(idSite);
+    controls_.pages->setCurrentWidget(controls_.options);
+    return;
+  }
+  leaveSite([this, idSite] {
+    showSiteOf(idSite);
+    turnTo(*controls_.options);
+  });
+}
+
 void SiteEditor::editNew(const std::function<std::int16_t()>& add) {
   leaveSite([this, add] {
     const std::int16_t idSite = add();

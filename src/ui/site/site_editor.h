@@ -26,6 +26,8 @@ class SiteEditor final : public QDialog, public UnsavedEdits {
   /// while a box or dialog of the editor is open, that one comes to the front and nothing else happens.
   /// Raises DataAccessError, and std::runtime_error when there is no such site.
   void editSite(std::int16_t idSite);
+  /// The same with the page that tells what is told of it.
+  void editAlarm(std::int16_t idSite);
   /// The same for a site that `add` makes, once the editor is free for it. No pass takes that site before it has been
   /// saved, or is not edited any more.
   void editNew(const std::function<std::int16_t()>& add);

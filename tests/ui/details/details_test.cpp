@@ -2,63 +2,19 @@
 // What has changed at a site, looked at and settled in the real window, with a real list.
 #include <gmock/gmock.h>
 
-#include <QLabel>
 #include <QMenu>
 #include <QRadioButton>
-#include <QTableView>
 #include <QToolButton>
 
-#include "ui/details/accept_dialog.h"
 #include "ui/details/change_window.h"
-#include "ui/details/details_pane.h"
+#include "ui/details/details_fixture.h"
 #include "ui/details/same_changes.h"
-#include "ui/support/dialog_fixture.h"
 
 namespace tarnwick::testing {
 namespace {
 
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
-
-const std::string kOld = "<p>Kettle</p>\n<b>24.00</b>\n<p>end</p>\n";
-const std::string kNew = "<p>Kettle</p>\n<b>29.00</b>\n<p>end</p>\n";
-
-class DetailsTest : public DialogTest {
- protected:
-  DetailsTest() {
-    addSite(3, server.url("/shop"));
-    addSite(4, server.url("/other"));
-    for (const char* path : {"/shop", "/other"}) {
-      server.respond(path, {.body = kOld});
-    }
-    open();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(master.get()));
-    check();
-  }
-  void check() { master->program().checkNow({3, 4}); }
-  void change(const std::string& page = kNew) {
-    server.respond("/shop", {.body = page});
-    check();
-  }
-  DetailsPane& details() { return find<DetailsPane>("details"); }
-  QWidget& grid() { return find<QTableView>("grid1"); }
-  void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&grid(), key, modifiers); }
-  std::string headline() { return find<QLabel>("detailsHeadline").text().toStdString(); }
-  std::string shownText(QWidget& form) { return in<DifferenceView>(form, "difference").selectedText().toStdString(); }
-  /// Opens the details on the first site, and waits for what they show.
-  void openDetails() {
-    key(Qt::Key_F4);
-    ASSERT_TRUE(
-        waitUntil([&] { return !headline().empty() && !in<DifferenceView>(details(), "difference").isComparing(); }));
-  }
-  AcceptDialog& openAccept() {
-    key(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
-    auto& dialog = opened<AcceptDialog>();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
-    EXPECT_TRUE(waitUntil([&] { return in<DifferenceView>(dialog, "difference").difference() != nullptr; }));
-    return dialog;
-  }
-};
 
 TEST_F(DetailsTest, F4ShowsWhatHasChangedAndClosesIt) {
   change();

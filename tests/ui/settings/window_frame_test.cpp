@@ -4,30 +4,11 @@
 
 #include <gmock/gmock.h>
 
-#include <stdexcept>
-
 #include "ui/settings/control_dialog_fixture.h"
+#include "ui/support/played_habits.h"
 
 namespace tarnwick::testing {
 namespace {
-
-struct PlayedHabits final : UserHabits {
-  bool tray = true;
-  bool closes = false;
-  bool starts = false;
-  bool refuses = false;
-
-  bool hasTray() const override { return tray; }
-  bool closesToTray() const override { return closes; }
-  void setClosesToTray(bool wanted) override { closes = wanted; }
-  bool startsWithDesktop() const override { return starts; }
-  void setStartsWithDesktop(bool wanted) override {
-    if (refuses) {
-      throw std::runtime_error("The file a cannot be changed: b.");
-    }
-    starts = wanted;
-  }
-};
 
 class WindowFrameTest : public ControlDialogTest {
  protected:
