@@ -7442,6 +7442,18 @@ and when it is back</source>
         <source>Tell of the site again</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Let It Vary…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The change looks like %1, which always changes: it need not count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 is settled: its next check finds it up.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::DifferencePanel</name>
@@ -8981,6 +8993,42 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>− Baseline until %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 is gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 is new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 differs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines %1 to %2 are gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines %1 to %2 are new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines %1 to %2 differ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 more changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bytes differ in 1 place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bytes differ in %1 places</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

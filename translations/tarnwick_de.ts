@@ -7443,6 +7443,18 @@ und wenn sie wieder da ist</translation>
         <source>Tell of the site again</source>
         <translation>Wieder von der Seite melden</translation>
     </message>
+    <message>
+        <source>Let It Vary…</source>
+        <translation>Darf sich ändern…</translation>
+    </message>
+    <message>
+        <source>The change looks like %1, which always changes: it need not count</source>
+        <translation>Die Änderung sieht aus wie %1; was sich immer ändert, muss nicht zählen</translation>
+    </message>
+    <message>
+        <source>Site %1 is settled: its next check finds it up.</source>
+        <translation>Seite %1 ist erledigt: Die nächste Prüfung findet sie gut.</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::DifferencePanel</name>
@@ -8985,6 +8997,42 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>− Baseline until %1, %2</source>
         <translation>− Basis bis %1, %2</translation>
+    </message>
+    <message>
+        <source>line %1 is gone</source>
+        <translation>Zeile %1 fehlt</translation>
+    </message>
+    <message>
+        <source>line %1 is new</source>
+        <translation>Zeile %1 ist neu</translation>
+    </message>
+    <message>
+        <source>line %1 differs</source>
+        <translation>Zeile %1 ist anders</translation>
+    </message>
+    <message>
+        <source>lines %1 to %2 are gone</source>
+        <translation>Zeilen %1 bis %2 fehlen</translation>
+    </message>
+    <message>
+        <source>lines %1 to %2 are new</source>
+        <translation>Zeilen %1 bis %2 sind neu</translation>
+    </message>
+    <message>
+        <source>lines %1 to %2 differ</source>
+        <translation>Zeilen %1 bis %2 sind anders</translation>
+    </message>
+    <message>
+        <source>%1 more changes</source>
+        <translation>%1 weitere Änderungen</translation>
+    </message>
+    <message>
+        <source>bytes differ in 1 place</source>
+        <translation>Bytes sind an 1 Stelle anders</translation>
+    </message>
+    <message>
+        <source>bytes differ in %1 places</source>
+        <translation>Bytes sind an %1 Stellen anders</translation>
     </message>
 </context>
 <context>

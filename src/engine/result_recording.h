@@ -109,7 +109,6 @@ class ResultRecording {
   /// date.
   std::optional<LocalTime> getLastChecked(std::int16_t idSite);
 
-  /// Vocabulary: no front end calls it.
   /// Whether the last check found the site up; false when never judged or when there is no such site.
   bool getStatus(std::int16_t idSite);
   void setStatus(std::int16_t idSite, bool status);

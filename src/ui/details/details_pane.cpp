@@ -36,34 +36,6 @@ DetailsPane::DetailsPane(Program& program, SiteSettling& settling, QWidget* pare
   connect(&pause_, &QTimer::timeout, this, [this] { program_.faults().run([this] { read(); }); });
 }
 
-QWidget* DetailsPane::makeHead() {
-  auto* head = new QWidget(this);
-  headline_ = named(new StatusLine(head), "detailsHeadline", tr("Site"));
-  btnAccept_ = addButton(*head, "btnAccept", tr("&Accept…"));
-  btnAcknowledge_ = addButton(*head, "btnAcknowledge", tr("Ac&knowledge"));
-  btnPause_ = addButton(*head, "btnPause", tr("&Pause"));
-  auto* close = named(new QToolButton(head), "detailsClose", tr("Close the details (F4)"));
-  close->setText(QStringLiteral("✕"));
-  close->setAutoRaise(true);
-  close->setToolTip(close->accessibleName());
-  onClick(*btnAccept_, program_.faults(), [this] { accept(); });
-  onClick(*btnAcknowledge_, program_.faults(), [this] { acknowledge(); });
-  onClick(*btnPause_, program_.faults(), [this] {
-    if (auto* resume = pauses_->findChild<QAction*>(QStringLiteral("resume")); isPaused_ && resume != nullptr) {
-      resume->trigger();
-    }
-  });
-  connect(close, &QToolButton::clicked, this, &DetailsPane::closed);
-  auto* line = new QHBoxLayout(head);
-  line->setContentsMargins({});
-  line->addWidget(headline_, 1);
-  for (QWidget* button : {static_cast<QWidget*>(btnAccept_), static_cast<QWidget*>(btnAcknowledge_),
-                          static_cast<QWidget*>(btnPause_), static_cast<QWidget*>(close)}) {
-    line->addWidget(button);
-  }
-  return head;
-}
-
 void DetailsPane::layOut() {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 4, 0, 0);
@@ -77,6 +49,8 @@ void DetailsPane::layOut() {
   window->setAutoRaise(true);
   window->setToolTip(window->accessibleName());
   panel_->corner().layout()->addWidget(window);
+  connect(&panel_->view(), &DifferenceView::compared, this,
+          [this] { program_.faults().run([this] { tellHeadline(); }); });
   connect(window, &QToolButton::clicked, this, [this] {
     if (idSite_) {
       Q_EMIT windowWanted(*idSite_);
@@ -135,12 +109,12 @@ void DetailsPane::read() {
   }
   setAccessibleName(tr("Details of site %1").arg(*idSite_));
   found_ = program_.data().toSettle(*idSite_);
-  const QString reason = canBeSettled(*found_) ? displayMessage(program_.data().reasonOf(*idSite_)) : QString();
-  headline_->showText(standingWords(*idSite_, *found_, reason));
+  isSettled_ = found_->state == ToSettle::State::same && !program_.data().getStatus(*idSite_);
   const AlarmPolicy policy = alarmPolicyOf(program_.data().optionsInForce(), *idSite_);
   isPaused_ = isPaused(policy.pause, program_.services().clock.localNow());
   tellButtons();
   readTab();
+  tellHeadline();
 }
 
 // What is not looked at is read when somebody turns to it.
@@ -204,35 +178,8 @@ void DetailsPane::tellNothing() {
   log_->clear();
   alarm_->clear();
   isPaused_ = false;
+  isSettled_ = false;
   tellButtons();
-}
-
-void DetailsPane::setPauses(QMenu& pauses) {
-  pauses_ = &pauses;
-  tellPause();
-}
-
-void DetailsPane::tellButtons() {
-  const bool settles = found_ && canBeSettled(*found_);
-  const bool isKnown = settles && found_->isAcknowledged;
-  btnAccept_->setText(offersCheck() ? tr("Check &Now") : tr("&Accept…"));
-  btnAccept_->setEnabled(settles);
-  btnAccept_->setToolTip(!settles        ? tr("There is no changed page to accept")
-                         : offersCheck() ? tr("Fetch the page again, at once")
-                                         : tr("Take the page of the latest check as the baseline"));
-  btnAcknowledge_->setText(isKnown ? tr("Alarm A&gain") : tr("Ac&knowledge"));
-  btnAcknowledge_->setEnabled(settles);
-  btnAcknowledge_->setToolTip(!settles  ? tr("There is nothing wrong to acknowledge")
-                              : isKnown ? tr("Tell of this page again, at each failed check")
-                                        : tr("Known: say nothing while exactly this page stays"));
-  tellPause();
-}
-
-void DetailsPane::tellPause() {
-  btnPause_->setText(isPaused_ ? tr("&Resume") : tr("&Pause"));
-  btnPause_->setToolTip(isPaused_ ? tr("Tell of the site again") : tr("Tell nothing of the site for a time"));
-  btnPause_->setMenu(isPaused_ ? nullptr : pauses_);
-  btnPause_->setEnabled(idSite_.has_value() && pauses_ != nullptr);
 }
 
 void DetailsPane::takeFocus() {

@@ -14,6 +14,7 @@
 
 #include "engine/settling.h"
 #include "program/program.h"
+#include "ui/controls/link_button.h"
 #include "ui/controls/status_line.h"
 #include "ui/details/alarm_page.h"
 #include "ui/details/difference_panel.h"
@@ -53,6 +54,8 @@ class DetailsPane final : public QWidget {
   void closed();
   /// The same in a window of its own is wanted.
   void windowWanted(std::int16_t idSite);
+  /// What differs always changes, so it may vary.
+  void varyWanted();
   /// What is told of the site is to be changed.
   void alarmWanted(std::int16_t idSite);
 
@@ -67,9 +70,12 @@ class DetailsPane final : public QWidget {
   void readTab();
   void readDifference();
   void makeChoices(const std::vector<KeptBaseline>& kept);
+  void tellHeadline();
+  QString whatIsWrong();
   void tellButtons();
   void tellPause();
-  bool offersCheck() const { return found_ && found_->state == ToSettle::State::failedFetch; }
+  void tellVary();
+  bool offersCheck() const { return found_ && (found_->state == ToSettle::State::failedFetch || isSettled_); }
 
   Program& program_;
   SiteSettling& settling_;
@@ -77,6 +83,7 @@ class DetailsPane final : public QWidget {
   std::optional<std::int16_t> idSite_;
   std::optional<ToSettle> found_;
   StatusLine* headline_ = nullptr;
+  LinkButton* vary_ = nullptr;
   QPushButton* btnAccept_ = nullptr;
   QPushButton* btnAcknowledge_ = nullptr;
   QPushButton* btnPause_ = nullptr;
@@ -89,6 +96,8 @@ class DetailsPane final : public QWidget {
   /// The kept baseline that somebody wants to see in the place of the baseline.
   std::optional<std::int64_t> kept_;
   bool isPaused_ = false;
+  /// It is down as yet, with a page that is a good one now.
+  bool isSettled_ = false;
 };
 
 }  // namespace tarnwick

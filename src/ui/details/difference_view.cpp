@@ -183,7 +183,10 @@ void DifferenceView::scrollContentsBy(int, int) { viewport()->update(); }
 void DifferenceView::paintEvent(QPaintEvent*) {
   QPainter painter(viewport());
   if (!rows_ || rows_->count() == 0) {
-    painter.setFont(parentWidget() == nullptr ? font() : parentWidget()->font());
+    // Named, or else the painter would take that of the texts.
+    QFont plain = QGuiApplication::font();
+    plain.setFamily(plain.family());
+    painter.setFont(plain);
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, sentence_);
     return;
   }

@@ -69,6 +69,8 @@ void DifferenceView::contextMenuEvent(QContextMenuEvent* event) {
   menu->setAttribute(Qt::WA_DeleteOnClose);
   QAction* copies = menu->addAction(tr("&Copy"), this, [this] { copy(); });
   copies->setObjectName(QStringLiteral("differenceCopy"));
+  // And what others want to have done with it.
+  menu->addActions(actions());
   menu->popup(event->globalPos());
 }
 

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/details/settling_words.h"
 
+#include <algorithm>
 #include <QCoreApplication>
 #include <QLocale>
 #include <QStringList>
 
+#include "difference/page_form.h"
 #include "ui/controls/delivery_words.h"
 #include "ui/controls/display_text.h"
 
@@ -21,7 +23,43 @@ QString withReason(const QString& sentence, const QString& reason) {
   return reason.isEmpty() ? sentence : sentence + QStringLiteral(": ") + reason;
 }
 
+QString lineWords(const PageChange& change) {
+  const bool isGone = change.linesAfter == 0;
+  const std::size_t first = (isGone ? change.firstBefore : change.firstAfter) + 1;
+  const std::size_t last = first + (isGone ? change.linesBefore : change.linesAfter) - 1;
+  if (first == last) {
+    return (isGone                    ? Words::tr("line %1 is gone")
+            : change.linesBefore == 0 ? Words::tr("line %1 is new")
+                                      : Words::tr("line %1 differs"))
+        .arg(first);
+  }
+  return (isGone                    ? Words::tr("lines %1 to %2 are gone")
+          : change.linesBefore == 0 ? Words::tr("lines %1 to %2 are new")
+                                    : Words::tr("lines %1 to %2 differ"))
+      .arg(first)
+      .arg(last);
+}
+
 }  // namespace
+
+QString changesWords(const ComparedPages& pages, const PageDifference& difference) {
+  constexpr std::size_t kMost = 3;
+  const std::size_t count = difference.changes.size();
+  if (difference.shownAsOne) {
+    return {};
+  }
+  if (pageFormOf(pages.before) == PageForm::binary || pageFormOf(pages.after) == PageForm::binary) {
+    return count == 1 ? Words::tr("bytes differ in 1 place") : Words::tr("bytes differ in %1 places").arg(count);
+  }
+  QStringList words;
+  for (std::size_t change = 0; change < std::min(count, kMost); ++change) {
+    words << lineWords(difference.changes[change]);
+  }
+  if (count > kMost) {
+    words << Words::tr("%1 more changes").arg(count - kMost);
+  }
+  return words.join(QStringLiteral(", "));
+}
 
 QString standingWords(std::int16_t idSite, const ToSettle& found, const QString& reason) {
   switch (found.state) {

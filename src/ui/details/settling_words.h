@@ -5,13 +5,18 @@
 #include <optional>
 #include <QString>
 
+#include "difference/page_difference.h"
 #include "engine/settling.h"
 #include "platform/clock.h"
+#include "ui/details/compared_pages.h"
 
 namespace tarnwick {
 
 /// How a site stands, in one sentence: "Site 3 changed: line 6 differs". `reason` is why it is down, and may be empty.
 QString standingWords(std::int16_t idSite, const ToSettle& found, const QString& reason);
+
+/// Which lines have changed: "line 6 differs, line 8 is new". Empty of too many changes.
+QString changesWords(const ComparedPages& pages, const PageDifference& difference);
 
 /// What is said in the place of a difference where there is none to be shown; empty where there is one.
 QString nothingToShow(std::int16_t idSite, const ToSettle& found);

@@ -132,6 +132,8 @@ void DetailsArea::addTo(QMenu& rowMenu, UndoList& undo) {
   QAction* always = entry("alwaysChanges");
   rowMenu.insertAction(
       always, makeAction("acceptPage", tr("&Accept…"), Qt::CTRL | Qt::SHIFT | Qt::Key_A, &DetailsArea::accept));
+  connect(pane_, &DetailsPane::varyWanted, always, &QAction::trigger);
+  pane_->panel().view().addAction(always);
   rowMenu.insertAction(always, makeAction("acceptAlso", tr("Accept A&lso…"), {}, &DetailsArea::acceptAlso));
   if (auto* pauses = rowMenu.findChild<QMenu*>(QStringLiteral("pauseSite"))) {
     pane_->setPauses(*pauses);
@@ -159,6 +161,8 @@ QAction* DetailsArea::makeAction(const char* name, const QString& caption, const
 }
 
 void DetailsArea::remember(UndoList& undo) {
+  connect(new QShortcut(QKeySequence::Undo, pane_, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
+          &QShortcut::activated, &undo, &UndoList::undoLast);
   connect(settling_, &SiteSettling::accepted, this, [this, &undo](const std::vector<std::int16_t>& ids) {
     const bool isOne = ids.size() == 1;
     undo.add({.sentence = isOne ? tr("Site %1: the new page is the baseline.").arg(ids.front())
@@ -180,6 +184,9 @@ void DetailsArea::show(std::int16_t idSite) {
 void DetailsArea::toggle() { pane_->isVisible() ? close() : open(); }
 
 void DetailsArea::open() {
+  if (grid_.sites().rowCount() == 0) {
+    return;
+  }
   if (canvas_.screen()->availableSize().height() < kLeastScreen) {
     if (const auto idSite = grid_.currentSite()) {
       openChangeWindow(program_, *settling_, *canvas_.window(), *idSite);

@@ -3,11 +3,13 @@
 #include <gmock/gmock.h>
 
 #include <iostream>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QHeaderView>
 #include <QMenu>
 #include <QSplitter>
 #include <QTabWidget>
+#include <QToolButton>
 
 #include "store/channel_table.h"
 #include "store/site_pauses.h"
@@ -88,6 +90,67 @@ TEST_F(DetailsPaneTest, APausedSiteIsResumedByTheSameButton) {
   clickOn(button);
   EXPECT_TRUE(waitUntil([&] { return caption<QPushButton>(details(), "btnPause") == "Pause"; }));
   EXPECT_EQ(folder.queryText("select count(*) from siteOptions where name = 'pause' and idSite = 3"), "0");
+}
+
+TEST_F(DetailsPaneTest, TheHeadlineTellsWhichLinesHaveChanged) {
+  change("<p>Kettle</p>\n<b>cheap</b>\n<p>end</p>\n<i>one</i>\n<i>two</i>\n");
+  openDetails();
+  EXPECT_TRUE(waitUntil([&] { return headline() == "Site 3 changed: line 2 differs, lines 4 to 5 are new"; }))
+      << headline();
+  EXPECT_FALSE(find<LinkButton>("detailsVary").isVisible());
+}
+
+TEST_F(DetailsPaneTest, WhatAlwaysChangesMayVaryByOneClick) {
+  int wanted = 0;
+  master->setEditors({.site = {.open = {}, .openNew = {}, .propose = [&](std::int16_t) { ++wanted; }}, .settings = {}});
+  change();
+  openDetails();
+  auto& vary = find<LinkButton>("detailsVary");
+  ASSERT_TRUE(waitUntil([&] { return vary.isVisible(); }));
+  clickOn(vary);
+  EXPECT_EQ(wanted, 1);
+}
+
+TEST_F(DetailsPaneTest, AnAcceptedSiteIsCheckedOrTakenBackWhereSomebodyIs) {
+  change();
+  openDetails();
+  clickOn(find<QPushButton>("btnAccept"));
+  press(opened<AcceptDialog>(), "acceptAccept");
+  ASSERT_TRUE(waitUntil([&] { return headline() == "Site 3 is settled: its next check finds it up."; }));
+  master->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(master.get()));
+  find<QPushButton>("btnPause").setFocus();
+  QTest::keyClick(&find<QPushButton>("btnPause"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(column(3, "content_compare"), kOld);
+  ASSERT_TRUE(waitUntil([&] { return caption<QPushButton>(details(), "btnAccept") == "Accept…"; }));
+  clickOn(find<QPushButton>("btnAccept"));
+  press(opened<AcceptDialog>(), "acceptAccept");
+  ASSERT_TRUE(waitUntil([&] { return caption<QPushButton>(details(), "btnAccept") == "Check Now"; }));
+  clickOn(find<QPushButton>("btnAccept"));
+  EXPECT_TRUE(waitUntil([&] { return headline() == "Site 3 is as it should be."; }));
+}
+
+TEST_F(DetailsPaneTest, AnEarlierBaselineIsComparedWith) {
+  change("<p>Kettle</p>\n<b>cheap</b>\n<p>end</p>\n");
+  press(openAccept(), "acceptAccept");
+  master->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(master.get()));
+  change();
+  openDetails();
+  EXPECT_TRUE(waitUntil([&] { return shownText(details()) == "- <b>cheap</b>\n+ <b>29.00</b>"; }));
+  clickOn(find<QToolButton>("differenceChoose"));
+  auto* choices = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(choices, nullptr);
+  ASSERT_EQ(choices->actions().size(), 2);
+  EXPECT_TRUE(choices->actions().front()->isChecked());
+  choices->actions().back()->trigger();
+  choices->close();
+  EXPECT_TRUE(waitUntil([&] { return shownText(details()) == "- <b>24.00</b>\n+ <b>29.00</b>"; }));
+  EXPECT_THAT(find<QLabel>("differenceBefore").text().toStdString(), StartsWith("− Baseline until "));
+  key(Qt::Key_Down);
+  key(Qt::Key_Up);
+  EXPECT_TRUE(waitUntil([&] { return shownText(details()) == "- <b>cheap</b>\n+ <b>29.00</b>"; }))
+      << "of each site the baseline at first";
 }
 
 TEST_F(DetailsPaneTest, KeysLeadThroughTheAreasAndBack) {
