@@ -113,6 +113,7 @@ void InetPool::saveSocketData(std::int16_t slot) {
   row.errCode = static_cast<std::int32_t>(result.code());
   row.errDescription = std::move(result.cause);
   row.took = result.took;
+  row.timings = result.timings;
   row.server = std::move(result.server);
   row.status = result.status;
 }

@@ -70,6 +70,7 @@ class InetPool {
   const std::string& siteErrDescription(std::size_t row) const { return rows_.at(row).errDescription; }
   /// How long its request took, and the address of the server that was asked; none as long as nothing was saved.
   std::chrono::milliseconds siteTook(std::size_t row) const { return rows_.at(row).took; }
+  const CheckTimings& siteTimings(std::size_t row) const { return rows_.at(row).timings; }
   const std::string& siteServer(std::size_t row) const { return rows_.at(row).server; }
   /// The HTTP status of its answer; 0 where there was none.
   int siteStatus(std::size_t row) const { return rows_.at(row).status; }
@@ -92,6 +93,7 @@ class InetPool {
     std::int32_t errCode = 0;
     std::string errDescription;
     std::chrono::milliseconds took{0};
+    CheckTimings timings{};
     std::string server;
     int status = 0;
   };

@@ -270,6 +270,7 @@ void PassRecording::takeIntoHistory(std::size_t row, const Fetched& fetched, boo
   SiteHistory::Entry entry;
   entry.interval = sites_.interval(row);
   entry.check.up = passed;
+  entry.timings = needs_.pool.siteTimings(row);
   entry.timings.whole = took;
   if (isAnswered) {
     entry.check.took = took;

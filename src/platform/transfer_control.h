@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/check_timings.h"
+
 namespace tarnwick {
 
 /// The states that a transfer control reports, in the order of a request's life.
@@ -95,6 +97,8 @@ struct TransferResult {
   std::string server{};
   /// How long the whole request took, look-up and redirects included.
   std::chrono::milliseconds took{0};
+  /// The parts of that.
+  CheckTimings timings{};
 
   /// The fault as it is stored and shown; 0 for none.
   long code() const { return static_cast<long>(fault); }

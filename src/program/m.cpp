@@ -15,6 +15,7 @@ m::m(const std::string& programFolder, const Services& services, const Fields& f
       SiteTags(ownedDatabase_),
       Acknowledgements(ownedDatabase_),
       SiteHistory(ownedDatabase_),
+      SiteCertificates(ownedDatabase_),
       Channels(ownedDatabase_),
       Outbox(ownedDatabase_),
       ResultLog(ownedDatabase_),

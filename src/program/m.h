@@ -27,6 +27,7 @@
 #include "store/result_log.h"
 #include "store/room_reserve.h"
 #include "store/settings_and_log.h"
+#include "store/site_certificates.h"
 #include "store/site_history.h"
 #include "store/site_options.h"
 #include "store/site_records.h"
@@ -70,6 +71,7 @@ class m : private MembersOfM,
           public SiteTags,
           public Acknowledgements,
           public SiteHistory,
+          public SiteCertificates,
           public Channels,
           public Outbox,
           public ResultLog,

@@ -11,23 +11,13 @@
 #include <vector>
 
 #include "history/history_rule.h"
+#include "platform/check_timings.h"
 #include "store/database.h"
 
 namespace tarnwick {
 
 /// Why a site is down whose page came.
 inline constexpr const char* kPageDiffers = "the page differs from the baseline";
-
-/// How long the parts of a request took, each from its beginning on. Nothing where there was no such part.
-struct CheckTimings {
-  std::optional<std::chrono::milliseconds> lookUp{};
-  std::optional<std::chrono::milliseconds> connect{};
-  std::optional<std::chrono::milliseconds> tls{};
-  std::optional<std::chrono::milliseconds> firstByte{};
-  std::optional<std::chrono::milliseconds> whole{};
-
-  bool operator==(const CheckTimings&) const = default;
-};
 
 /// A time in which each check of a site has failed.
 struct Outage {

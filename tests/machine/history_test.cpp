@@ -46,7 +46,9 @@ TEST_F(HistoryOfARun, EachCheckIsTakenWithItsTime) {
   EXPECT_EQ(folder.queryRows("select idSite, ended - began, checks, cause from outages"),
             std::to_string(id) + "|600|1|the page differs from the baseline\n");
   EXPECT_EQ(sum("3600 - up - unknown"), "600");
-  EXPECT_EQ(program.data().timings(id)->whole.has_value(), true);
+  const CheckTimings took = program.data().timings(id).value_or(CheckTimings{});
+  EXPECT_TRUE(took.lookUp && took.connect && took.firstByte && took.whole);
+  EXPECT_FALSE(took.tls) << "it is not fetched over TLS";
 }
 
 TEST_F(HistoryOfARun, NothingIsKnownWhileNoRunIsOn) {

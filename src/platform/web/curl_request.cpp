@@ -151,6 +151,7 @@ CURLcode CurlRequest::onHandshake(CURL*, void* context, void* self) {
 int CurlRequest::onReady(void* self, char*, char*, int, int) {
   auto* const request = static_cast<CurlRequest*>(self);
   request->connection_.ready = true;
+  request->parts_.note(request->easy_.get());
   request->connection_.earlierError = request->systemError();
   request->reach(transfer_state::requesting);
   return CURL_PREREQFUNC_OK;
@@ -286,6 +287,13 @@ TransferResult CurlRequest::finish(CURLcode reported) {
   curl_off_t took = 0;
   curl_easy_getinfo(easy_.get(), CURLINFO_TOTAL_TIME_T, &took);
   ended.took = std::chrono::ceil<std::chrono::milliseconds>(std::chrono::microseconds(took));
+  parts_.note(easy_.get());
+  ended.timings = parts_.timings(easy_.get());
+  ended.timings.whole = ended.took;
+  if (!connection_.answered) {
+    // A connection that ends without an answer counts as one for libcurl.
+    ended.timings.firstByte.reset();
+  }
   ended.server = textOf(easy_.get(), CURLINFO_PRIMARY_IP);
   long status = 0;
   curl_easy_getinfo(easy_.get(), CURLINFO_RESPONSE_CODE, &status);

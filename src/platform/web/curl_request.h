@@ -15,6 +15,7 @@
 #include "platform/web/curl_event_loop.h"
 #include "platform/web/curl_transfers.h"
 #include "platform/web/page_body.h"
+#include "platform/web/request_parts.h"
 #include "platform/web/response_header.h"
 #include "platform/web/transfer_failure.h"
 
@@ -132,6 +133,7 @@ class CurlRequest {
   ResponseHeader header_;
   // Of an answer whose page comes compressed.
   std::optional<ContentDecoder> decoder_;
+  RequestParts parts_;
   // Where an answer has led elsewhere last.
   std::string redirectedBy_;
   // The connection that was made last.

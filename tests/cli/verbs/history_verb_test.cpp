@@ -14,10 +14,14 @@ class HistoryVerb : public ToolFixture {
     addSite("http://b.example/");
     const std::string hour = std::to_string(
         std::chrono::duration_cast<std::chrono::seconds>(machine.clock().now().time_since_epoch()).count() - 7200);
-    folder.execute("insert into hours values (1, " + hour + ", 6, 2700, 0, 600, 200, x'3006'), (1, " + hour +
-                   " + 3600, 6, 1800, 1800, 600, 200, x'3006'); insert into outages values (1, " + hour + ", " + hour +
-                   " + 900, 2, 'refused'); insert into latestChecks (idSite, at, up, until, whole) values (1, " + hour +
-                   " + 7000, 1, " + hour + " + 7000, 100), (0, 1, 1, null, null)");
+    folder.execute(
+        "insert into hours values (1, " + hour + ", 6, 2700, 0, 600, 200, x'3006'), (1, " + hour +
+        " + 3600, 6, 1800, 1800, 600, 200, x'3006'); insert into outages values (1, " + hour + ", " + hour +
+        " + 900, 2, 'refused'); insert into latestChecks (idSite, at, up, until, lookUp, connect, firstByte, whole) "
+        "values (1, " +
+        hour + " + 7000, 1, " + hour +
+        " + 7000, 0, 12, 70, 100), (0, 1, 1, null, null, "
+        "null, null, null)");
     folder.execute("insert or replace into siteOptions values (0, 'history', 'on')");
   }
 };
@@ -28,6 +32,7 @@ TEST_F(HistoryVerb, ShowsStripesFiguresAndOutages) {
   EXPECT_THAT(out, HasSubstr("83.33 %"));
   EXPECT_THAT(out, HasSubstr("15 min"));
   EXPECT_THAT(out, HasSubstr("refused"));
+  EXPECT_THAT(out, HasSubstr("\nLatest check: look-up 0 ms, connect 12 ms, first byte 70 ms, whole 100 ms\n"));
 }
 
 TEST_F(HistoryVerb, PerCentAreThoseOfTheKnownTime) {
@@ -41,6 +46,8 @@ TEST_F(HistoryVerb, PerCentAreThoseOfTheKnownTime) {
   EXPECT_TRUE(list[1]["periods"][0]["uptime"].is_null());
   EXPECT_EQ(list[0]["outages"][0]["seconds"], 900);
   EXPECT_EQ(list[0]["latestMs"]["whole"], 100);
+  EXPECT_EQ(list[0]["latestMs"]["firstByte"], 70);
+  EXPECT_TRUE(list[0]["latestMs"]["tls"].is_null());
 }
 
 TEST_F(HistoryVerb, SeveralSitesHaveALineEach) {
