@@ -13,10 +13,14 @@ constexpr const char* kAlertProgram = "alert";
 
 constexpr const char* kNames[AlertWatch::ways]{"mail", "program"};
 
-/// The interval of a site, in minutes, that is watched and alerts on that way; no row for another one.
-std::string alertingBy(AlertWatch::Way way, std::int16_t idSite) {
-  return "select tInterval from sites, control where idSite = " + std::to_string(idSite) + " and active and " +
+/// Of the sites that are watched and alert on that way.
+std::string ofThoseAlertingBy(AlertWatch::Way way, const std::string& field) {
+  return "select " + field + " from sites, control where active and " +
          (way == AlertWatch::mail ? "alertEmail and cemail" : "cprogram");
+}
+/// The interval of one, in minutes; no row for another site.
+std::string alertingBy(AlertWatch::Way way, std::int16_t idSite) {
+  return ofThoseAlertingBy(way, "tInterval") + " and idSite = " + std::to_string(idSite);
 }
 
 }  // namespace
@@ -49,18 +53,29 @@ void AlertWatch::shown(const CheckResult& result) {
     const bool heard = heard_.erase(site) > 0;
     if (result.passed) {
       lostSince_.erase(site);
-    } else if (!heard && world_.agenda.now() > std::max(unsureUntil_, silentUntil_[site])) {
+    } else if (!heard && world_.agenda.now() > unsureUntil_) {
       try {
-        if (!askDatabase(world_, alertingBy(way, result.idSite)).empty()) {
+        if (alertedBy(way).contains(result.idSite)) {
           fail_("site " + std::to_string(result.idSite) + " has failed, and of its " + kNames[way] +
                 " nothing was heard");
         }
-        silentUntil_[site] = world_.agenda.now() + std::chrono::hours(6);
       } catch (const std::exception&) {
         // It cannot be looked into just now.
       }
     }
   }
+}
+
+const std::set<std::int16_t>& AlertWatch::alertedBy(Way way) {
+  Alerted& alerted = alerted_[way];
+  if (world_.agenda.now() > alerted.asksAgain) {
+    alerted.sites.clear();
+    for (const std::string& id : askDatabase(world_, ofThoseAlertingBy(way, "idSite"))) {
+      alerted.sites.insert(static_cast<std::int16_t>(std::stoi(id)));
+    }
+    alerted.asksAgain = world_.agenda.now() + std::chrono::hours(6);
+  }
+  return alerted.sites;
 }
 
 void AlertWatch::watch(Time excusedUntil) {

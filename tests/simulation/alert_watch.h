@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -36,7 +37,7 @@ class AlertWatch {
   /// Somebody changes which alerts there are to be: for a while it is not known whom a failure should have alerted.
   void mayChange() {
     unsureUntil_ = world_.agenda.now() + std::chrono::minutes(10);
-    silentUntil_.clear();
+    std::ranges::fill(alerted_, Alerted());
   }
   /// The program has ended, and with it the alerts that were under way.
   void begin() { heard_.clear(); }
@@ -51,11 +52,18 @@ class AlertWatch {
  private:
   using Site = std::pair<Way, std::int16_t>;
 
+  /// Whom a failure is to alert that way, and how long that is believed.
+  struct Alerted {
+    std::set<std::int16_t> sites;
+    Time asksAgain{-1};
+  };
+  const std::set<std::int16_t>& alertedBy(Way way);
+
   World& world_;
   std::function<void(const std::string&)> fail_;
-  std::set<Site> heard_;              ///< of the failure that is shown next
-  std::map<Site, Time> lostSince_;    ///< and not left since
-  std::map<Site, Time> silentUntil_;  ///< it was to raise no alert when that was last looked up
+  std::set<Site> heard_;            ///< of the failure that is shown next
+  std::map<Site, Time> lostSince_;  ///< and not left since
+  Alerted alerted_[ways]{};
   Time heals_[ways]{};
   Time unsureUntil_{0};
 };

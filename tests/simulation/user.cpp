@@ -246,6 +246,7 @@ void User::runVerbOffline(Chance chance) {
 }
 
 std::vector<std::string> User::wholeList() const {
+  const Look look(world_);
   std::vector<std::string> rows;
   for (const char* what : {"* from sites order by idSite", "* from control", "idSite, pname, pvalue from postVars",
                            "idSite, name, value from siteOptions order by idSite, name",

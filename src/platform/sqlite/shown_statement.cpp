@@ -2,14 +2,23 @@
 #include "platform/sqlite/shown_statement.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tarnwick {
 namespace {
 
 constexpr std::size_t kShownLength = 400;
 
+constexpr std::array<bool, 256> kOpeners = [] {
+  std::array<bool, 256> openers{};
+  for (const unsigned char c : {'\'', '"', '`', '[', '-', '/'}) {
+    openers[c] = true;
+  }
+  return openers;
+}();
+
 /// Whether a piece begins here that is taken as a whole: a quoted text or name, or a comment.
-bool isOpener(char c) { return c == '\'' || c == '"' || c == '`' || c == '[' || c == '-' || c == '/'; }
+bool isOpener(char c) { return kOpeners[static_cast<unsigned char>(c)]; }
 
 /// The length up to and with `end`, sought from `start` on. What has no end takes the rest.
 std::size_t lengthTo(std::string_view end, std::string_view sql, std::size_t start) {
