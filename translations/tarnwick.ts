@@ -6198,6 +6198,10 @@
         <source>&amp;Export…</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -7112,6 +7116,13 @@ and when it is back</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::ColumnChoice</name>
+    <message>
+        <source>&amp;Original Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::ContentDialog</name>
     <message>
         <source>Content</source>
@@ -7534,6 +7545,137 @@ and when it is back</source>
     </message>
     <message>
         <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ExtraColumns</name>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the site stands, and since when</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the last check found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last Check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How long ago the site was checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How long the last check took</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next Check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When the site is checked again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The words by which the site is found: tag:X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When the certificate of the site ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, since %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the page differs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as the baseline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no run is on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at the next Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>after quiet hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ends %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, issued by %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in %1 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in %1 h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in %1 days</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -9060,6 +9202,13 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>Site %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteExtras</name>
+    <message>
+        <source>line %1 differs</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -6198,6 +6198,10 @@
         <source>&amp;Export…</source>
         <translation>&amp;Exportieren…</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Spalten</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -7113,6 +7117,13 @@ und wenn sie wieder da ist</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::ColumnChoice</name>
+    <message>
+        <source>&amp;Original Columns</source>
+        <translation>&amp;Ursprüngliche Spalten</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::ContentDialog</name>
     <message>
         <source>Content</source>
@@ -7536,6 +7547,137 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ExtraColumns</name>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>How the site stands, and since when</source>
+        <translation>Wie es um die Seite steht, und seit wann</translation>
+    </message>
+    <message>
+        <source>Last Result</source>
+        <translation>Letztes Ergebnis</translation>
+    </message>
+    <message>
+        <source>What the last check found</source>
+        <translation>Was die letzte Prüfung ergab</translation>
+    </message>
+    <message>
+        <source>Last Check</source>
+        <translation>Letzte Prüfung</translation>
+    </message>
+    <message>
+        <source>How long ago the site was checked</source>
+        <translation>Wie lange die letzte Prüfung her ist</translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation>Antwortzeit</translation>
+    </message>
+    <message>
+        <source>How long the last check took</source>
+        <translation>Wie lange die letzte Prüfung dauerte</translation>
+    </message>
+    <message>
+        <source>Next Check</source>
+        <translation>Nächste Prüfung</translation>
+    </message>
+    <message>
+        <source>When the site is checked again</source>
+        <translation>Wann die Seite wieder geprüft wird</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Schlagwörter</translation>
+    </message>
+    <message>
+        <source>The words by which the site is found: tag:X</source>
+        <translation>Die Wörter, mit denen die Seite gefunden wird: tag:X</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation>Zertifikat</translation>
+    </message>
+    <message>
+        <source>When the certificate of the site ends</source>
+        <translation>Wann das Zertifikat der Seite endet</translation>
+    </message>
+    <message>
+        <source>down, %1</source>
+        <translation>schlecht, %1</translation>
+    </message>
+    <message>
+        <source>%1, since %2</source>
+        <translation>%1, seit %2</translation>
+    </message>
+    <message>
+        <source>the page differs</source>
+        <translation>die Seite ist anders</translation>
+    </message>
+    <message>
+        <source>as the baseline</source>
+        <translation>wie die Basis</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>no run is on</source>
+        <translation>kein Lauf</translation>
+    </message>
+    <message>
+        <source>at the next Start</source>
+        <translation>beim nächsten Start</translation>
+    </message>
+    <message>
+        <source>after quiet hours</source>
+        <translation>nach der Ruhezeit</translation>
+    </message>
+    <message>
+        <source>ends %1</source>
+        <translation>endet %1</translation>
+    </message>
+    <message>
+        <source>%1, issued by %2</source>
+        <translation>%1, ausgestellt von %2</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>gerade eben</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>vor %1 Min.</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>vor %1 Std.</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>vor %1 Tagen</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>jetzt</translation>
+    </message>
+    <message>
+        <source>in %1 min</source>
+        <translation>in %1 Min.</translation>
+    </message>
+    <message>
+        <source>in %1 h</source>
+        <translation>in %1 Std.</translation>
+    </message>
+    <message>
+        <source>in %1 days</source>
+        <translation>in %1 Tagen</translation>
     </message>
 </context>
 <context>
@@ -9064,6 +9206,13 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>Site %1: %2</source>
         <translation>Seite %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::SiteExtras</name>
+    <message>
+        <source>line %1 differs</source>
+        <translation>Zeile %1 ist anders</translation>
     </message>
 </context>
 <context>

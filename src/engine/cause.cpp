@@ -68,6 +68,14 @@ std::string causeOf(const CheckResult& failed, std::string_view baseline, const 
   return line + ": expected " + excerpt(difference.before, column) + ", found " + excerpt(difference.after, column);
 }
 
+std::size_t lineOfDifference(std::string_view baseline, std::string_view page, const RuleSet& rules) {
+  if (rules.empty()) {
+    return firstDifference(baseline, page).line;
+  }
+  const PageVerdict verdict = judgePage(baseline, page, rules);
+  return verdict.same ? 0 : lineAt(pageText(baseline), verdict.baselineAt).number;
+}
+
 bool hasFailureAsBaseline(const CheckResult& result) {
   return result.passed && (result.errCode != 0 || !result.errDescription.empty());
 }

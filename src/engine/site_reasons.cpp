@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/errors.h"
+#include "base/visible_text.h"
 #include "engine/cause.h"
 #include "engine/result_recording.h"
 #include "engine/widening.h"
@@ -111,14 +112,7 @@ std::string SiteReasons::reasonOf(std::int16_t idSite) {
   if (storedBytes(idSite) > kTooLargeToLook) {
     return "the page differs from the baseline, and is too large to be compared here";
   }
-  std::string baseline;
-  std::string page;
-  const auto rows = db_.query("select content_compare,content_runtime from sites where idSite = " + sqlQuote(idSite));
-  if (!rows->eof()) {
-    baseline = rows->field("content_compare").toText();
-    page = rows->field("content_runtime").toText();
-  }
-  rows->close();
+  const auto [baseline, page] = pagesOf(idSite);
   result.page = page;
   if (page == kPageNotKept) {
     result.errDescription =
@@ -129,6 +123,35 @@ std::string SiteReasons::reasonOf(std::int16_t idSite) {
   const bool isSmall = baseline.size() + page.size() <= kTooLargeToLookTwice;
   const std::string look = isSmall && !baseline.empty() && isPage(page) ? firstLook(baseline, rules, page) : "";
   return look.empty() ? cause : cause + "; it looks like " + look;
+}
+
+// The baseline, and that of the latest check.
+std::pair<std::string, std::string> SiteReasons::pagesOf(std::int16_t idSite) {
+  std::pair<std::string, std::string> pages;
+  const auto rows = db_.query("select content_compare,content_runtime from sites where idSite = " + sqlQuote(idSite));
+  if (!rows->eof()) {
+    pages = {rows->field("content_compare").toText(), rows->field("content_runtime").toText()};
+  }
+  rows->close();
+  return pages;
+}
+
+SiteReasons::ShortReason SiteReasons::shortReasonOf(std::int16_t idSite) {
+  const auto stand = standOf(idSite);
+  if (!stand) {
+    return {};
+  }
+  if (const auto fetch = failedFetch(idSite, *stand)) {
+    return {.error = visibleText(*fetch)};
+  }
+  if (stand->up || storedBytes(idSite) > static_cast<std::int64_t>(kTooLargeToLookTwice)) {
+    return {};
+  }
+  const auto [baseline, page] = pagesOf(idSite);
+  if (baseline.empty() || page == kPageNotKept) {
+    return {};
+  }
+  return {.line = lineOfDifference(baseline, page, SiteRules(db_).rulesOf(idSite))};
 }
 
 std::set<std::int64_t> SiteReasons::sitesNotFetched(std::int16_t idSite) {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "store/database.h"
 
@@ -22,6 +24,14 @@ class SiteReasons {
   /// unless they are so large that it would take tenths of a second: to be asked for a site that somebody looks at.
   std::string reasonOf(std::int16_t idSite);
 
+  /// The same in a few words, of which the page is none: for a list, which shows many of them.
+  struct ShortReason {
+    std::string error{};   ///< why the fetch of the last check failed; empty when it brought a page
+    std::size_t line = 0;  ///< in which the page differs first; 0 where that is not known, or takes long to be found
+  };
+  /// Of an active site that was checked. Does not read pages of more than two million bytes.
+  ShortReason shortReasonOf(std::int16_t idSite);
+
   /// The sites whose last check brought no page: those that are down for want of an answer, and those that are up only
   /// because the text of such a failure is their baseline. By the log, so there are none where none is kept; no page is
   /// read. Only site `idSite` when that is greater than 0.
@@ -36,6 +46,7 @@ class SiteReasons {
   std::optional<Stand> standOf(std::int16_t idSite);
   std::string remarkOf(std::int16_t idSite, const Stand& stand);
   std::int64_t storedBytes(std::int16_t idSite);
+  std::pair<std::string, std::string> pagesOf(std::int16_t idSite);
   std::optional<std::string> failedFetch(std::int16_t idSite, const Stand& stand);
 
   Database& db_;

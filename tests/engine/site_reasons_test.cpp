@@ -51,6 +51,26 @@ TEST_F(SiteReasonsTest, AChangedPageIsToldAsACheckTellsIt) {
   EXPECT_EQ(reasons.reasonOf(1), R"(line 2: expected "two", found "TWO")");
 }
 
+TEST_F(SiteReasonsTest, AListIsToldTheLineOrTheError) {
+  check(1, "one\ntwo\n");
+  EXPECT_EQ(reasons.shortReasonOf(1).line, 0u);
+  check(1, "one\nTWO\n");
+  EXPECT_EQ(reasons.shortReasonOf(1).line, 2u);
+  EXPECT_EQ(reasons.shortReasonOf(1).error, "");
+  check(1, "one\n" + std::string(3'000'000, 'x'));
+  EXPECT_EQ(reasons.shortReasonOf(1).line, 0u) << "that would take too long for a list";
+  checkFails(1);
+  EXPECT_EQ(reasons.shortReasonOf(1).error, kRefused);
+  EXPECT_EQ(reasons.shortReasonOf(3).error, "") << "there is no such site";
+}
+
+TEST_F(SiteReasonsTest, TheLineOfAPageWithRulesIsTheOneThatCounts) {
+  check(1, "18:40:11\none\ntwo\n");
+  SiteRules(database).storeRules(1, {{{PageRule::Use::leaveOut, PageRule::Language::lines, "1"}}, {}});
+  check(1, "19:02:45\none\nTWO\n");
+  EXPECT_EQ(reasons.shortReasonOf(1).line, 3u);
+}
+
 TEST_F(SiteReasonsTest, WhatLooksLikeNoChangeIsSaidToDoSo) {
   check(1, "It is 18:40:11 now.\n");
   check(1, "It is 19:02:45 now.\n");

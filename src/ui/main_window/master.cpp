@@ -19,10 +19,12 @@
 #include "ui/controls/page_opener.h"
 #include "ui/controls/program_file.h"
 #include "ui/main_window/address_paste.h"
+#include "ui/main_window/column_choice.h"
 #include "ui/main_window/damage_box.h"
 #include "ui/main_window/first_steps.h"
 #include "ui/main_window/master_pictures.h"
 #include "ui/main_window/notice_actions.h"
+#include "ui/main_window/site_extras.h"
 #include "ui/main_window/site_menu.h"
 #include "ui/main_window/undo_notice.h"
 
@@ -54,6 +56,7 @@ void awaitFirstSight(const QWindow& window) {
 
 Master::Master(std::string programFolder, const Services& services, const Fields& fields)
     : program_(std::move(programFolder), services, *this, fields) {
+  extras_ = new SiteExtras(program_, sites_, this);
   auto* canvas = new QWidget(this);
   controls_ = layOutMaster(*canvas, sites_);
   setCentralWidget(canvas);
@@ -66,7 +69,9 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   details_->addTo(menu_->rowMenu(), menu_->actions().undoList());
   new UndoNotice(menu_->actions(), *controls_.noticeBar, *controls_.undo, *controls_.grid1, this);
   connect(marks_, &AlarmMarks::pauseRead, notices_, &Notices::tellPaused);
-  new SiteSearch(program_, *controls_.grid1, controls_.search, this);
+  auto* search = new SiteSearch(program_, *controls_.grid1, controls_.search, this);
+  connect(extras_, &SiteExtras::sorted, search, &SiteSearch::renewSoon);
+  columns_ = new ColumnChoice(*extras_, *controls_.grid1, *controls_.columns, this);
   steps_ = new FirstSteps(program_, *controls_.grid1, *controls_.noticeBar);
   steps_->setChooseHow([this] {
     if (editors_.channels) {
@@ -88,6 +93,11 @@ Master::Master(std::string programFolder, const Services& services, const Fields
 Master::~Master() {
   qDeleteAll(findChildren<QDialog*>(Qt::FindDirectChildrenOnly));
   delete menu_;
+}
+
+void Master::rememberIn(UserHabits& habits) {
+  details_->rememberIn(habits);
+  columns_->rememberIn(habits);
 }
 
 bool Master::load() {
@@ -218,83 +228,5 @@ void Master::grid1_Click(int row) {
 void Master::Label1_Click() { openPage(program_.services(), fileOf(kHelpFile).toStdString()); }
 
 void Master::imgLogoSmall_Click() { visitPage(program_.services(), kProductHomePage); }
-
-void Master::setCaption(const std::string& caption) { setWindowTitle(QString::fromStdString(caption)); }
-
-void Master::fillGrid() {
-  controls_.grid1->setSites(program_.data().getArraySites(0), program_.data().sitesNotFetched());
-  notices_->look();
-  marks_->look();
-}
-
-QString Master::reasonOf(std::int16_t idSite) {
-  try {
-    return displayMessage(program_.data().reasonOf(idSite));
-  } catch (const std::exception&) {
-    return {};
-  }
-}
-
-void Master::showStatus(const std::string& text) { controls_.lStatus->showText(displayMessage(text)); }
-
-void Master::indicators(RunState state) {
-  state_ = state;
-  notices_->look();
-  steps_->look();
-  if (tray_ != nullptr) {
-    tray_->look();
-  }
-  controls_.lamps[0]->setLit(state == RunState::stop);
-  controls_.lamps[1]->setLit(state == RunState::pause);
-  controls_.lamps[2]->setLit(state == RunState::start);
-  if (state == RunState::stop) {
-    // The pass may not come to its end for a long time, when a mail server keeps it waiting.
-    for (const std::int16_t idSite : sites_.marked()) {
-      unbrighten(idSite);
-    }
-  }
-}
-
-void Master::blinkLamps() {
-  if (state_ == RunState::stop) {
-    return;
-  }
-  for (Lamp* lamp : controls_.lamps) {
-    lamp->blink();
-  }
-  notices_->lookNowAndThen();
-  marks_->lookNowAndThen();
-}
-
-void Master::showClock(const std::string& text) { controls_.lClock->setText(displayMessage(text)); }
-
-std::int64_t Master::fullProgressWidth() { return controls_.pb1->takeFullWidth(); }
-
-void Master::setProgressWidth(std::int64_t width) { controls_.pb1->showWidth(width); }
-
-void Master::unbrighten(std::int16_t idSite) {
-  sites_.unbrighten(idSite);
-  try {
-    sites_.updateSite(program_.data().getArraySites(idSite));
-  } catch (const std::exception&) {
-    // This runs while a pass is cut, perhaps by that very failure, which is told elsewhere: the row keeps the state
-    // that was last read.
-  }
-}
-
-void Master::updateGridRow(std::int16_t idSite, bool passed) {
-  sites_.rowOfSite(idSite) < 0 ? fillGrid() : sites_.updateSite(program_.data().getArraySites(idSite));  // or new
-  sites_.setResult(idSite, passed);
-  marks_->update(idSite);
-}
-
-void Master::showResult(const CheckResult& result) {
-  sites_.setFetched(result.idSite, result.errCode == 0 && result.errDescription.empty());
-}
-
-void Master::showOffline(std::optional<LocalTime> since) {
-  notices_->tellOffline(since);
-  marks_->look();
-}
 
 }  // namespace tarnwick

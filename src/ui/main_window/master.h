@@ -21,7 +21,9 @@
 
 namespace tarnwick {
 
+class ColumnChoice;
 class FirstSteps;
+class SiteExtras;
 class SiteMenu;
 
 /// The windows that edit what the main window shows. What is empty is not offered to the user.
@@ -64,7 +66,7 @@ class Master final : public QMainWindow, public RunView {
   /// there, whether closing the window only takes it away; else closing it ends the program, always.
   void useTray(std::unique_ptr<TrayIcon> icon, std::function<bool()> closesTo);
   /// Has what is remembered of the window's looks be kept there. `habits` outlives the window.
-  void rememberIn(UserHabits& habits) { details_->rememberIn(habits); }
+  void rememberIn(UserHabits& habits);
   /// Ends the program as closing the window does where there is no tray.
   void quit();
 
@@ -118,6 +120,8 @@ class Master final : public QMainWindow, public RunView {
   MasterControls controls_{};
   Notices* notices_ = nullptr;  // the window's own
   AlarmMarks* marks_ = nullptr;
+  SiteExtras* extras_ = nullptr;
+  ColumnChoice* columns_ = nullptr;
   DetailsArea* details_ = nullptr;
   SiteMenu* menu_ = nullptr;
   FirstSteps* steps_ = nullptr;

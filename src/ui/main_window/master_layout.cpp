@@ -49,6 +49,9 @@ void makeListMenu(QWidget& canvas, MasterControls& controls) {
   controls.listButton = named(new QPushButton(QObject::tr("&List"), &canvas), "listButton", QObject::tr("List: menu"));
   controls.listButton->setToolTip(QObject::tr("What is done with the list as a whole"));
   auto* menu = new QMenu(controls.listButton);
+  controls.columns = menu->addMenu(QObject::tr("&Columns"));
+  controls.columns->setObjectName(QStringLiteral("columns"));
+  menu->addSeparator();
   controls.addAddresses = menu->addAction(QObject::tr("&Add Addresses…") + QLatin1Char('\t') +
                                           QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText));
   controls.addAddresses->setObjectName(QStringLiteral("addAddresses"));

@@ -40,6 +40,7 @@ struct MasterControls {
   SearchControls search;
   /// What is done with the list as a whole, as a menu.
   QPushButton* listButton;
+  QMenu* columns;
   QAction* addAddresses;
   QAction* importList;
   QAction* exportList;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <charconv>
 #include <utility>
+#include <QCoreApplication>
 
 #include "store/site_table.h"
 #include "ui/controls/colour_text.h"
@@ -19,7 +20,7 @@ std::optional<std::int16_t> idOf(const std::string& text) {
   return error == std::errc() && rest == end ? std::optional(id) : std::nullopt;
 }
 
-QVariant alignmentOf(const SiteColumn& column) { return QVariant::fromValue(Qt::AlignVCenter | column.alignment); }
+QVariant alignmentOf(Qt::AlignmentFlag alignment) { return QVariant::fromValue(Qt::AlignVCenter | alignment); }
 
 }  // namespace
 
@@ -82,7 +83,8 @@ void SiteGridModel::setAlarm(int row, const AlarmView& view) {
   if (row < 0 || row >= rowCount()) {
     return;
   }
-  const Row::Alarm alarm{view.state, view.pause.has_value(), view.failures, view.confirm};
+  const Row::Alarm alarm{view.state, view.pause.has_value(),       view.failures, view.confirm,
+                         view.since, view.quiet == Quiet::noChecks};
   Row& shown = rows_[static_cast<std::size_t>(row)];
   if (shown.alarm != alarm) {
     shown.alarm = alarm;
@@ -148,7 +150,29 @@ int SiteGridModel::rowCount(const QModelIndex& parent) const {
 }
 
 int SiteGridModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+  return parent.isValid() ? 0
+                          : static_cast<int>(columns_.size() + (extraCells_ != nullptr ? extraColumns().size() : 0));
+}
+
+void SiteGridModel::setExtraCells(const ExtraCells& cells) {
+  const int first = columnCount();
+  beginInsertColumns({}, first, first + static_cast<int>(extraColumns().size()) - 1);
+  extraCells_ = &cells;
+  endInsertColumns();
+}
+
+std::optional<std::size_t> SiteGridModel::extraColumnAt(int column) const {
+  const int place = column - static_cast<int>(columns_.size());
+  return place >= 0 && column < columnCount() ? std::optional(static_cast<std::size_t>(place)) : std::nullopt;
+}
+
+std::pair<std::int16_t, std::int16_t> SiteGridModel::idsOfSites() const {
+  if (rowsOfSite_.empty()) {
+    return {0, -1};
+  }
+  const auto [first, last] =
+      std::ranges::minmax_element(rowsOfSite_, {}, [](const auto& entry) { return entry.first; });
+  return {first->first, last->first};
 }
 
 QString SiteGridModel::wordOfRow(const Row& row) const {
@@ -179,17 +203,23 @@ QVariant SiteGridModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
     return {};
   }
+  if (role == Qt::BackgroundRole) {
+    return background(index);
+  }
+  if (role == Qt::ForegroundRole) {
+    return readableOn(background(index));
+  }
+  if (const auto extra = extraColumnAt(index.column())) {
+    return extraData(index.row(), *extra, role);
+  }
   const Row& row = rows_[static_cast<std::size_t>(index.row())];
   const std::string& text = row.cells[static_cast<std::size_t>(index.column())];
   switch (role) {
     case Qt::DisplayRole:
+    case copyRole:
       return displayText(text);
-    case Qt::BackgroundRole:
-      return background(index);
-    case Qt::ForegroundRole:
-      return readableOn(background(index));
     case Qt::TextAlignmentRole:
-      return alignmentOf(columns_[static_cast<std::size_t>(index.column())]);
+      return alignmentOf(columns_[static_cast<std::size_t>(index.column())].alignment);
     case stateRole:
       return static_cast<int>(stateOf(row));
     case wordRole:
@@ -206,16 +236,35 @@ QVariant SiteGridModel::data(const QModelIndex& index, int role) const {
   }
 }
 
+QVariant SiteGridModel::extraData(int row, std::size_t extra, int role) const {
+  switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+      return extraCells_->textOf(row, extra);
+    case Qt::ToolTipRole:
+      return extraCells_->toolTipOf(row, extra);
+    case copyRole:
+      // What is pasted somewhere else does not grow older there.
+      return extraColumns()[extra].ages ? extraCells_->toolTipOf(row, extra) : extraCells_->textOf(row, extra);
+    case Qt::TextAlignmentRole:
+      return alignmentOf(extraColumns()[extra].alignment);
+    default:
+      return {};
+  }
+}
+
 QVariant SiteGridModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) {
     return {};
   }
-  const SiteColumn& column = columns_[static_cast<std::size_t>(section)];
+  const auto extra = extraColumnAt(section);
   switch (role) {
     case Qt::DisplayRole:
-      return tr(column.header);
+      return extra ? QCoreApplication::translate("tarnwick::ExtraColumns", extraColumns()[*extra].header)
+                   : tr(columns_[static_cast<std::size_t>(section)].header);
     case Qt::TextAlignmentRole:
-      return alignmentOf(column);
+      return alignmentOf(extra ? extraColumns()[*extra].alignment
+                               : columns_[static_cast<std::size_t>(section)].alignment);
     default:
       return {};
   }

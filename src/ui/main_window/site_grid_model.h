@@ -6,12 +6,14 @@
 #include <set>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 #include <QAbstractTableModel>
 #include <QColor>
 
 #include "engine/alarm_view.h"
 #include "store/text_table.h"
+#include "ui/main_window/extra_columns.h"
 #include "ui/main_window/site_columns.h"
 #include "ui/main_window/site_row.h"
 #include "ui/main_window/site_state.h"
@@ -35,8 +37,18 @@ class SiteGridModel final : public QAbstractTableModel {
 
   SiteColumns columns() const { return columns_; }
 
-  /// The roles of the "ID" cell beside the usual ones: a `SiteState`, and the word for it.
-  enum Role { stateRole = Qt::UserRole, wordRole };
+  /// Gives the list those of `extraColumns()`, too, right of its own. `cells` outlives the model.
+  void setExtraCells(const ExtraCells& cells);
+  /// Which of `extraColumns()` a column is; nothing for one of the list's own.
+  std::optional<std::size_t> extraColumnAt(int column) const;
+  /// Its key in a row.
+  SortKey extraKey(int row, std::size_t extra) const { return extraCells_->keyOf(row, extra); }
+  /// The smallest and the largest number of a site; 0 and -1 where there is none.
+  std::pair<std::int16_t, std::int16_t> idsOfSites() const;
+
+  /// The roles of the "ID" cell beside the usual ones: a `SiteState`, and the word for it. And what is copied of any
+  /// cell.
+  enum Role { stateRole = Qt::UserRole, wordRole, copyRole };
 
   /// Shows the sites of a whole site list in place of what was shown. Marks of sites that are still there stay.
   /// `notFetched` are those whose last check brought no page, as far as that is stored; what `setFetched` told of a
@@ -66,6 +78,8 @@ class SiteGridModel final : public QAbstractTableModel {
   std::optional<std::int16_t> siteOfRow(int row) const;
   /// The first row of a site, -1 when it has none.
   int rowOfSite(std::int16_t idSite) const;
+  /// Whether the site of a row is being tested.
+  bool isTested(int row) const { return isMarked(this->row(row)); }
   /// What is known of the site of a row.
   const Row& row(int row) const { return rows_.at(static_cast<std::size_t>(row)); }
   /// How many sites are down.
@@ -85,6 +99,7 @@ class SiteGridModel final : public QAbstractTableModel {
 
  private:
   QString wordOfRow(const Row& row) const;
+  QVariant extraData(int row, std::size_t extra, int role) const;
   bool isMarked(const Row& row) const;
   QColor background(const QModelIndex& index) const;
   void repaintRow(int row);
@@ -93,6 +108,7 @@ class SiteGridModel final : public QAbstractTableModel {
   void changeRows(std::int16_t idSite, Change change);
 
   const SiteColumns columns_;
+  const ExtraCells* extraCells_ = nullptr;
   std::vector<Row> rows_;
   // Ids are unique unless another tool made the file; then every row of an id follows its site.
   std::unordered_multimap<std::int16_t, int> rowsOfSite_;

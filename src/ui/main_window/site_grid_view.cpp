@@ -35,6 +35,7 @@ SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(p
   viewport()->setPalette(white);
 
   setUpColumns();
+  setUpExtraColumns();
   setRowHeight();
 
   viewport()->setMouseTracking(true);
@@ -44,6 +45,7 @@ SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(p
   setContextMenuPolicy(Qt::CustomContextMenu);
   connect(this, &QTableView::clicked, this, &SiteGridView::onClick);
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &SiteGridView::captionClicked);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this, &SiteGridView::keepRoomForAddresses);
 }
 
 void SiteGridView::setUpColumns() {
@@ -116,6 +118,9 @@ QSize SiteGridView::sizeHint() const {
 }
 
 QString SiteGridView::columnToolTip(int column) const {
+  if (const auto extra = sites_.extraColumnAt(column)) {
+    return QCoreApplication::translate("tarnwick::ExtraColumns", extraColumns()[*extra].hint);
+  }
   const SiteColumns columns = sites_.columns();
   const auto index = static_cast<std::size_t>(column);
   if (column < 0 || index > columns.size()) {
@@ -147,8 +152,7 @@ bool SiteGridView::viewportEvent(QEvent* event) {
   } else if (event->type() == QEvent::ToolTip) {
     const auto& help = static_cast<QHelpEvent&>(*event);
     const QModelIndex cell = indexAt(help.pos());
-    const QString reason =
-        cell.isValid() && cell.column() == SiteGridModel::idColumn ? reasonOf(listRow(cell)) : QString();
+    const QString reason = toolTipOf(cell);
     if (reason.isEmpty()) {
       showColumnToolTip(help.globalPos());
     } else {
@@ -157,6 +161,17 @@ bool SiteGridView::viewportEvent(QEvent* event) {
     return true;
   }
   return QTableView::viewportEvent(event);
+}
+
+// The icon tells why its site is down; so does the column of results.
+QString SiteGridView::toolTipOf(const QModelIndex& cell) const {
+  if (!cell.isValid()) {
+    return {};
+  }
+  const auto extra = sites_.extraColumnAt(cell.column());
+  const bool tellsReason = cell.column() == SiteGridModel::idColumn || extra == kLastResultColumn;
+  const QString reason = tellsReason ? reasonOf(listRow(cell)) : QString();
+  return reason.isEmpty() && extra ? cell.data(Qt::ToolTipRole).toString() : reason;
 }
 
 bool SiteGridView::eventFilter(QObject* watched, QEvent* event) {
@@ -176,6 +191,7 @@ void SiteGridView::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
   if (event->type() == QEvent::FontChange) {
     setUpColumns();
+    setUpExtraColumns();
     setRowHeight();
     shareRoom();
   }

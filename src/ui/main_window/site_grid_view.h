@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -24,6 +25,13 @@ class SiteGridView final : public QTableView {
   /// The tooltip for a column under the mouse; empty for a column without one. The original hints are two columns off:
   /// the last one belongs to the column behind the last.
   QString columnToolTip(int column) const;
+
+  /// Shows one of `extraColumns()`, or hides it. With any of them the addresses keep a room of their own, and the list
+  /// scrolls sideways where there is no more.
+  void showExtraColumn(std::size_t extra, bool isShown);
+  bool isExtraColumnShown(std::size_t extra) const;
+  /// Has the cells of the further columns be painted again.
+  void repaintExtraColumns();
 
   /// Which sites are shown, and in which order.
   SiteOrder& order() { return order_; }
@@ -89,10 +97,15 @@ class SiteGridView final : public QTableView {
   bool viewportEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
   void setUpColumns();
+  void setUpExtraColumns();
+  int columnOfExtra(std::size_t extra) const { return static_cast<int>(sites_.columns().size() + extra); }
+  /// Lets the addresses have what the other columns leave, or scrolls sideways.
+  void keepRoomForAddresses();
   void selectListRow(int row);
   void selectShown(int shownRow);
   void keepChosen(const std::function<void()>& change);
@@ -100,6 +113,7 @@ class SiteGridView final : public QTableView {
   void shareRoom();
   void setRowHeight();
   void followMouse(int x);
+  QString toolTipOf(const QModelIndex& cell) const;
   void showColumnToolTip(const QPoint& globalPosition);
 
   SiteGridModel& sites_;
@@ -110,6 +124,9 @@ class SiteGridView final : public QTableView {
   int stretched_ = 0;
   bool isFilled_ = false;
   bool isShared_ = false;
+  bool isSetUp_ = false;
+  bool keepsRoom_ = false;
+  bool isNarrow_ = false;
 };
 
 }  // namespace tarnwick

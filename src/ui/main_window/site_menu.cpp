@@ -227,7 +227,7 @@ void SiteMenu::copyRows() {
     QStringList cells;
     for (int column = 0; column < grid_.sites().columnCount(); ++column) {
       if (!grid_.isColumnHidden(column)) {
-        cells << grid_.sites().index(row, column).data().toString().simplified();
+        cells << grid_.sites().index(row, column).data(SiteGridModel::copyRole).toString().simplified();
       }
     }
     lines << cells.join(QLatin1Char('\t'));

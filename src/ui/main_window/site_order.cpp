@@ -127,6 +127,16 @@ void SiteOrder::rank(int column) const {
     }
     return all;
   };
+  if (const auto extra = sites_.extraColumnAt(column)) {
+    const bool isRising = sortOrder() == Qt::AscendingOrder;
+    ranks_ = ranksOf(keys([&](int row) {
+      SortKey key = sites_.extraKey(row, *extra);
+      // What is not known is the last one either way.
+      return std::pair(key.isKnown != isRising, std::move(key));
+    }));
+    rankedBy_ = column;
+    return;
+  }
   const bool isNumber =
       column == SiteGridModel::idColumn || column == SiteGridModel::upColumn || column == SiteGridModel::downColumn;
   ranks_ = isNumber ? ranksOf(keys([&](int row) { return numberIn(sites_.row(row).cells[cell]); }))

@@ -26,6 +26,8 @@ struct SiteRow {
     bool paused = false;
     int failures = 0;
     int confirm = 1;
+    std::optional<LocalTime> since{};
+    bool rests = false;  ///< it is not checked in these hours
 
     bool operator==(const Alarm&) const = default;
   };

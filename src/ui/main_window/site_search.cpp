@@ -53,6 +53,11 @@ SiteSearch::SiteSearch(Program& program, SiteGridView& grid, const SearchControl
   connect(controls_.sortChip, &QPushButton::clicked, this, &SiteSearch::endSorting);
   connect(&grid_, &SiteGridView::hiddenSiteWanted, this, [this] { find({}); });
   connect(&grid_, &SiteGridView::captionClicked, this, &SiteSearch::sortBy);
+  connect(grid_.horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int /*old*/, int width) {
+    if (width == 0 && column == grid_.order().sortColumn()) {
+      endSorting();  // nobody sees by what any more
+    }
+  });
   connect(new QShortcut(QKeySequence::Find, grid_.window()), &QShortcut::activated, this, [this] {
     controls_.filterEdit->setFocus(Qt::ShortcutFocusReason);
     controls_.filterEdit->selectAll();

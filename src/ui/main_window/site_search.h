@@ -33,13 +33,13 @@ class SiteSearch final : public QObject {
 
   /// Finds what the line says, in place of what is typed.
   void find(const QString& line);
+  /// The list has changed: it is looked at again soon, but not under somebody's hand.
+  void renewSoon();
 
  private:
   void findTyped();
   void sortBy(int column);
   void endSorting();
-  /// The list has changed: it is looked at again soon, but not under somebody's hand.
-  void renewSoon();
   void renew();
   void tellCount();
   SiteOrder::Moment moment();
