@@ -7,7 +7,7 @@ set(TARNWICK_CORE_ROOMS base platform platform/os platform/sqlite difference fin
 set(TARNWICK_OUTER_ROOMS platform/web platform/events platform/process platform/sound platform/secrets platform/desktop
     exchange/json exchange/list exchange/foreign
     cli/terminal cli/verbs
-    ui/controls ui/baseline ui/site ui/settings ui/exchange ui/outbox ui/rows ui/details ui/main_window
+    ui/controls ui/baseline ui/site ui/settings ui/exchange ui/outbox ui/rows ui/history ui/details ui/main_window
     app)
 set(TARNWICK_ROOMS ${TARNWICK_CORE_ROOMS})
 if(NOT TARNWICK_CORE_ONLY)

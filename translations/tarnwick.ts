@@ -4891,6 +4891,10 @@
         <source>The name of the file %1 ends neither in .csv nor in .json, so its format is not known. Give it one of them.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The name of the file %1 ends neither in .svg nor in .png, so its format is not known. Give it one of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6202,6 +6206,14 @@
         <source>&amp;Columns</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Picture, for a web page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture, for a mail</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -7465,6 +7477,10 @@ and when it is back</source>
         <source>Site %1 is settled: its next check finds it up.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>History</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::DifferencePanel</name>
@@ -7735,6 +7751,57 @@ and when it is back</source>
     </message>
     <message>
         <source>Choose How…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::HistoryPage</name>
+    <message>
+        <source>Answer times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outages, the latest first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter, or a double click, shows what came at the first failed check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No history is kept: only the log tells how the sites have been.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep the History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From now on keep for years when each site was up or down; the log is read into it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which periods are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All periods</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the stripes into a picture, SVG or PNG</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median %1, slowest %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the answers of %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8023,6 +8090,25 @@ and when it is back</source>
     </message>
     <message>
         <source>%1: not lit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::LatencyView</name>
+    <message>
+        <source>Answer times: nothing is known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Answer times: median %1, 95 of 100 within %2, slowest %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up to %1 (line: median, dashed: 95 of 100)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: median %2, 95 of 100 within %3, slowest %4</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8425,6 +8511,37 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>A run</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::OutageList</name>
+    <message>
+        <source>Until %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 check has failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 checks have failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down since</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cause</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -9173,6 +9290,18 @@ Do You Want To Discard Them And Close %2?</source>
         <source>bytes differ in %1 places</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>+ Check of %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The check of %1 brought no page: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page of %1 is not kept any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::SiteEditor</name>
@@ -9540,6 +9669,61 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>Change %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::Stripe</name>
+    <message>
+        <source>Down from %1 to %2 (%3): %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down since %1 (%2): %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>24 hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: nothing is known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 up, %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no outage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 outage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 outages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median %1, slowest %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

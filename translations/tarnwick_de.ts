@@ -4891,6 +4891,10 @@
         <source>The name of the file %1 ends neither in .csv nor in .json, so its format is not known. Give it one of them.</source>
         <translation>Der Name der Datei %1 endet weder auf .csv noch auf .json, daher ist ihr Format nicht bekannt. Geben Sie ihr eine dieser Endungen.</translation>
     </message>
+    <message>
+        <source>The name of the file %1 ends neither in .svg nor in .png, so its format is not known. Give it one of them.</source>
+        <translation>Der Name der Datei %1 endet weder auf .svg noch auf .png, ihr Format ist also nicht bekannt. Geben Sie ihr eines davon.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6202,6 +6206,14 @@
         <source>&amp;Columns</source>
         <translation>&amp;Spalten</translation>
     </message>
+    <message>
+        <source>Picture, for a web page</source>
+        <translation>Bild für eine Webseite</translation>
+    </message>
+    <message>
+        <source>Picture, for a mail</source>
+        <translation>Bild für eine Mail</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -7466,6 +7478,10 @@ und wenn sie wieder da ist</translation>
         <source>Site %1 is settled: its next check finds it up.</source>
         <translation>Seite %1 ist erledigt: Die nächste Prüfung findet sie gut.</translation>
     </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::DifferencePanel</name>
@@ -7737,6 +7753,57 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>Choose How…</source>
         <translation>Auswählen…</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::HistoryPage</name>
+    <message>
+        <source>Answer times</source>
+        <translation>Antwortzeiten</translation>
+    </message>
+    <message>
+        <source>Outages, the latest first</source>
+        <translation>Ausfälle, die letzten zuerst</translation>
+    </message>
+    <message>
+        <source>Enter, or a double click, shows what came at the first failed check</source>
+        <translation>Eingabe oder Doppelklick zeigt, was bei der ersten fehlgeschlagenen Prüfung kam</translation>
+    </message>
+    <message>
+        <source>No history is kept: only the log tells how the sites have been.</source>
+        <translation>Es wird kein Verlauf geführt: nur das Protokoll sagt, wie es den Seiten ging.</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the History</source>
+        <translation>&amp;Verlauf führen</translation>
+    </message>
+    <message>
+        <source>From now on keep for years when each site was up or down; the log is read into it</source>
+        <translation>Von jetzt an über Jahre festhalten, wann jede Seite verfügbar war; das Protokoll wird übernommen</translation>
+    </message>
+    <message>
+        <source>Which periods are shown</source>
+        <translation>Welche Zeiträume gezeigt werden</translation>
+    </message>
+    <message>
+        <source>All periods</source>
+        <translation>Alle Zeiträume</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Sichern…</translation>
+    </message>
+    <message>
+        <source>Write the stripes into a picture, SVG or PNG</source>
+        <translation>Die Streifen in ein Bild schreiben, SVG oder PNG</translation>
+    </message>
+    <message>
+        <source>Median %1, slowest %2</source>
+        <translation>Median %1, längste %2</translation>
+    </message>
+    <message>
+        <source>Of the answers of %1</source>
+        <translation>Der Antworten aus: %1</translation>
     </message>
 </context>
 <context>
@@ -8025,6 +8092,25 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>%1: not lit</source>
         <translation>%1: aus</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::LatencyView</name>
+    <message>
+        <source>Answer times: nothing is known</source>
+        <translation>Antwortzeiten: nichts bekannt</translation>
+    </message>
+    <message>
+        <source>Answer times: median %1, 95 of 100 within %2, slowest %3</source>
+        <translation>Antwortzeiten: Median %1, 95 von 100 binnen %2, längste %3</translation>
+    </message>
+    <message>
+        <source>Up to %1 (line: median, dashed: 95 of 100)</source>
+        <translation>Bis %1 (Linie: Median, gestrichelt: 95 von 100)</translation>
+    </message>
+    <message>
+        <source>%1: median %2, 95 of 100 within %3, slowest %4</source>
+        <translation>%1: Median %2, 95 von 100 binnen %3, längste %4</translation>
     </message>
 </context>
 <context>
@@ -8429,6 +8515,37 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>A run</source>
         <translation>Ein Lauf</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::OutageList</name>
+    <message>
+        <source>Until %1</source>
+        <translation>Bis %1</translation>
+    </message>
+    <message>
+        <source>It is on.</source>
+        <translation>Er dauert an.</translation>
+    </message>
+    <message>
+        <source>1 check has failed</source>
+        <translation>1 Prüfung ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>%1 checks have failed</source>
+        <translation>%1 Prüfungen sind fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Down since</source>
+        <translation>Ausgefallen seit</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Ursache</translation>
     </message>
 </context>
 <context>
@@ -9176,6 +9293,18 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <source>bytes differ in %1 places</source>
         <translation>Bytes sind an %1 Stellen anders</translation>
     </message>
+    <message>
+        <source>+ Check of %1, %2</source>
+        <translation>+ Prüfung von %1, %2</translation>
+    </message>
+    <message>
+        <source>The check of %1 brought no page: %2</source>
+        <translation>Die Prüfung von %1 brachte keine Seite: %2</translation>
+    </message>
+    <message>
+        <source>The page of %1 is not kept any more.</source>
+        <translation>Die Seite von %1 wird nicht mehr aufbewahrt.</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::SiteEditor</name>
@@ -9544,6 +9673,61 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>Change %1</source>
         <translation>%1 ändern</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::Stripe</name>
+    <message>
+        <source>Down from %1 to %2 (%3): %4</source>
+        <translation>Ausgefallen von %1 bis %2 (%3): %4</translation>
+    </message>
+    <message>
+        <source>Down since %1 (%2): %3</source>
+        <translation>Ausgefallen seit %1 (%2): %3</translation>
+    </message>
+    <message>
+        <source>24 hours</source>
+        <translation>24 Stunden</translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation>%1 Tage</translation>
+    </message>
+    <message>
+        <source>%1: nothing is known</source>
+        <translation>%1: nichts bekannt</translation>
+    </message>
+    <message>
+        <source>%1: %2 up, %3</source>
+        <translation>%1: %2 verfügbar, %3</translation>
+    </message>
+    <message>
+        <source>no outage</source>
+        <translation>kein Ausfall</translation>
+    </message>
+    <message>
+        <source>1 outage</source>
+        <translation>1 Ausfall</translation>
+    </message>
+    <message>
+        <source>%1 outages</source>
+        <translation>%1 Ausfälle</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 up</source>
+        <translation>%1: %2 verfügbar</translation>
+    </message>
+    <message>
+        <source>Median %1, slowest %2</source>
+        <translation>Median %1, längste %2</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,16 @@ TimeSum PeriodView::whole() const {
   return sum;
 }
 
+CheckedSite checkedSite(SiteHistory& history, std::int64_t idSite) {
+  const SqlValue id(idSite);
+  const auto rows = history.database().conn().execute("select url, tInterval from sites where idSite = ?1", {&id, 1});
+  if (rows->eof()) {
+    return {};
+  }
+  return {rows->field(std::size_t{0}).toText(),
+          minutes(std::max<std::int64_t>(1, rows->field(std::size_t{1}).toInt64()))};
+}
+
 std::vector<PeriodView> periodsOf(SiteHistory& history, std::int64_t idSite, seconds interval, Moment now) {
   const Moment week = dayFrom(now, 1 - periods()[kWeek].length);
   const Moment year = dayFrom(now, 1 - periods().back().length);

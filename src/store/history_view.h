@@ -25,6 +25,14 @@ struct PeriodView {
   std::chrono::seconds length() const { return edges.back() - edges.front(); }
 };
 
+/// What the list says of a site whose history is shown.
+struct CheckedSite {
+  std::string url{};
+  std::chrono::seconds interval{60};
+};
+/// One that is not there is checked each minute, from nowhere. Raises DataAccessError.
+CheckedSite checkedSite(SiteHistory& history, std::int64_t idSite);
+
 /// One for each of `periods()`, up to `now`, with what the latest check says of the time since. A site that is checked
 /// every `interval`. Raises DataAccessError.
 std::vector<PeriodView> periodsOf(SiteHistory& history, std::int64_t idSite, std::chrono::seconds interval, Moment now);

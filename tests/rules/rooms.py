@@ -50,7 +50,8 @@ ROOMS = {
     "ui/exchange": (*WINDOW, "exchange/list", "exchange/foreign", "platform/os"),
     "ui/outbox": WINDOW,
     "ui/rows": WINDOW,
-    "ui/details": WINDOW,
+    "ui/history": WINDOW,
+    "ui/details": (*WINDOW, "ui/history"),
     "ui/main_window": (*WINDOW, "ui/rows", "ui/details"),
     "app": None,  # puts together whatever there is
 }
@@ -83,6 +84,7 @@ LIBRARIES = {
     "ui/exchange": QT,
     "ui/outbox": QT,
     "ui/rows": QT,
+    "ui/history": QT,
     "ui/details": QT,
     "ui/main_window": QT,
     "app": QT,

@@ -28,4 +28,18 @@ DifferenceColours differenceColours(bool added, bool dark) {
               : DifferenceColours{QColor(0xFB, 0xD9, 0xD6), ink, QColor(0xF1, 0x9A, 0x93), wordInk};
 }
 
+QColor stripeColour(StripeTone tone, bool dark) {
+  switch (tone) {
+    case StripeTone::up:
+      return dark ? QColor(0x2F, 0x8A, 0x5F) : QColor(0x2E, 0x9C, 0x62);
+    case StripeTone::slow:
+      return dark ? QColor(0xC9, 0x9A, 0x1F) : QColor(0xA8, 0x64, 0x00);
+    case StripeTone::down:
+      return dark ? QColor(0xD1, 0x45, 0x45) : QColor(0xC0, 0x30, 0x30);
+    case StripeTone::unknown:
+      break;
+  }
+  return dark ? QColor(0x6E, 0x89, 0xB8) : QColor(0x5C, 0x78, 0xAA);
+}
+
 }  // namespace tarnwick

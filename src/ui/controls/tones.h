@@ -31,4 +31,8 @@ struct DifferenceColours {
 };
 DifferenceColours differenceColours(bool added, bool dark);
 
+/// The colours of a stripe of the history, and of its lines.
+enum class StripeTone { up, slow, down, unknown };
+QColor stripeColour(StripeTone tone, bool dark);
+
 }  // namespace tarnwick

@@ -25,6 +25,7 @@ DetailsPane::DetailsPane(Program& program, SiteSettling& settling, QWidget* pare
     : QWidget(parent),
       program_(program),
       settling_(settling),
+      history_(new HistoryPage(program, this)),
       log_(new LogList(this)),
       alarm_(new AlarmPage(program, this)),
       choices_(new QMenu(this)) {
@@ -44,37 +45,22 @@ void DetailsPane::layOut() {
   tabs_ = named(new QTabWidget(this), "detailsTabs", tr("Details"));
   tabs_->setDocumentMode(true);
   panel_ = new DifferencePanel(program_.services().clock, this);
-  auto* window = named(new QToolButton(&panel_->corner()), "differenceWindow", tr("Show it in a window of its own"));
-  window->setIcon(style()->standardIcon(QStyle::SP_TitleBarNormalButton));
-  window->setAutoRaise(true);
-  window->setToolTip(window->accessibleName());
-  panel_->corner().layout()->addWidget(window);
   connect(&panel_->view(), &DifferenceView::compared, this,
           [this] { program_.faults().run([this] { tellHeadline(); }); });
-  connect(window, &QToolButton::clicked, this, [this] {
-    if (idSite_) {
-      Q_EMIT windowWanted(*idSite_);
-    }
-  });
-  auto* log = named(new QTableView(this), "detailsLog", tr("Log of the site, the latest first"));
-  log->setModel(log_);
-  setUpList(*log);
-  log->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  log->horizontalHeader()->setStretchLastSection(true);
   tabs_->addTab(panel_, tr("What changed"));
-  tabs_->addTab(log, tr("Log"));
+  tabs_->addTab(history_, tr("History"));
+  tabs_->addTab(makeLog(), tr("Log"));
   tabs_->addTab(alarm_, tr("Alarm"));
+  tabs_->setCornerWidget(makeCorner());
+  connect(history_, &HistoryPage::failureWanted, this,
+          [this](std::int16_t, Moment began) { program_.faults().run([&] { showFailure(localTimeAt(began)); }); });
   connect(alarm_, &AlarmPage::changeWanted, this, [this] {
     if (idSite_) {
       Q_EMIT alarmWanted(*idSite_);
     }
   });
-  // Beside the tabs, where it takes no room of its own.
-  tabs_->setCornerWidget(&panel_->corner());
-  connect(tabs_, &QTabWidget::currentChanged, this, [this] {
-    panel_->corner().setVisible(tabs_->currentWidget() == panel_);
-    program_.faults().run([this] { read(); });
-  });
+  connect(tabs_, &QTabWidget::currentChanged, this, &DetailsPane::turn);
+  turn();
   lines->addWidget(tabs_, 1);
   constexpr int kMostTabs = 9;
   for (int tab = 0; tab < kMostTabs; ++tab) {
@@ -87,6 +73,59 @@ void DetailsPane::layOut() {
   }
 }
 
+QWidget* DetailsPane::makeLog() {
+  auto* log = named(new QTableView(this), "detailsLog", tr("Log of the site, the latest first"));
+  log->setModel(log_);
+  setUpList(*log);
+  log->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  log->horizontalHeader()->setStretchLastSection(true);
+  connect(log, &QTableView::activated, this, [this](const QModelIndex& index) {
+    if (const auto moment = log_->momentOf(index.row())) {
+      program_.faults().run([&] { showFailure(*moment); });
+    }
+  });
+  return log;
+}
+
+// Beside the tabs, where it takes no room of its own.
+QWidget* DetailsPane::makeCorner() {
+  auto* corner = new QWidget(this);
+  auto* window = named(new QToolButton(&panel_->corner()), "differenceWindow", tr("Show it in a window of its own"));
+  window->setIcon(style()->standardIcon(QStyle::SP_TitleBarNormalButton));
+  window->setAutoRaise(true);
+  window->setToolTip(window->accessibleName());
+  panel_->corner().layout()->addWidget(window);
+  connect(window, &QToolButton::clicked, this, [this] {
+    if (idSite_) {
+      Q_EMIT windowWanted(*idSite_);
+    }
+  });
+  auto* line = new QHBoxLayout(corner);
+  line->setContentsMargins({});
+  line->addWidget(&panel_->corner());
+  line->addWidget(&history_->corner());
+  return corner;
+}
+
+void DetailsPane::turn() {
+  panel_->corner().setVisible(tabs_->currentWidget() == panel_);
+  history_->corner().setVisible(tabs_->currentWidget() == history_);
+  if (tabs_->currentWidget() != panel_) {
+    logged_.reset();
+  }
+  program_.faults().run([this] { read(); });
+}
+
+void DetailsPane::showFailure(LocalTime since) {
+  logged_.reset();
+  program_.data().readLog({.since = since, .idSite = idSite_, .failures = true, .newest = {}, .content = true},
+                          [this](const LogRow& row) {
+                            logged_ = row;
+                            return false;
+                          });
+  tabs_->setCurrentWidget(panel_);
+}
+
 void DetailsPane::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   pause_.start();
@@ -95,6 +134,7 @@ void DetailsPane::showEvent(QShowEvent* event) {
 void DetailsPane::showSite(std::optional<std::int16_t> idSite) {
   if (idSite != idSite_) {
     kept_.reset();
+    logged_.reset();
   }
   idSite_ = idSite;
   if (isVisible()) {
@@ -123,13 +163,15 @@ void DetailsPane::readTab() {
     alarm_->showSite(*idSite_);
   } else if (tabs_->currentWidget() == panel_) {
     readDifference();
+  } else if (tabs_->currentWidget() == history_) {
+    history_->showSite(*idSite_);
   } else {
     log_->read(program_.data(), *idSite_);
   }
 }
 
 void DetailsPane::readDifference() {
-  const QString sentence = nothingToShow(*idSite_, *found_);
+  const QString sentence = logged_ ? loggedWords(*logged_) : nothingToShow(*idSite_, *found_);
   if (!sentence.isEmpty()) {
     panel_->tell(sentence);
     return;
@@ -142,13 +184,15 @@ void DetailsPane::readDifference() {
   }
   kept_ = kept ? kept_ : std::nullopt;
   makeChoices(all);
-  panel_->heads().tell(
-      kept ? keptHead(*chosen) : baselineHead(found_->baseline.size()),
-      latestHead(found_->page.size(), program_.data().getLastChecked(*idSite_), program_.services().clock.localNow()));
   const std::string& before = kept ? *kept : found_->baseline;
+  const std::string& after = logged_ ? *logged_->content : found_->page;
+  panel_->heads().tell(kept ? keptHead(*chosen) : baselineHead(found_->baseline.size()),
+                       logged_ ? loggedHead(*logged_)
+                               : latestHead(after.size(), program_.data().getLastChecked(*idSite_),
+                                            program_.services().clock.localNow()));
   const DifferenceView& view = panel_->view();
-  if (!view.hasPages() || view.pages().before != before || view.pages().after != found_->page) {
-    panel_->compare({before, found_->page}, tr("What changed in site %1").arg(*idSite_));
+  if (!view.hasPages() || view.pages().before != before || view.pages().after != after) {
+    panel_->compare({before, after}, tr("What changed in site %1").arg(*idSite_));
   }
 }
 
@@ -176,6 +220,7 @@ void DetailsPane::tellNothing() {
   headline_->showText({});
   panel_->tell(tr("Choose a site to see what changed."));
   log_->clear();
+  history_->clear();
   alarm_->clear();
   isPaused_ = false;
   isSettled_ = false;
@@ -184,7 +229,11 @@ void DetailsPane::tellNothing() {
 
 void DetailsPane::takeFocus() {
   QWidget& shown = *tabs_->currentWidget();
-  (&shown == panel_ ? static_cast<QWidget&>(panel_->view()) : &shown == alarm_ ? *tabs_->tabBar() : shown).setFocus();
+  (&shown == panel_     ? static_cast<QWidget&>(panel_->view())
+   : &shown == history_ ? history_->first()
+   : &shown == alarm_   ? *tabs_->tabBar()
+                        : shown)
+      .setFocus();
 }
 
 void DetailsPane::accept() {

@@ -20,6 +20,7 @@
 #include "ui/details/difference_panel.h"
 #include "ui/details/log_list.h"
 #include "ui/details/site_settling.h"
+#include "ui/history/history_page.h"
 
 namespace tarnwick {
 
@@ -38,6 +39,9 @@ class DetailsPane final : public QWidget {
 
   /// Gives the focus to what the tab that is open shows.
   void takeFocus();
+  /// Shows what the first failed check from a time on has brought, in the place of the latest page, until another tab
+  /// is turned to.
+  void showFailure(LocalTime since);
   /// Settles the site that is shown, as the buttons do.
   void accept();
   void acknowledge();
@@ -65,6 +69,9 @@ class DetailsPane final : public QWidget {
  private:
   QWidget* makeHead();
   void layOut();
+  QWidget* makeLog();
+  QWidget* makeCorner();
+  void turn();
   void read();
   void tellNothing();
   void readTab();
@@ -89,12 +96,15 @@ class DetailsPane final : public QWidget {
   QPushButton* btnPause_ = nullptr;
   QTabWidget* tabs_ = nullptr;
   DifferencePanel* panel_ = nullptr;
+  HistoryPage* history_;
   LogList* log_ = nullptr;
   AlarmPage* alarm_;
   QMenu* pauses_ = nullptr;
   QMenu* choices_;
   /// The kept baseline that somebody wants to see in the place of the baseline.
   std::optional<std::int64_t> kept_;
+  /// The row of the log whose page somebody wants to see in the place of the latest one.
+  std::optional<LogRow> logged_;
   bool isPaused_ = false;
   /// It is down as yet, with a page that is a good one now.
   bool isSettled_ = false;

@@ -32,6 +32,10 @@ void LogList::take(std::vector<LogRow> rows) {
   endResetModel();
 }
 
+std::optional<LocalTime> LogList::momentOf(int row) const {
+  return parseDateTime(rows_.at(static_cast<std::size_t>(row)).dateStamp.value_or(""));
+}
+
 int LogList::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : static_cast<int>(rows_.size()); }
 
 int LogList::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : last; }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 #include <QAbstractTableModel>
 
@@ -22,6 +23,8 @@ class LogList final : public QAbstractTableModel {
   /// Raises DataAccessError.
   void read(m& data, std::int16_t idSite);
   void clear();
+  /// When the check of a row was made; nothing where the log holds no date.
+  std::optional<LocalTime> momentOf(int row) const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

@@ -125,6 +125,19 @@ QString keptHead(const KeptBaseline& kept) {
       .arg(taken, bytesWords(kept.size));
 }
 
+QString loggedHead(const LogRow& row) {
+  return Words::tr("+ Check of %1, %2")
+      .arg(displayText(row.dateStamp.value_or("")), bytesWords(row.content.value_or("").size()));
+}
+
+QString loggedWords(const LogRow& row) {
+  const QString when = displayText(row.dateStamp.value_or(""));
+  if (row.errCode.value_or(0) != 0) {
+    return Words::tr("The check of %1 brought no page: %2").arg(when, displayMessage(row.errDescription.value_or("")));
+  }
+  return row.content.value_or("").empty() ? Words::tr("The page of %1 is not kept any more.").arg(when) : QString();
+}
+
 QString bytesWords(std::size_t bytes) {
   return bytes == 1 ? Words::tr("1 byte")
                     : Words::tr("%1 bytes").arg(QLocale().toString(static_cast<qulonglong>(bytes)));

@@ -8,6 +8,7 @@
 #include "difference/page_difference.h"
 #include "engine/settling.h"
 #include "platform/clock.h"
+#include "store/result_log.h"
 #include "ui/details/compared_pages.h"
 
 namespace tarnwick {
@@ -29,6 +30,10 @@ QString baselineHead(std::size_t bytes);
 QString latestHead(std::size_t bytes, std::optional<LocalTime> checked, LocalTime now);
 /// The same of a baseline that was kept: "− Baseline until 2026-11-21 04:24:41, 1,187 bytes".
 QString keptHead(const KeptBaseline& kept);
+
+/// The same of a page in the log, and what is said in its place where the log holds none; empty where it does.
+QString loggedHead(const LogRow& row);
+QString loggedWords(const LogRow& row);
 
 /// A number of bytes as people read it: "1,204 bytes".
 QString bytesWords(std::size_t bytes);

@@ -29,7 +29,7 @@ class DetailsPaneTest : public DetailsTest {
   void set(const char* option, const char* value) { data().setOption(3, option, value); }
   void openAlarm() {
     openDetails();
-    key(Qt::Key_3, Qt::ControlModifier);
+    key(Qt::Key_4, Qt::ControlModifier);
     ASSERT_TRUE(waitUntil([&] { return !line("alarmThrough").empty(); }));
   }
   std::string line(const char* name) { return find<QLabel>(name).text().toStdString(); }
@@ -162,8 +162,8 @@ TEST_F(DetailsPaneTest, KeysLeadThroughTheAreasAndBack) {
     QTest::keyClick(master->focusWidget(), Qt::Key_F6);  // there may be a notice in between
   }
   EXPECT_TRUE(grid().hasFocus());
-  key(Qt::Key_2, Qt::ControlModifier);
-  EXPECT_EQ(find<QTabWidget>("detailsTabs").currentIndex(), 1);
+  key(Qt::Key_3, Qt::ControlModifier);
+  EXPECT_EQ(find<QTabWidget>("detailsTabs").currentIndex(), 2);
   key(Qt::Key_F6);
   EXPECT_TRUE(find<QTableView>("detailsLog").hasFocus());
   QTest::keyClick(master->focusWidget(), Qt::Key_Escape);

@@ -123,7 +123,7 @@ TEST_F(DetailsTest, AFetchThatFailedShowsItsTextAndOffersToCheckNow) {
 TEST_F(DetailsTest, TheLogStandsBesideIt) {
   change();
   openDetails();
-  find<QTabWidget>("detailsTabs").setCurrentIndex(1);
+  find<QTabWidget>("detailsTabs").setCurrentIndex(2);
   const QAbstractItemModel& log = *find<QTableView>("detailsLog").model();
   ASSERT_EQ(log.rowCount(), 2);
   EXPECT_EQ(log.index(0, LogList::result).data().toString(), QStringLiteral("down"));

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "ui/history/history_picture.h"
+
+#include <stdexcept>
+#include <utility>
+#include <QBuffer>
+#include <QDir>
+#include <QPainter>
+
+#include "history/history_text.h"
+#include "ui/controls/display_text.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr double kScale = 2;
+constexpr int kWidth = 720;
+constexpr int kMargin = 12;
+constexpr int kLine = 28;
+constexpr int kNames = 80;
+constexpr int kFigures = 80;
+
+QString uptimeOf(const Stripe& stripe) { return QString::fromStdString(uptimeText(stripe.view.whole().uptime())); }
+
+std::string asPng(const QImage& picture) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  picture.save(&buffer, "PNG");
+  return bytes.toStdString();
+}
+
+std::string asSvg(const QString& title, const std::vector<Stripe>& stripes) {
+  std::vector<StripeOfPicture> parts;
+  parts.reserve(stripes.size());
+  for (const Stripe& stripe : stripes) {
+    parts.push_back({periodWords(stripe.view.period).toStdString(), uptimeOf(stripe).toStdString(), stripe.view.cells});
+  }
+  return stripesAsSvg(title.toStdString(), parts);
+}
+
+void write(Program& program, const std::string& file, const QString& title, const std::vector<Stripe>& stripes) {
+  const QString name = QString::fromStdString(file);
+  std::string bytes;
+  if (name.endsWith(QLatin1String(".png"), Qt::CaseInsensitive)) {
+    bytes = asPng(pictureOf(title, stripes));
+  } else if (name.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
+    bytes = asSvg(title, stripes);
+  } else {
+    throw std::runtime_error("The name of the file " + file +
+                             " ends neither in .svg nor in .png, so its format is not known. Give it one of them.");
+  }
+  const auto put = [&program, file, bytes = std::move(bytes)] {
+    program.services().files.replace(file, [&](const ByteSink& sink) { sink(bytes); });
+  };
+  if (!program.services().files.exists(file)) {
+    put();
+    return;
+  }
+  program.services().prompts.confirm(
+      {.text = QObject::tr("Do You Want To Replace The File %1?").arg(QDir::toNativeSeparators(name)).toStdString(),
+       .icon = PromptIcon::question,
+       .destroys = true},
+      [&program, put](bool yes) {
+        if (yes) {
+          program.faults().run(put);
+        }
+      });
+}
+
+}  // namespace
+
+QImage pictureOf(const QString& title, const std::vector<Stripe>& stripes) {
+  QImage picture(QSize(kWidth, 2 * kMargin + kLine * (static_cast<int>(stripes.size()) + 1)) * kScale,
+                 QImage::Format_RGB32);
+  picture.setDevicePixelRatio(kScale);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  painter.setPen(Qt::black);
+  QFont bold = painter.font();
+  bold.setBold(true);
+  painter.setFont(bold);
+  const int width = kWidth - 2 * kMargin;
+  painter.drawText(QRect(kMargin, kMargin, width, kLine), Qt::AlignLeft | Qt::AlignTop,
+                   QFontMetrics(bold).elidedText(title, Qt::ElideMiddle, width));
+  bold.setBold(false);
+  painter.setFont(bold);
+  int top = kMargin + kLine;
+  for (const Stripe& stripe : stripes) {
+    painter.setPen(Qt::black);
+    painter.drawText(QRect(kMargin, top, kNames, kStripeHeight), Qt::AlignLeft | Qt::AlignVCenter,
+                     periodWords(stripe.view.period));
+    painter.drawText(QRect(kWidth - kMargin - kFigures, top, kFigures, kStripeHeight),
+                     Qt::AlignRight | Qt::AlignVCenter, uptimeOf(stripe));
+    paintStripe(painter, QRectF(kMargin + kNames, top, width - kNames - kFigures - 8, kStripeHeight), stripe, false);
+    top += kLine;
+  }
+  return picture;
+}
+
+void saveHistoryPicture(Program& program, QWidget& parent, std::int16_t idSite, std::vector<Stripe> stripes) {
+  const QString filter = QObject::tr("Picture, for a web page") + QStringLiteral(" (*.svg)|*.svg|") +
+                         QObject::tr("Picture, for a mail") + QStringLiteral(" (*.png)|*.png");
+  program.services().prompts.chooseFile(
+      {.folder = QDir::homePath().toStdString(), .filter = filter.toStdString(), .owner = &parent, .isNew = true},
+      [&program, title = displayText(checkedSite(program.data(), idSite).url), stripes = std::move(stripes)](
+          const std::string& file) { program.faults().run([&] { write(program, file, title, stripes); }); });
+}
+
+}  // namespace tarnwick
