@@ -72,6 +72,7 @@ NO_MESSAGES = {
     "src/ui/rows/sites_dialog.cpp": ("what a change would change; the guide explains it",
                                      ("Nothing is changed yet.", "All of them are so")),
     "src/ui/main_window/notice_button.cpp": ("what its key does", ("Esc puts",)),
+    "src/ui/main_window/click_rule.cpp": ("entries of a menu; the guide explains them", ()),
     "src/ui/main_window/extra_columns.cpp": ("captions and cells of the list; the guide explains them", ()),
     "src/ui/*_layout.cpp": ("labels and hints of the window; the guide explains the controls", ()),
     "src/ui/controls/option_form.cpp": ("what a page of options says of a value; the guide explains it", ()),

@@ -6214,6 +6214,14 @@
         <source>Picture, for a mail</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>O&amp;riginal Order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A Clic&amp;k on a Row</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -7124,6 +7132,21 @@ and when it is back</source>
     </message>
     <message>
         <source>Mail now goes by: the channels of the kind mail. The original exchange is not used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ClickRule</name>
+    <message>
+        <source>&amp;Opens the Site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Shows What Changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Then a double click and Enter open the site</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -6214,6 +6214,14 @@
         <source>Picture, for a mail</source>
         <translation>Bild für eine Mail</translation>
     </message>
+    <message>
+        <source>O&amp;riginal Order</source>
+        <translation>U&amp;rsprüngliche Reihenfolge</translation>
+    </message>
+    <message>
+        <source>A Clic&amp;k on a Row</source>
+        <translation>Ein &amp;Klick auf eine Zeile</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -7126,6 +7134,21 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>Mail now goes by: the channels of the kind mail. The original exchange is not used.</source>
         <translation>Mail geht jetzt über: die Kanäle der Art Mail. Der ursprüngliche Versand wird nicht benutzt.</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ClickRule</name>
+    <message>
+        <source>&amp;Opens the Site</source>
+        <translation>Ö&amp;ffnet die Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Shows What Changed</source>
+        <translation>&amp;Zeigt, was sich geändert hat</translation>
+    </message>
+    <message>
+        <source>Then a double click and Enter open the site</source>
+        <translation>Dann öffnen ein Doppelklick und die Eingabetaste die Seite</translation>
     </message>
 </context>
 <context>

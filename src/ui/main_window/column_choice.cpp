@@ -7,14 +7,13 @@
 namespace tarnwick {
 namespace {
 
-constexpr int kRememberedAfter = 500;  // milliseconds
 /// A bit for each column, from the first on.
 constexpr const char* kColumns = "listColumns";
 
 }  // namespace
 
 ColumnChoice::ColumnChoice(SiteExtras& extras, SiteGridView& grid, QMenu& menu, QObject* parent)
-    : QObject(parent), extras_(extras), grid_(grid), menu_(menu) {
+    : QObject(parent), extras_(extras), grid_(grid), menu_(menu), kept_(kColumns, [this] { return bits(); }) {
   std::size_t extra = 0;
   for (const ExtraColumn& column : extraColumns()) {
     QAction* entry = menu_.addAction(QCoreApplication::translate("tarnwick::ExtraColumns", column.header));
@@ -34,15 +33,12 @@ ColumnChoice::ColumnChoice(SiteExtras& extras, SiteGridView& grid, QMenu& menu, 
   connect(&header, &QWidget::customContextMenuRequested, this,
           [this, &header](const QPoint& place) { menu_.popup(header.viewport()->mapToGlobal(place)); });
   connect(&extras_, &SiteExtras::changed, &grid_, &SiteGridView::repaintExtraColumns);
-  later_.setSingleShot(true);
-  later_.setInterval(kRememberedAfter);
-  connect(&later_, &QTimer::timeout, this, &ColumnChoice::remember);
 }
 
 void ColumnChoice::show(std::size_t extra, bool isShown) {
   grid_.showExtraColumn(extra, isShown);
   extras_.show(shown());
-  later_.start();
+  kept_.change();
 }
 
 void ColumnChoice::showNone() {
@@ -62,22 +58,18 @@ std::set<std::size_t> ColumnChoice::shown() const {
 }
 
 void ColumnChoice::rememberIn(UserHabits& habits) {
-  const auto bits = static_cast<unsigned>(habits.remembered(kColumns).value_or(0));
+  const auto bits = static_cast<unsigned>(kept_.keepIn(habits).value_or(0));
   for (std::size_t extra = 0; extra < entries_.size(); ++extra) {
     entries_[extra]->setChecked((bits >> extra & 1U) != 0);
   }
-  later_.stop();
-  habits_ = &habits;
 }
 
-void ColumnChoice::remember() {
+int ColumnChoice::bits() const {
   unsigned bits = 0;
   for (const std::size_t extra : shown()) {
     bits |= 1U << extra;
   }
-  if (habits_ != nullptr) {
-    habits_->remember(kColumns, static_cast<int>(bits));
-  }
+  return static_cast<int>(bits);
 }
 
 }  // namespace tarnwick

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <set>
+#include <vector>
 #include <QMenu>
 #include <QObject>
-#include <QTimer>
 
-#include "platform/user_habits.h"
+#include "ui/main_window/kept_habit.h"
 #include "ui/main_window/site_extras.h"
 #include "ui/main_window/site_grid_view.h"
 
@@ -28,14 +29,13 @@ class ColumnChoice final : public QObject {
   void show(std::size_t extra, bool isShown);
   void showNone();
   std::set<std::size_t> shown() const;
-  void remember();
+  int bits() const;
 
   SiteExtras& extras_;
   SiteGridView& grid_;
   QMenu& menu_;
   std::vector<QAction*> entries_;
-  UserHabits* habits_ = nullptr;
-  QTimer later_;
+  KeptHabit kept_;
 };
 
 }  // namespace tarnwick

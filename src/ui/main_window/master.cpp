@@ -19,6 +19,7 @@
 #include "ui/controls/page_opener.h"
 #include "ui/controls/program_file.h"
 #include "ui/main_window/address_paste.h"
+#include "ui/main_window/click_rule.h"
 #include "ui/main_window/column_choice.h"
 #include "ui/main_window/damage_box.h"
 #include "ui/main_window/first_steps.h"
@@ -69,9 +70,10 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   details_->addTo(menu_->rowMenu(), menu_->actions().undoList());
   new UndoNotice(menu_->actions(), *controls_.noticeBar, *controls_.undo, *controls_.grid1, this);
   connect(marks_, &AlarmMarks::pauseRead, notices_, &Notices::tellPaused);
-  auto* search = new SiteSearch(program_, *controls_.grid1, controls_.search, this);
-  connect(extras_, &SiteExtras::sorted, search, &SiteSearch::renewSoon);
+  search_ = new SiteSearch(program_, *controls_.grid1, controls_.search, *controls_.originalOrder, this);
+  connect(extras_, &SiteExtras::sorted, search_, &SiteSearch::renewSoon);
   columns_ = new ColumnChoice(*extras_, *controls_.grid1, *controls_.columns, this);
+  click_ = new ClickRule(*controls_.grid1, *controls_.clickRule, this);
   steps_ = new FirstSteps(program_, *controls_.grid1, *controls_.noticeBar);
   steps_->setChooseHow([this] {
     if (editors_.channels) {
@@ -98,6 +100,8 @@ Master::~Master() {
 void Master::rememberIn(UserHabits& habits) {
   details_->rememberIn(habits);
   columns_->rememberIn(habits);
+  click_->rememberIn(habits);
+  search_->rememberIn(habits);
 }
 
 bool Master::load() {

@@ -21,6 +21,7 @@
 
 namespace tarnwick {
 
+class ClickRule;
 class ColumnChoice;
 class FirstSteps;
 class SiteExtras;
@@ -122,6 +123,8 @@ class Master final : public QMainWindow, public RunView {
   AlarmMarks* marks_ = nullptr;
   SiteExtras* extras_ = nullptr;
   ColumnChoice* columns_ = nullptr;
+  ClickRule* click_ = nullptr;
+  SiteSearch* search_ = nullptr;
   DetailsArea* details_ = nullptr;
   SiteMenu* menu_ = nullptr;
   FirstSteps* steps_ = nullptr;

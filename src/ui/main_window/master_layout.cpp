@@ -51,6 +51,10 @@ void makeListMenu(QWidget& canvas, MasterControls& controls) {
   auto* menu = new QMenu(controls.listButton);
   controls.columns = menu->addMenu(QObject::tr("&Columns"));
   controls.columns->setObjectName(QStringLiteral("columns"));
+  controls.originalOrder = menu->addAction(QObject::tr("O&riginal Order"));
+  controls.originalOrder->setObjectName(QStringLiteral("originalOrder"));
+  controls.clickRule = menu->addMenu(QObject::tr("A Clic&k on a Row"));
+  controls.clickRule->setObjectName(QStringLiteral("clickRule"));
   menu->addSeparator();
   controls.addAddresses = menu->addAction(QObject::tr("&Add Addresses…") + QLatin1Char('\t') +
                                           QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText));

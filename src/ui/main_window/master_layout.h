@@ -41,6 +41,8 @@ struct MasterControls {
   /// What is done with the list as a whole, as a menu.
   QPushButton* listButton;
   QMenu* columns;
+  QAction* originalOrder;
+  QMenu* clickRule;
   QAction* addAddresses;
   QAction* importList;
   QAction* exportList;

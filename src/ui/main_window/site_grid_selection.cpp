@@ -171,9 +171,15 @@ void SiteGridView::onClick(const QModelIndex& cell) {
   }
   const bool onIcon =
       cell.column() == SiteGridModel::idColumn && pressed_.x() < visualRect(cell).left() + SiteRowDelegate::kIconRoom;
-  if (onIcon) {
+  if (onIcon || click_ == Click::showsDetails) {
     Q_EMIT detailsWanted(listRow(cell));
   } else {
+    Q_EMIT rowChosen(listRow(cell));
+  }
+}
+
+void SiteGridView::onDoubleClick(const QModelIndex& cell) {
+  if (click_ == Click::showsDetails && pressedWith_ == Qt::NoModifier) {
     Q_EMIT rowChosen(listRow(cell));
   }
 }

@@ -44,6 +44,7 @@ SiteGridView::SiteGridView(SiteGridModel& model, QWidget* parent) : QTableView(p
   horizontalHeader()->viewport()->installEventFilter(this);
   setContextMenuPolicy(Qt::CustomContextMenu);
   connect(this, &QTableView::clicked, this, &SiteGridView::onClick);
+  connect(this, &QTableView::doubleClicked, this, &SiteGridView::onDoubleClick);
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &SiteGridView::captionClicked);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this, &SiteGridView::keepRoomForAddresses);
 }

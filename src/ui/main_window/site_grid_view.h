@@ -26,6 +26,13 @@ class SiteGridView final : public QTableView {
   /// the last one belongs to the column behind the last.
   QString columnToolTip(int column) const;
 
+  /// What a click on one of the original cells does, beside that on the icon.
+  enum class Click {
+    opensSite,
+    showsDetails,  ///< then a double click opens the site
+  };
+  void setClick(Click click) { click_ = click; }
+
   /// Shows one of `extraColumns()`, or hides it. With any of them the addresses keep a room of their own, and the list
   /// scrolls sideways where there is no more.
   void showExtraColumn(std::size_t extra, bool isShown);
@@ -77,7 +84,7 @@ class SiteGridView final : public QTableView {
   /// A data row was clicked, or Enter was pressed on it: its row in the list. A click that only chooses rows, with Ctrl
   /// or Shift or on a further column, is none.
   void rowChosen(int row);
-  /// The icon of a row was clicked: somebody wants to know what has changed there.
+  /// The icon of a row was clicked, or another cell that does the same: somebody wants to know what has changed there.
   void detailsWanted(int row);
   /// Somebody drops or pastes addresses, one a line.
   void addressesGiven(const QString& text);
@@ -110,6 +117,7 @@ class SiteGridView final : public QTableView {
   void selectShown(int shownRow);
   void keepChosen(const std::function<void()>& change);
   void onClick(const QModelIndex& cell);
+  void onDoubleClick(const QModelIndex& cell);
   void shareRoom();
   void setRowHeight();
   void followMouse(int x);
@@ -119,6 +127,7 @@ class SiteGridView final : public QTableView {
   SiteGridModel& sites_;
   SiteOrder order_;
   std::function<QString(std::int16_t)> reasons_;
+  Click click_ = Click::opensSite;
   QPoint pressed_;
   Qt::KeyboardModifiers pressedWith_;
   int stretched_ = 0;

@@ -2,6 +2,7 @@
 #include "ui/main_window/site_search.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <exception>
 #include <stdexcept>
 #include <QApplication>
@@ -37,13 +38,16 @@ SearchControls makeSearch(QWidget& canvas) {
   return controls;
 }
 
-SiteSearch::SiteSearch(Program& program, SiteGridView& grid, const SearchControls& controls, QObject* parent)
+SiteSearch::SiteSearch(Program& program, SiteGridView& grid, const SearchControls& controls, QAction& originalOrder,
+                       QObject* parent)
     : QObject(parent),
       program_(program),
       grid_(grid),
       controls_(controls),
       nothingFound_(named(new QLabel(tr("No site matches."), grid.viewport()), "nothingFound")),
-      showAllSites_(named(new QPushButton(tr("Show All Sites"), grid.viewport()), "showAllSites")) {
+      showAllSites_(named(new QPushButton(tr("Show All Sites"), grid.viewport()), "showAllSites")),
+      originalOrder_(originalOrder),
+      kept_("listSort", [this] { return sortedBy(); }) {
   connect(showAllSites_, &QPushButton::clicked, this, [this] {
     find({});
     grid_.setFocus();
@@ -51,8 +55,10 @@ SiteSearch::SiteSearch(Program& program, SiteGridView& grid, const SearchControl
   connect(controls_.filterEdit, &QLineEdit::textChanged, this, &SiteSearch::findTyped);
   connect(controls_.filterEdit, &FilterEdit::left, &grid_, [this] { grid_.setFocus(); });
   connect(controls_.sortChip, &QPushButton::clicked, this, &SiteSearch::endSorting);
+  connect(&originalOrder_, &QAction::triggered, this, &SiteSearch::endSorting);
+  originalOrder_.setEnabled(false);
   connect(&grid_, &SiteGridView::hiddenSiteWanted, this, [this] { find({}); });
-  connect(&grid_, &SiteGridView::captionClicked, this, &SiteSearch::sortBy);
+  connect(&grid_, &SiteGridView::captionClicked, this, &SiteSearch::sortByNext);
   connect(grid_.horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int /*old*/, int width) {
     if (width == 0 && column == grid_.order().sortColumn()) {
       endSorting();  // nobody sees by what any more
@@ -85,16 +91,20 @@ void SiteSearch::findTyped() {
 }
 
 // Up, down, and the original order again.
-void SiteSearch::sortBy(int column) {
-  SiteOrder& order = grid_.order();
+void SiteSearch::sortByNext(int column) {
+  const SiteOrder& order = grid_.order();
   if (order.sortColumn() != column) {
-    grid_.changeOrder([&] { order.sortBy(column, Qt::AscendingOrder); });
+    sortBy(column, Qt::AscendingOrder);
   } else if (order.sortOrder() == Qt::AscendingOrder) {
-    grid_.changeOrder([&] { order.sortBy(column, Qt::DescendingOrder); });
+    sortBy(column, Qt::DescendingOrder);
   } else {
     endSorting();
-    return;
   }
+}
+
+void SiteSearch::sortBy(int column, Qt::SortOrder sortOrder) {
+  SiteOrder& order = grid_.order();
+  grid_.changeOrder([&] { order.sortBy(column, sortOrder); });
   QHeaderView& header = *grid_.horizontalHeader();
   header.setSortIndicator(column, order.sortOrder());
   header.setSortIndicatorShown(true);
@@ -105,6 +115,22 @@ void SiteSearch::sortBy(int column) {
   controls_.sortChip->setToolTip(
       plainToolTip(tr("Sorted by %1").arg(caption) + QLatin1Char('\n') + tr("Show the original order again")));
   controls_.sortChip->show();
+  originalOrder_.setEnabled(true);
+  kept_.change();
+}
+
+// 0 in the original order, else the number of the column, from 1 on, which is negative while it falls.
+int SiteSearch::sortedBy() const {
+  const int column = grid_.order().sortColumn() + 1;
+  return grid_.order().sortOrder() == Qt::AscendingOrder ? column : -column;
+}
+
+void SiteSearch::rememberIn(UserHabits& habits) {
+  const int sorted = kept_.keepIn(habits).value_or(0);
+  const int column = std::abs(sorted) - 1;
+  if (column >= 0 && column < grid_.order().columnCount() && !grid_.isColumnHidden(column)) {
+    sortBy(column, sorted > 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+  }
 }
 
 void SiteSearch::endSorting() {
@@ -114,6 +140,8 @@ void SiteSearch::endSorting() {
   grid_.changeOrder([this] { grid_.order().sortBy(-1, Qt::AscendingOrder); });
   grid_.horizontalHeader()->setSortIndicatorShown(false);
   controls_.sortChip->hide();
+  originalOrder_.setEnabled(false);
+  kept_.change();
 }
 
 void SiteSearch::renewSoon() {

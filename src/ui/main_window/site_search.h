@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QAction>
 #include <QLabel>
 #include <QObject>
 #include <QPushButton>
@@ -8,6 +9,7 @@
 
 #include "program/program.h"
 #include "ui/main_window/filter_edit.h"
+#include "ui/main_window/kept_habit.h"
 #include "ui/main_window/site_grid_view.h"
 
 namespace tarnwick {
@@ -29,16 +31,21 @@ class SiteSearch final : public QObject {
 
  public:
   /// All outlive this object but for `parent`, which is its owner.
-  SiteSearch(Program& program, SiteGridView& grid, const SearchControls& controls, QObject* parent);
+  SiteSearch(Program& program, SiteGridView& grid, const SearchControls& controls, QAction& originalOrder,
+             QObject* parent);
 
   /// Finds what the line says, in place of what is typed.
   void find(const QString& line);
   /// The list has changed: it is looked at again soon, but not under somebody's hand.
   void renewSoon();
+  /// Sorts as it was sorted when the window was there last, and remembers how it is sorted from now on.
+  void rememberIn(UserHabits& habits);
 
  private:
   void findTyped();
-  void sortBy(int column);
+  void sortByNext(int column);
+  void sortBy(int column, Qt::SortOrder order);
+  int sortedBy() const;
   void endSorting();
   void renew();
   void tellCount();
@@ -52,7 +59,9 @@ class SiteSearch final : public QObject {
   // In the rows' place where the filter finds nothing.
   QLabel* nothingFound_;
   QPushButton* showAllSites_;
+  QAction& originalOrder_;
   QTimer soon_;
+  KeptHabit kept_;
 };
 
 }  // namespace tarnwick

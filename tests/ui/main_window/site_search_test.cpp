@@ -9,6 +9,7 @@
 #include <QHeaderView>
 
 #include "ui/support/master_fixture.h"
+#include "ui/support/played_habits.h"
 
 namespace tarnwick {
 namespace {
@@ -143,6 +144,40 @@ TEST_F(SiteSearchTest, AClickOnACaptionSortsUpThenDownThenNotAtAll) {
   EXPECT_EQ(shown(), "12 9 3");
   click("sortChip");
   EXPECT_EQ(shown(), "3 9 12");
+}
+
+TEST_F(SiteSearchTest, TheMenuOfTheListGivesTheOriginalOrderBack) {
+  openThree();
+  auto& original = find<QAction>("originalOrder");
+  EXPECT_FALSE(original.isEnabled());
+  clickCaption(SiteGridModel::timeColumn);
+  ASSERT_EQ(shown(), "12 9 3");
+  original.trigger();
+  EXPECT_EQ(shown(), "3 9 12");
+  EXPECT_FALSE(original.isEnabled());
+}
+
+TEST_F(SiteSearchTest, TheOrderIsRemembered) {
+  testing::PlayedHabits habits;
+  habits.numbers["listSort"] = -(SiteGridModel::downColumn + 1);
+  openThree();
+  master->rememberIn(habits);
+  EXPECT_EQ(shown(), "3 9 12");
+  EXPECT_EQ(find<QPushButton>("sortChip").text(), QStringLiteral("Sorted by Down ✕"));
+  clickCaption(SiteGridModel::upColumn);
+  EXPECT_EQ(shown(), "12 3 9");
+  EXPECT_TRUE(testing::waitUntil([&] { return habits.numbers["listSort"] == SiteGridModel::upColumn + 1; }));
+  click("sortChip");
+  EXPECT_TRUE(testing::waitUntil([&] { return habits.numbers["listSort"] == 0; }));
+}
+
+TEST_F(SiteSearchTest, AnOrderByAColumnThatIsNotShownIsForgotten) {
+  testing::PlayedHabits habits;
+  habits.numbers["listSort"] = 9;
+  openThree();
+  master->rememberIn(habits);
+  EXPECT_EQ(shown(), "3 9 12");
+  EXPECT_FALSE(find<QPushButton>("sortChip").isVisible());
 }
 
 TEST_F(SiteSearchTest, WhatItIsSortedByGivesWayToLargeLetters) {
