@@ -6222,6 +6222,10 @@
         <source>A Clic&amp;k on a Row</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;History of All Sites…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -7829,6 +7833,57 @@ and when it is back</source>
     </message>
 </context>
 <context>
+    <name>tarnwick::HistoryWindow</name>
+    <message>
+        <source>Filter the sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which period is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites, the worst first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>History of All Sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter: down, never, tag:shop …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the stripes into a picture, SVG or PNG</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter, or a double click, shows the history of a site alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>History of All Sites, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::HoleTableModel</name>
     <message>
         <source>digits</source>
@@ -8723,6 +8778,21 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>soon</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::OverviewList</name>
+    <message>
+        <source>ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

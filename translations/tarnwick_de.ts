@@ -6222,6 +6222,10 @@
         <source>A Clic&amp;k on a Row</source>
         <translation>Ein &amp;Klick auf eine Zeile</translation>
     </message>
+    <message>
+        <source>&amp;History of All Sites…</source>
+        <translation>Ver&amp;lauf aller Seiten…</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -7830,6 +7834,57 @@ und wenn sie wieder da ist</translation>
     </message>
 </context>
 <context>
+    <name>tarnwick::HistoryWindow</name>
+    <message>
+        <source>Filter the sites</source>
+        <translation>Seiten filtern</translation>
+    </message>
+    <message>
+        <source>Which period is shown</source>
+        <translation>Welcher Zeitraum gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Sites, the worst first</source>
+        <translation>Seiten, die schlechteste zuerst</translation>
+    </message>
+    <message>
+        <source>History of All Sites</source>
+        <translation>Verlauf aller Seiten</translation>
+    </message>
+    <message>
+        <source>Filter: down, never, tag:shop …</source>
+        <translation>Filter: down, never, tag:shop …</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Sichern…</translation>
+    </message>
+    <message>
+        <source>Write the stripes into a picture, SVG or PNG</source>
+        <translation>Die Streifen in ein Bild schreiben, SVG oder PNG</translation>
+    </message>
+    <message>
+        <source>Enter, or a double click, shows the history of a site alone</source>
+        <translation>Eingabe oder Doppelklick zeigt den Verlauf einer Seite allein</translation>
+    </message>
+    <message>
+        <source>%1 of %2 …</source>
+        <translation>%1 von %2 …</translation>
+    </message>
+    <message>
+        <source>1 site</source>
+        <translation>1 Seite</translation>
+    </message>
+    <message>
+        <source>%1 sites</source>
+        <translation>%1 Seiten</translation>
+    </message>
+    <message>
+        <source>History of All Sites, %1</source>
+        <translation>Verlauf aller Seiten, %1</translation>
+    </message>
+</context>
+<context>
     <name>tarnwick::HoleTableModel</name>
     <message>
         <source>digits</source>
@@ -8727,6 +8782,21 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>soon</source>
         <translation>gleich</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::OverviewList</name>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Gut</translation>
     </message>
 </context>
 <context>

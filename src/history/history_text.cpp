@@ -109,17 +109,21 @@ std::string_view blockOf(const TimeSum& cell) {
 }
 
 std::string stripesAsSvg(std::string_view title, const std::vector<StripeOfPicture>& stripes) {
-  constexpr int kWidth = 720;
-  constexpr int kLabel = 70;
   constexpr int kStripe = 560;
+  constexpr int kFigure = 90;
+  constexpr std::size_t kLetter = 7;
+  std::size_t longest = 10;
+  for (const StripeOfPicture& stripe : stripes) {
+    longest = std::max(longest, stripe.label.size());
+  }
+  const int label = static_cast<int>(longest * kLetter);
+  const int width = label + kStripe + kFigure;
   constexpr int kHeight = 22;
   constexpr int kStep = 32;
   constexpr int kTop = 34;
   const int height = kTop + kStep * static_cast<int>(stripes.size());
-  std::string svg = formatted(
-      "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%d\" height=\"%d\" viewBox=\"0 0 %d %d\" "
-      "font-family=\"sans-serif\"",
-      kWidth, height, kWidth, height);
+  std::string svg = formatted("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%d\" height=\"%d\" ", width, height) +
+                    formatted("viewBox=\"0 0 %d %d\" font-family=\"sans-serif\"", width, height);
   svg +=
       " font-size=\"13\">\n<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n<text x=\"4\" y=\"20\" "
       "font-weight=\"bold\">";
@@ -127,16 +131,16 @@ std::string stripesAsSvg(std::string_view title, const std::vector<StripeOfPictu
   int y = kTop;
   for (const StripeOfPicture& stripe : stripes) {
     svg += formatted("<text x=\"4\" y=\"%d\">", y + 16) + escaped(stripe.label) + "</text>\n";
-    const double width =
+    const double cellWidth =
         static_cast<double>(kStripe) / static_cast<double>(std::max<std::size_t>(1, stripe.cells.size()));
-    double x = kLabel;
+    double x = label;
     for (const TimeSum& cell : stripe.cells) {
-      svg += formatted("<rect x=\"%.2f\" y=\"%d\" width=\"%.2f\" height=\"%d\" fill=\"", x, y, std::max(1.0, width - 1),
-                       kHeight) +
+      svg += formatted("<rect x=\"%.2f\" y=\"%d\" width=\"%.2f\" height=\"%d\" fill=\"", x, y,
+                       std::max(1.0, cellWidth - 1), kHeight) +
              std::string(colourOf(cell)) + "\"/>\n";
-      x += width;
+      x += cellWidth;
     }
-    svg += formatted("<text x=\"%d\" y=\"%d\" text-anchor=\"end\">", kWidth - 4, y + 16) + escaped(stripe.uptime) +
+    svg += formatted("<text x=\"%d\" y=\"%d\" text-anchor=\"end\">", width - 4, y + 16) + escaped(stripe.uptime) +
            "</text>\n";
     y += kStep;
   }

@@ -52,7 +52,7 @@ ROOMS = {
     "ui/rows": WINDOW,
     "ui/history": WINDOW,
     "ui/details": (*WINDOW, "ui/history"),
-    "ui/main_window": (*WINDOW, "ui/rows", "ui/details"),
+    "ui/main_window": (*WINDOW, "ui/rows", "ui/history", "ui/details"),
     "app": None,  # puts together whatever there is
 }
 # What reads the files of other programs.

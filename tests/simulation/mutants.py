@@ -99,7 +99,7 @@ MUTANTS = (
     Mutant("the report counts an error too many", "report/daily_report.cpp", "select count(*) as [Total Errors]",
            "select count(*) + 1 as [Total Errors]"),
     Mutant("a failed fetch becomes the baseline where only pages may", "engine/result_recording.cpp",
-           "FirstBaseline::anything || errCode == 0)", "FirstBaseline::anything || errCode >= 0)"),
+           "!site.hasBaseline && first == FirstBaseline::anything;", "!site.hasBaseline;"),
     Mutant("the time-out of the settings is ignored", "engine/inet_pool.cpp", "  request.timeout = timeout_;\n",
            "  request.timeout = kDefaultRequestTimeout;\n"),
     Mutant("Stop waits for a mail", "engine/run_controller.cpp", "  needs_.alerts.giveUpMail();\n", ""),
@@ -126,7 +126,7 @@ MUTANTS = (
     Mutant("a result is given up where the list is locked for long", "engine/write_turn.cpp",
            "      guard_(kSource, [&] { throw refusal; });\n", "      throw refusal;\n"),
     Mutant("what other programs change is not noticed", "platform/sqlite/sqlite_database.cpp",
-           " && endOfOpenLog(handle()) == logEnd_;", ";"),
+           "  if (logEnd_ && endOfOpenLog(handle()) == logEnd_) {", "  if (logEnd_) {"),
 )
 
 

@@ -42,6 +42,7 @@ class DetailsPane final : public QWidget {
   /// Shows what the first failed check from a time on has brought, in the place of the latest page, until another tab
   /// is turned to.
   void showFailure(LocalTime since);
+  void showHistory() { tabs_->setCurrentWidget(history_); }
   /// Settles the site that is shown, as the buttons do.
   void accept();
   void acknowledge();

@@ -13,6 +13,7 @@
 #include "history/history_text.h"
 #include "store/option_table.h"
 #include "ui/controls/dialog_parts.h"
+#include "ui/controls/display_text.h"
 #include "ui/controls/row_table.h"
 #include "ui/history/history_picture.h"
 
@@ -234,13 +235,13 @@ void HistoryPage::save() {
   if (!idSite_ || stripes_.empty()) {
     return;
   }
-  std::vector<Stripe> shown;
+  std::vector<NamedStripe> shown;
   for (std::size_t period = 0; period < stripes_.size(); ++period) {
     if (isShown(period)) {
-      shown.push_back(stripes_[period]);
+      shown.push_back({periodWords(stripes_[period].view.period), stripes_[period]});
     }
   }
-  saveHistoryPicture(program_, *window(), *idSite_, std::move(shown));
+  saveHistoryPicture(program_, *window(), displayText(checkedSite(program_.data(), *idSite_).url), std::move(shown));
 }
 
 }  // namespace tarnwick

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/history/history_picture.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 #include <QBuffer>
@@ -8,16 +9,16 @@
 #include <QPainter>
 
 #include "history/history_text.h"
-#include "ui/controls/display_text.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr double kScale = 2;
-constexpr int kWidth = 720;
+constexpr int kStripe = 560;
 constexpr int kMargin = 12;
 constexpr int kLine = 28;
-constexpr int kNames = 80;
+constexpr int kLeastNames = 80;
+constexpr int kMostNames = 300;
 constexpr int kFigures = 80;
 
 QString uptimeOf(const Stripe& stripe) { return QString::fromStdString(uptimeText(stripe.view.whole().uptime())); }
@@ -30,16 +31,18 @@ std::string asPng(const QImage& picture) {
   return bytes.toStdString();
 }
 
-std::string asSvg(const QString& title, const std::vector<Stripe>& stripes) {
+std::string asSvg(const QString& title, const std::vector<NamedStripe>& stripes) {
+  constexpr qsizetype kMostLetters = 60;
   std::vector<StripeOfPicture> parts;
   parts.reserve(stripes.size());
-  for (const Stripe& stripe : stripes) {
-    parts.push_back({periodWords(stripe.view.period).toStdString(), uptimeOf(stripe).toStdString(), stripe.view.cells});
+  for (const auto& [name, stripe] : stripes) {
+    const QString shown = name.size() > kMostLetters ? name.left(kMostLetters - 1) + QStringLiteral("…") : name;
+    parts.push_back({shown.toStdString(), uptimeOf(stripe).toStdString(), stripe.view.cells});
   }
   return stripesAsSvg(title.toStdString(), parts);
 }
 
-void write(Program& program, const std::string& file, const QString& title, const std::vector<Stripe>& stripes) {
+void write(Program& program, const std::string& file, const QString& title, const std::vector<NamedStripe>& stripes) {
   const QString name = QString::fromStdString(file);
   std::string bytes;
   if (name.endsWith(QLatin1String(".png"), Qt::CaseInsensitive)) {
@@ -70,41 +73,45 @@ void write(Program& program, const std::string& file, const QString& title, cons
 
 }  // namespace
 
-QImage pictureOf(const QString& title, const std::vector<Stripe>& stripes) {
-  QImage picture(QSize(kWidth, 2 * kMargin + kLine * (static_cast<int>(stripes.size()) + 1)) * kScale,
+QImage pictureOf(const QString& title, const std::vector<NamedStripe>& stripes) {
+  QFont font;
+  QFont bold = font;
+  bold.setBold(true);
+  int names = kLeastNames;
+  for (const NamedStripe& named : stripes) {
+    names = std::clamp(QFontMetrics(font).horizontalAdvance(named.name) + 8, names, kMostNames);
+  }
+  const int width = names + kStripe + kFigures;
+  QImage picture(QSize(width + 2 * kMargin, 2 * kMargin + kLine * (static_cast<int>(stripes.size()) + 1)) * kScale,
                  QImage::Format_RGB32);
   picture.setDevicePixelRatio(kScale);
   picture.fill(Qt::white);
   QPainter painter(&picture);
   painter.setPen(Qt::black);
-  QFont bold = painter.font();
-  bold.setBold(true);
   painter.setFont(bold);
-  const int width = kWidth - 2 * kMargin;
   painter.drawText(QRect(kMargin, kMargin, width, kLine), Qt::AlignLeft | Qt::AlignTop,
                    QFontMetrics(bold).elidedText(title, Qt::ElideMiddle, width));
-  bold.setBold(false);
-  painter.setFont(bold);
+  painter.setFont(font);
   int top = kMargin + kLine;
-  for (const Stripe& stripe : stripes) {
-    painter.setPen(Qt::black);
-    painter.drawText(QRect(kMargin, top, kNames, kStripeHeight), Qt::AlignLeft | Qt::AlignVCenter,
-                     periodWords(stripe.view.period));
-    painter.drawText(QRect(kWidth - kMargin - kFigures, top, kFigures, kStripeHeight),
-                     Qt::AlignRight | Qt::AlignVCenter, uptimeOf(stripe));
-    paintStripe(painter, QRectF(kMargin + kNames, top, width - kNames - kFigures - 8, kStripeHeight), stripe, false);
+  for (const auto& [name, stripe] : stripes) {
+    painter.drawText(QRect(kMargin, top, names, kStripeHeight), Qt::AlignLeft | Qt::AlignVCenter,
+                     QFontMetrics(font).elidedText(name, Qt::ElideMiddle, names - 8));
+    painter.drawText(QRect(kMargin + width - kFigures, top, kFigures, kStripeHeight), Qt::AlignRight | Qt::AlignVCenter,
+                     uptimeOf(stripe));
+    paintStripe(painter, QRectF(kMargin + names, top, kStripe, kStripeHeight), stripe, false);
     top += kLine;
   }
   return picture;
 }
 
-void saveHistoryPicture(Program& program, QWidget& parent, std::int16_t idSite, std::vector<Stripe> stripes) {
+void saveHistoryPicture(Program& program, QWidget& parent, const QString& title, std::vector<NamedStripe> stripes) {
   const QString filter = QObject::tr("Picture, for a web page") + QStringLiteral(" (*.svg)|*.svg|") +
                          QObject::tr("Picture, for a mail") + QStringLiteral(" (*.png)|*.png");
   program.services().prompts.chooseFile(
       {.folder = QDir::homePath().toStdString(), .filter = filter.toStdString(), .owner = &parent, .isNew = true},
-      [&program, title = displayText(checkedSite(program.data(), idSite).url), stripes = std::move(stripes)](
-          const std::string& file) { program.faults().run([&] { write(program, file, title, stripes); }); });
+      [&program, title, stripes = std::move(stripes)](const std::string& file) {
+        program.faults().run([&] { write(program, file, title, stripes); });
+      });
 }
 
 }  // namespace tarnwick

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
 #include <QImage>
@@ -13,10 +12,16 @@
 
 namespace tarnwick {
 
+/// A stripe with what stands before it.
+struct NamedStripe {
+  QString name;
+  Stripe stripe;
+};
+
 /// A picture of stripes, one below the other, under a title; on a light ground, twice as fine as on the screen.
-QImage pictureOf(const QString& title, const std::vector<Stripe>& stripes);
+QImage pictureOf(const QString& title, const std::vector<NamedStripe>& stripes);
 
 /// Asks for a file, whose name ends in .svg or .png, and writes them into it. `parent` is the window that waits.
-void saveHistoryPicture(Program& program, QWidget& parent, std::int16_t idSite, std::vector<Stripe> stripes);
+void saveHistoryPicture(Program& program, QWidget& parent, const QString& title, std::vector<NamedStripe> stripes);
 
 }  // namespace tarnwick

@@ -181,6 +181,12 @@ void DetailsArea::show(std::int16_t idSite) {
   open();
 }
 
+void DetailsArea::showHistory(std::int16_t idSite) {
+  show(idSite);
+  pane_->showHistory();
+  bringToFront(*canvas_.window());
+}
+
 void DetailsArea::toggle() { pane_->isVisible() ? close() : open(); }
 
 void DetailsArea::open() {

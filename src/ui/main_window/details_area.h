@@ -31,6 +31,7 @@ class DetailsArea final : public QObject {
 
   /// Shows the details of that site.
   void show(std::int16_t idSite);
+  void showHistory(std::int16_t idSite);
   void toggle();
   SiteSettling& settling() { return *settling_; }
   /// Adds to the menu of a row what this does, and to `undo` what is accepted. Both outlive this.

@@ -18,6 +18,7 @@
 #include "ui/controls/display_text.h"
 #include "ui/controls/page_opener.h"
 #include "ui/controls/program_file.h"
+#include "ui/history/history_window.h"
 #include "ui/main_window/address_paste.h"
 #include "ui/main_window/click_rule.h"
 #include "ui/main_window/column_choice.h"
@@ -72,6 +73,10 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   connect(marks_, &AlarmMarks::pauseRead, notices_, &Notices::tellPaused);
   search_ = new SiteSearch(program_, *controls_.grid1, controls_.search, *controls_.originalOrder, this);
   connect(extras_, &SiteExtras::sorted, search_, &SiteSearch::renewSoon);
+  const HistorySites sites{.find = [this](const QString& line) { return search_->sitesFoundBy(line); },
+                           .show = [this](std::int16_t idSite) { details_->showHistory(idSite); }};
+  connect(controls_.history, &QAction::triggered, this,
+          [this, open = historyOf(program_, *this, sites)] { program_.faults().run([&] { open(); }); });
   columns_ = new ColumnChoice(*extras_, *controls_.grid1, *controls_.columns, this);
   click_ = new ClickRule(*controls_.grid1, *controls_.clickRule, this);
   steps_ = new FirstSteps(program_, *controls_.grid1, *controls_.noticeBar);

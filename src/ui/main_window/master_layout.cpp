@@ -63,11 +63,14 @@ void makeListMenu(QWidget& canvas, MasterControls& controls) {
   controls.importList->setObjectName(QStringLiteral("importList"));
   controls.exportList = menu->addAction(QObject::tr("&Export…"));
   controls.exportList->setObjectName(QStringLiteral("exportList"));
+  controls.history = menu->addAction(QObject::tr("&History of All Sites…"));
+  controls.history->setObjectName(QStringLiteral("historyOfAll"));
+  controls.history->setShortcut(Qt::CTRL | Qt::Key_H);
   controls.outbox = menu->addAction(QObject::tr("&Outbox…"));
   controls.outbox->setObjectName(QStringLiteral("outbox"));
   controls.outbox->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_O);
-  // Its key holds in the window, not in the menu alone.
-  canvas.addAction(controls.outbox);
+  // Their keys hold in the window, not in the menu alone.
+  canvas.addActions({controls.history, controls.outbox});
   controls.pauseAll = menu->addMenu(QObject::tr("&Pause All"));
   controls.pauseAll->setObjectName(QStringLiteral("pauseAll"));
   menu->addSeparator();

@@ -46,6 +46,7 @@ struct MasterControls {
   QAction* addAddresses;
   QAction* importList;
   QAction* exportList;
+  QAction* history;
   QAction* outbox;
   QMenu* pauseAll;
   QAction* undo;

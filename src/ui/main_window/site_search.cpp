@@ -83,7 +83,7 @@ void SiteSearch::findTyped() {
   try {
     const SiteQuery query(controls_.filterEdit->text().toStdString());
     controls_.filterEdit->setFault({});
-    grid_.changeOrder([&] { grid_.order().find(query, moment()); });
+    grid_.changeOrder([&] { grid_.order().find(query, moment(controls_.filterEdit->text())); });
   } catch (const std::invalid_argument& fault) {
     controls_.filterEdit->setFault(displayMessage(fault.what()));
   }
@@ -156,23 +156,36 @@ void SiteSearch::renew() {
     return;
   }
   if (grid_.order().isFiltered() || grid_.order().isSorted()) {
-    grid_.changeOrder([this] { grid_.order().renew(moment()); });
+    grid_.changeOrder([this] { grid_.order().renew(moment(controls_.filterEdit->text())); });
   }
   tellCount();
 }
 
-SiteOrder::Moment SiteSearch::moment() {
+SiteOrder::Moment SiteSearch::moment(const QString& line) {
   SiteOrder::Moment moment{.now = program_.services().clock.localNow()};
   try {
     moment.runIsOn = program_.run().running();
     moment.newSitesAtOnce = program_.data().optionsInForce().newSitesAtOnce();
-    if (controls_.filterEdit->text().contains(QLatin1String("tag:"), Qt::CaseInsensitive)) {
+    if (line.contains(QLatin1String("tag:"), Qt::CaseInsensitive)) {
       moment.tags = program_.data().tagsOfSites();
     }
   } catch (const std::exception&) {
     // That the list cannot be read is told elsewhere.
   }
   return moment;
+}
+
+std::vector<std::int16_t> SiteSearch::sitesFoundBy(const QString& line) {
+  SiteOrder order(static_cast<SiteGridModel&>(*grid_.order().sourceModel()));
+  order.find(SiteQuery(line.toStdString()), moment(line));
+  std::vector<std::int16_t> ids;
+  for (int row = 0; row < order.rowCount(); ++row) {
+    if (const auto idSite = grid_.sites().siteOfRow(order.listRow(row))) {
+      ids.push_back(*idSite);
+    }
+  }
+  std::ranges::sort(ids);
+  return ids;
 }
 
 void SiteSearch::tellCount() {

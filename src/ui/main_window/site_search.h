@@ -8,7 +8,7 @@
 #include <QTimer>
 
 #include "program/program.h"
-#include "ui/main_window/filter_edit.h"
+#include "ui/controls/filter_edit.h"
 #include "ui/main_window/kept_habit.h"
 #include "ui/main_window/site_grid_view.h"
 
@@ -36,6 +36,8 @@ class SiteSearch final : public QObject {
 
   /// Finds what the line says, in place of what is typed.
   void find(const QString& line);
+  /// The sites that a line of filter words finds, in rising order, whatever is shown. Raises std::invalid_argument.
+  std::vector<std::int16_t> sitesFoundBy(const QString& line);
   /// The list has changed: it is looked at again soon, but not under somebody's hand.
   void renewSoon();
   /// Sorts as it was sorted when the window was there last, and remembers how it is sorted from now on.
@@ -49,7 +51,7 @@ class SiteSearch final : public QObject {
   void endSorting();
   void renew();
   void tellCount();
-  SiteOrder::Moment moment();
+  SiteOrder::Moment moment(const QString& line);
   void placeNothingFound();
   bool eventFilter(QObject* watched, QEvent* event) override;
 

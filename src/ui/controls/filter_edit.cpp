@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/main_window/filter_edit.h"
+#include "ui/controls/filter_edit.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
