@@ -50,7 +50,7 @@ NO_MESSAGES = {
     "src/uucode/*": ("the encoder of attachments, which neither the window nor the tool reaches", ()),
     "src/ui/history/*": ("what a history shows, and kinds of files",
                          ("Down from", "%1: nothing is known", "%1: median", "Up to", "It is on.",
-                          "1 check has", "%1 checks", "Picture, for")),
+                          "1 check has", "%1 checks", "Picture, for", "Filter: ", "History of All")),
     "src/ui/main_window/first_steps.cpp": ("the steps that an empty list offers",
                                            ("Which page", "Add your", "1. ", "2. ", "3. ", "You can also", "Step ")),
     "src/base/base64.cpp": ("who decodes says what is wrong in words of his own", ()),

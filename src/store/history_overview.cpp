@@ -16,11 +16,6 @@ namespace {
 
 constexpr const char* kDays =
     "select idSite, day, up, seconds - up - unknown from days where idSite = ?1 and day >= ?2 and day < ?3";
-constexpr const char* kHours =
-    "with recursive slot (hour) as (select min(hour) from hours where hour >= ?3 union all select (select min(hour) "
-    "from hours where hour > slot.hour) from slot where slot.hour < ?4) select h.idSite, h.hour, h.up, 3600 - h.up - "
-    "h.unknown from slot cross join hours h on h.hour = slot.hour and h.idSite >= ?1 and h.idSite <= ?2 where "
-    "slot.hour < ?4";
 
 /// Puts known times into the cells of their sites.
 class Cells {
@@ -82,7 +77,14 @@ std::vector<SiteOverview> overviewsOf(SiteHistory& history, const Period& period
   SqlConnection& database = history.database().conn();
   const auto addHours = [&](std::int64_t first, std::int64_t last, Moment from) {
     const std::array<SqlValue, 4> key{SqlValue(first), SqlValue(last), history_rows::of(from), history_rows::of(now)};
-    cells.addRows(*database.execute(kHours, key));
+    cells.addRows(*database.execute(
+        "with recursive slot (hour) as (select min(hour) from hours where hour >= ?3 union all select (select "
+        "min(hour) "
+        "from hours where hour > slot.hour) from slot where slot.hour < ?4) select h.idSite, h.hour, h.up, 3600 - h.up "
+        "- "
+        "h.unknown from slot cross join hours h on h.hour = slot.hour and h.idSite >= ?1 and h.idSite <= ?2 where "
+        "slot.hour < ?4",
+        key));
   };
   const Moment today = dayOf(now);
   for (const SiteToShow& site : sites) {
