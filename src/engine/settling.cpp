@@ -59,6 +59,14 @@ bool speaksOfError(std::string_view text) {
          (hasErrorStatus(text) && (text.size() < 12 || std::ranges::any_of(kWithStatus, says)));
 }
 
+ByteSpans spansOf(const Holes& holes) {
+  ByteSpans spans;
+  for (const Hole& hole : holes) {
+    append(spans, {hole.begin, hole.end()});
+  }
+  return spans;
+}
+
 }  // namespace
 
 std::string errorWordsOf(std::string_view page) {
@@ -118,9 +126,14 @@ ToSettle Settling::toSettle(std::int16_t idSite) {
     found.state = ToSettle::State::differs;
     found.errorWords = errorWordsOf(found.page);
     found.isShort = found.page.size() * 2 < found.baseline.size();
-    const PlacedHoles holes = holesOf(pageText(found.page), rules.holes);
+    const std::string text = pageText(found.page);
+    const PlacedHoles holes = holesOf(text, rules.holes);
     found.placesFound = holes.placed.size();
     found.placesLost = holes.lost.size();
+    if (text == found.page && pageText(found.baseline) == found.baseline) {
+      found.varyingInBaseline = spansOf(rules.holes);
+      found.varyingInPage = spansOf(holes.placed);
+    }
   }
   return found;
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "difference/byte_span.h"
 #include "difference/change_groups.h"
 #include "platform/clock.h"
 #include "store/acknowledgements.h"
@@ -44,6 +45,9 @@ struct ToSettle {
   /// Of the places that may vary: how many are found in the page, and how many are not.
   std::size_t placesFound = 0;
   std::size_t placesLost = 0;
+  /// Where they are in both; nothing of pages in UTF-16, whose places are not those of their bytes.
+  ByteSpans varyingInBaseline{};
+  ByteSpans varyingInPage{};
   bool isAcknowledged = false;
 
   bool isDoubtful() const { return !errorWords.empty() || isShort || state == State::failedFetch; }

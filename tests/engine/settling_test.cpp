@@ -69,6 +69,21 @@ TEST_F(SettlingTest, TellsWhatThereIsToSettle) {
   EXPECT_EQ(settling.toSettle(1).state, ToSettle::State::failedFetch);
 }
 
+TEST_F(SettlingTest, TellsWhatOfThePagesMayVary) {
+  const std::string baseline = "<p>at [10]</p>\n<b>24.00</b>\n";
+  const std::string page = "<p>at [1234]</p>\n<b>29.00</b>\n";
+  check(baseline);
+  Holes holes{{.begin = 7, .length = 2, .kind = HoleClass::digits, .least = 1, .most = 6}};
+  setAnchors(holes, baseline);
+  SiteRules(database).storeRules(1, {{}, holes});
+  check(page);
+  const ToSettle found = settling.toSettle(1);
+  ASSERT_EQ(found.varyingInBaseline.size(), 1U);
+  EXPECT_EQ(found.varyingInBaseline.front().of(baseline), "10");
+  ASSERT_EQ(found.varyingInPage.size(), 1U);
+  EXPECT_EQ(found.varyingInPage.front().of(page), "1234");
+}
+
 TEST_F(SettlingTest, AcceptsExactlyThoseBytesAndGivesTheOldOnesBack) {
   for (const PagePair& pair : pagePairs(60, 20261125)) {
     SCOPED_TRACE(pair.kind);

@@ -47,7 +47,7 @@ AcceptDialog::AcceptDialog(Program& program, std::int16_t idSite, ToSettle found
   tellSize();
   connect(&difference_->view(), &DifferenceView::compared, this, &AcceptDialog::tellSize);
   difference_->heads().tell(baselineHead(found_.baseline.size()), latestHead(found_.page.size(), {}, {}));
-  difference_->compare({found_.baseline, found_.page}, tr("What changed in site %1").arg(idSite_));
+  difference_->compare(comparedPages(found_), tr("What changed in site %1").arg(idSite_));
   resize(kUsualSize);
 }
 

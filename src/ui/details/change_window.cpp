@@ -60,7 +60,7 @@ void ChangeWindow::showSite(std::int16_t idSite) {
     panel_->heads().tell(
         baselineHead(found.baseline.size()),
         latestHead(found.page.size(), program_.data().getLastChecked(idSite), program_.services().clock.localNow()));
-    panel_->compare({std::move(found.baseline), std::move(found.page)}, tr("What changed in site %1").arg(idSite));
+    panel_->compare(comparedPages(found), tr("What changed in site %1").arg(idSite));
   } else {
     panel_->tell(sentence);
   }

@@ -192,7 +192,8 @@ void DetailsPane::readDifference() {
                                             program_.services().clock.localNow()));
   const DifferenceView& view = panel_->view();
   if (!view.hasPages() || view.pages().before != before || view.pages().after != after) {
-    panel_->compare({before, after}, tr("What changed in site %1").arg(*idSite_));
+    panel_->compare(kept || logged_ ? ComparedPages{before, after} : comparedPages(*found_),
+                    tr("What changed in site %1").arg(*idSite_));
   }
 }
 

@@ -46,6 +46,7 @@ struct DifferencePainter::Side {
   PageForm form;
   const ByteSpans* words;
   const ByteSpans* bytes;
+  const ByteSpans* varying;
   bool isAdded;
 };
 
@@ -80,6 +81,7 @@ DifferencePainter::Side DifferencePainter::sideOf(const DifferenceRow& row, bool
                       rows_.formAfter(),
                       isChanged ? &change->addedWords : &kNone,
                       isChanged ? &change->added : &kNone,
+                      &pages_.varyingAfter,
                       true}
                : Side{pages_.before,
                       row.before,
@@ -87,6 +89,7 @@ DifferencePainter::Side DifferencePainter::sideOf(const DifferenceRow& row, bool
                       rows_.formBefore(),
                       isChanged ? &change->removedWords : &kNone,
                       isChanged ? &change->removed : &kNone,
+                      &pages_.varyingBefore,
                       false};
 }
 
@@ -140,7 +143,12 @@ void DifferencePainter::paintSide(QPainter& painter, const QRect& area, const Di
   painter.save();
   painter.setClipRect(area.adjusted(gutter(), 0, 0, 0));
   const QRect text = area.adjusted(gutter() - look_.scrolled, 0, 0, 0);
-  look_.layout == DifferenceLayout::hex ? paintHex(painter, text, row, side) : paintRuns(painter, text, row, side);
+  if (look_.layout == DifferenceLayout::hex) {
+    paintHex(painter, text, row, side);
+  } else {
+    paintRuns(painter, text, row, side);
+    paintVarying(painter, text, side);
+  }
   painter.restore();
 }
 
@@ -158,6 +166,27 @@ void DifferencePainter::paintRuns(QPainter& painter, QRect area, const Differenc
     painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
     if (run.mark == ShownMark::byte) {
       painter.drawLine(area.left(), area.bottom() - 1, area.right(), area.bottom() - 1);
+    }
+    area.moveLeft(area.left() + area.width());
+  }
+}
+
+// Over whatever is marked there: a change in it is none.
+void DifferencePainter::paintVarying(QPainter& painter, QRect area, const Side& side) const {
+  if (within(*side.varying, *side.span).empty()) {
+    return;
+  }
+  const HoleColours colours = holeColours(isDark(palette_));
+  int column = 0;
+  for (const ShownRun& run : shownLine(side.page, *side.span, side.form, {}, *side.varying, look_.invisible)) {
+    const QString text = withoutTabs(run.text, column);
+    area.setWidth(metrics_.horizontalAdvance(text));
+    if (run.mark != ShownMark::none) {
+      painter.fillRect(area, colours.fill);
+      painter.setPen(QPen(colours.edge, 1, Qt::DashLine));
+      painter.drawRect(area.adjusted(0, 0, -1, -1));
+      painter.setPen(colours.ink);
+      painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
     }
     area.moveLeft(area.left() + area.width());
   }

@@ -44,6 +44,7 @@ class DifferencePainter {
   struct Side;
   void paintSide(QPainter& painter, const QRect& area, const DifferenceRow& row, const Side& side) const;
   void paintRuns(QPainter& painter, QRect area, const DifferenceRow& row, const Side& side) const;
+  void paintVarying(QPainter& painter, QRect area, const Side& side) const;
   void paintHex(QPainter& painter, QRect area, const DifferenceRow& row, const Side& side) const;
   void paintFold(QPainter& painter, const QRect& area, const DifferenceRow& row) const;
   Side sideOf(const DifferenceRow& row, bool after) const;

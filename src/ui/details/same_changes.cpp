@@ -132,7 +132,7 @@ void SameChanges::showExample() {
   }
   const std::int16_t id = ids_[groups_.at(static_cast<std::size_t>(row)).pages.front()];
   ToSettle found = program_.data().toSettle(id);
-  example_->compare({std::move(found.baseline), std::move(found.page)}, tr("What changed in site %1").arg(id));
+  example_->compare(comparedPages(found), tr("What changed in site %1").arg(id));
 }
 
 std::vector<std::size_t> SameChanges::chosen() const {

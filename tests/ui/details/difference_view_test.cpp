@@ -107,6 +107,17 @@ TEST_F(DifferenceViewTest, MarksWhatDiffersInItsColours) {
   }
 }
 
+TEST_F(DifferenceViewTest, WhatMayVaryIsNoChange) {
+  view.compare({.before = "at 04:10\n24.00\n",
+                .after = "at 05:11\n29.00\n",
+                .varyingBefore = {{3, 8}},
+                .varyingAfter = {{3, 8}}});
+  ASSERT_TRUE(waitUntil([&] { return view.difference() != nullptr; }));
+  EXPECT_TRUE(hasColour(holeColours(false).fill));
+  EXPECT_TRUE(hasColour(holeColours(false).edge));
+  EXPECT_TRUE(hasColour(differenceColours(true, false).wordFill)) << "the other line has changed";
+}
+
 TEST_F(DifferenceViewTest, ShowsLineEndsAndBlanksOnWish) {
   compare("a b\r\n", "a b\n");
   EXPECT_THAT(selected(), ::testing::Not(HasSubstr("\u240d")));
