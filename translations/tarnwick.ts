@@ -6226,6 +6226,22 @@
         <source>&amp;History of All Sites…</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>After how many days the history keeps only the sums of days and months, which stay as they are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hours of the history for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the history keeps each hour for good</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>

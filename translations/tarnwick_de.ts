@@ -6226,6 +6226,22 @@
         <source>&amp;History of All Sites…</source>
         <translation>Ver&amp;lauf aller Seiten…</translation>
     </message>
+    <message>
+        <source>After how many days the history keeps only the sums of days and months, which stay as they are</source>
+        <translation>Nach wie vielen Tagen der Verlauf nur noch die Summen der Tage und Monate behält, die bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>Hours of the history for</source>
+        <translation>Stunden des Verlaufs für</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>the history keeps each hour for good</source>
+        <translation>der Verlauf behält jede Stunde für immer</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>

@@ -50,6 +50,12 @@ std::vector<Stretch> plannedWithin(const AlarmPolicy& policy, Stretch time) {
 void HistoryRecording::setOptions(const OptionsInForce& options) {
   isWanted_ = options.valueOf(kAllSites, option_name::history) == option_value::on;
   takes_ = takes_ && isWanted_;
+  const auto days = options.valueOf(kAllSites, option_name::historyHours);
+  const std::optional<int> before = std::exchange(daysOfHours_, days ? std::optional(std::stoi(*days)) : std::nullopt);
+  if (daysOfHours_ != before) {
+    thinned_.reset();
+    thinnedBefore_.reset();
+  }
 }
 
 // A list that has no room for its history is watched without.
@@ -60,9 +66,27 @@ void HistoryRecording::beginPass(const std::function<bool()>& goesOn) {
   }
   try {
     takes_ = history_.canBeKept() && history_.takeLog(clock_.now(), goesOn);
+    if (takes_ && daysOfHours_) {
+      thin();
+    }
   } catch (const DataAccessError& error) {
     if (!error.forWantOfRoom()) {
       throw;
+    }
+  }
+}
+
+// Once a day from the first hour on; nothing is waited for.
+void HistoryRecording::thin() {
+  const Moment before = dayFrom(clock_.now(), -*daysOfHours_);
+  if (thinnedBefore_ == before) {
+    return;
+  }
+  if (auto whole = Transaction::tryBegin(history_.database())) {
+    thinned_ = history_.thin(thinned_, before);
+    whole->commit();
+    if (!thinned_) {
+      thinnedBefore_ = before;
     }
   }
 }

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,8 @@ class HistoryRecording {
 
   /// What holds from now on.
   void setOptions(const OptionsInForce& options);
-  /// Gets ready for a pass: reads the log of the list, once. `goesOn` takes events in, and is false when the pass ends.
+  /// Gets ready for a pass: reads the log of the list, once, and removes some of the hours that are older than the
+  /// option `historyHours` wants them. `goesOn` takes events in, and is false when the pass ends.
   void beginPass(const std::function<bool()>& goesOn);
   /// Whether the checks of this pass are taken.
   bool takesChecks() const { return takes_; }
@@ -39,11 +41,17 @@ class HistoryRecording {
   void endKnowledge() noexcept;
 
  private:
+  void thin();
+
   SiteHistory& history_;
   SiteAlarms& alarms_;
   const Clock& clock_;
   bool isWanted_ = false;
   bool takes_ = false;
+  // After how many days an hour is only part of its day; where its removal has come to, and which days it is over.
+  std::optional<int> daysOfHours_;
+  std::optional<SiteHistory::HourPlace> thinned_;
+  std::optional<Moment> thinnedBefore_;
 };
 
 }  // namespace tarnwick

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
+#include <utility>
 
 #include "store/history_rows.h"
 
@@ -49,27 +51,99 @@ std::vector<KeptSum> sinceTheLatest(SiteHistory& history, std::int64_t idSite, s
   return rows;
 }
 
-/// Adds the sums of rows of one table and time to those of their sites.
-template <typename Take>
-void each(SiteHistory& history, const std::string& sql, Stretch time, Take take) {
-  if (time.from >= time.until) {
-    return;
+/// The sums of many sites, being put together.
+class ManySums {
+ public:
+  ManySums(SiteHistory& history, Moment now) : db_(history.database()), now_(now) {
+    for (const Period& period : periods()) {
+      beginnings_.push_back(edgesOf(period, now).front());
+    }
   }
-  const std::array<SqlValue, 2> key{history_rows::of(time.from), history_rows::of(time.until)};
-  const auto rows = history.database().conn().execute(sql, key);
-  for (; !rows->eof(); rows->moveNext()) {
-    take(*rows);
+
+  /// What the latest check says of the time since.
+  void addTail(std::int64_t idSite, const LatestCheck& latest, seconds interval) {
+    PeriodSums& own = sums_.emplace(idSite, PeriodSums(periods().size())).first->second;
+    for (const HourShare& share : sharesAfter(latest, interval, {}, now_)) {
+      for (std::size_t period = 0; period < own.size(); ++period) {
+        if (share.hour >= beginnings_[period]) {
+          own[period].up += share.up;
+          own[period].down += share.down;
+        }
+      }
+    }
   }
+
+  /// Adds what the rows of a table say whose beginnings are in that time, to the sums of all periods that begin no
+  /// later, from `first` to `last`.
+  void addRows(const std::string& sql, Stretch time, std::size_t first, std::size_t last) {
+    each(sql, time, [&](PeriodSums& own, const Recordset& rows) {
+      for (std::size_t period = first; period <= last; ++period) {
+        if (beginnings_[period] > time.from) {
+          continue;
+        }
+        TimeSum& sum = own[period];
+        sum.up += seconds(rows.field(std::size_t{1}).toInt64());
+        sum.down += seconds(rows.field(std::size_t{2}).toInt64());
+        sum.checks += rows.field(std::size_t{3}).toInt64();
+        sum.tookInAll += milliseconds(rows.field(std::size_t{4}).toInt64());
+        sum.slowest = std::max(sum.slowest, milliseconds(rows.field(std::size_t{5}).toInt64()));
+      }
+    });
+  }
+  /// Adds the answer times of the week.
+  void addLatency(const std::string& sql, Stretch time) {
+    if (time.from >= beginnings_[kWeek]) {
+      each(sql, time, [](PeriodSums& own, const Recordset& rows) {
+        own[kWeek].latency.add(Latency::unpacked(rows.field(std::size_t{1}).toText()));
+      });
+    }
+  }
+
+  Moment beginning(std::size_t period) const { return beginnings_[period]; }
+  std::map<std::int64_t, PeriodSums> taken() && { return std::move(sums_); }
+
+ private:
+  template <typename Take>
+  void each(const std::string& sql, Stretch time, Take take) {
+    if (time.from >= time.until) {
+      return;
+    }
+    const std::array<SqlValue, 2> key{history_rows::of(time.from), history_rows::of(time.until)};
+    const auto rows = db_.conn().execute(sql, key);
+    for (; !rows->eof(); rows->moveNext()) {
+      if (const auto own = sums_.find(rows->field(std::size_t{0}).toInt64()); own != sums_.end()) {
+        take(own->second, *rows);
+      }
+    }
+  }
+
+  Database& db_;
+  Moment now_;
+  std::vector<Moment> beginnings_;
+  std::map<std::int64_t, PeriodSums> sums_;
+};
+
+std::string figuresOf(const std::string& seconds) {
+  return "select s.idSite, sum(t.up), sum(" + seconds +
+         " - t.up - t.unknown), sum(t.checks), sum(t.msSum), max(t.msMax)";
 }
 
 /// For each site the sum of the rows whose beginning is in a time: site by site where the table is ordered so.
-std::string sumOf(const std::string& table, const std::string& beginning, const std::string& seconds) {
-  return "select s.idSite, sum(t.up), sum(" + seconds +
-         " - t.up - t.unknown), sum(t.checks), sum(t.msSum), max(t.msMax) "
-         "from latestChecks s cross join " +
-         table + " t on t.idSite = s.idSite and t." + beginning + " >= ?1 and t." + beginning +
-         " < ?2 group by s.idSite";
+std::string sumOf(const std::string& table, const std::string& beginning, const std::string& sites = "") {
+  return figuresOf("t.seconds") + " from latestChecks s cross join " + table + " t on t.idSite = s.idSite and t." +
+         beginning + " >= ?1 and t." + beginning + " < ?2 " + sites + "group by s.idSite";
 }
+
+/// That the latest check of the site is in the time, which so has no sum yet.
+constexpr const char* kEndsThere = "where s.at >= ?1 and s.at < ?2 ";
+
+/// The hours in the time of the sites of which that holds.
+constexpr const char* kHoursThatEndThere =
+    " from latestChecks s cross join slot cross join hours t on t.hour = slot.hour and t.idSite = s.idSite where s.at "
+    ">= ?1 and s.at < ?2 and slot.hour < ?2";
+constexpr const char* kSlots =
+    "with recursive slot (hour) as materialized (select min(hour) from hours where hour >= ?1 union all select (select "
+    "min(hour) from hours where hour > slot.hour) from slot where slot.hour < ?2) ";
 
 }  // namespace
 
@@ -108,84 +182,59 @@ std::vector<PeriodView> periodsOf(SiteHistory& history, std::int64_t idSite, sec
   return views;
 }
 
+// Each day before that of a site's latest check has its sum, and so has each month; what comes after them is read in
+// smaller parts, for all sites together whose latest checks are of the same day, or month.
 std::map<std::int64_t, PeriodSums> sumsOfPeriods(SiteHistory& history, const std::map<std::int64_t, seconds>& intervals,
                                                  Moment now) {
-  std::map<std::int64_t, PeriodSums> sums;
-  const Moment today = dayOf(now);
-  std::vector<std::int64_t> current;
-  for (const auto& [id, interval] : intervals) {
-    const auto latest = history.latestCheck(id);
-    if (!latest) {
-      continue;
+  ManySums sums(history, now);
+  std::set<Moment> lastDays;
+  std::set<Moment> lastMonths;
+  for (const auto& [id, latest] : history.latestChecks()) {
+    if (const auto interval = intervals.find(id); interval != intervals.end()) {
+      sums.addTail(id, latest, interval->second);
+      lastDays.insert(dayOf(latest.at));
+      lastMonths.insert(monthOf(latest.at));
     }
-    PeriodSums& own = sums[id];
-    if (latest->at < today) {
-      // Its last day and month have no sum yet.
-      for (const PeriodView& view : periodsOf(history, id, interval, now)) {
-        own.push_back(view.whole());
-      }
-      continue;
-    }
-    current.push_back(id);
-    TimeSum tail;
-    for (const HourShare& share : sharesAfter(*latest, interval, {}, now)) {
-      tail.up += share.up;
-      tail.down += share.down;
-    }
-    own.assign(periods().size(), tail);
   }
-  if (current.empty()) {
-    return sums;
+  if (lastDays.empty()) {
+    return {};
   }
-  const auto isCurrent = [&](std::int64_t id) { return std::ranges::binary_search(current, id); };
-  const auto addTo = [&](std::size_t first, std::size_t last) {
-    return [&, first, last](const Recordset& rows) {
-      const std::int64_t id = rows.field(std::size_t{0}).toInt64();
-      if (!isCurrent(id)) {
-        return;
-      }
-      for (std::size_t period = first; period <= last; ++period) {
-        TimeSum& sum = sums[id][period];
-        sum.up += seconds(rows.field(std::size_t{1}).toInt64());
-        sum.down += seconds(rows.field(std::size_t{2}).toInt64());
-        sum.checks += rows.field(std::size_t{3}).toInt64();
-        sum.tookInAll += milliseconds(rows.field(std::size_t{4}).toInt64());
-        sum.slowest = std::max(sum.slowest, milliseconds(rows.field(std::size_t{5}).toInt64()));
-      }
-    };
-  };
-  const std::string days = sumOf("days", "day", "t.seconds");
-  const std::string months = sumOf("months", "month", "t.seconds");
-  const std::string hours =
-      "select idSite, sum(up), sum(3600 - up - unknown), sum(checks), sum(msSum), max(msMax) from hours where hour >= "
-      "?1 "
-      "and hour < ?2 group by idSite";
   const std::size_t last = periods().size() - 1;
-  each(history, hours, {hourOf(now) - std::chrono::hours(23), now}, addTo(0, 0));
-  each(history, hours, {today, now}, addTo(1, last));
+  const std::string days = sumOf("days", "day");
+  const std::string months = sumOf("months", "month");
+  sums.addRows(
+      "select idSite, sum(up), sum(3600 - up - unknown), sum(checks), sum(msSum), max(msMax) from hours where hour >= "
+      "?1 and hour < ?2 group by idSite",
+      {sums.beginning(0), now}, 0, 0);
   for (std::size_t period = kWeek; period <= last; ++period) {
-    const Moment from = dayFrom(now, 1 - periods()[period].length);
+    const Moment from = sums.beginning(period);
     const Moment month = monthOf(from) == from ? from : monthAfter(from);
     const Moment present = monthOf(now);
     if (month >= present) {
-      each(history, days, {from, today}, addTo(period, period));
-    } else {
-      each(history, days, {from, month}, addTo(period, period));
-      each(history, months, {month, present}, addTo(period, period));
-      each(history, days, {present, today}, addTo(period, period));
+      sums.addRows(days, {from, now}, period, period);
+      continue;
+    }
+    sums.addRows(days, {from, month}, period, period);
+    sums.addRows(months, {month, present}, period, period);
+    sums.addRows(days, {present, now}, period, period);
+    for (const Moment lastMonth : lastMonths) {
+      if (lastMonth >= month && lastMonth < present) {
+        sums.addRows(sumOf("days", "day", kEndsThere), {lastMonth, monthAfter(lastMonth)}, period, period);
+      }
     }
   }
-  const auto addLatency = [&](const Recordset& rows) {
-    if (const std::int64_t id = rows.field(std::size_t{0}).toInt64(); isCurrent(id)) {
-      sums[id][kWeek].latency.add(Latency::unpacked(rows.field(std::size_t{1}).toText()));
+  for (const Moment day : lastDays) {
+    if (day >= sums.beginning(last)) {
+      const Stretch time{day, dayFrom(day, 1)};
+      sums.addRows(kSlots + figuresOf("3600") + kHoursThatEndThere + " group by s.idSite", time, kWeek, last);
+      sums.addLatency(std::string(kSlots) + "select s.idSite, t.buckets" + kHoursThatEndThere, time);
     }
-  };
-  each(history,
-       "select s.idSite, d.buckets from latestChecks s cross join days d on d.idSite = s.idSite and d.day >= ?1 and "
-       "d.day < ?2",
-       {dayFrom(now, 1 - periods()[kWeek].length), today}, addLatency);
-  each(history, "select idSite, buckets from hours where hour >= ?1 and hour < ?2", {today, now}, addLatency);
-  return sums;
+  }
+  sums.addLatency(
+      "select s.idSite, d.buckets from latestChecks s cross join days d on d.idSite = s.idSite and d.day >= ?1 and "
+      "d.day < ?2",
+      {sums.beginning(kWeek), now});
+  return std::move(sums).taken();
 }
 
 }  // namespace tarnwick

@@ -71,6 +71,7 @@ inline constexpr std::string_view allIsWell = "allIsWell";
 inline constexpr std::string_view testAlert = "testAlert";
 inline constexpr std::string_view heartbeat = "heartbeat";
 inline constexpr std::string_view history = "history";
+inline constexpr std::string_view historyHours = "historyHours";
 inline constexpr std::string_view certificate = "certificate";
 }  // namespace option_name
 

@@ -160,6 +160,31 @@ void SiteHistory::endKnowledge(Moment now) {
   }
 }
 
+std::optional<SiteHistory::HourPlace> SiteHistory::thin(const std::optional<HourPlace>& after, Moment before) {
+  const HourPlace from = after.value_or(HourPlace{});
+  const std::array<SqlValue, 3> begin{of(from.hour), SqlValue(from.idSite), of(before)};
+  const auto rows = db_.conn().execute(
+      "select hour, idSite from (select hour, idSite from hours where (hour, idSite) > (?1, ?2) and hour < ?3 order by "
+      "hour, idSite limit 2000) order by hour desc, idSite desc limit 1",
+      begin);
+  if (rows->eof()) {
+    return std::nullopt;
+  }
+  const HourPlace until{history_rows::momentIn(rows->field(std::size_t{0})), rows->field(std::size_t{1}).toInt64()};
+  rows->close();
+  const std::array<SqlValue, 4> part{begin[0], begin[1], of(until.hour), SqlValue(until.idSite)};
+  // No day is longer than 25 hours.
+  db_.conn()
+      .execute(
+          "delete from hours where (hour, idSite) > (?1, ?2) and (hour, idSite) <= (?3, ?4) and exists (select 1 from "
+          "days d where d.idSite = hours.idSite and d.day > hours.hour - 90000 and d.day <= hours.hour and hours.hour "
+          "< "
+          "d.day + d.seconds)",
+          part)
+      ->close();
+  return until;
+}
+
 // Each day that has ended between the two becomes the sum of its hours, and each month that of its days.
 void SiteHistory::sumUp(std::int64_t idSite, Moment from, Moment now) {
   const auto store = [&](const char* sql, Stretch time, const std::vector<KeptSum>& parts) {
@@ -193,6 +218,22 @@ std::optional<LatestCheck> SiteHistory::latestCheck(std::int64_t idSite) {
   const SqlValue id(idSite);
   const auto rows = db_.conn().execute("select at, up, until from latestChecks where idSite = ?1", {&id, 1});
   return latestIn(*rows);
+}
+
+std::map<std::int64_t, LatestCheck> SiteHistory::latestChecks() {
+  std::map<std::int64_t, LatestCheck> checks;
+  if (!hasTables()) {
+    return checks;
+  }
+  const SqlValue noSite(kLogRead);
+  const auto rows =
+      db_.conn().execute("select at, up, until, idSite from latestChecks where idSite <> ?1", {&noSite, 1});
+  for (; !rows->eof(); rows->moveNext()) {
+    if (const auto latest = latestIn(*rows)) {
+      checks.emplace(rows->field(std::size_t{3}).toInt64(), *latest);
+    }
+  }
+  return checks;
 }
 
 std::optional<CheckTimings> SiteHistory::timings(std::int64_t idSite) {

@@ -59,6 +59,15 @@ class SiteHistory {
   bool canBeKept();
   /// Takes a check into the history. REQUIRES: the transaction of its result, and `canBeKept()`.
   void take(std::int16_t idSite, const Entry& entry);
+  /// A place in table `hours`, which is ordered so.
+  struct HourPlace {
+    Moment hour;
+    std::int64_t idSite = 0;
+  };
+  /// Looks at the next hours after that place, or from the first on, that began before `before`: some thousand, and
+  /// removes those whose day has its sum. How far it came; nothing when there are no more. REQUIRES: a transaction, and
+  /// `canBeKept()`.
+  std::optional<HourPlace> thin(const std::optional<HourPlace>& after, Moment before);
   /// From `now` on the checks so far say nothing any more: the run was stopped, or this machine is offline. Nothing
   /// in a list without the tables.
   void endKnowledge(Moment now);
@@ -71,6 +80,8 @@ class SiteHistory {
 
   /// The latest check of a site; nothing where none was taken.
   std::optional<LatestCheck> latestCheck(std::int64_t idSite);
+  /// Those of all sites.
+  std::map<std::int64_t, LatestCheck> latestChecks();
   std::optional<CheckTimings> timings(std::int64_t idSite);
   /// The hours of a site that begin in that time, or its days, in rising order.
   std::vector<KeptSum> keptHours(std::int64_t idSite, Stretch time);

@@ -63,6 +63,39 @@ TEST_F(HistoryOfARun, NothingIsKnownWhileNoRunIsOn) {
   EXPECT_EQ(sum("3600 - up - unknown"), "0");
 }
 
+TEST_F(HistoryOfARun, OldHoursAreRemovedWhereThatIsWanted) {
+  set("history", "on");
+  addPage("/a", "hello");
+  program.startRun();
+  program.stopRun();
+  const Moment today = dayOf(machine.clock().now());
+  const auto old = [&](int days) {
+    return std::to_string((dayFrom(today, -days) + hours{12}).time_since_epoch().count());
+  };
+  for (const int days : {9, 10, 12}) {
+    folder.execute("insert into hours values (1, " + old(days) + ", 1, 3600, 0, 0, 0, x'')");
+  }
+  // The latest of them is of a day that has no sum.
+  for (const int days : {10, 12}) {
+    folder.execute("insert into days values (1, " + old(days) + " - 43200, 86400, 1, 3600, 82800, 0, 0, x'')");
+  }
+  const auto hoursThere = [&] {
+    return folder.queryText("select count(*) from hours where hour < " +
+                            std::to_string(today.time_since_epoch().count()));
+  };
+  program.startRun();
+  program.stopRun();
+  EXPECT_EQ(hoursThere(), "3");
+  set("historyHours", "11");
+  program.startRun();
+  program.stopRun();
+  EXPECT_EQ(hoursThere(), "2");
+  set("historyHours", "8");
+  program.startRun();
+  program.stopRun();
+  EXPECT_EQ(hoursThere(), "1");
+}
+
 TEST_F(HistoryOfARun, APauseCountsForNothing) {
   set("history", "on");
   set("pause", "for good");
