@@ -18,6 +18,20 @@ void copyRow(const TextTable& from, std::size_t row, TextTable& to) {
   }
 }
 
+/// The sites in the order in which passes take them, that of their ids.
+TextTable inOrder(const TextTable& sites) {
+  std::vector<std::pair<std::int64_t, std::size_t>> rows;
+  for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
+    rows.emplace_back(SqlValue(sites.at(site_column::idSite, row)).toInt64(), row);
+  }
+  std::ranges::sort(rows);
+  TextTable ordered(sites.lastColumn());
+  for (const auto& [id, row] : rows) {
+    copyRow(sites, row, ordered);
+  }
+  return ordered;
+}
+
 /// The row of a site; 0 when it is not in the table.
 std::size_t rowOf(const TextTable& sites, std::int16_t idSite) {
   const std::string id = std::to_string(idSite);
@@ -79,6 +93,7 @@ void SitesToTest::addOwed(TextTable& sites) {
   if (owed_.empty()) {
     return;
   }
+  const std::size_t dueAnyway = sites.lastRow();
   std::unordered_set<std::string> chosen;
   for (std::size_t row = 1; row <= sites.lastRow(); ++row) {
     chosen.insert(sites.at(site_column::idSite, row));
@@ -94,6 +109,9 @@ void SitesToTest::addOwed(TextTable& sites) {
     }
     return !active;
   });
+  if (sites.lastRow() > dueAnyway) {
+    sites = inOrder(sites);
+  }
 }
 
 std::string SitesToTest::whatWaits() {
