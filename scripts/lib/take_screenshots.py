@@ -6,6 +6,7 @@
 
 from __future__ import annotations
 
+import datetime
 import http.server
 import shutil
 import sqlite3
@@ -93,9 +94,33 @@ def make_database(file: Path, schema: Path, address: str) -> None:
                 (number, address + path, active, interval, success, failure, baseline))
         connection.execute("update sites set method = 'POST', sUserName = 'monitor', sPassWord = 'not shown',"
                            " alertEmail = 1, email = 'admin@example.org' where idSite = ?", (FORM_SITE,))
+        make_history(connection)
         connection.executemany("insert into postVars (idSite, pname, pvalue) values (?, ?, ?)",
                                [(FORM_SITE, name, value) for name, value in FORM])
     connection.close()
+
+
+def make_history(connection: sqlite3.Connection) -> None:
+    """A year in which the sites were up, but for half an hour now and then."""
+    hour, day, outage = 3600, 86400, 1800
+    now = datetime.datetime.now().replace(minute=0, second=0, microsecond=0)
+    answers = (bytes((54, 40, 3, 60, 4, 40, 9, 4)), 144, 150 * 144, 700)  # buckets, checks, ms in all, the slowest
+    for number in range(1, len(SITES) + 1):
+        down_days = [ago for ago in range(1, 365) if ago * number * 7919 % 61 < 2]
+        for ago in range(1, 365):
+            began = int((now.replace(hour=0) - datetime.timedelta(days=ago)).timestamp())
+            down = outage if ago in down_days else 0
+            connection.execute("insert into days values (?, ?, ?, ?, ?, 0, ?, ?, ?)",
+                               (number, began, day, answers[1], day - down, *answers[2:], answers[0]))
+            if down:
+                connection.execute("insert into outages values (?, ?, ?, 3, 'The request took longer than 60 seconds.')",
+                                   (number, began + 12 * hour, began + 12 * hour + outage))
+        for ago in range(1, 8 * 24):
+            began = int((now - datetime.timedelta(hours=ago)).timestamp())
+            connection.execute("insert into hours values (?, ?, 6, ?, 0, 900, 700, ?)",
+                               (number, began, hour - (outage if ago == 5 * number else 0), bytes((54, 3, 3, 3))))
+        at = int(now.timestamp())
+        connection.execute("insert into latestChecks (idSite, at, up, until) values (?, ?, 1, ?)", (number, at, at))
 
 
 def checked(file: Path) -> bool:
@@ -156,6 +181,22 @@ def take_proposals(session: DesktopSession, process: subprocess.Popen, window: s
     settle()
     take(session, dialog, pictures / "holes.png")
     session.press(dialog, "Escape")
+
+
+def take_details(session: DesktopSession, process: subprocess.Popen, window: str, pictures: Path) -> None:
+    """Shows below the list what has changed and how the site has been, and how all have been."""
+    press_all(session, window, "ctrl+Home" + " Down" * (CHANGED_SITE - 1) + " F4")
+    settle()
+    take(session, window, pictures / "details.png")
+    session.press(window, "ctrl+2")
+    settle()
+    take(session, window, pictures / "history.png")
+    session.press(window, "ctrl+h")
+    all_of_them = session.window("History of All Sites", process)
+    settle()
+    take(session, all_of_them, pictures / "history-all.png")
+    session.press(all_of_them, "Escape")
+    press_all(session, window, "ctrl+1 F4")
 
 
 def take_dialogs(session: DesktopSession, process: subprocess.Popen, window: str, pictures: Path) -> None:
@@ -229,6 +270,7 @@ def main() -> int:
             wait_until(lambda: checked(database), "the sites to be checked")
             threading.Event().wait(4)  # the countdown and the run clock get going
             take(session, window, pictures / "main-window.png")
+            take_details(session, process, window, pictures)
             take_change(session, process, window, pictures)
             take_proposals(session, process, window, pictures)
             take_dialogs(session, process, window, pictures)

@@ -125,8 +125,8 @@ MUTANTS = (
            'is null or ", kIsDue, ") AND ", kIsActive);', 'is null or ", kIsDue, ") ");'),
     Mutant("a result is given up where the list is locked for long", "engine/write_turn.cpp",
            "      guard_(kSource, [&] { throw refusal; });\n", "      throw refusal;\n"),
-    Mutant("what other programs change is not noticed", "platform/sqlite/sqlite_database.cpp",
-           "  if (logEnd_ && endOfOpenLog(handle()) == logEnd_) {", "  if (logEnd_) {"),
+    Mutant("what other programs change is not noticed", "store/data_changes.cpp",
+           "  return std::exchange(version_, version) != version;", "  version_ = version;\n  return false;"),
 )
 
 
