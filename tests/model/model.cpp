@@ -292,7 +292,8 @@ void Model::record(Slot& slot, Time now) {
     return dropPage(slot.request.idSite);
   }
   Site& site = found->second;
-  const Judgement judgement = judge(site.baseline.value_or(""), slot.answer, settings_.adopt);
+  const Judgement judgement =
+      judge(site.baseline.value_or(""), site.latestPage.value_or(""), slot.answer, settings_.adopt);
   store(site, slot.answer, judgement, now);
   verdict_ = Verdict{};
   verdict_.idSite = site.id;
@@ -319,7 +320,8 @@ void Model::store(Site& site, const Answer& answer, const Judgement& judgement, 
     site.baseline = judgement.content;
   site.latestPage = judgement.content;
   if (isYes(settings_.logs)) {
-    log_.push_back({site.id, site.url.value_or(""), judgement.up, answer.code, answer.text, judgement.logged, now});
+    log_.push_back({site.id, site.url.value_or(""), judgement.up, answer.code,
+                    answer.text.empty() ? judgement.remark : answer.text, judgement.logged, now});
   }
   site.lastChecked = now;
   atOnce_.erase(site.id);

@@ -132,7 +132,7 @@ struct Switches {
 
 // How one answer is judged, before anything is stored.
 struct Judgement {
-  std::string content, baseline, logged;
+  std::string content, baseline, logged, remark;
   bool adopted = false, up = false;
 };
 
@@ -148,7 +148,7 @@ std::vector<int> dueSites(const Sites& sites, Time now, NewSites newSites, const
 std::vector<int> activeSites(const Sites& sites);
 std::int64_t secondsToSoonest(const Sites& sites, Time now, const std::set<int>& atOnce = {});
 std::int64_t countdownStep(std::int64_t seconds, std::int64_t toSoonest);
-Judgement judge(const std::string& baseline, const Answer& answer, Adopt adopt);
+Judgement judge(const std::string& baseline, const std::string& before, const Answer& answer, Adopt adopt);
 std::optional<int> counterPlusOne(std::optional<int> counter);
 std::string substitute(std::string text, const Facts& facts);
 Mail mailFor(const std::string& server, const std::string& sender, Facts facts, const std::string& mailTemplate);

@@ -43,15 +43,18 @@ void checkCountdown() {
 }
 
 void checkJudging() {
-  const Judgement first = judge("", page("a"), Adopt::kAnything);
+  const Judgement first = judge("", "", page("a"), Adopt::kAnything);
   check(first.adopted && first.up && first.logged.empty(), "the first page is adopted and up");
-  const Judgement letter = judge("Page", page("page"), Adopt::kAnything);
+  const Judgement letter = judge("Page", "Page", page("page"), Adopt::kAnything);
   check(!letter.up && letter.logged == "page", "a letter's case makes it down, and the page is logged");
-  const Judgement failure = judge("", failed(12, "gone"), Adopt::kAnything);
+  const Judgement failure = judge("", "", failed(12, "gone"), Adopt::kAnything);
   check(failure.up && failure.baseline == "11:gone", "a failure is adopted as well");
-  check(!judge("", failed(12, "gone"), Adopt::kPagesOnly).up, "unless only pages may be adopted");
-  check(judge("11:gone", failed(99, "gone"), Adopt::kAnything).up, "code and text have no say");
-  check(!judge(std::string("a\0b", 3), page("a"), Adopt::kAnything).up, "bytes behind a NUL count");
+  check(!judge("", "", failed(12, "gone"), Adopt::kPagesOnly).up, "unless only pages may be adopted");
+  check(!judge("", "123456789", page("1234"), Adopt::kPagesOnly).up, "nor is less than half of the page before");
+  check(judge("", "12345678", page("1234"), Adopt::kPagesOnly).up, "half of it is");
+  check(judge("", "123456789", page("1234"), Adopt::kAnything).up, "unless anything may be adopted");
+  check(judge("11:gone", "11:gone", failed(99, "gone"), Adopt::kAnything).up, "code and text have no say");
+  check(!judge(std::string("a\0b", 3), "", page("a"), Adopt::kAnything).up, "bytes behind a NUL count");
   check(counterPlusOne(std::nullopt) == 1 && counterPlusOne(4) == 5, "a Null counter plus one is 1");
   check(!counterPlusOne(32767), "a full counter does not wrap");
 }

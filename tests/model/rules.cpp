@@ -116,12 +116,16 @@ std::int64_t countdownStep(std::int64_t seconds, std::int64_t toSoonest) {
 }
 
 // A site is up when its page is the baseline, byte for byte. The first page becomes the baseline, and so does the text
-// of a failure unless only pages may be adopted. The error code has no say.
-Judgement judge(const std::string& baseline, const Answer& answer, Adopt adopt) {
+// of a failure unless only pages may be adopted; then neither does a page that is less than half as long as the one
+// before. The error code has no say.
+Judgement judge(const std::string& baseline, const std::string& before, const Answer& answer, Adopt adopt) {
   const bool failed = answer.kind == Answer::Kind::kFailed;
   Judgement result;
   result.content = failed ? "11:" + answer.text : answer.page;
-  result.adopted = baseline.empty() && (!failed || adopt == Adopt::kAnything);
+  const bool shrunk = !before.starts_with("11:") && result.content.size() * 2 < before.size();
+  result.adopted = baseline.empty() && (adopt == Adopt::kAnything || (!failed && !shrunk));
+  if (baseline.empty() && adopt == Adopt::kPagesOnly && !failed && shrunk)
+    result.remark = "The page has less than half the length of the one before, and was not taken as the baseline.";
   result.baseline = result.adopted ? result.content : baseline;
   result.up = result.content == result.baseline;
   if (!result.up)
