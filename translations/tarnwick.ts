@@ -3204,14 +3204,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>By options of the alarm it may be &quot;unconfirmed (1 of 3)&quot;, &quot;unsteady&quot; or &quot;slow&quot;, and &quot;unknown&quot; while</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>this machine is offline; &quot;(paused)&quot; behind it says that nothing is told.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Tell nothing of some sites, or of all, for a while</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4895,6 +4887,50 @@
         <source>The name of the file %1 ends neither in .svg nor in .png, so its format is not known. Give it one of them.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>1 day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 day (paused)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 days (paused)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It holds for %1 more, until %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It holds for %1 more, until %2. It was issued by %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It holds for %1 more, until %2. It was issued by %3, the one before by %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By options of the alarm it may be &quot;unconfirmed (1 of 3)&quot;, &quot;unsteady&quot;, &quot;slow&quot; or &quot;12 days&quot;, as long as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its certificate still holds, and &quot;unknown&quot; while this machine is offline; &quot;(paused)&quot; behind it says that</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing is told.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6242,6 +6278,22 @@
         <source>the history keeps each hour for good</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Certificate: warn before it ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>So many days before the certificate of a site ends, or when a third of its lifetime is left, there is a warning, with a colour and an alert of its own; so there is an alert when another authority has issued it; the site is up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>numbers of days parted by commas, as in &quot;21, 7, 1&quot;, &quot;third&quot; for a third of its lifetime, or &quot;off&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of a certificate it matters only whether it holds</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -6439,6 +6491,26 @@
         <source>is a warning, never &quot;down&quot;</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Days before the certificate ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One warning for each of these, as in &quot;21, 7, 1&quot;; &quot;third&quot; is a third of the certificate&apos;s lifetime</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Certificate: warn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>days before it ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A site whose certificate ends soon, or is from another authority than before, is a warning, never &quot;down&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AlarmPage</name>
@@ -6584,6 +6656,14 @@
     </message>
     <message>
         <source>Choose when and how is told of this site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up, but its certificate ends in 1 day.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up, but its certificate ends in %1 days.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -7366,6 +7446,14 @@ and when it is back</source>
         <source>All is well</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>has a certificate that ends soon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has a certificate from another authority</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::DetailsArea</name>
@@ -7735,6 +7823,10 @@ and when it is back</source>
     </message>
     <message>
         <source>in %1 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>certificate: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -9728,6 +9820,14 @@ Do You Want To Discard Them And Close %2?</source>
     </message>
     <message>
         <source>known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 days</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -3204,14 +3204,6 @@
         <translation>&quot;JJJJ-MM-TT HH:MM&quot;, HH:MM, &quot;today HH:MM&quot;, &quot;tomorrow HH:MM&quot; oder tomorrow</translation>
     </message>
     <message>
-        <source>By options of the alarm it may be &quot;unconfirmed (1 of 3)&quot;, &quot;unsteady&quot; or &quot;slow&quot;, and &quot;unknown&quot; while</source>
-        <translation>Nach Optionen des Alarms auch &quot;unbestätigt (1 von 3)&quot;, &quot;unruhig&quot;, &quot;langsam&quot;, und &quot;unbekannt&quot;, solange</translation>
-    </message>
-    <message>
-        <source>this machine is offline; &quot;(paused)&quot; behind it says that nothing is told.</source>
-        <translation>dieser Rechner offline ist; &quot;(pausiert)&quot; dahinter heißt, dass nichts gemeldet wird.</translation>
-    </message>
-    <message>
         <source>Tell nothing of some sites, or of all, for a while</source>
         <translation>Von einigen Seiten oder von allen eine Weile nichts melden</translation>
     </message>
@@ -4895,6 +4887,50 @@
         <source>The name of the file %1 ends neither in .svg nor in .png, so its format is not known. Give it one of them.</source>
         <translation>Der Name der Datei %1 endet weder auf .svg noch auf .png, ihr Format ist also nicht bekannt. Geben Sie ihr eines davon.</translation>
     </message>
+    <message>
+        <source>1 day</source>
+        <translation>1 Tag</translation>
+    </message>
+    <message>
+        <source>1 day (paused)</source>
+        <translation>1 Tag (pausiert)</translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation>%1 Tage</translation>
+    </message>
+    <message>
+        <source>%1 days (paused)</source>
+        <translation>%1 Tage (pausiert)</translation>
+    </message>
+    <message>
+        <source>It holds for %1 more, until %2.</source>
+        <translation>Es gilt noch %1, bis %2.</translation>
+    </message>
+    <message>
+        <source>It holds for %1 more, until %2. It was issued by %3.</source>
+        <translation>Es gilt noch %1, bis %2. Ausgestellt hat es %3.</translation>
+    </message>
+    <message>
+        <source>It holds for %1 more, until %2. It was issued by %3, the one before by %4.</source>
+        <translation>Es gilt noch %1, bis %2. Ausgestellt hat es %3, das vorige %4.</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation>Zertifikat</translation>
+    </message>
+    <message>
+        <source>By options of the alarm it may be &quot;unconfirmed (1 of 3)&quot;, &quot;unsteady&quot;, &quot;slow&quot; or &quot;12 days&quot;, as long as</source>
+        <translation>Nach Optionen des Alarms auch &quot;unbestätigt (1 von 3)&quot;, &quot;unruhig&quot;, &quot;langsam&quot; oder &quot;12 Tage&quot;, solange</translation>
+    </message>
+    <message>
+        <source>its certificate still holds, and &quot;unknown&quot; while this machine is offline; &quot;(paused)&quot; behind it says that</source>
+        <translation>das Zertifikat noch gilt, und &quot;unbekannt&quot;, solange dieser Rechner offline ist; &quot;(pausiert)&quot; dahinter heißt,</translation>
+    </message>
+    <message>
+        <source>nothing is told.</source>
+        <translation>dass nichts gemeldet wird.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6242,6 +6278,22 @@
         <source>the history keeps each hour for good</source>
         <translation>der Verlauf behält jede Stunde für immer</translation>
     </message>
+    <message>
+        <source>Certificate: warn before it ends</source>
+        <translation>Zertifikat: vor dem Ende warnen</translation>
+    </message>
+    <message>
+        <source>So many days before the certificate of a site ends, or when a third of its lifetime is left, there is a warning, with a colour and an alert of its own; so there is an alert when another authority has issued it; the site is up</source>
+        <translation>So viele Tage vor dem Ende des Zertifikats einer Seite, oder wenn noch ein Drittel seiner Laufzeit übrig ist, gibt es eine Warnung mit eigener Farbe und eigener Meldung; eine Meldung gibt es auch, wenn es eine andere Stelle ausgestellt hat; die Seite ist gut</translation>
+    </message>
+    <message>
+        <source>numbers of days parted by commas, as in &quot;21, 7, 1&quot;, &quot;third&quot; for a third of its lifetime, or &quot;off&quot;</source>
+        <translation>Anzahlen von Tagen mit Kommas dazwischen, wie in &quot;21, 7, 1&quot;, &quot;third&quot; für ein Drittel der Laufzeit, oder &quot;off&quot;</translation>
+    </message>
+    <message>
+        <source>of a certificate it matters only whether it holds</source>
+        <translation>bei einem Zertifikat zählt nur, ob es gilt</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AcceptDialog</name>
@@ -6439,6 +6491,26 @@
         <source>is a warning, never &quot;down&quot;</source>
         <translation>ist eine Warnung, nie „aus“</translation>
     </message>
+    <message>
+        <source>Days before the certificate ends</source>
+        <translation>Tage vor dem Ende des Zertifikats</translation>
+    </message>
+    <message>
+        <source>One warning for each of these, as in &quot;21, 7, 1&quot;; &quot;third&quot; is a third of the certificate&apos;s lifetime</source>
+        <translation>Eine Warnung für jede dieser Zahlen, wie in „21, 7, 1“; „third“ ist ein Drittel der Laufzeit des Zertifikats</translation>
+    </message>
+    <message>
+        <source>Certificate: warn</source>
+        <translation>Zertifikat: warnen</translation>
+    </message>
+    <message>
+        <source>days before it ends</source>
+        <translation>Tage vor seinem Ende</translation>
+    </message>
+    <message>
+        <source>A site whose certificate ends soon, or is from another authority than before, is a warning, never &quot;down&quot;</source>
+        <translation>Eine Seite, deren Zertifikat bald endet oder von einer anderen Stelle ist als zuvor, ist eine Warnung, nie „aus“</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::AlarmPage</name>
@@ -6585,6 +6657,14 @@
     <message>
         <source>Choose when and how is told of this site</source>
         <translation>Wählen, wann und wie von dieser Seite gemeldet wird</translation>
+    </message>
+    <message>
+        <source>Up, but its certificate ends in 1 day.</source>
+        <translation>Gut, aber das Zertifikat endet in 1 Tag.</translation>
+    </message>
+    <message>
+        <source>Up, but its certificate ends in %1 days.</source>
+        <translation>Gut, aber das Zertifikat endet in %1 Tagen.</translation>
     </message>
 </context>
 <context>
@@ -7367,6 +7447,14 @@ und wenn sie wieder da ist</translation>
         <source>All is well</source>
         <translation>Alles ist gut</translation>
     </message>
+    <message>
+        <source>has a certificate that ends soon</source>
+        <translation>hat ein Zertifikat, das bald endet</translation>
+    </message>
+    <message>
+        <source>has a certificate from another authority</source>
+        <translation>hat ein Zertifikat von einer anderen Stelle</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::DetailsArea</name>
@@ -7737,6 +7825,10 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>in %1 days</source>
         <translation>in %1 Tagen</translation>
+    </message>
+    <message>
+        <source>certificate: %1</source>
+        <translation>Zertifikat: %1</translation>
     </message>
 </context>
 <context>
@@ -9732,6 +9824,14 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
     <message>
         <source>known</source>
         <translation>bekannt</translation>
+    </message>
+    <message>
+        <source>1 day</source>
+        <translation>1 Tag</translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation>%1 Tage</translation>
     </message>
 </context>
 <context>

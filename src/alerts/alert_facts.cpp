@@ -47,6 +47,7 @@ std::string fillEvent(std::string text, const std::optional<AlertEvent>& event) 
     text = replaceAll(text, "~downFor~", event->downFor);
     text = replaceAll(text, "~checks~", event->checks);
     text = replaceAll(text, "~firstError~", event->firstError);
+    text = replaceAll(text, "~certificate~", event->certificate);
   }
   return text;
 }
@@ -54,7 +55,7 @@ std::string fillEvent(std::string text, const std::optional<AlertEvent>& event) 
 template <typename Change>
 std::optional<AlertEvent> changed(const std::optional<AlertEvent>& event, Change change) {
   return event ? std::optional(AlertEvent{change(event->event), change(event->downSince), change(event->downFor),
-                                          change(event->checks), change(event->firstError)})
+                                          change(event->checks), change(event->firstError), change(event->certificate)})
                : std::nullopt;
 }
 

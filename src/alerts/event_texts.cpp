@@ -54,6 +54,35 @@ constexpr std::string_view kSlow =
     "Sent to ~email~ by Tarnwick on ~localhostname~ (~localip~).\r\n"
     "For another text, write a file slow.txt into Tarnwick's folder.\r\n";
 
+constexpr std::string_view kCertificate =
+    "The certificate of a web site that Tarnwick watches for you ends soon.\r\n"
+    "\r\n"
+    "  Address:        ~url~\r\n"
+    "  Site number:    ~idsite~\r\n"
+    "  Certificate:    ~certificate~\r\n"
+    "\r\n"
+    "The site is up. From that moment on nobody can reach it safely, unless the\r\n"
+    "certificate is renewed before.\r\n"
+    "\r\n"
+    "--\r\n"
+    "Sent to ~email~ by Tarnwick on ~localhostname~ (~localip~).\r\n"
+    "For another text, write a file certificate.txt into Tarnwick's folder.\r\n";
+
+constexpr std::string_view kIssuer =
+    "The certificate of a web site that Tarnwick watches for you is from another\r\n"
+    "authority than before.\r\n"
+    "\r\n"
+    "  Address:        ~url~\r\n"
+    "  Site number:    ~idsite~\r\n"
+    "  Certificate:    ~certificate~\r\n"
+    "\r\n"
+    "The certificate holds, and the site is up. If nobody has changed the authority\r\n"
+    "on purpose, somebody else may answer in its place.\r\n"
+    "\r\n"
+    "--\r\n"
+    "Sent to ~email~ by Tarnwick on ~localhostname~ (~localip~).\r\n"
+    "For another text, write a file issuer.txt into Tarnwick's folder.\r\n";
+
 constexpr std::string_view kReturn =
     "This machine was offline from ~downSince~ to ~date~ (~downFor~).\r\n"
     "\r\n"
@@ -68,12 +97,14 @@ constexpr std::string_view kErrorSubject = "A WEB SITE ERROR HAS OCCURED - messa
 constexpr std::string_view kErrorFile = "email.txt";
 
 /// In the order of the kinds. Without its file an alert of an outage has no text, as it always was.
-constexpr std::array<EventTexts, 5> kTexts{{
+constexpr std::array<EventTexts, 7> kTexts{{
     {"down", kErrorSubject, kErrorFile, ""},
     {"still down", "A WEB SITE IS STILL DOWN - message from tarnwick", kErrorFile, ""},
     {"up", "A WEB SITE IS UP AGAIN - message from tarnwick", "recovered.txt", kRecovered},
     {"unsteady", "A WEB SITE IS UNSTEADY - message from tarnwick", "unsteady.txt", kUnsteady},
     {"slow", "A WEB SITE IS SLOW - message from tarnwick", "slow.txt", kSlow},
+    {"certificate", "A CERTIFICATE ENDS SOON - message from tarnwick", "certificate.txt", kCertificate},
+    {"issuer", "A CERTIFICATE IS FROM ANOTHER AUTHORITY - message from tarnwick", "issuer.txt", kIssuer},
 }};
 constexpr EventTexts kReturnTexts{"online", "THIS MACHINE WAS OFFLINE - message from tarnwick", "online.txt", kReturn};
 
@@ -84,13 +115,18 @@ const EventTexts& textsOf(AlertKind kind) { return kTexts[static_cast<std::size_
 const EventTexts& textsOfReturn() { return kReturnTexts; }
 
 AlertEvent eventOf(std::string_view word, const OutageFacts& outage) {
-  return {std::string(word), outage.since ? dateTimeText(*outage.since) : std::string(),
-          outage.since ? spanText(outage.now - *outage.since) : std::string(), std::to_string(outage.checks),
-          outage.firstError};
+  return {std::string(word),
+          outage.since ? dateTimeText(*outage.since) : std::string(),
+          outage.since ? spanText(outage.now - *outage.since) : std::string(),
+          std::to_string(outage.checks),
+          outage.firstError,
+          outage.certificate};
 }
 
 AlertEvent eventOf(AlertKind kind, const OutageFacts& outage) {
-  return eventOf(textsOf(kind).word, kind == AlertKind::slow ? OutageFacts{.now = outage.now} : outage);
+  return eventOf(textsOf(kind).word, kind == AlertKind::slow || isOfCertificate(kind)
+                                         ? OutageFacts{.now = outage.now, .certificate = outage.certificate}
+                                         : outage);
 }
 
 std::string spanText(std::chrono::seconds span) {

@@ -18,6 +18,7 @@ struct OutageFacts {
   int checks = 0;  ///< how many have failed
   std::string firstError{};
   LocalTime now{};
+  std::string certificate{};  ///< what is to be said of it in an alert that is about that
 };
 
 /// How an alert is told.
@@ -33,7 +34,7 @@ const EventTexts& textsOf(AlertKind kind);
 const EventTexts& textsOfReturn();
 
 AlertEvent eventOf(std::string_view word, const OutageFacts& outage);
-/// One that is slow is up: nothing is told of the outage that it had before.
+/// One that is slow, or whose certificate is told of, is up: nothing is told of the outage that it had before.
 AlertEvent eventOf(AlertKind kind, const OutageFacts& outage);
 
 /// A span as people write it, of its two largest units: "45 s", "1 h 12 min", "3 d 4 h". None is "0 s".

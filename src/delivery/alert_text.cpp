@@ -20,12 +20,14 @@ struct Happening {
   std::string_view event;
   std::string_view words;
 };
-constexpr std::array<Happening, 9> kHappenings{{
+constexpr std::array<Happening, 11> kHappenings{{
     {"down", "does not answer"},
     {"still down", "is still down"},
     {"up", "is up again"},
     {"unsteady", "is unsteady"},
     {"slow", "is slow"},
+    {"certificate", "has a certificate that ends soon"},
+    {"issuer", "has a certificate from another authority"},
     {"online", "This machine is online again"},
     {"test", "A test of Tarnwick"},
     {"daily test", "The daily test alert"},

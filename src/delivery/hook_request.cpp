@@ -194,7 +194,7 @@ const std::vector<HookPlaceholder>& hookPlaceholders() {
   static const std::vector<HookPlaceholder> placeholders{
       {"title", "what has happened, in one line: \"shop.example.org changed\""},
       {"text", "all of it, in lines"},
-      {"event", "\"down\", \"still down\", \"up\", \"unsteady\", \"slow\" or \"online\""},
+      {"event", "\"down\", \"still down\", \"up\", \"unsteady\", \"slow\", \"certificate\", \"issuer\" or \"online\""},
       {"url", "the site's address"},
       {"host", "its host"},
       {"site", "its number"},

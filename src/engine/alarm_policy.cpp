@@ -30,8 +30,9 @@ Reminders remindersOf(const std::string& value) {
 }
 
 constexpr std::array kOptionsOfAlarm{
-    option_name::alerts, option_name::confirm, option_name::recovery,    option_name::remind, option_name::flapping,
-    option_name::slow,   option_name::quiet,   option_name::maintenance, option_name::pause,  option_name::ownNetwork,
+    option_name::alerts,      option_name::confirm, option_name::recovery,    option_name::remind,
+    option_name::flapping,    option_name::slow,    option_name::certificate, option_name::quiet,
+    option_name::maintenance, option_name::pause,   option_name::ownNetwork,
 };
 
 }  // namespace
@@ -45,7 +46,7 @@ seconds AlarmPolicy::repeatAfter(int failures) const {
 
 bool AlarmPolicy::isOriginal() const {
   return alerts && confirm <= 1 && !recovery && remind.kind == Reminders::Kind::everyCheck && !unsteady && !slow &&
-         quiet.none() && maintenance.empty() && !pause.isOn;
+         !certificate && quiet.none() && maintenance.empty() && !pause.isOn;
 }
 
 AlarmPolicy alarmPolicyOf(const OptionsInForce& options, std::int64_t idSite) {
@@ -69,6 +70,7 @@ AlarmPolicy alarmPolicyOf(const OptionsInForce& options, std::int64_t idSite) {
       policy.slow = std::chrono::milliseconds(std::stoll(value));
     }
   });
+  take(option_name::certificate, [&](Text value) { policy.certificate = readCertificateLimits(value); });
   take(option_name::quiet, [&](Text value) { policy.quiet = readWeekHours(value).value_or(policy.quiet); });
   take(option_name::quietHow, [&](Text value) {
     policy.quietKind = value == option_value::doNotCheck ? QuietKind::noChecks : QuietKind::keepAlerts;

@@ -32,6 +32,7 @@ struct AlarmPolicy {
   Reminders remind{};
   std::optional<UnsteadyLimit> unsteady{};
   std::optional<std::chrono::milliseconds> slow{};
+  std::optional<CertificateLimits> certificate{};
   WeekHours quiet{};
   QuietKind quietKind = QuietKind::keepAlerts;
   std::vector<DatedWindow> maintenance{};

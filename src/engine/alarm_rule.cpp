@@ -166,8 +166,17 @@ AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& 
     site.toldSlow = true;
     tell(step, AlertKind::slow);
   }
+  if (outcome) {
+    for (const AlertKind kind : outcome->news) {
+      tell(step, kind);
+    }
+  }
   site.owed = step.alerts;
   return step;
+}
+
+bool mayTell(const CheckOutcome& outcome, const AlarmPolicy& policy, LocalTime now) {
+  return policy.alerts && !outcome.known && quietAt(policy, now) == Quiet::no;
 }
 
 std::optional<LocalTime> nextReminder(const SiteStanding& standing, const Reminders& remind) {

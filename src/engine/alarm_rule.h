@@ -19,6 +19,7 @@ struct CheckOutcome {
   std::chrono::milliseconds took{0};
   bool known = false;  ///< the wrong page is acknowledged, so nothing is told of it
   bool other = false;  ///< it is another one than the acknowledged one, and so is told as if nothing had been
+  std::vector<AlertKind> news{};  ///< what else there is to be told of it now, as `mayTell` says
 };
 
 /// What follows.
@@ -44,6 +45,9 @@ struct AlarmStep {
 /// - A page that took longer than `slow` is told once, until one comes in time.
 AlarmStep decideAlarm(SiteStanding standing, const std::optional<CheckOutcome>& outcome, const AlarmPolicy& policy,
                       LocalTime now);
+
+/// Whether what a check has found is told at once.
+bool mayTell(const CheckOutcome& outcome, const AlarmPolicy& policy, LocalTime now);
 
 /// Whether time alone may bring something to be told of the site, so that it is to be asked about now and then.
 bool waitsForTime(const SiteStanding& standing, const AlarmPolicy& policy);

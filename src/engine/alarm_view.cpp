@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "engine/alarm_view.h"
 
+#include "engine/certificate_rule.h"
+
 namespace tarnwick {
 namespace {
 
-AlarmView::State stateOf(const SiteStanding& standing, const AlarmPolicy& policy, bool acknowledged) {
+AlarmView::State stateOf(const SiteStanding& standing, const AlarmPolicy& policy, bool acknowledged, bool endsSoon) {
   using enum AlarmView::State;
   if (standing.unknownSince) {
     return unknown;
@@ -21,13 +23,19 @@ AlarmView::State stateOf(const SiteStanding& standing, const AlarmPolicy& policy
   if (standing.failures > 0) {
     return standing.failures < policy.confirm ? unconfirmed : down;
   }
-  return policy.slow && standing.slow ? slow : none;
+  return endsSoon ? certificate : policy.slow && standing.slow ? slow : none;
 }
 
 }  // namespace
 
-AlarmView alarmViewOf(const SiteStanding& standing, const AlarmPolicy& policy, LocalTime now, bool acknowledged) {
-  AlarmView view{.state = stateOf(standing, policy, acknowledged), .quiet = quietAt(policy, now)};
+AlarmView alarmViewOf(const SiteStanding& standing, const AlarmPolicy& policy, LocalTime now, bool acknowledged,
+                      const SiteCertificate* certificate) {
+  AlarmView view{.quiet = quietAt(policy, now)};
+  if (policy.certificate && certificate != nullptr && reachedLimit(*policy.certificate, *certificate, momentAt(now))) {
+    view.daysLeft = daysLeft(*certificate, momentAt(now));
+  }
+  view.state = stateOf(standing, policy, acknowledged, view.daysLeft.has_value());
+  view.slow = policy.slow && standing.slow && standing.failures == 0;
   if (isPaused(policy.pause, now)) {
     view.pause = policy.pause;
   }
@@ -44,11 +52,18 @@ AlarmView alarmViewOf(const SiteStanding& standing, const AlarmPolicy& policy, L
       view.firstError = standing.firstError;
       break;
     case AlarmView::State::unsteady:
+    case AlarmView::State::certificate:
     case AlarmView::State::slow:
     case AlarmView::State::none:
       break;
   }
   return view;
+}
+
+AlarmView alarmViewOf(const SiteStanding& standing, const AlarmPolicy& policy, LocalTime now, bool acknowledged,
+                      const std::map<std::int64_t, SiteCertificate>& certificates, std::int64_t idSite) {
+  const auto known = certificates.find(idSite);
+  return alarmViewOf(standing, policy, now, acknowledged, known == certificates.end() ? nullptr : &known->second);
 }
 
 std::string wordsOf(const AlarmView& view) {
@@ -61,6 +76,8 @@ std::string wordsOf(const AlarmView& view) {
       return "down";
     case AlarmView::State::unsteady:
       return "unsteady";
+    case AlarmView::State::certificate:
+      return daysText(view.daysLeft.value_or(0));
     case AlarmView::State::slow:
       return "slow";
     case AlarmView::State::unknown:

@@ -61,7 +61,7 @@ void ChannelAlerts::keep(const CheckResult& result, std::span<const AlertKind> k
   for (const AlertKind kind : kinds) {
     Alert one = told(alert, kind, outage);
     if (!tellsOfFailure(kind)) {
-      one.cause.clear();
+      one.cause = isOfCertificate(kind) ? outage.certificate : std::string();
       one.difference.clear();
     }
     needs_.delivery.add(std::move(one), channels);

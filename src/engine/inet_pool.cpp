@@ -114,6 +114,7 @@ void InetPool::saveSocketData(std::int16_t slot) {
   row.errDescription = std::move(result.cause);
   row.took = result.took;
   row.timings = result.timings;
+  row.certificate = std::move(result.certificate);
   row.server = std::move(result.server);
   row.status = result.status;
 }

@@ -71,6 +71,7 @@ class InetPool {
   /// How long its request took, and the address of the server that was asked; none as long as nothing was saved.
   std::chrono::milliseconds siteTook(std::size_t row) const { return rows_.at(row).took; }
   const CheckTimings& siteTimings(std::size_t row) const { return rows_.at(row).timings; }
+  const std::optional<ServerCertificate>& siteCertificate(std::size_t row) const { return rows_.at(row).certificate; }
   const std::string& siteServer(std::size_t row) const { return rows_.at(row).server; }
   /// The HTTP status of its answer; 0 where there was none.
   int siteStatus(std::size_t row) const { return rows_.at(row).status; }
@@ -94,6 +95,7 @@ class InetPool {
     std::string errDescription;
     std::chrono::milliseconds took{0};
     CheckTimings timings{};
+    std::optional<ServerCertificate> certificate{};
     std::string server;
     int status = 0;
   };

@@ -252,8 +252,10 @@ std::optional<PassRecording::Stored> PassRecording::storeResult(std::size_t row,
   const KnownStep known = known_.take(id, passed, content);
   Stored stored{passed, counts, needs_.results.remark(), known == KnownStep::silent};
   if (debts_.alarms.decidesAbout(id)) {
-    stored.alarm = debts_.alarms.take(id, {passed, errCode != 0 ? errDescription : kPageDiffers,
-                                           needs_.pool.siteTook(row), stored.silent, known == KnownStep::other});
+    CheckOutcome outcome{passed, errCode != 0 ? errDescription : kPageDiffers, needs_.pool.siteTook(row), stored.silent,
+                         known == KnownStep::other};
+    outcome.news = debts_.alarms.newsOfCertificate(id, needs_.pool.siteCertificate(row), outcome);
+    stored.alarm = debts_.alarms.take(id, outcome);
   }
   if (room != Room::noHistory && debts_.history.takesChecks()) {
     takeIntoHistory(row, fetched, passed);
@@ -286,8 +288,12 @@ void PassRecording::keepForChannels(std::size_t row, const Fetched& fetched, con
   static constexpr std::array kDown{AlertKind::down};
   ChannelAlerts channels(needs_, options_);
   if (stored.alarm) {
-    channels.keep(resultOf(row, fetched, stored), std::span(stored.alarm->alerts).subspan(stored.alarm->owedBefore),
-                  outageOf(stored.alarm->standing, needs_.clock.localNow()));
+    const auto decided = std::span(stored.alarm->alerts).subspan(stored.alarm->owedBefore);
+    OutageFacts outage = outageOf(stored.alarm->standing, needs_.clock.localNow());
+    if (std::ranges::any_of(decided, &isOfCertificate)) {
+      outage.certificate = debts_.alarms.certificateOf(sites_.idSite(row));
+    }
+    channels.keep(resultOf(row, fetched, stored), decided, outage);
   } else if (!stored.passed && !stored.silent) {
     channels.keep(resultOf(row, fetched, stored), kDown, {.now = needs_.clock.localNow()});
   }

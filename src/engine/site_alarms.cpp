@@ -50,6 +50,39 @@ bool SiteAlarms::restsNow(std::int16_t idSite) {
   return policy != nullptr && quietAt(*policy, clock_.localNow()) == Quiet::noChecks;
 }
 
+std::vector<AlertKind> SiteAlarms::newsOfCertificate(std::int16_t idSite, const std::optional<ServerCertificate>& found,
+                                                     const CheckOutcome& outcome) {
+  const AlarmPolicy& policy = *policyOf(idSite);
+  if (!policy.certificate) {
+    return {};
+  }
+  const auto before = certificates_.certificateOf(idSite, options_);
+  if (!found) {
+    if (before && outcome.passed) {
+      certificates_.forgetCertificate(idSite);
+    }
+    return {};
+  }
+  keepsCertificates_ = keepsCertificates_ || certificates_.canBeKept();
+  if (!keepsCertificates_) {
+    return {};
+  }
+  const Telling telling = !policy.alerts                                ? Telling::never
+                          : mayTell(outcome, policy, clock_.localNow()) ? Telling::now
+                                                                        : Telling::later;
+  CertificateStep step = decideCertificate(before, {found->began, found->ends, found->issuer}, *policy.certificate,
+                                           clock_.now(), telling, seen_[idSite]);
+  if (step.kept != before) {
+    certificates_.storeCertificate(idSite, step.kept);
+  }
+  return std::move(step.alerts);
+}
+
+std::string SiteAlarms::certificateOf(std::int16_t idSite) {
+  const auto certificate = certificates_.certificateOf(idSite, options_);
+  return certificate ? certificateText(*certificate, clock_.now(), seen_[idSite].formerIssuer) : std::string();
+}
+
 AlarmStep SiteAlarms::take(std::int16_t idSite, const CheckOutcome& outcome) {
   const SiteStanding before = standings_.standingOf(idSite);
   AlarmStep step = decideAlarm(standingOf(idSite), outcome, *policyOf(idSite), clock_.localNow());
@@ -72,7 +105,11 @@ void SiteAlarms::settle(std::int16_t idSite) {
 
 bool SiteAlarms::raise(std::int16_t idSite, AlertKind kind) {
   const SiteStanding standing = standings_.standingOf(idSite);
-  alerts_.sendAlerts(idSite, kind, outageOf(standing, clock_.localNow()));
+  OutageFacts outage = outageOf(standing, clock_.localNow());
+  if (isOfCertificate(kind)) {
+    outage.certificate = certificateOf(idSite);
+  }
+  alerts_.sendAlerts(idSite, kind, outage);
   return !alerts_.mailOutcome().lost || alerts_.mailOutcome().otherWay;
 }
 

@@ -10,7 +10,10 @@
 
 #include "alerts/event_texts.h"
 #include "engine/alarm_rule.h"
+#include "engine/certificate_rule.h"
 #include "platform/clock.h"
+#include "platform/transfer_control.h"
+#include "store/site_certificates.h"
 #include "store/site_options.h"
 #include "store/site_standing.h"
 
@@ -27,7 +30,7 @@ OutageFacts outageOf(const SiteStanding& standing, LocalTime now);
 class SiteAlarms {
  public:
   SiteAlarms(SiteStandings& standings, AlertDispatch& alerts, const Clock& clock)
-      : standings_(standings), alerts_(alerts), clock_(clock) {}
+      : standings_(standings), certificates_(standings.database()), alerts_(alerts), clock_(clock) {}
 
   /// What holds from now on.
   void setOptions(OptionsInForce options);
@@ -38,6 +41,13 @@ class SiteAlarms {
   bool decidesAbout(std::int16_t idSite) { return policyOf(idSite) != nullptr; }
   /// Whether the site is not to be checked now, since that is how its quiet time is to be spent.
   bool restsNow(std::int16_t idSite);
+
+  /// What there is to be told of the certificate that a check has found, where it is looked at; keeps it. `outcome` is
+  /// what else the check came to. REQUIRES: as `take`, which is to be given it as news.
+  std::vector<AlertKind> newsOfCertificate(std::int16_t idSite, const std::optional<ServerCertificate>& found,
+                                           const CheckOutcome& outcome);
+  /// What is known of the certificate of the site, for people; empty where nothing is.
+  std::string certificateOf(std::int16_t idSite);
 
   /// Decides what follows a check, and keeps it. REQUIRES: the transaction of the check's result, and
   /// `decidesAbout(idSite)`.
@@ -59,14 +69,17 @@ class SiteAlarms {
   SiteStanding standingOf(std::int16_t idSite);
 
   SiteStandings& standings_;
+  SiteCertificates certificates_;
   AlertDispatch& alerts_;
   const Clock& clock_;
   OptionsInForce options_;
   bool watchesTime_ = false;
   std::optional<bool> canBeKept_;
+  bool keepsCertificates_ = false;
   // By site; none where the original rule holds.
   std::map<std::int64_t, std::optional<AlarmPolicy>> policies_;
   std::set<std::int16_t> forgiven_;
+  std::map<std::int16_t, CertificatesSeen> seen_;
 };
 
 }  // namespace tarnwick

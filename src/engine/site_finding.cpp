@@ -15,11 +15,12 @@ FoundSite foundSiteOf(const SiteSeen& seen, Tags tags) {
   found.noAnswer = found.down && !seen.hasPage;
   found.unconfirmed = seen.alarm.state == AlarmView::State::unconfirmed;
   found.known = seen.acknowledged;
-  found.slow = seen.alarm.state == AlarmView::State::slow;
+  found.slow = seen.alarm.slow;
   found.never = !seen.isChecked;
   found.active = seen.active;
   found.paused = seen.alarm.pause.has_value();
   found.offline = seen.alarm.state == AlarmView::State::unknown;
+  found.certificate = seen.alarm.daysLeft.has_value();
   found.unwatched = seen.unwatched != Unwatched::no;
   found.tags = std::move(tags);
   return found;

@@ -20,6 +20,7 @@
 #include "engine/uncounted_failures.h"
 #include "store/kept_pages.h"
 #include "store/room_reserve.h"
+#include "store/site_certificates.h"
 #include "store/site_table.h"
 
 namespace tarnwick {
@@ -249,6 +250,7 @@ void TestPass::sendRequest(std::int16_t slot, std::size_t row) {
   const std::int16_t id = sites_.idSite(row);
   Request request = sites_.requestFor(row);
   request.otherThan = needs_.pool.siteServer(row);
+  request.wantsCertificate = looksAtCertificate(options_, id);
   needs_.view.showStatus("Testing: " + sites_.url(row));
   needs_.pool.send(slot, row, std::move(request));
   needs_.view.brighten(id, kTestingBrightness);

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -81,6 +82,15 @@ struct Request {
   bool sendsBodyAlways = false;
   /// Else the answer that leads elsewhere is the page, and nothing of the request goes to another place.
   bool followsRedirects = true;
+  /// Whether to look at the certificate of the server.
+  bool wantsCertificate = false;
+};
+
+/// By what the server of a page has proved who it is, as far as that was verified.
+struct ServerCertificate {
+  std::chrono::sys_seconds began;  ///< when the last one of the chain of certificates began to hold
+  std::chrono::sys_seconds ends;   ///< when the first one of them holds no more
+  std::string issuer{};            ///< of the server's own: an organisation, or else a name, as it may be shown
 };
 
 /// What a request came to: a page, or a fault and its cause.
@@ -99,6 +109,9 @@ struct TransferResult {
   std::chrono::milliseconds took{0};
   /// The parts of that.
   CheckTimings timings{};
+  /// What a request that wants it has found on the way, redirects included: each server that it was led to has to hold.
+  /// Nothing where none is secured, where none was verified, and where the TLS library does not tell.
+  std::optional<ServerCertificate> certificate{};
 
   /// The fault as it is stored and shown; 0 for none.
   long code() const { return static_cast<long>(fault); }

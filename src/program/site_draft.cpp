@@ -91,6 +91,10 @@ void storeSite(m& data, std::int16_t idSite, const SiteDraft& site, const std::v
   const std::int16_t interval =
       site.tInterval.empty() ? kIntervalOfNewSite
                              : SqlValue(site.tInterval).toInt16("The interval of site " + std::to_string(idSite));
+  if (looksAtCertificate(data.optionsInForce(), idSite) && data.getUrl(idSite) != site.url) {
+    // That of another server is no successor of it.
+    data.forgetCertificate(idSite);
+  }
   data.updateSites(idSite, site.url, site.method, site.active, interval, site.alertEmail, site.email, site.sUserName,
                    site.sPassWord);
   for (const SiteField& field : data.fields().site) {

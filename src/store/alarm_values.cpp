@@ -21,6 +21,9 @@ constexpr std::size_t kHours = 24;
 constexpr std::array<std::string_view, kDays> kDayNames{"Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun"};
 constexpr std::size_t kMostPauses = 10;
 constexpr int kLongestPause = 300;
+constexpr std::string_view kThird = "third";
+constexpr int kMostDays = 3650;
+constexpr std::size_t kMostLimits = 10;
 
 std::vector<std::string_view> parts(std::string_view text, char separator) {
   std::vector<std::string_view> found;
@@ -388,6 +391,35 @@ std::optional<std::vector<std::string>> readHosts(std::string_view text) {
     hosts.emplace_back(part);
   }
   return hosts;
+}
+
+std::optional<CertificateLimits> readCertificateLimits(std::string_view text) {
+  CertificateLimits limits;
+  for (std::string_view part : parts(text, ',')) {
+    if (equalsIgnoringCase(part, kThird)) {
+      limits.third = true;
+      continue;
+    }
+    const auto days = takeNumber(part, 1, kMostDays);
+    if (!days || !isOneOf(part, {"", "d", "day", "days"})) {
+      return std::nullopt;
+    }
+    limits.days.push_back(*days);
+  }
+  std::ranges::sort(limits.days, std::ranges::greater());
+  limits.days.erase(std::unique(limits.days.begin(), limits.days.end()), limits.days.end());
+  return limits.days.size() <= kMostLimits ? std::optional(std::move(limits)) : std::nullopt;
+}
+
+std::string certificateLimitsText(const CertificateLimits& limits) {
+  std::vector<std::string> texts;
+  if (limits.third) {
+    texts.emplace_back(kThird);
+  }
+  for (const int days : limits.days) {
+    texts.push_back(std::to_string(days));
+  }
+  return joined(texts, ", ");
 }
 
 std::optional<seconds> readTimeOfDay(std::string_view text) {

@@ -28,6 +28,15 @@ struct UnsteadyLimit {
 std::optional<UnsteadyLimit> readUnsteadyLimit(std::string_view text);
 std::string unsteadyLimitText(const UnsteadyLimit& limit);
 
+/// When a certificate is told before its end: so many days, or when a third of its lifetime is left: "21, 7, 1",
+/// "third", "third, 7".
+struct CertificateLimits {
+  std::vector<int> days{};  ///< 1 to 3650, the greatest first, at most ten
+  bool third = false;
+};
+std::optional<CertificateLimits> readCertificateLimits(std::string_view text);
+std::string certificateLimitsText(const CertificateLimits& limits);
+
 /// The hours of a week, from Monday 0:00 on; by the clock on the wall, so that an hour that comes twice counts twice.
 using WeekHours = std::bitset<168>;
 

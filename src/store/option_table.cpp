@@ -37,6 +37,11 @@ std::optional<std::string> unsteadyForm(std::string_view text) {
                                                      : formBy<readUnsteadyLimit, unsteadyLimitText>(text);
 }
 
+std::optional<std::string> certificateForm(std::string_view text) {
+  return equalsIgnoringCase(text, option_value::off) ? std::optional(std::string(option_value::off))
+                                                     : formBy<readCertificateLimits, certificateLimitsText>(text);
+}
+
 std::vector<OptionField> alarmOptions() {
   return {
       {.name = std::string(option_name::alerts),
@@ -102,6 +107,18 @@ std::vector<OptionField> alarmOptions() {
        .original = "it does not matter how long an answer takes",
        .label = "Slow: an answer after",
        .meaning = "A page that took longer is a warning, with a colour and an alert of its own; the site is up"},
+      {.name = std::string(option_name::certificate),
+       .kind = OptionKind::text,
+       .ofSite = true,
+       .original = "of a certificate it matters only whether it holds",
+       .label = "Certificate: warn before it ends",
+       .meaning =
+           "So many days before the certificate of a site ends, or when a third of its lifetime is left, there is "
+           "a warning, with a colour and an alert of its own; so there is an alert when another authority has "
+           "issued it; the site is up",
+       .form = &certificateForm,
+       .takes = "numbers of days parted by commas, as in \"21, 7, 1\", \"third\" for a third of its lifetime, or "
+                "\"off\""},
       {.name = std::string(option_name::quiet),
        .kind = OptionKind::text,
        .ofSite = true,

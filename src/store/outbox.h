@@ -20,7 +20,7 @@ struct Alert {
   LocalTime made{};
   /// When its pass began: alerts of one pass may be bundled.
   LocalTime pass{};
-  std::string event{};  ///< "down", "still down", "up", "unsteady", "slow", "online", "test"
+  std::string event{};  ///< "down", "still down", "up", "unsteady", "slow", "certificate", "issuer", "online", "test"
   std::string url{};
   std::string cause{};       ///< why a check failed, in one line
   std::string downSince{};   ///< a date; empty when it is not known

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "store/history_rows.h"
+#include "store/migrations.h"
 #include "store/table_there.h"
 
 namespace tarnwick {
@@ -55,9 +56,16 @@ std::optional<SiteCertificate> SiteCertificates::certificateOf(std::int64_t idSi
   const SqlValue id(idSite);
   const auto rows =
       db_.conn().execute("select began, ends, issuer, told from certificates where idSite = ?1", {&id, 1});
-  const auto found = rows->eof() ? std::nullopt : std::optional(certificateIn(*rows, 0));
+  auto found = rows->eof() ? std::nullopt : std::optional(certificateIn(*rows, 0));
   rows->close();
   return found;
+}
+
+bool SiteCertificates::canBeKept() {
+  if (!hasTable(db_)) {
+    requireTodaysForm(db_.conn(), db_.dbPath());
+  }
+  return hasTable(db_);
 }
 
 void SiteCertificates::storeCertificate(std::int64_t idSite, const SiteCertificate& certificate) {

@@ -37,7 +37,9 @@ class SiteCertificates {
   /// The same of one site.
   std::optional<SiteCertificate> certificateOf(std::int64_t idSite, const OptionsInForce& options);
 
-  /// Keeps it in place of what there is. REQUIRES: the list has the tables of today's form.
+  /// Whether the list can hold them. One that lacks the table is given it, where it can be written.
+  bool canBeKept();
+  /// Keeps it in place of what there is. REQUIRES: `canBeKept()`.
   void storeCertificate(std::int64_t idSite, const SiteCertificate& certificate);
   /// Nothing where there is none.
   void forgetCertificate(std::int64_t idSite);

@@ -18,7 +18,8 @@ constexpr const char* kColumns =
     "failures, downSince, firstError, told, toldAt, lastToldAt, outageSince, outageChecks, outageError, changes, "
     "unsteady, slow, toldSlow, unknownSince, owed";
 
-constexpr std::array<std::string_view, 5> kKinds{"down", "stillDown", "up", "unsteady", "slow"};
+constexpr std::array<std::string_view, 7> kKinds{"down", "stillDown",   "up",    "unsteady",
+                                                 "slow", "certificate", "issuer"};
 constexpr std::array<std::string_view, 3> kTold{"up", "down", "unsteady"};
 
 SqlValue stored(const std::optional<LocalTime>& time) { return time ? SqlValue(dateTimeText(*time)) : SqlValue(); }

@@ -19,7 +19,11 @@ enum class AlertKind {
   up,  ///< again
   unsteady,
   slow,
+  certificate,  ///< ends soon
+  issuer,       ///< another one has issued the certificate
 };
+
+constexpr bool isOfCertificate(AlertKind kind) { return kind == AlertKind::certificate || kind == AlertKind::issuer; }
 
 /// How a site stands, as far as what is told depends on it. As it is made here, one of which nothing is known.
 struct SiteStanding {

@@ -47,6 +47,7 @@ TEST(AlarmPolicy, IsTheOriginalOneWhereTheOriginalIsSet) {
                                          {"remind", "every check"},
                                          {"flapping", "off"},
                                          {"slow", "off"},
+                                         {"certificate", "off"},
                                          {"quiet", "none"},
                                          {"quietHow", "do not check"},
                                          {"maintenance", "none"},
@@ -64,6 +65,7 @@ TEST(AlarmPolicy, AnyOptionMakesItAnother) {
                                                         {"remind", "growing"},
                                                         {"flapping", "5 in 30 min"},
                                                         {"slow", "2000"},
+                                                        {"certificate", "third"},
                                                         {"quiet", "daily 1-2"},
                                                         {"maintenance", "2026-12-01 08:00 to 2026-12-01 12:00"},
                                                         {"pause", "for good"}};

@@ -60,6 +60,31 @@ TEST(AlarmView, NamesTheWorstState) {
   EXPECT_EQ(wordsOf(alarmViewOf(standing, policy, kNow)), "unknown");
 }
 
+TEST(AlarmView, ACertificateThatEndsSoonComesBeforeSlowAndBehindAFailure) {
+  AlarmPolicy policy = ofThree();
+  policy.slow = std::chrono::milliseconds(100);
+  policy.certificate = readCertificateLimits("21, 7");
+  SiteStanding standing;
+  standing.slow = true;
+  SiteCertificate certificate{momentAt(kNow) - std::chrono::days(60), momentAt(kNow) + std::chrono::days(12), "A", 21};
+  const auto view = [&] { return alarmViewOf(standing, policy, kNow, false, &certificate); };
+  EXPECT_EQ(wordsOf(view()), "12 days");
+  EXPECT_EQ(view().state, AlarmView::State::certificate);
+  EXPECT_TRUE(view().slow) << "it is found by that all the same";
+  certificate.ends = momentAt(kNow) + std::chrono::hours(30);
+  EXPECT_EQ(wordsOf(view()), "1 day");
+  standing.failures = 3;
+  EXPECT_EQ(wordsOf(view()), "down");
+  EXPECT_EQ(view().daysLeft, 1);
+  standing.failures = 0;
+  certificate.ends = momentAt(kNow) + std::chrono::days(22);
+  EXPECT_EQ(wordsOf(view()), "slow");
+  EXPECT_EQ(view().daysLeft, std::nullopt);
+  policy.certificate.reset();
+  certificate.ends = momentAt(kNow) + std::chrono::days(1);
+  EXPECT_EQ(view().daysLeft, std::nullopt) << "nobody wants to know";
+}
+
 TEST(AlarmView, NamesThePauseThatIsOn) {
   AlarmPolicy policy;
   policy.pause = {true, kNow + minutes(1)};

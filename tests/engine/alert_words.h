@@ -29,6 +29,12 @@ inline std::string wordsOf(const std::vector<AlertKind>& alerts) {
       case AlertKind::slow:
         words += "slow";
         break;
+      case AlertKind::certificate:
+        words += "certificate";
+        break;
+      case AlertKind::issuer:
+        words += "issuer";
+        break;
     }
   }
   return words;

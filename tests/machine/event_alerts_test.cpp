@@ -38,6 +38,10 @@ const KindCase kKinds[] = {
     {AlertKind::up, "up", "A WEB SITE IS UP AGAIN - message from tarnwick", "recovered.txt", false},
     {AlertKind::unsteady, "unsteady", "A WEB SITE IS UNSTEADY - message from tarnwick", "unsteady.txt", true},
     {AlertKind::slow, "slow", "A WEB SITE IS SLOW - message from tarnwick", "slow.txt", false, "|||0|"},
+    {AlertKind::certificate, "certificate", "A CERTIFICATE ENDS SOON - message from tarnwick", "certificate.txt", false,
+     "|||0|"},
+    {AlertKind::issuer, "issuer", "A CERTIFICATE IS FROM ANOTHER AUTHORITY - message from tarnwick", "issuer.txt",
+     false, "|||0|"},
 };
 
 class EventAlerts : public testing::AlertsFixture {

@@ -33,6 +33,7 @@ std::string stored(std::string_view text) {
 
 std::string pauses(std::string_view text) { return stored<readPauses, pausesText>(text); }
 std::string limit(std::string_view text) { return stored<readUnsteadyLimit, unsteadyLimitText>(text); }
+std::string certificate(std::string_view text) { return stored<readCertificateLimits, certificateLimitsText>(text); }
 std::string hours(std::string_view text) { return stored<readWeekHours, weekHoursText>(text); }
 std::string windows(std::string_view text) { return stored<readDatedWindows, datedWindowsText>(text); }
 std::string pause(std::string_view text) { return stored<readPause, pauseText>(text); }
@@ -68,6 +69,18 @@ TEST(AlarmValues, ALimitOfChangesIsANumberInMinutes) {
   for (const char* const bad : {"", "5", "5 in", "in 30", "0 in 30", "101 in 30", "5 in 0", "5 in 1441", "5 in 30 h",
                                 "5 of 30", "5 in 30 min 2"}) {
     EXPECT_FALSE(readUnsteadyLimit(bad)) << bad;
+  }
+}
+
+TEST(AlarmValues, LimitsOfACertificateAreDaysOrAThird) {
+  EXPECT_EQ(certificate("21"), "21");
+  EXPECT_EQ(certificate(" 1,21 days, 7d,7"), "21, 7, 1");
+  EXPECT_EQ(certificate("7, Third"), "third, 7");
+  EXPECT_EQ(certificate("third"), "third");
+  EXPECT_EQ(certificate("3650"), "3650");
+  for (const char* const bad :
+       {"", " ", ",", "7,", "0", "-7", "3651", "7 h", "half", "off", "7 7", "2.5", "1,2,3,4,5,6,7,8,9,10,11"}) {
+    EXPECT_FALSE(readCertificateLimits(bad)) << bad;
   }
 }
 

@@ -15,7 +15,9 @@ namespace tarnwick::testing {
 
 /// The whole program without a window on a folder of its own, with a web server to check.
 struct ProgramFixture {
-  explicit ProgramFixture(TestServices::Time time = TestServices::Time::clockByHand) : machine(time) {}
+  explicit ProgramFixture(TestServices::Time time = TestServices::Time::clockByHand,
+                          const CurlTransfers::Options& web = {})
+      : machine(time, web) {}
 
   /// Adds an active site with its defaults and returns its id.
   std::int16_t addSite(const std::string& url) {

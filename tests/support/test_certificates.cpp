@@ -6,6 +6,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "platform/clock.h"
+
 namespace tarnwick::testing {
 namespace {
 
@@ -18,7 +20,7 @@ constexpr const char* kPresent = "-days 2";
 
 constexpr const char* kSigningConfiguration =
     "[ca]\ndefault_ca=own\n[own]\ndatabase=index.txt\nserial=serial.txt\nnew_certs_dir=.\ndefault_md=sha256\n"
-    "policy=any\nunique_subject=no\ncopy_extensions=none\n[any]\ncommonName=supplied\n";
+    "policy=any\nunique_subject=no\ncopy_extensions=none\n[any]\ncommonName=supplied\norganizationName=optional\n";
 
 void writeFile(const QString& path, const QByteArray& text) {
   QFile file(path);
@@ -73,6 +75,56 @@ bool TestCertificates::sign(const std::string& name, const std::string& subjectN
          run("ca -batch -notext -config ca.cnf -cert " + authority + ".crt -keyfile " + authority + ".key -extfile " +
              name + ".ext -in " + name + ".csr -out " + name + ".crt " + period);
 }
+
+void TestCertificates::makeAuthority(const std::string& name) {
+  if (problem_.empty()) {
+    makeSelfSigned(name, "-subj /CN=" + name);
+  }
+}
+
+void TestCertificates::make(const WantedCertificate& wanted) {
+  if (!problem_.empty()) {
+    return;
+  }
+  const auto stamp = [](std::chrono::sys_seconds time) {
+    std::string text = dateTimeText(LocalTime(time.time_since_epoch()));
+    std::erase_if(text, [](char c) { return c < '0' || c > '9'; });
+    return text + "Z";
+  };
+  const QDir dir(folder_->dir.path());
+  const auto file = [&](const std::string& name) { return dir.filePath(QString::fromStdString(name)); };
+  writeFile(file(wanted.name + ".ext"),
+            wanted.signs ? QByteArray("basicConstraints=critical,CA:TRUE\n")
+                         : QByteArray::fromStdString("subjectAltName=" + std::string(kOwnNames) + "\n"));
+  if (!wanted.keyOf.empty()) {
+    QFile::copy(file(wanted.keyOf + ".key"), file(wanted.name + ".key"));
+  }
+  const std::string key = wanted.keyOf.empty() ? "-newkey rsa:2048 -nodes -keyout " : "-key ";
+  static_cast<void>(
+      run("req -new -sha256 -subj " + wanted.subject + " " + key + wanted.name + ".key -out " + wanted.name + ".csr") &&
+      run("ca -batch -notext -config ca.cnf -cert " + wanted.authority + ".crt -keyfile " + wanted.authority +
+          ".key -extfile " + wanted.name + ".ext -in " + wanted.name + ".csr -out " + wanted.name + ".crt -startdate " +
+          stamp(wanted.begins) + " -enddate " + stamp(wanted.ends)));
+}
+
+std::string TestCertificates::joined(const std::vector<std::string>& names) {
+  QByteArray all;
+  for (const std::string& name : names) {
+    QFile file(QString::fromStdString(identity(name).certificateFile));
+    if (file.open(QIODevice::ReadOnly)) {
+      all += file.readAll();
+    }
+  }
+  const QString path = folder_->dir.filePath(QStringLiteral("joined%1.pem").arg(++joined_));
+  writeFile(path, all);
+  return path.toStdString();
+}
+
+TlsIdentity TestCertificates::chain(const std::vector<std::string>& names) {
+  return {.certificateFile = joined(names), .keyFile = identity(names.front()).keyFile};
+}
+
+std::string TestCertificates::authoritiesFile(const std::vector<std::string>& names) { return joined(names); }
 
 TlsIdentity TestCertificates::identity(const std::string& name) const {
   const std::string start = folder_->dir.path().toStdString() + "/" + name;

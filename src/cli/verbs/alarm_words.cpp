@@ -3,6 +3,7 @@
 
 #include "cli/terminal/json_output.h"
 #include "cli/verbs/unwatched.h"
+#include "engine/certificate_rule.h"
 #include "exchange/list/site_facts.h"
 
 namespace tarnwick {
@@ -51,6 +52,8 @@ const char* wordOf(AlarmView::State state) {
       return "down";
     case AlarmView::State::unsteady:
       return "unsteady";
+    case AlarmView::State::certificate:
+      return "certificate";
     case AlarmView::State::slow:
       return "slow";
     case AlarmView::State::unknown:
@@ -68,13 +71,18 @@ SiteWatches::SiteWatches(Tool& tool)
       runIsOn_(seemsToRun(tool)),
       options_(tool.data().optionsInForce()),
       standings_(tool.data().standings()),
-      known_(tool.data().acknowledgements()) {}
+      known_(tool.data().acknowledgements()),
+      certificates_(tool.data().certificates(options_)) {}
 
 SiteWatch SiteWatches::of(const SiteFacts& facts) const {
   const auto known = standings_.find(facts.idSite);
   SiteWatch watch;
-  watch.alarm = alarmViewOf(known == standings_.end() ? SiteStanding{} : known->second,
-                            alarmPolicyOf(options_, facts.idSite), now_, known_.contains(facts.idSite));
+  watch.alarm =
+      alarmViewOf(known == standings_.end() ? SiteStanding{} : known->second, alarmPolicyOf(options_, facts.idSite),
+                  now_, known_.contains(facts.idSite), certificates_, facts.idSite);
+  if (const auto certificate = certificates_.find(facts.idSite); certificate != certificates_.end()) {
+    watch.certificate = certificate->second;
+  }
   watch.unwatched = unwatchedOf({.active = facts.site.active,
                                  .lastChecked = parseStamp(facts.lastChecked),
                                  .interval = SqlValue(facts.site.tInterval).toInt64(),
@@ -107,6 +115,12 @@ void addTo(JsonValue& json, const SiteWatch& watch) {
   if (!std::get<JsonValue::Object>(alarm.content()).empty()) {
     json["alarm"] = std::move(alarm);
   }
+  if (const auto& certificate = watch.certificate) {
+    json["certificate"] = JsonValue{{"began", dateTimeText(localTimeAt(certificate->began))},
+                                    {"ends", dateTimeText(localTimeAt(certificate->ends))},
+                                    {"issuer", jsonText(certificate->issuer)},
+                                    {"endsSoon", view.daysLeft.has_value()}};
+  }
   if (watch.unwatched != Unwatched::no) {
     json["unwatched"] = JsonValue(std::string(wordOf(watch.unwatched)));
   }
@@ -115,7 +129,7 @@ void addTo(JsonValue& json, const SiteWatch& watch) {
 std::vector<std::pair<std::string, std::string>> linesOf(const Console& console, const SiteWatch& watch) {
   const AlarmView& view = watch.alarm;
   std::vector<std::pair<std::string, std::string>> lines;
-  if (view.state != AlarmView::State::none) {
+  if (view.state != AlarmView::State::none && view.state != AlarmView::State::certificate) {
     const std::string since = view.since ? ", " + console.worded("since " + dateTimeText(*view.since)) : "";
     lines.emplace_back("Alarm", console.worded(wordsOf(view)) + since);
   }
@@ -127,6 +141,12 @@ std::vector<std::pair<std::string, std::string>> linesOf(const Console& console,
   } else if (view.quiet != Quiet::no) {
     lines.emplace_back("Quiet now",
                        console.worded(view.quiet == Quiet::noChecks ? "it is not checked" : "its alerts are kept"));
+  }
+  if (const auto& certificate = watch.certificate) {
+    const std::string left = view.daysLeft ? console.worded(daysText(*view.daysLeft)) + ", " : std::string();
+    lines.emplace_back("Certificate", left + console.worded("until " + dateTimeText(localTimeAt(certificate->ends))) +
+                                          (certificate->issuer.empty() ? std::string() : ", ") +
+                                          visibleText(certificate->issuer));
   }
   // That no run is on is nothing new for a script.
   if (watch.unwatched != Unwatched::no && (watch.unwatched != Unwatched::noRun || console.isTerminal())) {

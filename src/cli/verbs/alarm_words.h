@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -20,6 +21,8 @@ struct SiteFacts;
 struct SiteWatch {
   AlarmView alarm;
   Unwatched unwatched = Unwatched::no;
+  /// What is known of its certificate, where it is looked at.
+  std::optional<SiteCertificate> certificate{};
 };
 
 /// The same for all sites, read at once.
@@ -35,9 +38,10 @@ class SiteWatches {
   OptionsInForce options_;
   std::map<std::int64_t, SiteStanding> standings_;
   std::map<std::int64_t, Acknowledgement> known_;
+  std::map<std::int64_t, SiteCertificate> certificates_;
 };
 
-/// Adds what there is to be said to the JSON of a site: the members "alarm" and "unwatched".
+/// Adds what there is to be said to the JSON of a site: the members "alarm", "certificate" and "unwatched".
 void addTo(JsonValue& json, const SiteWatch& watch);
 /// The lines of it in the text about a site: labels and values.
 std::vector<std::pair<std::string, std::string>> linesOf(const Console& console, const SiteWatch& watch);

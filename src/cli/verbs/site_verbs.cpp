@@ -63,7 +63,8 @@ StateText stateOf(const SiteFacts& facts, const AlarmView& alarm) {
   if (alarm.state != AlarmView::State::none && facts.site.active) {
     state.text = wordsOf(alarm);
   }
-  if (alarm.state == AlarmView::State::slow || alarm.state == AlarmView::State::unknown) {
+  if (alarm.state == AlarmView::State::slow || alarm.state == AlarmView::State::certificate ||
+      alarm.state == AlarmView::State::unknown) {
     state.colour = Console::Colour::cyan;
   }
   if (!facts.site.active) {
@@ -341,8 +342,9 @@ Verb sitesVerb() {
        jsonOption(options->json)},
       "STATE is \"up\" or \"down\" as the last check found, and \"-\" where none has been made. It is \"not a page\"\n"
       "where a site is up only because the text of a fetch that fails is its baseline, which the log tells.\n"
-      "By options of the alarm it may be \"unconfirmed (1 of 3)\", \"unsteady\" or \"slow\", and \"unknown\" while\n"
-      "this machine is offline; \"(paused)\" behind it says that nothing is told.\n" +
+      "By options of the alarm it may be \"unconfirmed (1 of 3)\", \"unsteady\", \"slow\" or \"12 days\", as long as\n"
+      "its certificate still holds, and \"unknown\" while this machine is offline; \"(paused)\" behind it says that\n"
+      "nothing is told.\n" +
           examples({{"sites", "all of them"},
                     {"sites --down --active", "what needs a look"},
                     {"sites --json | jq -r '.[] | select(.status == false) | .url'", "the addresses that are down"}}),

@@ -9,11 +9,11 @@
 
 #include <exception>
 #include <limits>
-#include <string_view>
 #include <tuple>
 #include <utility>
 
 #include "platform/web/curl_event_loop.h"
+#include "platform/web/tls_library.h"
 
 namespace tarnwick {
 namespace {
@@ -22,13 +22,6 @@ namespace {
 constexpr int kAtOnce = 6;
 
 const curl_version_info_data& library() { return *curl_version_info(CURLVERSION_NOW); }
-
-/// Others give no such context to the handshake's callback.
-bool usesOpenSsl() {
-  static const bool uses =
-      library().ssl_version != nullptr && std::string_view(library().ssl_version).starts_with("OpenSSL/");
-  return uses;
-}
 
 std::string textOf(const char* text) { return text == nullptr ? std::string() : text; }
 

@@ -14,6 +14,7 @@
 #include "platform/web/authorities.h"
 #include "platform/web/socket_errors.h"
 #include "platform/web/tls_goodbye.h"
+#include "platform/web/verified_chain.h"
 
 namespace tarnwick {
 namespace {
@@ -152,6 +153,9 @@ int CurlRequest::onReady(void* self, char*, char*, int, int) {
   auto* const request = static_cast<CurlRequest*>(self);
   request->connection_.ready = true;
   request->parts_.note(request->easy_.get());
+  if (request->request_.wantsCertificate) {
+    request->noteCertificate();
+  }
   request->connection_.earlierError = request->systemError();
   request->reach(transfer_state::requesting);
   return CURL_PREREQFUNC_OK;
@@ -172,6 +176,16 @@ std::size_t CurlRequest::onPage(char* data, std::size_t size, std::size_t count,
   const std::size_t length = size * count;
   // Any other number than the length ends the transfer; for an empty piece that must not be 0.
   return static_cast<CurlRequest*>(self)->addPiece({data, length}) ? length : length + 1;
+}
+
+void CurlRequest::noteCertificate() {
+  const auto next = verifiedCertificate(easy_.get());
+  if (!certificate_ || !next) {
+    certificate_ = certificate_ ? certificate_ : next;
+    return;
+  }
+  certificate_->began = std::max(certificate_->began, next->began);
+  certificate_->ends = std::min(certificate_->ends, next->ends);
 }
 
 void CurlRequest::reach(int state) {
@@ -294,6 +308,7 @@ TransferResult CurlRequest::finish(CURLcode reported) {
     // A connection that ends without an answer counts as one for libcurl.
     ended.timings.firstByte.reset();
   }
+  ended.certificate = std::move(certificate_);
   ended.server = textOf(easy_.get(), CURLINFO_PRIMARY_IP);
   long status = 0;
   curl_easy_getinfo(easy_.get(), CURLINFO_RESPONSE_CODE, &status);

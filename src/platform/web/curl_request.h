@@ -100,6 +100,7 @@ class CurlRequest {
   void completeStates(CURLcode result);
   TransferResult failure(CURLcode result) const;
   AbortReason abortReason(CURLcode result) const;
+  void noteCertificate();
   void reach(int state);
   void noteSent(curl_off_t bodyBytes);
   bool addHeader(std::string_view line);
@@ -134,6 +135,8 @@ class CurlRequest {
   // Of an answer whose page comes compressed.
   std::optional<ContentDecoder> decoder_;
   RequestParts parts_;
+  // Of the servers so far: the issuer of the first one's, and the time in which all hold.
+  std::optional<ServerCertificate> certificate_;
   // Where an answer has led elsewhere last.
   std::string redirectedBy_;
   // The connection that was made last.

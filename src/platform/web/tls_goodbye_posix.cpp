@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/web/tls_goodbye.h"
 
-#include <curl/curl.h>
 #include <openssl/ssl.h>
 
-#include <string_view>
+#include "platform/web/tls_library.h"
 
 namespace tarnwick {
 namespace {
@@ -27,11 +26,9 @@ void onNews(const SSL* connection, int where, int alert) {
 }  // namespace
 
 bool watchGoodbye(void* context, bool& said) {
-  const curl_version_info_data& library = *curl_version_info(CURLVERSION_NOW);
   auto* const tls = static_cast<SSL_CTX*>(context);
   said = false;
-  if (library.ssl_version == nullptr || !std::string_view(library.ssl_version).starts_with("OpenSSL/") ||
-      SSL_CTX_set_ex_data(tls, placeInContext(), &said) != 1) {
+  if (!usesOpenSsl() || SSL_CTX_set_ex_data(tls, placeInContext(), &said) != 1) {
     return false;
   }
   SSL_CTX_set_info_callback(tls, &onNews);

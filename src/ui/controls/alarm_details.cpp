@@ -16,6 +16,7 @@ enum Remind { everyCheck, never, regular, growing };
 constexpr int kUsualCount = 3;
 constexpr int kUsualReminder = 60;
 constexpr int kUsualSlow = 2000;
+constexpr const char* kUsualDays = "21";
 constexpr UnsteadyLimit kUsualLimit{5, std::chrono::minutes(30)};
 constexpr int kGap = 6;
 
@@ -93,10 +94,17 @@ void AlarmDetails::makeLines() {
   slowAfter_->setSuffix(QStringLiteral(" ms"));
   slowAfter_->setSingleStep(100);
   slow_ = addLine("alarmSlow", tr("Slow: an answer after"), {slowAfter_}, tr("is a warning, never \"down\""));
+  certificateDays_ = addText<QLineEdit>(*this, "alarmCertificateDays", tr("Days before the certificate ends"), 8);
+  explain(*certificateDays_,
+          tr("One warning for each of these, as in \"21, 7, 1\"; \"third\" is a third of the certificate's lifetime"));
+  certificate_ = addLine("alarmCertificate", tr("Certificate: warn"), {certificateDays_}, tr("days before it ends"));
+  explain(*certificate_,
+          tr("A site whose certificate ends soon, or is from another authority than before, is a warning, "
+             "never \"down\""));
   QWidget* before = confirm_;
   for (QWidget* control :
        std::initializer_list<QWidget*>{confirmCount_, confirmAfter_, recovery_, remind_, remindEvery_, flapping_,
-                                       changes_, within_, slow_, slowAfter_}) {
+                                       changes_, within_, slow_, slowAfter_, certificate_, certificateDays_}) {
     // In the order in which the eye reads them.
     setTabOrder(before, control);
     before = control;
@@ -129,6 +137,12 @@ void AlarmDetails::setValues(const OptionEdit& options) {
   const int slow = numberOf(options.inForce(option_name::slow), 0);
   slow_->setChecked(slow > 0);
   slowAfter_->setValue(slow > 0 ? slow : kUsualSlow);
+  const std::string certificate = options.inForce(option_name::certificate).value_or(std::string(option_value::off));
+  certificate_->setChecked(certificate != option_value::off);
+  if (!certificateDays_->hasFocus() || !certificateDays_->isModified()) {
+    certificateDays_->setText(certificate_->isChecked() ? QString::fromStdString(certificate)
+                                                        : QString::fromLatin1(kUsualDays));
+  }
   isShowing_ = false;
   enableParts();
 }
@@ -141,6 +155,7 @@ void AlarmDetails::enableParts() {
   changes_->setEnabled(flapping_->isChecked());
   within_->setEnabled(flapping_->isChecked());
   slowAfter_->setEnabled(slow_->isChecked());
+  certificateDays_->setEnabled(certificate_->isChecked());
 }
 
 void AlarmDetails::tellRemind() {
@@ -189,6 +204,14 @@ void AlarmDetails::connectLines() {
   });
   connect(slow_, &QCheckBox::toggled, this, slow);
   connect(slowAfter_, &QSpinBox::valueChanged, this, slow);
+  const auto certificate = whenTouched([this] {
+    const QString days = certificateDays_->text().trimmed();
+    Q_EMIT touched(textOf(option_name::certificate), !certificate_->isChecked() ? textOf(option_value::off)
+                                                     : days.isEmpty()           ? QString::fromLatin1(kUsualDays)
+                                                                                : days);
+  });
+  connect(certificate_, &QCheckBox::toggled, this, certificate);
+  connect(certificateDays_, &QLineEdit::textEdited, this, certificate);
 }
 
 }  // namespace tarnwick

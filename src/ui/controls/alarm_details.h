@@ -53,6 +53,8 @@ class AlarmDetails final : public QGroupBox {
   QSpinBox* within_;
   QCheckBox* slow_;
   QSpinBox* slowAfter_;
+  QCheckBox* certificate_;
+  QLineEdit* certificateDays_;
   bool isShowing_ = false;
 };
 

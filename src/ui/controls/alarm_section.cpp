@@ -71,8 +71,8 @@ bool AlarmSection::isFor(const std::vector<OptionField>& options) {
 }
 
 bool AlarmSection::hasPlaceFor(std::string_view option) {
-  constexpr std::array kBeside{option_name::quiet, option_name::quietHow, option_name::maintenance, option_name::pause,
-                               option_name::channels};
+  constexpr std::array kBeside{option_name::certificate, option_name::quiet, option_name::quietHow,
+                               option_name::maintenance, option_name::pause, option_name::channels};
   return std::ranges::find(kPresetOptions, option) != kPresetOptions.end() ||
          std::ranges::find(kBeside, option) != kBeside.end();
 }
@@ -182,9 +182,12 @@ void AlarmSection::touchAlerts() {
 }
 
 void AlarmSection::touch(const QString& name, const QString& value) {
-  touchAlerts();
+  const bool isOfPreset = std::ranges::find(kPresetOptions, name.toStdString()) != kPresetOptions.end();
+  if (isOfPreset) {
+    touchAlerts();
+    presets_[static_cast<std::size_t>(AlarmPreset::own)]->setChecked(true);
+  }
   value.isEmpty() ? options_.unset(name.toStdString()) : options_.set(name.toStdString(), value.toStdString());
-  presets_[static_cast<std::size_t>(AlarmPreset::own)]->setChecked(true);
   showAll();
 }
 

@@ -14,13 +14,15 @@ namespace {
 constexpr std::size_t kLongestLine = 500;
 
 // What `happening` tells.
-constexpr std::array<const char*, 10> kHappenings{
+constexpr std::array<const char*, 12> kHappenings{
     QT_TRANSLATE_NOOP("tarnwick::DeliveryWords", "does not answer"),
     QT_TRANSLATE_NOOP("tarnwick::DeliveryWords", "changed"),
     QT_TRANSLATE_NOOP("tarnwick::DeliveryWords", "is still down"),
     QT_TRANSLATE_NOOP("tarnwick::DeliveryWords", "is up again"),
     QT_TRANSLATE_NOOP("tarnwick::DeliveryWords", "is unsteady"),
     QT_TRANSLATE_NOOP("tarnwick::DeliveryWords", "is slow"),
+    QT_TRANSLATE_NOOP("tarnwick::DeliveryWords", "has a certificate that ends soon"),
+    QT_TRANSLATE_NOOP("tarnwick::DeliveryWords", "has a certificate from another authority"),
     QT_TRANSLATE_NOOP("tarnwick::DeliveryWords", "This machine is online again"),
     QT_TRANSLATE_NOOP("tarnwick::DeliveryWords", "A test of Tarnwick"),
     QT_TRANSLATE_NOOP("tarnwick::DeliveryWords", "The daily test alert"),

@@ -54,6 +54,9 @@ QString stateWords(const AlarmFacts& facts) {
       return Words::tr("Down with a page that is known.");
     case AlarmView::State::unsteady:
       return Words::tr("Unsteady: up and down all the time.");
+    case AlarmView::State::certificate:
+      return view.daysLeft == 1 ? Words::tr("Up, but its certificate ends in 1 day.")
+                                : Words::tr("Up, but its certificate ends in %1 days.").arg(view.daysLeft.value_or(0));
     case AlarmView::State::slow:
       return Words::tr("Up, but slow.");
     case AlarmView::State::unknown:
@@ -69,8 +72,9 @@ AlarmFacts alarmFactsOf(m& data, std::int16_t idSite, LocalTime now) {
   const AlarmPolicy policy = alarmPolicyOf(options, idSite);
   const SiteStanding standing = data.standingOf(idSite);
   const bool isKnown = data.acknowledgementOf(idSite).has_value();
+  const auto certificate = data.certificateOf(idSite, options);
   AlarmFacts facts{.now = now,
-                   .view = alarmViewOf(standing, policy, now, isKnown),
+                   .view = alarmViewOf(standing, policy, now, isKnown, certificate ? &*certificate : nullptr),
                    .next = nextAlertOf(standing, policy, now, isKnown),
                    .toldAt = standing.lastToldAt,
                    .alerts = data.latestAlertsOf(idSite),

@@ -62,6 +62,7 @@ void AlarmMarks::readAll() {
     const AlarmPolicy common = alarmPolicyOf(*options_, kAllSites);
     Q_EMIT pauseRead(isPaused(common.pause, now) ? std::optional(common.pause) : std::nullopt);
     const auto standings = program_.data().standings();
+    const auto certificates = program_.data().certificates(*options_);
     for (int row = 0; row < sites_.rowCount(); ++row) {
       const auto id = sites_.siteOfRow(row);
       if (!id) {
@@ -69,9 +70,9 @@ void AlarmMarks::readAll() {
       }
       const auto known = standings.find(*id);
       const bool hasOwn = options_->hasOwn(*id);
-      sites_.setAlarm(row,
-                      alarmViewOf(known == standings.end() ? SiteStanding() : known->second,
-                                  hasOwn ? alarmPolicyOf(*options_, *id) : common, now, acknowledged.contains(*id)));
+      sites_.setAlarm(row, alarmViewOf(known == standings.end() ? SiteStanding() : known->second,
+                                       hasOwn ? alarmPolicyOf(*options_, *id) : common, now, acknowledged.contains(*id),
+                                       certificates, *id));
     }
   } catch (const std::exception&) {
     // That the list cannot be read is told elsewhere. What was read last stays until it can be read again.
@@ -85,9 +86,10 @@ void AlarmMarks::update(std::int16_t idSite) {
     return;
   }
   try {
-    const AlarmView view =
-        alarmViewOf(program_.data().standingOf(idSite), alarmPolicyOf(*options_, idSite),
-                    program_.services().clock.localNow(), program_.data().acknowledgementOf(idSite).has_value());
+    const auto certificate = program_.data().certificateOf(idSite, *options_);
+    const AlarmView view = alarmViewOf(
+        program_.data().standingOf(idSite), alarmPolicyOf(*options_, idSite), program_.services().clock.localNow(),
+        program_.data().acknowledgementOf(idSite).has_value(), certificate ? &*certificate : nullptr);
     sites_.setAlarm(sites_.rowOfSite(idSite), view);
   } catch (const std::exception&) {
     look();

@@ -13,7 +13,8 @@
 
 namespace tarnwick {
 
-/// Keeps what the rows of the list say of the sites' alarms: unconfirmed, unsteady, slow, paused, offline. Where no
+/// Keeps what the rows of the list say of the sites' alarms: unconfirmed, unsteady, slow, a certificate that ends
+/// soon, paused, offline. Where no
 /// option of the alarm is set they say nothing of it, and nothing is read.
 class AlarmMarks final : public QObject {
   Q_OBJECT

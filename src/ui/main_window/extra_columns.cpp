@@ -43,7 +43,10 @@ std::optional<LocalTime> since(const ExtraCell& cell) {
 
 QString stateWords(const ExtraCell& cell, QString (*momentWords)(LocalTime since, LocalTime now)) {
   const SiteState state = stateOf(cell.row);
-  QString words = wordOf(state, cell.isTested, cell.row.alarm.failures, cell.row.alarm.confirm);
+  QString words = wordOf(cell.row, cell.isTested);
+  if (state == SiteState::certificate && !cell.isTested) {
+    return translated(QT_TRANSLATE_NOOP("tarnwick::ExtraColumns", "certificate: %1")).arg(words);
+  }
   if (state == SiteState::unconfirmed && !cell.isTested) {
     words = translated(QT_TRANSLATE_NOOP("tarnwick::ExtraColumns", "down, %1")).arg(words);
   }
@@ -61,10 +64,10 @@ QString stateToolTip(const ExtraCell& cell) {
 
 // The worst first, and of those what has been so for the longest time.
 SortKey stateKey(const ExtraCell& cell) {
-  constexpr auto kWorstFirst =
-      std::to_array<SiteState>({SiteState::noAnswer, SiteState::changed, SiteState::unconfirmed, SiteState::unsteady,
-                                SiteState::known, SiteState::notAPage, SiteState::slow, SiteState::offline,
-                                SiteState::paused, SiteState::up, SiteState::never, SiteState::inactive});
+  constexpr auto kWorstFirst = std::to_array<SiteState>(
+      {SiteState::noAnswer, SiteState::changed, SiteState::unconfirmed, SiteState::unsteady, SiteState::known,
+       SiteState::notAPage, SiteState::certificate, SiteState::slow, SiteState::offline, SiteState::paused,
+       SiteState::up, SiteState::never, SiteState::inactive});
   const auto place = std::ranges::find(kWorstFirst, stateOf(cell.row)) - kWorstFirst.begin();
   const auto from = since(cell);
   return {.number = place, .text = from ? dateTimeText(*from) : std::string()};

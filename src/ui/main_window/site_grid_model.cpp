@@ -83,8 +83,14 @@ void SiteGridModel::setAlarm(int row, const AlarmView& view) {
   if (row < 0 || row >= rowCount()) {
     return;
   }
-  const Row::Alarm alarm{view.state, view.pause.has_value(),       view.failures, view.confirm,
-                         view.since, view.quiet == Quiet::noChecks};
+  const Row::Alarm alarm{.state = view.state,
+                         .paused = view.pause.has_value(),
+                         .failures = view.failures,
+                         .confirm = view.confirm,
+                         .since = view.since,
+                         .rests = view.quiet == Quiet::noChecks,
+                         .daysLeft = view.daysLeft,
+                         .slow = view.slow};
   Row& shown = rows_[static_cast<std::size_t>(row)];
   if (shown.alarm != alarm) {
     shown.alarm = alarm;
@@ -175,9 +181,7 @@ std::pair<std::int16_t, std::int16_t> SiteGridModel::idsOfSites() const {
   return {first->first, last->first};
 }
 
-QString SiteGridModel::wordOfRow(const Row& row) const {
-  return wordOf(stateOf(row), isMarked(row), row.alarm.failures, row.alarm.confirm);
-}
+QString SiteGridModel::wordOfRow(const Row& row) const { return wordOf(row, isMarked(row)); }
 
 SiteState SiteGridModel::stateOfRow(int row) const { return stateOf(rows_.at(static_cast<std::size_t>(row))); }
 

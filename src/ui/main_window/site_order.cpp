@@ -24,6 +24,8 @@ FoundSite foundSite(const Row& row, std::int64_t id, const SiteOrder::Moment& mo
                 .isChecked = !checked.empty(),
                 .hasPage = row.fetched};
   seen.alarm.state = row.alarm.state;
+  seen.alarm.daysLeft = row.alarm.daysLeft;
+  seen.alarm.slow = row.alarm.slow;
   if (row.alarm.paused) {
     seen.alarm.pause.emplace();
   }

@@ -44,7 +44,10 @@ QColor colourOf(const SiteRow& row) {
   }
   switch (row.shade) {
     case SiteRow::Shade::up:
-      return colourFromText(row.alarm.state == AlarmView::State::slow ? colours::kWarning : colours::kUp);
+      return colourFromText(row.alarm.state == AlarmView::State::slow ||
+                                    row.alarm.state == AlarmView::State::certificate
+                                ? colours::kWarning
+                                : colours::kUp);
     case SiteRow::Shade::down:
       return colourFromText(colours::kDown);
     case SiteRow::Shade::inactive:
@@ -80,7 +83,12 @@ SiteState stateOf(const SiteRow& row) {
   }
   switch (row.shade) {
     case SiteRow::Shade::up:
-      return !row.fetched ? SiteState::notAPage : row.alarm.state == State::slow ? SiteState::slow : SiteState::up;
+      if (!row.fetched) {
+        return SiteState::notAPage;
+      }
+      return row.alarm.state == State::certificate ? SiteState::certificate
+             : row.alarm.state == State::slow      ? SiteState::slow
+                                                   : SiteState::up;
     case SiteRow::Shade::down:
       if (row.alarm.state == State::unconfirmed) {
         return SiteState::unconfirmed;
@@ -94,6 +102,12 @@ SiteState stateOf(const SiteRow& row) {
     default:
       return SiteState::never;
   }
+}
+
+QString wordOf(const SiteRow& row, bool testing) {
+  const SiteState state = stateOf(row);
+  return wordOf(state, testing, state == SiteState::certificate ? row.alarm.daysLeft.value_or(0) : row.alarm.failures,
+                row.alarm.confirm);
 }
 
 }  // namespace tarnwick

@@ -27,7 +27,9 @@ struct SiteRow {
     int failures = 0;
     int confirm = 1;
     std::optional<LocalTime> since{};
-    bool rests = false;  ///< it is not checked in these hours
+    bool rests = false;             ///< it is not checked in these hours
+    std::optional<int> daysLeft{};  ///< of a certificate that ends soon
+    bool slow = false;
 
     bool operator==(const Alarm&) const = default;
   };
@@ -45,6 +47,8 @@ SiteRow readSiteRow(const TextTable& sites, std::size_t row, SiteColumns columns
 
 QColor colourOf(const SiteRow& row);
 SiteState stateOf(const SiteRow& row);
+/// The state in a word or two.
+QString wordOf(const SiteRow& row, bool testing);
 /// The stored result in a word.
 QString resultOf(const SiteRow& row);
 

@@ -47,7 +47,7 @@ class Sketch {
 
 }  // namespace
 
-QString wordOf(SiteState state, bool testing, int failures, int confirm) {
+QString wordOf(SiteState state, bool testing, int number, int confirm) {
   if (testing) {
     return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "testing …"));
   }
@@ -63,11 +63,14 @@ QString wordOf(SiteState state, bool testing, int failures, int confirm) {
     case SiteState::notAPage:
       return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "not a page"));
     case SiteState::unconfirmed:
-      return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "%1 of %2")).arg(failures).arg(confirm);
+      return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "%1 of %2")).arg(number).arg(confirm);
     case SiteState::known:
       return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "known"));
     case SiteState::unsteady:
       return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "unsteady"));
+    case SiteState::certificate:
+      return number == 1 ? translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "1 day"))
+                         : translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "%1 days")).arg(number);
     case SiteState::slow:
       return translated(QT_TRANSLATE_NOOP("tarnwick::SiteState", "slow"));
     case SiteState::paused:
@@ -115,6 +118,12 @@ void paintIcon(QPainter& painter, const QRectF& box, SiteState state, const QCol
       break;
     case SiteState::unsteady:  // a zigzag
       sketch.line({{1.5, 9}, {4.5, 4}, {7, 10}, {9.5, 4}, {12.5, 9}});
+      break;
+    case SiteState::certificate:  // a padlock
+      sketch.thin();
+      sketch.line({{3, 6.5}, {11, 6.5}, {11, 12.5}, {3, 12.5}, {3, 6.5}});
+      sketch.line({{4.8, 6.5}, {4.8, 4}, {5.6, 2.4}, {7, 1.8}, {8.4, 2.4}, {9.2, 4}, {9.2, 6.5}});
+      sketch.line({{7, 8.8}, {7, 10.2}});
       break;
     case SiteState::slow:  // a clock
       sketch.thin();

@@ -19,6 +19,7 @@ enum class SiteState {
   unconfirmed,  ///< has failed, and not often enough yet to be told
   known,        ///< down by a wrong page that somebody has acknowledged
   unsteady,     ///< changes between up and down all the time
+  certificate,  ///< up, but its certificate ends soon
   slow,         ///< up, but its page took long
   paused,       ///< nothing is told of it for a time
   offline,      ///< not known, since this machine is offline
@@ -41,8 +42,9 @@ constexpr bool needsReason(SiteState state) {
 }
 
 /// The state in a word or two; that of a site which is being tested says so.
-/// Of an unconfirmed one it tells how many failures there are, and how many it takes.
-QString wordOf(SiteState state, bool testing = false, int failures = 0, int confirm = 0);
+/// Of an unconfirmed one it tells how many failures there are, and how many it takes; of one whose certificate ends
+/// soon how many days are left.
+QString wordOf(SiteState state, bool testing = false, int number = 0, int confirm = 0);
 
 /// Draws the state's icon, a shape of its own, in `ink` into `box`, which is square. Nothing is scaled: lines are drawn
 /// at the size that they have on the screen.

@@ -16,9 +16,10 @@ constexpr std::size_t kHighestShown = 99;
 constexpr std::array kSizes{16, 22, 24, 32, 48, 64};
 
 /// From the best to the worst.
-constexpr std::array kBySeverity{SiteState::inactive, SiteState::up,       SiteState::never,    SiteState::paused,
-                                 SiteState::offline,  SiteState::slow,     SiteState::notAPage, SiteState::unconfirmed,
-                                 SiteState::known,    SiteState::unsteady, SiteState::noAnswer, SiteState::changed};
+constexpr std::array kBySeverity{SiteState::inactive,    SiteState::up,    SiteState::never,       SiteState::paused,
+                                 SiteState::offline,     SiteState::slow,  SiteState::certificate, SiteState::notAPage,
+                                 SiteState::unconfirmed, SiteState::known, SiteState::unsteady,    SiteState::noAnswer,
+                                 SiteState::changed};
 
 auto severity(SiteState state) { return std::ranges::find(kBySeverity, state) - kBySeverity.begin(); }
 
@@ -37,6 +38,7 @@ Look lookOf(SiteState state) {
   }
   switch (state) {
     case SiteState::slow:
+    case SiteState::certificate:
     case SiteState::notAPage:
       return {QColor(0xF6C343), Qt::black};
     case SiteState::offline:

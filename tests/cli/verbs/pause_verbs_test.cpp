@@ -154,6 +154,35 @@ TEST_F(AlarmInTheList, IsNoneWhereNothingIsSet) {
   EXPECT_FALSE(runJson({"site", "2", "--json"}).contains("alarm"));
 }
 
+TEST_F(AlarmInTheList, IsTheDaysThatACertificateIsGoodFor) {
+  const auto now = machine.clock().now();
+  const SiteCertificate some{now - std::chrono::days(60), now + std::chrono::days(12), "Some Authority", std::nullopt};
+  {
+    m data(folder.path(), machine.services());
+    data.storeCertificate(1, some);
+    data.storeCertificate(2, some);
+  }
+  EXPECT_EQ(run({"sites"}), exit_status::ok);
+  EXPECT_THAT(out, AllOf(HasSubstr(" 1  up "), Not(HasSubstr("days"))));
+  EXPECT_FALSE(runJson({"site", "1", "--json"}).contains("certificate"));
+  run({"option", "all", "certificate=21, 7"});
+  EXPECT_EQ(run({"sites"}), exit_status::ok);
+  EXPECT_THAT(out, AllOf(HasSubstr(" 1  12 days "), HasSubstr(" 2  down ")));
+  EXPECT_EQ(run({"site", "1"}), exit_status::ok);
+  const std::string end = dateTimeText(localTimeAt(some.ends));
+  EXPECT_THAT(out, HasSubstr("Certificate:  12 days, until " + end + ", Some Authority\n"));
+  const Json site = runJson({"site", "1", "--json"});
+  EXPECT_EQ(site["alarm"]["state"], "certificate");
+  EXPECT_EQ(site["certificate"]["ends"], end);
+  EXPECT_EQ(site["certificate"]["issuer"], "Some Authority");
+  EXPECT_EQ(site["certificate"]["endsSoon"], true);
+  EXPECT_EQ(runJson({"sites", "certificate", "--json"}).size(), 2U);
+  EXPECT_EQ(runJson({"sites", "certificate", "-down", "--json"}).size(), 1U);
+  run({"option", "all", "certificate=7"});
+  EXPECT_EQ(runJson({"sites", "certificate", "--json"}).size(), 0U);
+  EXPECT_EQ(runJson({"site", "1", "--json"})["certificate"]["endsSoon"], false);
+}
+
 TEST_F(AlarmInTheList, IsUnconfirmedOrDown) {
   run({"option", "all", "confirm=3"});
   store(2, failed(1));

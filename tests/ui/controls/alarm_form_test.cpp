@@ -162,6 +162,28 @@ TEST_F(AlarmFormTest, EveryDetailByKeyboard) {
   EXPECT_TRUE(machine.prompts.shown().empty());
 }
 
+TEST_F(AlarmFormTest, WarningsOfACertificateGoWithEveryPreset) {
+  auto& editor = openAlarm();
+  auto& days = in<QLineEdit>(editor, "alarmCertificateDays");
+  EXPECT_FALSE(days.isEnabled());
+  EXPECT_EQ(days.text(), QStringLiteral("21"));
+  toggle(editor, "alarmCertificate");
+  EXPECT_TRUE(days.isEnabled());
+  EXPECT_TRUE(preset(editor, 0).isChecked()) << "it is no other answer to when a failure is told";
+  press(editor, "Command3");
+  EXPECT_EQ(options(3), "certificate=21");
+  days.setFocus();
+  days.selectAll();
+  QTest::keyClick(&days, Qt::Key_Delete);
+  EXPECT_TRUE(days.isEnabled()) << "it can be typed anew";
+  QTest::keyClicks(&days, QStringLiteral("30, third,7"));
+  press(editor, "Command3");
+  EXPECT_EQ(options(3), "certificate=third, 30, 7");
+  toggle(editor, "alarmCertificate");
+  press(editor, "Command3");
+  EXPECT_EQ(options(3), "certificate=off");
+}
+
 TEST_F(AlarmFormTest, PausesThatAreNoneAreRefusedAndNothingIsStored) {
   auto& editor = openAlarm();
   toggle(editor, "alarmConfirm");
