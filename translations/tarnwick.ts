@@ -4931,6 +4931,22 @@
         <source>nothing is told.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Write a page that tells others which sites are up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where to write it as index.html; the folder is made when it is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run keeps it up to date by itself where the option statusPage names a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>once, as things stand now</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6292,6 +6308,30 @@
     </message>
     <message>
         <source>of a certificate it matters only whether it holds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A file in which a run keeps figures of all sites for Prometheus, as its textfile collector reads them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A folder in which a run keeps a page for others, index.html: which sites are up now, and 30 days of each</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Metrics in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status page in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>figures leave by &quot;tarnwickctl metrics&quot; only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no page tells others how the sites stand</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -4931,6 +4931,22 @@
         <source>nothing is told.</source>
         <translation>dass nichts gemeldet wird.</translation>
     </message>
+    <message>
+        <source>Write a page that tells others which sites are up</source>
+        <translation>Eine Seite schreiben, die anderen sagt, welche Seiten erreichbar sind</translation>
+    </message>
+    <message>
+        <source>Where to write it as index.html; the folder is made when it is missing</source>
+        <translation>Wohin sie als index.html geschrieben wird; ein fehlender Ordner wird angelegt</translation>
+    </message>
+    <message>
+        <source>A run keeps it up to date by itself where the option statusPage names a folder.</source>
+        <translation>Ein Lauf hält sie von selbst aktuell, wo die Option statusPage einen Ordner nennt.</translation>
+    </message>
+    <message>
+        <source>once, as things stand now</source>
+        <translation>einmal, wie es jetzt steht</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6293,6 +6309,30 @@
     <message>
         <source>of a certificate it matters only whether it holds</source>
         <translation>bei einem Zertifikat zählt nur, ob es gilt</translation>
+    </message>
+    <message>
+        <source>A file in which a run keeps figures of all sites for Prometheus, as its textfile collector reads them</source>
+        <translation>Eine Datei, in der ein Lauf Zahlen aller Seiten für Prometheus hält, wie dessen Textfile-Collector sie liest</translation>
+    </message>
+    <message>
+        <source>A folder in which a run keeps a page for others, index.html: which sites are up now, and 30 days of each</source>
+        <translation>Ein Ordner, in dem ein Lauf eine Seite für andere hält, index.html: welche Seiten jetzt erreichbar sind, und 30 Tage jeder einzelnen</translation>
+    </message>
+    <message>
+        <source>Metrics in</source>
+        <translation>Messwerte in</translation>
+    </message>
+    <message>
+        <source>Status page in</source>
+        <translation>Statusseite in</translation>
+    </message>
+    <message>
+        <source>figures leave by &quot;tarnwickctl metrics&quot; only</source>
+        <translation>Zahlen gibt nur „tarnwickctl metrics“ aus</translation>
+    </message>
+    <message>
+        <source>no page tells others how the sites stand</source>
+        <translation>keine Seite sagt anderen, wie die Seiten stehen</translation>
     </message>
 </context>
 <context>

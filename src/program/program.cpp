@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "report/publication.h"
 #include "store/site_table.h"
 
 namespace tarnwick {
@@ -30,6 +31,7 @@ struct Program::Parts {
 
   Parts(const std::string& folder, const Services& services, RunView& view, FaultBox& faults, const Fields& fields)
       : data(folder, services, fields),
+        publication(data, services.files, services.clock),
         pool(data, services.transfers, services.timers),
         run({.dueSites = data,
              .pages = data,
@@ -48,13 +50,28 @@ struct Program::Parts {
              .transfers = services.transfers,
              .timers = services.timers},
             services.timers,
-            [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }),
+            [this, &faults](const std::string& name, const Handler& handler) {
+              faults.runRepeated(name, handler);
+              passHasEnded = passHasEnded || name == "run";
+              tellOthers(faults);
+            }),
         report(
             {data, data, [this] { return run.running(); }, [&view](const std::string& text) { view.showStatus(text); }},
             services.timers,
             [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }) {}
 
+  // After a pass, in the next moment in which nothing else goes on.
+  void tellOthers(FaultBox& faults) {
+    if (!passHasEnded || run.busy() || !run.running()) {
+      return;
+    }
+    passHasEnded = false;
+    faults.runRepeated("for others", [this] { passHasEnded = !publication.write(data.optionsInForce()); });
+  }
+
   m data;
+  Publication publication;
+  bool passHasEnded = false;
   InetPool pool;
   RunController run;
   ReportTimer report;
@@ -103,6 +120,7 @@ bool Program::startRun() {
       [this] {
         lock_->take();
         run().startChecking();
+        parts().passHasEnded = true;
       },
       "run");
 }

@@ -6,7 +6,9 @@
 
 #include "base/errors.h"
 #include "platform/long_date.h"
+#include "report/history_page.h"
 #include "report/html_tables.h"
+#include "store/site_options.h"
 #include "store/sql_quote.h"
 
 namespace tarnwick {
@@ -85,6 +87,11 @@ std::string DailyReport::createReport() {
   requireReportsFolder(files_, folder);
   std::string path = folder + "report.html";
   files_.replace(path, [&](const ByteSink& sink) { sink(text + "\r\n"); });
+  if (readOptions(db_).valueOf(kAllSites, option_name::history) == option_value::on) {
+    SiteHistory history(db_);
+    const std::string page = historyPage(history, clock_.now());
+    files_.replace(folder + "history.html", [&](const ByteSink& sink) { sink(page); });
+  }
   return path;
 }
 

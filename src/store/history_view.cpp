@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "store/history_rows.h"
+#include "store/table_there.h"
 
 namespace tarnwick {
 
@@ -180,6 +181,33 @@ std::vector<PeriodView> periodsOf(SiteHistory& history, std::int64_t idSite, sec
                                     : viewOf(period, {&hours, &tail}, now));
   }
   return views;
+}
+
+PeriodView periodOfDays(SiteHistory& history, std::int64_t idSite, seconds interval, const Period& period, Moment now) {
+  const Moment from = edgesOf(period, now).front();
+  const std::vector<KeptSum> days = history.keptDays(idSite, {from, now});
+  const Moment summed = days.empty() ? from : dayFrom(days.back().began, 1);
+  const std::vector<KeptSum> rest = history.keptHours(idSite, {summed, now});
+  const std::vector<KeptSum> tail = sinceTheLatest(history, idSite, interval, now);
+  return viewOf(period, {&days, &rest, &tail}, now);
+}
+
+std::map<std::int64_t, CheckTimings> latestTimings(SiteHistory& history) {
+  std::map<std::int64_t, CheckTimings> all;
+  if (!hasTable(history.database(), "latestChecks")) {
+    return all;
+  }
+  const auto rows =
+      history.database().conn().execute("select idSite, lookUp, connect, tls, firstByte, whole from latestChecks", {});
+  for (; !rows->eof(); rows->moveNext()) {
+    CheckTimings& timings = all[rows->field(std::size_t{0}).toInt64()];
+    std::size_t field = 0;
+    for (auto* time : {&timings.lookUp, &timings.connect, &timings.tls, &timings.firstByte, &timings.whole}) {
+      const SqlValue value = rows->field(++field);
+      *time = value.isNull() ? std::nullopt : std::optional(milliseconds(value.toInt64()));
+    }
+  }
+  return all;
 }
 
 // Each day before that of a site's latest check has its sum, and so has each month; what comes after them is read in

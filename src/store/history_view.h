@@ -37,6 +37,13 @@ CheckedSite checkedSite(SiteHistory& history, std::int64_t idSite);
 /// every `interval`. Raises DataAccessError.
 std::vector<PeriodView> periodsOf(SiteHistory& history, std::int64_t idSite, std::chrono::seconds interval, Moment now);
 
+/// The same of one period alone, whose cells are days or more.
+PeriodView periodOfDays(SiteHistory& history, std::int64_t idSite, std::chrono::seconds interval, const Period& period,
+                        Moment now);
+
+/// How long the parts of the latest check of each site took. Raises DataAccessError.
+std::map<std::int64_t, CheckTimings> latestTimings(SiteHistory& history);
+
 /// The sums of many sites over each of `periods()`, without how long their answers took but for those of 7 days. Empty
 /// for a site of which nothing is known. Raises DataAccessError.
 using PeriodSums = std::vector<TimeSum>;

@@ -8,6 +8,7 @@
 
 #include "base/text.h"
 #include "store/alarm_values.h"
+#include "store/options_for_others.h"
 
 namespace tarnwick {
 namespace {
@@ -249,6 +250,18 @@ std::vector<OptionField> runOptions() {
        .original = "the history keeps each hour for good",
        .label = "Hours of the history for",
        .meaning = "After how many days the history keeps only the sums of days and months, which stay as they are"},
+      {.name = std::string(option_name::statusPage),
+       .kind = OptionKind::text,
+       .original = "no page tells others how the sites stand",
+       .label = "Status page in",
+       .meaning = "A folder in which a run keeps a page for others, index.html: which sites are up now, and 30 days of "
+                  "each"},
+      {.name = std::string(option_name::metricsFile),
+       .kind = OptionKind::text,
+       .original = "figures leave by \"tarnwickctl metrics\" only",
+       .label = "Metrics in",
+       .meaning =
+           "A file in which a run keeps figures of all sites for Prometheus, as its textfile collector reads them"},
       {.name = std::string(option_name::parallel),
        .kind = OptionKind::number,
        .least = 5,

@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: MIT
 // What a run takes into the history of the sites.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+
+#include <filesystem>
 
 #include "engine/history_recording.h"
 #include "engine/run_controller.h"
+#include "support/file_bytes.h"
 #include "support/program_fixture.h"
 
 namespace tarnwick::testing {
 namespace {
+
+using ::testing::HasSubstr;
 
 using std::chrono::hours;
 using std::chrono::minutes;
@@ -94,6 +99,22 @@ TEST_F(HistoryOfARun, OldHoursAreRemovedWhereThatIsWanted) {
   program.startRun();
   program.stopRun();
   EXPECT_EQ(hoursThere(), "1");
+}
+
+TEST_F(HistoryOfARun, OthersAreToldAfterEachPass) {
+  addPage("/a", "hello");
+  program.startRun();
+  go(seconds(3));
+  EXPECT_FALSE(std::filesystem::exists(folder.path() + "/figures.prom"));
+  set("metricsFile", "figures.prom");
+  set("statusPage", "public");
+  go(minutes(10));
+  EXPECT_THAT(bytesOfFile(folder.path() + "/figures.prom"), HasSubstr("result=\"passed\"} 2\n"));
+  EXPECT_THAT(bytesOfFile(folder.path() + "/public/index.html"), HasSubstr("It is up"));
+  server.respond("/a", {.body = "other"});
+  go(minutes(10));
+  EXPECT_THAT(bytesOfFile(folder.path() + "/figures.prom"), HasSubstr("result=\"failed\"} 1\n"));
+  EXPECT_THAT(bytesOfFile(folder.path() + "/public/index.html"), HasSubstr("1 of 1 is down"));
 }
 
 TEST_F(HistoryOfARun, APauseCountsForNothing) {

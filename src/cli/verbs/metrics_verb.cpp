@@ -1,96 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include <array>
-#include <charconv>
-#include <functional>
+#include <filesystem>
 #include <ostream>
 
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
-#include "exchange/list/site_facts.h"
+#include "report/metrics_text.h"
+#include "report/publication.h"
 
 namespace tarnwick {
 namespace {
 
-/// The value of a label: https://prometheus.io/docs/instrumenting/exposition_formats/
-std::string labelText(std::string_view text) {
-  std::string safe;
-  for (const char c : text) {
-    if (c == '\\' || c == '"') {
-      safe += '\\';
-    }
-    safe += c == '\n' ? "\\n" : std::string(1, c);
-  }
-  return safe;
-}
-
-/// One family of figures: of each site those that there are.
-struct Family {
-  const char* name;
-  const char* type;
-  const char* help;
-  std::function<void(const SiteFacts&, const std::function<void(const std::string& label, double value)>&)> figures;
-};
-
-std::vector<Family> families(m& data) {
-  return {
-      {"tarnwick_site_active", "gauge", "Whether the site is checked.",
-       [](const SiteFacts& site, const auto& tell) { tell("", site.site.active ? 1 : 0); }},
-      {"tarnwick_site_up", "gauge", "Whether the latest check has passed.",
-       [](const SiteFacts& site, const auto& tell) {
-         if (site.status) {
-           tell("", *site.status ? 1 : 0);
-         }
-       }},
-      {"tarnwick_site_checks_total", "counter", "Checks since the counters were cleared.",
-       [](const SiteFacts& site, const auto& tell) {
-         tell("result=\"passed\"", static_cast<double>(site.success));
-         tell("result=\"failed\"", static_cast<double>(site.failure));
-       }},
-      {"tarnwick_site_last_check_timestamp_seconds", "gauge", "When the latest check of the history was made.",
-       [&data](const SiteFacts& site, const auto& tell) {
-         if (const auto latest = data.latestCheck(site.idSite)) {
-           tell("", static_cast<double>(latest->at.time_since_epoch().count()));
-         }
-       }},
-      {"tarnwick_site_response_seconds", "gauge", "How long the parts of the latest request took.",
-       [&data](const SiteFacts& site, const auto& tell) {
-         const CheckTimings timings = data.timings(site.idSite).value_or(CheckTimings{});
-         const auto part = [&](const char* label, std::optional<std::chrono::milliseconds> time) {
-           if (time) {
-             tell(std::string("part=\"") + label + "\"", static_cast<double>(time->count()) / 1000);
-           }
-         };
-         part("lookup", timings.lookUp);
-         part("connect", timings.connect);
-         part("tls", timings.tls);
-         part("first_byte", timings.firstByte);
-         part("whole", timings.whole);
-       }},
-  };
-}
-
-std::string numberText(double value) {
-  std::array<char, 32> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
-  return {text.data(), end.ptr};
-}
-
 int metrics(Tool& tool, const std::optional<std::string>& path) {
   m& data = tool.data();
-  std::string text;
   const Snapshot snapshot(data.database());
-  const std::vector<SiteFacts> sites = readSiteFacts(data);
-  for (const Family& family : families(data)) {
-    text +=
-        std::string("# HELP ") + family.name + " " + family.help + "\n# TYPE " + family.name + " " + family.type + "\n";
-    for (const SiteFacts& site : sites) {
-      family.figures(site, [&](const std::string& label, double value) {
-        text += std::string(family.name) + "{id=\"" + std::to_string(site.idSite) + "\",url=\"" +
-                labelText(visibleText(site.site.url)) + "\"" + (label.empty() ? "" : "," + label) + "} " +
-                numberText(value) + "\n";
-      });
-    }
-  }
+  const std::string text = metricsText(data);
   if (path) {
     tool.services().files.replace(*path, [&](const ByteSink& sink) { sink(text); });
   } else {
@@ -99,7 +22,29 @@ int metrics(Tool& tool, const std::optional<std::string>& path) {
   return exit_status::ok;
 }
 
+int page(Tool& tool, const std::string& folder) {
+  m& data = tool.data();
+  const Snapshot snapshot(data.database());
+  Publication publication(data, tool.services().files, tool.services().clock);
+  const std::string place = std::filesystem::absolute(pathOf(folder)).generic_string();
+  tool.console().say(tool.console().shown(publication.writeStatusPage(place)));
+  return exit_status::ok;
+}
+
 }  // namespace
+
+Verb statusPageVerb() {
+  auto folder = std::make_shared<std::string>();
+  return Verb{"status-page",
+              "Write a page that tells others which sites are up",
+              {{.name = "FOLDER",
+                .target = folder.get(),
+                .meaning = "Where to write it as index.html; the folder is made when it is missing",
+                .required = true}},
+              "A run keeps it up to date by itself where the option statusPage names a folder.\n" +
+                  examples({{"status-page /var/www/status", "once, as things stand now"}}),
+              [folder](Tool& tool) { return page(tool, *folder); }};
+}
 
 Verb metricsVerb() {
   auto file = std::make_shared<std::optional<std::string>>();

@@ -37,6 +37,7 @@ Verb rulesVerb();
 Verb logVerb();
 Verb historyVerb();
 Verb metricsVerb();
+Verb statusPageVerb();
 Verb initVerb();
 /// Prints the completions of all verbs.
 Verb completionVerb();

@@ -81,5 +81,20 @@ TEST_F(HistoryVerb, MetricsAreThoseOfEverySite) {
   EXPECT_EQ(out, "");
 }
 
+TEST_F(HistoryVerb, AStatusPageIsWrittenOnce) {
+  EXPECT_EQ(run({"status-page", folder.file("public")}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("public/index.html"));
+  EXPECT_THAT(bytesOfFile(folder.file("public/index.html")), HasSubstr("http://a.example/"));
+}
+
+TEST_F(HistoryVerb, TheReportHasItBesideIt) {
+  EXPECT_EQ(run({"report"}), exit_status::ok);
+  EXPECT_THAT(bytesOfFile(folder.file("reports/history.html")), HasSubstr("http://a.example/"));
+  folder.execute("delete from siteOptions");
+  std::filesystem::remove(folder.file("reports/history.html"));
+  EXPECT_EQ(run({"report"}), exit_status::ok);
+  EXPECT_FALSE(std::filesystem::exists(folder.file("reports/history.html")));
+}
+
 }  // namespace
 }  // namespace tarnwick::testing
