@@ -97,6 +97,30 @@ TEST_F(SiteAlarmsTest, SlowIsAmberInPlaceOfGreenOnly) {
   EXPECT_EQ(colour(1, 0), colourFromText(colours::kDown));
 }
 
+TEST_F(SiteAlarmsTest, ACertificateThatEndsSoonIsAmberWithTheDaysThatAreLeft) {
+  addUp(1);
+  addDown(2);
+  addUp(3);
+  set(0, "certificate", "21, 7");
+  set(3, "certificate", "7");
+  const auto inDays = [&](int count) {
+    return std::to_string(
+        (machine.clock().now() + std::chrono::days(count) + std::chrono::hours(1)).time_since_epoch().count());
+  };
+  for (const char* id : {"1", "2", "3"}) {
+    folder.execute(std::string("insert into certificates values (") + id + ", 1700000000, " + inDays(12) +
+                   ", 'A', null)");
+  }
+  open();
+  EXPECT_TRUE(says(0, "1, 12 days"));
+  EXPECT_EQ(colour(0, 0), QColor(0xF6C343));
+  EXPECT_TRUE(says(1, "2, changed"));
+  EXPECT_EQ(colour(1, 0), colourFromText(colours::kDown));
+  EXPECT_TRUE(says(2, "3, up")) << "that is soon enough to tell for it";
+  find<QLineEdit>("filterEdit").setText(QStringLiteral("certificate"));
+  EXPECT_TRUE(waitUntil([&] { return grid().model()->rowCount() == 2; })) << "also of one that is down";
+}
+
 TEST_F(SiteAlarmsTest, UnsteadyIsAWordOfARedRow) {
   addDown(1);
   set(1, "flapping", "5 in 30 min");
