@@ -30,7 +30,7 @@ AlarmView::State stateOf(const SiteStanding& standing, const AlarmPolicy& policy
 
 AlarmView alarmViewOf(const SiteStanding& standing, const AlarmPolicy& policy, LocalTime now, bool acknowledged,
                       const SiteCertificate* certificate) {
-  AlarmView view{.quiet = quietAt(policy, now)};
+  AlarmView view{.acknowledged = acknowledged, .quiet = quietAt(policy, now)};
   if (policy.certificate && certificate != nullptr && reachedLimit(*policy.certificate, *certificate, momentAt(now))) {
     view.daysLeft = daysLeft(*certificate, momentAt(now));
   }

@@ -19,6 +19,8 @@ struct AlarmView {
   /// yet; unknown is what is found while this machine is offline. A certificate is one that ends soon.
   enum class State { none, unconfirmed, down, unsteady, certificate, slow, unknown, known };
   State state = State::none;
+  /// The wrong page of the site is, also while something else is the word for it.
+  bool acknowledged = false;
   int failures = 0;                  ///< in a row
   int confirm = 1;                   ///< how many make it down
   std::optional<LocalTime> since{};  ///< the state, where that is known

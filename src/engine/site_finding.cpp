@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "engine/site_finding.h"
 
-#include <utility>
-
 namespace tarnwick {
 
-FoundSite foundSiteOf(const SiteSeen& seen, Tags tags) {
+FoundSite foundSiteOf(const SiteSeen& seen, const Tags& tags) {
   FoundSite found;
   found.id = seen.idSite;
-  found.setAddress(seen.url);
+  found.url = seen.url;
   found.up = seen.status == true;
   found.down = seen.status == false;
   found.changed = found.down && seen.hasPage;
@@ -22,7 +20,7 @@ FoundSite foundSiteOf(const SiteSeen& seen, Tags tags) {
   found.offline = seen.alarm.state == AlarmView::State::unknown;
   found.certificate = seen.alarm.daysLeft.has_value();
   found.unwatched = seen.unwatched != Unwatched::no;
-  found.tags = std::move(tags);
+  found.tags = tags;
   return found;
 }
 

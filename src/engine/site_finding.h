@@ -24,7 +24,7 @@ struct SiteSeen {
   Unwatched unwatched = Unwatched::no;
 };
 
-/// The site as a query finds it.
-FoundSite foundSiteOf(const SiteSeen& seen, Tags tags);
+/// The site as a query finds it. It looks at the address and at `tags`, which outlive it.
+FoundSite foundSiteOf(const SiteSeen& seen, const Tags& tags);
 
 }  // namespace tarnwick

@@ -100,17 +100,18 @@ std::vector<std::int64_t> idsOf(std::string_view list) {
   }
 }
 
+/// `lower` is in small letters.
+bool containsIgnoringCase(std::string_view text, std::string_view lower) {
+  return std::ranges::search(text, lower, {}, [](char c) { return lowerCase(c); }).begin() != text.end() ||
+         lower.empty();
+}
+
 bool isOfHost(const std::string& host, const std::string& wanted) {
   return host == wanted ||
          (host.size() > wanted.size() && host.ends_with(wanted) && host[host.size() - wanted.size() - 1] == '.');
 }
 
 }  // namespace
-
-void FoundSite::setAddress(std::string_view url) {
-  address_ = lowerCase(std::string(url));
-  host_ = hostOfAddress(address_);
-}
 
 const std::vector<FilterWord>& filterWords() {
   static const std::vector<FilterWord> words = [] {
@@ -172,6 +173,14 @@ bool SiteQuery::finds(const FoundSite& site) const {
   return std::ranges::all_of(terms_, [&](const Term& term) { return holds(term, site) != term.excludes; });
 }
 
+bool SiteQuery::asksFor(bool FoundSite::*flag) const {
+  return std::ranges::any_of(terms_, [&](const Term& term) { return term.flag == flag; });
+}
+
+bool SiteQuery::asksForTags() const {
+  return std::ranges::any_of(terms_, [](const Term& term) { return term.kind == Term::Kind::tag; });
+}
+
 bool SiteQuery::holds(const Term& term, const FoundSite& site) {
   switch (term.kind) {
     case Term::Kind::flag:
@@ -179,11 +188,11 @@ bool SiteQuery::holds(const Term& term, const FoundSite& site) {
     case Term::Kind::absent:
       return !(site.*term.flag);
     case Term::Kind::text:
-      return site.address().find(term.text) != std::string::npos;
+      return containsIgnoringCase(site.url, term.text);
     case Term::Kind::tag:
       return std::ranges::any_of(site.tags, [&](const std::string& tag) { return equalsIgnoringCase(tag, term.text); });
     case Term::Kind::host:
-      return isOfHost(site.host(), term.text);
+      return isOfHost(hostOfAddress(site.url), term.text);
     case Term::Kind::id:
       return std::ranges::find(term.ids, site.id) != term.ids.end();
   }

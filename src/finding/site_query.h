@@ -2,13 +2,15 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tarnwick {
 
-/// A site of the list, as far as it can be found by.
+/// A site of the list, as far as it can be found by. It costs next to nothing to make: what is longer is only looked
+/// at.
 struct FoundSite {
   std::int64_t id = 0;
   bool up = false;           ///< what the last check found
@@ -24,16 +26,8 @@ struct FoundSite {
   bool offline = false;      ///< this machine was, when it was checked
   bool certificate = false;  ///< its certificate ends soon
   bool unwatched = false;
-  std::vector<std::string> tags;
-
-  void setAddress(std::string_view url);
-  /// In small letters.
-  const std::string& address() const { return address_; }
-  const std::string& host() const { return host_; }
-
- private:
-  std::string address_;
-  std::string host_;
+  std::string_view url;
+  std::span<const std::string> tags;
 };
 
 /// A word of the filter, with what it finds, for help and completion: "down", "tag:".
@@ -57,6 +51,9 @@ class SiteQuery {
   bool finds(const FoundSite& site) const;
   /// Whether every site is meant.
   bool all() const { return terms_.empty(); }
+  /// Whether the answer depends on that member; whether it does on the tags.
+  bool asksFor(bool FoundSite::*flag) const;
+  bool asksForTags() const;
 
  private:
   struct Term {

@@ -14,7 +14,7 @@ namespace {
 FoundSite site(std::int64_t id, std::string_view url) {
   FoundSite made;
   made.id = id;
-  made.setAddress(url);
+  made.url = url;
   return made;
 }
 
@@ -24,7 +24,7 @@ struct SiteQueryTest : ::testing::Test {
              site(3, "http://intranet:8080/"), site(4, "ftp://example.com/file")};
     sites[0].up = true;
     sites[1].down = sites[1].changed = true;
-    sites[1].tags = {"Shop", "anna"};
+    sites[1].tags = tags;
     sites[2].down = sites[2].noAnswer = sites[2].known = true;
     sites[3].never = sites[3].paused = true;
     sites[3].active = false;
@@ -39,6 +39,7 @@ struct SiteQueryTest : ::testing::Test {
     return ids;
   }
 
+  const std::vector<std::string> tags{"Shop", "anna"};
   std::vector<FoundSite> sites;
 };
 
@@ -111,13 +112,27 @@ TEST_F(SiteQueryTest, EveryWordThatIsOfferedIsOne) {
   EXPECT_EQ(filterWords().size(), 16U);
 }
 
+TEST(SiteQueryTerms, TellWhatTheyAskFor) {
+  EXPECT_TRUE(SiteQuery("down -unwatched").asksFor(&FoundSite::unwatched));
+  EXPECT_TRUE(SiteQuery("inactive").asksFor(&FoundSite::active));
+  EXPECT_FALSE(SiteQuery("down unwatche").asksFor(&FoundSite::unwatched));
+  EXPECT_TRUE(SiteQuery("-tag:shop").asksForTags());
+  EXPECT_FALSE(SiteQuery("shop").asksForTags());
+}
+
 TEST(SiteQueryOfManySites, IsDoneWithinAMoment) {
-  std::vector<FoundSite> sites;
+  const std::vector<std::string> shop{"one", "two", "shop"};
+  const std::vector<std::string> news{"one", "two", "news"};
+  std::vector<std::string> urls;
   for (int i = 1; i <= 32'767; ++i) {
-    sites.push_back(
-        site(i, "https://www" + std::to_string(i % 900) + ".example.org/some/page/" + std::to_string(i) + ".html"));
+    urls.push_back("https://www" + std::to_string(i % 900) + ".example.org/some/page/" + std::to_string(i) + ".html");
+  }
+  std::vector<FoundSite> sites;
+  for (const std::string& url : urls) {
+    const auto i = static_cast<std::int64_t>(sites.size() + 1);
+    sites.push_back(site(i, url));
     sites.back().down = i % 3 == 0;
-    sites.back().tags = {"one", "two", i % 2 == 0 ? "shop" : "news"};
+    sites.back().tags = i % 2 == 0 ? shop : news;
   }
   const auto begun = std::chrono::steady_clock::now();
   const SiteQuery query("down tag:shop host:example.org -never /9.html");

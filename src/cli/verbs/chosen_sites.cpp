@@ -55,7 +55,7 @@ bool SiteFinder::finds(const SiteQuery& query, const SiteFacts& facts) const {
                                   .status = facts.status,
                                   .isChecked = !facts.lastChecked.empty(),
                                   .hasPage = !notFetched_.contains(facts.idSite),
-                                  .acknowledged = watch.alarm.state == AlarmView::State::known,
+                                  .acknowledged = watch.alarm.acknowledged,
                                   .alarm = watch.alarm,
                                   .unwatched = watch.unwatched},
                                  tagsOf(facts.idSite)));

@@ -113,7 +113,8 @@ void DetailsArea::share(int below) {
 void DetailsArea::follow() {
   const auto look = [this] { pane_->showSite(grid_.currentSite()); };
   connect(grid_.selectionModel(), &QItemSelectionModel::currentRowChanged, this, look);
-  connect(grid_.model(), &QAbstractItemModel::modelReset, this, look);
+  // Once the list has its current row again.
+  connect(grid_.model(), &QAbstractItemModel::modelReset, this, look, Qt::QueuedConnection);
   connect(settling_, &SiteSettling::settled, this, look);
   connect(grid_.model(), &QAbstractItemModel::dataChanged, this,
           [this, look](const QModelIndex& first, const QModelIndex& last) {

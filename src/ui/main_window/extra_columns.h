@@ -11,7 +11,7 @@
 #include <QtCore/Qt>
 
 #include "platform/clock.h"
-#include "store/site_facts.h"
+#include "store/listed_facts.h"
 #include "ui/main_window/site_row.h"
 
 namespace tarnwick {
@@ -19,7 +19,7 @@ namespace tarnwick {
 /// What the text of a further column is made of.
 struct ExtraCell {
   const SiteRow& row;
-  const SiteFacts& facts;
+  const ListedFacts& facts;
   LocalTime now;
   bool isTested = false;
   bool runIsOn = false;

@@ -125,7 +125,7 @@ void SiteExtras::readSlice() {
 }
 
 void SiteExtras::read(std::int64_t first, std::int64_t last) {
-  auto found = readSiteFacts(program_.data().database(), wanted_, first, last);
+  auto found = readListedFacts(program_.data().database(), wanted_, first, last);
   for (auto id = first; id <= last; ++id) {
     facts_.erase(static_cast<std::int16_t>(id));
   }
@@ -201,7 +201,7 @@ void SiteExtras::lookUpLater(std::int16_t idSite) const {
 }
 
 ExtraCell SiteExtras::cellOf(int row, std::size_t column, Seen seen) const {
-  static const SiteFacts kNone;
+  static const ListedFacts kNone;
   const auto idSite = sites_.siteOfRow(row);
   const auto facts = idSite ? facts_.find(*idSite) : facts_.end();
   return {.row = sites_.row(row),

@@ -69,7 +69,7 @@ class SiteExtras final : public QObject, public ExtraCells {
   SiteGridModel& sites_;
   std::set<std::size_t> shown_;
   FactsWanted wanted_;
-  std::unordered_map<std::int16_t, SiteFacts> facts_;
+  std::unordered_map<std::int16_t, ListedFacts> facts_;
   // The sites that are still to be read, by their numbers.
   std::optional<std::int64_t> next_;
   std::int64_t last_ = 0;

@@ -90,7 +90,8 @@ void SiteGridModel::setAlarm(int row, const AlarmView& view) {
                          .since = view.since,
                          .rests = view.quiet == Quiet::noChecks,
                          .daysLeft = view.daysLeft,
-                         .slow = view.slow};
+                         .slow = view.slow,
+                         .acknowledged = view.acknowledged};
   Row& shown = rows_[static_cast<std::size_t>(row)];
   if (shown.alarm != alarm) {
     shown.alarm = alarm;

@@ -93,7 +93,10 @@ void SiteGridView::setSites(const TextTable& sites, const std::set<std::int64_t>
 }
 
 void SiteGridView::changeOrder(const std::function<void()>& change) {
+  const int scrolled = verticalScrollBar()->value();
   keepChosen(change);
+  updateGeometries();
+  verticalScrollBar()->setValue(scrolled);
   if (currentIndex().isValid()) {
     scrollTo(currentIndex());
   }

@@ -122,7 +122,7 @@ ChosenSites SiteMenu::chosen() const {
                       .url = site.cells[SiteGridModel::urlColumn],
                       .active = site.shade != SiteRow::Shade::inactive,
                       .down = site.status == false,
-                      .known = site.alarm.state == AlarmView::State::known,
+                      .known = site.alarm.acknowledged,
                       .paused = site.alarm.paused,
                       .counted = isCounted(SiteGridModel::upColumn) || isCounted(SiteGridModel::downColumn)});
   }

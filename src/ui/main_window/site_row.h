@@ -30,6 +30,7 @@ struct SiteRow {
     bool rests = false;             ///< it is not checked in these hours
     std::optional<int> daysLeft{};  ///< of a certificate that ends soon
     bool slow = false;
+    bool acknowledged = false;
 
     bool operator==(const Alarm&) const = default;
   };

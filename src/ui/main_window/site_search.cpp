@@ -83,7 +83,7 @@ void SiteSearch::findTyped() {
   try {
     const SiteQuery query(controls_.filterEdit->text().toStdString());
     controls_.filterEdit->setFault({});
-    grid_.changeOrder([&] { grid_.order().find(query, moment(controls_.filterEdit->text())); });
+    grid_.changeOrder([&] { grid_.order().find(query, moment(query)); });
   } catch (const std::invalid_argument& fault) {
     controls_.filterEdit->setFault(displayMessage(fault.what()));
   }
@@ -156,18 +156,18 @@ void SiteSearch::renew() {
     return;
   }
   if (grid_.order().isFiltered() || grid_.order().isSorted()) {
-    grid_.changeOrder([this] { grid_.order().renew(moment(controls_.filterEdit->text())); });
+    grid_.changeOrder([this] { grid_.order().renew(moment(grid_.order().query())); });
   }
   tellCount();
 }
 
-SiteOrder::Moment SiteSearch::moment(const QString& line) {
+SiteOrder::Moment SiteSearch::moment(const SiteQuery& query) {
   SiteOrder::Moment moment{.now = program_.services().clock.localNow()};
   try {
     moment.runIsOn = program_.run().running();
     moment.newSitesAtOnce = program_.data().optionsInForce().newSitesAtOnce();
-    if (line.contains(QLatin1String("tag:"), Qt::CaseInsensitive)) {
-      moment.tags = program_.data().tagsOfSites();
+    if (query.asksForTags()) {
+      moment.tags = tags();
     }
   } catch (const std::exception&) {
     // That the list cannot be read is told elsewhere.
@@ -177,7 +177,8 @@ SiteOrder::Moment SiteSearch::moment(const QString& line) {
 
 std::vector<std::int16_t> SiteSearch::sitesFoundBy(const QString& line) {
   SiteOrder order(static_cast<SiteGridModel&>(*grid_.order().sourceModel()));
-  order.find(SiteQuery(line.toStdString()), moment(line));
+  const SiteQuery query(line.toStdString());
+  order.find(query, moment(query));
   std::vector<std::int16_t> ids;
   for (int row = 0; row < order.rowCount(); ++row) {
     if (const auto idSite = grid_.sites().siteOfRow(order.listRow(row))) {
@@ -186,6 +187,17 @@ std::vector<std::int16_t> SiteSearch::sitesFoundBy(const QString& line) {
   }
   std::ranges::sort(ids);
   return ids;
+}
+
+// Read once, and again after a change: not with each letter that is typed.
+std::shared_ptr<const SiteOrder::TagsOfSites> SiteSearch::tags() {
+  if (!changes_) {
+    changes_.emplace(program_.data().database());
+  }
+  if (changes_->byAnyone() || !tags_) {
+    tags_ = std::make_shared<const SiteOrder::TagsOfSites>(program_.data().tagsOfSites());
+  }
+  return tags_;
 }
 
 void SiteSearch::tellCount() {

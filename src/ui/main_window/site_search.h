@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
+#include <optional>
 #include <QAction>
 #include <QLabel>
 #include <QObject>
@@ -8,6 +10,7 @@
 #include <QTimer>
 
 #include "program/program.h"
+#include "store/data_changes.h"
 #include "ui/controls/filter_edit.h"
 #include "ui/main_window/kept_habit.h"
 #include "ui/main_window/site_grid_view.h"
@@ -51,7 +54,8 @@ class SiteSearch final : public QObject {
   void endSorting();
   void renew();
   void tellCount();
-  SiteOrder::Moment moment(const QString& line);
+  SiteOrder::Moment moment(const SiteQuery& query);
+  std::shared_ptr<const SiteOrder::TagsOfSites> tags();
   void placeNothingFound();
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -62,6 +66,8 @@ class SiteSearch final : public QObject {
   QLabel* nothingFound_;
   QPushButton* showAllSites_;
   QAction& originalOrder_;
+  std::shared_ptr<const SiteOrder::TagsOfSites> tags_;
+  std::optional<DataChanges> changes_;
   QTimer soon_;
   KeptHabit kept_;
 };

@@ -246,7 +246,7 @@ TEST(ExtraColumnTest, TellsWhenACertificateEndsAndWhoHasIssuedIt) {
   const LocalTime now = *parseDateTime("2026-11-23 12:00:00");
   SiteRow row;
   row.cells.resize(5);
-  SiteFacts facts;
+  ListedFacts facts;
   const auto cell = [&] { return ExtraCell{.row = row, .facts = facts, .now = now}; };
   EXPECT_EQ(column.text(cell()), QString());
   EXPECT_EQ(column.toolTip(cell()), QString());
@@ -266,7 +266,7 @@ TEST(ExtraColumnTest, TellsWhenTheNextCheckIsDue) {
   SiteRow row{.interval = 10};
   row.cells = {"3", "http://localhost", "", "", "2026-11-23 12:00:30"};
   row.shade = SiteRow::Shade::up;
-  const SiteFacts facts;
+  const ListedFacts facts;
   ExtraCell cell{.row = row, .facts = facts, .now = *parseDateTime("2026-11-23 12:04:00"), .runIsOn = true};
   EXPECT_EQ(column.text(cell), QStringLiteral("in 6 min"));
   EXPECT_EQ(column.toolTip(cell), QStringLiteral("2026-11-23 12:10:00"));
@@ -289,7 +289,7 @@ TEST(ExtraColumnTest, TellsOfAnUnconfirmedFailureWhichOneItIs) {
                .failures = 1,
                .confirm = 3,
                .since = parseDateTime("2026-11-23 04:24:41")};
-  const SiteFacts facts;
+  const ListedFacts facts;
   ExtraCell cell{.row = row, .facts = facts, .now = *parseDateTime("2026-11-23 12:04:00")};
   EXPECT_EQ(column.text(cell), QStringLiteral("down, 1 of 3, since 04:24"));
   EXPECT_EQ(column.toolTip(cell), QStringLiteral("down, 1 of 3, since 2026-11-23 04:24:41"));

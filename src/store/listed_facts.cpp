@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "store/site_facts.h"
+#include "store/listed_facts.h"
 
 #include <array>
 #include <string_view>
@@ -10,7 +10,7 @@
 namespace tarnwick {
 namespace {
 
-using Facts = std::map<std::int64_t, SiteFacts>;
+using Facts = std::map<std::int64_t, ListedFacts>;
 
 /// Hands `take` the facts of each row's site, which is its first field, and the row.
 template <typename Take>
@@ -23,7 +23,7 @@ void eachRow(Database& database, std::string_view sql, std::int64_t first, std::
   rows->close();
 }
 
-void takeOutage(SiteFacts& site, const Recordset& row) {
+void takeOutage(ListedFacts& site, const Recordset& row) {
   if (const SqlValue ended = row.field(std::size_t{2}); !ended.isNull()) {
     site.upSince = history_rows::momentIn(ended);
   } else {
@@ -34,8 +34,8 @@ void takeOutage(SiteFacts& site, const Recordset& row) {
 
 }  // namespace
 
-std::map<std::int64_t, SiteFacts> readSiteFacts(Database& database, const FactsWanted& wanted, std::int64_t first,
-                                                std::int64_t last) {
+std::map<std::int64_t, ListedFacts> readListedFacts(Database& database, const FactsWanted& wanted, std::int64_t first,
+                                                    std::int64_t last) {
   Facts facts;
   const auto read = [&](bool isWanted, std::string_view table, std::string_view sql, auto take) {
     if (isWanted && hasTable(database, table)) {
@@ -49,14 +49,14 @@ std::map<std::int64_t, SiteFacts> readSiteFacts(Database& database, const FactsW
        &takeOutage);
   read(wanted.latency, "latestChecks",
        "select idSite, whole from latestChecks where idSite between ?1 and ?2 and whole is not null",
-       [](SiteFacts& site, const Recordset& row) {
+       [](ListedFacts& site, const Recordset& row) {
          site.latency = std::chrono::milliseconds(row.field(std::size_t{1}).toInt64());
        });
   read(wanted.tags, "siteTags", "select idSite, tag from siteTags where idSite between ?1 and ?2",
-       [](SiteFacts& site, const Recordset& row) { site.tags.push_back(row.field(std::size_t{1}).toText()); });
+       [](ListedFacts& site, const Recordset& row) { site.tags.push_back(row.field(std::size_t{1}).toText()); });
   read(wanted.certificate, "certificates",
        "select idSite, ends, issuer from certificates where idSite between ?1 and ?2",
-       [](SiteFacts& site, const Recordset& row) {
+       [](ListedFacts& site, const Recordset& row) {
          site.certificate = {history_rows::momentIn(row.field(std::size_t{1})), row.field(std::size_t{2}).toText()};
        });
   if (wanted.tags) {

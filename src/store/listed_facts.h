@@ -14,7 +14,7 @@
 namespace tarnwick {
 
 /// What a list can show of a site beside its record. As it is made here, nothing.
-struct SiteFacts {
+struct ListedFacts {
   /// What is known of its certificate.
   struct Certificate {
     Moment ends;
@@ -30,7 +30,7 @@ struct SiteFacts {
   Tags tags{};
   std::optional<Certificate> certificate{};
 
-  bool operator==(const SiteFacts&) const = default;
+  bool operator==(const ListedFacts&) const = default;
 };
 
 /// Which of them are read.
@@ -52,7 +52,7 @@ struct FactsWanted {
 
 /// Reads what is wanted of the sites from `first` to `last`, both of them included, a table at a time; those of which
 /// there is nothing are left out. A table that the list lacks reads as if it were empty. Raises DataAccessError.
-std::map<std::int64_t, SiteFacts> readSiteFacts(Database& database, const FactsWanted& wanted, std::int64_t first,
-                                                std::int64_t last);
+std::map<std::int64_t, ListedFacts> readListedFacts(Database& database, const FactsWanted& wanted, std::int64_t first,
+                                                    std::int64_t last);
 
 }  // namespace tarnwick
