@@ -94,6 +94,7 @@ NO_MESSAGES = {
     "src/ui/details/accept_dialog.cpp": ("what is accepted", ("What changed in", "This page becomes")),
     "src/ui/details/change_window.cpp": ("a caption", ("What changed in",)),
     "src/ui/details/alarm_*.cpp": ("what is told of a site; the guide explains it", ()),
+    "src/ui/details/details_head.cpp": ("how many sites are chosen; the guide explains it", ("%1 sites",)),
     "src/ui/details/settling_words.cpp": ("which page is which, and which lines differ", ("− Good as", "line %1", "lines %1", "bytes differ")),
     "src/ui/details/details_pane.cpp": ("labels and hints; the guide explains the details", ("What changed in",)),
     "src/ui/details/difference_*.cpp": ("labels of the difference; the guide explains it", ()),

@@ -7652,6 +7652,22 @@ and when it is back</source>
         <source>History</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Same Change…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show which of these sites have changed in the same way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sites selected: %2 down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose one site</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::DifferencePanel</name>

@@ -7653,6 +7653,22 @@ und wenn sie wieder da ist</translation>
         <source>History</source>
         <translation>Verlauf</translation>
     </message>
+    <message>
+        <source>Same Change…</source>
+        <translation>Gleiche Änderung…</translation>
+    </message>
+    <message>
+        <source>Show which of these sites have changed in the same way</source>
+        <translation>Zeigt, welche dieser Seiten sich gleich geändert haben</translation>
+    </message>
+    <message>
+        <source>%1 sites selected: %2 down</source>
+        <translation>%1 Seiten ausgewählt: %2 schlecht</translation>
+    </message>
+    <message>
+        <source>Choose one site</source>
+        <translation>Wählen Sie eine Seite</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::DifferencePanel</name>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What stands above the tabs of the details: how the site stands, and what settles it.
+#include <utility>
 #include <QHBoxLayout>
 #include <QToolButton>
 
@@ -17,6 +18,10 @@ QWidget* DetailsPane::makeHead() {
   vary_ = named(new LinkButton(tr("Let It Vary…"), head), "detailsVary", tr("Let It Vary…"));
   vary_->hide();
   connect(vary_, &LinkButton::clicked, this, &DetailsPane::varyWanted);
+  same_ = named(new LinkButton(tr("Same Change…"), head), "detailsSame", tr("Same Change…"));
+  same_->setToolTip(tr("Show which of these sites have changed in the same way"));
+  same_->hide();
+  connect(same_, &LinkButton::clicked, this, &DetailsPane::sameChangesWanted);
   btnAccept_ = addButton(*head, "btnAccept", tr("&Accept…"));
   btnAcknowledge_ = addButton(*head, "btnAcknowledge", tr("Ac&knowledge"));
   btnPause_ = addButton(*head, "btnPause", tr("&Pause"));
@@ -36,6 +41,7 @@ QWidget* DetailsPane::makeHead() {
   line->setContentsMargins({});
   line->addWidget(headline_, 1);
   line->addWidget(vary_);
+  line->addWidget(same_);
   for (QWidget* button : {static_cast<QWidget*>(btnAccept_), static_cast<QWidget*>(btnAcknowledge_),
                           static_cast<QWidget*>(btnPause_), static_cast<QWidget*>(close)}) {
     line->addWidget(button);
@@ -43,7 +49,24 @@ QWidget* DetailsPane::makeHead() {
   return head;
 }
 
+void DetailsPane::tellChosen(int sites, int down) {
+  if (sites == chosen_ && down == chosenDown_) {
+    return;
+  }
+  const bool wereSeveral = std::exchange(chosen_, sites) > 1;
+  chosenDown_ = down;
+  same_->setVisible(sites > 1 && down > 1);
+  if (isVisible() && (sites > 1 || wereSeveral)) {
+    tellHeadline();
+    tellButtons();
+  }
+}
+
 void DetailsPane::tellHeadline() {
+  if (chosen_ > 1) {
+    headline_->showText(tr("%1 sites selected: %2 down").arg(chosen_).arg(chosenDown_));
+    return;
+  }
   if (idSite_ && found_) {
     headline_->showText(isSettled_ ? tr("Site %1 is settled: its next check finds it up.").arg(*idSite_)
                                    : standingWords(*idSite_, *found_, whatIsWrong()));
@@ -68,18 +91,21 @@ QString DetailsPane::whatIsWrong() {
 }
 
 void DetailsPane::tellButtons() {
-  const bool settles = found_ && canBeSettled(*found_);
+  const bool isOne = chosen_ <= 1;
+  const bool settles = isOne && found_ && canBeSettled(*found_);
   const bool isKnown = settles && found_->isAcknowledged;
   btnAccept_->setText(offersCheck() ? tr("Check &Now") : tr("&Accept…"));
-  btnAccept_->setEnabled(settles || offersCheck());
-  btnAccept_->setToolTip(offersCheck() ? tr("Fetch the page again, at once")
-                         : settles     ? tr("Take the page of the latest check as the baseline")
-                                       : tr("There is no changed page to accept"));
+  btnAccept_->setEnabled(settles || (isOne && offersCheck()));
+  btnAccept_->setToolTip(!isOne          ? tr("Choose one site")
+                         : offersCheck() ? tr("Fetch the page again, at once")
+                         : settles       ? tr("Take the page of the latest check as the baseline")
+                                         : tr("There is no changed page to accept"));
   btnAcknowledge_->setText(isKnown ? tr("Alarm A&gain") : tr("Ac&knowledge"));
   btnAcknowledge_->setEnabled(settles);
-  btnAcknowledge_->setToolTip(!settles  ? tr("There is nothing wrong to acknowledge")
-                              : isKnown ? tr("Tell of this page again, at each failed check")
-                                        : tr("Known: say nothing while exactly this page stays"));
+  btnAcknowledge_->setToolTip(!isOne     ? tr("Choose one site")
+                              : !settles ? tr("There is nothing wrong to acknowledge")
+                              : isKnown  ? tr("Tell of this page again, at each failed check")
+                                         : tr("Known: say nothing while exactly this page stays"));
   tellPause();
   tellVary();
 }
@@ -91,7 +117,7 @@ void DetailsPane::tellVary() {
       found_->baseline.size() + found_->page.size() <= kMostLookedAt) {
     look = firstLook(found_->baseline, program_.data().rulesOf(*idSite_), found_->page);
   }
-  vary_->setVisible(!look.empty());
+  vary_->setVisible(!look.empty() && chosen_ <= 1);
   vary_->setToolTip(tr("The change looks like %1, which always changes: it need not count").arg(displayMessage(look)));
 }
 

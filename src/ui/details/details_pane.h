@@ -37,6 +37,10 @@ class DetailsPane final : public QWidget {
   void showSite(std::optional<std::int16_t> idSite);
   std::optional<std::int16_t> site() const { return idSite_; }
 
+  /// Says how many sites are chosen, and how many of them are down, where they are several. What settles one of them
+  /// alone is not offered then.
+  void tellChosen(int sites, int down);
+
   /// Gives the focus to what the tab that is open shows.
   void takeFocus();
   /// Shows what the first failed check from a time on has brought, in the place of the latest page, until another tab
@@ -61,6 +65,8 @@ class DetailsPane final : public QWidget {
   void windowWanted(std::int16_t idSite);
   /// What differs always changes, so it may vary.
   void varyWanted();
+  /// The sites that are chosen are to be looked at together.
+  void sameChangesWanted();
   /// What is told of the site is to be changed.
   void alarmWanted(std::int16_t idSite);
 
@@ -92,6 +98,7 @@ class DetailsPane final : public QWidget {
   std::optional<ToSettle> found_;
   StatusLine* headline_ = nullptr;
   LinkButton* vary_ = nullptr;
+  LinkButton* same_ = nullptr;
   QPushButton* btnAccept_ = nullptr;
   QPushButton* btnAcknowledge_ = nullptr;
   QPushButton* btnPause_ = nullptr;
@@ -106,6 +113,8 @@ class DetailsPane final : public QWidget {
   std::optional<std::int64_t> kept_;
   /// The row of the log whose page somebody wants to see in the place of the latest one.
   std::optional<LogRow> logged_;
+  int chosen_ = 1;
+  int chosenDown_ = 0;
   bool isPaused_ = false;
   /// It is down as yet, with a page that is a good one now.
   bool isSettled_ = false;

@@ -2,6 +2,7 @@
 #include "ui/main_window/details_area.h"
 
 #include <algorithm>
+#include <numeric>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLayout>
@@ -73,7 +74,8 @@ DetailsArea::DetailsArea(Program& program, QWidget& canvas, const MasterControls
     }
   });
   controls.listButton->menu()->insertAction(
-      controls.outbox, makeAction("sameChanges", tr("&Same Change on Many Sites…"), {}, &DetailsArea::openSameChanges));
+      controls.outbox,
+      makeAction("sameChanges", tr("&Same Change on Many Sites…"), {}, &DetailsArea::openSameChangesOfAll));
   connect(&reason_, &SiteReason::clicked, this, &DetailsArea::open);
   follow();
 }
@@ -116,6 +118,9 @@ void DetailsArea::follow() {
   // Once the list has its current row again.
   connect(grid_.model(), &QAbstractItemModel::modelReset, this, look, Qt::QueuedConnection);
   connect(settling_, &SiteSettling::settled, this, look);
+  connect(grid_.selectionModel(), &QItemSelectionModel::selectionChanged, this, &DetailsArea::tellChosen,
+          Qt::QueuedConnection);
+  connect(pane_, &DetailsPane::sameChangesWanted, this, [this] { openSameChanges(grid_.chosenRows()); });
   connect(grid_.model(), &QAbstractItemModel::dataChanged, this,
           [this, look](const QModelIndex& first, const QModelIndex& last) {
             const int row = grid_.currentIndex().row();
@@ -123,6 +128,15 @@ void DetailsArea::follow() {
               look();
             }
           });
+}
+
+void DetailsArea::tellChosen() {
+  if (pane_->isVisible()) {
+    const std::vector<int> rows = grid_.chosenRows();
+    pane_->tellChosen(static_cast<int>(rows.size()), static_cast<int>(std::ranges::count_if(rows, [this](int row) {
+                        return grid_.sites().row(row).shade == SiteRow::Shade::down;
+                      })));
+  }
 }
 
 void DetailsArea::addTo(QMenu& rowMenu, UndoList& undo) {
@@ -204,6 +218,7 @@ void DetailsArea::open() {
     below_ = habits_ == nullptr ? below_ : habits_->remembered(kHeight).value_or(below_);
     pane_->showSite(grid_.currentSite());
     pane_->show();
+    tellChosen();
     share(below_);
     reason_.setAway(true);
   }
@@ -236,9 +251,15 @@ void DetailsArea::undoAccept() {
   }
 }
 
-void DetailsArea::openSameChanges() {
+void DetailsArea::openSameChangesOfAll() {
+  std::vector<int> rows(static_cast<std::size_t>(grid_.sites().rowCount()));
+  std::iota(rows.begin(), rows.end(), 0);
+  openSameChanges(rows);
+}
+
+void DetailsArea::openSameChanges(const std::vector<int>& rows) {
   std::vector<std::int16_t> ids;
-  for (int row = 0; row < grid_.sites().rowCount(); ++row) {
+  for (const int row : rows) {
     if (const auto idSite = grid_.sites().siteOfRow(row); idSite && grid_.sites().differsInRow(row)) {
       ids.push_back(*idSite);
     }

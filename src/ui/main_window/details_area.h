@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <utility>
+#include <vector>
 #include <QMenu>
 #include <QObject>
 #include <QSplitter>
@@ -55,7 +56,9 @@ class DetailsArea final : public QObject {
   void accept();
   void acceptAlso();
   void undoAccept();
-  void openSameChanges();
+  void openSameChangesOfAll();
+  void openSameChanges(const std::vector<int>& rows);
+  void tellChosen();
 
   Program& program_;
   QWidget& canvas_;

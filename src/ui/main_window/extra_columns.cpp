@@ -69,8 +69,10 @@ SortKey stateKey(const ExtraCell& cell) {
        SiteState::notAPage, SiteState::certificate, SiteState::slow, SiteState::offline, SiteState::paused,
        SiteState::up, SiteState::never, SiteState::inactive});
   const auto place = std::ranges::find(kWorstFirst, stateOf(cell.row)) - kWorstFirst.begin();
+  constexpr std::int64_t kBits = 40;  // of a moment, in seconds
   const auto from = since(cell);
-  return {.number = place, .text = from ? dateTimeText(*from) : std::string()};
+  const std::int64_t moment = from ? from->time_since_epoch().count() : (std::int64_t{1} << kBits) - 1;
+  return {.number = (std::int64_t{place} << kBits) + moment};
 }
 
 // Last Result: why it is down.

@@ -206,7 +206,7 @@ ExtraCell SiteExtras::cellOf(int row, std::size_t column, Seen seen) const {
   const auto facts = idSite ? facts_.find(*idSite) : facts_.end();
   return {.row = sites_.row(row),
           .facts = facts == facts_.end() ? kNone : facts->second,
-          .now = program_.services().clock.localNow(),
+          .now = seen == Seen::yes ? program_.services().clock.localNow() : LocalTime(),
           .isTested = sites_.isTested(row),
           .runIsOn = program_.run().running(),
           .newSitesAtOnce = options_ && options_->newSitesAtOnce(),

@@ -92,12 +92,15 @@ void SiteGridView::setSites(const TextTable& sites, const std::set<std::int64_t>
   Q_EMIT filled();
 }
 
+// Who looks at other rows than the current one goes on doing so.
 void SiteGridView::changeOrder(const std::function<void()>& change) {
+  const auto before = currentSite();
+  const bool wasSeen = viewport()->rect().intersects(visualRect(currentIndex()));
   const int scrolled = verticalScrollBar()->value();
   keepChosen(change);
   updateGeometries();
   verticalScrollBar()->setValue(scrolled);
-  if (currentIndex().isValid()) {
+  if (currentIndex().isValid() && (wasSeen || currentSite() != before)) {
     scrollTo(currentIndex());
   }
 }
