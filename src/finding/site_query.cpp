@@ -102,8 +102,8 @@ std::vector<std::int64_t> idsOf(std::string_view list) {
 
 /// `lower` is in small letters.
 bool containsIgnoringCase(std::string_view text, std::string_view lower) {
-  return std::ranges::search(text, lower, {}, [](char c) { return lowerCase(c); }).begin() != text.end() ||
-         lower.empty();
+  const auto isSame = [](char one, char other) { return lowerCase(one) == other; };
+  return lower.empty() || std::search(text.begin(), text.end(), lower.begin(), lower.end(), isSame) != text.end();
 }
 
 bool isOfHost(const std::string& host, const std::string& wanted) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/support/tool_fixture.h"
+#include "support/file_bytes.h"
 
 namespace tarnwick::testing {
 namespace {
