@@ -60,11 +60,12 @@ StateText stateOf(const SiteFacts& facts, const AlarmView& alarm) {
   if (facts.notAPage) {
     state.text = "not a page";
   }
-  if (alarm.state != AlarmView::State::none && facts.site.active) {
+  // A warning is the word for a site that is up.
+  const bool isWarning = alarm.state == AlarmView::State::slow || alarm.state == AlarmView::State::certificate;
+  if (alarm.state != AlarmView::State::none && facts.site.active && !(isWarning && facts.status == false)) {
     state.text = wordsOf(alarm);
   }
-  if (alarm.state == AlarmView::State::slow || alarm.state == AlarmView::State::certificate ||
-      alarm.state == AlarmView::State::unknown) {
+  if ((isWarning && facts.status != false) || alarm.state == AlarmView::State::unknown) {
     state.colour = Console::Colour::cyan;
   }
   if (!facts.site.active) {

@@ -211,7 +211,17 @@ void AlarmDetails::connectLines() {
                                                                                 : days);
   });
   connect(certificate_, &QCheckBox::toggled, this, certificate);
-  connect(certificateDays_, &QLineEdit::textEdited, this, certificate);
+  // Half a list of days is none: what is wrong is told when it has been typed.
+  connect(certificateDays_, &QLineEdit::textEdited, this, [certificate](const QString& days) {
+    if (days.trimmed().isEmpty() || readCertificateLimits(days.trimmed().toStdString())) {
+      certificate();
+    }
+  });
+  connect(certificateDays_, &QLineEdit::editingFinished, this, [this, certificate] {
+    if (certificateDays_->isModified()) {
+      certificate();
+    }
+  });
 }
 
 }  // namespace tarnwick

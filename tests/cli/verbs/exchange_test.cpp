@@ -7,6 +7,7 @@
 
 #include "cli/support/tool_fixture.h"
 #include "program/site_draft.h"
+#include "store/options_for_others.h"
 #include "support/file_bytes.h"
 #include "support/system.h"
 
@@ -64,6 +65,9 @@ TEST_F(ExchangeVerbs, JsonComesBackByteForByte) { expectRoundTrip("sites.json");
 
 TEST_F(ExchangeVerbs, NameTheOptionThatDoesNotTakeItsValueAndWhatItTakes) {
   for (const OptionField& option : programOptions()) {
+    if (option.name == option_name::statusPage || option.name == option_name::metricsFile) {
+      continue;  // a file may have any name
+    }
     input = R"({"tarnwick": 1, "options": {")" + option.name + R"(": "what,, is this?"}, "sites": []})";
     EXPECT_EQ(run({"import", "-", "--format", "json"}), exit_status::failed) << option.name;
     if (option.kind == OptionKind::text && option.form == nullptr) {

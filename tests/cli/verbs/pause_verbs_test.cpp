@@ -177,7 +177,7 @@ TEST_F(AlarmInTheList, IsTheDaysThatACertificateIsGoodFor) {
   EXPECT_EQ(site["certificate"]["issuer"], "Some Authority");
   EXPECT_EQ(site["certificate"]["endsSoon"], true);
   EXPECT_EQ(runJson({"sites", "certificate", "--json"}).size(), 2U);
-  EXPECT_EQ(runJson({"sites", "certificate", "-down", "--json"}).size(), 1U);
+  EXPECT_EQ(runJson({"sites", "certificate -down", "--json"}).size(), 1U);
   run({"option", "all", "certificate=7"});
   EXPECT_EQ(runJson({"sites", "certificate", "--json"}).size(), 0U);
   EXPECT_EQ(runJson({"site", "1", "--json"})["certificate"]["endsSoon"], false);

@@ -179,6 +179,7 @@ TEST_F(AlarmFormTest, WarningsOfACertificateGoWithEveryPreset) {
   QTest::keyClicks(&days, QStringLiteral("30, third,7"));
   press(editor, "Command3");
   EXPECT_EQ(options(3), "certificate=third, 30, 7");
+  EXPECT_TRUE(machine.prompts.shown().empty());
   toggle(editor, "alarmCertificate");
   press(editor, "Command3");
   EXPECT_EQ(options(3), "certificate=off");
