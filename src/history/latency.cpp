@@ -2,7 +2,9 @@
 #include "history/latency.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 
 namespace tarnwick {
@@ -13,7 +15,7 @@ constexpr unsigned kBitsOfAByte = 7;
 constexpr unsigned kMoreFollows = 1U << kBitsOfAByte;
 
 /// Where each bucket but the first, which is that of no time at all, begins.
-template <std::size_t count>
+template <std::uint32_t count>
 const std::array<double, count>& beginnings() {
   static const auto all = [] {
     std::array<double, count> begins{};
@@ -36,17 +38,25 @@ void Latency::add(std::chrono::milliseconds took) {
   const auto& begins = beginnings<kBuckets>();
   const auto behind =
       std::upper_bound(begins.begin(), begins.end(), static_cast<double>(std::max<std::int64_t>(0, took.count())));
-  auto& bucket = counts_[static_cast<std::size_t>(behind - begins.begin()) - 1];
-  bucket = sum(bucket, 1);
+  const auto number = static_cast<std::uint32_t>(behind - begins.begin()) - 1;
+  const auto at = std::ranges::lower_bound(buckets_, number, {}, &Bucket::number);
+  if (at == buckets_.end() || at->number != number) {
+    buckets_.insert(at, {number, 1});
+  } else {
+    at->count = sum(at->count, 1);
+  }
   ++count_;
 }
 
 void Latency::add(const Latency& other) {
-  if (other.count_ == 0) {
-    return;
-  }
-  for (std::size_t i = 0; i < kBuckets; ++i) {
-    counts_[i] = sum(counts_[i], other.counts_[i]);
+  auto at = buckets_.begin();
+  for (const Bucket& bucket : other.buckets_) {
+    at = std::ranges::lower_bound(at, buckets_.end(), bucket.number, {}, &Bucket::number);
+    if (at == buckets_.end() || at->number != bucket.number) {
+      at = buckets_.insert(at, bucket);
+    } else {
+      at->count = sum(at->count, bucket.count);
+    }
   }
   count_ += other.count_;
 }
@@ -58,27 +68,24 @@ std::optional<std::chrono::milliseconds> Latency::quantile(double part) const {
   const auto wanted =
       std::clamp<std::uint64_t>(static_cast<std::uint64_t>(std::ceil(part * static_cast<double>(count_))), 1, count_);
   std::uint64_t seen = 0;
-  std::size_t bucket = 0;
-  while (bucket + 1 < kBuckets && (seen += counts_[bucket]) < wanted) {
+  auto bucket = buckets_.begin();
+  while (bucket + 1 != buckets_.end() && (seen += bucket->count) < wanted) {
     ++bucket;
   }
-  if (bucket == 0) {
+  if (bucket->number == 0) {
     return std::chrono::milliseconds(0);
   }
-  const double middle = std::exp2((static_cast<double>(bucket) - 0.5) / kBucketsOfADoubling);
+  const double middle = std::exp2((static_cast<double>(bucket->number) - 0.5) / kBucketsOfADoubling);
   return std::chrono::milliseconds(std::llround(middle));
 }
 
 std::string Latency::packed() const {
   std::string bytes;
-  std::size_t next = 0;
-  for (std::size_t i = 0; i < kBuckets; ++i) {
-    std::uint32_t left = counts_[i];
-    if (left == 0) {
-      continue;
-    }
-    bytes += static_cast<char>(static_cast<unsigned char>(i - next));
-    next = i + 1;
+  std::uint32_t next = 0;
+  for (const Bucket& bucket : buckets_) {
+    bytes += static_cast<char>(static_cast<unsigned char>(bucket.number - next));
+    next = bucket.number + 1;
+    std::uint32_t left = bucket.count;
     for (; left >= kMoreFollows; left >>= kBitsOfAByte) {
       bytes += static_cast<char>(static_cast<unsigned char>(left % kMoreFollows + kMoreFollows));
     }
@@ -89,9 +96,9 @@ std::string Latency::packed() const {
 
 Latency Latency::unpacked(std::string_view bytes) {
   Latency latency;
-  std::size_t bucket = 0;
+  std::uint32_t number = 0;
   for (std::size_t at = 0; at < bytes.size();) {
-    bucket += static_cast<unsigned char>(bytes[at++]);
+    number += static_cast<unsigned char>(bytes[at++]);
     std::uint64_t count = 0;
     bool more = true;
     for (unsigned shift = 0; more && at < bytes.size() && shift < 32; shift += kBitsOfAByte) {
@@ -99,12 +106,14 @@ Latency Latency::unpacked(std::string_view bytes) {
       count |= std::uint64_t{byte % kMoreFollows} << shift;
       more = byte >= kMoreFollows;
     }
-    if (bucket >= kBuckets || more) {
+    if (number >= kBuckets || more) {
       break;
     }
-    latency.counts_[bucket] = sum(0, count);
-    latency.count_ += latency.counts_[bucket];
-    ++bucket;
+    if (count > 0) {
+      latency.buckets_.push_back({number, sum(0, count)});
+      latency.count_ += latency.buckets_.back().count;
+    }
+    ++number;
   }
   return latency;
 }

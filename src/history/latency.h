@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
 #include <chrono>
-#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarnwick {
 
@@ -37,9 +36,18 @@ class Latency {
   bool operator==(const Latency&) const = default;
 
  private:
-  static constexpr std::size_t kBuckets = 256;
+  static constexpr std::uint32_t kBuckets = 256;
 
-  std::array<std::uint32_t, kBuckets> counts_{};
+  /// How many answers fell into a bucket.
+  struct Bucket {
+    std::uint32_t number = 0;
+    std::uint32_t count = 0;
+
+    bool operator==(const Bucket&) const = default;
+  };
+
+  /// Those that hold any, in order: the answers of an hour are in few of them.
+  std::vector<Bucket> buckets_;
   std::uint64_t count_ = 0;
 };
 

@@ -12,20 +12,38 @@ namespace tarnwick {
 
 using namespace std::chrono;
 
+namespace {
+
+/// Each check writes some of these: no format is read for them.
+void appendDigits(std::string& text, unsigned number, unsigned first) {
+  for (unsigned place = first; place > 0; place /= 10) {
+    text += static_cast<char>('0' + number / place % 10);
+  }
+}
+
+}  // namespace
+
 std::string dateText(LocalTime time) {
+  constexpr unsigned kThousands = 1000;
   const year_month_day day{floor<days>(time)};
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%04d-%02u-%02u", static_cast<int>(day.year()),
-                static_cast<unsigned>(day.month()), static_cast<unsigned>(day.day()));
-  return text.data();
+  std::string text;
+  appendDigits(text, static_cast<unsigned>(static_cast<int>(day.year())), kThousands);
+  text += '-';
+  appendDigits(text, static_cast<unsigned>(day.month()), 10);
+  text += '-';
+  appendDigits(text, static_cast<unsigned>(day.day()), 10);
+  return text;
 }
 
 std::string dateTimeText(LocalTime time) {
   const hh_mm_ss clock{time - floor<days>(time)};
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), " %02d:%02d:%02d", static_cast<int>(clock.hours().count()),
-                static_cast<int>(clock.minutes().count()), static_cast<int>(clock.seconds().count()));
-  return dateText(time) + text.data();
+  std::string text = dateText(time);
+  const std::array<std::int64_t, 3> parts{clock.hours().count(), clock.minutes().count(), clock.seconds().count()};
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    text += i == 0 ? ' ' : ':';
+    appendDigits(text, static_cast<unsigned>(parts[i]), 10);
+  }
+  return text;
 }
 
 std::optional<LocalTime> parseDateTime(std::string_view text) {

@@ -2,6 +2,8 @@
 #include "report/history_page.h"
 
 #include <algorithm>
+#include <iterator>
+#include <span>
 #include <tuple>
 
 #include "history/history_text.h"
@@ -27,6 +29,8 @@ std::string nameOf(const Period& period) { return period.length == 1 ? "24 h" : 
 struct Ranked {
   const ShownSite* site;
   PeriodSums sums;
+  /// Of one whose stripes are drawn.
+  std::vector<PeriodView> views{};
 
   bool isDown() const { return site->active && site->up == false; }
   // Those of which nothing is known come last.
@@ -37,7 +41,8 @@ struct Ranked {
   }
 };
 
-std::vector<Ranked> worstFirst(SiteHistory& history, const std::vector<ShownSite>& sites, Moment now) {
+/// The sums of more sites than have stripes, so that only those that turn out to be the worst are read as a whole.
+std::vector<Ranked> summed(SiteHistory& history, const std::vector<ShownSite>& sites, Moment now) {
   std::map<std::int64_t, std::chrono::seconds> intervals;
   for (const ShownSite& site : sites) {
     intervals.emplace(site.idSite, site.interval);
@@ -48,7 +53,34 @@ std::vector<Ranked> worstFirst(SiteHistory& history, const std::vector<ShownSite
     const auto known = sums.find(site.idSite);
     ranked.push_back({&site, known == sums.end() ? PeriodSums(periods().size()) : std::move(known->second)});
   }
-  std::ranges::sort(ranked, {}, &Ranked::rank);
+  return ranked;
+}
+
+void readViews(SiteHistory& history, std::span<Ranked> some, Moment now) {
+  std::vector<std::int64_t> ids;
+  for (const Ranked& ranked : some) {
+    ids.push_back(ranked.site->idSite);
+  }
+  PeriodsOfSites views(history, ids, now);
+  for (Ranked& ranked : some) {
+    ranked.views = views.of(ranked.site->idSite, ranked.site->interval);
+    ranked.sums.clear();
+    std::ranges::transform(ranked.views, std::back_inserter(ranked.sums), &PeriodView::whole);
+  }
+}
+
+std::vector<Ranked> worstFirst(SiteHistory& history, const std::vector<ShownSite>& sites, Moment now) {
+  std::vector<Ranked> ranked;
+  if (sites.size() > kMostStripes) {
+    ranked = summed(history, sites, now);
+    std::ranges::sort(ranked, {}, &Ranked::rank);
+  } else {
+    std::ranges::transform(sites, std::back_inserter(ranked), [](const ShownSite& site) { return Ranked{&site, {}}; });
+  }
+  readViews(history, std::span(ranked).first(std::min(kMostStripes, ranked.size())), now);
+  if (sites.size() <= kMostStripes) {
+    std::ranges::sort(ranked, {}, &Ranked::rank);
+  }
   return ranked;
 }
 
@@ -85,13 +117,13 @@ std::string outagesHtml(const std::vector<Outage>& outages, Moment now) {
   return html + "</details>\n";
 }
 
-std::string siteHtml(SiteHistory& history, const ShownSite& site, Moment now) {
-  const std::vector<PeriodView> views = periodsOf(history, site.idSite, site.interval, now);
-  const std::vector<Outage> outages = history.outages(site.idSite, {views.back().edges.front(), now});
-  std::string html =
-      "<section>\n<div class=\"head\"><h2>" + escaped(site.address) + "</h2>" + stateHtml(site) + "</div>\n";
-  for (const PeriodView& view : views) {
-    const TimeSum whole = view.whole();
+std::string siteHtml(SiteHistory& history, const Ranked& ranked, Moment now) {
+  const std::vector<Outage> outages = history.outages(ranked.site->idSite, {ranked.views.back().edges.front(), now});
+  std::string html = "<section>\n<div class=\"head\"><h2>" + escaped(ranked.site->address) + "</h2>" +
+                     stateHtml(*ranked.site) + "</div>\n";
+  for (std::size_t period = 0; period < ranked.views.size(); ++period) {
+    const PeriodView& view = ranked.views[period];
+    const TimeSum& whole = ranked.sums[period];
     html += "<div class=\"period\"><span class=\"dim\">" + nameOf(view.period) + "</span>" +
             page_parts::stripe(view, outages, page_parts::Causes::told) + "<span class=\"number\">" +
             uptimeText(whole.uptime()) + "</span><span class=\"took number dim\">";
@@ -127,7 +159,7 @@ std::string historyPage(SiteHistory& history, Moment now) {
                      " down, the worst first. Per cent are those of the time of which something is known.</p>\n";
   body += page_parts::legend();
   for (std::size_t i = 0; i < std::min(kMostStripes, ranked.size()); ++i) {
-    body += siteHtml(history, *ranked[i].site, now);
+    body += siteHtml(history, ranked[i], now);
   }
   if (ranked.size() > kMostStripes) {
     body +=

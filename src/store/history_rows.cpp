@@ -37,11 +37,14 @@ TimeSum sumIn(const Recordset& rows, std::size_t first, seconds length) {
   return sum;
 }
 
+KeptSum sumFrom(const Recordset& rows, std::size_t first) {
+  return {momentIn(rows.field(first)), sumIn(rows, first + 2, seconds(rows.field(first + 1).toInt64()))};
+}
+
 std::vector<KeptSum> sumsIn(Recordset& rows) {
   std::vector<KeptSum> sums;
   for (; !rows.eof(); rows.moveNext()) {
-    sums.push_back(
-        {momentIn(rows.field(std::size_t{0})), sumIn(rows, 2, seconds(rows.field(std::size_t{1}).toInt64()))});
+    sums.push_back(sumFrom(rows, 0));
   }
   rows.close();
   return sums;

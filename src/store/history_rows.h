@@ -28,7 +28,9 @@ Moment momentIn(const SqlValue& value);
 /// The fields `checks, up, unknown, msSum, msMax, buckets` from the number `first` on, of a row that stands for so much
 /// time.
 TimeSum sumIn(const Recordset& rows, std::size_t first, std::chrono::seconds length);
-/// The rows left, whose fields are the beginning, the length in seconds and those.
+/// The fields from the number `first` on: the beginning, the length in seconds and those.
+KeptSum sumFrom(const Recordset& rows, std::size_t first);
+/// The rows left, which hold nothing else.
 std::vector<KeptSum> sumsIn(Recordset& rows);
 
 /// The values of a row of `hours`; of `days` and `months`, whose time is `time`.

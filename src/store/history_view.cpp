@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <set>
+#include <span>
 #include <utility>
 
 #include "store/history_rows.h"
@@ -18,11 +20,12 @@ namespace {
 /// Of which the answer times of many sites are told.
 constexpr std::size_t kWeek = 1;
 
-PeriodView viewOf(const Period& period, const std::vector<const std::vector<KeptSum>*>& rows, Moment now) {
-  PeriodView view{period, edgesOf(period, now), {}};
+PeriodView viewOf(const Period& period, std::vector<Moment> edges,
+                  std::initializer_list<std::span<const KeptSum>> rows) {
+  PeriodView view{period, std::move(edges), {}};
   view.cells.resize(view.edges.size() - 1);
-  for (const std::vector<KeptSum>* const some : rows) {
-    for (const KeptSum& row : *some) {
+  for (const std::span<const KeptSum> some : rows) {
+    for (const KeptSum& row : some) {
       const auto behind = std::upper_bound(view.edges.begin(), view.edges.end() - 1, row.began);
       if (behind != view.edges.begin()) {
         view.cells[static_cast<std::size_t>(behind - view.edges.begin()) - 1].add(row.sum);
@@ -39,17 +42,22 @@ PeriodView viewOf(const Period& period, const std::vector<const std::vector<Kept
 }
 
 /// What the latest check says of the time since.
-std::vector<KeptSum> sinceTheLatest(SiteHistory& history, std::int64_t idSite, seconds interval, Moment now) {
+std::vector<KeptSum> sinceTheLatest(const LatestCheck& latest, seconds interval, Moment now) {
   std::vector<KeptSum> rows;
-  if (const auto latest = history.latestCheck(idSite)) {
-    for (const HourShare& share : sharesAfter(*latest, interval, {}, now)) {
-      KeptSum& row = rows.emplace_back();
-      row.began = share.hour;
-      row.sum.up = share.up;
-      row.sum.down = share.down;
-    }
+  for (const HourShare& share : sharesAfter(latest, interval, {}, now)) {
+    KeptSum& row = rows.emplace_back();
+    row.began = share.hour;
+    row.sum.up = share.up;
+    row.sum.down = share.down;
   }
   return rows;
+}
+
+/// The hours that are in none of the days: a day has its sum once a check comes after it, so they are of the day of the
+/// latest check.
+Stretch timeWithoutSum(const LatestCheck& latest, const std::vector<KeptSum>& days) {
+  const Moment day = dayOf(latest.at);
+  return {days.empty() ? day : std::max(day, dayFrom(days.back().began, 1)), dayFrom(day, 1)};
 }
 
 /// The sums of many sites, being put together.
@@ -166,30 +174,45 @@ CheckedSite checkedSite(SiteHistory& history, std::int64_t idSite) {
           minutes(std::max<std::int64_t>(1, rows->field(std::size_t{1}).toInt64()))};
 }
 
-std::vector<PeriodView> periodsOf(SiteHistory& history, std::int64_t idSite, seconds interval, Moment now) {
-  const Moment week = dayFrom(now, 1 - periods()[kWeek].length);
-  const Moment year = dayFrom(now, 1 - periods().back().length);
-  const std::vector<KeptSum> days = history.keptDays(idSite, {year, now});
-  // A day has its sum once a check comes after it.
-  const Moment summed = days.empty() ? year : dayFrom(days.back().began, 1);
-  const std::vector<KeptSum> rest = history.keptHours(idSite, {summed, now});
-  const std::vector<KeptSum> hours = history.keptHours(idSite, {week, now});
-  const std::vector<KeptSum> tail = sinceTheLatest(history, idSite, interval, now);
-  std::vector<PeriodView> views;
+PeriodsOfSites::PeriodsOfSites(SiteHistory& history, const std::vector<std::int64_t>& sites, Moment now)
+    : history_(history), now_(now) {
   for (const Period& period : periods()) {
-    views.push_back(period.days > 0 ? viewOf(period, {&days, &rest, &tail}, now)
-                                    : viewOf(period, {&hours, &tail}, now));
+    edges_.push_back(edgesOf(period, now));
+  }
+  hoursOfWeek_ = history.keptHours(sites, {edges_[kWeek].front(), now});
+}
+
+std::vector<PeriodView> PeriodsOfSites::of(std::int64_t idSite, seconds interval) {
+  const std::vector<KeptSum> days = history_.keptDays(idSite, {edges_.back().front(), now_});
+  const std::vector<KeptSum>& hours = hoursOfWeek_[idSite];
+  std::vector<KeptSum> rest;
+  std::vector<KeptSum> tail;
+  if (const auto latest = history_.latestCheck(idSite)) {
+    rest = history_.keptHours(idSite, timeWithoutSum(*latest, days));
+    tail = sinceTheLatest(*latest, interval, now_);
+  }
+  std::vector<PeriodView> views;
+  for (std::size_t i = 0; i < edges_.size(); ++i) {
+    const Period& period = periods()[i];
+    views.push_back(period.days > 0 ? viewOf(period, edges_[i], {days, rest, tail})
+                                    : viewOf(period, edges_[i], {hours, tail}));
   }
   return views;
 }
 
+std::vector<PeriodView> periodsOf(SiteHistory& history, std::int64_t idSite, seconds interval, Moment now) {
+  return PeriodsOfSites(history, {idSite}, now).of(idSite, interval);
+}
+
 PeriodView periodOfDays(SiteHistory& history, std::int64_t idSite, seconds interval, const Period& period, Moment now) {
-  const Moment from = edgesOf(period, now).front();
-  const std::vector<KeptSum> days = history.keptDays(idSite, {from, now});
-  const Moment summed = days.empty() ? from : dayFrom(days.back().began, 1);
-  const std::vector<KeptSum> rest = history.keptHours(idSite, {summed, now});
-  const std::vector<KeptSum> tail = sinceTheLatest(history, idSite, interval, now);
-  return viewOf(period, {&days, &rest, &tail}, now);
+  std::vector<Moment> edges = edgesOf(period, now);
+  const std::vector<KeptSum> days = history.keptDays(idSite, {edges.front(), now});
+  const auto latest = history.latestCheck(idSite);
+  if (!latest) {
+    return viewOf(period, std::move(edges), {days});
+  }
+  const std::vector<KeptSum> rest = history.keptHours(idSite, timeWithoutSum(*latest, days));
+  return viewOf(period, std::move(edges), {days, rest, sinceTheLatest(*latest, interval, now)});
 }
 
 std::map<std::int64_t, CheckTimings> latestTimings(SiteHistory& history) {

@@ -33,11 +33,27 @@ struct CheckedSite {
 /// One that is not there is checked each minute, from nowhere. Raises DataAccessError.
 CheckedSite checkedSite(SiteHistory& history, std::int64_t idSite);
 
-/// One for each of `periods()`, up to `now`, with what the latest check says of the time since. A site that is checked
-/// every `interval`. Raises DataAccessError.
+/// Reads what is known of several sites over the `periods()`, up to one present.
+class PeriodsOfSites {
+ public:
+  /// Raises DataAccessError.
+  PeriodsOfSites(SiteHistory& history, const std::vector<std::int64_t>& sites, Moment now);
+
+  /// One for each of `periods()`, with what the latest check says of the time since, of one of the sites, which is
+  /// checked every `interval`. Raises DataAccessError.
+  std::vector<PeriodView> of(std::int64_t idSite, std::chrono::seconds interval);
+
+ private:
+  SiteHistory& history_;
+  Moment now_;
+  std::vector<std::vector<Moment>> edges_;
+  std::map<std::int64_t, std::vector<KeptSum>> hoursOfWeek_;
+};
+
+/// The same of one site alone.
 std::vector<PeriodView> periodsOf(SiteHistory& history, std::int64_t idSite, std::chrono::seconds interval, Moment now);
 
-/// The same of one period alone, whose cells are days or more.
+/// The same of one site and one period, whose cells are days or more.
 PeriodView periodOfDays(SiteHistory& history, std::int64_t idSite, std::chrono::seconds interval, const Period& period,
                         Moment now);
 

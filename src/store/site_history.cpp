@@ -256,16 +256,31 @@ std::optional<CheckTimings> SiteHistory::timings(std::int64_t idSite) {
 
 // Hour by hour: the table is ordered by hours.
 std::vector<KeptSum> SiteHistory::keptHours(std::int64_t idSite, Stretch time) {
+  return std::move(keptHours(std::vector{idSite}, time)[idSite]);
+}
+
+// The hours lie in the order of time, so each of them is looked up, and its sites in it.
+std::map<std::int64_t, std::vector<KeptSum>> SiteHistory::keptHours(const std::vector<std::int64_t>& sites,
+                                                                    Stretch time) {
+  std::map<std::int64_t, std::vector<KeptSum>> found;
   if (!hasTables()) {
-    return {};
+    return found;
   }
-  const std::array<SqlValue, 3> key{SqlValue(idSite), of(time.from), of(time.until)};
+  std::string ids;
+  for (const std::int64_t id : sites) {
+    ids += (ids.empty() ? "[" : ",") + std::to_string(id);
+  }
+  const std::array<SqlValue, 3> key{SqlValue(ids + "]"), of(time.from), of(time.until)};
   const auto rows = db_.conn().execute(
       "with recursive slot (hour) as (select min(hour) from hours where hour >= ?2 union all select (select min(hour) "
-      "from hours where hour > slot.hour) from slot where slot.hour < ?3) select h.hour, 3600, checks, up, unknown, "
-      "msSum, msMax, buckets from slot cross join hours h on h.hour = slot.hour and h.idSite = ?1 where slot.hour < ?3",
+      "from hours where hour > slot.hour) from slot where slot.hour < ?3) select h.idSite, h.hour, 3600, checks, up, "
+      "unknown, msSum, msMax, buckets from slot cross join hours h on h.hour = slot.hour and h.idSite in (select value "
+      "from json_each(?1)) where slot.hour < ?3",
       key);
-  return history_rows::sumsIn(*rows);
+  for (; !rows->eof(); rows->moveNext()) {
+    found[rows->field(std::size_t{0}).toInt64()].push_back(history_rows::sumFrom(*rows, 1));
+  }
+  return found;
 }
 
 std::vector<KeptSum> SiteHistory::keptDays(std::int64_t idSite, Stretch time) {

@@ -85,6 +85,8 @@ class SiteHistory {
   std::optional<CheckTimings> timings(std::int64_t idSite);
   /// The hours of a site that begin in that time, or its days, in rising order.
   std::vector<KeptSum> keptHours(std::int64_t idSite, Stretch time);
+  /// The hours of several sites in one reading; nothing of a site that has none.
+  std::map<std::int64_t, std::vector<KeptSum>> keptHours(const std::vector<std::int64_t>& sites, Stretch time);
   std::vector<KeptSum> keptDays(std::int64_t idSite, Stretch time);
   /// The outages that were on in that time, of one site, or of all; the latest first.
   std::vector<Outage> outages(std::optional<std::int64_t> idSite, Stretch time);
