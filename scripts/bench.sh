@@ -3,7 +3,7 @@
 #
 #   scripts/bench.sh                  everything: about an hour
 #   scripts/bench.sh --quick          one run of each with up to 2000 sites: two minutes
-#   scripts/bench.sh --only slow      one part: fast, secure, names, slow, parallel, scale, window, large or alerts
+#   scripts/bench.sh --only slow      one part: fast, secure, names, slow, parallel, scale, window, large, alerts or history
 #   scripts/bench.sh --help           the other options
 #
 # Every program and server stays on this machine. Close other programs first: the load is printed beside each figure.

@@ -96,16 +96,17 @@ class Tarnwick(Contender):
         super().__init__(tools)
         self.log_rows = log_rows
         self.options = options
+        self.place = "tarnwick"
 
     def folder(self, place):
-        return place.folder / "tarnwick"
+        return place.folder / self.place
 
     def prepare(self, place):
         shutil.rmtree(self.folder(place), ignore_errors=True)
         self.folder(place).mkdir(parents=True)
         fill_database(self.folder(place) / "filled.mdb", self.tools.schema, place, self.log_rows)
         with sqlite3.connect(self.folder(place) / "filled.mdb") as connection:
-            connection.executemany("insert into siteOptions (idSite, name, value) values (0, ?, ?)", self.options)
+            connection.executemany("insert or replace into siteOptions (idSite, name, value) values (0, ?, ?)", self.options)
         connection.close()
 
     def restore(self, place):

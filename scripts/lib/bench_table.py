@@ -255,9 +255,33 @@ def window_round(options, tools, folder):
         server.close()
 
 
+def history_round(options, tools, folder):
+    """What it adds to a check that the history and the certificate are kept."""
+    certificate, bundle = certificate_of(folder / "certificates")
+    for scheme, sites, kept in (("http", 2000, ({}, {"history": "on"})),
+                                ("https", 200, ({}, {"history": "on"}, {"history": "on", "certificate": "third"}))):
+        server = FastServer(folder / scheme, certificate if scheme == "https" else None)
+        try:
+            server.lay(sites, options.size, 0)
+            contenders = []
+            for chosen in kept:
+                contender = in_namespace(bench_contenders.Tarnwick, bundle, BUNDLE)(
+                    tools, 0, tuple({"history": "off", **chosen}.items()))
+                contender.name, contender.note = scheme, " and ".join(chosen) or "neither"
+                contender.place = contender.note.replace(" ", "-")
+                contenders.append(contender)
+            place = bench_contenders.Place(folder / "history", sites, options.size, server.port, False, scheme=scheme)
+            results, _ = round_of(contenders, place, options.runs)
+            print_head(f"{sites} sites of {options.size} bytes, with and without history and certificate")
+            print_results(results, place)
+            shutil.rmtree(place.folder)
+        finally:
+            server.close()
+
+
 PARTS = {"fast": fast_rounds, "secure": secure_round, "names": names_round, "slow": slow_round,
          "parallel": parallel_round, "scale": scale_round, "window": window_round, "large": large_round,
-         "alerts": alerts_round}
+         "alerts": alerts_round, "history": history_round}
 
 
 def arguments():
