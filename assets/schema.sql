@@ -8,7 +8,7 @@
 PRAGMA encoding = 'UTF-8';
 PRAGMA auto_vacuum = NONE;
 -- The form of the tables: the original ones are form 0; the program brings an older list to today's form.
-PRAGMA user_version = 7;
+PRAGMA user_version = 8;
 
 BEGIN;
 
@@ -329,5 +329,9 @@ CREATE TABLE certificates (
   issuer TEXT NOT NULL,
   told INTEGER
 );
+-- The months, as "2026-11", whose report has been made; the first is the one before such reports were wanted.
+CREATE TABLE monthReports (
+  month TEXT NOT NULL PRIMARY KEY
+) WITHOUT ROWID;
 
 COMMIT;

@@ -59,6 +59,8 @@ NO_MESSAGES = {
     "src/report/metrics_text.cpp": ("what Prometheus reads", ()),
     "src/report/page_parts.cpp": ("parts of pages for others", ()),
     "src/report/history_page.cpp": ("the page of the history", ()),
+    "src/report/month_page.cpp": ("the page of a month", ()),
+    "src/report/month_tables.cpp": ("the figures of a month", ()),
     "src/report/status_page.cpp": ("the page for everybody", ()),
     "src/history/history_text.cpp": ("a picture", ()),
     "src/store/history_view.cpp": ("what is asked of the database", ()),

@@ -4947,6 +4947,158 @@
         <source>once, as things stand now</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>95 %%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slowest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down since</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In outages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show how the sites were in a month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As in 2026-11; without one the last that has ended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write it as a page into this file; - is standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print one of its tables as CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Per cent are those of the time of which something is known. An outage counts as far as it lies in the</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>month. Certificates are shown as they are now. With the option monthReport a run makes it by itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of the last month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as a page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its outages, for a spreadsheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all its tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Month %1, as it was known %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites, the worst first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outages, the latest first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The slowest sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The certificates that end soonest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no month. Write it as in &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The month %1 has not begun. The present one is %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask for one of --json, --csv and --html.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 To write the report of that month elsewhere: tarnwickctl month-report %2 --html FILE</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6332,6 +6484,18 @@
     </message>
     <message>
         <source>no page tells others how the sites stand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Month&apos;s report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether a run makes a report of each month that has ended: as a file in the folder reports, and as a message by the channels that are on for all sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a report of a month is made by &quot;tarnwickctl month-report&quot; only</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -4947,6 +4947,158 @@
         <source>once, as things stand now</source>
         <translation>einmal, wie es jetzt steht</translation>
     </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Known</source>
+        <translation>Bekannt</translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>Prüfungen</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>95 %%</source>
+        <translation>95 %%</translation>
+    </message>
+    <message>
+        <source>Slowest</source>
+        <translation>Längste</translation>
+    </message>
+    <message>
+        <source>Down since</source>
+        <translation>Ausgefallen seit</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Outages</source>
+        <translation>Ausfälle</translation>
+    </message>
+    <message>
+        <source>In outages</source>
+        <translation>In Ausfällen</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>In the month</source>
+        <translation>Im Monat</translation>
+    </message>
+    <message>
+        <source>Ends</source>
+        <translation>Endet</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>Sites</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Show how the sites were in a month</source>
+        <translation>Zeigt, wie es den Seiten in einem Monat ging</translation>
+    </message>
+    <message>
+        <source>As in 2026-11; without one the last that has ended</source>
+        <translation>Wie in 2026-11; ohne einen der letzte, der vorbei ist</translation>
+    </message>
+    <message>
+        <source>Write it as a page into this file; - is standard output</source>
+        <translation>Schreibt ihn als Seite in diese Datei; - ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Print one of its tables as CSV</source>
+        <translation>Gibt eine seiner Tabellen als CSV aus</translation>
+    </message>
+    <message>
+        <source>Per cent are those of the time of which something is known. An outage counts as far as it lies in the</source>
+        <translation>Prozente gelten für die Zeit, von der etwas bekannt ist. Ein Ausfall zählt, soweit er im Monat</translation>
+    </message>
+    <message>
+        <source>month. Certificates are shown as they are now. With the option monthReport a run makes it by itself.</source>
+        <translation>liegt. Zertifikate sind die von jetzt. Mit der Option monthReport macht ein Lauf ihn von selbst.</translation>
+    </message>
+    <message>
+        <source>of the last month</source>
+        <translation>vom letzten Monat</translation>
+    </message>
+    <message>
+        <source>as a page</source>
+        <translation>als Seite</translation>
+    </message>
+    <message>
+        <source>its outages, for a spreadsheet</source>
+        <translation>seine Ausfälle, für eine Tabellenkalkulation</translation>
+    </message>
+    <message>
+        <source>all its tables</source>
+        <translation>alle seine Tabellen</translation>
+    </message>
+    <message>
+        <source>Month %1, as it was known %2</source>
+        <translation>Monat %1, nach dem Stand von %2</translation>
+    </message>
+    <message>
+        <source>All sites</source>
+        <translation>Alle Seiten</translation>
+    </message>
+    <message>
+        <source>Sites, the worst first</source>
+        <translation>Seiten, die schlechteste zuerst</translation>
+    </message>
+    <message>
+        <source>Outages, the latest first</source>
+        <translation>Ausfälle, der letzte zuerst</translation>
+    </message>
+    <message>
+        <source>The slowest sites</source>
+        <translation>Die langsamsten Seiten</translation>
+    </message>
+    <message>
+        <source>The certificates that end soonest</source>
+        <translation>Die Zertifikate, die zuerst enden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no month. Write it as in &quot;%2&quot;.</source>
+        <translation>„%1“ ist kein Monat. Schreiben Sie ihn wie in „%2“.</translation>
+    </message>
+    <message>
+        <source>The month %1 has not begun. The present one is %2.</source>
+        <translation>Der Monat %1 hat noch nicht begonnen. Jetzt ist %2.</translation>
+    </message>
+    <message>
+        <source>Ask for one of --json, --csv and --html.</source>
+        <translation>Verlangen Sie nur eines von --json, --csv und --html.</translation>
+    </message>
+    <message>
+        <source>%1 To write the report of that month elsewhere: tarnwickctl month-report %2 --html FILE</source>
+        <translation>%1 Um den Bericht dieses Monats woandershin zu schreiben: tarnwickctl month-report %2 --html DATEI</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -6333,6 +6485,18 @@
     <message>
         <source>no page tells others how the sites stand</source>
         <translation>keine Seite sagt anderen, wie die Seiten stehen</translation>
+    </message>
+    <message>
+        <source>Month&apos;s report</source>
+        <translation>Monatsbericht</translation>
+    </message>
+    <message>
+        <source>Whether a run makes a report of each month that has ended: as a file in the folder reports, and as a message by the channels that are on for all sites</source>
+        <translation>Ob ein Lauf von jedem Monat, der vorbei ist, einen Bericht macht: als Datei im Ordner reports und als Nachricht über die Kanäle, die für alle Seiten an sind</translation>
+    </message>
+    <message>
+        <source>a report of a month is made by &quot;tarnwickctl month-report&quot; only</source>
+        <translation>einen Bericht von einem Monat macht nur „tarnwickctl month-report“</translation>
     </message>
 </context>
 <context>

@@ -20,7 +20,7 @@ struct Happening {
   std::string_view event;
   std::string_view words;
 };
-constexpr std::array<Happening, 11> kHappenings{{
+constexpr std::array<Happening, 12> kHappenings{{
     {"down", "does not answer"},
     {"still down", "is still down"},
     {"up", "is up again"},
@@ -32,6 +32,7 @@ constexpr std::array<Happening, 11> kHappenings{{
     {"test", "A test of Tarnwick"},
     {"daily test", "The daily test alert"},
     {"all is well", "All is well"},
+    {kMonthReport, "The month's report"},
 }};
 
 // By what a page is drawn with: mail programs know no style sheets.

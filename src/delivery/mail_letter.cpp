@@ -107,8 +107,10 @@ MailMessage mailLetter(const Channel& channel, std::span<const OutboxRow> rows, 
   // RFC 3834, section 5: no program answers it.
   mail.headers.emplace_back("Auto-Submitted", "auto-generated");
   if (rows.size() == 1 && !first.alert.page.empty() && channel.setting(channel_field::attach) == option_value::on) {
-    mail.attachment =
-        MailPart{"page-" + std::to_string(first.alert.idSite) + ".txt", "application/octet-stream", first.alert.page};
+    mail.attachment = first.alert.event == kMonthReport
+                          ? MailPart{"report.html", "text/html", first.alert.page}
+                          : MailPart{"page-" + std::to_string(first.alert.idSite) + ".txt", "application/octet-stream",
+                                     first.alert.page};
   }
   return mail;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "history/calendar.h"
 
+#include <array>
+
 namespace tarnwick {
 
 using namespace std::chrono;
@@ -29,6 +31,24 @@ Moment monthOf(Moment moment) {
 Moment monthAfter(Moment moment) {
   const year_month_day date{floor<days>(localTimeAt(moment))};
   return momentAt(local_days{(date.year() / date.month() + months{1}) / day{1}});
+}
+
+std::string monthText(Moment moment) {
+  constexpr std::size_t kYearAndMonth = 7;
+  return dateText(localTimeAt(moment)).substr(0, kYearAndMonth);
+}
+
+std::optional<Moment> readMonth(std::string_view text) {
+  const auto first = parseDateTime(std::string(text) + "-01");
+  return first && dateText(*first).starts_with(text) ? std::optional(momentAt(*first)) : std::nullopt;
+}
+
+std::string monthName(Moment moment) {
+  constexpr std::array<const char*, 12> kNames{"January", "February", "March",     "April",   "May",      "June",
+                                               "July",    "August",   "September", "October", "November", "December"};
+  const year_month_day date{floor<days>(localTimeAt(moment))};
+  return std::string(kNames.at(static_cast<unsigned>(date.month()) - 1)) + " " +
+         std::to_string(static_cast<int>(date.year()));
 }
 
 const std::vector<Period>& periods() {

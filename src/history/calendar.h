@@ -2,6 +2,9 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/clock.h"
@@ -21,6 +24,13 @@ Moment monthOf(Moment moment);
 /// The beginning of the day so many days after, or before, that of the moment; of the month after it.
 Moment dayFrom(Moment moment, int days);
 Moment monthAfter(Moment moment);
+
+/// The month that the moment is in, as it is written: "2026-11".
+std::string monthText(Moment moment);
+/// The beginning of the month of such a text; nothing for any other.
+std::optional<Moment> readMonth(std::string_view text);
+/// The same for people: "November 2026".
+std::string monthName(Moment moment);
 
 /// A stretch of time that is looked at: so many cells that end with the present one, each of so many hours or days.
 struct Period {

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "program/month_telling.h"
 #include "report/publication.h"
 #include "store/site_table.h"
 
@@ -32,6 +33,7 @@ struct Program::Parts {
   Parts(const std::string& folder, const Services& services, RunView& view, FaultBox& faults, const Fields& fields)
       : data(folder, services, fields),
         publication(data, services.files, services.clock),
+        monthTelling(data, data.delivery(), services.files, services.clock),
         pool(data, services.transfers, services.timers),
         run({.dueSites = data,
              .pages = data,
@@ -60,9 +62,13 @@ struct Program::Parts {
             services.timers,
             [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }) {}
 
-  // After a pass, in the next moment in which nothing else goes on.
+  // In the next moment in which nothing else goes on; what is told of passes after each of them.
   void tellOthers(FaultBox& faults) {
-    if (!passHasEnded || run.busy() || !run.running()) {
+    if (run.busy() || !run.running()) {
+      return;
+    }
+    faults.runRepeated("month's report", [this] { monthTelling.tick(data.optionsInForce()); });
+    if (!passHasEnded) {
       return;
     }
     passHasEnded = false;
@@ -71,6 +77,7 @@ struct Program::Parts {
 
   m data;
   Publication publication;
+  MonthTelling monthTelling;
   bool passHasEnded = false;
   InetPool pool;
   RunController run;

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "history/calendar.h"
-#include "store/site_history.h"
+#include "store/history_view.h"
 
 namespace tarnwick {
 
@@ -28,12 +28,6 @@ struct SiteOverview {
 
   /// Up in per cent of the known time; nothing where none is known.
   std::optional<double> uptime() const;
-};
-
-/// A site and how often it is to be checked.
-struct SiteToShow {
-  std::int64_t idSite = 0;
-  std::chrono::seconds interval{60};
 };
 
 /// The overviews of some sites, in rising order of their ids, up to `now`: a piece of a long list, which takes about

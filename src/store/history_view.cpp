@@ -27,7 +27,7 @@ PeriodView viewOf(const Period& period, std::vector<Moment> edges,
   for (const std::span<const KeptSum> some : rows) {
     for (const KeptSum& row : some) {
       const auto behind = std::upper_bound(view.edges.begin(), view.edges.end() - 1, row.began);
-      if (behind != view.edges.begin()) {
+      if (behind != view.edges.begin() && row.began < view.edges.back()) {
         view.cells[static_cast<std::size_t>(behind - view.edges.begin()) - 1].add(row.sum);
       }
     }
@@ -204,15 +204,54 @@ std::vector<PeriodView> periodsOf(SiteHistory& history, std::int64_t idSite, sec
   return PeriodsOfSites(history, {idSite}, now).of(idSite, interval);
 }
 
-PeriodView periodOfDays(SiteHistory& history, std::int64_t idSite, seconds interval, const Period& period, Moment now) {
-  std::vector<Moment> edges = edgesOf(period, now);
-  const std::vector<KeptSum> days = history.keptDays(idSite, {edges.front(), now});
-  const auto latest = history.latestCheck(idSite);
+namespace {
+
+/// That of the days between the edges, as it is known `now`.
+PeriodView viewOfDays(SiteHistory& history, const SiteToShow& site, const Period& period, std::vector<Moment> edges,
+                      Moment now) {
+  const std::vector<KeptSum> days = history.keptDays(site.idSite, {edges.front(), edges.back()});
+  const auto latest = history.latestCheck(site.idSite);
   if (!latest) {
     return viewOf(period, std::move(edges), {days});
   }
-  const std::vector<KeptSum> rest = history.keptHours(idSite, timeWithoutSum(*latest, days));
-  return viewOf(period, std::move(edges), {days, rest, sinceTheLatest(*latest, interval, now)});
+  const std::vector<KeptSum> rest = history.keptHours(site.idSite, timeWithoutSum(*latest, days));
+  return viewOf(period, std::move(edges), {days, rest, sinceTheLatest(*latest, site.interval, now)});
+}
+
+}  // namespace
+
+PeriodView periodOfDays(SiteHistory& history, std::int64_t idSite, seconds interval, const Period& period, Moment now) {
+  return viewOfDays(history, {idSite, interval}, period, edgesOf(period, now), now);
+}
+
+PeriodView daysOf(SiteHistory& history, const SiteToShow& site, Stretch time, Moment now) {
+  std::vector<Moment> edges;
+  for (Moment day = dayOf(time.from); day < time.until; day = dayFrom(day, 1)) {
+    edges.push_back(day);
+  }
+  edges.push_back(time.until);
+  return viewOfDays(history, site, {.days = 1, .cells = static_cast<int>(edges.size()) - 1}, edges, now);
+}
+
+std::map<std::int64_t, TimeSum> sumsOfMonth(SiteHistory& history, const std::vector<SiteToShow>& sites, Stretch time,
+                                            Moment now) {
+  std::map<std::int64_t, TimeSum> sums;
+  if (hasTable(history.database(), "months")) {
+    const SqlValue month = history_rows::of(time.from);
+    const auto rows = history.database().conn().execute(
+        "select idSite, seconds, checks, up, unknown, msSum, msMax, buckets from months where month = ?1", {&month, 1});
+    for (; !rows->eof(); rows->moveNext()) {
+      sums.emplace(rows->field(std::size_t{0}).toInt64(),
+                   history_rows::sumIn(*rows, 2, seconds(rows->field(std::size_t{1}).toInt64())));
+    }
+    rows->close();
+  }
+  for (const SiteToShow& site : sites) {
+    if (!sums.contains(site.idSite)) {
+      sums.emplace(site.idSite, daysOf(history, site, time, now).whole());
+    }
+  }
+  return sums;
 }
 
 std::map<std::int64_t, CheckTimings> latestTimings(SiteHistory& history) {

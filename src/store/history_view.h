@@ -57,6 +57,19 @@ std::vector<PeriodView> periodsOf(SiteHistory& history, std::int64_t idSite, std
 PeriodView periodOfDays(SiteHistory& history, std::int64_t idSite, std::chrono::seconds interval, const Period& period,
                         Moment now);
 
+/// A site and how often it is to be checked.
+struct SiteToShow {
+  std::int64_t idSite = 0;
+  std::chrono::seconds interval{60};
+};
+
+/// The days of any time, as it is known `now`; the last cell ends with the time, which is over by then.
+PeriodView daysOf(SiteHistory& history, const SiteToShow& site, Stretch time, Moment now);
+
+/// The sums of a month, or of its part up to the present, for these sites. Raises DataAccessError.
+std::map<std::int64_t, TimeSum> sumsOfMonth(SiteHistory& history, const std::vector<SiteToShow>& sites, Stretch time,
+                                            Moment now);
+
 /// How long the parts of the latest check of each site took. Raises DataAccessError.
 std::map<std::int64_t, CheckTimings> latestTimings(SiteHistory& history);
 

@@ -100,10 +100,15 @@ bool addHistory(SqlConnection& connection, const std::string&) {
   return true;
 }
 
+bool addMonthReports(SqlConnection& connection, const std::string&) {
+  connection.execute("create table if not exists monthReports (month TEXT NOT NULL PRIMARY KEY) without rowid", {});
+  return true;
+}
+
 /// What leads from each form to the next; the first makes form 1 of form 0. A step that has been in a release never
 /// changes: lists that have gone through it are in people's hands.
 constexpr std::array<Step, kFormOfTables> kSteps = {&addSiteOptions, &makeSitesDense, &addSiteState, &addRules,
-                                                    &addChannels,    &addSettling,    &addHistory};
+                                                    &addChannels,    &addSettling,    &addHistory,   &addMonthReports};
 
 void refuseNewer(std::int64_t form, const std::string& path) {
   if (form > kFormOfTables) {

@@ -10,7 +10,7 @@ namespace tarnwick {
 
 /// The form of the tables that this program knows and makes: `user_version` of the file. 0 are the original tables
 /// alone; each change of them has raised it by one.
-inline constexpr std::int64_t kFormOfTables = 7;
+inline constexpr std::int64_t kFormOfTables = 8;
 
 /// Brings the tables of an older list to today's form, in one transaction; `path` is for the error. What cannot be
 /// written just now (read-only, locked, no room) is left as it is and read as if the newer tables were empty. Raises

@@ -250,6 +250,12 @@ std::vector<OptionField> runOptions() {
        .original = "the history keeps each hour for good",
        .label = "Hours of the history for",
        .meaning = "After how many days the history keeps only the sums of days and months, which stay as they are"},
+      {.name = std::string(option_name::monthReport),
+       .kind = OptionKind::flag,
+       .original = "a report of a month is made by \"tarnwickctl month-report\" only",
+       .label = "Month's report",
+       .meaning = "Whether a run makes a report of each month that has ended: as a file in the folder reports, and as "
+                  "a message by the channels that are on for all sites"},
       {.name = std::string(option_name::statusPage),
        .kind = OptionKind::text,
        .original = "no page tells others how the sites stand",

@@ -20,7 +20,8 @@ struct Alert {
   LocalTime made{};
   /// When its pass began: alerts of one pass may be bundled.
   LocalTime pass{};
-  std::string event{};  ///< "down", "still down", "up", "unsteady", "slow", "certificate", "issuer", "online", "test"
+  std::string event{};  ///< "down", "still down", "up", "unsteady", "slow", "certificate", "issuer", "online", "test",
+                        ///< "month"
   std::string url{};
   std::string cause{};       ///< why a check failed, in one line
   std::string downSince{};   ///< a date; empty when it is not known
@@ -35,6 +36,9 @@ struct Alert {
 
 /// The event of the alert that only tries the channels, each day.
 inline constexpr const char* kDailyTest = "daily test";
+
+/// The event of the report of a month.
+inline constexpr const char* kMonthReport = "month";
 
 /// An alert on its way through one channel.
 struct OutboxRow {

@@ -8,6 +8,8 @@
 
 #include "base/text.h"
 #include "store/migrations.h"
+#include "store/month_reports.h"
+#include "store/options_for_others.h"
 #include "store/table_there.h"
 
 namespace tarnwick {
@@ -28,6 +30,14 @@ void store(Database& database, std::int16_t idSite, const std::string& name, con
   }
   const std::array<SqlValue, 3> row{SqlValue(std::int64_t{idSite}), SqlValue(name), SqlValue(value)};
   change(database, "insert or replace into siteOptions (idSite, name, value) values (?1, ?2, ?3)", row);
+}
+
+/// A month before reports of months were wanted has none, so it is kept since when they are.
+void keepSince(Database& database, std::string_view name, std::string_view value) {
+  if (name == option_name::monthReport) {
+    MonthReports reports(database);
+    value == option_value::on ? reports.begin() : reports.end();
+  }
 }
 
 }  // namespace
@@ -142,13 +152,17 @@ void SiteOptions::setOption(std::int16_t idSite, std::string_view name, std::str
   if (idSite != kAllSites && !field.ofSite) {
     throw std::runtime_error("The option " + field.name + " holds for all sites, and none has a value of its own.");
   }
+  Transaction whole(db_);
   store(db_, idSite, field.name, field.checked(value));
+  keepSince(db_, field.name, field.checked(value));
+  whole.commit();
 }
 
 void SiteOptions::removeOption(std::int16_t idSite, std::string_view name) {
   const std::array<SqlValue, 2> key{SqlValue(std::int64_t{idSite}), SqlValue(optionField(name).name)};
   if (hasTable(db_)) {
     change(db_, "delete from siteOptions where idSite = ?1 and name = ?2", key);
+    keepSince(db_, optionField(name).name, {});
   }
 }
 

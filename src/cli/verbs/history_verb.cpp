@@ -3,6 +3,7 @@
 #include <map>
 #include <ostream>
 
+#include "cli/terminal/csv_text.h"
 #include "cli/terminal/json_output.h"
 #include "cli/terminal/text_grid.h"
 #include "cli/verbs/chosen_sites.h"
@@ -98,14 +99,6 @@ JsonValue viewJson(const SiteView& view, Moment now) {
   json["periods"] = std::move(periods);
   json["outages"] = std::move(outages);
   return json;
-}
-
-std::string csvText(std::string_view text) {
-  std::string quoted = "\"";
-  for (const char c : text) {
-    quoted += c == '"' ? "\"\"" : std::string(1, c);
-  }
-  return quoted + "\"";
 }
 
 void printCsv(std::ostream& out, const SiteView& view) {

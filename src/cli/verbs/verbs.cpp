@@ -31,6 +31,7 @@ std::vector<Verb> allVerbs(const Fields& fields) {
   all.push_back(historyVerb());
   all.push_back(metricsVerb());
   all.push_back(statusPageVerb());
+  all.push_back(monthReportVerb());
   add(upkeepVerbs());
   all.push_back(exportVerb());
   all.push_back(importVerb());

@@ -38,6 +38,7 @@ Verb logVerb();
 Verb historyVerb();
 Verb metricsVerb();
 Verb statusPageVerb();
+Verb monthReportVerb();
 Verb initVerb();
 /// Prints the completions of all verbs.
 Verb completionVerb();

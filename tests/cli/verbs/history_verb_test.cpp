@@ -72,6 +72,37 @@ TEST_F(HistoryVerb, SaysWhenNoneIsKept) {
   EXPECT_THAT(err, HasSubstr("history=on"));
 }
 
+TEST_F(HistoryVerb, AMonthHasItsTablesInEveryForm) {
+  EXPECT_EQ(run({"month-report", "2024-05"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("Month 2024-05, as it was known 2024-05-17 12:00:00\n"));
+  EXPECT_THAT(out, HasSubstr("83.33 %"));
+  EXPECT_THAT(out, HasSubstr("refused"));
+  EXPECT_EQ(run({"month-report", "2024-05", "--html", "-"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("<h1>May 2024</h1>"));
+  EXPECT_EQ(run({"month-report", "2024-05", "--csv", "outages"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("idSite,began,ended,seconds,checks,url,cause\r\n1,\"2024-05-17 10:00:00\",\"2024-05-17 "
+                             "10:15:00\",900,2,\"http://a.example/\",\"refused\"\r\n"));
+  const Json json = runJson({"month-report", "2024-05", "--json"});
+  EXPECT_EQ(json["month"][0]["downSeconds"], 900);
+  EXPECT_NEAR(json["month"][0]["uptime"].get<double>(), 100.0 * 4500 / 5400, 1e-9);
+  EXPECT_EQ(json["sites"].size(), 2U);
+  EXPECT_TRUE(json["sites"][1]["uptime"].is_null());
+  EXPECT_EQ(json["outages"][0]["cause"], "refused");
+  EXPECT_EQ(json["slowest"][0]["idSite"], 1);
+  EXPECT_TRUE(json["certificates"].empty());
+}
+
+TEST_F(HistoryVerb, AMonthIsTheLastOneWhereNoneIsNamedAndNoneToCome) {
+  const Json json = runJson({"month-report", "--json"});
+  EXPECT_EQ(json["month"][0]["month"], "2024-04");
+  EXPECT_NE(run({"month-report", "2024-06"}), exit_status::ok);
+  EXPECT_THAT(err, HasSubstr("The month 2024-06 has not begun. The present one is 2024-05."));
+  EXPECT_NE(run({"month-report", "May"}), exit_status::ok);
+  EXPECT_THAT(err, HasSubstr("\"May\" is no month. Write it as in \"2024-05\"."));
+  EXPECT_NE(run({"month-report", "--json", "--html", "-"}), exit_status::ok);
+  EXPECT_NE(run({"month-report", "--csv", "nothing"}), exit_status::ok);
+}
+
 TEST_F(HistoryVerb, MetricsAreThoseOfEverySite) {
   folder.execute("update sites set status = 1, success = 5, failure = 2, active = 1 where idSite = 1");
   EXPECT_EQ(run({"metrics"}), exit_status::ok);

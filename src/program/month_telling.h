@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <set>
+#include <string>
+
+#include "delivery/delivery.h"
+#include "platform/clock.h"
+#include "platform/file_system.h"
+#include "store/month_reports.h"
+#include "store/site_history.h"
+#include "store/site_options.h"
+
+namespace tarnwick {
+
+/// Makes the report of each month that has ended, once, where the option `monthReport` wants it: as a file, and as a
+/// message by the channels that are on for all sites. A month of which nothing is known has none.
+class MonthTelling {
+ public:
+  MonthTelling(SiteHistory& history, Delivery& delivery, FileSystem& files, const Clock& clock)
+      : history_(history), delivery_(delivery), files_(files), clock_(clock), reports_(history.database()) {}
+
+  /// Makes what is owed; may be called at any time, and looks once a minute at most. A file that cannot be written
+  /// keeps back no message: then it raises FileError, with the remedy, once. Raises DataAccessError when it cannot be
+  /// kept that the report was made: then it is made later. REQUIRES: no transaction.
+  void tick(const OptionsInForce& options);
+
+ private:
+  void tell(Moment month);
+  void writeFile(Moment month, const std::string& page);
+
+  SiteHistory& history_;
+  Delivery& delivery_;
+  FileSystem& files_;
+  const Clock& clock_;
+  MonthReports reports_;
+  std::optional<std::chrono::milliseconds> looked_;
+  std::set<Moment> unknown_;
+};
+
+}  // namespace tarnwick
