@@ -18,12 +18,13 @@ constexpr std::size_t kMostInMessage = 10;
 
 }  // namespace
 
+bool MonthTelling::isDue() const { return !looked_ || clock_.steadyNow() - *looked_ >= kBetweenLooks; }
+
 void MonthTelling::tick(const OptionsInForce& options) {
-  if (options.valueOf(kAllSites, option_name::monthReport) != option_value::on ||
-      (looked_ && clock_.steadyNow() - *looked_ < kBetweenLooks)) {
+  looked_ = clock_.steadyNow();
+  if (options.valueOf(kAllSites, option_name::monthReport) != option_value::on) {
     return;
   }
-  looked_ = clock_.steadyNow();
   if (!reports_.hasBegun()) {
     reports_.begin();  // set by another tool
   }

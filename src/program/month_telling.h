@@ -22,7 +22,9 @@ class MonthTelling {
   MonthTelling(SiteHistory& history, Delivery& delivery, FileSystem& files, const Clock& clock)
       : history_(history), delivery_(delivery), files_(files), clock_(clock), reports_(history.database()) {}
 
-  /// Makes what is owed; may be called at any time, and looks once a minute at most. A file that cannot be written
+  /// Whether it is time to look, once a minute.
+  bool isDue() const;
+  /// Makes what is owed; may be called at any time. A file that cannot be written
   /// keeps back no message: then it raises FileError, with the remedy, once. Raises DataAccessError when it cannot be
   /// kept that the report was made: then it is made later. REQUIRES: no transaction.
   void tick(const OptionsInForce& options);

@@ -32,7 +32,8 @@ struct Program::Parts {
 
   Parts(const std::string& folder, const Services& services, RunView& view, FaultBox& faults, const Fields& fields)
       : data(folder, services, fields),
-        publication(data, services.files, services.clock),
+        publication(data, services.files, services.clock, services.timers,
+                    [&faults](const Handler& handler) { faults.runRepeated("for others", handler); }),
         monthTelling(data, data.delivery(), services.files, services.clock),
         pool(data, services.transfers, services.timers),
         run({.dueSites = data,
@@ -57,17 +58,19 @@ struct Program::Parts {
               passHasEnded = passHasEnded || name == "run";
               tellOthers(faults);
             }),
-        report(
-            {data, data, [this] { return run.running(); }, [&view](const std::string& text) { view.showStatus(text); }},
-            services.timers,
-            [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }) {}
+        report({data, data, services.clock, [this] { return run.running(); },
+                [&view](const std::string& text) { view.showStatus(text); }},
+               services.timers,
+               [&faults](const std::string& name, const Handler& handler) { faults.runRepeated(name, handler); }) {}
 
   // In the next moment in which nothing else goes on; what is told of passes after each of them.
   void tellOthers(FaultBox& faults) {
     if (run.busy() || !run.running()) {
       return;
     }
-    faults.runRepeated("month's report", [this] { monthTelling.tick(data.optionsInForce()); });
+    if (monthTelling.isDue()) {
+      faults.runRepeated("month's report", [this] { monthTelling.tick(data.optionsInForce()); });
+    }
     if (!passHasEnded) {
       return;
     }

@@ -81,18 +81,24 @@ std::string DailyReport::reportSummary() {
   return text;
 }
 
-std::string DailyReport::createReport() {
+std::string DailyReport::createReport() { return createReportInParts().whole(); }
+
+TextInParts DailyReport::createReportInParts() {
   const std::string text = reportSummary();
   const std::string folder = db_.programFolder() + "/reports/";
   requireReportsFolder(files_, folder);
-  std::string path = folder + "report.html";
+  const std::string path = folder + "report.html";
   files_.replace(path, [&](const ByteSink& sink) { sink(text + "\r\n"); });
   if (readOptions(db_).valueOf(kAllSites, option_name::history) == option_value::on) {
     SiteHistory history(db_);
-    const std::string page = historyPage(history, clock_.now());
-    files_.replace(folder + "history.html", [&](const ByteSink& sink) { sink(page); });
+    TextInParts page = historyPage(history, clock_.now());
+    while (page.goOn()) {
+      co_await letOthersGoOn;
+    }
+    const std::string whole = std::move(page).whole();
+    files_.replace(folder + "history.html", [&](const ByteSink& sink) { sink(whole); });
   }
-  return path;
+  co_return path;
 }
 
 }  // namespace tarnwick

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "base/text_in_parts.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "store/database.h"
@@ -25,6 +26,10 @@ class DailyReport {
   /// outcome today; FileError when the page cannot be written, and when the reports folder is there without any
   /// visible file in it. An earlier page is left as it was then.
   std::string createReport();
+
+  /// The same in parts, of which the first writes that page. The last one writes "reports/history.html" where the
+  /// history is kept. The text is the path.
+  TextInParts createReportInParts();
 
  private:
   std::string reportSummary();

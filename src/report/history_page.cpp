@@ -8,6 +8,7 @@
 
 #include "history/history_text.h"
 #include "report/page_parts.h"
+#include "report/shown_sites.h"
 #include "store/history_view.h"
 
 namespace tarnwick {
@@ -21,6 +22,8 @@ namespace {
 constexpr std::size_t kMonth = 2;
 
 constexpr std::size_t kMostStripes = 100;
+// So many are read together: some milliseconds.
+constexpr std::size_t kPiece = 10;
 constexpr std::size_t kMostOutages = 20;
 
 std::string nameOf(const Period& period) { return period.length == 1 ? "24 h" : std::to_string(period.length) + " d"; }
@@ -41,21 +44,7 @@ struct Ranked {
   }
 };
 
-/// The sums of more sites than have stripes, so that only those that turn out to be the worst are read as a whole.
-std::vector<Ranked> summed(SiteHistory& history, const std::vector<ShownSite>& sites, Moment now) {
-  std::map<std::int64_t, std::chrono::seconds> intervals;
-  for (const ShownSite& site : sites) {
-    intervals.emplace(site.idSite, site.interval);
-  }
-  auto sums = sumsOfPeriods(history, intervals, now);
-  std::vector<Ranked> ranked;
-  for (const ShownSite& site : sites) {
-    const auto known = sums.find(site.idSite);
-    ranked.push_back({&site, known == sums.end() ? PeriodSums(periods().size()) : std::move(known->second)});
-  }
-  return ranked;
-}
-
+/// Reads of some sites all that is known.
 void readViews(SiteHistory& history, std::span<Ranked> some, Moment now) {
   std::vector<std::int64_t> ids;
   for (const Ranked& ranked : some) {
@@ -67,21 +56,6 @@ void readViews(SiteHistory& history, std::span<Ranked> some, Moment now) {
     ranked.sums.clear();
     std::ranges::transform(ranked.views, std::back_inserter(ranked.sums), &PeriodView::whole);
   }
-}
-
-std::vector<Ranked> worstFirst(SiteHistory& history, const std::vector<ShownSite>& sites, Moment now) {
-  std::vector<Ranked> ranked;
-  if (sites.size() > kMostStripes) {
-    ranked = summed(history, sites, now);
-    std::ranges::sort(ranked, {}, &Ranked::rank);
-  } else {
-    std::ranges::transform(sites, std::back_inserter(ranked), [](const ShownSite& site) { return Ranked{&site, {}}; });
-  }
-  readViews(history, std::span(ranked).first(std::min(kMostStripes, ranked.size())), now);
-  if (sites.size() <= kMostStripes) {
-    std::ranges::sort(ranked, {}, &Ranked::rank);
-  }
-  return ranked;
 }
 
 std::string stateHtml(const ShownSite& site) {
@@ -150,18 +124,50 @@ std::string counted(std::size_t count, const char* one, const char* many) {
 
 }  // namespace
 
-std::string historyPage(SiteHistory& history, Moment now) {
-  const std::vector<ShownSite> sites = shownSites(history.database());
-  const std::vector<Ranked> ranked = worstFirst(history, sites, now);
+TextInParts historyPage(SiteHistory& history, Moment now) {
+  std::vector<ShownSite> sites;
+  while (readMoreSites(history.database(), sites)) {
+    co_await letOthersGoOn;
+  }
+  std::vector<Ranked> ranked;
+  std::ranges::transform(sites, std::back_inserter(ranked), [](const ShownSite& site) {
+    return Ranked{&site, PeriodSums(periods().size())};
+  });
+  // Of a short list all have stripes, and are read but once.
+  const bool isLong = sites.size() > kMostStripes;
+  if (isLong) {
+    auto own = ranked.begin();
+    for (const auto& piece : intervalsInPieces(sites)) {
+      co_await letOthersGoOn;
+      auto sums = sumsOfPeriods(history, piece, now);
+      for (std::size_t i = 0; i < piece.size(); ++i, ++own) {
+        if (const auto known = sums.find(own->site->idSite); known != sums.end()) {
+          own->sums = std::move(known->second);
+        }
+      }
+    }
+    std::ranges::sort(ranked, {}, &Ranked::rank);
+  }
+  const std::span<Ranked> withStripes = std::span(ranked).first(std::min(kMostStripes, ranked.size()));
+  for (std::size_t i = 0; i < withStripes.size(); i += kPiece) {
+    co_await letOthersGoOn;
+    readViews(history, withStripes.subspan(i, std::min(kPiece, withStripes.size() - i)), now);
+  }
+  if (!isLong) {
+    std::ranges::sort(ranked, {}, &Ranked::rank);
+  }
   const auto down = static_cast<std::size_t>(std::ranges::count_if(ranked, &Ranked::isDown));
   std::string body = "<h1>History</h1>\n<p class=\"dim\">" + minuteText(now) + ": " +
                      counted(sites.size(), "site", "sites") + ", " + std::to_string(down) +
                      " down, the worst first. Per cent are those of the time of which something is known.</p>\n";
   body += page_parts::legend();
-  for (std::size_t i = 0; i < std::min(kMostStripes, ranked.size()); ++i) {
+  for (std::size_t i = 0; i < withStripes.size(); ++i) {
+    if (i % kPiece == 0) {
+      co_await letOthersGoOn;
+    }
     body += siteHtml(history, ranked[i], now);
   }
-  if (ranked.size() > kMostStripes) {
+  if (isLong) {
     body +=
         "<section><h2>The others</h2>\n<div class=\"scroll\"><table><tr><th>Address</th><th class=\"number wide\">24 "
         "h</th><th class=\"number\">7 d</th><th class=\"number\">30 d</th><th class=\"number wide\">90 d</th><th "
@@ -171,7 +177,7 @@ std::string historyPage(SiteHistory& history, Moment now) {
     }
     body += "</table></div></section>\n";
   }
-  return page_parts::page("History", body);
+  co_return page_parts::page("History", body);
 }
 
 }  // namespace tarnwick

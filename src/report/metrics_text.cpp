@@ -83,20 +83,29 @@ std::string numberText(double value) {
 
 }  // namespace
 
-std::string metricsText(SiteHistory& history) {
+TextInParts metricsText(SiteHistory& history) {
+  constexpr std::size_t kPiece = 1000;
   std::string text;
-  const std::vector<ShownSite> sites = shownSites(history.database());
+  std::vector<ShownSite> sites;
+  while (readMoreSites(history.database(), sites)) {
+    co_await letOthersGoOn;
+  }
+  co_await letOthersGoOn;
   for (const Family& family : families(history)) {
     text +=
         std::string("# HELP ") + family.name + " " + family.help + "\n# TYPE " + family.name + " " + family.type + "\n";
-    for (const ShownSite& site : sites) {
+    for (std::size_t i = 0; i < sites.size(); ++i) {
+      if (i % kPiece == 0) {
+        co_await letOthersGoOn;
+      }
+      const ShownSite& site = sites[i];
       family.figures(site, [&](const std::string& label, double value) {
         text += std::string(family.name) + "{id=\"" + std::to_string(site.idSite) + "\",url=\"" +
                 labelText(site.address) + "\"" + (label.empty() ? "" : "," + label) + "} " + numberText(value) + "\n";
       });
     }
   }
-  return text;
+  co_return text;
 }
 
 }  // namespace tarnwick

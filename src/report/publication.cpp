@@ -2,6 +2,7 @@
 #include "report/publication.h"
 
 #include <exception>
+#include <utility>
 
 #include "base/errors.h"
 #include "report/metrics_text.h"
@@ -13,22 +14,28 @@ namespace {
 
 constexpr int kShareOfTheTime = 100;
 
+std::string placeOf(SiteHistory& history, const std::string& path) {
+  return pathOf(path).is_absolute() ? path : history.database().programFolder() + "/" + path;
+}
+
+void replaceBy(FileSystem& files, const std::string& path, const std::string& text) {
+  files.replace(path, [&](const ByteSink& sink) { sink(text); });
+}
+
+/// The path of the page in that folder, which is made when it is missing.
+std::string pageIn(SiteHistory& history, FileSystem& files, const std::string& folder) {
+  const std::string place = placeOf(history, folder);
+  if (files.kindOf(place) != FileKind::folder) {
+    files.makeFolder(place);
+  }
+  return place + "/index.html";
+}
+
 }  // namespace
 
-std::string Publication::placeOf(const std::string& path) const {
-  return pathOf(path).is_absolute() ? path : history_.database().programFolder() + "/" + path;
-}
-
-std::string Publication::writeStatusPage(const std::string& folder) {
-  const std::string place = placeOf(folder);
-  if (files_.kindOf(place) != FileKind::folder) {
-    files_.makeFolder(place);
-  }
-  std::string path = place + "/index.html";
-  const std::string page = statusPage(history_, clock_.now());
-  files_.replace(path, [&](const ByteSink& sink) { sink(page); });
-  return path;
-}
+Publication::Publication(SiteHistory& history, FileSystem& files, const Clock& clock, TimerMaker& timers,
+                         PartedWork::Guard guard)
+    : history_(history), files_(files), clock_(clock), work_(timers, clock, std::move(guard)) {}
 
 bool Publication::write(const OptionsInForce& options) {
   const auto folder = options.valueOf(kAllSites, option_name::statusPage);
@@ -36,28 +43,45 @@ bool Publication::write(const OptionsInForce& options) {
   if (!folder && !figures) {
     return true;
   }
-  const std::chrono::milliseconds begin = clock_.steadyNow();
-  if (notBefore_ && begin < *notBefore_) {
+  if (work_.isOn() || (notBefore_ && clock_.steadyNow() < *notBefore_)) {
     return false;
   }
+  work_.begin(all(folder, figures), [](const std::string&) {});
+  return true;
+}
+
+TextInParts Publication::all(std::optional<std::string> folder, std::optional<std::string> figures) {
   std::exception_ptr fault;
-  try {
-    if (figures) {
-      const std::string text = metricsText(history_);
-      files_.replace(placeOf(*figures), [&](const ByteSink& sink) { sink(text); });
+  if (figures) {
+    TextInParts text = metricsText(history_);
+    while (text.goOn()) {
+      co_await letOthersGoOn;
     }
-  } catch (const FileError&) {
-    fault = std::current_exception();
+    try {
+      replaceBy(files_, placeOf(history_, *figures), std::move(text).whole());
+    } catch (const FileError&) {
+      fault = std::current_exception();
+    }
   }
   if (folder) {
-    writeStatusPage(*folder);
+    const std::string path = pageIn(history_, files_, *folder);
+    TextInParts page = statusPage(history_, clock_.now());
+    while (page.goOn()) {
+      co_await letOthersGoOn;
+    }
+    replaceBy(files_, path, std::move(page).whole());
   }
-  const std::chrono::milliseconds end = clock_.steadyNow();
-  notBefore_ = end + (end - begin) * kShareOfTheTime;
+  notBefore_ = clock_.steadyNow() + work_.spent() * kShareOfTheTime;
   if (fault) {
     std::rethrow_exception(fault);
   }
-  return true;
+  co_return {};
+}
+
+std::string writeStatusPage(SiteHistory& history, FileSystem& files, const Clock& clock, const std::string& folder) {
+  std::string path = pageIn(history, files, folder);
+  replaceBy(files, path, statusPage(history, clock.now()).whole());
+  return path;
 }
 
 }  // namespace tarnwick

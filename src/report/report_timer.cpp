@@ -12,10 +12,13 @@ constexpr std::chrono::milliseconds kReportInterval{60000};
 }  // namespace
 
 ReportTimer::ReportTimer(Needs needs, TimerMaker& timers, Guard guard)
-    : needs_(std::move(needs)), guard_(std::move(guard)), tmrReport_(timers.makeTimer([this] {
+    : needs_(std::move(needs)),
+      guard_(std::move(guard)),
+      tmrReport_(timers.makeTimer([this] {
         // A tick that only counts says nothing about whether reports can be written, so it goes by another name.
         guard_(reportDue() ? "report" : "report minutes", [this] { tmrReport_Timer(); });
-      })) {}
+      })),
+      rest_(timers, needs_.clock, [this](const std::function<void()>& action) { guard_("report", action); }) {}
 
 void ReportTimer::prepare() {
   reportTick_ = 60;
@@ -37,7 +40,7 @@ void ReportTimer::tmrReport_Timer() {
   reportTick_ = 1;
   if (needs_.settings.getControl("cReports").toBool()) {
     needs_.showStatus("Creating Report ...");
-    needs_.report.createReport();
+    rest_.begin(needs_.report.createReportInParts(), [](const std::string&) {});
     needs_.showStatus("Report Done ...");
   }
 }

@@ -8,6 +8,7 @@
 
 #include "platform/timer.h"
 #include "report/daily_report.h"
+#include "report/parted_work.h"
 #include "store/settings_and_log.h"
 
 namespace tarnwick {
@@ -19,6 +20,7 @@ class ReportTimer {
   struct Needs {
     SettingsAndLog& settings;
     DailyReport& report;
+    const Clock& clock;
     /// Whether a run is on.
     std::function<bool()> running;
     /// Shows a text on the status line at once.
@@ -35,7 +37,8 @@ class ReportTimer {
   void prepare();
 
   /// One tick. Raises what the reading of the setting and `DailyReport::createReport` raise; the next report is then
-  /// due 59 running minutes later all the same.
+  /// due 59 running minutes later all the same. Where there is much to tell of the history, that follows between the
+  /// events.
   void tmrReport_Timer();
   Timer& tmrReport() { return *tmrReport_; }
 
@@ -46,6 +49,7 @@ class ReportTimer {
   Needs needs_;
   Guard guard_;
   std::unique_ptr<Timer> tmrReport_;
+  PartedWork rest_;
   std::int16_t reportTick_ = 60;
   std::int16_t reportEvery_ = 60;
 };

@@ -9,10 +9,21 @@
 namespace tarnwick {
 
 std::vector<ShownSite> shownSites(Database& database) {
-  constexpr std::int64_t kLongestInterval = 32767;
   std::vector<ShownSite> sites;
+  while (readMoreSites(database, sites)) {
+  }
+  return sites;
+}
+
+bool readMoreSites(Database& database, std::vector<ShownSite>& sites) {
+  constexpr std::int64_t kLongestInterval = 32767;
+  constexpr std::size_t kPiece = 2000;
+  const SqlValue last(sites.empty() ? std::int64_t{0} : sites.back().idSite);
+  const std::size_t before = sites.size();
   const auto rows = database.conn().execute(
-      "select idSite, url, tInterval, active, status, success, failure from sites order by idSite", {});
+      "select idSite, url, tInterval, active, status, success, failure from sites where idSite > ?1 order by idSite "
+      "limit 2000",
+      {&last, 1});
   for (; !rows->eof(); rows->moveNext()) {
     const SqlValue status = rows->field(std::size_t{4});
     sites.push_back({.idSite = rows->field(std::size_t{0}).toInt64(),
@@ -25,7 +36,19 @@ std::vector<ShownSite> shownSites(Database& database) {
                      .failure = rows->field(std::size_t{6}).toInt64()});
   }
   rows->close();
-  return sites;
+  return sites.size() == before + kPiece;
+}
+
+std::vector<std::map<std::int64_t, std::chrono::seconds>> intervalsInPieces(const std::vector<ShownSite>& sites) {
+  constexpr std::size_t kPiece = 50;
+  std::vector<std::map<std::int64_t, std::chrono::seconds>> pieces;
+  for (const ShownSite& site : sites) {
+    if (pieces.empty() || pieces.back().size() == kPiece) {
+      pieces.emplace_back();
+    }
+    pieces.back().emplace(site.idSite, site.interval);
+  }
+  return pieces;
 }
 
 std::string publicAddress(const std::string& address) { return address.substr(0, address.find_first_of("?#")); }

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,6 +25,11 @@ struct ShownSite {
 
 /// All sites by rising id. Raises DataAccessError.
 std::vector<ShownSite> shownSites(Database& database);
+/// Appends the next of them, some milliseconds' worth; false when there are no more. Raises DataAccessError.
+bool readMoreSites(Database& database, std::vector<ShownSite>& sites);
+
+/// How often the sites are checked, by their ids: so many in each piece that their sums take some milliseconds.
+std::vector<std::map<std::int64_t, std::chrono::seconds>> intervalsInPieces(const std::vector<ShownSite>& sites);
 
 /// The address without what stands behind "?" or "#": there may be what is not for everybody.
 std::string publicAddress(const std::string& address);

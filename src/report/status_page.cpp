@@ -18,6 +18,8 @@ namespace {
 
 constexpr std::size_t kMost = 1000;
 constexpr std::size_t kMostStripes = 100;
+// So many are read together: some milliseconds.
+constexpr std::size_t kPiece = 20;
 // Among the periods.
 constexpr std::size_t kMonth = 2;
 
@@ -71,14 +73,17 @@ std::string lineHtml(const Line& line, const std::string& stripe, const std::vec
 
 }  // namespace
 
-std::string statusPage(SiteHistory& history, Moment now) {
-  const std::vector<ShownSite> sites = shownSites(history.database());
-  const std::map<std::int64_t, LatestCheck> latest = history.latestChecks();
-  std::map<std::int64_t, std::chrono::seconds> intervals;
-  for (const ShownSite& site : sites) {
-    intervals.emplace(site.idSite, site.interval);
+TextInParts statusPage(SiteHistory& history, Moment now) {
+  std::vector<ShownSite> sites;
+  while (readMoreSites(history.database(), sites)) {
+    co_await letOthersGoOn;
   }
-  const auto sums = sumsOfPeriods(history, intervals, now);
+  const std::map<std::int64_t, LatestCheck> latest = history.latestChecks();
+  std::map<std::int64_t, PeriodSums> sums;
+  for (const auto& piece : intervalsInPieces(sites)) {
+    co_await letOthersGoOn;
+    sums.merge(sumsOfPeriods(history, piece, now));
+  }
   std::vector<Line> lines;
   for (const ShownSite& site : sites) {
     const auto known = sums.find(site.idSite);
@@ -97,6 +102,9 @@ std::string statusPage(SiteHistory& history, Moment now) {
   }
   std::string body = bannerHtml(lines) + "<p class=\"dim\">" + minuteText(now) + "</p></div>\n";
   for (std::size_t i = 0; i < std::min(kMost, lines.size()); ++i) {
+    if (i % kPiece == 0) {
+      co_await letOthersGoOn;
+    }
     const ShownSite& site = *lines[i].site;
     const std::vector<Outage>& own = outages[site.idSite];
     const bool hasStripe = i < kMostStripes && latest.contains(site.idSite);
@@ -112,7 +120,7 @@ std::string statusPage(SiteHistory& history, Moment now) {
         "<p class=\"dim\">The stripes are the last 30 days, and per cent are those of the time that is known.</p>\n" +
         page_parts::legend();
   }
-  return page_parts::page("Status", body);
+  co_return page_parts::page("Status", body);
 }
 
 }  // namespace tarnwick

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
+#include "base/text_in_parts.h"
 #include "store/site_history.h"
 
 namespace tarnwick {
@@ -11,6 +10,6 @@ namespace tarnwick {
 /// without causes and without what an address may hold that is not for everybody; at most a thousand, those that are
 /// down first, then those that were up the least. A site whose latest check says nothing any more is unknown. Raises
 /// DataAccessError.
-std::string statusPage(SiteHistory& history, Moment now);
+TextInParts statusPage(SiteHistory& history, Moment now);
 
 }  // namespace tarnwick

@@ -63,7 +63,9 @@ Stretch timeWithoutSum(const LatestCheck& latest, const std::vector<KeptSum>& da
 /// The sums of many sites, being put together.
 class ManySums {
  public:
-  ManySums(SiteHistory& history, Moment now) : db_(history.database()), now_(now) {
+  /// Of the sites whose ids are from `first` to `last`.
+  ManySums(SiteHistory& history, std::int64_t first, std::int64_t last, Moment now)
+      : db_(history.database()), first_(first), last_(last), now_(now) {
     for (const Period& period : periods()) {
       beginnings_.push_back(edgesOf(period, now).front());
     }
@@ -117,7 +119,8 @@ class ManySums {
     if (time.from >= time.until) {
       return;
     }
-    const std::array<SqlValue, 2> key{history_rows::of(time.from), history_rows::of(time.until)};
+    const std::array<SqlValue, 4> key{history_rows::of(time.from), history_rows::of(time.until), SqlValue(first_),
+                                      SqlValue(last_)};
     const auto rows = db_.conn().execute(sql, key);
     for (; !rows->eof(); rows->moveNext()) {
       if (const auto own = sums_.find(rows->field(std::size_t{0}).toInt64()); own != sums_.end()) {
@@ -127,6 +130,8 @@ class ManySums {
   }
 
   Database& db_;
+  std::int64_t first_;
+  std::int64_t last_;
   Moment now_;
   std::vector<Moment> beginnings_;
   std::map<std::int64_t, PeriodSums> sums_;
@@ -140,16 +145,17 @@ std::string figuresOf(const std::string& seconds) {
 /// For each site the sum of the rows whose beginning is in a time: site by site where the table is ordered so.
 std::string sumOf(const std::string& table, const std::string& beginning, const std::string& sites = "") {
   return figuresOf("t.seconds") + " from latestChecks s cross join " + table + " t on t.idSite = s.idSite and t." +
-         beginning + " >= ?1 and t." + beginning + " < ?2 " + sites + "group by s.idSite";
+         beginning + " >= ?1 and t." + beginning + " < ?2 where s.idSite >= ?3 and s.idSite <= ?4 " + sites +
+         "group by s.idSite";
 }
 
 /// That the latest check of the site is in the time, which so has no sum yet.
-constexpr const char* kEndsThere = "where s.at >= ?1 and s.at < ?2 ";
+constexpr const char* kEndsThere = "and s.at >= ?1 and s.at < ?2 ";
 
 /// The hours in the time of the sites of which that holds.
 constexpr const char* kHoursThatEndThere =
-    " from latestChecks s cross join slot cross join hours t on t.hour = slot.hour and t.idSite = s.idSite where s.at "
-    ">= ?1 and s.at < ?2 and slot.hour < ?2";
+    " from latestChecks s cross join slot cross join hours t on t.hour = slot.hour and t.idSite = s.idSite where "
+    "s.idSite >= ?3 and s.idSite <= ?4 and s.at >= ?1 and s.at < ?2 and slot.hour < ?2";
 constexpr const char* kSlots =
     "with recursive slot (hour) as materialized (select min(hour) from hours where hour >= ?1 union all select (select "
     "min(hour) from hours where hour > slot.hour) from slot where slot.hour < ?2) ";
@@ -276,10 +282,15 @@ std::map<std::int64_t, CheckTimings> latestTimings(SiteHistory& history) {
 // smaller parts, for all sites together whose latest checks are of the same day, or month.
 std::map<std::int64_t, PeriodSums> sumsOfPeriods(SiteHistory& history, const std::map<std::int64_t, seconds>& intervals,
                                                  Moment now) {
-  ManySums sums(history, now);
+  if (intervals.empty()) {
+    return {};
+  }
+  const std::int64_t first = intervals.begin()->first;
+  const std::int64_t lastSite = intervals.rbegin()->first;
+  ManySums sums(history, first, lastSite, now);
   std::set<Moment> lastDays;
   std::set<Moment> lastMonths;
-  for (const auto& [id, latest] : history.latestChecks()) {
+  for (const auto& [id, latest] : history.latestChecks(first, lastSite)) {
     if (const auto interval = intervals.find(id); interval != intervals.end()) {
       sums.addTail(id, latest, interval->second);
       lastDays.insert(dayOf(latest.at));
@@ -293,8 +304,10 @@ std::map<std::int64_t, PeriodSums> sumsOfPeriods(SiteHistory& history, const std
   const std::string days = sumOf("days", "day");
   const std::string months = sumOf("months", "month");
   sums.addRows(
-      "select idSite, sum(up), sum(3600 - up - unknown), sum(checks), sum(msSum), max(msMax) from hours where hour >= "
-      "?1 and hour < ?2 group by idSite",
+      kSlots +
+          std::string("select t.idSite, sum(t.up), sum(3600 - t.up - t.unknown), sum(t.checks), sum(t.msSum), "
+                      "max(t.msMax) from slot cross join hours t on t.hour = slot.hour and t.idSite >= ?3 and t.idSite "
+                      "<= ?4 where slot.hour < ?2 group by t.idSite"),
       {sums.beginning(0), now}, 0, 0);
   for (std::size_t period = kWeek; period <= last; ++period) {
     const Moment from = sums.beginning(period);
@@ -322,7 +335,7 @@ std::map<std::int64_t, PeriodSums> sumsOfPeriods(SiteHistory& history, const std
   }
   sums.addLatency(
       "select s.idSite, d.buckets from latestChecks s cross join days d on d.idSite = s.idSite and d.day >= ?1 and "
-      "d.day < ?2",
+      "d.day < ?2 where s.idSite >= ?3 and s.idSite <= ?4",
       {sums.beginning(kWeek), now});
   return std::move(sums).taken();
 }

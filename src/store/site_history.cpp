@@ -220,14 +220,14 @@ std::optional<LatestCheck> SiteHistory::latestCheck(std::int64_t idSite) {
   return latestIn(*rows);
 }
 
-std::map<std::int64_t, LatestCheck> SiteHistory::latestChecks() {
+std::map<std::int64_t, LatestCheck> SiteHistory::latestChecks(std::int64_t first, std::int64_t last) {
   std::map<std::int64_t, LatestCheck> checks;
   if (!hasTables()) {
     return checks;
   }
-  const SqlValue noSite(kLogRead);
-  const auto rows =
-      db_.conn().execute("select at, up, until, idSite from latestChecks where idSite <> ?1", {&noSite, 1});
+  const std::array<SqlValue, 3> key{SqlValue(kLogRead), SqlValue(first), SqlValue(last)};
+  const auto rows = db_.conn().execute(
+      "select at, up, until, idSite from latestChecks where idSite <> ?1 and idSite >= ?2 and idSite <= ?3", key);
   for (; !rows->eof(); rows->moveNext()) {
     if (const auto latest = latestIn(*rows)) {
       checks.emplace(rows->field(std::size_t{3}).toInt64(), *latest);

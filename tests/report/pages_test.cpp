@@ -3,12 +3,14 @@
 #include <gmock/gmock.h>
 
 #include "base/errors.h"
+#include "history/history_text.h"
 #include "report/history_page.h"
 #include "report/publication.h"
 #include "store/site_history.h"
 #include "store/site_records.h"
 #include "support/data_fixture.h"
 #include "support/file_bytes.h"
+#include "support/hand_timers.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -46,11 +48,12 @@ class PagesTest : public DataFixture {
   SiteHistory history{database};
   SiteRecords sites{database};
   LocalFiles files;
-  Publication publication{history, files, clock};
+  HandTimers timers{clock};
+  Publication publication{history, files, clock, timers, [](const std::function<void()>& action) { action(); }};
 };
 
 TEST_F(PagesTest, TheHistoryHasTheWorstFirstWithStripesTimesAndCauses) {
-  const std::string page = historyPage(history, clock.now());
+  const std::string page = historyPage(history, clock.now()).whole();
   EXPECT_LT(page.find("bad.example"), page.find("good.example"));
   EXPECT_THAT(page, HasSubstr("http://bad.example/&lt;b&gt;"));
   EXPECT_THAT(page, HasSubstr("the &quot;cause&quot; of it"));
@@ -63,6 +66,35 @@ TEST_F(PagesTest, TheHistoryHasTheWorstFirstWithStripesTimesAndCauses) {
   EXPECT_THAT(page, HasSubstr("prefers-color-scheme"));
 }
 
+// So many that they are read piece by piece, and not all have stripes.
+TEST_F(PagesTest, OfALongListTheWorstHaveStripesAndTheOthersTheirPercentages) {
+  const Moment now = clock.now();
+  for (std::int16_t id = 3; id <= 130; ++id) {
+    folder.execute("insert into siteRows (idSite, url, active, status, tInterval) values (" + std::to_string(id) +
+                   ", 'http://s" + std::to_string(id) + ".example/', 1, 1, 10)");
+  }
+  Transaction whole(database);
+  for (std::int16_t id = 3; id <= 130; ++id) {
+    // Down at first, the longer the greater its id.
+    for (Moment at = now - minutes(130); at <= now; at += minutes{1}) {
+      history.take(id,
+                   {.check = {at, at >= now - minutes(130 - id), "cause", milliseconds(id)}, .interval = minutes(10)});
+    }
+  }
+  whole.commit();
+  const std::string page = historyPage(history, now).whole();
+  const std::string others = page.substr(page.find("<h2>The others</h2>"));
+  EXPECT_THAT(page, HasSubstr("130 sites, 1 down, the worst first"));
+  EXPECT_LT(page.find("http://bad.example/"), page.find("http://s130.example/"));
+  EXPECT_LT(page.find("http://s130.example/"), page.find("http://s129.example/"));
+  EXPECT_THAT(others, HasSubstr("http://s13.example/"));
+  EXPECT_THAT(others, Not(HasSubstr("http://s100.example/")));
+  for (const int id : {5, 27}) {
+    const std::string line = others.substr(others.find("http://s" + std::to_string(id) + ".example/"));
+    EXPECT_THAT(line.substr(0, line.find("</tr>")), HasSubstr(uptimeText((130.0 - id) * 100 / 130))) << id;
+  }
+}
+
 TEST_F(PagesTest, TheStatusPageTellsNothingThatIsNotForEverybody) {
   EXPECT_TRUE(publication.write(set({{"statusPage", "public"}})));
   const std::string page = bytesOfFile(place("public/index.html"));
@@ -73,13 +105,13 @@ TEST_F(PagesTest, TheStatusPageTellsNothingThatIsNotForEverybody) {
     EXPECT_THAT(page, Not(HasSubstr(secret)));
   }
   folder.execute("update sites set active = 0 where idSite = 2");
-  publication.writeStatusPage("public");
+  writeStatusPage(history, files, clock, "public");
   EXPECT_THAT(bytesOfFile(place("public/index.html")), HasSubstr("It is up"));
 }
 
 TEST_F(PagesTest, WhatNobodyHasLookedAtForLongIsUnknown) {
   clock.advance(hours{2});
-  publication.writeStatusPage("public");
+  writeStatusPage(history, files, clock, "public");
   EXPECT_THAT(bytesOfFile(place("public/index.html")), HasSubstr("2 of 2 are unknown"));
 }
 

@@ -46,10 +46,10 @@ class ReportTimerTest : public ReportFixture {
   std::vector<std::string> statuses;
   SettingsAndLog settings{database};
   HandTimers timers{clock};
-  ReportTimer timer{
-      {settings, report, [this] { return running; }, [this](const std::string& text) { statuses.push_back(text); }},
-      timers,
-      [](const std::string&, const std::function<void()>& action) { action(); }};
+  ReportTimer timer{{settings, report, clock, [this] { return running; },
+                     [this](const std::string& text) { statuses.push_back(text); }},
+                    timers,
+                    [](const std::string&, const std::function<void()>& action) { action(); }};
 };
 
 TEST_F(ReportTimerTest, FirstRunningMinuteMakesAReportAndThenEveryFiftyNinth) {

@@ -13,7 +13,7 @@ namespace {
 int metrics(Tool& tool, const std::optional<std::string>& path) {
   m& data = tool.data();
   const Snapshot snapshot(data.database());
-  const std::string text = metricsText(data);
+  const std::string text = metricsText(data).whole();
   if (path) {
     tool.services().files.replace(*path, [&](const ByteSink& sink) { sink(text); });
   } else {
@@ -25,9 +25,8 @@ int metrics(Tool& tool, const std::optional<std::string>& path) {
 int page(Tool& tool, const std::string& folder) {
   m& data = tool.data();
   const Snapshot snapshot(data.database());
-  Publication publication(data, tool.services().files, tool.services().clock);
   const std::string place = std::filesystem::absolute(pathOf(folder)).generic_string();
-  tool.console().say(tool.console().shown(publication.writeStatusPage(place)));
+  tool.console().say(tool.console().shown(writeStatusPage(data, tool.services().files, tool.services().clock, place)));
   return exit_status::ok;
 }
 
