@@ -125,7 +125,7 @@ ReportTable certificatesTable(const MonthReport& report) {
   return table;
 }
 
-std::string padded(std::string text, std::size_t width, bool isRight) {
+std::string padded(const std::string& text, std::size_t width, bool isRight) {
   const std::string blanks(width - std::min(width, text.size()), ' ');
   return isRight ? blanks + text : text + blanks;
 }
