@@ -7,6 +7,7 @@
 
 #include "report/shown_sites.h"
 #include "store/history_view.h"
+#include "store/site_certificates.h"
 
 namespace tarnwick {
 namespace {
@@ -71,6 +72,14 @@ std::vector<Family> families(SiteHistory& history) {
          part("tls", found->second.tls);
          part("first_byte", found->second.firstByte);
          part("whole", found->second.whole);
+       }},
+      {"tarnwick_site_certificate_expiry_timestamp_seconds", "gauge",
+       "When the certificate ends; the days that are left are (this - time()) / 86400.",
+       [known = SiteCertificates(history.database()).certificates(readOptions(history.database()))](
+           const ShownSite& site, const Tell& tell) {
+         if (const auto own = known.find(site.idSite); own != known.end()) {
+           tell("", static_cast<double>(own->second.ends.time_since_epoch().count()));
+         }
        }},
   };
 }

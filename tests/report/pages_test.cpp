@@ -5,7 +5,9 @@
 #include "base/errors.h"
 #include "history/history_text.h"
 #include "report/history_page.h"
+#include "report/metrics_text.h"
 #include "report/publication.h"
+#include "store/site_certificates.h"
 #include "store/site_history.h"
 #include "store/site_records.h"
 #include "support/data_fixture.h"
@@ -121,6 +123,18 @@ TEST_F(PagesTest, FiguresHoldNoCredentials) {
   EXPECT_THAT(text, HasSubstr("tarnwick_site_up{id=\"2\",url=\"http://bad.example/<b>\"} 0\n"));
   EXPECT_THAT(text, HasSubstr("url=\"https://good.example/a?token=xyz#top\",result=\"passed\"} 7\n"));
   EXPECT_THAT(text, Not(HasSubstr("secret")));
+}
+
+TEST_F(PagesTest, FiguresTellWhenTheCertificatesEndThatAreLookedAt) {
+  const Moment end = clock.now() + days{9};
+  SiteCertificates(database).storeCertificate(1, {clock.now() - days{9}, end, "An Authority", {}});
+  EXPECT_THAT(metricsText(history), Not(HasSubstr("certificate_expiry_timestamp_seconds{")));
+  folder.execute("insert or replace into siteOptions values (0, 'certificate', '21')");
+  const std::string text = metricsText(history);
+  EXPECT_THAT(text, HasSubstr("# TYPE tarnwick_site_certificate_expiry_timestamp_seconds gauge\n"
+                              "tarnwick_site_certificate_expiry_timestamp_seconds{id=\"1\",url=\"https://good.example/"
+                              "a?token=xyz#top\"} " +
+                              std::to_string(end.time_since_epoch().count()) + "\n"));
 }
 
 TEST_F(PagesTest, WithoutAWishNothingIsReadOrWritten) {
