@@ -8919,6 +8919,22 @@ Do You Want To Discard Them And Close %2?</source>
         <source>A run</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>For others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Figures for Prometheus</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::OutageList</name>

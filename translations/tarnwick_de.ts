@@ -8922,6 +8922,22 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <source>A run</source>
         <translation>Ein Lauf</translation>
     </message>
+    <message>
+        <source>For others</source>
+        <translation>Für andere</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>Choose: %1</source>
+        <translation>Wählen: %1</translation>
+    </message>
+    <message>
+        <source>Figures for Prometheus</source>
+        <translation>Zahlen für Prometheus</translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::OutageList</name>

@@ -37,6 +37,8 @@ struct FileChoice {
   /// It is to be written: any name is taken, also that of a file that is there; whether it is to be replaced is asked
   /// by who writes it.
   bool isNew = false;
+  /// A folder instead; the filter says nothing then.
+  bool isFolder = false;
 };
 
 /// Every box that waits for the user goes through here, so that a test can queue the answer and see the question.

@@ -157,11 +157,12 @@ void MessageBoxPrompts::chooseFile(const FileChoice& choice, std::function<void(
   QWidget* owner = standingOwner(choice.owner);
   auto* dialog =
       new QFileDialog(owner != nullptr ? owner : mainWindow(), QString(), QString::fromStdString(choice.folder));
-  dialog->setNameFilters(nameFilters(choice.filter));
-  if (choice.isNew) {
-    letNameNewFile(*dialog);
+  if (choice.isFolder) {
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
   } else {
-    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters(nameFilters(choice.filter));
+    choice.isNew ? letNameNewFile(*dialog) : dialog->setFileMode(QFileDialog::ExistingFile);
   }
   // The dialog's own list goes before what is added to the dialog later.
   dialog->setIconProvider(new KindsByName(dialog));

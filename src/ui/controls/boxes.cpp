@@ -3,6 +3,7 @@
 
 #include <utility>
 #include <QApplication>
+#include <QDir>
 #include <QPointer>
 #include <QWindow>
 
@@ -24,6 +25,23 @@ void ask(QWidget& form, Program& program, Message question, std::function<void(b
       question, [standing = QPointer<QWidget>(&form), &program, answered = std::move(answered)](bool yes) {
         if (standing != nullptr && standing->isVisible()) {
           program.faults().run([&] { answered(yes); });
+        }
+      });
+}
+
+void putFile(Program& program, const std::string& file, const std::function<void()>& put) {
+  if (!program.services().files.exists(file)) {
+    put();
+    return;
+  }
+  const QString shown = QDir::toNativeSeparators(QString::fromStdString(file));
+  program.services().prompts.confirm(
+      {.text = QObject::tr("Do You Want To Replace The File %1?").arg(shown).toStdString(),
+       .icon = PromptIcon::question,
+       .destroys = true},
+      [&program, put](bool yes) {
+        if (yes) {
+          program.faults().run(put);
         }
       });
 }

@@ -16,6 +16,10 @@ void tell(QWidget& form, Program& program, const std::string& text, std::functio
 /// Asks in the same way. `question` needs no owner and no icon.
 void ask(QWidget& form, Program& program, Message question, std::function<void(bool yes)> answered);
 
+/// Has the file written by `put`, a copy of which may outlive the caller; one that is there only when the user wants it
+/// replaced. Its failure ends in a box then.
+void putFile(Program& program, const std::string& file, const std::function<void()>& put);
+
 /// The box, file chooser or dialog that `form` waits for; null when there is none.
 QDialog* dialogBefore(const QWidget& form);
 

@@ -6,8 +6,12 @@
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPointer>
+#include <QPushButton>
 #include <QScrollBar>
 
+#include "store/options_for_others.h"
+#include "ui/controls/byte_line_edit.h"
 #include "ui/controls/dialog_parts.h"
 #include "ui/controls/display_text.h"
 
@@ -25,6 +29,11 @@ QString translated(const std::string& text) { return QObject::tr(text.c_str()); 
 bool hasPlaceElsewhere(std::string_view option) {
   constexpr std::array kBesideChannels{option_name::allIsWell, option_name::testAlert, option_name::heartbeat};
   return AlarmSection::hasPlaceFor(option) || std::ranges::find(kBesideChannels, option) != kBesideChannels.end();
+}
+
+bool isForOthers(std::string_view option) {
+  constexpr std::array kForOthers{option_name::monthReport, option_name::statusPage, option_name::metricsFile};
+  return std::ranges::find(kForOthers, option) != kForOthers.end();
 }
 
 }  // namespace
@@ -113,6 +122,7 @@ void OptionForm::makeRows() {
     all->addWidget(alarm_);
   }
   QGridLayout* network = nullptr;
+  QGridLayout* forOthers = nullptr;
   QGridLayout* others = nullptr;
   for (const OptionField& option : program_.data().optionFields()) {
     if ((!ofAll && !option.ofSite) || (alarm_ != nullptr && hasPlaceElsewhere(option.name))) {
@@ -120,9 +130,11 @@ void OptionForm::makeRows() {
     }
     const bool ofNetwork =
         alarm_ != nullptr && (option.name == option_name::ownNetwork || option.name == option_name::witnesses);
-    QGridLayout*& lines = ofNetwork ? network : others;
+    const bool areForOthers = alarm_ != nullptr && isForOthers(option.name);
+    QGridLayout*& lines = ofNetwork ? network : areForOthers ? forOthers : others;
     if (lines == nullptr) {
       lines = addGroup(*all, ofNetwork           ? tr("This machine's own network")
+                             : areForOthers      ? tr("For others")
                              : alarm_ != nullptr ? tr("A run")
                                                  : QString());
     }
@@ -162,11 +174,37 @@ void OptionForm::addRow(const OptionField& option, QGridLayout& lines) {
   const int line = lines.rowCount();
   lines.addWidget(control, line, 1);
   lines.addWidget(addLabel(label, *control), line, 0);
-  lines.addWidget(new QLabel(translated(option.unit)), line, 2);
+  if (option.name == option_name::statusPage || option.name == option_name::metricsFile) {
+    addChooser(option, *control, lines, line);
+  } else {
+    lines.addWidget(new QLabel(translated(option.unit)), line, 2);
+  }
   auto* explained = new QLabel(hint);
   explained->setWordWrap(true);
   lines.addWidget(explained, line + 1, 1, 1, 2);
   lines.setRowMinimumHeight(line + 2, kGap);
+}
+
+void OptionForm::addChooser(const OptionField& option, QWidget& control, QGridLayout& lines, int line) {
+  auto* text = qobject_cast<ByteLineEdit*>(&control);
+  auto* button = addButton(*this, ("browse_" + option.name).c_str(), tr("Choose…"));
+  button->setAccessibleName(tr("Choose: %1").arg(translated(option.label)));
+  lines.addWidget(button, line, 2, Qt::AlignLeft);
+  const bool isFolder = option.name == option_name::statusPage;
+  onClick(*button, program_.faults(), [this, isFolder, box = QPointer<ByteLineEdit>(text)] {
+    const QString filter = tr("Figures for Prometheus") + QStringLiteral(" (*.prom)|*.prom");
+    program_.services().prompts.chooseFile({.folder = program_.programFolder(),
+                                            .filter = isFolder ? std::string() : filter.toStdString(),
+                                            .owner = window(),
+                                            .isNew = !isFolder,
+                                            .isFolder = isFolder},
+                                           [box](const std::string& path) {
+                                             if (box != nullptr) {
+                                               box->setBytes(path);
+                                               box->setFocus();
+                                             }
+                                           });
+  });
 }
 
 bool OptionForm::isChanged() const {

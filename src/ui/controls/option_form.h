@@ -63,6 +63,7 @@ class OptionForm final : public QScrollArea {
   void makeRows();
   QGridLayout* addGroup(QVBoxLayout& page, const QString& caption);
   void addRow(const OptionField& option, QGridLayout& lines);
+  void addChooser(const OptionField& option, QWidget& control, QGridLayout& lines, int line);
   void storeRow(const Row& row);
 
   Program& program_;

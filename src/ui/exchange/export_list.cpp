@@ -7,6 +7,7 @@
 #include <QDir>
 
 #include "exchange/list/site_export.h"
+#include "ui/controls/boxes.h"
 
 namespace tarnwick {
 namespace {
@@ -45,19 +46,7 @@ void exportTo(Program& program, const std::string& file) {
   if (files.isSameFile(file, program.data().database().dbPath())) {
     throw std::runtime_error("The file \"" + file + "\" is the list itself. Export to a file of another name.");
   }
-  if (!files.exists(file)) {
-    writeTo(program, file, *format);
-    return;
-  }
-  program.services().prompts.confirm(
-      {.text = QObject::tr("Do You Want To Replace The File %1?").arg(shown(file)).toStdString(),
-       .icon = PromptIcon::question,
-       .destroys = true},
-      [&program, file, format = *format](bool yes) {
-        if (yes) {
-          program.faults().run([&] { writeTo(program, file, format); });
-        }
-      });
+  putFile(program, file, [&program, file, format = *format] { writeTo(program, file, format); });
 }
 
 }  // namespace

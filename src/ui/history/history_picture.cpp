@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include "history/history_text.h"
+#include "ui/controls/boxes.h"
 
 namespace tarnwick {
 namespace {
@@ -53,22 +54,9 @@ void write(Program& program, const std::string& file, const QString& title, cons
     throw std::runtime_error("The name of the file " + file +
                              " ends neither in .svg nor in .png, so its format is not known. Give it one of them.");
   }
-  const auto put = [&program, file, bytes = std::move(bytes)] {
+  putFile(program, file, [&program, file, bytes = std::move(bytes)] {
     program.services().files.replace(file, [&](const ByteSink& sink) { sink(bytes); });
-  };
-  if (!program.services().files.exists(file)) {
-    put();
-    return;
-  }
-  program.services().prompts.confirm(
-      {.text = QObject::tr("Do You Want To Replace The File %1?").arg(QDir::toNativeSeparators(name)).toStdString(),
-       .icon = PromptIcon::question,
-       .destroys = true},
-      [&program, put](bool yes) {
-        if (yes) {
-          program.faults().run(put);
-        }
-      });
+  });
 }
 
 }  // namespace
