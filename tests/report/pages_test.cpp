@@ -128,9 +128,9 @@ TEST_F(PagesTest, FiguresHoldNoCredentials) {
 TEST_F(PagesTest, FiguresTellWhenTheCertificatesEndThatAreLookedAt) {
   const Moment end = clock.now() + days{9};
   SiteCertificates(database).storeCertificate(1, {clock.now() - days{9}, end, "An Authority", {}});
-  EXPECT_THAT(metricsText(history), Not(HasSubstr("certificate_expiry_timestamp_seconds{")));
+  EXPECT_THAT(metricsText(history).whole(), Not(HasSubstr("certificate_expiry_timestamp_seconds{")));
   folder.execute("insert or replace into siteOptions values (0, 'certificate', '21')");
-  const std::string text = metricsText(history);
+  const std::string text = metricsText(history).whole();
   EXPECT_THAT(text, HasSubstr("# TYPE tarnwick_site_certificate_expiry_timestamp_seconds gauge\n"
                               "tarnwick_site_certificate_expiry_timestamp_seconds{id=\"1\",url=\"https://good.example/"
                               "a?token=xyz#top\"} " +
