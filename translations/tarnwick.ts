@@ -5099,6 +5099,10 @@
         <source>%1 To write the report of that month elsewhere: tarnwickctl month-report %2 --html FILE</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>To set the option %1, write: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

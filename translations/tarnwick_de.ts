@@ -5099,6 +5099,10 @@
         <source>%1 To write the report of that month elsewhere: tarnwickctl month-report %2 --html FILE</source>
         <translation>%1 Um den Bericht dieses Monats woandershin zu schreiben: tarnwickctl month-report %2 --html DATEI</translation>
     </message>
+    <message>
+        <source>To set the option %1, write: %2</source>
+        <translation>Um die Option %1 zu setzen, schreiben Sie: %2</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -53,11 +53,19 @@ std::vector<Wish> wishesOf(m& data, std::int16_t idSite, const std::vector<std::
   std::vector<Wish> wishes;
   for (const std::string& text : texts) {
     const std::size_t sign = text.find('=');
-    Wish wish{&data.optionField(visibleText(text.substr(0, sign))), std::nullopt};
-    if (sign != std::string::npos) {
-      wish.value = text.substr(sign + 1);
+    try {
+      wishes.push_back({&data.optionField(visibleText(text.substr(0, sign))), std::nullopt});
+    } catch (const std::runtime_error&) {
+      // The settings are given so.
+      if (sign == std::string::npos && wishes.size() == 1 && !wishes.front().value) {
+        const std::string& name = wishes.front().option->name;
+        throw std::runtime_error("To set the option " + name + ", write: " + name + "=" + visibleText(text));
+      }
+      throw;
     }
-    wishes.push_back(std::move(wish));
+    if (sign != std::string::npos) {
+      wishes.back().value = text.substr(sign + 1);
+    }
   }
   if (wishes.empty()) {
     for (const OptionField& option : data.optionFields()) {

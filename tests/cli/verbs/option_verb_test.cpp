@@ -48,6 +48,8 @@ TEST_F(OptionVerb, TakesANumberOrItsWord) {
 TEST_F(OptionVerb, RefusesWhatThereIsNot) {
   EXPECT_EQ(run({"option", "all", "nothing=1"}), exit_status::failed);
   EXPECT_THAT(err, HasSubstr("There is no option \"nothing\". The options are: newSites, adopt, mailLimit"));
+  EXPECT_EQ(run({"option", "all", "mailLimit", "20"}), exit_status::failed);
+  EXPECT_THAT(err, HasSubstr("To set the option mailLimit, write: mailLimit=20"));
   EXPECT_EQ(run({"option", "all", "adopt=anything", "mailLimit=0"}), exit_status::failed);
   EXPECT_THAT(err, HasSubstr("a whole number from 1 to 3600"));
   EXPECT_EQ(run({"option", "1", "mailLimit=5"}), exit_status::failed);
