@@ -7,6 +7,7 @@
 #include "base/visible_text.h"
 #include "engine/cause.h"
 #include "engine/result_recording.h"
+#include "engine/sites_not_fetched.h"
 #include "engine/widening.h"
 #include "store/first_field.h"
 #include "store/site_rules.h"
@@ -154,23 +155,33 @@ SiteReasons::ShortReason SiteReasons::shortReasonOf(std::int16_t idSite) {
   return {.line = lineOfDifference(baseline, page, SiteRules(db_).rulesOf(idSite))};
 }
 
-std::set<std::int64_t> SiteReasons::sitesNotFetched(std::int16_t idSite) {
+namespace {
+
+std::set<std::int64_t> sitesNotFetchedAmong(Database& database, const std::string& condition) {
   const std::string failed =
       "case when errCode <> 0 then "
       "(select case when status then content_compare else content_runtime end = '11:' || log.errDescription from sites "
       "as page where page.idSite = log.idSite) end";
-  std::string sql = joinSql("select idSite from sites where lastChecked is not null and ",
-                            newestOf(failed, "lastChecked", "sites.url", "sites.status", "sites.idSite"));
-  if (idSite > 0) {
-    sql += " and idSite = " + sqlQuote(idSite);
-  }
-  const auto rows = db_.query(sql);
+  const std::string sql =
+      joinSql("select idSite from sites where lastChecked is not null and ",
+              newestOf(failed, "lastChecked", "sites.url", "sites.status", "sites.idSite"), condition);
+  const auto rows = database.query(sql);
   std::set<std::int64_t> sites;
   for (; !rows->eof(); rows->moveNext()) {
     sites.insert(rows->field("idSite").toInt64());
   }
   rows->close();
   return sites;
+}
+
+}  // namespace
+
+std::set<std::int64_t> SiteReasons::sitesNotFetched(std::int16_t idSite) {
+  return sitesNotFetchedAmong(db_, idSite > 0 ? " and idSite = " + sqlQuote(idSite) : std::string());
+}
+
+std::set<std::int64_t> sitesNotFetchedBetween(Database& database, std::int64_t first, std::int64_t last) {
+  return sitesNotFetchedAmong(database, joinSql(" and idSite between ", sqlQuote(first), " and ", sqlQuote(last)));
 }
 
 }  // namespace tarnwick

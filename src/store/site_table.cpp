@@ -25,6 +25,12 @@ TextTable siteTableOf(Recordset& rows) {
   return table;
 }
 
+TextTable readFirstSites(Database& database, std::size_t most) {
+  TextTable sites(site_column::last);
+  addSites(sites, *database.query(joinSql("select ", kSiteFields, " from sites")), most);
+  return sites;
+}
+
 TextTable readSitesBehind(Database& database, std::optional<std::int64_t> last, std::size_t most) {
   TextTable sites(site_column::last);
   const std::string behind = last ? " where idSite > " + std::to_string(*last) : std::string();

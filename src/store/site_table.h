@@ -41,6 +41,9 @@ std::size_t addSites(TextTable& table, Recordset& rows, std::size_t most = std::
 /// All rows left of `rows`; else as above.
 TextTable siteTableOf(Recordset& rows);
 
+/// Up to `most` of all sites, the first ones, in the order of the database. Raises DataAccessError.
+TextTable readFirstSites(Database& database, std::size_t most);
+
 /// Up to `most` of the sites whose ids are above `last`, or the first ones, in the order of their ids. Raises
 /// DataAccessError.
 TextTable readSitesBehind(Database& database, std::optional<std::int64_t> last, std::size_t most);

@@ -24,6 +24,7 @@
 #include "ui/main_window/column_choice.h"
 #include "ui/main_window/damage_box.h"
 #include "ui/main_window/first_steps.h"
+#include "ui/main_window/grid_filling.h"
 #include "ui/main_window/master_pictures.h"
 #include "ui/main_window/notice_actions.h"
 #include "ui/main_window/site_extras.h"
@@ -64,6 +65,11 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   setCentralWidget(canvas);
   notices_ = new Notices(program_, *controls_.noticeBar, *controls_.grid1, this);
   marks_ = new AlarmMarks(program_, sites_, this);
+  filling_ = new GridFilling(program_, *controls_.grid1, this);
+  connect(filling_, &GridFilling::ended, this, [this] {
+    marks_->look();
+    extras_->look();
+  });
   menu_ = new SiteMenu(program_, *controls_.grid1, *controls_.pauseAll, this);
   connect(menu_, &SiteMenu::alwaysChanges, this,
           [this](std::int16_t idSite) { program_.faults().run([&] { editors_.site.propose(idSite); }); });

@@ -24,6 +24,7 @@ namespace tarnwick {
 class ClickRule;
 class ColumnChoice;
 class FirstSteps;
+class GridFilling;
 class SiteExtras;
 class SiteMenu;
 
@@ -87,9 +88,7 @@ class Master final : public QMainWindow, public RunView {
   void showOffline(std::optional<LocalTime> since) override;
   void showHeartbeat(const std::string&) override { notices_->look(); }
   void showLostMail(const LostMail& mail) override { notices_->add(mail); }
-  void setLastChecked(std::int16_t idSite, const std::string& dateTime) override {
-    sites_.setLastChecked(idSite, dateTime);
-  }
+  void setLastChecked(std::int16_t idSite, const std::string& dateTime) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -120,6 +119,7 @@ class Master final : public QMainWindow, public RunView {
   SiteGridModel sites_;
   MasterControls controls_{};
   Notices* notices_ = nullptr;  // the window's own
+  GridFilling* filling_ = nullptr;
   AlarmMarks* marks_ = nullptr;
   SiteExtras* extras_ = nullptr;
   ColumnChoice* columns_ = nullptr;

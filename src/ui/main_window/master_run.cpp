@@ -4,6 +4,7 @@
 
 #include "ui/controls/display_text.h"
 #include "ui/main_window/first_steps.h"
+#include "ui/main_window/grid_filling.h"
 #include "ui/main_window/master.h"
 #include "ui/main_window/site_extras.h"
 
@@ -12,7 +13,7 @@ namespace tarnwick {
 void Master::setCaption(const std::string& caption) { setWindowTitle(QString::fromStdString(caption)); }
 
 void Master::fillGrid() {
-  controls_.grid1->setSites(program_.data().getArraySites(0), program_.data().sitesNotFetched());
+  filling_->begin();
   notices_->look();
   marks_->look();
   extras_->look();
@@ -74,7 +75,12 @@ void Master::unbrighten(std::int16_t idSite) {
 }
 
 void Master::updateGridRow(std::int16_t idSite, bool passed) {
-  sites_.rowOfSite(idSite) < 0 ? fillGrid() : sites_.updateSite(program_.data().getArraySites(idSite));  // or new
+  filling_->renew(idSite);
+  if (sites_.rowOfSite(idSite) >= 0) {
+    sites_.updateSite(program_.data().getArraySites(idSite));
+  } else if (!filling_->goesOn()) {
+    fillGrid();  // a new one
+  }
   sites_.setResult(idSite, passed);
   marks_->update(idSite);
   extras_->update(idSite);
@@ -82,6 +88,11 @@ void Master::updateGridRow(std::int16_t idSite, bool passed) {
 
 void Master::showResult(const CheckResult& result) {
   sites_.setFetched(result.idSite, result.errCode == 0 && result.errDescription.empty());
+}
+
+void Master::setLastChecked(std::int16_t idSite, const std::string& dateTime) {
+  filling_->renew(idSite);
+  sites_.setLastChecked(idSite, dateTime);
 }
 
 void Master::showOffline(std::optional<LocalTime> since) {

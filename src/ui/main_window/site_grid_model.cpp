@@ -2,7 +2,6 @@
 #include "ui/main_window/site_grid_model.h"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 #include <QCoreApplication>
 
@@ -13,48 +12,28 @@
 namespace tarnwick {
 namespace {
 
-std::optional<std::int16_t> idOf(const std::string& text) {
-  std::int16_t id = 0;
-  const char* end = text.data() + text.size();
-  const auto [rest, error] = std::from_chars(text.data(), end, id);
-  return error == std::errc() && rest == end ? std::optional(id) : std::nullopt;
-}
-
 QVariant alignmentOf(Qt::AlignmentFlag alignment) { return QVariant::fromValue(Qt::AlignVCenter | alignment); }
 
 }  // namespace
 
-void SiteGridModel::setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched) {
+void SiteGridModel::setSites(SiteRows sites) {
   beginResetModel();
-  const std::size_t count = sites.lastRow();
-  std::unordered_map<std::int16_t, std::string> failed;  // known from the check itself, by its time
-  for (const auto& [id, row] : rowsOfSite_) {
-    Row& before = rows_[static_cast<std::size_t>(row)];
-    if (before.shade == Shade::down && !before.fetched) {
-      failed.emplace(id, std::move(before.cells[timeColumn]));
-    }
-  }
-  rows_.clear();
-  rows_.reserve(count);
-  rowsOfSite_.clear();
-  rowsOfSite_.reserve(count);
-  for (std::size_t row = 1; row <= count; ++row) {
-    rows_.push_back(readSiteRow(sites, row, columns_));
-    if (const auto id = idOf(rows_.back().cells[idColumn])) {
-      rowsOfSite_.emplace(*id, static_cast<int>(row - 1));
-      const auto known = failed.find(*id);
-      rows_.back().fetched =
-          !notFetched.contains(*id) && (known == failed.end() || known->second != rows_.back().cells[timeColumn]);
-    }
-  }
+  sites.learnFrom(sites_);
+  std::swap(sites_, sites);
   endResetModel();
+}
+
+void SiteGridModel::setSites(const TextTable& sites) {
+  SiteRows rows;
+  rows.add(sites, {}, columns_);
+  setSites(std::move(rows));
 }
 
 template <typename Change>
 void SiteGridModel::changeRows(std::int16_t idSite, Change change) {
-  const auto [first, last] = rowsOfSite_.equal_range(idSite);
+  const auto [first, last] = sites_.rowsOfSite.equal_range(idSite);
   for (auto entry = first; entry != last; ++entry) {
-    change(rows_[static_cast<std::size_t>(entry->second)]);
+    change(sites_.rows[static_cast<std::size_t>(entry->second)]);
     repaintRow(entry->second);
   }
 }
@@ -64,7 +43,7 @@ void SiteGridModel::updateSite(const TextTable& sites) {
     return;
   }
   const Row site = readSiteRow(sites, 1, columns_);
-  if (const auto id = idOf(site.cells[idColumn])) {
+  if (const auto id = siteIdOf(site)) {
     changeRows(*id, [&](Row& row) {
       const bool fetched = row.fetched;
       const Row::Alarm alarm = row.alarm;
@@ -92,7 +71,7 @@ void SiteGridModel::setAlarm(int row, const AlarmView& view) {
                          .daysLeft = view.daysLeft,
                          .slow = view.slow,
                          .acknowledged = view.acknowledged};
-  Row& shown = rows_[static_cast<std::size_t>(row)];
+  Row& shown = sites_.rows[static_cast<std::size_t>(row)];
   if (shown.alarm != alarm) {
     shown.alarm = alarm;
     repaintRow(row);
@@ -138,22 +117,24 @@ std::optional<std::int16_t> SiteGridModel::siteOfRow(int row) const {
   if (row < 0 || row >= rowCount()) {
     return std::nullopt;
   }
-  return idOf(rows_[static_cast<std::size_t>(row)].cells[idColumn]);
+  return siteIdOf(sites_.rows[static_cast<std::size_t>(row)]);
 }
 
 int SiteGridModel::rowOfSite(std::int16_t idSite) const {
   int found = -1;
-  const auto [first, last] = rowsOfSite_.equal_range(idSite);
+  const auto [first, last] = sites_.rowsOfSite.equal_range(idSite);
   for (auto entry = first; entry != last; ++entry) {
     found = found < 0 ? entry->second : std::min(found, entry->second);
   }
   return found;
 }
 
-int SiteGridModel::downCount() const { return static_cast<int>(std::ranges::count(rows_, Shade::down, &Row::shade)); }
+int SiteGridModel::downCount() const {
+  return static_cast<int>(std::ranges::count(sites_.rows, Shade::down, &Row::shade));
+}
 
 int SiteGridModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+  return parent.isValid() ? 0 : static_cast<int>(sites_.rows.size());
 }
 
 int SiteGridModel::columnCount(const QModelIndex& parent) const {
@@ -174,27 +155,27 @@ std::optional<std::size_t> SiteGridModel::extraColumnAt(int column) const {
 }
 
 std::pair<std::int16_t, std::int16_t> SiteGridModel::idsOfSites() const {
-  if (rowsOfSite_.empty()) {
+  if (sites_.rowsOfSite.empty()) {
     return {0, -1};
   }
   const auto [first, last] =
-      std::ranges::minmax_element(rowsOfSite_, {}, [](const auto& entry) { return entry.first; });
+      std::ranges::minmax_element(sites_.rowsOfSite, {}, [](const auto& entry) { return entry.first; });
   return {first->first, last->first};
 }
 
 QString SiteGridModel::wordOfRow(const Row& row) const { return wordOf(row, isMarked(row)); }
 
-SiteState SiteGridModel::stateOfRow(int row) const { return stateOf(rows_.at(static_cast<std::size_t>(row))); }
+SiteState SiteGridModel::stateOfRow(int row) const { return stateOf(sites_.rows.at(static_cast<std::size_t>(row))); }
 
 bool SiteGridModel::isMarked(const Row& row) const {
-  const auto id = marks_.empty() ? std::nullopt : idOf(row.cells[idColumn]);
+  const auto id = marks_.empty() ? std::nullopt : siteIdOf(row);
   return id && marks_.contains(*id);
 }
 
 QColor SiteGridModel::background(const QModelIndex& index) const {
-  const Row& row = rows_[static_cast<std::size_t>(index.row())];
+  const Row& row = sites_.rows[static_cast<std::size_t>(index.row())];
   if (!marks_.empty() && index.column() <= urlColumn) {
-    if (const auto id = idOf(row.cells[idColumn])) {
+    if (const auto id = siteIdOf(row)) {
       const auto mark = marks_.find(*id);
       if (mark != marks_.end()) {
         return mark->second;
@@ -217,7 +198,7 @@ QVariant SiteGridModel::data(const QModelIndex& index, int role) const {
   if (const auto extra = extraColumnAt(index.column())) {
     return extraData(index.row(), *extra, role);
   }
-  const Row& row = rows_[static_cast<std::size_t>(index.row())];
+  const Row& row = sites_.rows[static_cast<std::size_t>(index.row())];
   const std::string& text = row.cells[static_cast<std::size_t>(index.column())];
   switch (role) {
     case Qt::DisplayRole:

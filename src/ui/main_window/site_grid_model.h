@@ -16,6 +16,7 @@
 #include "ui/main_window/extra_columns.h"
 #include "ui/main_window/site_columns.h"
 #include "ui/main_window/site_row.h"
+#include "ui/main_window/site_rows.h"
 #include "ui/main_window/site_state.h"
 
 namespace tarnwick {
@@ -50,10 +51,10 @@ class SiteGridModel final : public QAbstractTableModel {
   /// cell.
   enum Role { stateRole = Qt::UserRole, wordRole, copyRole };
 
-  /// Shows the sites of a whole site list in place of what was shown. Marks of sites that are still there stay.
-  /// `notFetched` are those whose last check brought no page, as far as that is stored; what `setFetched` told of a
-  /// failed check that is still the last one stays.
-  void setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched = {});
+  /// Shows the sites of a whole site list in place of what was shown. Marks of sites that are still there stay, and so
+  /// does what was seen of their alarms. What `setFetched` told of a failed check that is still the last one stays.
+  void setSites(SiteRows sites);
+  void setSites(const TextTable& sites);
   /// Writes the record of one site, the first of `sites`, into the rows of its id. Nothing when `sites` is empty.
   void updateSite(const TextTable& sites);
   /// Tells whether the last check of a site brought a page.
@@ -81,14 +82,14 @@ class SiteGridModel final : public QAbstractTableModel {
   /// Whether the site of a row is being tested.
   bool isTested(int row) const { return isMarked(this->row(row)); }
   /// What is known of the site of a row.
-  const Row& row(int row) const { return rows_.at(static_cast<std::size_t>(row)); }
+  const Row& row(int row) const { return sites_.rows.at(static_cast<std::size_t>(row)); }
   /// How many sites are down.
   int downCount() const;
   /// How the site of a row stands.
   SiteState stateOfRow(int row) const;
   /// Whether the last check of the site of a row brought a page that differs from the baseline.
   bool differsInRow(int row) const {
-    const Row& it = rows_.at(static_cast<std::size_t>(row));
+    const Row& it = sites_.rows.at(static_cast<std::size_t>(row));
     return it.shade == Shade::down && it.fetched;
   }
 
@@ -109,9 +110,7 @@ class SiteGridModel final : public QAbstractTableModel {
 
   const SiteColumns columns_;
   const ExtraCells* extraCells_ = nullptr;
-  std::vector<Row> rows_;
-  // Ids are unique unless another tool made the file; then every row of an id follows its site.
-  std::unordered_multimap<std::int16_t, int> rowsOfSite_;
+  SiteRows sites_;
   std::unordered_map<std::int16_t, QColor> marks_;
 };
 

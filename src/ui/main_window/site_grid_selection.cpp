@@ -2,6 +2,7 @@
 // Which rows of the list are chosen, and how.
 #include <algorithm>
 #include <iterator>
+#include <utility>
 #include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QMimeData>
@@ -16,6 +17,10 @@ namespace tarnwick {
 
 void SiteGridView::selectSite(std::int16_t idSite) {
   const int row = sites_.rowOfSite(idSite);
+  if (row < 0 && awaitsSites_) {
+    awaited_ = idSite;
+    return;
+  }
   if (row >= 0 && order_.shownRow(row) < 0) {
     Q_EMIT hiddenSiteWanted();
   }
@@ -81,14 +86,24 @@ std::vector<int> SiteGridView::chosenRows() const {
   return shown;
 }
 
-void SiteGridView::setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched) {
+void SiteGridView::setSites(const TextTable& sites) {
+  SiteRows rows;
+  rows.add(sites, {}, sites_.columns());
+  setSites(std::move(rows));
+}
+
+void SiteGridView::setSites(SiteRows sites) {
   const int scrolled = verticalScrollBar()->value();
-  keepChosen([&] { sites_.setSites(sites, notFetched); });
+  keepChosen([&] { sites_.setSites(std::move(sites)); });
   // The scroll bar learns of the new rows with the next layout, which must come first.
   updateGeometries();
   verticalScrollBar()->setValue(scrolled);
   isFilled_ = true;
   shareRoom();
+  awaitsSites_ = false;
+  if (const auto idSite = std::exchange(awaited_, std::nullopt)) {
+    selectSite(*idSite);
+  }
   Q_EMIT filled();
 }
 

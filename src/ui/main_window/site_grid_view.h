@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <set>
 #include <vector>
 #include <QTableView>
 
@@ -57,7 +56,10 @@ class SiteGridView final : public QTableView {
 
   /// Shows `sites` in place of what is shown (see `SiteGridModel::setSites`); the rows that are chosen and the scroll
   /// position stay with their sites. Where there is a row, one is current.
-  void setSites(const TextTable& sites, const std::set<std::int64_t>& notFetched = {});
+  void setSites(SiteRows sites);
+  void setSites(const TextTable& sites);
+  /// The list is being read, and `setSites` follows: a site that is to be selected and not there yet is selected then.
+  void awaitSites() { awaitsSites_ = true; }
 
   /// Lets `change` find or sort; the rows that are chosen stay with their sites while those are shown.
   void changeOrder(const std::function<void()>& change);
@@ -131,6 +133,8 @@ class SiteGridView final : public QTableView {
   QPoint pressed_;
   Qt::KeyboardModifiers pressedWith_;
   int stretched_ = 0;
+  bool awaitsSites_ = false;
+  std::optional<std::int16_t> awaited_;
   bool isFilled_ = false;
   bool isShared_ = false;
   bool isSetUp_ = false;

@@ -37,6 +37,14 @@ SiteRow readSiteRow(const TextTable& sites, std::size_t row, SiteColumns columns
   return read;
 }
 
+std::optional<std::int16_t> siteIdOf(const SiteRow& row) {
+  const std::string& text = row.cells[SiteGridModel::idColumn];
+  std::int16_t id = 0;
+  const char* end = text.data() + text.size();
+  const auto [rest, error] = std::from_chars(text.data(), end, id);
+  return error == std::errc() && rest == end ? std::optional(id) : std::nullopt;
+}
+
 // The stored result, but for what only an option brings.
 QColor colourOf(const SiteRow& row) {
   if (row.alarm.state == AlarmView::State::unknown && row.shade != SiteRow::Shade::inactive) {

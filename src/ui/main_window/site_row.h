@@ -46,6 +46,9 @@ struct SiteRow {
 /// The site of a row of a site table; a column is one of `columns`.
 SiteRow readSiteRow(const TextTable& sites, std::size_t row, SiteColumns columns);
 
+/// The number of its site; nothing where that is no number of 16 bits.
+std::optional<std::int16_t> siteIdOf(const SiteRow& row);
+
 QColor colourOf(const SiteRow& row);
 SiteState stateOf(const SiteRow& row);
 /// The state in a word or two.

@@ -7,11 +7,11 @@
 #include <QAbstractItemView>
 #include <QMenu>
 #include <QSignalSpy>
-#include <QTimer>
 
 #include "support/file_bytes.h"
 #include "support/system.h"
 #include "ui/support/dialog_fixture.h"
+#include "ui/support/longest_gap.h"
 #include "ui/support/patience.h"
 
 namespace tarnwick::testing {
@@ -31,29 +31,6 @@ std::string manyAddresses(int count) {
   }
   return lines;
 }
-
-/// The most work between two turns of the event loop. What other programs of the machine do meanwhile does not count.
-class Hold {
- public:
-  Hold() {
-    QObject::connect(&timer_, &QTimer::timeout, [this] {
-      const double now = processorSeconds();
-      longest_ = std::max(longest_, now - last_);
-      last_ = now;
-    });
-    timer_.start(0);
-  }
-  std::chrono::milliseconds longest() const { return std::chrono::milliseconds(static_cast<int>(longest_ * 1000)); }
-  void forget() {
-    longest_ = 0;
-    last_ = processorSeconds();
-  }
-
- private:
-  double last_ = processorSeconds();
-  double longest_ = 0;
-  QTimer timer_;
-};
 
 class ImportDialogTest : public DialogTest {
  protected:
@@ -160,14 +137,15 @@ TEST_F(ImportDialogTest, AnImportThatFailsTakesNothingAndCanBeTriedAgain) {
 
 TEST_F(ImportDialogTest, HoldsTheWindowForMomentsOnly) {
   SKIP_ON_WINDOWS("There the program reads a file itself.");
-  Hold hold;
+  const std::chrono::milliseconds moment = patience(std::chrono::milliseconds(100));
   auto& dialog = choose(manyAddresses(32000));
+  LongestGap planning;
   waitUntil([&] { return in<QPushButton>(dialog, "btnImport").isEnabled(); });
-  EXPECT_LT(hold.longest(), patience(std::chrono::milliseconds(100))) << "reading and planning";
-  hold.forget();
+  EXPECT_LT(planning.longest(), moment) << "reading and planning";
+  LongestGap writing;
   press(dialog, "btnImport");
   waitUntil([&] { return isDone(dialog); });
-  EXPECT_LT(hold.longest(), patience(std::chrono::milliseconds(100))) << "writing";
+  EXPECT_LT(writing.longest(), moment) << "writing";
   EXPECT_EQ(folder.queryText("select count(*) from sites"), "32001");
 }
 
@@ -194,7 +172,7 @@ TEST_F(ImportDialogTest, AnEditMeanwhileHasItDoneAtOnceAndIsStored) {
   master->program().data().clearCounters(1);
   EXPECT_EQ(folder.queryText("select count(*) from sites"), "5001");
   waitUntil([&] { return isDone(dialog); });
-  EXPECT_EQ(rows(), 5001);
+  EXPECT_TRUE(waitUntil([&] { return rows() == 5001; }));
   EXPECT_THAT(machine.prompts.texts(), ::testing::SizeIs(1)) << "the file chooser alone";
 }
 
@@ -221,7 +199,7 @@ TEST_F(ImportDialogTest, ARunWaitsWithItsResultsAndLosesNone) {
   waitUntil([&] { return in<QPushButton>(dialog, "btnImport").isEnabled(); });
   press(dialog, "btnImport");
   waitUntil([&] { return in<QProgressBar>(dialog, "importBar").value() > 500; });
-  const Hold hold;
+  LongestGap hold;
   master->program().startRun();
   EXPECT_LT(hold.longest(), patience(std::chrono::milliseconds(100)));
   EXPECT_EQ(folder.queryText("select count(*) from log where status = 1"), "3");

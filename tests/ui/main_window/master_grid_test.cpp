@@ -156,17 +156,5 @@ TEST_F(MasterGridTest, ASiteThatIsGoneIsNoError) {
   EXPECT_EQ(rows(), 0);
 }
 
-TEST_F(MasterGridTest, ThirtyThousandSitesAreFilledInWithinASecond) {
-  folder.execute(
-      "with recursive n(i) as (select 1 union all select i + 1 from n where i < 32767) "
-      "insert into sites (idSite,url,method,active,tInterval,status) select i,'http://localhost/' || i,'GET',1,10,1 "
-      "from n");
-  open();
-  const auto start = std::chrono::steady_clock::now();
-  master->fillGrid();
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
-  EXPECT_EQ(rows(), 32767);
-}
-
 }  // namespace
 }  // namespace tarnwick

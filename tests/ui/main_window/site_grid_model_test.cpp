@@ -103,13 +103,15 @@ TEST_F(SiteGridModelTest, TheStateIsToldInWordsToo) {
 }
 
 TEST_F(SiteGridModelTest, TheNumberOfASiteBearsItsState) {
-  model.setSites(siteTable({{.id = "1", .status = "True"},
-                            {.id = "2", .status = "False"},
-                            {.id = "3", .status = "False"},
-                            {.id = "4", .status = "True"},
-                            {.id = "5", .active = "False", .status = "False"},
-                            {.id = "6"}}),
-                 {3, 4, 5});
+  SiteRows sites;
+  sites.add(siteTable({{.id = "1", .status = "True"},
+                       {.id = "2", .status = "False"},
+                       {.id = "3", .status = "False"},
+                       {.id = "4", .status = "True"},
+                       {.id = "5", .active = "False", .status = "False"},
+                       {.id = "6"}}),
+            {3, 4, 5}, model.columns());
+  model.setSites(std::move(sites));
   model.brighten(6, 10);
   QStringList words;
   for (int row = 0; row < model.rowCount(); ++row) {
