@@ -64,6 +64,18 @@ class ObeyingTerminal : public ToolFixture {
   std::string complained_;
 };
 
+/// Files that are named without a folder come there.
+class WorkIn {
+ public:
+  explicit WorkIn(const std::string& folder) { std::filesystem::current_path(pathOf(folder)); }
+  ~WorkIn() { std::filesystem::current_path(before_); }
+  WorkIn(const WorkIn&) = delete;
+  WorkIn& operator=(const WorkIn&) = delete;
+
+ private:
+  std::filesystem::path before_ = std::filesystem::current_path();
+};
+
 TEST_F(ObeyingTerminal, IsToldNothingOfWhatIsStored) {
   makeAllOdd();
   for (const bool isTerminal : {false, true}) {
@@ -108,6 +120,7 @@ TEST_F(ObeyingTerminal, IsToldNothingOfWhatIsStored) {
 }
 
 TEST_F(ObeyingTerminal, IsToldNothingOfWhatIsAskedFor) {
+  const WorkIn apart(folder.path());
   for (const Verb& verb : allVerbs(fields)) {
     Arguments known{verb.name};
     Arguments odd{verb.name};
