@@ -20,7 +20,7 @@ using testing::MasterTest;
 using testing::waitUntil;
 
 /// What nobody notices. Half of it is what is wanted, on a machine of today.
-const milliseconds kAMoment = testing::patience(milliseconds(30));
+const milliseconds kAMoment = testing::patience(milliseconds(60));
 
 class LongListTest : public MasterTest {
  protected:
