@@ -49,6 +49,10 @@ std::string nameOf(std::int16_t idSite) {
   return idSite == kAllSites ? std::string("all sites") : "site " + std::to_string(idSite);
 }
 
+std::string howToSet(const std::string& name, const std::string& value) {
+  return "To set the option " + name + ", write: " + name + "=" + visibleText(value);
+}
+
 std::vector<Wish> wishesOf(m& data, std::int16_t idSite, const std::vector<std::string>& texts) {
   std::vector<Wish> wishes;
   for (const std::string& text : texts) {
@@ -58,8 +62,7 @@ std::vector<Wish> wishesOf(m& data, std::int16_t idSite, const std::vector<std::
     } catch (const std::runtime_error&) {
       // The settings are given so.
       if (sign == std::string::npos && wishes.size() == 1 && !wishes.front().value) {
-        const std::string& name = wishes.front().option->name;
-        throw std::runtime_error("To set the option " + name + ", write: " + name + "=" + visibleText(text));
+        throw std::runtime_error(howToSet(wishes.front().option->name, text));
       }
       throw;
     }
