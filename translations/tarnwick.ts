@@ -8932,10 +8932,6 @@ Do You Want To Discard Them And Close %2?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Choose: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Figures for Prometheus</source>
         <translation type="unfinished"></translation>
     </message>

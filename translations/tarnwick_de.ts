@@ -8935,10 +8935,6 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <translation>Wählen…</translation>
     </message>
     <message>
-        <source>Choose: %1</source>
-        <translation>Wählen: %1</translation>
-    </message>
-    <message>
         <source>Figures for Prometheus</source>
         <translation>Zahlen für Prometheus</translation>
     </message>

@@ -25,9 +25,17 @@ void appendDigits(std::string& text, unsigned number, unsigned first) {
 
 std::string dateText(LocalTime time) {
   constexpr unsigned kThousands = 1000;
+  constexpr int kLastOfFourDigits = 9999;
   const year_month_day day{floor<days>(time)};
+  const int year = static_cast<int>(day.year());
   std::string text;
-  appendDigits(text, static_cast<unsigned>(static_cast<int>(day.year())), kThousands);
+  if (year >= 0 && year <= kLastOfFourDigits) {
+    appendDigits(text, static_cast<unsigned>(year), kThousands);
+  } else {
+    std::array<char, 16> digits{};
+    std::snprintf(digits.data(), digits.size(), "%04d", year);
+    text = digits.data();
+  }
   text += '-';
   appendDigits(text, static_cast<unsigned>(day.month()), 10);
   text += '-';

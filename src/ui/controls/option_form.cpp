@@ -188,7 +188,7 @@ void OptionForm::addRow(const OptionField& option, QGridLayout& lines) {
 void OptionForm::addChooser(const OptionField& option, QWidget& control, QGridLayout& lines, int line) {
   auto* text = qobject_cast<ByteLineEdit*>(&control);
   auto* button = addButton(*this, ("browse_" + option.name).c_str(), tr("Choose…"));
-  button->setAccessibleName(tr("Choose: %1").arg(translated(option.label)));
+  button->setAccessibleName(QStringLiteral("%1: %2").arg(button->text(), translated(option.label)));
   lines.addWidget(button, line, 2, Qt::AlignLeft);
   const bool isFolder = option.name == option_name::statusPage;
   onClick(*button, program_.faults(), [this, isFolder, box = QPointer<ByteLineEdit>(text)] {

@@ -203,11 +203,11 @@ TEST_F(SqliteConnectionTest, TakesAFileThatIsOpenedAgainForOneThatOthersHaveChan
 }
 
 TEST_F(SqliteConnectionTest, AFreshDatabaseHasEveryTableButTheWorkTable) {
-  EXPECT_EQ(
-      folder_.queryRows("select name from sqlite_master where type = 'table' order by name collate nocase"),
-      "acknowledged\nbaselines\ncertificates\nchannels\ncontrol\ndays\nhours\nlatestChecks\nlog\nmethods\nmonths\n"
-      "outages\noutbox\npagePieces\npostVars\nrules\nsiteOptions\n"
-      "siteRows\nsiteState\nsiteTags\ntest\n");
+  EXPECT_EQ(folder_.queryRows("select name from sqlite_master where type = 'table' order by name collate nocase"),
+            "acknowledged\nbaselines\ncertificates\nchannels\ncontrol\ndays\nhours\nlatestChecks\nlog\nmethods\n"
+            "monthReports\nmonths\n"
+            "outages\noutbox\npagePieces\npostVars\nrules\nsiteOptions\n"
+            "siteRows\nsiteState\nsiteTags\ntest\n");
   EXPECT_EQ(folder_.queryText("pragma integrity_check"), "ok");
 }
 

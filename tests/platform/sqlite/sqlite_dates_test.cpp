@@ -36,6 +36,17 @@ class SqliteDates : public ::testing::Test {
   OpenDatabase database_;
 };
 
+// What another tool has stored may be any date.
+TEST_F(SqliteDates, AYearHasFourDigitsOrMoreAndItsSign) {
+  const auto textOf = [](int year) {
+    return dateTimeText(std::chrono::local_days(std::chrono::year(year) / 3 / 9) + std::chrono::hours(7));
+  };
+  EXPECT_EQ(textOf(2024), "2024-03-09 07:00:00");
+  EXPECT_EQ(textOf(7), "0007-03-09 07:00:00");
+  EXPECT_EQ(textOf(12345), "12345-03-09 07:00:00");
+  EXPECT_EQ(textOf(-5), "-005-03-09 07:00:00");
+}
+
 TEST_F(SqliteDates, ASiteIsDueByTheClocksMinutesNotByElapsedOnes) {
   addSite(1, "'2024-05-17 12:00:30'");
   EXPECT_FALSE(isDueAt("2024-05-17 12:09:59"));

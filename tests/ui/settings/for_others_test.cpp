@@ -54,7 +54,7 @@ TEST_F(ForOthersTest, AFolderAndAFileAreChosenAndStored) {
 
 TEST_F(ForOthersTest, AChooserIsNamedAfterItsOption) {
   auto& dialog = openDefaults();
-  EXPECT_EQ(in<QPushButton>(dialog, "browse_statusPage").accessibleName(), QStringLiteral("Choose: Status page in"));
+  EXPECT_EQ(in<QPushButton>(dialog, "browse_statusPage").accessibleName(), QStringLiteral("Choose…: Status page in"));
 }
 
 }  // namespace
