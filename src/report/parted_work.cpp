@@ -18,9 +18,8 @@ PartedWork::PartedWork(TimerMaker& timers, const Clock& clock, Guard guard)
   timer_->setInterval(kPause);
 }
 
-void PartedWork::begin(TextInParts text, Take take) {
-  text_ = std::move(text);
-  take_ = std::move(take);
+void PartedWork::begin(TextInParts work) {
+  work_ = std::move(work);
   before_ = {};
   goOn();
 }
@@ -32,22 +31,21 @@ std::chrono::milliseconds PartedWork::spent() const {
 // It is taken out meanwhile, so that an error leaves nothing of it.
 void PartedWork::goOn() {
   timer_->setEnabled(false);
-  std::optional<TextInParts> text = std::exchange(text_, std::nullopt);
-  if (!text) {
+  std::optional<TextInParts> work = std::exchange(work_, std::nullopt);
+  if (!work) {
     return;
   }
   slice_ = clock_.steadyNow();
-  bool more = text->goOn();
+  bool more = work->goOn();
   while (more && clock_.steadyNow() - *slice_ < kAtOnce) {
-    more = text->goOn();
+    more = work->goOn();
   }
   before_ = spent();
   slice_.reset();
-  if (!more) {
-    return take_(std::move(*text).whole());
+  if (more) {
+    work_ = std::move(work);
+    timer_->setEnabled(true);
   }
-  text_ = std::move(text);
-  timer_->setEnabled(true);
 }
 
 }  // namespace tarnwick

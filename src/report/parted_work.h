@@ -5,7 +5,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <string>
 
 #include "base/text_in_parts.h"
 #include "platform/clock.h"
@@ -13,20 +12,19 @@
 
 namespace tarnwick {
 
-/// Makes a text in parts between the events, so that neither a run nor a window waits for it. What takes no longer than
+/// Does work in parts between the events, so that neither a run nor a window waits for it. What takes no longer than
 /// one part may is done at once.
 class PartedWork {
  public:
-  using Take = std::function<void(std::string text)>;
   /// Where the errors of what is done later end: called with what is to be done.
   using Guard = std::function<void(const std::function<void()>& action)>;
 
   PartedWork(TimerMaker& timers, const Clock& clock, Guard guard);
 
-  /// Begins, in place of what was begun and has not ended. `take` gets the text. What is raised at once is raised here,
-  /// and ends the work, as it does later.
-  void begin(TextInParts text, Take take);
-  bool isOn() const { return text_.has_value(); }
+  /// Begins, in place of what was begun and has not ended. What is raised at once is raised here, and ends the work, as
+  /// it does later.
+  void begin(TextInParts work);
+  bool isOn() const { return work_.has_value(); }
   /// How long what was begun last has worked, without the events in between.
   std::chrono::milliseconds spent() const;
 
@@ -34,8 +32,7 @@ class PartedWork {
   void goOn();
 
   const Clock& clock_;
-  std::optional<TextInParts> text_;
-  Take take_;
+  std::optional<TextInParts> work_;
   std::chrono::milliseconds before_{};  ///< spent, up to the slice that goes on
   std::optional<std::chrono::milliseconds> slice_{};
   std::unique_ptr<Timer> timer_;

@@ -46,7 +46,7 @@ bool Publication::write(const OptionsInForce& options) {
   if (work_.isOn() || (notBefore_ && clock_.steadyNow() < *notBefore_)) {
     return false;
   }
-  work_.begin(all(folder, figures), [](const std::string&) {});
+  work_.begin(all(folder, figures));
   return true;
 }
 

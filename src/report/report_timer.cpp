@@ -40,7 +40,7 @@ void ReportTimer::tmrReport_Timer() {
   reportTick_ = 1;
   if (needs_.settings.getControl("cReports").toBool()) {
     needs_.showStatus("Creating Report ...");
-    rest_.begin(needs_.report.createReportInParts(), [](const std::string&) {});
+    rest_.begin(needs_.report.createReportInParts());
     needs_.showStatus("Report Done ...");
   }
 }

@@ -32,16 +32,14 @@ class PartedWorkTest : public ::testing::Test {
     if (fails) {
       throw std::runtime_error("It cannot be done.");
     }
-    co_return std::to_string(count) + " parts";
-  }
-  void begin(TextInParts text) {
-    work.begin(std::move(text), [this](const std::string& whole) { taken.push_back(whole); });
+    ended.push_back(std::to_string(count) + " parts");
+    co_return {};
   }
 
   HandClock clock;
   HandTimers timers{clock};
   int done = 0;
-  std::vector<std::string> taken;
+  std::vector<std::string> ended;
   std::vector<std::string> errors;
   PartedWork work{timers, clock, [this](const std::function<void()>& action) {
                     try {
@@ -53,39 +51,39 @@ class PartedWorkTest : public ::testing::Test {
 };
 
 TEST_F(PartedWorkTest, WhatTakesAMomentIsDoneAtOnce) {
-  begin(parts(3, milliseconds(1)));
-  EXPECT_THAT(taken, ElementsAre("3 parts"));
+  work.begin(parts(3, milliseconds(1)));
+  EXPECT_THAT(ended, ElementsAre("3 parts"));
   EXPECT_FALSE(work.isOn());
 }
 
 TEST_F(PartedWorkTest, OfWhatTakesLongerEventsComeInBetween) {
-  begin(parts(3, milliseconds(20)));
+  work.begin(parts(3, milliseconds(20)));
   EXPECT_EQ(done, 1);
   EXPECT_TRUE(work.isOn());
   timers.advance(milliseconds(5));
   EXPECT_EQ(done, 2);
-  EXPECT_THAT(taken, IsEmpty());
+  EXPECT_THAT(ended, IsEmpty());
   timers.advance(std::chrono::seconds(1));
-  EXPECT_THAT(taken, ElementsAre("3 parts"));
+  EXPECT_THAT(ended, ElementsAre("3 parts"));
   EXPECT_FALSE(work.isOn());
   EXPECT_EQ(work.spent(), milliseconds(60));
 }
 
 TEST_F(PartedWorkTest, AnErrorAtOnceIsTheCallersAndALaterOneTheGuards) {
-  EXPECT_THROW(begin(parts(1, milliseconds(1), true)), std::runtime_error);
-  begin(parts(1, milliseconds(20), true));
+  EXPECT_THROW(work.begin(parts(1, milliseconds(1), true)), std::runtime_error);
+  work.begin(parts(1, milliseconds(20), true));
   EXPECT_THAT(errors, IsEmpty());
   timers.advance(std::chrono::seconds(1));
   EXPECT_THAT(errors, ElementsAre("It cannot be done."));
   EXPECT_FALSE(work.isOn());
-  EXPECT_THAT(taken, IsEmpty());
+  EXPECT_THAT(ended, IsEmpty());
 }
 
 TEST_F(PartedWorkTest, TheLatestTakesThePlaceOfOneThatHasNotEnded) {
-  begin(parts(9, milliseconds(20)));
-  begin(parts(2, milliseconds(20)));
+  work.begin(parts(9, milliseconds(20)));
+  work.begin(parts(2, milliseconds(20)));
   timers.advance(std::chrono::seconds(1));
-  EXPECT_THAT(taken, ElementsAre("2 parts"));
+  EXPECT_THAT(ended, ElementsAre("2 parts"));
 }
 
 }  // namespace
