@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <span>
 #include <tuple>
 
@@ -136,14 +137,14 @@ TextInParts historyPage(SiteHistory& history, Moment now) {
   // Of a short list all have stripes, and are read but once.
   const bool isLong = sites.size() > kMostStripes;
   if (isLong) {
-    auto own = ranked.begin();
+    std::map<std::int64_t, PeriodSums> sums;
     for (const auto& piece : intervalsInPieces(sites)) {
       co_await letOthersGoOn;
-      auto sums = sumsOfPeriods(history, piece, now);
-      for (std::size_t i = 0; i < piece.size(); ++i, ++own) {
-        if (const auto known = sums.find(own->site->idSite); known != sums.end()) {
-          own->sums = std::move(known->second);
-        }
+      sums.merge(sumsOfPeriods(history, piece, now));
+    }
+    for (Ranked& own : ranked) {
+      if (const auto known = sums.find(own.site->idSite); known != sums.end()) {
+        own.sums = known->second;
       }
     }
     std::ranges::sort(ranked, {}, &Ranked::rank);

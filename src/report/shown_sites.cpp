@@ -2,6 +2,8 @@
 #include "report/shown_sites.h"
 
 #include <algorithm>
+#include <array>
+#include <limits>
 
 #include "base/host_of_address.h"
 #include "base/visible_text.h"
@@ -17,13 +19,15 @@ std::vector<ShownSite> shownSites(Database& database) {
 
 bool readMoreSites(Database& database, std::vector<ShownSite>& sites) {
   constexpr std::int64_t kLongestInterval = 32767;
-  constexpr std::size_t kPiece = 2000;
-  const SqlValue last(sites.empty() ? std::int64_t{0} : sites.back().idSite);
+  constexpr int kPiece = 2000;
+  const std::array<SqlValue, 2> piece{
+      SqlValue(sites.empty() ? std::numeric_limits<std::int64_t>::min() : sites.back().idSite),
+      SqlValue(std::int64_t{kPiece})};
   const std::size_t before = sites.size();
   const auto rows = database.conn().execute(
       "select idSite, url, tInterval, active, status, success, failure from sites where idSite > ?1 order by idSite "
-      "limit 2000",
-      {&last, 1});
+      "limit ?2",
+      piece);
   for (; !rows->eof(); rows->moveNext()) {
     const SqlValue status = rows->field(std::size_t{4});
     sites.push_back({.idSite = rows->field(std::size_t{0}).toInt64(),

@@ -82,7 +82,7 @@ class SiteHistory {
   /// The latest check of a site; nothing where none was taken.
   std::optional<LatestCheck> latestCheck(std::int64_t idSite);
   /// Those of all sites, or of the ones whose ids are from `first` to `last`.
-  std::map<std::int64_t, LatestCheck> latestChecks(std::int64_t first = 1,
+  std::map<std::int64_t, LatestCheck> latestChecks(std::int64_t first = std::numeric_limits<std::int64_t>::min(),
                                                    std::int64_t last = std::numeric_limits<std::int64_t>::max());
   std::optional<CheckTimings> timings(std::int64_t idSite);
   /// The hours of a site that begin in that time, or its days, in rising order.
