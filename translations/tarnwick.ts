@@ -4152,10 +4152,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file holds what has been set for each site, with its POST variables, and as JSON the channels; what checks have found is not part of it. Only you can read it, and one that is there already is replaced when the new one is complete.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>A site whose id is in the list is changed, in the fields that the file has; one with another id is added under it, and one without an id is added as a new one. A channel takes the place of one that has its name. All of the file is taken, or nothing: each fault is told with its line.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -5101,6 +5097,50 @@
     </message>
     <message>
         <source>To set the option %1, write: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The history would be taken in, too (sites: %1, hours: %2, outages: %3).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The history is taken in, too (sites: %1, hours: %2, outages: %3).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the history of each site as well: its hours, days and months, and its outages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file holds what has been set for each site, with its POST variables, and as JSON the channels; what checks have found is part of it only where the history is wanted. Only you can read it, and one that is there already is replaced when the new one is complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>history is no array: give it as an export writes it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; is none: give it as an export writes it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; begins at no full hour of any clock: give the seconds since 1970 at which it began</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; has %2 seconds: give it 1 to %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; was up and unknown for longer than its %2 seconds: the two together are as much at most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; tells how long more answers took than it had checks: give it as many checks at least</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; ended before it began: give the end as the second number, or - while it is on</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -4156,10 +4156,6 @@
         <translation>Neben den Seiten gibt es kein Element %1: Die Elemente sind „tarnwick“, „options“, „channels“ und „sites“</translation>
     </message>
     <message>
-        <source>The file holds what has been set for each site, with its POST variables, and as JSON the channels; what checks have found is not part of it. Only you can read it, and one that is there already is replaced when the new one is complete.</source>
-        <translation>Die Datei enthält, was für jede Seite eingestellt ist, mit ihren POST-Variablen, und als JSON die Kanäle; was Prüfungen ergaben, gehört nicht dazu. Nur Sie können sie lesen, und eine vorhandene wird erst ersetzt, wenn die neue vollständig ist.</translation>
-    </message>
-    <message>
         <source>A site whose id is in the list is changed, in the fields that the file has; one with another id is added under it, and one without an id is added as a new one. A channel takes the place of one that has its name. All of the file is taken, or nothing: each fault is told with its line.</source>
         <translation>Eine Seite, deren ID in der Liste steht, wird geändert, in den Feldern, die die Datei hat; eine mit anderer ID wird unter dieser hinzugefügt, eine ohne ID als neue. Ein Kanal tritt an die Stelle dessen, der seinen Namen hat. Die Datei wird ganz übernommen oder gar nicht: Jeder Fehler wird mit seiner Zeile gemeldet.</translation>
     </message>
@@ -5102,6 +5098,50 @@
     <message>
         <source>To set the option %1, write: %2</source>
         <translation>Um die Option %1 zu setzen, schreiben Sie: %2</translation>
+    </message>
+    <message>
+        <source>The history would be taken in, too (sites: %1, hours: %2, outages: %3).</source>
+        <translation>Der Verlauf würde auch übernommen (Seiten: %1, Stunden: %2, Ausfälle: %3).</translation>
+    </message>
+    <message>
+        <source>The history is taken in, too (sites: %1, hours: %2, outages: %3).</source>
+        <translation>Der Verlauf ist auch übernommen (Seiten: %1, Stunden: %2, Ausfälle: %3).</translation>
+    </message>
+    <message>
+        <source>Write the history of each site as well: its hours, days and months, and its outages</source>
+        <translation>Auch den Verlauf jeder Seite schreiben: ihre Stunden, Tage und Monate und ihre Ausfälle</translation>
+    </message>
+    <message>
+        <source>The file holds what has been set for each site, with its POST variables, and as JSON the channels; what checks have found is part of it only where the history is wanted. Only you can read it, and one that is there already is replaced when the new one is complete.</source>
+        <translation>Die Datei enthält, was für jede Seite eingestellt ist, mit ihren POST-Variablen, und als JSON die Kanäle; was Prüfungen ergaben, gehört nur dazu, wo der Verlauf gewünscht ist. Nur Sie können sie lesen, und eine vorhandene wird erst ersetzt, wenn die neue vollständig ist.</translation>
+    </message>
+    <message>
+        <source>history is no array: give it as an export writes it</source>
+        <translation>history ist kein Array: so angeben, wie ein Export es schreibt</translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; is none: give it as an export writes it</source>
+        <translation>die Zeile des Verlaufs &quot;%1&quot; ist keine: so angeben, wie ein Export sie schreibt</translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; begins at no full hour of any clock: give the seconds since 1970 at which it began</source>
+        <translation>die Zeile des Verlaufs &quot;%1&quot; beginnt zu keiner vollen Stunde irgendeiner Uhr: die Sekunden seit 1970 angeben, bei denen sie begann</translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; has %2 seconds: give it 1 to %3</source>
+        <translation>die Zeile des Verlaufs &quot;%1&quot; hat %2 Sekunden: 1 bis %3 angeben</translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; was up and unknown for longer than its %2 seconds: the two together are as much at most</source>
+        <translation>die Zeile des Verlaufs &quot;%1&quot; war länger oben und unbekannt als ihre %2 Sekunden: beides zusammen ist höchstens so viel</translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; tells how long more answers took than it had checks: give it as many checks at least</source>
+        <translation>die Zeile des Verlaufs &quot;%1&quot; sagt von mehr Antworten, wie lange sie brauchten, als sie Prüfungen hat: mindestens so viele Prüfungen angeben</translation>
+    </message>
+    <message>
+        <source>the line of the history &quot;%1&quot; ended before it began: give the end as the second number, or - while it is on</source>
+        <translation>die Zeile des Verlaufs &quot;%1&quot; endete, bevor sie begann: das Ende als zweite Zahl angeben, oder - solange er andauert</translation>
     </message>
 </context>
 <context>

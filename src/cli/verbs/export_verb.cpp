@@ -20,6 +20,7 @@ struct ExportOptions {
   bool noPasswords = false;
   bool baselines = false;
   bool withSecrets = false;
+  bool withHistory = false;
 };
 
 ListFormat formatOf(const std::string& file, const std::string& format) {
@@ -137,7 +138,8 @@ std::size_t writeList(Tool& tool, ListFormat format, const ListColumns& columns,
 
 int exportList(Tool& tool, const ExportOptions& options) {
   const ListFormat format = formatOf(options.file, options.format);
-  const ListColumns columns{.passwords = !options.noPasswords, .baselines = options.baselines};
+  const ListColumns columns{
+      .passwords = !options.noPasswords, .baselines = options.baselines, .history = options.withHistory};
   Console& console = tool.console();
   const std::vector<ListedChannel> channels = channelsOf(tool, format, options.withSecrets);
   if (options.file == kStream) {
@@ -175,12 +177,14 @@ Verb exportVerb() {
         .oneOf = {"csv", "json"}},
        {"--no-passwords", &options->noPasswords, "Leave the passwords out; an import then keeps those stored"},
        {"--with-secrets", &options->withSecrets, "Write the passwords and tokens of the channels as well, in clear"},
-       {"--baselines", &options->baselines, "Write the pages that the sites are compared with as well"}},
+       {"--baselines", &options->baselines, "Write the pages that the sites are compared with as well"},
+       {"--with-history", &options->withHistory,
+        "Write the history of each site as well: its hours, days and months, and its outages"}},
       "The file holds what has been set for each site, with its POST variables, and as JSON the channels; what checks "
-      "have found is not part "
-      "of it. Only you can read it, and one that is there already is replaced when the new one is complete.\n" +
+      "have found is part of it only where the history is wanted. Only you can read it, and one that is there already "
+      "is replaced when the new one is complete.\n" +
           examples({{"export sites.csv", "for a spreadsheet, or for another computer"},
-                    {"export --baselines sites.json", "a copy of the whole list"},
+                    {"export --baselines --with-history sites.json", "a copy of the whole list"},
                     {"export - --format json --no-passwords", "to standard output"}}),
       [options](Tool& tool) { return exportList(tool, *options); }};
 }

@@ -124,6 +124,9 @@ std::vector<std::string> channelNames(const ImportPlan& plan) {
 
 void tellJson(Tool& tool, const ImportPlan& plan, const ReadList& file, const ImportVerbOptions& options) {
   JsonValue json = jsonOf(tool.fields(), plan, options.dryRun);
+  if (const HistoryTaken history = plan.history(); history.sites > 0) {
+    json["history"] = JsonValue{{"sites", history.sites}, {"hours", history.hours}, {"outages", history.outages}};
+  }
   if (plan.optionsOfAll) {
     json["optionsOfAll"] = optionsJson(*plan.optionsOfAll);
   }
@@ -178,6 +181,11 @@ void tell(Tool& tool, const ImportPlan& plan, const ReadList& file, const Import
   };
   console.tell(part(add, "add", "added") + part(change, "change", "changed") + part(remove, "delete", "deleted") +
                std::to_string(plan.unchanged) + " unchanged.");
+  if (const HistoryTaken history = plan.history(); history.sites > 0) {
+    console.tell(std::string(options.dryRun ? "The history would be taken in, too" : "The history is taken in, too") +
+                 " (sites: " + std::to_string(history.sites) + ", hours: " + std::to_string(history.hours) +
+                 ", outages: " + std::to_string(history.outages) + ").");
+  }
   if (const ForeignList& list = file.list.content; !list.settings.empty() || !list.log.empty()) {
     console.tell(std::string("The settings and ") + counted(list.log.size(), " result", " results") + " of the log " +
                  (options.dryRun ? "would be taken, too." : "are taken, too."));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/foreign/list_packing.h"
 
+#include <chrono>
 #include <cstdint>
 #include <cstring>
 #include <stdexcept>
@@ -192,6 +193,58 @@ void pack(Way& way, ListedBaseline& kept) {
   kept.origin = isFurther ? BaselineOrigin::also : BaselineOrigin::replaced;
 }
 
+template <typename Way, typename Number, typename Unit>
+void pack(Way& way, std::chrono::duration<Number, Unit>& time) {
+  Number count = time.count();
+  pack(way, count);
+  time = std::chrono::duration<Number, Unit>(count);
+}
+
+template <typename Way>
+void pack(Way& way, Moment& moment) {
+  auto time = moment.time_since_epoch();
+  pack(way, time);
+  moment = Moment(time);
+}
+
+template <typename Way>
+void pack(Way& way, LatestCheck& check) {
+  pack(way, check.at);
+  pack(way, check.up);
+  pack(way, check.until);
+}
+
+template <typename Way>
+void pack(Way& way, KnownTime& row) {
+  pack(way, row.time.from);
+  pack(way, row.time.until);
+  pack(way, row.sum.checks);
+  pack(way, row.sum.up);
+  pack(way, row.sum.down);
+  pack(way, row.sum.tookInAll);
+  pack(way, row.sum.slowest);
+  std::string latency = row.sum.latency.packed();
+  pack(way, latency);
+  row.sum.latency = Latency::unpacked(latency);
+}
+
+template <typename Way>
+void pack(Way& way, Outage& outage) {
+  pack(way, outage.began);
+  pack(way, outage.ended);
+  pack(way, outage.checks);
+  pack(way, outage.cause);
+}
+
+template <typename Way>
+void pack(Way& way, KeptHistory& history) {
+  pack(way, history.latest);
+  pack(way, history.hours);
+  pack(way, history.days);
+  pack(way, history.months);
+  pack(way, history.outages);
+}
+
 template <typename Way>
 void pack(Way& way, ListedSite& site) {
   pack(way, site.line);
@@ -204,6 +257,7 @@ void pack(Way& way, ListedSite& site) {
   pack(way, site.rules);
   pack(way, site.tags);
   pack(way, site.kept);
+  pack(way, site.history);
   pack(way, site.state);
   pack(way, site.given);
 }

@@ -2,6 +2,8 @@
 #include "exchange/list/site_import.h"
 
 #include <algorithm>
+#include <charconv>
+#include <chrono>
 #include <limits>
 #include <unordered_map>
 #include <utility>
@@ -40,6 +42,14 @@ class Merge {
 std::string fetchedForm(const std::string& url) {
   const auto address = parseAddress(url);
   return address ? address->url : url;
+}
+
+/// None of one that another tool has stored as no number.
+std::chrono::seconds intervalOf(const SiteDraft& site) {
+  const std::string& text = site.tInterval;
+  int minutes = 0;
+  std::from_chars(text.data(), text.data() + text.size(), minutes);
+  return std::chrono::minutes(minutes);
 }
 
 /// Whether alerts can be mailed to it, be it by a stricter rule no address.
@@ -143,6 +153,7 @@ class ImportPlanner::Plan {
     if (!site.given.has(list_name::method) && !site.postVars.empty()) {
       site.site.method = "post";
     }
+    site.history = missingIn({}, site.history, intervalOf(site.site));
     check(site);
     ImportStep step{Action::add, site.idSite.value_or(0), {}, site.given};
     step.listed = std::move(site);
@@ -172,6 +183,12 @@ class ImportPlanner::Plan {
     }
     if (site.given.has(list_name::kept)) {
       merge.take(list_name::kept, site.kept, data_.listedBaselines(step.idSite));
+    }
+    if (site.given.has(list_name::history)) {
+      site.history = missingIn(readHistory(data_.database(), step.idSite), site.history, intervalOf(site.site));
+      if (!site.history.none()) {
+        step.fields.set(list_name::history);
+      }
     }
     check(site);
     if (step.fields.none()) {
@@ -277,6 +294,7 @@ void storeListed(m& data, const ImportStep& step) {
   if (step.fields.has(list_name::kept)) {
     data.storeBaselines(step.idSite, step.listed.kept);
   }
+  storeHistory(data.database(), step.idSite, step.listed.history);
   if (!step.fields.has(list_name::baseline)) {
     return;
   }
@@ -298,6 +316,17 @@ void store(m& data, const ImportStep& step) {
 }
 
 }  // namespace
+
+HistoryTaken ImportPlan::history() const {
+  HistoryTaken taken;
+  for (const ImportStep& step : steps) {
+    const KeptHistory& history = step.listed.history;
+    taken.sites += history.none() ? 0 : 1;
+    taken.hours += history.hours.size();
+    taken.outages += history.outages.size();
+  }
+  return taken;
+}
 
 std::size_t ImportPlan::count(Action action) const {
   return static_cast<std::size_t>(std::ranges::count(steps, action, &ImportStep::action));

@@ -46,6 +46,13 @@ struct ImportStep {
   ListFields fields;
 };
 
+/// How much of the history an import adds or puts in place of less.
+struct HistoryTaken {
+  std::size_t sites = 0;
+  std::size_t hours = 0;
+  std::size_t outages = 0;
+};
+
 struct ImportPlan {
   /// The sites of the file in its order, without those that stay as they are, and then those that are deleted.
   std::vector<ImportStep> steps;
@@ -61,6 +68,7 @@ struct ImportPlan {
   ListFaults doubts;
 
   std::size_t count(ImportStep::Action action) const;
+  HistoryTaken history() const;
 };
 
 /// Finds out what an import would do, a piece at a time, so that others are not held up by a long list. REQUIRES: a

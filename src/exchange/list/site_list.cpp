@@ -42,6 +42,7 @@ ListForm::ListForm(const Fields& fields) : fields_(fields) {
   all_.push_back({std::string(list_name::rules), rules});
   all_.push_back({std::string(list_name::tags), tags});
   all_.push_back({std::string(list_name::kept), kept});
+  all_.push_back({std::string(list_name::history), history});
 }
 
 const ListField* ListForm::find(std::string_view name) const {

@@ -19,6 +19,7 @@
 #include "store/baselines.h"
 #include "store/channels.h"
 #include "store/fields.h"
+#include "store/kept_history.h"
 #include "store/site_options.h"
 #include "store/site_tags.h"
 
@@ -27,7 +28,7 @@ namespace tarnwick {
 /// What a file of the list of sites tells of a site: a column of CSV, a member of a JSON object. What checks have found
 /// is no part of it.
 struct ListField {
-  enum class Role { idSite, siteField, postVars, baseline, options, rules, tags, kept };
+  enum class Role { idSite, siteField, postVars, baseline, options, rules, tags, kept, history };
 
   std::string name;
   Role role = Role::siteField;
@@ -66,6 +67,7 @@ inline constexpr std::string_view options = "options";
 inline constexpr std::string_view rules = "rules";
 inline constexpr std::string_view tags = "tags";
 inline constexpr std::string_view kept = "baselines";
+inline constexpr std::string_view history = "history";
 }  // namespace list_name
 
 /// Fields of a file, by their names.
@@ -104,6 +106,8 @@ struct ListedSite {
   Tags tags;
   /// The earlier and further baselines.
   std::vector<ListedBaseline> kept;
+  /// How it has been.
+  KeptHistory history;
   /// What checks have found, of a site that comes from another database; it counts for a site that is added.
   std::optional<CheckedState> state{};
   /// What the file tells of the site.
@@ -116,6 +120,7 @@ inline constexpr std::size_t sites = 32767;     ///< there are no more ids
 inline constexpr std::size_t fields = 1000;     ///< of a row of CSV
 inline constexpr std::size_t members = 100;     ///< of a JSON object
 inline constexpr std::size_t elements = 10000;  ///< of a JSON array, and variables of a site
+inline constexpr std::size_t lines = 1000000;   ///< of the history of a site: a century of hours
 }  // namespace list_bound
 
 /// The fault of a file with more sites.
@@ -206,12 +211,14 @@ struct ListColumns {
   /// The same of tags, and with `baselines` of earlier and further ones.
   bool tags = false;
   bool kept = false;
+  bool history = false;
 
   bool has(const ListField& field) const {
     return (field.field == nullptr || field.field->kind != FieldKind::secret || passwords) &&
            (field.role != ListField::Role::baseline || baselines) &&
            (field.role != ListField::Role::options || options) && (field.role != ListField::Role::rules || rules) &&
-           (field.role != ListField::Role::tags || tags) && (field.role != ListField::Role::kept || kept);
+           (field.role != ListField::Role::tags || tags) && (field.role != ListField::Role::kept || kept) &&
+           (field.role != ListField::Role::history || history);
   }
 };
 

@@ -8,6 +8,7 @@
 #include "base/base64.h"
 #include "base/decode_error.h"
 #include "exchange/list/site_list_csv_records.h"
+#include "exchange/list/site_list_history.h"
 #include "exchange/list/site_list_post_vars.h"
 
 namespace tarnwick {
@@ -85,6 +86,9 @@ class CsvSite {
         });
       case ListField::Role::kept:
         return readEach(list_name::kept, '\n', text, [this](auto line) { values_.kept(site_.kept, line); });
+      case ListField::Role::history:
+        return readEach(list_name::history, '\n', text,
+                        [this](auto line) { readHistoryLine(site_.history, line, values_); });
       case ListField::Role::siteField:
         return readValue(*field.field, text);
     }

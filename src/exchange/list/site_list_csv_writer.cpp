@@ -3,6 +3,7 @@
 
 #include "base/base64.h"
 #include "exchange/list/site_list_csv.h"
+#include "exchange/list/site_list_history.h"
 #include "exchange/list/site_list_post_vars.h"
 
 namespace tarnwick {
@@ -89,6 +90,8 @@ class CsvWriter final : public SiteListWriter {
         return joined(site.tags, " ");
       case ListField::Role::kept:
         return keptOf(site.kept);
+      case ListField::Role::history:
+        return joined(linesOf(site.history), "\n");
       case ListField::Role::siteField:
         break;
     }

@@ -40,6 +40,7 @@ class ValueBuilder {
     const auto* const array = container.as<JsonValue::Array>();
     return array != nullptr ? array->size() : container.as<JsonValue::Object>()->size();
   }
+  const std::string& lastKey() const { return key_; }
   bool isArray() const { return open_.back()->as<JsonValue::Array>() != nullptr; }
   /// False when the object has such a member already.
   bool key(std::string name) {
@@ -241,8 +242,9 @@ class ListHandler final : public nlohmann::json_sax<Json> {
   }
 
   bool fullArray() {
-    return builder_.isArray() && builder_.size() == list_bound::elements &&
-           !tooMuch("an array of more than " + std::to_string(list_bound::elements) + " values");
+    const std::size_t most = builder_.lastKey() == list_name::history ? list_bound::lines : list_bound::elements;
+    return builder_.isArray() && builder_.size() == most &&
+           !tooMuch("an array of more than " + std::to_string(most) + " values");
   }
 
   bool misplaced() {

@@ -4,6 +4,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "exchange/list/site_list_history.h"
+
 namespace tarnwick {
 namespace {
 
@@ -45,6 +47,9 @@ class JsonSite {
       case ListField::Role::kept:
         return readTexts(field, value, R"(baselines is no array: give it as an export writes it)",
                          [this](const std::string& text) { values_.kept(site_.kept, text); });
+      case ListField::Role::history:
+        return readTexts(field, value, R"(history is no array: give it as an export writes it)",
+                         [this](const std::string& text) { readHistoryLine(site_.history, text, values_); });
       case ListField::Role::baseline:
         if (auto bytes = text(field.name, value)) {
           keep(field, site_.baseline, values_.baseline(std::move(*bytes)));

@@ -4,6 +4,7 @@
 #include "exchange/json/json_text.h"
 #include "exchange/list/site_facts.h"
 #include "exchange/list/site_list_channels.h"
+#include "exchange/list/site_list_history.h"
 #include "exchange/list/site_list_json.h"
 
 namespace tarnwick {
@@ -43,6 +44,14 @@ class JsonWriter final : public SiteListWriter {
     return json;
   }
 
+  static JsonValue historyJson(const KeptHistory& history) {
+    JsonValue json = JsonValue::array();
+    for (const std::string& line : linesOf(history)) {
+      json.add(jsonText(line));
+    }
+    return json;
+  }
+
   static JsonValue valueOfField(const ListField& field, const ListedSite& site) {
     switch (field.role) {
       case ListField::Role::idSite:
@@ -59,6 +68,8 @@ class JsonWriter final : public SiteListWriter {
         return tagsJson(site.tags);
       case ListField::Role::kept:
         return keptJson(site.kept);
+      case ListField::Role::history:
+        return historyJson(site.history);
       case ListField::Role::siteField:
         break;
     }

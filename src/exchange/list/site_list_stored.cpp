@@ -40,6 +40,9 @@ void readListedSites(m& data, ListColumns columns, const std::function<void(cons
     if (columns.kept) {
       site.kept = data.listedBaselines(id);
     }
+    if (columns.history) {
+      site.history = readHistory(data.database(), id);
+    }
     if (columns.baselines) {
       site.baseline = data.getContentCompare(id);
     }

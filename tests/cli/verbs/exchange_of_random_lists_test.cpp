@@ -8,6 +8,7 @@
 
 #include "cli/support/tool_fixture.h"
 #include "program/site_draft.h"
+#include "store/site_history.h"
 #include "support/fresh_seed.h"
 
 namespace tarnwick::testing {
@@ -97,6 +98,21 @@ class ExchangeOfRandomLists : public ToolFixture, public ::testing::WithParamInt
       data.updateContentCompare(id, page());
     }
     storeRandomOptions(data, id);
+    checkAtRandom(data, id);
+  }
+  /// As a run would, over some days.
+  void checkAtRandom(m& data, std::int16_t id) {
+    SiteHistory history(data.database());
+    ASSERT_TRUE(history.canBeKept());
+    Moment at(std::chrono::seconds(1'795'000'000 + dice_.below(1'000'000)));
+    Transaction whole(data.database());
+    for (std::size_t left = dice_.below(60); left > 0; --left) {
+      const bool up = !dice_.oneIn(3);
+      history.take(id, {.check = {at, up, up ? "" : text(true), std::chrono::milliseconds(dice_.below(60'000))},
+                        .interval = std::chrono::minutes(dice_.between(1, 200))});
+      at += std::chrono::seconds(dice_.below(30'000));
+    }
+    whole.commit();
   }
   void fill(const ProgramFolder& list) {
     m data(list.path(), machine.services());
@@ -136,13 +152,14 @@ TEST_P(ExchangeOfRandomLists, ExportAndImportAreTheIdentity) {
     from.laySitesAsOneTable();
   }
   fill(from);
-  ASSERT_EQ(run({"--folder", from.path(), "export", file(from), "--baselines"}), exit_status::ok) << err;
+  ASSERT_EQ(run({"--folder", from.path(), "export", file(from), "--baselines", "--with-history"}), exit_status::ok)
+      << err;
   EXPECT_EQ(err, "");
 
   const ProgramFolder to(ProgramFolder::Options::recommended);
   ASSERT_EQ(run({"--folder", to.path(), "import", file(from)}), exit_status::ok) << err;
   EXPECT_EQ(contents(to), contents(from));
-  ASSERT_EQ(run({"--folder", to.path(), "export", file(to), "--baselines"}), exit_status::ok) << err;
+  ASSERT_EQ(run({"--folder", to.path(), "export", file(to), "--baselines", "--with-history"}), exit_status::ok) << err;
   EXPECT_EQ(bytesOf(file(to)), bytesOf(file(from)));
 
   // Over a list of others: these go, and what is the same already is left alone.

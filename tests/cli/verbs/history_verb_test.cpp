@@ -66,6 +66,32 @@ TEST_F(HistoryVerb, WritesCsvAndPictures) {
   EXPECT_NE(run({"history", "1", "--csv", "--json"}), exit_status::ok);
 }
 
+TEST_F(HistoryVerb, GoesIntoAnExportOnWishAndOutOfIt) {
+  const std::string file = folder.file("sites.json");
+  EXPECT_EQ(run({"export", file}), exit_status::ok);
+  EXPECT_THAT(bytesOfFile(file), ::testing::Not(HasSubstr("\"history\":[")));
+  EXPECT_EQ(run({"export", file, "--with-history"}), exit_status::ok);
+  EXPECT_EQ(run({"history", "1", "--csv"}), exit_status::ok);
+  const std::string before = out;
+
+  EXPECT_EQ(run({"delete", "1", "2", "--yes"}), exit_status::ok) << err;
+  const std::string taken = "(sites: 1, hours: 2, outages: 1).\n";
+  EXPECT_EQ(run({"import", file, "--dry-run"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("The history would be taken in, too " + taken));
+  EXPECT_EQ(runJson({"import", file, "--dry-run", "--json"})["history"],
+            Json::parse(R"({"sites": 1, "hours": 2, "outages": 1})"));
+  EXPECT_EQ(run({"import", file}), exit_status::ok) << err;
+  EXPECT_THAT(out, HasSubstr("The history is taken in, too " + taken));
+  EXPECT_EQ(run({"history", "1", "--csv"}), exit_status::ok);
+  EXPECT_EQ(out, before);
+
+  EXPECT_EQ(run({"import", file}), exit_status::ok);
+  EXPECT_EQ(out, "0 added, 0 changed, 0 deleted, 2 unchanged.\n");
+  folder.execute("delete from outages");
+  EXPECT_EQ(run({"import", file, "--dry-run"}), exit_status::ok);
+  EXPECT_THAT(out, HasSubstr("change 1 http://a.example/ (history)\n"));
+}
+
 TEST_F(HistoryVerb, SaysWhenNoneIsKept) {
   folder.execute("delete from siteOptions");
   EXPECT_EQ(run({"history", "1"}), exit_status::ok);

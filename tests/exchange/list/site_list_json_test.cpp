@@ -167,6 +167,53 @@ TEST_F(SiteListJson, HoldsNoMoreVariablesThanAFormHas) {
   EXPECT_EQ(faultsOfSites("{\"url\": \"a\", \"postVars\": [" + many(10000, variable) + "]}"), "");
 }
 
+std::string siteWithHistory(const std::string& lines) { return R"({"url": "http://a/", "history": [)" + lines + "]}"; }
+
+TEST_F(SiteListJson, WritesAHistoryAsItReadsIt) {
+  const std::string lines =
+      R"("latest 1795447390 down 1795447400","hour 1795446000 6 2400 600 1290 645 OAEEAg==","hour 1795449600 1 0 3600 0 0",)"
+      R"("day 1795388400 86400 144 86400 0 0 0","month 1793487600 2592000 4000 2592000 0 10 5",)"
+      R"("outage 1795440000 1795440900 2 No answer: \"x\" within 60 s","outage 1795447000 - 3")";
+  const auto sites = read("{\"tarnwick\": 1, \"sites\": [" + siteWithHistory(lines) + "]}");
+  ASSERT_EQ(sites.size(), 1U) << faultsOfSites(siteWithHistory(lines));
+  EXPECT_EQ(sites[0].history.hours.size(), 2U);
+  EXPECT_EQ(sites[0].history.hours[0].sum.down, std::chrono::seconds(600));
+  EXPECT_EQ(sites[0].history.outages[0].cause, "No answer: \"x\" within 60 s");
+  EXPECT_EQ(sites[0].history.outages[1].ended, std::nullopt);
+  EXPECT_THAT(written(sites, {.history = true}), HasSubstr("\"history\":[" + lines + "]"));
+  EXPECT_THAT(written(sites), ::testing::Not(HasSubstr("history")));
+}
+
+TEST_F(SiteListJson, TellsWhatIsWrongWithAHistory) {
+  const auto faultOf = [&](const std::string& line) { return faultsOfSites(siteWithHistory('"' + line + '"')); };
+  for (const char* const line :
+       {"", "hour", "hour 1795446000", "hour 1795446000 6 2400 600 1290", "hour x 6 2400 600 1290 645",
+        "hour 1795446000 -6 2400 600 1290 645", "hour 1795446000 6 2400 600 1290 645 OAEEAg==x",
+        "hour 1795446000 6 2400 600 1290 645 /////w==", "hour 1795446000  6 2400 600 1290 645", "Hour 1795446000",
+        "latest 1795447390", "latest 1795447390 so", "latest 1795447390 up 7 7", "outage 1795447000", "outage 7 x 3",
+        "outage 7 - 99999999999", "minute 1795446000 6 2400 600 1290 645", "hour 999999999999999 6 2400 600 1290 645",
+        "hour 99999999999999999999 6 2400 600 1290 645"}) {
+    EXPECT_EQ(faultOf(line),
+              "2: the line of the history " + quotedForMessage(line) + " is none: give it as an export writes it\n");
+  }
+  EXPECT_THAT(faultOf("hour 1795446001 6 2400 600 0 0"), HasSubstr(" begins at no full hour of any clock: give "));
+  EXPECT_THAT(faultOf("hour 1795446000 6 2400 1201 0 0"),
+              HasSubstr(" was up and unknown for longer than its 3600 seconds: "));
+  EXPECT_THAT(faultOf("hour 1795446000 5 2400 600 1290 645 OAEEBw=="),
+              HasSubstr(" tells how long more answers took than it had checks: "));
+  EXPECT_THAT(faultOf("day 1795388400 97201 144 86400 0 0 0"), HasSubstr(" has 97201 seconds: give it 1 to 97200\n"));
+  EXPECT_THAT(faultOf("outage 1795440900 1795440000 2"), HasSubstr(" ended before it began: give "));
+  EXPECT_THAT(faultsOfSites(R"({"url": "a", "history": "hour"})"),
+              HasSubstr("history is no array: give it as an export writes it"));
+}
+
+TEST_F(SiteListJson, HoldsTheHoursOfManyYears) {
+  const auto hour = [](std::size_t i) { return "\"hour " + std::to_string(i * 3600) + " 1 3600 0 0 0\""; };
+  const auto sites = read("{\"tarnwick\": 1, \"sites\": [" + siteWithHistory(many(100000, hour)) + "]}");
+  ASSERT_EQ(sites.size(), 1U);
+  EXPECT_EQ(sites[0].history.hours.size(), 100000U);
+}
+
 TEST_F(SiteListJson, HoldsNoMoreSitesThanThereAreIds) {
   const auto site = [](std::size_t) { return std::string(R"({"url":"a"})"); };
   EXPECT_EQ(faultsOfSites(many(32767, site)), "");
