@@ -70,7 +70,7 @@ NO_MESSAGES = {
     "src/platform/web/mail_text.cpp": ("the form of a mail", ("\r\nContent-", "; charset=")),
     "src/platform/secrets/secret_file.cpp": ("the heading of the file", ("# Passwords and",)),
     "src/ui/exchange/addresses_dialog.cpp": ("labels; the guide explains the window", ("Addresses, &one", "Paste or type")),
-    "src/ui/exchange/export_list.cpp": ("the kinds of files", ("CSV, for", "JSON, with")),
+    "src/ui/exchange/export_dialog.cpp": ("the kinds of files, and labels", ("CSV, for", "JSON, with", "CSV is", "What is set")),
     "src/ui/rows/row_actions.cpp": ("what was done, and what undoing it is called; the guide explains both",
                                     ("%1 sites were", "&Undo Delete", "Putting sites back")),
     "src/ui/rows/sites_dialog.cpp": ("what a change would change; the guide explains it",

@@ -6423,23 +6423,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Exported 1 site to %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Exported %1 sites to %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Do You Want To Replace The File %1?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>CSV, for a spreadsheet</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>JSON, with all that is set</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -7956,6 +7940,69 @@ and when it is back</source>
     </message>
     <message>
         <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ExportDialog</name>
+    <message>
+        <source>Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Passwords of the sites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Baselines: the pages that they are compared with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;History: when they were up or down, and how fast</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV is for a spreadsheet. JSON has the channels, too, without their passwords and tokens.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Choose File…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is set for each site is in the file, and on wish:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV, for a spreadsheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON, with all that is set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exported 1 site to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exported %1 sites to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

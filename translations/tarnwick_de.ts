@@ -5133,7 +5133,7 @@
     </message>
     <message>
         <source>the line of the history &quot;%1&quot; was up and unknown for longer than its %2 seconds: the two together are as much at most</source>
-        <translation>die Zeile des Verlaufs &quot;%1&quot; war länger oben und unbekannt als ihre %2 Sekunden: beides zusammen ist höchstens so viel</translation>
+        <translation>die Zeile des Verlaufs &quot;%1&quot; war länger erreichbar und unbekannt als ihre %2 Sekunden: beides zusammen ist höchstens so viel</translation>
     </message>
     <message>
         <source>the line of the history &quot;%1&quot; tells how long more answers took than it had checks: give it as many checks at least</source>
@@ -6423,24 +6423,8 @@
         <translation>nur das Protokoll nennt vergangene Prüfungen</translation>
     </message>
     <message>
-        <source>Exported 1 site to %1</source>
-        <translation>1 Seite ausgegeben nach %1</translation>
-    </message>
-    <message>
-        <source>Exported %1 sites to %2</source>
-        <translation>%1 Seiten ausgegeben nach %2</translation>
-    </message>
-    <message>
         <source>Do You Want To Replace The File %1?</source>
         <translation>Möchten Sie die Datei %1 ersetzen?</translation>
-    </message>
-    <message>
-        <source>CSV, for a spreadsheet</source>
-        <translation>CSV, für eine Tabellenkalkulation</translation>
-    </message>
-    <message>
-        <source>JSON, with all that is set</source>
-        <translation>JSON, mit allem, was eingestellt ist</translation>
     </message>
     <message>
         <source>&amp;Add Addresses…</source>
@@ -7958,6 +7942,69 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>tarnwick::ExportDialog</name>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Passwords of the sites</source>
+        <translation>&amp;Passwörter der Seiten</translation>
+    </message>
+    <message>
+        <source>&amp;Baselines: the pages that they are compared with</source>
+        <translation>&amp;Basen: die Seiten, mit denen sie verglichen werden</translation>
+    </message>
+    <message>
+        <source>&amp;History: when they were up or down, and how fast</source>
+        <translation>&amp;Verlauf: wann sie erreichbar oder gestört waren, und wie schnell</translation>
+    </message>
+    <message>
+        <source>CSV is for a spreadsheet. JSON has the channels, too, without their passwords and tokens.</source>
+        <translation>CSV ist für Tabellenkalkulationen. JSON enthält auch die Kanäle, ohne ihre Passwörter und Token.</translation>
+    </message>
+    <message>
+        <source>Writing the file</source>
+        <translation>Datei wird geschrieben</translation>
+    </message>
+    <message>
+        <source>&amp;Choose File…</source>
+        <translation>&amp;Datei wählen…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>What is set for each site is in the file, and on wish:</source>
+        <translation>In der Datei steht, was für jede Seite eingestellt ist, und auf Wunsch:</translation>
+    </message>
+    <message>
+        <source>CSV, for a spreadsheet</source>
+        <translation>CSV, für eine Tabellenkalkulation</translation>
+    </message>
+    <message>
+        <source>JSON, with all that is set</source>
+        <translation>JSON, mit allem, was eingestellt ist</translation>
+    </message>
+    <message>
+        <source>Sites written: %1</source>
+        <translation>Geschriebene Seiten: %1</translation>
+    </message>
+    <message>
+        <source>Exported 1 site to %1</source>
+        <translation>1 Seite exportiert nach %1</translation>
+    </message>
+    <message>
+        <source>Exported %1 sites to %2</source>
+        <translation>%1 Seiten exportiert nach %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>

@@ -15,7 +15,7 @@
 #include "platform/terminal.h"
 #include "program/fault_box.h"
 #include "ui/exchange/addresses_dialog.h"
-#include "ui/exchange/export_list.h"
+#include "ui/exchange/export_dialog.h"
 #include "ui/exchange/import_dialog.h"
 #include "ui/main_window/master.h"
 #include "ui/main_window/tray_icon.h"

@@ -5,6 +5,7 @@
 #include <random>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "base/errors.h"
 #include "base/text.h"
@@ -24,6 +25,45 @@ std::u8string wellFormed(std::string_view text) {
   }
   return {repaired.begin(), repaired.end()};
 }
+
+/// Made beside its place, since a file can be renamed within its folder only. Errors name the place.
+class FileForPlace final : public FileInTheMaking {
+ public:
+  FileForPlace(FileSystem& files, std::string place)
+      : files_(files), place_(std::move(place)), unfinished_(files.unusedNameBeside(place_)) {
+    tellPlace([&] { file_ = files_.make(unfinished_, {}); });
+  }
+
+  void write(std::string_view bytes) override {
+    tellPlace([&] { file_->write(bytes); });
+  }
+  void complete() override {
+    tellPlace([&] {
+      file_->complete();
+      try {
+        files_.rename(unfinished_, place_);
+      } catch (const FileError&) {
+        files_.remove(unfinished_);
+        throw;
+      }
+    });
+  }
+
+ private:
+  template <typename Step>
+  void tellPlace(Step step) {
+    try {
+      step();
+    } catch (const FileError& error) {
+      throw FileError(error.path() == unfinished_ ? place_ : error.path(), error.cause());
+    }
+  }
+
+  FileSystem& files_;
+  std::string place_;
+  std::string unfinished_;
+  std::unique_ptr<FileInTheMaking> file_;
+};
 
 }  // namespace
 
@@ -89,6 +129,13 @@ void FileSystem::writePrivately(const std::string& path, const FileFill& fill) {
     default:
       putInPlace(path, {}, fill);
   }
+}
+
+std::unique_ptr<FileInTheMaking> FileSystem::beginPrivately(const std::string& path) {
+  if (exists(path)) {
+    sizeOf(path);  // which refuses what is no plain file
+  }
+  return std::make_unique<FileForPlace>(*this, resolveLinks(path));
 }
 
 void FileSystem::putInPlace(const std::string& path, const std::string& like, const FileFill& fill) {

@@ -34,6 +34,15 @@ class OpenedFile {
   virtual void read(std::string& bytes, std::size_t size) = 0;
 };
 
+/// A file that is being made. One that was not completed goes with this object.
+class FileInTheMaking {
+ public:
+  virtual ~FileInTheMaking() = default;
+  virtual void write(std::string_view bytes) = 0;
+  /// The file is on the disk, whole and in its place, when this returns; nothing is written after it.
+  virtual void complete() = 0;
+};
+
 /// What a disk has of room, in bytes.
 struct DiskRoom {
   std::uint64_t free = 0;  ///< what this user may still take of it
@@ -58,6 +67,9 @@ class FileSystem {
   virtual bool isSameFile(const std::string& one, const std::string& other) = 0;
   virtual std::unique_ptr<OpenedFile> open(const std::string& path) = 0;
 
+  /// Begins to make the file `path`, in place of what stands there. It gets the permissions of the file `like`, or can
+  /// be read by its owner alone when that is empty, from the first moment on.
+  virtual std::unique_ptr<FileInTheMaking> make(const std::string& path, const std::string& like) = 0;
   /// Makes the file `path`, or replaces what stands there, of the bytes that `fill` hands to its sink. It gets the
   /// permissions of the file `like`, or can be read by its owner alone when that is empty, from the first moment on; it
   /// is on the disk when this returns. A file that cannot be completed, or whose `fill` raises something, is removed
@@ -97,6 +109,9 @@ class FileSystem {
   /// a whole, and only when it is complete. Behind a link it is the file that the link leads to; what is no file, as a
   /// pipe, is written to as it is.
   void writePrivately(const std::string& path, const FileFill& fill);
+  /// The same for who has not all of it at once. What stands there stays until it is complete; only a file is replaced.
+  /// This object outlives it.
+  std::unique_ptr<FileInTheMaking> beginPrivately(const std::string& path);
 
  private:
   /// Makes a file by `write`, which then takes the place of `path` or of the file that this leads to.

@@ -14,6 +14,7 @@ class LocalFiles : public FileSystem {
   std::uint64_t sizeOf(const std::string& path) override;
   bool isSameFile(const std::string& one, const std::string& other) override;
   std::unique_ptr<OpenedFile> open(const std::string& path) override;
+  std::unique_ptr<FileInTheMaking> make(const std::string& path, const std::string& like) override;
   void write(const std::string& path, const std::string& like, const FileFill& fill) override;
   void overwrite(const std::string& path, FileRest rest, const FileFill& fill) override;
   void rename(const std::string& from, const std::string& to) override;

@@ -7,9 +7,20 @@
 #include "exchange/list/site_facts.h"
 #include "exchange/list/site_list_csv.h"
 #include "exchange/list/site_list_json.h"
-#include "exchange/list/site_list_stored.h"
 
 namespace tarnwick {
+namespace {
+
+/// Whether options are columns is of the same state as the options, whoever sets one meanwhile.
+ListColumns withWhatIsSet(m& data, ListColumns columns) {
+  columns.options = hasOptions(data);
+  columns.rules = hasRules(data);
+  columns.tags = hasTags(data);
+  columns.kept = columns.baselines && hasKeptBaselines(data);
+  return columns;
+}
+
+}  // namespace
 
 std::optional<ListFormat> listFormatOf(const std::string& file) {
   const std::string end = lowerCase(file.substr(std::min(file.rfind('.'), file.size())));
@@ -18,27 +29,36 @@ std::optional<ListFormat> listFormatOf(const std::string& file) {
                           : std::nullopt;
 }
 
+SiteListExport::SiteListExport(m& data, ListFormat format, ListColumns columns,
+                               const std::vector<ListedChannel>& channels, const ByteSink& sink)
+    : columns_(withWhatIsSet(data, columns)),
+      writer_(format == ListFormat::csv ? makeCsvWriter(columns_, sink, data.fields())
+                                        : makeJsonWriter(columns_, sink, data.fields())),
+      sites_(data, columns_) {
+  writer_->begin(columns_.options ? knownOptions(data, kAllSites) : OptionValues(), channels);
+}
+
+bool SiteListExport::next(const std::function<void(const ListedSite& site)>& look) {
+  const auto site = sites_.next();
+  if (!site) {
+    writer_->end();
+    return false;
+  }
+  writer_->add(*site);
+  if (look) {
+    look(*site);
+  }
+  ++count_;
+  return true;
+}
+
 std::size_t writeSiteList(m& data, ListFormat format, ListColumns columns, const std::vector<ListedChannel>& channels,
                           const ByteSink& sink, const std::function<void(const ListedSite& site)>& look) {
-  // Whether options are columns is of the same state as the options, whoever sets one meanwhile.
   const Snapshot oneState(data.database());
-  columns.options = hasOptions(data);
-  columns.rules = hasRules(data);
-  columns.tags = hasTags(data);
-  columns.kept = columns.baselines && hasKeptBaselines(data);
-  const auto writer = format == ListFormat::csv ? makeCsvWriter(columns, sink, data.fields())
-                                                : makeJsonWriter(columns, sink, data.fields());
-  std::size_t count = 0;
-  writer->begin(columns.options ? knownOptions(data, kAllSites) : OptionValues(), channels);
-  readListedSites(data, columns, [&](const ListedSite& site) {
-    writer->add(site);
-    if (look) {
-      look(site);
-    }
-    ++count;
-  });
-  writer->end();
-  return count;
+  SiteListExport list(data, format, columns, channels, sink);
+  while (list.next(look)) {
+  }
+  return list.count();
 }
 
 }  // namespace tarnwick

@@ -68,6 +68,7 @@ class CsvWriter final : public SiteListWriter {
   // One a line.
   static std::string keptOf(const std::vector<ListedBaseline>& baselines) {
     std::vector<std::string> lines;
+    lines.reserve(baselines.size());
     for (const ListedBaseline& baseline : baselines) {
       lines.push_back(tarnwick::textOf(baseline));
     }

@@ -2,6 +2,8 @@
 #include "exchange/list/site_list_stored.h"
 
 #include <algorithm>
+#include <iterator>
+#include <string_view>
 #include <utility>
 
 #include "base/sql_value.h"
@@ -19,43 +21,45 @@ SiteDraft listedForm(SiteDraft stored) {
   return stored;
 }
 
-void readListedSites(m& data, ListColumns columns, const std::function<void(const ListedSite& site)>& take) {
-  std::vector<SiteFacts> stored = readSiteFacts(data);
-  std::ranges::stable_sort(stored, {}, &SiteFacts::idSite);
-  for (SiteFacts& facts : stored) {
-    ListedSite site;
-    const std::int16_t id = idOf(facts);
-    site.idSite = id;
-    site.site = listedForm(std::move(facts.site));
-    site.postVars = readPostVars(data, id);
-    if (columns.options) {
-      site.options = knownOptions(data, id);
+std::optional<ListedSite> ListedSiteReader::next() {
+  if (taken_ == read_.size()) {
+    read_ = facts_.next();
+    taken_ = 0;
+    if (read_.empty()) {
+      return std::nullopt;
     }
-    if (columns.rules) {
-      site.rules = data.rulesOf(id);
-    }
-    if (columns.tags) {
-      site.tags = data.tagsOf(id);
-    }
-    if (columns.kept) {
-      site.kept = data.listedBaselines(id);
-    }
-    if (columns.history) {
-      site.history = readHistory(data.database(), id);
-    }
-    if (columns.baselines) {
-      site.baseline = data.getContentCompare(id);
-    }
-    take(site);
   }
+  SiteFacts& facts = read_[taken_++];
+  ListedSite site;
+  const std::int16_t id = idOf(facts);
+  site.idSite = id;
+  site.site = listedForm(std::move(facts.site));
+  site.postVars = readPostVars(data_, id);
+  if (columns_.options) {
+    site.options = knownOptions(data_, id);
+  }
+  if (columns_.rules) {
+    site.rules = data_.rulesOf(id);
+  }
+  if (columns_.tags) {
+    site.tags = data_.tagsOf(id);
+  }
+  if (columns_.kept) {
+    site.kept = data_.listedBaselines(id);
+  }
+  if (columns_.history) {
+    site.history = readHistory(data_.database(), id);
+  }
+  if (columns_.baselines) {
+    site.baseline = data_.getContentCompare(id);
+  }
+  return site;
 }
 
 bool hasOptions(m& data) {
-  if (!knownOptions(data, kAllSites).empty()) {
-    return true;
-  }
-  return std::ranges::any_of(readSiteFacts(data),
-                             [&](const SiteFacts& facts) { return !knownOptions(data, idOf(facts)).empty(); });
+  std::vector<std::string_view> names;
+  std::ranges::transform(data.optionFields(), std::back_inserter(names), &OptionField::name);
+  return data.optionsInForce().setsAnyOf(names);
 }
 
 bool hasTags(m& data) { return !data.tagsOfSites().empty(); }

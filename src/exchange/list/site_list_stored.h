@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
 
 #include "exchange/list/site_facts.h"
 #include "exchange/list/site_list.h"
@@ -12,9 +15,21 @@ namespace tarnwick {
 /// A stored site as a file tells of it: with the method and the interval that take effect where none is stored.
 SiteDraft listedForm(SiteDraft stored);
 
-/// Hands over the stored sites by rising id. Baselines are read one at a time, and only when they are columns: with a
-/// `Snapshot` all of it is of one state of the database. Raises DataAccessError.
-void readListedSites(m& data, ListColumns columns, const std::function<void(const ListedSite& site)>& take);
+/// The stored sites by rising id, one at a time, each with what the columns ask for. REQUIRES: a Snapshot around all of
+/// it.
+class ListedSiteReader {
+ public:
+  ListedSiteReader(m& data, const ListColumns& columns) : data_(data), columns_(columns), facts_(data) {}
+  /// Nothing when there are no more. Raises DataAccessError.
+  std::optional<ListedSite> next();
+
+ private:
+  m& data_;
+  const ListColumns columns_;
+  SiteFactsReader facts_;
+  std::vector<SiteFacts> read_{};
+  std::size_t taken_ = 0;
+};
 
 /// Whether an option is set, for a site or for all.
 bool hasOptions(m& data);

@@ -14,13 +14,44 @@ namespace {
   throw FileError(path, std::generic_category().message(cause));
 }
 
-void fillFile(std::FILE* file, const std::string& path, const FileFill& fill) {
-  fill([&](std::string_view bytes) {
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size()) {
-      fail(path, errno);
-    }
-  });
+void append(std::FILE* file, const std::string& path, std::string_view bytes) {
+  if (std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size()) {
+    fail(path, errno);
+  }
 }
+
+class NewLocalFile final : public FileInTheMaking {
+ public:
+  NewLocalFile(const std::string& path, const std::string& like) : path_(path) {
+    // Not over what stands there: who has that open, or has put a link there, would get at what only its owner may
+    // read.
+    LocalFiles().remove(path_);
+    file_ = openNewFile(path_, like);
+  }
+  ~NewLocalFile() override {
+    if (file_ == nullptr) {
+      return;
+    }
+    file_.reset();
+    try {
+      LocalFiles().remove(path_);
+    } catch (const FileError&) {
+      // What made the file useless is the more important news.
+    }
+  }
+  NewLocalFile(const NewLocalFile&) = delete;
+  NewLocalFile& operator=(const NewLocalFile&) = delete;
+
+  void write(std::string_view bytes) override { append(file_.get(), path_, bytes); }
+  void complete() override {
+    syncToDisk(file_.get(), path_);
+    file_.reset();
+  }
+
+ private:
+  std::string path_;
+  FileHandle file_;
+};
 
 class OpenedLocalFile final : public OpenedFile {
  public:
@@ -60,27 +91,19 @@ std::unique_ptr<OpenedFile> LocalFiles::open(const std::string& path) {
   return std::make_unique<OpenedLocalFile>(path);
 }
 
+std::unique_ptr<FileInTheMaking> LocalFiles::make(const std::string& path, const std::string& like) {
+  return std::make_unique<NewLocalFile>(path, like);
+}
+
 void LocalFiles::write(const std::string& path, const std::string& like, const FileFill& fill) {
-  // Not over what stands there: who has that open, or has put a link there, would get at what only its owner may read.
-  LocalFiles::remove(path);
-  FileHandle file = openNewFile(path, like);
-  try {
-    fillFile(file.get(), path, fill);
-    syncToDisk(file.get(), path);
-  } catch (...) {
-    file.reset();
-    try {
-      LocalFiles::remove(path);
-    } catch (const FileError&) {
-      // What made the file useless is the more important news.
-    }
-    throw;
-  }
+  NewLocalFile file(path, like);
+  fill([&](std::string_view bytes) { file.write(bytes); });
+  file.complete();
 }
 
 void LocalFiles::overwrite(const std::string& path, FileRest rest, const FileFill& fill) {
   FileHandle file = openFile(path, rest == FileRest::kept ? FileUse::update : FileUse::write);
-  fillFile(file.get(), path, fill);
+  fill([&](std::string_view bytes) { append(file.get(), path, bytes); });
   // A full disk may show only here.
   if (std::fclose(file.release()) != 0) {
     fail(path, errno);

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Pasted addresses come into the list after a preview, and the list goes into a file.
+// Pasted addresses come into the list after a preview.
 #include <gmock/gmock.h>
 
 #include <QPlainTextEdit>
 
-#include "support/file_bytes.h"
 #include "ui/exchange/addresses_dialog.h"
-#include "ui/exchange/export_list.h"
 #include "ui/support/dialog_fixture.h"
 
 namespace tarnwick::testing {
@@ -19,21 +17,13 @@ class AddressesTest : public DialogTest {
   AddressesTest() {
     addSite(1, "http://b.example/");
     open();
-    master->setEditors({.site = {},
-                        .settings = {},
-                        .addAddresses = addAddressesOf(master->program(), *master),
-                        .exportList = exportOf(master->program(), *master)});
+    master->setEditors({.site = {}, .settings = {}, .addAddresses = addAddressesOf(master->program(), *master)});
   }
   AddressesDialog& give(const QString& text) {
     Q_EMIT find<SiteGridView>("grid1").addressesGiven(text);
     return opened<AddressesDialog>();
   }
   static QString state(AddressesDialog& dialog) { return in<QLabel>(dialog, "addressesState").text(); }
-  void exportTo(const std::string& file) {
-    machine.prompts.answerFile(file);
-    find<QAction>("exportList").trigger();
-  }
-  std::string lastBox() { return machine.prompts.shown().back().text; }
 };
 
 TEST_F(AddressesTest, ThePreviewCountsAndTheNewOnesAreAdded) {
@@ -54,27 +44,6 @@ TEST_F(AddressesTest, WhatIsTypedIsCountedToo) {
   QTest::keyClicks(&in<QPlainTextEdit>(dialog, "addressesText"), QStringLiteral("http://d.example/"));
   EXPECT_TRUE(
       waitUntil([&] { return state(dialog) == QStringLiteral("1 address: 1 new, 0 there already, 0 are none"); }));
-}
-
-TEST_F(AddressesTest, TheListGoesIntoAFileByItsEnding) {
-  exportTo(folder.file("sites.csv"));
-  EXPECT_THAT(bytesOfFile(folder.file("sites.csv")), HasSubstr("http://b.example/"));
-  EXPECT_THAT(lastBox(), HasSubstr("Exported 1 site to "));
-  exportTo(folder.file("sites.json"));
-  EXPECT_EQ(bytesOfFile(folder.file("sites.json")).front(), '{');
-}
-
-TEST_F(AddressesTest, AnExportThatFailsLeavesNothingAndSaysSo) {
-  exportTo(folder.file("sites.txt"));
-  EXPECT_THAT(lastBox(), HasSubstr("ends neither in .csv nor in .json"));
-  exportTo(folder.file("tarnwick.mdb.csv/none/sites.csv"));
-  EXPECT_THAT(lastBox(), HasSubstr("sites.csv"));
-  EXPECT_FALSE(machine.services().files.exists(folder.file("sites.txt")));
-  writeFile(folder.file("there.csv"), "mine");
-  machine.prompts.answerConfirm(false);
-  exportTo(folder.file("there.csv"));
-  EXPECT_EQ(bytesOfFile(folder.file("there.csv")), "mine");
-  EXPECT_TRUE(machine.prompts.shown().back().destroys);
 }
 
 }  // namespace
