@@ -94,6 +94,24 @@ void ResultLog::readLog(const LogChoice& choice, const std::function<bool(const 
   }
 }
 
+LogPiece ResultLog::readLogBackwards(std::int16_t idSite, std::optional<std::int64_t> before, std::int64_t most) {
+  const auto whole = spanOf({});
+  if (!whole) {
+    return {};
+  }
+  const std::int64_t last = before ? std::min(*before - 1, whole->last) : whole->last;
+  const std::int64_t first = std::max(whole->first, last - most + 1);
+  LogPiece piece;
+  const auto rows = db_.query(
+      joinSql("select ", kFields, " from log", conditionsOf({.idSite = idSite}, first, last), " order by rowid desc"));
+  for (; !rows->eof(); rows->moveNext()) {
+    piece.rows.push_back(rowOf(*rows, false));
+  }
+  rows->close();
+  piece.before = first > whole->first ? std::optional(first) : std::nullopt;
+  return piece;
+}
+
 // Reads the next rows of `rest`, moves its beginning behind them, and only then hands them on. False at the end.
 bool ResultLog::readPiece(const LogChoice& choice, Span& rest, const std::function<bool(const LogRow&)>& take) {
   std::vector<LogRow> piece;

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/clock.h"
 #include "store/database.h"
@@ -35,6 +36,12 @@ struct LogChoice {
   bool content = false;
 };
 
+/// Some results of a site, and where in the log those before them end; nothing at its beginning.
+struct LogPiece {
+  std::vector<LogRow> rows{};
+  std::optional<std::int64_t> before{};
+};
+
 /// The log of check results, read.
 class ResultLog {
  public:
@@ -44,6 +51,10 @@ class ResultLog {
   /// few are in memory at a time, and the database is not locked while `take` works, so it may take its time. Results
   /// written meanwhile are not among them. Raises DataAccessError.
   void readLog(const LogChoice& choice, const std::function<bool(const LogRow&)>& take);
+  /// The results of the site among the next `most` of the whole log, the newest first, without their pages: from the
+  /// newest one on, or from before the place that the last piece tells. So nobody waits for a site that has few in a
+  /// long log. Raises DataAccessError.
+  LogPiece readLogBackwards(std::int16_t idSite, std::optional<std::int64_t> before, std::int64_t most);
 
  private:
   /// A part of the log, by the numbers of its rows, both ends in it.

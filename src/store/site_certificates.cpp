@@ -34,12 +34,15 @@ bool looksAtCertificate(const OptionsInForce& options, std::int64_t idSite) {
   return value && *value != option_value::off;
 }
 
-std::map<std::int64_t, SiteCertificate> SiteCertificates::certificates(const OptionsInForce& options) {
+std::map<std::int64_t, SiteCertificate> SiteCertificates::certificates(const OptionsInForce& options,
+                                                                       std::int64_t first, std::int64_t last) {
   std::map<std::int64_t, SiteCertificate> sites;
   if (!options.setsAnyOf(kOptions) || !hasTable(db_)) {
     return sites;
   }
-  const auto rows = db_.conn().execute("select idSite, began, ends, issuer, told from certificates", {});
+  const std::array<SqlValue, 2> ids{SqlValue(first), SqlValue(last)};
+  const auto rows = db_.conn().execute(
+      "select idSite, began, ends, issuer, told from certificates where idSite >= ?1 and idSite <= ?2", ids);
   for (; !rows->eof(); rows->moveNext()) {
     if (const std::int64_t id = rows->field(std::size_t{0}).toInt64(); looksAtCertificate(options, id)) {
       sites.emplace(id, certificateIn(*rows, 1));

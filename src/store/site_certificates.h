@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <map>
 #include <optional>
 #include <string>
@@ -31,9 +32,11 @@ class SiteCertificates {
  public:
   explicit SiteCertificates(Database& database) : db_(database) {}
 
-  /// Of all sites whose certificate is looked at, in one query; nothing is read where there is no such site. A site
-  /// that is not fetched over TLS, or was not yet, has none.
-  std::map<std::int64_t, SiteCertificate> certificates(const OptionsInForce& options);
+  /// Of all sites whose certificate is looked at, or of those among the ids from `first` to `last`, in one query;
+  /// nothing is read where there is no such site. A site that is not fetched over TLS, or was not yet, has none.
+  std::map<std::int64_t, SiteCertificate> certificates(const OptionsInForce& options,
+                                                       std::int64_t first = std::numeric_limits<std::int64_t>::min(),
+                                                       std::int64_t last = std::numeric_limits<std::int64_t>::max());
   /// The same of one site.
   std::optional<SiteCertificate> certificateOf(std::int64_t idSite, const OptionsInForce& options);
 

@@ -98,12 +98,14 @@ SiteStanding SiteStandings::standingOf(std::int16_t idSite) {
   return site;
 }
 
-std::map<std::int64_t, SiteStanding> SiteStandings::standings() {
+std::map<std::int64_t, SiteStanding> SiteStandings::standings(std::int64_t first, std::int64_t last) {
   std::map<std::int64_t, SiteStanding> sites;
   if (!hasTable(db_)) {
     return sites;
   }
-  const auto rows = db_.conn().execute(std::string("select idSite, ") + kColumns + " from siteState", Parameters());
+  const std::array<SqlValue, 2> ids{SqlValue(first), SqlValue(last)};
+  const auto rows = db_.conn().execute(
+      std::string("select idSite, ") + kColumns + " from siteState where idSite >= ?1 and idSite <= ?2", ids);
   for (; !rows->eof(); rows->moveNext()) {
     sites.emplace(rows->field(std::size_t{0}).toInt64(), standingIn(*rows));
   }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <map>
 #include <optional>
 #include <string>
@@ -71,8 +72,9 @@ class SiteStandings {
   bool canBeKept();
   /// Nothing known of it where there is no row.
   SiteStanding standingOf(std::int16_t idSite);
-  /// All that there are; none in a list without the table.
-  std::map<std::int64_t, SiteStanding> standings();
+  /// All that there are, or those of the ids from `first` to `last`; none in a list without the table.
+  std::map<std::int64_t, SiteStanding> standings(std::int64_t first = std::numeric_limits<std::int64_t>::min(),
+                                                 std::int64_t last = std::numeric_limits<std::int64_t>::max());
   void storeStanding(std::int16_t idSite, const SiteStanding& standing);
   /// The checks of these sites have come to nothing since `since`; one of which that is known stays. Nothing in a list
   /// without the table.

@@ -49,6 +49,21 @@ TEST_F(ResultLogTest, FiltersAcrossTheWholeLog) {
   EXPECT_EQ(idsOf({.failures = true, .newest = 2}), (std::vector<std::int64_t>{1998, 2000}));
 }
 
+TEST_F(ResultLogTest, IsReadBackwardsPieceByPiece) {
+  EXPECT_TRUE(log.readLogBackwards(5, {}, 100).rows.empty());
+  write(2000);
+  folder.execute("insert into log (idSite, dateStamp) values (1999, '2024-05-18 00:00:00')");
+  LogPiece piece = log.readLogBackwards(1999, {}, 2);
+  ASSERT_EQ(piece.rows.size(), 1U);
+  EXPECT_EQ(piece.rows.front().dateStamp, "2024-05-18 00:00:00");
+  piece = log.readLogBackwards(1999, piece.before, 2);
+  ASSERT_EQ(piece.rows.size(), 1U);
+  EXPECT_EQ(piece.rows.front().url, "http://a/1999");
+  piece = log.readLogBackwards(1999, piece.before, 5000);
+  EXPECT_TRUE(piece.rows.empty());
+  EXPECT_FALSE(piece.before);
+}
+
 TEST_F(ResultLogTest, KeepsTheOrderOfWritingWhenTheClockWasSetBack) {
   folder.execute(
       "insert into log (idSite, dateStamp) values (1, '2024-05-17 12:00:00'), (2, '2024-05-16 12:00:00'), "

@@ -26,7 +26,7 @@ DetailsPane::DetailsPane(Program& program, SiteSettling& settling, QWidget* pare
       program_(program),
       settling_(settling),
       history_(new HistoryPage(program, this)),
-      log_(new LogList(this)),
+      log_(new LogList(program, this)),
       alarm_(new AlarmPage(program, this)),
       choices_(new QMenu(this)) {
   setObjectName(QStringLiteral("details"));
@@ -166,7 +166,7 @@ void DetailsPane::readTab() {
   } else if (tabs_->currentWidget() == history_) {
     history_->showSite(*idSite_);
   } else {
-    log_->read(program_.data(), *idSite_);
+    log_->read(*idSite_);
   }
 }
 

@@ -3,32 +3,76 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
+#include <iterator>
 #include <utility>
+#include <QElapsedTimer>
 
 #include "ui/controls/display_text.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr std::int64_t kMostRows = 200;
+constexpr std::size_t kMostRows = 200;
+/// Of the whole log, read at once.
+constexpr std::int64_t kPiece = 1000;
+constexpr int kSlice = 8;  // milliseconds
 
 }  // namespace
 
-void LogList::read(m& data, std::int16_t idSite) {
-  std::vector<LogRow> rows;
-  data.readLog({.idSite = idSite, .newest = kMostRows}, [&](const LogRow& row) {
-    rows.push_back(row);
-    return true;
-  });
-  std::ranges::reverse(rows);
-  take(std::move(rows));
+LogList::LogList(Program& program, QObject* parent) : QAbstractTableModel(parent), program_(program) {
+  connect(&soon_, &QTimer::timeout, this, &LogList::readMore);
 }
 
-void LogList::clear() { take({}); }
+void LogList::read(std::int16_t idSite) {
+  if (idSite != idSite_) {
+    clear();
+  }
+  idSite_ = idSite;
+  found_.clear();
+  before_.reset();
+  readSlice();
+  if (before_) {
+    soon_.start(0);
+  }
+}
 
-void LogList::take(std::vector<LogRow> rows) {
+void LogList::clear() {
+  soon_.stop();
+  found_.clear();
+  show();
+}
+
+void LogList::readMore() try {
+  readSlice();
+  if (!before_) {
+    soon_.stop();
+  }
+} catch (const std::exception&) {
+  soon_.stop();  // that the list cannot be read is told elsewhere
+}
+
+void LogList::readSlice() {
+  QElapsedTimer slice;
+  slice.start();
+  do {
+    LogPiece piece = program_.data().readLogBackwards(idSite_, before_, kPiece);
+    std::ranges::move(piece.rows, std::back_inserter(found_));
+    before_ = piece.before;
+    if (found_.size() >= kMostRows) {
+      found_.resize(kMostRows);
+      before_.reset();
+    }
+  } while (before_ && slice.elapsed() < kSlice);
+  // What is shown already stays until there is as much of it anew.
+  if (!before_ || found_.size() > rows_.size()) {
+    show();
+  }
+}
+
+void LogList::show() {
   beginResetModel();
-  rows_ = std::move(rows);
+  rows_ = found_;
   endResetModel();
 }
 

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main_window/alarm_marks.h"
 
+#include <algorithm>
 #include <exception>
+#include <ranges>
 #include <utility>
+#include <vector>
+#include <QElapsedTimer>
 
 #include "engine/alarm_view.h"
 
@@ -12,6 +16,8 @@ namespace {
 constexpr int kNowAndThen = 1000;  // milliseconds
 constexpr int kOften = 15000;
 constexpr int kAfterFault = 30000;
+constexpr int kSlice = 8;
+constexpr int kRowsAtOnce = 256;
 
 }  // namespace
 
@@ -37,47 +43,93 @@ void AlarmMarks::lookNowAndThen() {
 
 void AlarmMarks::readAll() {
   try {
-    if (!changes_) {
-      changes_.emplace(program_.data().database());
-    }
     const LocalTime now = program_.services().clock.localNow();
-    const auto minute = std::chrono::floor<std::chrono::minutes>(now.time_since_epoch());
-    const bool isChanged = changes_->byAnyone();
-    const bool isNewMinute = std::exchange(seen_, minute) != minute && options_;
-    if (!std::exchange(isStale_, false) && !isChanged && !isNewMinute) {
-      return;
+    if (isToRead(now)) {
+      begin(now);
     }
-    OptionsInForce options = program_.data().optionsInForce();
-    const auto acknowledged = program_.data().acknowledgements();
-    if (!isAlarmSet(options) && acknowledged.empty()) {
-      if (std::exchange(options_, std::nullopt)) {
-        for (int row = 0; row < sites_.rowCount(); ++row) {
-          sites_.setAlarm(row, {});
-        }
-        Q_EMIT pauseRead(std::nullopt);
-      }
-      return;
-    }
-    options_ = std::move(options);
-    const AlarmPolicy common = alarmPolicyOf(*options_, kAllSites);
-    Q_EMIT pauseRead(isPaused(common.pause, now) ? std::optional(common.pause) : std::nullopt);
-    const auto standings = program_.data().standings();
-    const auto certificates = program_.data().certificates(*options_);
-    for (int row = 0; row < sites_.rowCount(); ++row) {
-      const auto id = sites_.siteOfRow(row);
-      if (!id) {
-        continue;
-      }
-      const auto known = standings.find(*id);
-      const bool hasOwn = options_->hasOwn(*id);
-      sites_.setAlarm(row, alarmViewOf(known == standings.end() ? SiteStanding() : known->second,
-                                       hasOwn ? alarmPolicyOf(*options_, *id) : common, now, acknowledged.contains(*id),
-                                       certificates, *id));
-    }
+    tellRows();
   } catch (const std::exception&) {
     // That the list cannot be read is told elsewhere. What was read last stays until it can be read again.
+    round_.reset();
     isStale_ = true;
     soon_.start(kAfterFault);
+  }
+}
+
+bool AlarmMarks::isToRead(LocalTime now) {
+  if (!changes_) {
+    changes_.emplace(program_.data().database());
+  }
+  if (round_ && !isStale_) {
+    return false;  // what changes meanwhile is looked at after it
+  }
+  const auto minute = std::chrono::floor<std::chrono::minutes>(now.time_since_epoch());
+  const bool isChanged = changes_->byAnyone();
+  const bool isNewMinute = std::exchange(seen_, minute) != minute && options_;
+  return std::exchange(isStale_, false) || isChanged || isNewMinute;
+}
+
+void AlarmMarks::begin(LocalTime now) {
+  m& data = program_.data();
+  round_.reset();
+  OptionsInForce options = data.optionsInForce();
+  auto acknowledged = data.acknowledgements();
+  if (!isAlarmSet(options) && acknowledged.empty()) {
+    tellNone();
+    return;
+  }
+  options_ = std::move(options);
+  AlarmPolicy common = alarmPolicyOf(*options_, kAllSites);
+  Q_EMIT pauseRead(isPaused(common.pause, now) ? std::optional(common.pause) : std::nullopt);
+  round_.emplace(Round{now, std::move(common), std::move(acknowledged)});
+}
+
+void AlarmMarks::tellNone() {
+  if (!std::exchange(options_, std::nullopt)) {
+    return;
+  }
+  for (int row = 0; row < sites_.rowCount(); ++row) {
+    sites_.setAlarm(row, {});
+  }
+  Q_EMIT pauseRead(std::nullopt);
+}
+
+void AlarmMarks::tellRows() {
+  if (!round_) {
+    return;
+  }
+  QElapsedTimer time;
+  time.start();
+  while (round_->nextRow < sites_.rowCount()) {
+    if (time.elapsed() >= kSlice) {
+      soon_.start(0);
+      return;
+    }
+    tellRowsBefore(std::min(round_->nextRow + kRowsAtOnce, sites_.rowCount()));
+  }
+  round_.reset();
+}
+
+void AlarmMarks::tellRowsBefore(int end) {
+  m& data = program_.data();
+  std::vector<std::pair<int, std::int16_t>> rows;
+  for (int& row = round_->nextRow; row < end; ++row) {
+    if (const auto id = sites_.siteOfRow(row); id && !round_->newer.contains(*id)) {
+      rows.emplace_back(row, *id);
+    }
+  }
+  if (rows.empty()) {
+    return;
+  }
+  // The rows are in the order of the ids, but where others have numbered them.
+  const auto [first, last] = std::ranges::minmax(rows | std::views::values);
+  const auto standings = data.standings(first, last);
+  const auto certificates = data.certificates(*options_, first, last);
+  for (const auto& [row, id] : rows) {
+    const auto known = standings.find(id);
+    sites_.setAlarm(row, alarmViewOf(known == standings.end() ? SiteStanding() : known->second,
+                                     options_->hasOwn(id) ? alarmPolicyOf(*options_, id) : round_->common, round_->now,
+                                     round_->acknowledged.contains(id), certificates, id));
   }
 }
 
@@ -91,6 +143,9 @@ void AlarmMarks::update(std::int16_t idSite) {
         program_.data().standingOf(idSite), alarmPolicyOf(*options_, idSite), program_.services().clock.localNow(),
         program_.data().acknowledgementOf(idSite).has_value(), certificate ? &*certificate : nullptr);
     sites_.setAlarm(sites_.rowOfSite(idSite), view);
+    if (round_) {
+      round_->newer.insert(idSite);
+    }
   } catch (const std::exception&) {
     look();
   }

@@ -3,7 +3,9 @@
 
 #include <chrono>
 #include <cstdint>
+#include <map>
 #include <optional>
+#include <set>
 #include <QObject>
 #include <QTimer>
 
@@ -14,8 +16,8 @@
 namespace tarnwick {
 
 /// Keeps what the rows of the list say of the sites' alarms: unconfirmed, unsteady, slow, a certificate that ends
-/// soon, paused, offline. Where no
-/// option of the alarm is set they say nothing of it, and nothing is read.
+/// soon, paused, offline. Where no option of the alarm is set they say nothing of it, and nothing is read. The rows of
+/// a long list are told some at a time, between the events.
 class AlarmMarks final : public QObject {
   Q_OBJECT
 
@@ -35,7 +37,24 @@ class AlarmMarks final : public QObject {
   void pauseRead(const std::optional<tarnwick::Pause>& pause);
 
  private:
+  /// What holds for all rows, and how far they have been told.
+  struct Round {
+    LocalTime now;
+    AlarmPolicy common;
+    std::map<std::int64_t, Acknowledgement> acknowledged;
+    /// Those that were judged since, and are told already.
+    std::set<std::int16_t> newer{};
+    int nextRow = 0;
+  };
+
   void readAll();
+  /// Whether anything may have changed since the last time.
+  bool isToRead(LocalTime now);
+  void begin(LocalTime now);
+  void tellNone();
+  void tellRows();
+  /// Those from the next one on and before `end`.
+  void tellRowsBefore(int end);
 
   Program& program_;
   SiteGridModel& sites_;
@@ -46,6 +65,7 @@ class AlarmMarks final : public QObject {
   std::chrono::minutes seen_{};
   // What was read last; none where no option of the alarm is set.
   std::optional<OptionsInForce> options_;
+  std::optional<Round> round_;
 };
 
 }  // namespace tarnwick

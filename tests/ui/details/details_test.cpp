@@ -9,6 +9,8 @@
 #include "ui/details/change_window.h"
 #include "ui/details/details_fixture.h"
 #include "ui/details/same_changes.h"
+#include "ui/support/longest_gap.h"
+#include "ui/support/patience.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -118,6 +120,19 @@ TEST_F(DetailsTest, AFetchThatFailedShowsItsTextAndOffersToCheckNow) {
   server.respond("/shop", {.body = kOld});
   clickOn(find<QPushButton>("btnAccept"));
   EXPECT_TRUE(waitUntil([&] { return headline() == "Site 3 is as it should be."; }));
+}
+
+TEST_F(DetailsTest, ALongLogOfOtherSitesHoldsNobodyUp) {
+  change();
+  folder.execute(
+      "with recursive n(i) as (select 1 union all select i + 1 from n where i < 300000) insert into log (idSite, url, "
+      "status, errCode, errDescription) select 4, 'http://other/', 1, 0, '' from n");
+  openDetails();
+  LongestGap gap;
+  find<QTabWidget>("detailsTabs").setCurrentIndex(2);
+  const QAbstractItemModel& log = *find<QTableView>("detailsLog").model();
+  EXPECT_TRUE(waitUntil([&] { return log.rowCount() == 2; }));
+  EXPECT_LT(gap.longest(), patience(std::chrono::milliseconds(30)));
 }
 
 TEST_F(DetailsTest, TheLogStandsBesideIt) {

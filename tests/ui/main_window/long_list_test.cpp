@@ -100,6 +100,29 @@ TEST_F(LongListTest, AResultThatComesInWhileItIsReadIsNotLost) {
   EXPECT_EQ(cell(6, SiteGridModel::upColumn), QStringLiteral("4097"));
 }
 
+TEST_F(LongListTest, WhatItsRowsSayOfAlarmsIsToldInSlices) {
+  folder.execute(
+      "insert into siteOptions values (0, 'confirm', '3'), (0, 'certificate', '21');"
+      "insert into siteState (idSite, failures, downSince, firstError, told) select idSite, 1, datetime('now', "
+      "'localtime', '-1 hour'), 'refused', 'nothing' from sites where status = 0");
+  const auto spoken = [&] {
+    return grid().model()->index(32765, SiteGridModel::idColumn).data(Qt::AccessibleTextRole).toString();
+  };
+  const milliseconds first = longestOf([&] {
+    openWhole();
+    EXPECT_TRUE(waitUntil([&] { return spoken().contains(QStringLiteral("1 of 3")); })) << spoken().toStdString();
+  });
+  std::cerr << "FIRST " << first.count() << "\n";
+  EXPECT_LT(first, kAMoment);
+  folder.execute("update siteState set failures = 2");
+  const milliseconds again = longestOf([&] {
+    master->fillGrid();
+    EXPECT_TRUE(waitUntil([&] { return spoken().contains(QStringLiteral("2 of 3")); })) << spoken().toStdString();
+  });
+  std::cerr << "AGAIN " << again.count() << "\n";
+  EXPECT_LT(again, kAMoment);
+}
+
 TEST_F(LongListTest, ASiteThatIsWantedBeforeItIsThereIsSelectedThen) {
   open();
   grid().selectSite(32000);
