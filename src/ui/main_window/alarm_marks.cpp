@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <exception>
-#include <ranges>
 #include <utility>
 #include <vector>
 #include <QElapsedTimer>
@@ -122,9 +121,9 @@ void AlarmMarks::tellRowsBefore(int end) {
     return;
   }
   // The rows are in the order of the ids, but where others have numbered them.
-  const auto [first, last] = std::ranges::minmax(rows | std::views::values);
-  const auto standings = data.standings(first, last);
-  const auto certificates = data.certificates(*options_, first, last);
+  const auto [first, last] = std::ranges::minmax(rows, {}, &std::pair<int, std::int16_t>::second);
+  const auto standings = data.standings(first.second, last.second);
+  const auto certificates = data.certificates(*options_, first.second, last.second);
   for (const auto& [row, id] : rows) {
     const auto known = standings.find(id);
     sites_.setAlarm(row, alarmViewOf(known == standings.end() ? SiteStanding() : known->second,
