@@ -18,22 +18,6 @@ std::string formatted(const char* format, Values... values) {
   return text.data();
 }
 
-std::string_view colourOf(const TimeSum& cell) {
-  switch (stateOf(cell)) {
-    case CellState::up:
-      return "#2e9e4f";
-    case CellState::mostly:
-      return "#e0c000";
-    case CellState::partly:
-      return "#e07b00";
-    case CellState::down:
-      return "#c62828";
-    case CellState::unknown:
-      break;
-  }
-  return "#c8c8c8";
-}
-
 std::string escaped(std::string_view text) {
   std::string safe;
   for (const char c : text) {
@@ -47,6 +31,22 @@ std::string escaped(std::string_view text) {
 }
 
 }  // namespace
+
+std::string_view colourOf(CellState state, bool dark) {
+  switch (state) {
+    case CellState::up:
+      return dark ? "#2f8a5f" : "#2e9c62";
+    case CellState::mostly:
+      return dark ? "#d3b030" : "#dcb400";
+    case CellState::partly:
+      return dark ? "#e18a30" : "#e07b00";
+    case CellState::down:
+      return dark ? "#d14545" : "#c03030";
+    case CellState::unknown:
+      break;
+  }
+  return dark ? "#3b4149" : "#d3d8de";
+}
 
 CellState stateOf(const TimeSum& cell) {
   if (cell.known().count() == 0) {
@@ -137,7 +137,7 @@ std::string stripesAsSvg(std::string_view title, const std::vector<StripeOfPictu
     for (const TimeSum& cell : stripe.cells) {
       svg += formatted("<rect x=\"%.2f\" y=\"%d\" width=\"%.2f\" height=\"%d\" fill=\"", x, y,
                        std::max(1.0, cellWidth - 1), kHeight) +
-             std::string(colourOf(cell)) + "\"/>\n";
+             std::string(colourOf(stateOf(cell))) + "\"/>\n";
       x += cellWidth;
     }
     svg += formatted("<text x=\"%d\" y=\"%d\" text-anchor=\"end\">", width - 4, y + 16) + escaped(stripe.uptime) +

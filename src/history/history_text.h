@@ -21,6 +21,10 @@ enum class CellState {
 };
 CellState stateOf(const TimeSum& cell);
 
+/// "#2e9c62": its colour in pages and pictures, on a light or dark ground. Up and down are those of the window's
+/// stripes; a long stripe of which nothing is known yet stays in the background.
+std::string_view colourOf(CellState state, bool dark = false);
+
 /// "99.31 %", cut, not rounded: what was down for a second is no 100 %. "-" where nothing is known.
 std::string uptimeText(std::optional<double> uptime);
 /// "120 ms", "12.3 s"; "-" for nothing.

@@ -9,10 +9,8 @@ namespace {
 constexpr std::size_t kMostOutagesOfACell = 5;
 
 constexpr const char* kStyle = R"(
-:root { color-scheme: light dark; --page: #ffffff; --text: #1b1f24; --dim: #5b626b; --line: #dfe3e8; --up: #2e9e4f;
-  --mostly: #dcb400; --partly: #e07b00; --down: #c62828; --unknown: #d3d8de; }
-@media (prefers-color-scheme: dark) { :root { --page: #15181c; --text: #e7e9ec; --dim: #9ba2ab; --line: #2d333a;
-  --up: #3aa862; --mostly: #d3b030; --partly: #e18a30; --down: #e5534b; --unknown: #3b4149; } }
+:root { color-scheme: light dark; --page: #ffffff; --text: #1b1f24; --dim: #5b626b; --line: #dfe3e8; }
+@media (prefers-color-scheme: dark) { :root { --page: #15181c; --text: #e7e9ec; --dim: #9ba2ab; --line: #2d333a; } }
 * { box-sizing: border-box; }
 body { margin: 0 auto; padding: 1.5rem 1rem 3rem; max-width: 60rem; background: var(--page); color: var(--text);
   font: 15px/1.45 system-ui, sans-serif; }
@@ -59,8 +57,8 @@ summary { cursor: pointer; color: var(--dim); }
   .row h2, .row .state { grid-column: 1 / 3; } }
 )";
 
-const char* classOf(const TimeSum& cell) {
-  switch (stateOf(cell)) {
+const char* classOf(CellState state) {
+  switch (state) {
     case CellState::up:
       return "up";
     case CellState::mostly:
@@ -73,6 +71,15 @@ const char* classOf(const TimeSum& cell) {
       break;
   }
   return "unknown";
+}
+
+std::string coloursOfCells(bool dark) {
+  std::string colours = ":root {";
+  for (const CellState state :
+       {CellState::up, CellState::mostly, CellState::partly, CellState::down, CellState::unknown}) {
+    colours.append(" --").append(classOf(state)).append(": ").append(colourOf(state, dark)).append(";");
+  }
+  return colours + " }";
 }
 
 std::string titleOf(Stretch time, const TimeSum& sum, const std::vector<Outage>& outages, Causes causes) {
@@ -141,7 +148,11 @@ std::string minuteText(Moment moment) {
 std::string page(std::string_view title, std::string_view body) {
   std::string html = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n";
   html += "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>";
-  html.append(escaped(title)).append("</title>\n<style>").append(kStyle).append("</style>\n</head>\n<body>\n");
+  html.append(escaped(title))
+      .append("</title>\n<style>")
+      .append(coloursOfCells(false) + "\n@media (prefers-color-scheme: dark) { " + coloursOfCells(true) + " }")
+      .append(kStyle)
+      .append("</style>\n</head>\n<body>\n");
   return html.append(body).append("</body>\n</html>\n");
 }
 
@@ -154,7 +165,7 @@ std::string stripe(const PeriodView& view, const std::vector<Outage>& outages, C
       sum.up += view.cells[behind++].up;
     }
     const std::string title = titleOf({view.edges[first], view.edges[behind]}, sum, outages, causes);
-    html.append("<i class=\"").append(classOf(sum)).append("\" style=\"flex:" + std::to_string(behind - first));
+    html.append("<i class=\"").append(classOf(stateOf(sum))).append("\" style=\"flex:" + std::to_string(behind - first));
     html.append("\" title=\"").append(escaped(title)).append("\"></i>");
     first = behind;
   }
