@@ -7,6 +7,7 @@
 #include <ctime>
 
 #include "base/text.h"
+#include "platform/local_fields.h"
 
 namespace tarnwick {
 
@@ -173,10 +174,8 @@ std::optional<LocalTime> parseStamp(std::string_view text) {
 }
 
 LocalTime localTimeAt(sys_seconds moment) {
-  const std::time_t time = system_clock::to_time_t(moment);
-  // There is only one thread that could ask for another time meanwhile.
-  const std::tm* const fields = std::localtime(&time);  // NOLINT(concurrency-mt-unsafe)
-  if (fields == nullptr) {
+  const auto fields = localFields(system_clock::to_time_t(moment));
+  if (!fields) {
     return LocalTime(moment.time_since_epoch());
   }
   const year_month_day date{year{fields->tm_year + 1900}, month{static_cast<unsigned>(fields->tm_mon + 1)},

@@ -165,7 +165,9 @@ std::string stripe(const PeriodView& view, const std::vector<Outage>& outages, C
       sum.up += view.cells[behind++].up;
     }
     const std::string title = titleOf({view.edges[first], view.edges[behind]}, sum, outages, causes);
-    html.append("<i class=\"").append(classOf(stateOf(sum))).append("\" style=\"flex:" + std::to_string(behind - first));
+    html.append("<i class=\"")
+        .append(classOf(stateOf(sum)))
+        .append("\" style=\"flex:" + std::to_string(behind - first));
     html.append("\" title=\"").append(escaped(title)).append("\"></i>");
     first = behind;
   }

@@ -9,6 +9,7 @@ using namespace std::chrono;
 
 LocalTime SystemClock::localNow() const {
   const std::time_t now = system_clock::to_time_t(system_clock::now());
+  tzset();  // a zone that this machine has been given meanwhile counts from here on
   std::tm fields{};
   localtime_r(&now, &fields);
   const year_month_day date{year{fields.tm_year + 1900}, month{static_cast<unsigned>(fields.tm_mon + 1)},
