@@ -41,7 +41,7 @@ DetailsArea::DetailsArea(Program& program, QWidget& canvas, const MasterControls
       below_(kUsualHeight) {
   pane_->hide();
   pane_->setMinimumHeight(kLeastHeight);
-  canvas.layout()->replaceWidget(&grid_, splitter_);
+  const std::unique_ptr<QLayoutItem> placeOfTheGrid(canvas.layout()->replaceWidget(&grid_, splitter_));
   splitter_->addWidget(&grid_);
   splitter_->addWidget(pane_);
   splitter_->setChildrenCollapsible(false);
