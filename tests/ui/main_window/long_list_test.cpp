@@ -5,6 +5,7 @@
 #include <string>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QTimer>
 
 #include "ui/main_window/extra_columns.h"
 #include "ui/support/longest_gap.h"
@@ -195,6 +196,38 @@ TEST_F(LongListTest, ResultsThatComeInMeanwhileHoldNobodyUp) {
   });
   EXPECT_LT(held, kAMoment);
   EXPECT_EQ(grid().verticalScrollBar()->value(), 5000) << "nobody is led back to the current row";
+}
+
+class LongPassTest : public MasterTest {
+ protected:
+  testing::HttpServer server;
+};
+
+TEST_F(LongPassTest, APassOverThousandsOfPagesHoldsNobodyUpWhoScrollsMeanwhile) {
+  constexpr int kSites = 1500;
+  server.respond("/up", {.body = "hello"});
+  folder.execute("with recursive n(i) as (select 1 union all select i + 1 from n where i < " + std::to_string(kSites) +
+                 ") insert into sites (idSite,url,method,active,tInterval,content_compare) select i, '" +
+                 server.url("/up") +
+                 "?' || i, 'GET', 1, 10, case when i % 3 then 'hello' else 'other' end from n;"
+                 "insert into siteOptions values (0, 'parallel', '64'), (0, 'perHost', '64'), (0, 'spacing', '0'), (0, "
+                 "'history', 'on'), (0, 'confirm', '2')");
+  open();
+  EXPECT_TRUE(waitUntil([&] { return rows() == kSites; }));
+  QScrollBar& bar = *find<SiteGridView>("grid1").verticalScrollBar();
+  int turns = 0;
+  QTimer wheel;
+  QObject::connect(&wheel, &QTimer::timeout, [&] { bar.setValue(++turns * 37 % bar.maximum()); });
+  LongestGap gap;
+  wheel.start(15);
+  click("btnStart");
+  EXPECT_TRUE(waitUntil([&] {
+    return folder.queryText("select count(*) from sites where lastChecked is not null") == std::to_string(kSites);
+  }));
+  wheel.stop();
+  EXPECT_LT(gap.longest(), 2 * kAMoment) << "the server of the pages works on the same cores";
+  EXPECT_GT(turns, 20);
+  click("btnStop");
 }
 
 }  // namespace
