@@ -18,31 +18,58 @@ constexpr std::size_t kMostInMessage = 10;
 
 }  // namespace
 
+MonthTelling::MonthTelling(SiteHistory& history, Delivery& delivery, FileSystem& files, const Clock& clock,
+                           TimerMaker& timers, PartedWork::Guard guard)
+    : history_(history),
+      delivery_(delivery),
+      files_(files),
+      clock_(clock),
+      reports_(history.database()),
+      work_(timers, clock, std::move(guard)) {}
+
 bool MonthTelling::isDue() const { return !looked_ || clock_.steadyNow() - *looked_ >= kBetweenLooks; }
 
 void MonthTelling::tick(const OptionsInForce& options) {
   looked_ = clock_.steadyNow();
-  if (options.valueOf(kAllSites, option_name::monthReport) != option_value::on) {
+  if (work_.isOn() || options.valueOf(kAllSites, option_name::monthReport) != option_value::on) {
     return;
   }
   if (!reports_.hasBegun()) {
     reports_.begin();  // set by another tool
   }
-  for (const Moment month : reports_.owed(clock_.now())) {
-    if (!unknown_.contains(month)) {
-      tell(month);
-    }
+  std::vector<Moment> owed = reports_.owed(clock_.now());
+  std::erase_if(owed, [&](Moment month) { return unknown_.contains(month); });
+  if (!owed.empty()) {
+    work_.begin(tellAll(std::move(owed)));
   }
 }
 
+TextInParts MonthTelling::tellAll(std::vector<Moment> months) {
+  for (const Moment month : months) {
+    TextInParts telling = tell(month);
+    while (telling.goOn()) {
+      co_await letOthersGoOn;
+    }
+  }
+  co_return {};
+}
+
 // The file comes first: after a kill between the two it is written once more, and the message leaves once.
-void MonthTelling::tell(Moment month) {
-  const MonthReport report = monthReport(history_, month, clock_.now());
+TextInParts MonthTelling::tell(Moment month) {
+  MonthReport report;
+  TextInParts figures = readMonthReport(history_, report, month, clock_.now());
+  while (figures.goOn()) {
+    co_await letOthersGoOn;
+  }
   if (report.all.sum.known().count() == 0 && report.outages.empty()) {
     unknown_.insert(month);
-    return;
+    co_return {};
   }
-  const std::string page = monthPage(history_, report);
+  TextInParts parts = monthPage(history_, report);
+  while (parts.goOn()) {
+    co_await letOthersGoOn;
+  }
+  const std::string page = std::move(parts).whole();
   std::exception_ptr fault;
   try {
     writeFile(month, page);
@@ -52,7 +79,7 @@ void MonthTelling::tell(Moment month) {
   {
     Transaction whole(history_.database());
     if (reports_.isMade(month)) {
-      return;  // by another program
+      co_return {};  // by another program
     }
     if (delivery_.tellsOf(std::nullopt)) {
       const LocalTime now = clock_.localNow();
@@ -71,6 +98,7 @@ void MonthTelling::tell(Moment month) {
   if (fault) {
     std::rethrow_exception(fault);
   }
+  co_return {};
 }
 
 void MonthTelling::writeFile(Moment month, const std::string& page) {

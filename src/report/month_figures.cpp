@@ -2,8 +2,9 @@
 #include "report/month_figures.h"
 
 #include <algorithm>
-#include <map>
+#include <span>
 #include <tuple>
+#include <utility>
 
 #include "base/text.h"
 #include "store/site_options.h"
@@ -13,6 +14,9 @@ namespace tarnwick {
 using std::chrono::seconds;
 
 namespace {
+
+// So many are read together: some milliseconds.
+constexpr std::size_t kPiece = 20;
 
 SiteToShow shownAs(const ShownSite& site) { return {site.idSite, site.interval}; }
 
@@ -27,42 +31,49 @@ bool isIn(const Outage& outage, Stretch time) {
   return !outage.ended || *outage.ended > time.from || outage.began >= time.from;
 }
 
-void takeOutages(SiteHistory& history, MonthReport& report) {
-  std::map<std::int64_t, MonthOfSite*> sites;
-  for (MonthOfSite& month : report.sites) {
-    sites.emplace(month.site.idSite, &month);
-  }
-  for (Outage& outage : history.outages(std::nullopt, report.time)) {
-    const auto own = sites.find(outage.idSite);
-    if (own == sites.end() || !isIn(outage, report.time)) {
+void takeOutages(SiteHistory& history, MonthReport& report, MonthOfSite& own) {
+  for (Outage& outage : history.outages(own.site.idSite, report.time)) {
+    if (!isIn(outage, report.time)) {
       continue;
     }
     const seconds length = std::min(outage.ended.value_or(report.time.until), report.time.until) -
                            std::max(outage.began, report.time.from);
-    for (MonthOfSite* const month : {own->second, &report.all}) {
+    for (MonthOfSite* const month : {&own, &report.all}) {
       ++month->outages;
       month->inOutages += length;
     }
-    report.outages.push_back({own->second->site.address, std::move(outage), length});
+    report.outages.push_back({own.site.address, std::move(outage), length});
+  }
+}
+
+void takeSums(SiteHistory& history, MonthReport& report, std::span<MonthOfSite> piece) {
+  std::vector<SiteToShow> wanted;
+  for (const MonthOfSite& own : piece) {
+    wanted.push_back(shownAs(own.site));
+  }
+  const auto sums = sumsOfMonth(history, wanted, report.time, report.made);
+  for (MonthOfSite& own : piece) {
+    own.sum = sums.at(own.site.idSite);
+    own.unknown = report.time.until - report.time.from - own.sum.known();
+    report.all.sum.add(own.sum);
+    report.all.unknown += own.unknown;
   }
 }
 
 std::vector<MonthOfSite> slowestOf(const std::vector<MonthOfSite>& sites) {
-  std::vector<const MonthOfSite*> answered;
+  constexpr double kHalf = 0.5;
+  constexpr double kMost = 0.95;
+  using Rank = std::tuple<std::int64_t, std::int64_t, std::int64_t, const MonthOfSite*>;
+  std::vector<Rank> answered;
   for (const MonthOfSite& month : sites) {
-    if (month.sum.latency.count() > 0) {
-      answered.push_back(&month);
+    if (const Latency& took = month.sum.latency; took.count() > 0) {
+      answered.emplace_back(-took.quantile(kHalf)->count(), -took.quantile(kMost)->count(), month.site.idSite, &month);
     }
   }
-  std::ranges::stable_sort(answered, {}, [](const MonthOfSite* month) {
-    constexpr double kHalf = 0.5;
-    constexpr double kMost = 0.95;
-    return std::tuple(-month->sum.latency.quantile(kHalf)->count(), -month->sum.latency.quantile(kMost)->count(),
-                      month->site.idSite);
-  });
+  std::ranges::sort(answered);
   std::vector<MonthOfSite> slowest;
   for (std::size_t i = 0; i < std::min(MonthReport::kMostSlowest, answered.size()); ++i) {
-    slowest.push_back(*answered[i]);
+    slowest.push_back(*std::get<const MonthOfSite*>(answered[i]));
   }
   return slowest;
 }
@@ -85,29 +96,41 @@ std::vector<EndingCertificate> certificatesOf(Database& database, const OptionsI
 
 }  // namespace
 
-MonthReport monthReport(SiteHistory& history, Moment month, Moment now) {
-  MonthReport report;
+TextInParts readMonthReport(SiteHistory& history, MonthReport& report, Moment month, Moment now) {
   report.time = {monthOf(month), std::min(monthAfter(month), now)};
   report.made = now;
   report.isOver = monthAfter(month) <= now;
-  const OptionsInForce options = readOptions(history.database());
-  report.isHistoryKept = options.valueOf(kAllSites, option_name::history) == option_value::on;
-  std::vector<SiteToShow> wanted;
-  for (ShownSite& site : shownSites(history.database())) {
-    wanted.push_back(shownAs(site));
+  std::vector<ShownSite> listed;
+  while (readMoreSites(history.database(), listed)) {
+    co_await letOthersGoOn;
+  }
+  for (ShownSite& site : listed) {
     report.sites.emplace_back().site = std::move(site);
   }
-  const auto sums = sumsOfMonth(history, wanted, report.time, now);
-  for (MonthOfSite& own : report.sites) {
-    own.sum = sums.at(own.site.idSite);
-    own.unknown = report.time.until - report.time.from - own.sum.known();
-    report.all.sum.add(own.sum);
-    report.all.unknown += own.unknown;
+  for (std::size_t first = 0; first < report.sites.size(); first += kPiece) {
+    const std::span piece(&report.sites[first], std::min(kPiece, report.sites.size() - first));
+    takeSums(history, report, piece);
+    for (MonthOfSite& own : piece) {
+      takeOutages(history, report, own);
+    }
+    co_await letOthersGoOn;
   }
-  takeOutages(history, report);
+  std::ranges::sort(report.outages, {}, [](const MonthOutage& one) {
+    return std::tuple(-one.outage.began.time_since_epoch().count(), one.outage.idSite);
+  });
   std::ranges::sort(report.sites, {}, &rankOf);
+  co_await letOthersGoOn;
   report.slowest = slowestOf(report.sites);
+  co_await letOthersGoOn;
+  const OptionsInForce options = readOptions(history.database());
+  report.isHistoryKept = options.valueOf(kAllSites, option_name::history) == option_value::on;
   report.certificates = certificatesOf(history.database(), options, report.sites, now);
+  co_return {};
+}
+
+MonthReport monthReport(SiteHistory& history, Moment month, Moment now) {
+  MonthReport report;
+  std::ignore = readMonthReport(history, report, month, now).whole();
   return report;
 }
 

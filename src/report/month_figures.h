@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "base/text_in_parts.h"
 #include "history/calendar.h"
 #include "report/shown_sites.h"
 #include "store/history_view.h"
@@ -59,6 +60,8 @@ struct MonthReport {
 
 /// The report of the month that `month` is in, as it is known `now`. REQUIRES: it has begun. Raises DataAccessError.
 MonthReport monthReport(SiteHistory& history, Moment month, Moment now);
+/// The same in parts: what is read is put into `report`, a new one; the text says nothing.
+TextInParts readMonthReport(SiteHistory& history, MonthReport& report, Moment month, Moment now);
 
 /// The days of the month of a site, cell by cell.
 PeriodView daysOfMonth(SiteHistory& history, const ShownSite& site, const MonthReport& report);

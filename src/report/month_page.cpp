@@ -46,8 +46,8 @@ std::string tableHtml(const ReportTable& table, const std::string& title, std::s
     addRow("td", [&](std::size_t i) { return table.rows[row][i].shown; });
   }
   html += "</table></div>";
-  if (behind < table.rows.size()) {
-    html += "<p class=\"dim\">and " + std::to_string(table.rows.size() - behind) + " more</p>";
+  if (const std::size_t more = table.rows.size() - behind + table.more; more > 0) {
+    html += "<p class=\"dim\">and " + std::to_string(more) + " more</p>";
   }
   return html + "</section>\n";
 }
@@ -82,8 +82,9 @@ std::string siteHtml(SiteHistory& history, const MonthReport& report, const Mont
 
 }  // namespace
 
-std::string monthPage(SiteHistory& history, const MonthReport& report) {
-  const std::vector<ReportTable> tables = monthTables(report);
+TextInParts monthPage(SiteHistory& history, const MonthReport& report) {
+  const std::vector<ReportTable> tables = monthTables(report, kMostStripes + kMostLines);
+  co_await letOthersGoOn;
   const auto table = [&](std::string_view key) -> const ReportTable& {
     return *std::ranges::find(tables, key, &ReportTable::key);
   };
@@ -94,13 +95,14 @@ std::string monthPage(SiteHistory& history, const MonthReport& report) {
   body += tableHtml(table("month"), "All sites", 0, 1) + page_parts::legend();
   for (std::size_t i = 0; i < std::min(kMostStripes, report.sites.size()); ++i) {
     body += siteHtml(history, report, report.sites[i]);
+    co_await letOthersGoOn;
   }
   body += tableHtml(table("sites"), "The other sites", kMostStripes, kMostLines);
   for (const char* const key : {"slowest", "certificates"}) {
     body += tableHtml(table(key), table(key).title, 0, kMostLines);
   }
   body += tableHtml(table("outages"), table("outages").title, 0, kMostOutages);
-  return page_parts::page("Report of " + monthName(report.time.from), body);
+  co_return page_parts::page("Report of " + monthName(report.time.from), body);
 }
 
 }  // namespace tarnwick

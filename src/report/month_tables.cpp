@@ -2,6 +2,7 @@
 #include "report/month_tables.h"
 
 #include <algorithm>
+#include <span>
 
 #include "history/history_text.h"
 
@@ -60,11 +61,19 @@ ReportTable wholeTable(const MonthReport& report) {
   return table;
 }
 
-ReportTable sitesTable(const MonthReport& report) {
+/// Those that the table is given; it learns how many are left out.
+template <typename Row>
+std::span<const Row> firstOf(ReportTable& table, const std::vector<Row>& rows, std::size_t most) {
+  const std::span<const Row> first = std::span(rows).first(std::min(most, rows.size()));
+  table.more = rows.size() - first.size();
+  return first;
+}
+
+ReportTable sitesTable(const MonthReport& report, std::size_t most) {
   ReportTable table{"sites", "Sites, the worst first", {{"idSite", "ID", true, true}}, {}};
   std::ranges::move(figureColumns(), std::back_inserter(table.columns));
   table.columns.push_back({"url", "Address"});
-  for (const MonthOfSite& month : report.sites) {
+  for (const MonthOfSite& month : firstOf(table, report.sites, most)) {
     std::vector<Cell> row{number(month.site.idSite)};
     addFigures(row, month);
     row.push_back(text(month.site.address));
@@ -73,7 +82,7 @@ ReportTable sitesTable(const MonthReport& report) {
   return table;
 }
 
-ReportTable outagesTable(const MonthReport& report) {
+ReportTable outagesTable(const MonthReport& report, std::size_t most) {
   ReportTable table{"outages",
                     "Outages, the latest first",
                     {{"idSite", "ID", true, true},
@@ -84,7 +93,7 @@ ReportTable outagesTable(const MonthReport& report) {
                      {"url", "Address"},
                      {"cause", "Cause"}},
                     {}};
-  for (const MonthOutage& one : report.outages) {
+  for (const MonthOutage& one : firstOf(table, report.outages, most)) {
     const Outage& outage = one.outage;
     table.rows.push_back({number(outage.idSite),
                           moment(outage.began),
@@ -97,7 +106,7 @@ ReportTable outagesTable(const MonthReport& report) {
   return table;
 }
 
-ReportTable slowestTable(const MonthReport& report) {
+ReportTable slowestTable(const MonthReport& report, std::size_t most) {
   ReportTable table{"slowest",
                     "The slowest sites",
                     {{"idSite", "ID", true, true},
@@ -106,7 +115,7 @@ ReportTable slowestTable(const MonthReport& report) {
                      {"slowestMs", "Slowest", true, true},
                      {"url", "Address"}},
                     {}};
-  for (const MonthOfSite& month : report.slowest) {
+  for (const MonthOfSite& month : firstOf(table, report.slowest, most)) {
     table.rows.push_back({number(month.site.idSite), took(month.sum.latency.quantile(kMedian)),
                           took(month.sum.latency.quantile(kNearlyAll)), took(slowestOf(month.sum)),
                           text(month.site.address)});
@@ -114,12 +123,12 @@ ReportTable slowestTable(const MonthReport& report) {
   return table;
 }
 
-ReportTable certificatesTable(const MonthReport& report) {
+ReportTable certificatesTable(const MonthReport& report, std::size_t most) {
   ReportTable table{"certificates",
                     "The certificates that end soonest",
                     {{"idSite", "ID", true, true}, {"ends", "Ends"}, {"daysLeft", "Days", true}, {"url", "Address"}},
                     {}};
-  for (const EndingCertificate& one : report.certificates) {
+  for (const EndingCertificate& one : firstOf(table, report.certificates, most)) {
     table.rows.push_back({number(one.idSite), moment(one.ends), number(one.daysLeft), text(one.address)});
   }
   return table;
@@ -130,13 +139,12 @@ std::string padded(const std::string& text, std::size_t width, bool isRight) {
   return isRight ? blanks + text : text + blanks;
 }
 
-std::string tableLines(const ReportTable& table, std::size_t most) {
+std::string tableLines(const ReportTable& table) {
   std::vector<std::size_t> widths;
-  const std::size_t count = std::min(most, table.rows.size());
   for (std::size_t column = 0; column < table.columns.size(); ++column) {
     std::size_t width = table.columns[column].title.size();
-    for (std::size_t row = 0; row < count; ++row) {
-      width = std::max(width, table.rows[row][column].shown.size());
+    for (const auto& row : table.rows) {
+      width = std::max(width, row[column].shown.size());
     }
     widths.push_back(width);
   }
@@ -151,10 +159,10 @@ std::string tableLines(const ReportTable& table, std::size_t most) {
     return whole.substr(0, whole.find_last_not_of(' ') + 1) + "\n";
   };
   std::string lines = table.title + "\n" + line([&](std::size_t column) { return table.columns[column].title; });
-  for (std::size_t row = 0; row < count; ++row) {
-    lines += line([&](std::size_t column) { return table.rows[row][column].shown; });
+  for (const auto& row : table.rows) {
+    lines += line([&](std::size_t column) { return row[column].shown; });
   }
-  return count < table.rows.size() ? lines + "and " + std::to_string(table.rows.size() - count) + " more\n" : lines;
+  return table.more > 0 ? lines + "and " + std::to_string(table.more) + " more\n" : lines;
 }
 
 }  // namespace
@@ -164,9 +172,9 @@ const std::vector<std::string>& monthTableKeys() {
   return keys;
 }
 
-std::vector<ReportTable> monthTables(const MonthReport& report) {
-  return {wholeTable(report), sitesTable(report), outagesTable(report), slowestTable(report),
-          certificatesTable(report)};
+std::vector<ReportTable> monthTables(const MonthReport& report, std::size_t most) {
+  return {wholeTable(report), sitesTable(report, most), outagesTable(report, most), slowestTable(report, most),
+          certificatesTable(report, most)};
 }
 
 std::string monthSentence(const MonthReport& report) {
@@ -189,9 +197,9 @@ std::string monthSentence(const MonthReport& report) {
 
 std::string monthLines(const MonthReport& report, std::size_t most) {
   std::string lines;
-  for (const ReportTable& table : monthTables(report)) {
+  for (const ReportTable& table : monthTables(report, most)) {
     if (!table.rows.empty()) {
-      lines += (lines.empty() ? "" : "\n") + tableLines(table, most);
+      lines += (lines.empty() ? "" : "\n") + tableLines(table);
     }
   }
   return lines;

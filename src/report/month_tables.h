@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -30,14 +31,17 @@ struct ReportTable {
   std::string title;  ///< for people: "Sites"
   std::vector<Column> columns;
   std::vector<std::vector<Cell>> rows;
+  std::size_t more = 0;  ///< rows that were left out
 };
 
 /// The names of the tables of a report of a month, in their order.
 const std::vector<std::string>& monthTableKeys();
 
 /// They: the month as a whole, its sites, outages, the slowest sites, the certificates that end soonest. Percentages
-/// are numbers up to 100, times seconds or milliseconds, moments "YYYY-MM-DD HH:MM:SS" of the clock on the wall.
-std::vector<ReportTable> monthTables(const MonthReport& report);
+/// are numbers up to 100, times seconds or milliseconds, moments "YYYY-MM-DD HH:MM:SS" of the clock on the wall. Each
+/// has the first rows, at most so many.
+std::vector<ReportTable> monthTables(const MonthReport& report,
+                                     std::size_t most = std::numeric_limits<std::size_t>::max());
 
 /// What the month comes to, in one sentence.
 std::string monthSentence(const MonthReport& report);

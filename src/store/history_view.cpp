@@ -242,10 +242,13 @@ PeriodView daysOf(SiteHistory& history, const SiteToShow& site, Stretch time, Mo
 std::map<std::int64_t, TimeSum> sumsOfMonth(SiteHistory& history, const std::vector<SiteToShow>& sites, Stretch time,
                                             Moment now) {
   std::map<std::int64_t, TimeSum> sums;
-  if (hasTable(history.database(), "months")) {
-    const SqlValue month = history_rows::of(time.from);
+  if (!sites.empty() && hasTable(history.database(), "months")) {
+    const std::array<SqlValue, 3> key{history_rows::of(time.from), SqlValue(sites.front().idSite),
+                                      SqlValue(sites.back().idSite)};
     const auto rows = history.database().conn().execute(
-        "select idSite, seconds, checks, up, unknown, msSum, msMax, buckets from months where month = ?1", {&month, 1});
+        "select idSite, seconds, checks, up, unknown, msSum, msMax, buckets from months where month = ?1 and "
+        "idSite between ?2 and ?3",
+        key);
     for (; !rows->eof(); rows->moveNext()) {
       sums.emplace(rows->field(std::size_t{0}).toInt64(),
                    history_rows::sumIn(*rows, 2, seconds(rows->field(std::size_t{1}).toInt64())));

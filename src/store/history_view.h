@@ -66,7 +66,8 @@ struct SiteToShow {
 /// The days of any time, as it is known `now`; the last cell ends with the time, which is over by then.
 PeriodView daysOf(SiteHistory& history, const SiteToShow& site, Stretch time, Moment now);
 
-/// The sums of a month, or of its part up to the present, for these sites. Raises DataAccessError.
+/// The sums of a month, or of its part up to the present, for these sites. REQUIRES: rising ids. Raises
+/// DataAccessError.
 std::map<std::int64_t, TimeSum> sumsOfMonth(SiteHistory& history, const std::vector<SiteToShow>& sites, Stretch time,
                                             Moment now);
 

@@ -37,6 +37,10 @@ struct MonthReportOfARun : ::testing::Test, ProgramFixture {
          .kind = std::string(channel_kind::mail),
          .settings = {{"to", "me@example.org"}, {"server", "smtp.example.org"}, {"attach", attach}}});
   }
+  MonthTelling monthTelling() {
+    return {program.data(),    program.data().delivery(), machine.services().files,
+            machine.handClock, machine.handTimers,        [](const auto& action) { action(); }};
+  }
   /// What is known of an hour of November.
   void know() {
     const Moment day = momentAt(HandClock::at("2026-11-10 00:00:00"));
@@ -96,7 +100,7 @@ TEST_F(MonthReportOfARun, AProgramThatIsStartedLaterMakesItThenAndTheNextOneDoes
   EXPECT_EQ(told(), "1");
   program.stopRun();
   fs::remove(file("2026-11"));
-  MonthTelling another(program.data(), program.data().delivery(), machine.services().files, machine.handClock);
+  MonthTelling another = monthTelling();
   another.tick(program.data().optionsInForce());
   EXPECT_EQ(told(), "1");
   EXPECT_FALSE(fs::exists(file("2026-11")));
@@ -117,7 +121,7 @@ TEST_F(MonthReportOfARun, AFileThatCannotBeWrittenIsNamedWithTheRemedyAndTheMail
   know();
   setClock("2026-12-02 08:00:00");
   fs::create_directories(file("2026-11") + "/in-the-way");
-  MonthTelling telling(program.data(), program.data().delivery(), machine.services().files, machine.handClock);
+  MonthTelling telling = monthTelling();
   try {
     telling.tick(program.data().optionsInForce());
     ADD_FAILURE() << "nothing was raised";
@@ -136,7 +140,7 @@ TEST_F(MonthReportOfARun, AListThatIsLockedGetsItLater) {
   know();
   setClock("2026-12-02 08:00:00");
   program.data();
-  MonthTelling telling(program.data(), program.data().delivery(), machine.services().files, machine.handClock);
+  MonthTelling telling = monthTelling();
   folder.execute("create trigger full before insert on monthReports begin select raise(abort, 'no room'); end");
   EXPECT_THROW(telling.tick(program.data().optionsInForce()), DataAccessError);
   folder.execute("drop trigger full");

@@ -232,7 +232,7 @@ TEST_F(MonthReportTest, CertificatesThatEndSoonestComeFirst) {
 
 TEST_F(MonthReportTest, ThePageShowsStripesFiguresAndCausesAndHoldsNoCredentials) {
   makeUpAll();
-  const std::string page = monthPage(history, report());
+  const std::string page = monthPage(history, report()).whole();
   for (const char* const part :
        {"<h1>October 2026</h1>", "https://a.example/&lt;b&gt;", "class=\"stripe\"", "cause of ", "prefers-color-scheme",
         "The slowest sites", "Outages, the latest first", "2026-10-01 00:00 to 2026-11-01 00:00"}) {
@@ -256,6 +256,34 @@ TEST_F(MonthReportTest, TheTablesAgreeWithTheFigures) {
   EXPECT_EQ(keys, monthTableKeys());
   EXPECT_EQ(std::get<std::int64_t>(tables[0].rows[0][7].value), made.all.sum.down.count());
   EXPECT_THAT(monthLines(made, 2), HasSubstr("and 1 more"));
+}
+
+TEST_F(MonthReportTest, OfALongListOthersGoOnMeanwhile) {
+  makeUpAll();
+  folder.execute(
+      "with recursive n(i) as (select 4 union all select i + 1 from n where i < 200) insert into sites (idSite, url, "
+      "tInterval) select i, 'http://x.example/' || i, 20 from n");
+  folder.execute(
+      "insert into months select s.idSite, m.month, m.seconds, m.checks, m.up - s.idSite, m.unknown, "
+      "m.msSum, m.msMax, m.buckets from sites s, months m where s.idSite > 3 and m.idSite = 1");
+  MonthReport made;
+  TextInParts reading = readMonthReport(history, made, october, clock.now());
+  int parts = 1;
+  while (reading.goOn()) {
+    ++parts;
+  }
+  EXPECT_GT(parts, 10);
+  ASSERT_EQ(made.sites.size(), 200U);
+  for (std::int64_t idSite = 4; idSite <= 200; ++idSite) {
+    EXPECT_EQ(of(made, idSite).sum.up, of(made, 1).sum.up - seconds(idSite));
+  }
+  EXPECT_EQ(made.all.outages, of(made, 1).outages + of(made, 2).outages);
+  EXPECT_TRUE(std::ranges::is_sorted(made.outages, std::ranges::greater(),
+                                     [](const MonthOutage& one) { return one.outage.began; }));
+  TextInParts page = monthPage(history, made);
+  for (parts = 1; page.goOn(); ++parts) {
+  }
+  EXPECT_GT(parts, 100) << "one for each stripe";
 }
 
 }  // namespace

@@ -119,7 +119,7 @@ int monthReport(Tool& tool, const MonthOptions& options) {
   const MonthReport report = tarnwick::monthReport(data, month, now);
   const std::vector<ReportTable> tables = monthTables(report);
   if (options.html) {
-    write(tool, *options.html, monthPage(data, report));
+    write(tool, *options.html, monthPage(data, report).whole());
   } else if (!options.csv.empty()) {
     printCsv(console.out(), *std::ranges::find(tables, options.csv, &ReportTable::key));
   } else if (options.json) {
