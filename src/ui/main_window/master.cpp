@@ -102,8 +102,13 @@ Master::Master(std::string programFolder, const Services& services, const Fields
   controls_.grid1->setFocus();
 }
 
-// Before the program they know.
+// Windows are hidden while they are whole: their bases would do it, and views then ask for what is gone. The dialogs go
+// before the program they know.
 Master::~Master() {
+  for (QDialog* dialog : findChildren<QDialog*>()) {
+    dialog->hide();
+  }
+  hide();
   qDeleteAll(findChildren<QDialog*>(Qt::FindDirectChildrenOnly));
   delete menu_;
 }
