@@ -87,7 +87,7 @@ class SiteHistory {
   std::optional<CheckTimings> timings(std::int64_t idSite);
   /// The hours of a site that begin in that time, or its days, in rising order.
   std::vector<KeptSum> keptHours(std::int64_t idSite, Stretch time);
-  /// The hours of several sites in one reading; nothing of a site that has none.
+  /// The hours of several sites in one reading.
   std::map<std::int64_t, std::vector<KeptSum>> keptHours(const std::vector<std::int64_t>& sites, Stretch time);
   std::vector<KeptSum> keptDays(std::int64_t idSite, Stretch time);
   /// The outages that were on in that time, of one site, or of all; the latest first.
@@ -97,6 +97,8 @@ class SiteHistory {
   void removeHistory(std::int64_t idSite);
 
  private:
+  /// Whether half of all sites, or more, are no more than so many.
+  bool areMostOfAll(std::size_t sites);
   bool hasTables();
   void takeShares(std::int64_t idSite, std::span<const HourShare> shares);
   void takeOutage(std::int64_t idSite, const OutageChange& change, const std::string& cause);

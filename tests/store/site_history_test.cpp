@@ -81,6 +81,25 @@ TEST_F(SiteHistoryTest, WhatNobodyHasLookedAtIsUnknown) {
   EXPECT_EQ(outages(), "2026-11-23 10:10:00|2026-11-23 12:40:00|2|refused\n");
 }
 
+TEST_F(SiteHistoryTest, TheHoursOfManySitesAreThoseOfEach) {
+  ASSERT_TRUE(history.canBeKept());
+  folder.execute(
+      "with recursive n(i) as (select 0 union all select i + 1 from n where i < 999) insert into hours select 1 + i % "
+      "10, 1795392000 + 3600 * (i / 10), i, 3600, 0, 0, 0, x'' from n where i % 7; insert into latestChecks (idSite, "
+      "at, up) select distinct idSite, 1795392000, 1 from hours");
+  const Stretch time{Moment(std::chrono::seconds(1795392000 + 3600 * 11)),
+                     Moment(std::chrono::seconds(1795392000 + 3600 * 80))};
+  for (const std::vector<std::int64_t>& some :
+       {std::vector<std::int64_t>{2, 5}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, {3, 77}}) {
+    const auto found = history.keptHours(some, time);
+    for (const std::int64_t id : some) {
+      EXPECT_EQ(found.at(id).size(), id == 77 ? 0U : history.keptHours(id, time).size());
+      EXPECT_TRUE(std::ranges::equal(found.at(id), history.keptHours(id, time), {}, &KeptSum::began, &KeptSum::began));
+    }
+  }
+  EXPECT_GT(history.keptHours(2, time).size(), 50U);
+}
+
 TEST_F(SiteHistoryTest, WhatWasPlannedIsUnknown) {
   planned = [](Stretch) { return std::vector<Stretch>{{utc("2026-11-23 10:02:00"), utc("2026-11-23 10:05:00")}}; };
   check("2026-11-23 10:00:00", false);
