@@ -29,7 +29,10 @@ void User::showAfresh(Program& program) {
 }
 
 std::string User::someInterval(Chance& chance) const {
-  return std::to_string(chance.oneIn(3) ? (hasPatience ? 2 : 1) * chance.between(1, 5) : chance.between(5, 120));
+  if (hasPatience) {
+    return std::to_string(chance.between(8, 16));
+  }
+  return std::to_string(chance.oneIn(3) ? chance.between(1, 5) : chance.between(5, 120));
 }
 
 bool User::wantsSite() const {

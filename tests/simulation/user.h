@@ -28,7 +28,7 @@ class User {
   bool edits = false;
   /// Adds no site: without the option for new sites they would be unwatched, and the run stand still for them.
   bool addsSites = true;
-  /// Has sites checked every ten minutes on average, and not every six.
+  /// Has as many checks as ten sites have that are checked every ten minutes.
   bool hasPatience = false;
 
   /// Something in the window of the running program, also in the middle of a pass.
