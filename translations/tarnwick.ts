@@ -5143,6 +5143,10 @@
         <source>the line of the history &quot;%1&quot; ended before it began: give the end as the second number, or - while it is on</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The latest page of site %1 is empty, which cannot be a baseline. Check again with: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -9707,10 +9711,6 @@ Do You Want To Discard Them And Close %2?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Site %1 was not checked yet.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Site %1 is as it should be.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -9823,7 +9823,19 @@ Do You Want To Discard Them And Close %2?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The page of %1 is not kept any more.</source>
+        <source>No page of site %1 is here yet: the next check brings it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 answered with an empty page, which is known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Site %1 answered with an empty page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page of %1 was empty, or is not kept any more.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -5143,6 +5143,10 @@
         <source>the line of the history &quot;%1&quot; ended before it began: give the end as the second number, or - while it is on</source>
         <translation>die Zeile des Verlaufs &quot;%1&quot; endete, bevor sie begann: das Ende als zweite Zahl angeben, oder - solange er andauert</translation>
     </message>
+    <message>
+        <source>The latest page of site %1 is empty, which cannot be a baseline. Check again with: %2</source>
+        <translation>Der letzte Inhalt der Seite %1 ist leer, was keine Basis sein kann. Noch einmal prüfen mit: %2</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -9710,10 +9714,6 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <translation>Seite %1 gibt es nicht mehr.</translation>
     </message>
     <message>
-        <source>Site %1 was not checked yet.</source>
-        <translation>Seite %1 wurde noch nicht geprüft.</translation>
-    </message>
-    <message>
         <source>Site %1 is as it should be.</source>
         <translation>Seite %1 ist, wie sie sein soll.</translation>
     </message>
@@ -9826,8 +9826,20 @@ Möchten Sie sie verwerfen und %2 schließen?</translation>
         <translation>Die Prüfung von %1 brachte keine Seite: %2</translation>
     </message>
     <message>
-        <source>The page of %1 is not kept any more.</source>
-        <translation>Die Seite von %1 wird nicht mehr aufbewahrt.</translation>
+        <source>No page of site %1 is here yet: the next check brings it.</source>
+        <translation>Von Seite %1 liegt noch kein Inhalt vor: Die nächste Prüfung bringt ihn.</translation>
+    </message>
+    <message>
+        <source>Site %1 answered with an empty page, which is known</source>
+        <translation>Seite %1 hat leer geantwortet, was bekannt ist</translation>
+    </message>
+    <message>
+        <source>Site %1 answered with an empty page</source>
+        <translation>Seite %1 hat leer geantwortet</translation>
+    </message>
+    <message>
+        <source>The page of %1 was empty, or is not kept any more.</source>
+        <translation>Der Inhalt von %1 war leer oder wird nicht mehr aufbewahrt.</translation>
     </message>
 </context>
 <context>

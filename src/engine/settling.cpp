@@ -104,18 +104,23 @@ void Settling::setBaseline(std::int16_t idSite, const std::string& page) {
 
 ToSettle Settling::toSettle(std::int16_t idSite) {
   ToSettle found;
-  const auto rows = db_.query("select content_compare,content_runtime from sites where idSite = " + sqlQuote(idSite));
+  const auto rows =
+      db_.query("select content_compare,content_runtime,status from sites where idSite = " + sqlQuote(idSite));
   if (rows->eof()) {
     return found;
   }
   found.baseline = rows->field("content_compare").toText();
   found.page = rows->field("content_runtime").toText();
+  const SqlValue status = rows->field("status");
   rows->close();
   found.isAcknowledged = Acknowledgements(db_).acknowledgementOf(idSite).has_value();
   const RuleSet rules = SiteRules(db_).rulesOf(idSite);
   const bool isSame = !found.baseline.empty() && judgePage(found.baseline, found.page, rules).same;
   if (found.page.empty()) {
-    found.state = ToSettle::State::never;
+    const bool isUp = !status.isNull() && status.toBool();
+    found.state = status.isNull() || (isUp && !found.baseline.empty()) ? ToSettle::State::never
+                  : isUp                                               ? ToSettle::State::same
+                                                                       : ToSettle::State::emptyPage;
   } else if (isSame || isFurtherGood(baselines_, idSite, found.page, rules)) {
     found.state = ToSettle::State::same;
   } else if (found.page == kPageNotKept) {

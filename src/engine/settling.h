@@ -27,9 +27,10 @@ bool isFurtherGood(Baselines& baselines, std::int16_t idSite, std::string_view p
 struct ToSettle {
   enum class State {
     noSuchSite,
-    never,        ///< it was not checked yet
+    never,        ///< it was not checked yet, or what came is not here
     same,         ///< the latest page is as it should be
     differs,      ///< it is another one than the baseline
+    emptyPage,    ///< so is an empty one, which cannot be a baseline: an empty baseline means that there is none
     failedFetch,  ///< the latest check brought no page
     notKept,      ///< the page was not kept, for want of room on the disk
   };

@@ -69,6 +69,18 @@ TEST_F(SettlingTest, TellsWhatThereIsToSettle) {
   EXPECT_EQ(settling.toSettle(1).state, ToSettle::State::failedFetch);
 }
 
+TEST_F(SettlingTest, AnEmptyPageIsAnAnswerThatCannotBeTheBaseline) {
+  check("");
+  EXPECT_EQ(settling.toSettle(1).state, ToSettle::State::same) << "of a site that has no baseline yet";
+  check("a page");
+  check("");
+  EXPECT_EQ(settling.toSettle(1).state, ToSettle::State::emptyPage);
+  EXPECT_EQ(settling.toSettle(1).baseline, "a page");
+  check("a page");
+  folder.execute("update sites set content_runtime = ''");
+  EXPECT_EQ(settling.toSettle(1).state, ToSettle::State::never) << "it has been up, so there was a page";
+}
+
 TEST_F(SettlingTest, TellsWhatOfThePagesMayVary) {
   const std::string baseline = "<p>at [10]</p>\n<b>24.00</b>\n";
   const std::string page = "<p>at [1234]</p>\n<b>29.00</b>\n";

@@ -100,8 +100,13 @@ int setBaseline(Tool& tool, const BaselineOptions& options) {
 }
 
 int acceptLatest(Tool& tool, const BaselineOptions& options) {
-  const std::string page = tool.data().getContentRuntime(options.idSite);
+  const ToSettle found = tool.data().toSettle(options.idSite);
+  const std::string& page = found.page;
   const std::string check = "tarnwickctl check " + std::to_string(options.idSite);
+  if (found.state == ToSettle::State::emptyPage) {
+    throw std::runtime_error("The latest page of site " + std::to_string(options.idSite) +
+                             " is empty, which cannot be a baseline. Check again with: " + check);
+  }
   if (page.empty()) {
     throw std::runtime_error("Site " + std::to_string(options.idSite) + " has no latest page. Fetch it with: " + check);
   }
@@ -205,7 +210,7 @@ int diff(Tool& tool, const DiffOptions& options) {
   const std::string id = std::to_string(options.idSite);
   const std::string before = tool.data().getContentCompare(options.idSite);
   const std::string after = tool.data().getContentRuntime(options.idSite);
-  if (after.empty()) {
+  if (tool.data().toSettle(options.idSite).state == ToSettle::State::never) {
     throw std::runtime_error("Site " + id + " has no latest page yet. Fetch it with: tarnwickctl check " + id);
   }
   const RuleSet rules = tool.data().rulesOf(options.idSite);

@@ -53,10 +53,19 @@ std::string nothingToSettle(std::int16_t id, const ToSettle& found) {
              " was not kept, since there was too little room on the disk. Make room, then fetch it with: " +
              checkCommand(id);
     case State::failedFetch:
+    case State::emptyPage:
     case State::differs:
       break;
   }
   return "";
+}
+
+/// The same of a page that is to be the baseline.
+std::string nothingToAccept(std::int16_t id, const ToSettle& found) {
+  return found.state == State::emptyPage
+             ? "The latest page of site " + std::to_string(id) +
+                   " is empty, which cannot be a baseline. Check again with: " + checkCommand(id)
+             : nothingToSettle(id, found);
 }
 
 /// Why a page is not taken without being asked for twice; empty for most.
@@ -86,7 +95,7 @@ class Candidates {
 
   void add(std::int16_t id) {
     ToSettle found = tool_.data().toSettle(id);
-    const std::string nothing = nothingToSettle(id, found);
+    const std::string nothing = nothingToAccept(id, found);
     const bool isRefused = nothing.empty() && found.isDoubtful() && !options_.anyway;
     if (!nothing.empty()) {
       ++unfit_;

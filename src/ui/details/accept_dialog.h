@@ -19,7 +19,7 @@ class AcceptDialog final : public QDialog {
   Q_OBJECT
 
  public:
-  /// `accepted` follows what was taken. `program` outlives the dialog. REQUIRES: `canBeSettled(found)`.
+  /// `accepted` follows what was taken. `program` outlives the dialog. REQUIRES: `canBeAccepted(found)`.
   AcceptDialog(Program& program, std::int16_t idSite, ToSettle found, bool beside,
                std::function<void(AcceptAs)> accepted, QWidget* parent);
 

@@ -54,7 +54,7 @@ void ChangeWindow::showSite(std::int16_t idSite) {
   ToSettle found = program_.data().toSettle(idSite);
   const QString reason = canBeSettled(found) ? displayMessage(program_.data().reasonOf(idSite)) : QString();
   headline_->setText(standingWords(idSite, found, reason));
-  accept_->setEnabled(canBeSettled(found));
+  accept_->setEnabled(canBeAccepted(found));
   const QString sentence = nothingToShow(idSite, found);
   if (sentence.isEmpty()) {
     panel_->heads().tell(

@@ -89,7 +89,10 @@ class DetailsPane final : public QWidget {
   void tellButtons();
   void tellPause();
   void tellVary();
-  bool offersCheck() const { return found_ && (found_->state == ToSettle::State::failedFetch || isSettled_); }
+  bool offersCheck() const {
+    return found_ &&
+           (found_->state == ToSettle::State::failedFetch || found_->state == ToSettle::State::emptyPage || isSettled_);
+  }
 
   Program& program_;
   SiteSettling& settling_;

@@ -107,7 +107,7 @@ void DifferencePanel::chooseLayout() {
 }
 
 void DifferencePanel::tell(const QString& sentence) {
-  name_ = sentence;
+  name_ = sentence.isEmpty() ? tr("What changed") : sentence;
   heads_->tell({}, {});
   view_->tell(sentence);
   chooseLayout();

@@ -66,13 +66,18 @@ QString standingWords(std::int16_t idSite, const ToSettle& found, const QString&
     case State::noSuchSite:
       return Words::tr("There is no site %1 any more.").arg(idSite);
     case State::never:
-      return Words::tr("Site %1 was not checked yet.").arg(idSite);
+      return Words::tr("No page of site %1 is here yet: the next check brings it.").arg(idSite);
     case State::same:
       return Words::tr("Site %1 is as it should be.").arg(idSite);
     case State::notKept:
       return Words::tr("Site %1 changed, and its page was not kept for want of room.").arg(idSite);
     case State::failedFetch:
       return withReason(Words::tr("Site %1 does not answer").arg(idSite), reason);
+    case State::emptyPage:
+      return withReason((found.isAcknowledged ? Words::tr("Site %1 answered with an empty page, which is known")
+                                              : Words::tr("Site %1 answered with an empty page"))
+                            .arg(idSite),
+                        reason);
     case State::differs:
       break;
   }
@@ -84,6 +89,7 @@ QString standingWords(std::int16_t idSite, const ToSettle& found, const QString&
 QString nothingToShow(std::int16_t idSite, const ToSettle& found) {
   switch (found.state) {
     case State::differs:
+    case State::emptyPage:
     case State::same:
       return {};
     case State::failedFetch:
@@ -135,7 +141,8 @@ QString loggedWords(const LogRow& row) {
   if (row.errCode.value_or(0) != 0) {
     return Words::tr("The check of %1 brought no page: %2").arg(when, displayMessage(row.errDescription.value_or("")));
   }
-  return row.content.value_or("").empty() ? Words::tr("The page of %1 is not kept any more.").arg(when) : QString();
+  return row.content.value_or("").empty() ? Words::tr("The page of %1 was empty, or is not kept any more.").arg(when)
+                                          : QString();
 }
 
 QString bytesWords(std::size_t bytes) {
@@ -143,6 +150,8 @@ QString bytesWords(std::size_t bytes) {
                     : Words::tr("%1 bytes").arg(QLocale().toString(static_cast<qulonglong>(bytes)));
 }
 
-bool canBeSettled(const ToSettle& found) { return found.state == State::differs || found.state == State::failedFetch; }
+bool canBeSettled(const ToSettle& found) { return canBeAccepted(found) || found.state == State::emptyPage; }
+
+bool canBeAccepted(const ToSettle& found) { return found.state == State::differs || found.state == State::failedFetch; }
 
 }  // namespace tarnwick

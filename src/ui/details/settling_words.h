@@ -38,7 +38,9 @@ QString loggedWords(const LogRow& row);
 /// A number of bytes as people read it: "1,204 bytes".
 QString bytesWords(std::size_t bytes);
 
-/// Whether the latest check brought a page that can be accepted, or acknowledged.
+/// Whether the latest check brought something that can be acknowledged.
 bool canBeSettled(const ToSettle& found);
+/// Whether it can be accepted, too, which an empty page cannot.
+bool canBeAccepted(const ToSettle& found);
 
 }  // namespace tarnwick

@@ -16,7 +16,7 @@ SiteSettling::SiteSettling(Program& program, QWidget& window, QObject* parent)
 void SiteSettling::accept(std::int16_t idSite, bool beside) {
   program_.faults().run([&] {
     ToSettle found = program_.data().toSettle(idSite);
-    if (!canBeSettled(found)) {
+    if (!canBeAccepted(found)) {
       tell(window_, program_, standingWords(idSite, found, {}).toStdString());
       return;
     }

@@ -73,6 +73,21 @@ TEST_F(SettlingVerbs, AcceptRefusesWhatLooksWrong) {
   EXPECT_THAT(err, HasSubstr("brought no page"));
 }
 
+TEST_F(SettlingVerbs, AnEmptyPageIsShownAndKnownAndNoBaseline) {
+  changed("/a", "a page\n", "");
+  EXPECT_EQ(run({"diff", "1"}), exit_status::down);
+  EXPECT_THAT(out, HasSubstr("-a page"));
+  for (const std::vector<std::string>& verb :
+       {std::vector<std::string>{"accept", "1", "--yes", "--anyway"}, {"baseline", "1", "accept", "--force"}}) {
+    EXPECT_EQ(run(verb), exit_status::failed);
+    EXPECT_THAT(err, HasSubstr("The latest page of site 1 is empty, which cannot be a baseline."));
+  }
+  EXPECT_EQ(column(1, "content_compare"), "a page\n");
+  EXPECT_EQ(run({"acknowledge", "1"}), exit_status::ok);
+  EXPECT_EQ(run({"check", "1"}), exit_status::down);
+  EXPECT_EQ(runJson({"sites", "known", "--json"}).size(), 1U);
+}
+
 TEST_F(SettlingVerbs, AcceptNamesWhatHasNothingToAccept) {
   addPage("/a", "alpha");
   EXPECT_EQ(run({"accept", "1", "--yes"}), exit_status::failed);

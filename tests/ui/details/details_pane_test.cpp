@@ -100,6 +100,14 @@ TEST_F(DetailsPaneTest, TheHeadlineTellsWhichLinesHaveChanged) {
   EXPECT_FALSE(find<LinkButton>("detailsVary").isVisible());
 }
 
+TEST_F(DetailsPaneTest, AnEmptyPageIsComparedAndCheckedAgain) {
+  change("");
+  openDetails();
+  EXPECT_TRUE(waitUntil([&] { return headline().starts_with("Site 3 answered with an empty page"); })) << headline();
+  EXPECT_TRUE(find<QPushButton>("btnAcknowledge").isEnabled());
+  EXPECT_EQ(find<QPushButton>("btnAccept").text(), QStringLiteral("Check &Now"));
+}
+
 TEST_F(DetailsPaneTest, WhatAlwaysChangesMayVaryByOneClick) {
   int wanted = 0;
   master->setEditors({.site = {.open = {}, .openNew = {}, .propose = [&](std::int16_t) { ++wanted; }}, .settings = {}});

@@ -42,7 +42,8 @@ TEST_F(NoticeActionsTest, AcceptShowsThePageThatThereIsToAccept) {
   machine.notifier.act(0, "accept");
   EXPECT_EQ(find<SiteGridView>("grid1").currentSite(), std::int16_t{7});
   EXPECT_TRUE(find<QWidget>("details").isVisible());
-  EXPECT_EQ(machine.prompts.texts(), std::vector<std::string>{"Site 7 was not checked yet."});
+  EXPECT_EQ(machine.prompts.texts(),
+            std::vector<std::string>{"No page of site 7 is here yet: the next check brings it."});
 }
 
 TEST_F(NoticeActionsTest, MutePausesTheAlertsOfTheSiteForAnHour) {
