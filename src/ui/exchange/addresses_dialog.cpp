@@ -80,14 +80,15 @@ void AddressesDialog::read() {
   btnAdd_->setEnabled(false);
   btnAdd_->setText(tr("&Add"));
   explain(*state_, {});
-  ListFaults faults;
-  list_ = readAnyList("addresses", text_->toPlainText().toStdString(), program_.data().fields(), faults);
-  if (!faults.none()) {
-    state_->setText(displayMessage(lineOf(faults.kept().front())));
+  const QString text = text_->toPlainText();
+  if (text.trimmed().isEmpty()) {
+    state_->setText(tr("Paste or type addresses."));
     return;
   }
-  if (list_.content.sites.empty() && list_.content.notes.empty()) {
-    state_->setText(tr("Paste or type addresses."));
+  ListFaults faults;
+  list_ = readAnyList("addresses", text.toStdString(), program_.data().fields(), faults);
+  if (!faults.none()) {
+    state_->setText(displayMessage(lineOf(faults.kept().front())));
     return;
   }
   work_ = std::make_unique<ImportWork>(program_, list_, ImportWork::Aim::read,

@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
 // What a screen reader is told of every control: it follows what is to be seen, and is plain text.
+#include <algorithm>
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QAction>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 
+#include "ui/exchange/addresses_dialog.h"
+#include "ui/exchange/export_dialog.h"
 #include "ui/settings/control_dialog.h"
 #include "ui/support/dialog_fixture.h"
 
@@ -12,6 +18,7 @@ namespace {
 
 class SpokenNamesTest : public DialogTest {
  protected:
+  static bool isLetter(QChar sign) { return sign.isLetter(); }
   static QString seen(const QWidget& control) {
     QString text;
     if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) {
@@ -21,7 +28,8 @@ class SpokenNamesTest : public DialogTest {
     } else if (const auto* label = qobject_cast<const QLabel*>(&control)) {
       text = label->text();
     }
-    return text.remove(QLatin1Char('&')).trimmed();
+    // A sign alone, as an arrow, is spoken by a word.
+    return std::ranges::any_of(text, &isLetter) ? text.remove(QLatin1Char('&')).trimmed() : QString();
   }
   /// What was looked at, to see that something was.
   static int expectSpoken(QWidget& window) {
@@ -95,6 +103,31 @@ TEST_F(SpokenNamesTest, OfTheSettings) {
   EXPECT_EQ(spoken(in<QWidget>(settings, "lblLogs"), QAccessible::Name), QStringLiteral("Complete"));
   in<QTabWidget>(settings, "pages").setCurrentIndex(1);
   EXPECT_GT(expectSpoken(settings), 6);
+}
+
+TEST_F(SpokenNamesTest, OfTheWindowsThatTheListOpens) {
+  addSite(5, "http://one.test/");
+  openProgram();
+  const auto spokenIn = [&](const std::function<void()>& open) {
+    open();
+    QDialog* dialog = nullptr;
+    for (auto* one : master->findChildren<QDialog*>()) {
+      dialog = one->isVisible() ? one : dialog;
+    }
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_GT(expectSpoken(*dialog), 1);
+    for (auto* view : dialog->findChildren<QAbstractScrollArea*>()) {
+      const bool isReached = view->isVisible() && (view->focusPolicy() & Qt::TabFocus) != 0;
+      EXPECT_TRUE(!isReached || !spoken(*view, QAccessible::Name).isEmpty())
+          << dialog->objectName().toStdString() << ": " << view->metaObject()->className();
+    }
+    dialog->reject();
+  };
+  for (const char* const action : {"historyOfAll", "sameChanges"}) {
+    spokenIn([&] { find<QAction>(action).trigger(); });
+  }
+  spokenIn(exportOf(master->program(), *master));
+  spokenIn([&] { addAddressesOf(master->program(), *master)({}); });
 }
 
 }  // namespace
