@@ -93,7 +93,7 @@ MUTANTS = (
            "for each transaction.\n    sqlite3_exec(database, \"pragma synchronous = full\"",
            "for each transaction.\n    sqlite3_exec(database, \"pragma synchronous = normal\""),
     Mutant("a copy is not on the disk when it is renamed", "platform/os/local_files.cpp",
-           "    syncToDisk(file.get(), path);\n", ""),
+           "    syncToDisk(file_.get(), path_);\n", ""),
     Mutant("a new name is not on the disk when it is told", "platform/os/local_files_posix.cpp",
            "  syncFolder(pathOf(to).parent_path());\n", "  static_cast<void>(syncFolder);\n"),
     Mutant("the report counts an error too many", "report/daily_report.cpp", "select count(*) as [Total Errors]",
@@ -103,8 +103,8 @@ MUTANTS = (
     Mutant("the time-out of the settings is ignored", "engine/inet_pool.cpp", "  request.timeout = timeout_;\n",
            "  request.timeout = kDefaultRequestTimeout;\n"),
     Mutant("Stop waits for a mail", "engine/run_controller.cpp", "  needs_.alerts.giveUpMail();\n", ""),
-    Mutant("a mail is waited for without end", "alerts/alert_dispatch.cpp", "    end->setEnabled(true);\n",
-           "    end->setEnabled(false);\n"),
+    Mutant("a mail is waited for without end", "alerts/alert_dispatch.cpp", "    second->setEnabled(true);\n",
+           "    second->setEnabled(false);\n"),
     Mutant("a mail server that was slow once is never asked again", "alerts/alert_dispatch.cpp",
            "  tooSlow_.clear();\n", ""),
     Mutant("a mail that is left out is not told", "engine/pass_recording.cpp", "needs_.alerts.mailOutcome(); mail.lost)",
@@ -149,12 +149,18 @@ def found_by(work: Path) -> str | None:
     return None
 
 
+def has_its_place(mutant: Mutant, source: Path) -> bool:
+    if (source / "src" / mutant.file).read_text(encoding="utf-8").count(mutant.before) == 1:
+        return True
+    print(f"{mutant.title}: its code is not in src/{mutant.file} any more; write the fault anew.")
+    return False
+
+
 def hunt_down(mutant: Mutant, work: Path) -> bool:
+    if not has_its_place(mutant, work):
+        return False
     file = work / "src" / mutant.file
     text = file.read_text(encoding="utf-8")
-    if text.count(mutant.before) != 1:
-        print(f"{mutant.title}: its code is not in src/{mutant.file} any more; write the fault anew.")
-        return False
     file.write_text(text.replace(mutant.before, mutant.after), encoding="utf-8")
     begun = time.monotonic()
     try:
@@ -173,10 +179,12 @@ def hunt_down(mutant: Mutant, work: Path) -> bool:
 def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("source", type=Path)
-    parser.add_argument("work", type=Path)
+    parser.add_argument("work", type=Path, nargs="?", help="where they are tried; without, each is only looked for")
     parser.add_argument("--only", default="")
     parser.add_argument("--first", type=int, default=1, help="the number of the first fault to try")
     wanted = parser.parse_args()
+    if wanted.work is None:
+        return 0 if all([has_its_place(mutant, wanted.source) for mutant in MUTANTS]) else 1
     shutil.copytree(wanted.source, wanted.work, ignore=shutil.ignore_patterns("build", ".git"), dirs_exist_ok=True)
     subprocess.run(["cmake", "--preset", "release", "-DBUILD_TESTING=ON"], cwd=wanted.work, check=True,
                    stdout=subprocess.DEVNULL)
