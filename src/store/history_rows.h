@@ -15,12 +15,15 @@ namespace tarnwick::history_rows {
 inline constexpr const char* kStoreHour =
     "insert or replace into hours (idSite, hour, checks, up, unknown, msSum, msMax, buckets) values (?1, ?2, ?3, ?4, "
     "?5, ?6, ?7, ?8)";
+// A sum that knows more of its time stays: of a day whose hours are kept no longer a clock that is set back brings few.
 inline constexpr const char* kStoreDay =
-    "insert or replace into days (idSite, day, seconds, checks, up, unknown, msSum, msMax, buckets) values (?1, ?2, "
-    "?3, ?4, ?5, ?6, ?7, ?8, ?9)";
+    "insert into days (idSite, day, seconds, checks, up, unknown, msSum, msMax, buckets) values (?1, ?2, ?3, ?4, ?5, "
+    "?6, ?7, ?8, ?9) on conflict (idSite, day) do update set seconds = ?3, checks = ?4, up = ?5, unknown = ?6, "
+    "msSum = ?7, msMax = ?8, buckets = ?9 where ?3 - ?6 >= seconds - unknown";
 inline constexpr const char* kStoreMonth =
-    "insert or replace into months (idSite, month, seconds, checks, up, unknown, msSum, msMax, buckets) values (?1, "
-    "?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9)";
+    "insert into months (idSite, month, seconds, checks, up, unknown, msSum, msMax, buckets) values (?1, ?2, ?3, ?4, "
+    "?5, ?6, ?7, ?8, ?9) on conflict (idSite, month) do update set seconds = ?3, checks = ?4, up = ?5, unknown = ?6, "
+    "msSum = ?7, msMax = ?8, buckets = ?9 where ?3 - ?6 >= seconds - unknown";
 
 SqlValue of(Moment moment);
 Moment momentIn(const SqlValue& value);

@@ -25,8 +25,11 @@ struct SiteHistoryTest : ::testing::Test {
   }
 
   void check(const char* time, bool up, std::int64_t took = 100, const char* cause = "refused") {
+    check(utc(time), up, took, cause);
+  }
+  void check(Moment time, bool up, std::int64_t took = 100, const char* cause = "refused") {
     Transaction whole(database);
-    SiteHistory::Entry entry{.check = {utc(time), up, up ? "" : cause, milliseconds(took)}, .interval = minutes(10)};
+    SiteHistory::Entry entry{.check = {time, up, up ? "" : cause, milliseconds(took)}, .interval = minutes(10)};
     entry.timings.whole = milliseconds(took);
     entry.planned = planned;
     history.take(1, entry);
@@ -123,6 +126,23 @@ TEST_F(SiteHistoryTest, ADayAndAMonthAreTheSumsOfTheirHours) {
   EXPECT_EQ(folder.queryRows("select datetime(month, 'unixepoch'), seconds, checks, up from months"),
             "2026-09-30 22:00:00|2682000|15|7200\n");
   EXPECT_EQ(history.keptDays(1, {utc("2026-10-24 22:00:00"), utc("2026-10-26 22:00:00")}).size(), 2U);
+}
+
+TEST_F(SiteHistoryTest, AClockThatIsSetBackLeavesTheSumOfADayWhoseHoursAreGone) {
+  for (int minute = 0; minute <= 26 * 60; minute += 10) {
+    check(utc("2026-10-30 23:00:00") + minutes(minute), true);
+  }
+  const auto sums = [&] {
+    return folder.queryRows("select datetime(day, 'unixepoch'), checks, up from days order by day limit 1") +
+           folder.queryRows("select datetime(month, 'unixepoch'), checks, up from months");
+  };
+  const std::string before = sums();
+  EXPECT_EQ(before, "2026-10-30 23:00:00|144|86400\n2026-09-30 22:00:00|144|86400\n");
+  history.thin(std::nullopt, utc("2026-12-01 00:00:00"));
+  check("2026-10-31 10:00:00", false);
+  check("2026-10-31 10:10:00", true);
+  check("2026-11-02 10:00:00", true);
+  EXPECT_EQ(sums(), before);
 }
 
 TEST_F(SiteHistoryTest, AClockThatIsSetBackNeverFillsAnHourTwice) {
