@@ -7789,10 +7789,6 @@ and when it is back</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Check &amp;Now</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>There is no changed page to accept</source>
         <translation type="unfinished"></translation>
     </message>
@@ -7862,6 +7858,10 @@ and when it is back</source>
     </message>
     <message>
         <source>Choose one site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Check Now</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8223,10 +8223,6 @@ and when it is back</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Keep the History</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>From now on keep for years when each site was up or down; the log is read into it</source>
         <translation type="unfinished"></translation>
     </message>
@@ -8252,6 +8248,10 @@ and when it is back</source>
     </message>
     <message>
         <source>Of the answers of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep th&amp;e History</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

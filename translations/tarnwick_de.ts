@@ -7790,10 +7790,6 @@ und wenn sie wieder da ist</translation>
         <translation>Wählen Sie eine Seite, um zu sehen, was sich geändert hat.</translation>
     </message>
     <message>
-        <source>Check &amp;Now</source>
-        <translation>&amp;Jetzt prüfen</translation>
-    </message>
-    <message>
         <source>There is no changed page to accept</source>
         <translation>Es gibt keinen geänderten Inhalt zu übernehmen</translation>
     </message>
@@ -7864,6 +7860,10 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>Choose one site</source>
         <translation>Wählen Sie eine Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Check Now</source>
+        <translation>&amp;Jetzt prüfen</translation>
     </message>
 </context>
 <context>
@@ -8224,10 +8224,6 @@ und wenn sie wieder da ist</translation>
         <translation>Es wird kein Verlauf geführt: nur das Protokoll sagt, wie es den Seiten ging.</translation>
     </message>
     <message>
-        <source>&amp;Keep the History</source>
-        <translation>&amp;Verlauf führen</translation>
-    </message>
-    <message>
         <source>From now on keep for years when each site was up or down; the log is read into it</source>
         <translation>Von jetzt an über Jahre festhalten, wann jede Seite verfügbar war; das Protokoll wird übernommen</translation>
     </message>
@@ -8254,6 +8250,10 @@ und wenn sie wieder da ist</translation>
     <message>
         <source>Of the answers of %1</source>
         <translation>Der Antworten aus: %1</translation>
+    </message>
+    <message>
+        <source>Keep th&amp;e History</source>
+        <translation>&amp;Verlauf führen</translation>
     </message>
 </context>
 <context>

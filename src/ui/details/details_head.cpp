@@ -94,7 +94,7 @@ void DetailsPane::tellButtons() {
   const bool isOne = chosen_ <= 1;
   const bool settles = isOne && found_ && canBeSettled(*found_);
   const bool isKnown = settles && found_->isAcknowledged;
-  btnAccept_->setText(offersCheck() ? tr("Check &Now") : tr("&Accept…"));
+  btnAccept_->setText(offersCheck() ? tr("&Check Now") : tr("&Accept…"));
   btnAccept_->setEnabled(settles || (isOne && offersCheck()));
   btnAccept_->setToolTip(!isOne          ? tr("Choose one site")
                          : offersCheck() ? tr("Fetch the page again, at once")

@@ -100,7 +100,7 @@ QWidget* HistoryPage::makeInvitation() {
   auto* words =
       named(new QLabel(tr("No history is kept: only the log tells how the sites have been."), page), "historyNotKept");
   words->setWordWrap(true);
-  keep_ = addButton(*page, "historyKeep", tr("&Keep the History"),
+  keep_ = addButton(*page, "historyKeep", tr("Keep th&e History"),
                     tr("From now on keep for years when each site was up or down; the log is read into it"));
   onClick(*keep_, program_.faults(), [this] { keep(); });
   auto* lines = new QVBoxLayout(page);

@@ -100,12 +100,32 @@ TEST_F(DetailsPaneTest, TheHeadlineTellsWhichLinesHaveChanged) {
   EXPECT_FALSE(find<LinkButton>("detailsVary").isVisible());
 }
 
+TEST_F(DetailsPaneTest, NoButtonTakesTheKeyOfAnother) {
+  const auto shared = [this] {
+    std::vector<QChar> keys = mnemonics(*master);
+    std::ranges::sort(keys);
+    const auto twice = std::ranges::adjacent_find(keys);
+    return twice == keys.end() ? QString() : QString(*twice);
+  };
+  change();
+  openDetails();
+  EXPECT_TRUE(waitUntil([&] { return find<QPushButton>("btnAcknowledge").isEnabled(); }));
+  EXPECT_EQ(shared(), QString());
+  find<QPushButton>("btnAcknowledge").click();
+  set("pause", "for good");
+  EXPECT_TRUE(waitUntil([&] { return find<QPushButton>("btnAcknowledge").text() == QStringLiteral("Alarm A&gain"); }));
+  EXPECT_EQ(shared(), QString());
+  change("");
+  EXPECT_TRUE(waitUntil([&] { return find<QPushButton>("btnAccept").text() == QStringLiteral("&Check Now"); }));
+  EXPECT_EQ(shared(), QString());
+}
+
 TEST_F(DetailsPaneTest, AnEmptyPageIsComparedAndCheckedAgain) {
   change("");
   openDetails();
   EXPECT_TRUE(waitUntil([&] { return headline().starts_with("Site 3 answered with an empty page"); })) << headline();
   EXPECT_TRUE(find<QPushButton>("btnAcknowledge").isEnabled());
-  EXPECT_EQ(find<QPushButton>("btnAccept").text(), QStringLiteral("Check &Now"));
+  EXPECT_EQ(find<QPushButton>("btnAccept").text(), QStringLiteral("&Check Now"));
 }
 
 TEST_F(DetailsPaneTest, WhatAlwaysChangesMayVaryByOneClick) {

@@ -121,6 +121,9 @@ TEST_F(SpokenNamesTest, OfTheWindowsThatTheListOpens) {
       EXPECT_TRUE(!isReached || !spoken(*view, QAccessible::Name).isEmpty())
           << dialog->objectName().toStdString() << ": " << view->metaObject()->className();
     }
+    std::vector<QChar> keys = mnemonics(*dialog);
+    std::ranges::sort(keys);
+    EXPECT_TRUE(std::ranges::adjacent_find(keys) == keys.end()) << dialog->objectName().toStdString();
     dialog->reject();
   };
   for (const char* const action : {"historyOfAll", "sameChanges"}) {
