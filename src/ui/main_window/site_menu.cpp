@@ -2,6 +2,7 @@
 #include "ui/main_window/site_menu.h"
 
 #include <algorithm>
+#include <functional>
 #include <QClipboard>
 #include <QDateTimeEdit>
 #include <QDialog>
@@ -87,7 +88,7 @@ QAction* SiteMenu::add(const char* name, const QString& caption, const QKeySeque
 }
 
 QAction* SiteMenu::add(const char* name, const QString& caption, const QKeySequence& keys, Doing action) {
-  return add(name, caption, keys, [this, action] { (actions_->*action)(chosen()); });
+  return add(name, caption, keys, [this, action] { std::invoke(action, *actions_, chosen()); });
 }
 
 // Told in the menu, carried out by the list alone: elsewhere the keys are those of a text.
