@@ -1580,10 +1580,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Site %1 has no latest page yet. Fetch it with: tarnwickctl check %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The latest check of site %1 brought no page but &quot;%2&quot;. Check again with: %3; if that is the page&apos;s own text, use --force.</source>
         <translation type="unfinished"></translation>
     </message>

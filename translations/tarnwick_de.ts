@@ -1580,10 +1580,6 @@
         <translation>Seite %1 hat keinen letzten Inhalt. Holen Sie ihn mit: %2</translation>
     </message>
     <message>
-        <source>Site %1 has no latest page yet. Fetch it with: tarnwickctl check %2</source>
-        <translation>Seite %1 hat noch keinen letzten Inhalt. Holen Sie ihn mit: tarnwickctl check %2</translation>
-    </message>
-    <message>
         <source>The latest check of site %1 brought no page but &quot;%2&quot;. Check again with: %3; if that is the page&apos;s own text, use --force.</source>
         <translation>Die letzte Prüfung von Seite %1 brachte keine Seite, sondern „%2“. Prüfen Sie noch einmal mit: %3; ist das der Text der Seite selbst, so nehmen Sie --force.</translation>
     </message>

@@ -7,6 +7,7 @@
 #include "cli/terminal/json_output.h"
 #include "cli/terminal/text_grid.h"
 #include "cli/verbs/page_diff.h"
+#include "cli/verbs/settling_words.h"
 #include "cli/verbs/tool.h"
 #include "cli/verbs/verbs.h"
 #include "page_rules/page_judge.h"
@@ -102,17 +103,13 @@ int setBaseline(Tool& tool, const BaselineOptions& options) {
 int acceptLatest(Tool& tool, const BaselineOptions& options) {
   const ToSettle found = tool.data().toSettle(options.idSite);
   const std::string& page = found.page;
-  const std::string check = "tarnwickctl check " + std::to_string(options.idSite);
-  if (found.state == ToSettle::State::emptyPage) {
-    throw std::runtime_error("The latest page of site " + std::to_string(options.idSite) +
-                             " is empty, which cannot be a baseline. Check again with: " + check);
-  }
-  if (page.empty()) {
-    throw std::runtime_error("Site " + std::to_string(options.idSite) + " has no latest page. Fetch it with: " + check);
+  const std::string nothing = nothingToAccept(options.idSite, found);
+  if (page.empty() || (!nothing.empty() && found.state != ToSettle::State::same)) {
+    throw std::runtime_error(nothing);
   }
   if (page.starts_with(kFailedFetch) && !options.force) {
     throw std::runtime_error("The latest check of site " + std::to_string(options.idSite) + " brought no page but \"" +
-                             visibleText(page, 100) + "\". Check again with: " + check +
+                             visibleText(page, 100) + "\". Check again with: " + checkCommand(options.idSite) +
                              "; if that is the page's own text, use --force.");
   }
   tool.data().accept(options.idSite, page, AcceptAs::baseline);
@@ -207,12 +204,13 @@ int baseline(Tool& tool, const BaselineOptions& options) {
 
 int diff(Tool& tool, const DiffOptions& options) {
   requireListed(tool, options.idSite);
-  const std::string id = std::to_string(options.idSite);
-  const std::string before = tool.data().getContentCompare(options.idSite);
-  const std::string after = tool.data().getContentRuntime(options.idSite);
-  if (tool.data().toSettle(options.idSite).state == ToSettle::State::never) {
-    throw std::runtime_error("Site " + id + " has no latest page yet. Fetch it with: tarnwickctl check " + id);
+  using State = ToSettle::State;
+  const ToSettle found = tool.data().toSettle(options.idSite);
+  if (found.state == State::never || found.state == State::notKept) {
+    throw std::runtime_error(nothingToSettle(options.idSite, found));
   }
+  const std::string& before = found.baseline;
+  const std::string& after = found.page;
   const RuleSet rules = tool.data().rulesOf(options.idSite);
   const bool same = before == after || (!rules.empty() && judgePage(before, after, rules).same);
   const PagesOfSite pages{options.idSite, before, after, rules};

@@ -88,6 +88,17 @@ TEST_F(SettlingVerbs, AnEmptyPageIsShownAndKnownAndNoBaseline) {
   EXPECT_EQ(runJson({"sites", "known", "--json"}).size(), 1U);
 }
 
+TEST_F(SettlingVerbs, APageThatWasNotKeptIsNeitherComparedNorTaken) {
+  changed("/a", "a page", "another");
+  folder.execute("update sites set content_runtime = 'The page was not kept: there is too little room on the disk.'");
+  for (const std::vector<std::string>& verb :
+       {std::vector<std::string>{"diff", "1"}, {"baseline", "1", "accept", "--force"}, {"accept", "1", "--yes"}}) {
+    EXPECT_EQ(run(verb), exit_status::failed);
+    EXPECT_THAT(err, HasSubstr("The latest page of site 1 was not kept")) << verb.front();
+  }
+  EXPECT_EQ(column(1, "content_compare"), "a page");
+}
+
 TEST_F(SettlingVerbs, AcceptNamesWhatHasNothingToAccept) {
   addPage("/a", "alpha");
   EXPECT_EQ(run({"accept", "1", "--yes"}), exit_status::failed);
